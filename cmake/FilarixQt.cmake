@@ -1,0 +1,57 @@
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# The one place that knows which toolkit is built against: Qt 5.15 on PCs and in CI, Qt 4.8 on the
+# panels. Gives the targets Filarix::QtGui (Core, Gui, Widgets) and, for tests, Filarix::QtTest.
+
+set(FILARIX_QT "5" CACHE STRING "Major version of the toolkit: 5, or 4 for the panels")
+set_property(CACHE FILARIX_QT PROPERTY STRINGS 5 4)
+
+add_library(filarix_qt_gui INTERFACE)
+add_library(Filarix::QtGui ALIAS filarix_qt_gui)
+
+if(FILARIX_QT EQUAL 5)
+  find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets)
+  target_link_libraries(filarix_qt_gui INTERFACE Qt5::Core Qt5::Gui Qt5::Widgets)
+elseif(FILARIX_QT EQUAL 4)
+  find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)
+  target_link_libraries(filarix_qt_gui INTERFACE Qt4::QtCore Qt4::QtGui)
+else()
+  message(FATAL_ERROR "FILARIX_QT is ${FILARIX_QT}; it must be 5 or 4")
+endif()
+
+# Called by what builds tests only, so that a host needs no QtTest to take the library in.
+function(filarix_find_qt_test)
+  if(TARGET Filarix::QtTest)
+    return()
+  endif()
+  add_library(filarix_qt_test INTERFACE)
+  add_library(Filarix::QtTest ALIAS filarix_qt_test)
+  if(FILARIX_QT EQUAL 5)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+    target_link_libraries(filarix_qt_test INTERFACE Filarix::QtGui Qt5::Test)
+  else()
+    find_package(Qt4 4.8 REQUIRED COMPONENTS QtTest)
+    target_link_libraries(filarix_qt_test INTERFACE Filarix::QtGui Qt4::QtTest)
+  endif()
+endfunction()
+
+# What all our own targets share. Private, so that nothing of it reaches a host: a host may use
+# the keywords and its own warning level.
+function(filarix_target_defaults target)
+  target_compile_features(${target} PUBLIC cxx_std_11)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON
+    AUTOMOC ON
+    AUTORCC ON)
+  # The calls that both toolkits have are deprecated in the newer one.
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_DEPRECATED_WARNINGS)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Woverloaded-virtual)
+  if(FILARIX_WERROR)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+endfunction()

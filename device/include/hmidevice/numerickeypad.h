@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef HMIDEVICE_NUMERICKEYPAD_H
+#define HMIDEVICE_NUMERICKEYPAD_H
+
+#include <QDialog>
+
+class QValidator;
+
+/// The on-screen keypad for numbers.
+///
+/// One modal dialog for the whole process, owned by the device library. Every caller sets it up in
+/// full and runs exec(): 1 means that the operator accepted the text, which then stands in the
+/// property `text` of the object given by setObject(). The keypad keeps neither that object nor
+/// the validator alive, and forgets either when it goes.
+class Q_DECL_EXPORT NumericKeypad : public QDialog
+{
+public:
+    /// The one keypad; never null on a panel.
+    static NumericKeypad *instance();
+
+    /// Names the object whose property `text` receives the accepted text. Not owned.
+    void setObject(QObject *object);
+    /// The check that a text has to pass before it can be accepted; null means none. Not owned.
+    void setValidator(const QValidator *validator);
+    /// The text to edit.
+    void setText(const QString &text);
+    /// The hint that tells the limits, shown while the keypad is open. Empty shows none.
+    void setLimitToolTip(const QString &toolTip);
+    /// Selects one of the keypad's faces; the numbers are the device library's own.
+    void setShowType(int type);
+    /// Selects how the text is edited; the numbers are the device library's own.
+    void setEditMode(int mode);
+    /// Whether the decimal point can be typed.
+    void setDecimalPointEnabled(bool enabled);
+
+protected:
+    explicit NumericKeypad(QWidget *parent = nullptr);
+    ~NumericKeypad() override;
+};
+
+#endif // HMIDEVICE_NUMERICKEYPAD_H
