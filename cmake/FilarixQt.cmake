@@ -41,6 +41,8 @@ endfunction()
 function(filarix_target_defaults target)
   target_compile_features(${target} PUBLIC cxx_std_11)
   set_target_properties(${target} PROPERTIES
+    CXX_STANDARD 11
+    CXX_STANDARD_REQUIRED ON
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON

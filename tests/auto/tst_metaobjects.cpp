@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "dialog.h"
+#include "filarixtest.h"
+
+#include <QMetaMethod>
+#include <QMetaProperty>
+
+/// Hosts and device libraries reach the classes by name through the meta-object, and the order of
+/// its entries fixes their indices: each class's own signals, slots, properties and enums are
+/// pinned here, one row a class.
+class TestMetaObjects : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ownEntriesInOrder_data();
+    void ownEntriesInOrder();
+};
+
+Q_DECLARE_METATYPE(const QMetaObject *)
+
+namespace {
+
+QString describe(const QMetaMethod &method)
+{
+    static const char *const kinds[] = {"method", "signal", "slot", "constructor"};
+    static const char *const accesses[] = {"private", "protected", "public"};
+    QString type = QLatin1String(method.typeName());
+    if (type == QLatin1String("void"))
+        type.clear();
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    const QByteArray signature = method.methodSignature();
+#else
+    const QByteArray signature = method.signature();
+#endif
+    // The toolkits differ in how they report the access of a signal.
+    QString text = method.methodType() == QMetaMethod::Signal
+                       ? QString()
+                       : QLatin1String(accesses[method.access()]) + QLatin1Char(' ');
+    text += QLatin1String(kinds[method.methodType()]) + QLatin1Char(' ');
+    if (!type.isEmpty())
+        text += type + QLatin1Char(' ');
+    return text + QLatin1String(signature);
+}
+
+QStringList ownEntries(const QMetaObject *meta)
+{
+    QStringList entries;
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i)
+        entries << describe(meta->method(i));
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        entries << QString::fromLatin1("property %1 %2%3%4")
+                       .arg(QLatin1String(property.typeName()), QLatin1String(property.name()),
+                            QLatin1String(property.isReadable() ? " read" : ""),
+                            QLatin1String(property.isWritable() ? " write" : ""));
+    }
+    for (int i = meta->enumeratorOffset(); i < meta->enumeratorCount(); ++i)
+        entries << QLatin1String("enum ") + QLatin1String(meta->enumerator(i).name());
+    return entries;
+}
+
+void newClass(const char *base, const QMetaObject &meta, const QStringList &entries)
+{
+    QTest::newRow(meta.className()) << &meta << QByteArray(base) << entries;
+}
+
+} // namespace
+
+void TestMetaObjects::ownEntriesInOrder_data()
+{
+    QTest::addColumn<const QMetaObject *>("meta");
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QStringList>("entries");
+
+    newClass("QDialog", Dialog::staticMetaObject, QStringList());
+}
+
+void TestMetaObjects::ownEntriesInOrder()
+{
+    QFETCH(const QMetaObject *, meta);
+    QFETCH(QByteArray, base);
+    QFETCH(QStringList, entries);
+    QCOMPARE(QByteArray(meta->superClass()->className()), base);
+    QCOMPARE(ownEntries(meta), entries);
+}
+
+FILARIX_TEST_MAIN(TestMetaObjects)
+#include "tst_metaobjects.moc"

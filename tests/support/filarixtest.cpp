@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <cstdio>
+
+QString FilarixTest::home()
+{
+    return QString::fromLocal8Bit(qgetenv("HOME"));
+}
+
+QString FilarixTest::programDir()
+{
+    const QString path = home() + QLatin1String("/cnc");
+    QDir().mkpath(path);
+    return path;
+}
+
+void FilarixTest::writeFile(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qWarning("cannot write %s", qPrintable(path));
+}
+
+QByteArray FilarixTest::readFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    const QByteArray bytes = file.readAll();
+    return bytes.isNull() ? QByteArray("") : bytes;
+}
+
+void FilarixTest::emptyFolder(const QString &path)
+{
+    QDir folder(path);
+    Q_FOREACH (const QFileInfo &entry,
+               folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System
+                                    | QDir::NoDotAndDotDot)) {
+        if (entry.isDir() && !entry.isSymLink()) {
+            emptyFolder(entry.absoluteFilePath());
+            folder.rmdir(entry.fileName());
+        } else {
+            folder.remove(entry.fileName());
+        }
+    }
+}
+
+void FilarixTest::allowTopLevel(QWidget *widget)
+{
+    m_allowed.append(widget);
+}
+
+void FilarixTest::init()
+{
+    emptyFolder(home());
+    StrictMessages::reset();
+}
+
+void FilarixTest::cleanup()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QStringList stray;
+    Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && !m_allowed.contains(widget))
+            stray.append(QLatin1String(widget->metaObject()->className()));
+    }
+    QVERIFY2(stray.isEmpty(),
+             qPrintable(QLatin1String("left on the screen: ") + stray.join(QLatin1String(", "))));
+    const QStringList unexpected = StrictMessages::unexpected();
+    QVERIFY2(unexpected.isEmpty(), qPrintable(QLatin1String("unexpected warnings: ")
+                                              + unexpected.join(QLatin1String(" | "))));
+}
+
+int filarixTestMain(QObject *test, int argc, char **argv)
+{
+    if (qgetenv("FILARIX_SANDBOX").isEmpty()) {
+        std::fprintf(stderr, "This test writes to a home and to fixed paths: run it with ctest, or "
+                             "through tests/support/sandbox.sh.\n");
+        return 98;
+    }
+    StrictMessages::install();
+    return QTest::qExec(test, argc, argv);
+}

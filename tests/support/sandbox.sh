@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# sandbox.sh PROGRAM [ARG ...]
+#
+# Runs a program in mount and process namespaces of its own. It sees a private, empty home, "/tmp",
+# "/mnt/Storage" and "/usr/share/qt/bin"; everything else of the machine is read-only, except the
+# folder named by FILARIX_SANDBOX_WRITABLE, if any. A sandbox that cannot start is a failure.
+set -euo pipefail
+
+if ! command -v bwrap >/dev/null; then
+    echo "sandbox: bwrap (package bubblewrap) is missing" >&2
+    exit 99
+fi
+
+args=(
+    --ro-bind / /
+    --dev /dev
+    --proc /proc
+    --tmpfs /tmp
+    --tmpfs /run
+    --tmpfs /mnt
+    --dir /mnt/Storage
+    --ro-bind /usr/share /run/usr-share
+    # A machine need not have /usr/share/qt, and we may not make it: so the whole folder is
+    # replaced, each entry of the real one by a link.
+    --tmpfs /usr/share
+)
+for entry in /usr/share/*; do
+    name=${entry##*/}
+    [ "$name" = qt ] || args+=(--symlink "/run/usr-share/$name" "/usr/share/$name")
+done
+args+=(
+    --dir /usr/share/qt/bin
+    --dir /tmp/home
+    --dir /tmp/runtime
+    --perms 1777 --dir /tmp/.X11-unix
+)
+# The build tree may lie below a folder that was just replaced.
+program=$(readlink -f "$1")
+shift
+case "$program" in
+    /tmp/* | /mnt/* | /run/*) args+=(--ro-bind "$(dirname "$program")" "$(dirname "$program")") ;;
+esac
+if [ -n "${FILARIX_SANDBOX_WRITABLE:-}" ]; then
+    args+=(--bind "$FILARIX_SANDBOX_WRITABLE" "$FILARIX_SANDBOX_WRITABLE")
+fi
+
+exec bwrap "${args[@]}" \
+    --unshare-pid --unshare-ipc --unshare-net --die-with-parent --new-session \
+    --setenv HOME /tmp/home \
+    --setenv XDG_RUNTIME_DIR /tmp/runtime \
+    --unsetenv XDG_CONFIG_HOME --unsetenv XDG_CONFIG_DIRS \
+    --unsetenv XDG_DATA_HOME --unsetenv XDG_CACHE_HOME \
+    --unsetenv DISPLAY --unsetenv WAYLAND_DISPLAY --unsetenv QT_STYLE_OVERRIDE \
+    --unsetenv QT_PLUGIN_PATH --unsetenv QT_QPA_PLATFORMTHEME \
+    --setenv QT_QPA_PLATFORM offscreen \
+    --setenv LC_ALL "${FILARIX_TEST_LC_ALL:-C.UTF-8}" \
+    --setenv FILARIX_SANDBOX 1 \
+    --chdir /tmp \
+    "$program" "$@"

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTCOMPAT_H
+#define TESTCOMPAT_H
+
+// What QtTest of Qt 4.8 lacks of Qt 5.15's.
+
+#include <QPixmap>
+#include <QTest>
+#include <QWidget>
+
+#ifndef QTRY_VERIFY_WITH_TIMEOUT
+#define QTRY_VERIFY_WITH_TIMEOUT(expression, timeout)                                              \
+    do {                                                                                           \
+        for (int waited = 0; !(expression) && waited < (timeout); waited += 10)                    \
+            QTest::qWait(10);                                                                      \
+        QVERIFY(expression);                                                                       \
+    } while (0)
+#define QTRY_VERIFY(expression) QTRY_VERIFY_WITH_TIMEOUT(expression, 5000)
+#endif
+
+#ifndef QTRY_COMPARE_WITH_TIMEOUT
+#define QTRY_COMPARE_WITH_TIMEOUT(expression, expected, timeout)                                   \
+    do {                                                                                           \
+        for (int waited = 0; !((expression) == (expected)) && waited < (timeout); waited += 10)    \
+            QTest::qWait(10);                                                                      \
+        QCOMPARE(expression, expected);                                                            \
+    } while (0)
+#define QTRY_COMPARE(expression, expected) QTRY_COMPARE_WITH_TIMEOUT(expression, expected, 5000)
+#endif
+
+namespace TestCompat {
+
+inline QPixmap grab(QWidget *widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return widget->grab();
+#else
+    return QPixmap::grabWidget(widget);
+#endif
+}
+
+inline bool waitForExposed(QWidget *widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QTest::qWaitForWindowExposed(widget);
+#else
+    return QTest::qWaitForWindowShown(widget);
+#endif
+}
+
+} // namespace TestCompat
+
+#endif // TESTCOMPAT_H
