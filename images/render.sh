@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# Renders the icons from src/*.svg into the PNGs that robot.qrc compiles in.
+# The PNGs are kept in the tree so that a build needs no SVG renderer; run this
+# after editing a drawing.
+#
+#   render.sh          renders every icon
+#   render.sh --check  changes nothing; fails if a PNG is missing, stale or without a drawing
+#
+# Needs rsvg-convert (Debian: librsvg2-bin).
+set -euo pipefail
+
+# Four times the tool bars' 36 px, so that 36 and 72 divide it without a remainder.
+readonly size=144
+
+usage() {
+    echo "usage: ${0##*/} [--check]" >&2
+    exit 2
+}
+
+check=false
+case $# in
+0) ;;
+1) [[ $1 == --check ]] || usage
+    check=true ;;
+*) usage ;;
+esac
+
+if ! command -v rsvg-convert >/dev/null; then
+    echo "${0##*/}: rsvg-convert not found; install librsvg2-bin" >&2
+    exit 1
+fi
+
+cd "$(dirname "${BASH_SOURCE[0]}")"
+shopt -s nullglob
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+for drawing in src/*.svg; do
+    name=$(basename "$drawing" .svg)
+    rsvg-convert --width=$size --height=$size --output="$scratch/$name.png" "$drawing"
+done
+
+if ! $check; then
+    cp "$scratch"/*.png .
+    exit 0
+fi
+
+failures=0
+for rendered in "$scratch"/*.png; do
+    name=${rendered##*/}
+    if ! cmp --silent "$rendered" "$name"; then
+        echo "images/$name is missing or out of date; run images/render.sh" >&2
+        failures=$((failures + 1))
+    fi
+done
+for image in *.png; do
+    if [[ ! -e $scratch/$image ]]; then
+        echo "images/$image has no drawing in images/src" >&2
+        failures=$((failures + 1))
+    fi
+done
+((failures == 0))
