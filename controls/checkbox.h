@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef CHECKBOX_H
+#define CHECKBOX_H
+
+#include "filarixglobal.h"
+
+#include <QCheckBox>
+
+/// A check box for panels with few keys: Return and Enter toggle it as Space does, on release, and
+/// the arrow keys leave it alone and the focus where it is.
+///
+/// Otherwise a QCheckBox, owned by its parent.
+///
+///     CheckBox *coolant = new CheckBox(tr("Coolant"), this);
+///     connect(coolant, SIGNAL(toggled(bool)), this, SLOT(setCoolant(bool)));
+class FILARIX_EXPORT CheckBox : public QCheckBox
+{
+    Q_OBJECT
+
+public:
+    explicit CheckBox(QWidget *parent);
+    CheckBox(const QString &text, QWidget *parent);
+
+protected:
+    /// A held Return toggles once: its repeats are swallowed, here and on release.
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+};
+
+#endif // CHECKBOX_H

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef GROUPBOX_H
+#define GROUPBOX_H
+
+#include "filarixglobal.h"
+
+#include <QGroupBox>
+
+/// A group box for panels with few keys: Return and Enter toggle a checkable one as Space does.
+///
+/// Otherwise a QGroupBox, owned by its parent.
+///
+///     GroupBox *options = new GroupBox(tr("Options"), this);
+///     options->setCheckable(true);
+///     connect(options, SIGNAL(toggled(bool)), this, SLOT(useOptions(bool)));
+class FILARIX_EXPORT GroupBox : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit GroupBox(QWidget *parent);
+    GroupBox(const QString &title, QWidget *parent);
+
+protected:
+    /// Unlike on the buttons, each repeat of a held Return counts as one more Space.
+    bool event(QEvent *event) override;
+};
+
+#endif // GROUPBOX_H
