@@ -1,0 +1,419 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "wgcodeediter.h"
+
+#include "waqp.h"
+#include "wcopydialog.h"
+#include "wfinddialog.h"
+#include "whighlighter.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPainter>
+#include <QProgressDialog>
+#include <QTextBlock>
+#include <QTime>
+#include <QtDebug>
+
+namespace {
+
+/// From this number of parts on, a program goes in piece by piece.
+const int chunkThreshold = 500;
+/// The number of pieces, whatever the size of the program.
+const int chunkCount = 50;
+/// Pixels of the gutter beside the digits.
+const int gutterMargin = 3;
+
+/// The position just behind the next \a count line ends from \a from on; text.size() + 1 when the
+/// text has no more of them, as if one stood at its end.
+int behindLines(const QString &text, int from, int count)
+{
+    int position = from;
+    for (int i = 0; i < count; ++i) {
+        const int lineEnd = text.indexOf(QLatin1Char('\n'), position);
+        if (lineEnd < 0)
+            return text.size() + 1;
+        position = lineEnd + 1;
+    }
+    return position;
+}
+
+} // namespace
+
+WGCodeEditer::WGCodeEditer(QWidget *parent) : QPlainTextEdit(parent), findDialog(nullptr)
+{
+    setFont(WAQP::setFont(QLatin1String("Arial"), 15, true));
+
+    // The keypads and dialogs take the focus; the selection has to stay visible meanwhile.
+    QPalette colours = palette();
+    colours.setBrush(QPalette::Inactive, QPalette::Highlight, QBrush(Qt::cyan, Qt::SolidPattern));
+    setPalette(colours);
+
+    lineNumberArea = new WGLineNubmerArea(this);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setWordWrapMode(QTextOption::NoWrap);
+    highlighter = new WHighlighter(document());
+
+    connect(this, SIGNAL(blockCountChanged(int)), SLOT(updateLineNumberAreaWidth(int)));
+    connect(this, SIGNAL(updateRequest(QRect, int)), SLOT(updateLineNumberArea(QRect, int)));
+    connect(this, SIGNAL(cursorPositionChanged()), SLOT(highlightCurrentLine()));
+
+    updateLineNumberAreaWidth(0);
+    highlightCurrentLine();
+
+    currentLine = 0;
+    findDialog = nullptr;
+    isFound = false;
+    setStyleSheet(QLatin1String("QScrollBar:horizontal{height:32px;}:vertical{width:32px;}"));
+}
+
+WGCodeEditer::~WGCodeEditer()
+{
+    delete findDialog;
+    findDialog = nullptr;
+}
+
+void WGCodeEditer::insertLine(const QString &text)
+{
+    setFocus(Qt::OtherFocusReason);
+    QTextCursor cursor = textCursor();
+    cursor.select(QTextCursor::LineUnderCursor);
+    if (!cursor.selectedText().isEmpty()) {
+        cursor.movePosition(QTextCursor::EndOfLine);
+        setTextCursor(cursor);
+        cursor.insertBlock(QTextBlockFormat());
+    }
+    cursor.insertText(text);
+}
+
+void WGCodeEditer::insertLine()
+{
+    setFocus(Qt::OtherFocusReason);
+    QTextCursor cursor = textCursor();
+    cursor.movePosition(QTextCursor::EndOfLine);
+    setTextCursor(cursor);
+    cursor.insertBlock(QTextBlockFormat());
+}
+
+void WGCodeEditer::insertBefore()
+{
+    setFocus(Qt::OtherFocusReason);
+    QTextCursor cursor = textCursor();
+    cursor.movePosition(QTextCursor::StartOfLine);
+    setTextCursor(cursor);
+    cursor.insertBlock(QTextBlockFormat());
+    cursor.movePosition(QTextCursor::Up);
+    setTextCursor(cursor);
+}
+
+void WGCodeEditer::deleteLine()
+{
+    setFocus(Qt::OtherFocusReason);
+    QTextCursor cursor = textCursor();
+    cursor.select(QTextCursor::LineUnderCursor);
+    cursor.removeSelectedText();
+    cursor.deleteChar();
+    setTextCursor(cursor);
+}
+
+void WGCodeEditer::moveEvent(GCODE::MoveOperation op)
+{
+    QTextCursor cursor = textCursor();
+    if (op == GCODE::MoveUp)
+        cursor.movePosition(QTextCursor::Up);
+    else if (op == GCODE::MoveDown)
+        cursor.movePosition(QTextCursor::Down);
+    setTextCursor(cursor);
+}
+
+QString WGCodeEditer::curLineText()
+{
+    QTextCursor cursor = textCursor();
+    cursor.select(QTextCursor::LineUnderCursor);
+    return cursor.selectedText();
+}
+
+QString WGCodeEditer::getLineText(int line)
+{
+    if (line < 0)
+        return QLatin1String("");
+    return document()->findBlockByLineNumber(line).text();
+}
+
+int WGCodeEditer::currentLineNumber()
+{
+    currentLine = textCursor().blockNumber();
+    return currentLine;
+}
+
+void WGCodeEditer::updateGCode(QString text)
+{
+    QTextCursor cursor = textCursor();
+    cursor.select(QTextCursor::LineUnderCursor);
+    cursor.removeSelectedText();
+    if (blockCount() == cursor.blockNumber() + 1)
+        text.append(QLatin1Char('\n'));
+    cursor.insertText(text);
+}
+
+int WGCodeEditer::getCurRowNumber() const
+{
+    return textCursor().blockNumber() + 1;
+}
+
+int WGCodeEditer::getCurColNumber() const
+{
+    const QTextCursor cursor = textCursor();
+    return cursor.position() - cursor.block().position() + 1;
+}
+
+void WGCodeEditer::readGCode(QString text)
+{
+    QTime time;
+    time.start();
+
+    const int total = text.count(QLatin1Char('\n')) + 1;
+    if (total < chunkThreshold) {
+        setPlainText(text);
+        qDebug() << "Elapsed:" << time.elapsed();
+        return;
+    }
+
+    QProgressDialog progress(QLatin1String("Load Files:"), QLatin1String("Abort check"), 0, total);
+    int position = 0;
+    int from = 0;
+    Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
+        // Only one piece at a time is cut into lines: a list of all lines would take as much memory
+        // again as the document.
+        const int behind = behindLines(text, from, n);
+        const QString result =
+            preproccess(text.mid(from, behind - 1 - from).split(QLatin1Char('\n')));
+        from = behind;
+        if (!result.isEmpty())
+            appendPlainText(result);
+        position += n;
+        progress.setValue(position);
+        QCoreApplication::processEvents();
+        if (progress.wasCanceled())
+            break;
+    }
+    qDebug() << "Elapsed:" << time.elapsed();
+}
+
+QString WGCodeEditer::preproccess(QStringList lines)
+{
+    QString result;
+    Q_FOREACH (const QString &line, lines) {
+        const int comment = line.indexOf(QLatin1Char(';'));
+        const int length = comment < 0 ? line.size() : comment;
+        if (length == 0)
+            continue;
+        result.append(line.constData(), length);
+        result.append(QLatin1Char('\n'));
+    }
+    result.chop(1);
+    return result;
+}
+
+void WGCodeEditer::addErrorCode(int line, QString code)
+{
+    QList<int> columns;
+    for (int i = 0; i < code.size(); ++i) {
+        if (code.at(i) != QLatin1Char(' '))
+            columns.append(i);
+    }
+    if (columns.isEmpty())
+        return;
+    highlighter->errorLines.insert(line, columns);
+}
+
+void WGCodeEditer::highlightErrorCode()
+{
+    if (!highlighter->errorLines.isEmpty())
+        highlighter->rehighlight();
+}
+
+int WGCodeEditer::lineNumberAreaWidth()
+{
+    int digits = 1;
+    for (int count = qMax(1, blockCount()); count >= 10; count /= 10)
+        ++digits;
+    return fontMetrics().width(QLatin1Char('9')) * digits + gutterMargin;
+}
+
+void WGCodeEditer::lineNumberAreaPaintEvent(QPaintEvent *event)
+{
+    QPainter painter(lineNumberArea);
+    painter.fillRect(event->rect(), Qt::lightGray);
+    painter.setPen(Qt::black);
+
+    QTextBlock block = firstVisibleBlock();
+    int number = block.blockNumber() + 1;
+    int top = int(blockBoundingGeometry(block).top() + contentOffset().y());
+    int bottom = top + int(blockBoundingGeometry(block).height());
+    while (block.isValid() && top <= event->rect().bottom()) {
+        if (bottom >= event->rect().top()) {
+            painter.drawText(0, top, lineNumberArea->width(), fontMetrics().height(),
+                             Qt::AlignRight, QString::number(number));
+        }
+        block = block.next();
+        top = bottom;
+        bottom = top + int(blockBoundingGeometry(block).height());
+        ++number;
+    }
+}
+
+void WGCodeEditer::updateLineNumberAreaWidth(int)
+{
+    setViewportMargins(lineNumberAreaWidth(), 0, 0, 0);
+}
+
+void WGCodeEditer::highlightCurrentLine()
+{
+    QList<QTextEdit::ExtraSelection> marks;
+    if (!isReadOnly()) {
+        QTextEdit::ExtraSelection mark;
+        mark.format.setBackground(palette().alternateBase());
+        mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+        mark.cursor = textCursor();
+        mark.cursor.clearSelection();
+        marks.append(mark);
+    }
+    setExtraSelections(marks);
+}
+
+void WGCodeEditer::updateLineNumberArea(QRect rect, int dy)
+{
+    if (dy != 0)
+        lineNumberArea->scroll(0, dy);
+    else
+        lineNumberArea->update(0, rect.y(), lineNumberArea->width(), rect.height());
+
+    if (rect.contains(viewport()->rect()))
+        updateLineNumberAreaWidth(0);
+}
+
+void WGCodeEditer::gotoLine(int lineNum)
+{
+    setFocus(Qt::OtherFocusReason);
+    QTextCursor cursor = textCursor();
+    // An invalid block stands at position 0, so a row that does not exist leads to the start.
+    cursor.setPosition(document()->findBlockByNumber(lineNum - 1).position());
+    setTextCursor(cursor);
+
+    QTextEdit::ExtraSelection mark;
+    mark.format.setForeground(QBrush(Qt::red, Qt::SolidPattern));
+    mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+    mark.cursor = textCursor();
+    mark.cursor.clearSelection();
+    setExtraSelections(QList<QTextEdit::ExtraSelection>() << mark);
+}
+
+void WGCodeEditer::copy()
+{
+    WCopyDialog dialog(nullptr);
+    const int row = getCurRowNumber();
+    dialog.setCurrentLine(row);
+    dialog.setRange(1, 1 - row + document()->lineCount());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const int count = dialog.count();
+    if (count < 1)
+        return;
+
+    const bool toEnd = row - 1 + count >= blockCount();
+    QTextCursor cursor = textCursor();
+    if (count == 1) {
+        cursor.select(QTextCursor::LineUnderCursor);
+    } else {
+        cursor.movePosition(QTextCursor::StartOfLine);
+        cursor.movePosition(QTextCursor::Down, QTextCursor::KeepAnchor, count);
+        if (toEnd)
+            cursor.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
+    }
+    setTextCursor(cursor);
+    copiedText = cursor.selectedText();
+    if (toEnd)
+        copiedText.append(QLatin1Char('\n'));
+}
+
+void WGCodeEditer::paste()
+{
+    textCursor().insertText(copiedText);
+}
+
+void WGCodeEditer::findAndReplace()
+{
+    if (!findDialog) {
+        findDialog = new WFindDialog(nullptr);
+        connect(findDialog, SIGNAL(findNext(QString, Qt::CaseSensitivity)),
+                SLOT(findNext(QString, Qt::CaseSensitivity)));
+        connect(findDialog, SIGNAL(findPrevious(QString, Qt::CaseSensitivity)),
+                SLOT(findPrevious(QString, Qt::CaseSensitivity)));
+        connect(findDialog, SIGNAL(replaceTxt(QString)), SLOT(replaceTxt(QString)));
+    }
+    findDialog->setVisible(true);
+}
+
+void WGCodeEditer::findNext(const QString &str, Qt::CaseSensitivity cs)
+{
+    search(str, QTextDocument::FindFlags(), cs);
+}
+
+void WGCodeEditer::findPrevious(const QString &str, Qt::CaseSensitivity cs)
+{
+    search(str, QTextDocument::FindBackward, cs);
+}
+
+void WGCodeEditer::replaceTxt(const QString &str)
+{
+    if (isFound)
+        insertPlainText(str);
+    isFound = false;
+}
+
+void WGCodeEditer::mousePressEvent(QMouseEvent *event)
+{
+    setTextCursor(cursorForPosition(event->pos()));
+    highlightCurrentLine();
+    // The base class would begin a selection; a thumb only points at a line.
+    event->ignore();
+}
+
+void WGCodeEditer::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->ignore();
+}
+
+void WGCodeEditer::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    const QRect area = contentsRect();
+    lineNumberArea->setGeometry(area.left(), area.top(), lineNumberAreaWidth(), area.height());
+}
+
+void WGCodeEditer::search(const QString &str, QTextDocument::FindFlags flags,
+                          Qt::CaseSensitivity cs)
+{
+    if (cs == Qt::CaseSensitive)
+        flags |= QTextDocument::FindCaseSensitively;
+    isFound = find(str, flags);
+    if (!isFound) {
+        QMessageBox::information(findDialog, QLatin1String("Find"),
+                                 QLatin1String("Find finished!\n Can't find any information!"),
+                                 QMessageBox::Ok);
+    }
+}
+
+WGLineNubmerArea::WGLineNubmerArea(WGCodeEditer *editor) : QWidget(editor), codeEditor(editor) {}
+
+QSize WGLineNubmerArea::sizeHint() const
+{
+    return QSize(codeEditor->lineNumberAreaWidth(), 0);
+}
+
+void WGLineNubmerArea::paintEvent(QPaintEvent *event)
+{
+    codeEditor->lineNumberAreaPaintEvent(event);
+}

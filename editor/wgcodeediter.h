@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef WGCODEEDITER_H
+#define WGCODEEDITER_H
+
+#include "filarixglobal.h"
+
+#include <QPlainTextEdit>
+#include <QString>
+#include <QStringList>
+
+class WFindDialog;
+class WHighlighter;
+
+namespace GCODE {
+
+/// Where WGCodeEditer::moveEvent() takes the cursor.
+enum MoveOperation { MoveUp = 0, MoveDown = 1 };
+
+} // namespace GCODE
+
+/// The text pane for one G-code program: line numbers, a marked current line, syntax colours, and
+/// the commands that work on whole lines.
+///
+/// It is made for a touch panel: a press places the cursor and selects nothing. It has a copy
+/// buffer of its own and leaves the system clipboard alone. The parent widget owns it; it owns its
+/// gutter, its highlighter (through the document) and its find dialog.
+///
+///     WGCodeEditer *editor = new WGCodeEditer(parent);
+///     editor->readGCode(text);
+///     editor->gotoLine(12);
+///
+/// Numbering: rows and columns (getCurRowNumber(), getCurColNumber(), gotoLine(), the gutter) count
+/// from 1; currentLineNumber() counts blocks from 0, getLineText() text lines from 0.
+class FILARIX_EXPORT WGCodeEditer : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit WGCodeEditer(QWidget *parent);
+    ~WGCodeEditer() override;
+
+    /// Puts \a text below the cursor as a line of its own, or into the current line if that is
+    /// empty.
+    void insertLine(const QString &text);
+    /// Adds an empty line below the current one.
+    void insertLine();
+    /// Adds an empty line above the current one and puts the cursor there.
+    void insertBefore();
+    /// Removes the current line; the next one moves up. An empty last line stays.
+    void deleteLine();
+    /// Moves the cursor one line; a value that is neither up nor down moves nothing. It has nothing
+    /// to do with the handler of the same name, which stays the base class's.
+    void moveEvent(GCODE::MoveOperation op);
+    /// The text of the line under the cursor.
+    QString curLineText();
+    /// The text of the text line \a line, from 0; empty for a number that no line has.
+    QString getLineText(int line);
+    /// The number of the cursor's block, from 0.
+    int currentLineNumber();
+    /// Replaces the current line by \a text. On the last line a new empty line follows it, so that
+    /// there is always one to go on with.
+    void updateGCode(QString text);
+    /// Row and column of the cursor, both from 1; column 1 is before the first character.
+    int getCurRowNumber() const;
+    int getCurColNumber() const;
+
+    /// Puts a program's text into the editor. From 500 lines on it goes in as 50 pieces without
+    /// comments and empty lines, under a progress dialog that can abort; the pieces are appended,
+    /// so a caller clears the document first. Below that the text goes in unchanged.
+    ///
+    /// Events of all kinds are served between the pieces, and an abort keeps what is in by then.
+    /// The editor must live until the call returns: a host that wants it gone uses deleteLater().
+    void readGCode(QString text);
+    /// The lines without what follows the first ";", without empty lines and without the lines that
+    /// this makes empty, joined by line ends, none after the last. Blanks stay.
+    QString preproccess(QStringList lines);
+
+    /// Records a mark for the block \a line, from 0: the columns of \a code that are not blank. A
+    /// code of blanks records nothing; a second mark on a line replaces the first. Marks are kept
+    /// until the editor goes, whatever happens to the text.
+    void addErrorCode(int line, QString code);
+    /// Colours the whole document anew if there is any mark. The marks themselves are recorded, not
+    /// drawn.
+    void highlightErrorCode();
+
+    /// Width of the gutter in pixels.
+    int lineNumberAreaWidth();
+    /// Draws the gutter; called by it.
+    void lineNumberAreaPaintEvent(QPaintEvent *event);
+
+public Q_SLOTS:
+    void updateLineNumberAreaWidth(int newBlockCount);
+    void highlightCurrentLine();
+    void updateLineNumberArea(QRect rect, int dy);
+    /// Jumps to the row \a lineNum, from 1, and shows it in red until the cursor moves. A row that
+    /// does not exist leads to the first line.
+    void gotoLine(int lineNum);
+    /// Asks for a number of lines and takes as many, from the current one on, into the editor's own
+    /// buffer. Hides the base class's slot, which uses the clipboard.
+    void copy();
+    /// Inserts the editor's own buffer at the cursor. Hides the base class's slot.
+    void paste();
+    /// Shows the find dialog, which is made at its first use and stays.
+    void findAndReplace();
+    /// Selects the next or previous match, without wrapping around; a message tells when there is
+    /// none.
+    void findNext(const QString &str, Qt::CaseSensitivity cs);
+    void findPrevious(const QString &str, Qt::CaseSensitivity cs);
+    /// Replaces the match of the search just done; without one it does nothing.
+    void replaceTxt(const QString &str);
+
+protected:
+    using QPlainTextEdit::moveEvent;
+
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void search(const QString &str, QTextDocument::FindFlags flags, Qt::CaseSensitivity cs);
+
+    QWidget *lineNumberArea;
+    WHighlighter *highlighter;
+    int currentLine;
+    WFindDialog *findDialog;
+    bool isFound;
+    QString copiedText;
+};
+
+/// The gutter of line numbers to the left of a WGCodeEditer, its child.
+class WGLineNubmerArea : public QWidget
+{
+public:
+    explicit WGLineNubmerArea(WGCodeEditer *editor);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    WGCodeEditer *codeEditor;
+};
+
+#endif // WGCODEEDITER_H
