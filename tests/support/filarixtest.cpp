@@ -63,6 +63,7 @@ void FilarixTest::allowTopLevel(QWidget *widget)
 void FilarixTest::init()
 {
     emptyFolder(home());
+    StrictMessages::install();
     StrictMessages::reset();
 }
 
@@ -88,6 +89,5 @@ int filarixTestMain(QObject *test, int argc, char **argv)
                              "through tests/support/sandbox.sh.\n");
         return 98;
     }
-    StrictMessages::install();
     return QTest::qExec(test, argc, argv);
 }

@@ -5,8 +5,6 @@
 
 #include <QtGlobal>
 
-#include <cstdio>
-
 namespace {
 
 struct Record
@@ -32,7 +30,6 @@ bool isNoiseOfThePlatform(const QString &text)
 
 void take(QtMsgType type, const QString &text)
 {
-    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
     if (type == QtDebugMsg) {
         record().debug.append(text);
         return;
@@ -52,15 +49,24 @@ void take(QtMsgType type, const QString &text)
     record().unexpected.append(text);
 }
 
+// QtTest's own, which prints the message.
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-void handler(QtMsgType type, const QMessageLogContext &, const QString &text)
+QtMessageHandler previousHandler = nullptr;
+
+void handler(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     take(type, text);
+    if (previousHandler)
+        previousHandler(type, context, text);
 }
 #else
+QtMsgHandler previousHandler = nullptr;
+
 void handler(QtMsgType type, const char *text)
 {
     take(type, QString::fromLocal8Bit(text));
+    if (previousHandler)
+        previousHandler(type, text);
 }
 #endif
 
@@ -69,10 +75,12 @@ void handler(QtMsgType type, const char *text)
 void StrictMessages::install()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-    qInstallMessageHandler(handler);
+    const QtMessageHandler replaced = qInstallMessageHandler(handler);
 #else
-    qInstallMsgHandler(handler);
+    const QtMsgHandler replaced = qInstallMsgHandler(handler);
 #endif
+    if (replaced != handler)
+        previousHandler = replaced;
 }
 
 void StrictMessages::expect(const QString &text)

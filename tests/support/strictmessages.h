@@ -11,7 +11,8 @@
 /// only there. FilarixTest::cleanup() fails the test that caused one it did not expect.
 namespace StrictMessages {
 
-/// Installs the handler; called once, by main(). Each message is still printed.
+/// Installs the handler on top of QtTest's, which still prints each message. QtTest installs its
+/// own when a test program starts, so this is called before each test; twice does no harm.
 void install();
 
 /// A warning that holds \a text is expected in the current test, any number of times.
