@@ -3,6 +3,9 @@
 
 #include "dialog.h"
 #include "filarixtest.h"
+#include "hmidirmodel.h"
+#include "importmanage.h"
+#include "messagebox.h"
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -76,6 +79,15 @@ void TestMetaObjects::ownEntriesInOrder_data()
     QTest::addColumn<QStringList>("entries");
 
     newClass("QDialog", Dialog::staticMetaObject, QStringList());
+    newClass("QDirModel", HmiDirModel::staticMetaObject, QStringList());
+    newClass("QDialog", ImportManage::staticMetaObject,
+             QStringList() << "public slot slot_copyFromHmiToUsb()"
+                           << "public slot slot_copyFromUsbToHmi()"
+                           << "public slot slot_deleteFromHmi()"
+                           << "public slot slot_deleteFromUsb()"
+                           << "public slot slot_quit()"
+                           << "public slot slot_checkUSB()");
+    newClass("QMessageBox", MessageBox::staticMetaObject, QStringList());
 }
 
 void TestMetaObjects::ownEntriesInOrder()
