@@ -7,6 +7,9 @@
 # Runs a program in mount and process namespaces of its own. It sees a private, empty home, "/tmp",
 # "/mnt/Storage" and "/usr/share/qt/bin"; everything else of the machine is read-only, except the
 # folder named by FILARIX_SANDBOX_WRITABLE, if any. A sandbox that cannot start is a failure.
+#
+# "/mnt/Storage" is a folder that the program may even remove. With FILARIX_SANDBOX_STICK_SIZE it is
+# a file system of that many bytes, with FILARIX_SANDBOX_STICK a read-only view of that folder.
 set -euo pipefail
 
 if ! command -v bwrap >/dev/null; then
@@ -43,11 +46,17 @@ shift
 case "$program" in
     /tmp/* | /mnt/* | /run/*) args+=(--ro-bind "$(dirname "$program")" "$(dirname "$program")") ;;
 esac
+if [ -n "${FILARIX_SANDBOX_STICK_SIZE:-}" ]; then
+    args+=(--size "$FILARIX_SANDBOX_STICK_SIZE" --tmpfs /mnt/Storage)
+elif [ -n "${FILARIX_SANDBOX_STICK:-}" ]; then
+    args+=(--ro-bind "$FILARIX_SANDBOX_STICK" /mnt/Storage)
+fi
 if [ -n "${FILARIX_SANDBOX_WRITABLE:-}" ]; then
     args+=(--bind "$FILARIX_SANDBOX_WRITABLE" "$FILARIX_SANDBOX_WRITABLE")
 fi
 
-exec bwrap "${args[@]}" \
+# Without capabilities root meets the same permissions as anybody.
+exec bwrap "${args[@]}" --cap-drop ALL \
     --unshare-pid --unshare-ipc --unshare-net --die-with-parent --new-session \
     --setenv HOME /tmp/home \
     --setenv XDG_RUNTIME_DIR /tmp/runtime \
