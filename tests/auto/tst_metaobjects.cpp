@@ -1,11 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "checkbox.h"
+#include "combobox.h"
 #include "dialog.h"
+#include "doublespinbox.h"
 #include "filarixtest.h"
+#include "groupbox.h"
 #include "hmidirmodel.h"
 #include "importmanage.h"
+#include "lineedit.h"
 #include "messagebox.h"
+#include "pushbutton.h"
+#include "scrollbar.h"
+#include "spinbox.h"
+#include "wcopydialog.h"
+#include "wfinddialog.h"
+#include "whighlighter.h"
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -88,6 +99,28 @@ void TestMetaObjects::ownEntriesInOrder_data()
                            << "public slot slot_quit()"
                            << "public slot slot_checkUSB()");
     newClass("QMessageBox", MessageBox::staticMetaObject, QStringList());
+
+    newClass("QCheckBox", CheckBox::staticMetaObject, QStringList());
+    newClass("QComboBox", ComboBox::staticMetaObject, QStringList() << "signal showPop()");
+    newClass("QDoubleSpinBox", DoubleSpinBox::staticMetaObject, QStringList());
+    newClass("QGroupBox", GroupBox::staticMetaObject, QStringList());
+    newClass("QLineEdit", LineEdit::staticMetaObject, QStringList());
+    newClass("QPushButton", PushButton::staticMetaObject, QStringList());
+    newClass("QScrollBar", ScrollBar::staticMetaObject, QStringList());
+    newClass("QSpinBox", SpinBox::staticMetaObject, QStringList());
+
+    newClass("Dialog", WCopyDialog::staticMetaObject,
+             QStringList() << "public slot slot_minus()"
+                           << "public slot slot_plus()"
+                           << "property QString text read write");
+    newClass("QDialog", WFindDialog::staticMetaObject,
+             QStringList() << "signal findNext(QString,Qt::CaseSensitivity)"
+                           << "signal findPrevious(QString,Qt::CaseSensitivity)"
+                           << "signal replaceTxt(QString)"
+                           << "private slot findClicked()"
+                           << "private slot enableFindButton(QString)"
+                           << "private slot replaceClicked()");
+    newClass("QSyntaxHighlighter", WHighlighter::staticMetaObject, QStringList());
 }
 
 void TestMetaObjects::ownEntriesInOrder()
