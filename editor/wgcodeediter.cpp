@@ -25,6 +25,37 @@ const int chunkCount = 50;
 /// Pixels of the gutter beside the digits.
 const int gutterMargin = 3;
 
+/// Milliseconds between two paintings of the editor while a program goes in.
+const int paintInterval = 100;
+
+/// Spares the painting of a widget that changes many times a second; the widget's own state of
+/// updatesEnabled comes back on every way out.
+class PaintThrottle
+{
+public:
+    explicit PaintThrottle(QWidget *widget)
+        : m_widget(widget), m_wasEnabled(widget->updatesEnabled())
+    {
+        m_time.start();
+        m_widget->setUpdatesEnabled(false);
+    }
+    ~PaintThrottle() { m_widget->setUpdatesEnabled(m_wasEnabled); }
+
+    /// Called before events are served: lets the widget paint if the last time is long ago.
+    void breathe()
+    {
+        const bool due = m_wasEnabled && m_time.elapsed() >= paintInterval;
+        m_widget->setUpdatesEnabled(due);
+        if (due)
+            m_time.restart();
+    }
+
+private:
+    QWidget *m_widget;
+    bool m_wasEnabled;
+    QTime m_time;
+};
+
 /// The position just behind the next \a count line ends from \a from on; text.size() + 1 when the
 /// text has no more of them, as if one stood at its end.
 int behindLines(const QString &text, int from, int count)
@@ -181,6 +212,7 @@ void WGCodeEditer::readGCode(QString text)
     }
 
     QProgressDialog progress(QLatin1String("Load Files:"), QLatin1String("Abort check"), 0, total);
+    PaintThrottle throttle(this);
     int position = 0;
     int from = 0;
     Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
@@ -194,6 +226,7 @@ void WGCodeEditer::readGCode(QString text)
             appendPlainText(result);
         position += n;
         progress.setValue(position);
+        throttle.breathe();
         QCoreApplication::processEvents();
         if (progress.wasCanceled())
             break;
