@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ROWFORMAT_P_H
+#define ROWFORMAT_P_H
+
+#include <QLatin1String>
+#include <QString>
+#include <QStringList>
+
+/// The one statement of what stands where in a row.
+///
+/// A row is a list of strings and comes in three forms:
+/// - the host form is what a host passes in and the list stores: a kind, then the row;
+/// - the inner form is the same without its kind;
+/// - the working form is what MJLine reads: the inner form with an empty string inserted at
+///   position 1, filled up with empty strings. From position 2 on its positions are those of the
+///   host form.
+namespace RowFormat {
+
+// Kinds, at position 0 of the host form.
+const char jointMove[] = "MJ";
+const char linearMove[] = "ML";
+const char other[] = "Oth";   // also the mark in the row by which MJLine knows such a row
+const char title[] = "Title"; // the same
+const char dataEditor[] = "DataEditor";
+
+/// Rows with Jpos and V groups; nothing tells the two kinds apart.
+inline bool isInstruction(const QString &kind)
+{
+    return kind == QLatin1String(jointMove) || kind == QLatin1String(linearMove);
+}
+
+/// Positions in the host form; from Ins on those of the working form too.
+enum Position {
+    Kind = 0,
+    Num = 1,
+    Ins = 2,
+    JposKey = 3,
+    JposIndex = 4,
+    VKey = 5,
+    VIndex = 6,
+    ZKey = 7,
+    ZValue = 8,
+    TKey = 9,
+    TValue = 10,
+    Att = 11,
+    Res = 12,
+    FirstDetail = 13,
+    HostLength = 31
+};
+
+/// Where the number stands in the inner and the working form.
+const int workingNum = 0;
+/// Where the empty string of the working form goes.
+const int insertedPosition = 1;
+const int workingLength = 35;
+
+/// What stands at Att in every row that is written.
+const char attLiteral[] = "Att";
+
+// The detail pairs, key then value: six of the Jpos group, then three of the V group.
+const int detailCount = 9;
+const int jposDetails = 6;
+const int vDetails = 3;
+
+/// Position of the value of detail pair \a pair, 0 to 8.
+inline int detailValue(int pair)
+{
+    return FirstDetail + 2 * pair + 1;
+}
+
+/// A list longer than this gets the inserted string: a new row is less strict than a refilled one,
+/// so a list of 10 to 19 strings lands one position further to the left when it is refilled.
+const int buildLimit = 9;
+const int refillLimit = 19;
+
+/// First step to the working form.
+inline void insertEmpty(QStringList &row, int limit)
+{
+    if (row.size() > limit)
+        row.insert(insertedPosition, QString());
+}
+
+/// Second step to the working form. A longer list stays as it is.
+inline void fillUp(QStringList &row)
+{
+    while (row.size() < workingLength)
+        row.append(QString());
+}
+
+/// The text of a field: key ":" value.
+inline QString pairText(const QString &key, const QString &value)
+{
+    return key + QLatin1Char(':') + value;
+}
+
+/// The part of \a text before the first \a separator; all of it if there is none.
+inline QString partBefore(const QString &text, char separator)
+{
+    return text.left(text.indexOf(QLatin1Char(separator)));
+}
+
+/// The part of \a text after the last \a separator; all of it if there is none.
+inline QString partAfter(const QString &text, char separator)
+{
+    return text.mid(text.lastIndexOf(QLatin1Char(separator)) + 1);
+}
+
+} // namespace RowFormat
+
+#endif // ROWFORMAT_P_H
