@@ -3,14 +3,18 @@
 
 #include "checkbox.h"
 #include "combobox.h"
+#include "combolineedit.h"
+#include "dataeditor.h"
 #include "dialog.h"
 #include "doublespinbox.h"
 #include "filarixtest.h"
 #include "groupbox.h"
 #include "hmidirmodel.h"
 #include "importmanage.h"
+#include "label.h"
 #include "lineedit.h"
 #include "messagebox.h"
+#include "mjline.h"
 #include "pushbutton.h"
 #include "scrollbar.h"
 #include "spinbox.h"
@@ -121,6 +125,34 @@ void TestMetaObjects::ownEntriesInOrder_data()
                            << "private slot enableFindButton(QString)"
                            << "private slot replaceClicked()");
     newClass("QSyntaxHighlighter", WHighlighter::staticMetaObject, QStringList());
+
+    newClass("QLineEdit", ComboLineEdit::staticMetaObject,
+             QStringList() << "signal clicked()"
+                           << "signal changed(QString)");
+    newClass("QLabel", Label::staticMetaObject, QStringList() << "signal clicked()");
+    newClass("QWidget", MJLine::staticMetaObject,
+             QStringList() << "signal clicked(int)"
+                           << "signal sizeChanged(bool)"
+                           << "signal sg_jpos_update(int)"
+                           << "signal sg_v_update(int)"
+                           << "signal sg_content_change(int)"
+                           << "public slot on_press_down()"
+                           << "public slot on_press_up()"
+                           << "public slot on_jpos_update()"
+                           << "public slot on_v_update()"
+                           << "public slot on_z_update()"
+                           << "public slot on_t_update()"
+                           << "public slot on_res_update()"
+                           << "public slot on_lineEdit_clicked()"
+                           << "public slot on_jpos_change(QString)"
+                           << "public slot on_v_change(QString)"
+                           << "public slot on_vars1_change(QString)");
+
+    newClass("QWidget", DataEditor::staticMetaObject,
+             QStringList() << "signal clicked(int)"
+                           << "signal sg_content_change(int)"
+                           << "public slot on_editfinished()"
+                           << "public slot on_content_change(QString)");
 }
 
 void TestMetaObjects::ownEntriesInOrder()
