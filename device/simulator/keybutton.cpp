@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "keybutton.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+// Wide enough for a gloved finger: 10 mm at 96 dpi.
+const int fingerSize = 38;
+const int smallestText = 9;
+
+struct KeyColours
+{
+    QRgb face;
+    QRgb edge;
+    QRgb text;
+};
+
+// By role, in the order of the enum.
+const KeyColours roleColours[] = {
+    {0xffffffff, 0xff8c96a0, 0xff10161c}, // typing
+    {0xffc3ccd5, 0xff7d8892, 0xff10161c}, // editing
+    {0xff1b7a3a, 0xff0f5727, 0xffffffff}, // accept
+    {0xff4c5763, 0xff333c45, 0xffffffff}, // cancel
+};
+const KeyColours pressedColours = {0xffffb000, 0xffa06a00, 0xff10161c};
+const KeyColours disabledColours = {0xffb4bbc2, 0xffa3abb3, 0xff7b848d};
+
+// The glyphs are drawn in a square from -1 to 1.
+
+QPainterPath backspacePath()
+{
+    QPainterPath path;
+    path.moveTo(-1.2, 0);
+    path.lineTo(-0.5, -0.75);
+    path.lineTo(1.1, -0.75);
+    path.lineTo(1.1, 0.75);
+    path.lineTo(-0.5, 0.75);
+    path.closeSubpath();
+    path.moveTo(-0.1, -0.35);
+    path.lineTo(0.6, 0.35);
+    path.moveTo(0.6, -0.35);
+    path.lineTo(-0.1, 0.35);
+    return path;
+}
+
+QPainterPath arrowPath(int direction)
+{
+    QPainterPath path;
+    path.moveTo(-0.4 * direction, -0.8);
+    path.lineTo(0.5 * direction, 0);
+    path.lineTo(-0.4 * direction, 0.8);
+    return path;
+}
+
+QPainterPath spacePath()
+{
+    QPainterPath path;
+    path.moveTo(-1.4, 0);
+    path.lineTo(-1.4, 0.5);
+    path.lineTo(1.4, 0.5);
+    path.lineTo(1.4, 0);
+    return path;
+}
+
+QPainterPath shiftPath(bool locked)
+{
+    QPainterPath path;
+    path.moveTo(0, -1);
+    path.lineTo(1, 0);
+    path.lineTo(0.45, 0);
+    path.lineTo(0.45, 0.6);
+    path.lineTo(-0.45, 0.6);
+    path.lineTo(-0.45, 0);
+    path.lineTo(-1, 0);
+    path.closeSubpath();
+    if (locked) {
+        path.moveTo(-0.6, 1);
+        path.lineTo(0.6, 1);
+    }
+    return path;
+}
+
+QPainterPath glyphPath(KeyButton::Glyph glyph)
+{
+    switch (glyph) {
+    case KeyButton::BackspaceGlyph:
+        return backspacePath();
+    case KeyButton::LeftGlyph:
+        return arrowPath(-1);
+    case KeyButton::RightGlyph:
+        return arrowPath(1);
+    case KeyButton::SpaceGlyph:
+        return spacePath();
+    case KeyButton::ShiftGlyph:
+    case KeyButton::ShiftOnceGlyph:
+        return shiftPath(false);
+    case KeyButton::ShiftLockGlyph:
+        return shiftPath(true);
+    case KeyButton::NoGlyph:
+        break;
+    }
+    return QPainterPath();
+}
+
+void paintGlyph(QPainter *painter, const QRect &rect, KeyButton::Glyph glyph, const QColor &colour)
+{
+    const qreal scale = qBound(7.0, qMin(rect.width(), rect.height()) * 0.22, 16.0);
+    const bool filled = glyph == KeyButton::ShiftOnceGlyph || glyph == KeyButton::ShiftLockGlyph;
+    painter->translate(QRectF(rect).center());
+    painter->scale(scale, scale);
+    painter->setPen(
+        QPen(colour, qMax(2.0, scale * 0.18) / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setBrush(filled ? QBrush(colour) : QBrush(Qt::NoBrush));
+    painter->drawPath(glyphPath(glyph));
+}
+
+} // namespace
+
+KeyButton::KeyButton(const QString &token, QWidget *parent)
+    : QAbstractButton(parent), m_token(token)
+{
+    setObjectName(QLatin1String("key_") + token);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void KeyButton::setRole(Role role)
+{
+    m_role = role;
+    update();
+}
+
+void KeyButton::setGlyph(Glyph glyph)
+{
+    m_glyph = glyph;
+    update();
+}
+
+QSize KeyButton::sizeHint() const
+{
+    return QSize(fingerSize, fingerSize);
+}
+
+void KeyButton::paintEvent(QPaintEvent *)
+{
+    const KeyColours &colours = !isEnabled() ? disabledColours
+                                : isDown()   ? pressedColours
+                                             : roleColours[m_role];
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(colours.edge));
+    painter.setBrush(QColor(colours.face));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+
+    if (m_glyph != NoGlyph) {
+        paintGlyph(&painter, rect(), m_glyph, QColor(colours.text));
+        return;
+    }
+    painter.setPen(QColor(colours.text));
+    painter.setFont(fittingFont());
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}
+
+QFont KeyButton::fittingFont() const
+{
+    const bool isWord = text().length() > 1;
+    const int room = width() - (isWord ? 8 : 6);
+    int size = isWord ? qBound(12, height() * 36 / 100, 24)
+                      : qBound(14, qMin(height() * 50, width() * 70) / 100, 38);
+    QFont font = QApplication::font();
+    font.setBold(true);
+    font.setPixelSize(size);
+    while (size > smallestText && QFontMetrics(font).width(text()) > room)
+        font.setPixelSize(--size);
+    return font;
+}

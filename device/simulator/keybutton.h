@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef KEYBUTTON_H
+#define KEYBUTTON_H
+
+#include <QAbstractButton>
+
+/// One key of a keypad.
+///
+/// It paints itself and takes nothing from the style or from a host's style sheet, so a keypad
+/// looks and measures the same over every program. It never takes the keyboard focus, which
+/// belongs to the value.
+class KeyButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    /// What the key is for, which gives it its colours.
+    enum Role { TypingRole, EditingRole, AcceptRole, CancelRole };
+    /// A drawing instead of the text. Fonts of panels often lack these signs.
+    enum Glyph {
+        NoGlyph,
+        BackspaceGlyph,
+        LeftGlyph,
+        RightGlyph,
+        SpaceGlyph,
+        ShiftGlyph,
+        ShiftOnceGlyph,
+        ShiftLockGlyph
+    };
+
+    /// The object name is "key_" and \a token, by which a test or a script finds the key.
+    KeyButton(const QString &token, QWidget *parent);
+
+    /// The name of the key in its layout.
+    QString token() const { return m_token; }
+    void setRole(Role role);
+    void setGlyph(Glyph glyph);
+    /// The text goes on being what accessibility tools read when a glyph covers it.
+    Glyph glyph() const { return m_glyph; }
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QFont fittingFont() const;
+
+    QString m_token;
+    Role m_role = TypingRole;
+    Glyph m_glyph = NoGlyph;
+};
+
+#endif // KEYBUTTON_H

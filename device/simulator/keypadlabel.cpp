@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "keypadlabel.h"
+
+#include <QApplication>
+#include <QPainter>
+
+namespace {
+
+const int smallestText = 9;
+
+QFont sized(int pixels, bool bold)
+{
+    QFont font = QApplication::font();
+    font.setBold(bold);
+    font.setPixelSize(pixels);
+    return font;
+}
+
+QFont lineFont(int height)
+{
+    return sized(qBound(smallestText, height * 78 / 100, 18), false);
+}
+
+} // namespace
+
+KeypadLabel::KeypadLabel(const QString &objectName, Overflow overflow, QWidget *parent)
+    : QWidget(parent), m_overflow(overflow), m_colour(Qt::white)
+{
+    setObjectName(objectName);
+}
+
+void KeypadLabel::setText(const QString &text)
+{
+    m_text = text;
+    update();
+}
+
+void KeypadLabel::setColour(const QColor &colour)
+{
+    m_colour = colour;
+    update();
+}
+
+void KeypadLabel::setAlignment(Qt::Alignment alignment)
+{
+    m_alignment = alignment;
+    update();
+}
+
+int KeypadLabel::neededWidth(int height) const
+{
+    // Eliding measures in fractions of a pixel and may find the rounded width too narrow.
+    return m_text.isEmpty() ? 0 : QFontMetrics(lineFont(height)).width(m_text) + 2;
+}
+
+void KeypadLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(m_colour);
+    if (m_overflow == Elide)
+        paintElided(&painter);
+    else
+        paintWrapped(&painter);
+}
+
+void KeypadLabel::paintElided(QPainter *painter)
+{
+    painter->setFont(lineFont(height()));
+    const QString shown = painter->fontMetrics().elidedText(m_text, Qt::ElideRight, width());
+    painter->drawText(rect(), m_alignment, shown);
+}
+
+void KeypadLabel::paintWrapped(QPainter *painter)
+{
+    const int flags = int(m_alignment) | Qt::TextWordWrap;
+    int size = qBound(smallestText, height() * 38 / 100, 18);
+    painter->setFont(sized(size, true));
+    while (size > smallestText && !rect().contains(painter->boundingRect(rect(), flags, m_text)))
+        painter->setFont(sized(--size, true));
+    painter->drawText(rect(), flags, m_text);
+}
