@@ -1,0 +1,406 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "keypadframe.h"
+
+#include "keybutton.h"
+#include "keypadcheck.h"
+#include "keypadlabel.h"
+#include "valueedit.h"
+
+#include <QPainter>
+
+namespace {
+
+// Wide enough for a gloved finger: 10 mm at 96 dpi.
+const int fingerSize = 38;
+// Larger keys only make the way from one to the next longer.
+const QSize largestKey(170, 92);
+// A screen lower than this is covered whole.
+const int lowScreen = 400;
+// Up to this width or height the pixels go to the keys rather than between them.
+const int smallKeypad = 480;
+
+const int repeatDelay = 500;
+const int repeatInterval = 80;
+
+const QRgb frameColour = 0xff26303a;
+const QRgb oldValueColour = 0xffd5dce3;
+const QRgb limitColour = 0xffffd479;
+const QRgb reasonColour = 0xffff9d8a;
+
+// The letter keys, and what stands in their places while the symbols are shown.
+const char letters[] = "qwertyuiopasdfghjklzxcvbnm";
+const char symbols[] = "!#$%&()+=@[]{}~^,;':/\\?*<>";
+
+/// The heights above the keys, and the space between all, for a keypad of some size and number of
+/// rows.
+struct Measures
+{
+    Measures(const QSize &keypad, int rows)
+        : gap(qMin(keypad.width(), keypad.height()) > smallKeypad ? 6 : 4)
+    {
+        // The keys have a finger's height before the rest grows.
+        const int spare = keypad.height() - rows * (fingerSize + gap);
+        info = qBound(16, qMin(spare / 4, keypad.height() / 14), 26);
+        value = qBound(34, qMin(spare / 2, keypad.height() / 7), 60);
+    }
+
+    int header() const { return gap + info + gap / 2 + value + gap; }
+
+    int gap;
+    int info;
+    int value;
+};
+
+/// The edge of a cell when \a count cells share \a length pixels with gaps between them.
+int cellEdge(int cell, int count, int length, int gap)
+{
+    return cell * (length + gap) / count;
+}
+
+int keyWidth(const KeypadLayout &layout, const QSize &keypad)
+{
+    const int gap = Measures(keypad, layout.cells().height()).gap;
+    return (keypad.width() - gap) / layout.cells().width() - gap;
+}
+
+/// The keypad's share of a screen's \a length. A rest too narrow to show anything is taken too.
+int shareOf(int length, int wanted)
+{
+    return wanted * 100 > length * 85 ? length : wanted;
+}
+
+} // namespace
+
+/// A key that does something other than typing its own token.
+struct NamedKey
+{
+    const char *token;
+    const char *label;
+    KeyButton::Glyph glyph;
+    KeyButton::Role role;
+    bool repeats;
+    void (KeypadFrame::*press)();
+};
+
+// clang-format off
+const NamedKey KeypadFrame::namedKeys[] = {
+    {"back",    QT_TR_NOOP("Backspace"),    KeyButton::BackspaceGlyph, KeyButton::EditingRole, true,  &KeypadFrame::backspace},
+    {"clear",   QT_TR_NOOP("Clear"),        KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::clear},
+    {"left",    QT_TR_NOOP("Cursor left"),  KeyButton::LeftGlyph,      KeyButton::EditingRole, true,  &KeypadFrame::moveLeft},
+    {"right",   QT_TR_NOOP("Cursor right"), KeyButton::RightGlyph,     KeyButton::EditingRole, true,  &KeypadFrame::moveRight},
+    {"space",   QT_TR_NOOP("Space"),        KeyButton::SpaceGlyph,     KeyButton::TypingRole,  true,  &KeypadFrame::typeSpace},
+    {"sign",    QT_TR_NOOP("+/-"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::toggleSign},
+    {"shift",   QT_TR_NOOP("Shift"),        KeyButton::ShiftGlyph,     KeyButton::EditingRole, false, &KeypadFrame::turnShift},
+    {"symbols", QT_TR_NOOP("#+="),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnSymbols},
+    {"cancel",  QT_TR_NOOP("Cancel"),       KeyButton::NoGlyph,        KeyButton::CancelRole,  false, &KeypadFrame::reject},
+    {"ok",      QT_TR_NOOP("OK"),           KeyButton::NoGlyph,        KeyButton::AcceptRole,  false, &KeypadFrame::accept},
+};
+// clang-format on
+
+KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
+    : QWidget(parent)
+    , m_face(face)
+    , m_oldValue(new KeypadLabel(QLatin1String("oldValue"), KeypadLabel::Elide, this))
+    , m_limit(new KeypadLabel(QLatin1String("limit"), KeypadLabel::Elide, this))
+    , m_reason(new KeypadLabel(QLatin1String("reason"), KeypadLabel::Wrap, this))
+    , m_edit(new ValueEdit(this))
+{
+    m_oldValue->setColour(QColor(oldValueColour));
+    m_limit->setColour(QColor(limitColour));
+    m_limit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_reason->setColour(QColor(reasonColour));
+    setFocusProxy(m_edit);
+    if (m_face.forNumbers)
+        m_edit->setAttribute(Qt::WA_InputMethodEnabled, false);
+    connect(m_edit, SIGNAL(textChanged(QString)), SLOT(check()));
+    useLayout(KeypadLayout(m_face.wide));
+}
+
+void KeypadFrame::setText(const QString &text)
+{
+    m_request.text = text;
+    if (isVisible())
+        begin();
+}
+
+void KeypadFrame::setValidator(const QValidator *validator)
+{
+    if (m_request.validator)
+        m_request.validator->disconnect(this);
+    // Only its const operations are called; the guarded pointer knows no const.
+    m_request.validator = const_cast<QValidator *>(validator);
+    if (validator)
+        connect(validator, SIGNAL(destroyed()), SLOT(check()));
+    arrange();
+    check();
+}
+
+QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
+{
+    const KeypadLayout wide(m_face.wide);
+    const KeypadLayout narrow(m_face.narrow);
+    const bool fits = keyWidth(wide, screen.size()) >= m_face.narrowestKey;
+    const KeypadLayout &layout = fits ? wide : narrow;
+    useLayout(layout);
+    if (screen.height() < lowScreen)
+        return screen;
+
+    const QSize smallest = sizeOf(layout, QSize(fingerSize, fingerSize));
+    const QSize wanted = (wish.isEmpty() ? sizeOf(layout, m_face.keySize) : wish)
+                             .expandedTo(smallest)
+                             .boundedTo(sizeOf(layout, largestKey));
+    QRect rect(0, 0, shareOf(screen.width(), wanted.width()),
+               shareOf(screen.height(), wanted.height()));
+    rect.moveCenter(screen.center());
+    rect.moveBottom(screen.bottom());
+    return rect;
+}
+
+void KeypadFrame::begin()
+{
+    m_shift = ShiftOff;
+    m_symbols = false;
+    labelKeys();
+    showOldValue();
+
+    TypingRules rules;
+    rules.commaIsPoint = m_face.forNumbers;
+    rules.pointEnabled = m_request.pointEnabled;
+    if (m_face.forNumbers && !m_request.validator)
+        rules.allowed = QLatin1String("0123456789+-.");
+    m_edit->setRules(rules);
+    m_edit->setText(m_request.text);
+    if (m_face.forNumbers)
+        m_edit->selectAll();
+    else
+        m_edit->end(false);
+    arrange();
+    check();
+}
+
+bool KeypadFrame::isAcceptable() const
+{
+    return KeypadCheck::refusal(m_request.validator, m_edit->text()).isEmpty();
+}
+
+void KeypadFrame::deliver()
+{
+    if (m_request.object)
+        m_request.object->setProperty("text", m_edit->text());
+}
+
+void KeypadFrame::end()
+{
+    // A key that a finger still holds would go on repeating.
+    Q_FOREACH (KeyButton *key, m_keys)
+        key->setDown(false);
+    setValidator(nullptr);
+    m_request = KeypadRequest();
+}
+
+void KeypadFrame::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(rect(), QColor(frameColour));
+}
+
+void KeypadFrame::resizeEvent(QResizeEvent *)
+{
+    arrange();
+}
+
+void KeypadFrame::keyClicked()
+{
+    const QString token = static_cast<KeyButton *>(sender())->token();
+    if (const NamedKey *named = namedKey(token))
+        (this->*named->press)();
+    else
+        typeKey(labelOf(static_cast<KeyButton *>(sender())));
+}
+
+void KeypadFrame::check()
+{
+    const QString refusal = KeypadCheck::refusal(m_request.validator, m_edit->text());
+    m_reason->setText(refusal);
+    Q_FOREACH (KeyButton *key, m_keys) {
+        if (key->token() == QLatin1String("ok"))
+            key->setEnabled(refusal.isEmpty());
+        else if (key->token() == QLatin1String("."))
+            key->setEnabled(m_request.pointEnabled);
+        else if (key->token() == QLatin1String("shift"))
+            key->setEnabled(!m_symbols);
+    }
+}
+
+QSize KeypadFrame::sizeOf(const KeypadLayout &layout, const QSize &key) const
+{
+    const QSize cells = layout.cells();
+    const Measures measures(QSize(800, 480), cells.height());
+    return QSize(cells.width() * (key.width() + measures.gap) + measures.gap,
+                 cells.height() * (key.height() + measures.gap) + measures.header());
+}
+
+void KeypadFrame::useLayout(const KeypadLayout &layout)
+{
+    if (!m_keys.isEmpty() && layout.cells() == m_layout.cells())
+        return;
+    qDeleteAll(m_keys);
+    m_keys.clear();
+    m_layout = layout;
+    Q_FOREACH (const PlacedKey &placed, m_layout.keys())
+        m_keys.append(addKey(placed.token));
+    labelKeys();
+}
+
+KeyButton *KeypadFrame::addKey(const QString &token)
+{
+    KeyButton *key = new KeyButton(token, this);
+    if (const NamedKey *named = namedKey(token)) {
+        key->setRole(named->role);
+        key->setGlyph(named->glyph);
+        key->setAutoRepeat(named->repeats);
+    }
+    key->setAutoRepeatDelay(repeatDelay);
+    key->setAutoRepeatInterval(repeatInterval);
+    connect(key, SIGNAL(clicked()), SLOT(keyClicked()));
+    key->setVisible(true);
+    return key;
+}
+
+void KeypadFrame::arrange()
+{
+    const Measures measures(size(), m_layout.cells().height());
+    const int gap = measures.gap;
+    const int left = gap;
+    const int length = width() - 2 * gap;
+
+    // The limits matter more than the end of a long old value.
+    const int limit = qMin(m_limit->neededWidth(measures.info), length * 2 / 3);
+    m_oldValue->setGeometry(left, gap, limit ? length - limit - 2 * gap : length, measures.info);
+    m_limit->setGeometry(left + length - limit, gap, limit, measures.info);
+
+    // Room for the reason is kept while there is a validator: a line that jumps is hard to read.
+    const int reason = m_request.validator ? length * 3 / 10 : 0;
+    const int valueTop = gap + measures.info + gap / 2;
+    m_edit->setGeometry(left, valueTop, reason ? length - reason - gap : length, measures.value);
+    m_reason->setGeometry(left + length - reason, valueTop, reason, measures.value);
+    m_reason->setVisible(reason > 0);
+
+    const QSize cells = m_layout.cells();
+    const int keysTop = measures.header();
+    const int keysHeight = height() - keysTop - gap;
+    for (int i = 0; i < m_keys.count(); ++i) {
+        const QRect place = m_layout.keys().at(i).cells;
+        const int x1 = cellEdge(place.left(), cells.width(), length, gap);
+        const int x2 = cellEdge(place.right() + 1, cells.width(), length, gap) - gap;
+        const int y1 = cellEdge(place.top(), cells.height(), keysHeight, gap);
+        const int y2 = cellEdge(place.bottom() + 1, cells.height(), keysHeight, gap) - gap;
+        m_keys.at(i)->setGeometry(left + x1, keysTop + y1, x2 - x1, y2 - y1);
+    }
+}
+
+void KeypadFrame::labelKeys()
+{
+    Q_FOREACH (KeyButton *key, m_keys) {
+        key->setText(labelOf(key));
+        if (key->token() == QLatin1String("shift")) {
+            const KeyButton::Glyph glyphs[] = {KeyButton::ShiftGlyph, KeyButton::ShiftOnceGlyph,
+                                               KeyButton::ShiftLockGlyph};
+            key->setGlyph(glyphs[m_shift]);
+        }
+    }
+}
+
+QString KeypadFrame::labelOf(const KeyButton *key) const
+{
+    const QString token = key->token();
+    if (token == QLatin1String("symbols") && m_symbols)
+        return tr("abc");
+    if (const NamedKey *named = namedKey(token))
+        return tr(named->label);
+    const int letter = QString::fromLatin1(letters).indexOf(token);
+    if (m_symbols && letter >= 0)
+        return QString(QLatin1Char(symbols[letter]));
+    return m_shift == ShiftOff ? token : token.toUpper();
+}
+
+void KeypadFrame::showOldValue()
+{
+    const QString old = m_request.text;
+    m_oldValue->setText(old.isEmpty() ? tr("Was empty") : tr("Was: %1").arg(old));
+    // A line of G-code comes as its own hint; seen once it has the whole width.
+    m_limit->setText(m_request.limit == old ? QString() : m_request.limit);
+    m_limit->setVisible(!m_limit->text().isEmpty());
+}
+
+void KeypadFrame::typeKey(const QString &text)
+{
+    m_edit->type(text);
+    if (m_shift == ShiftOnce && text.at(0).isLetter()) {
+        m_shift = ShiftOff;
+        labelKeys();
+    }
+}
+
+void KeypadFrame::backspace()
+{
+    m_edit->backspace();
+}
+
+void KeypadFrame::clear()
+{
+    m_edit->clear();
+}
+
+void KeypadFrame::moveLeft()
+{
+    m_edit->press(Qt::Key_Left);
+}
+
+void KeypadFrame::moveRight()
+{
+    m_edit->press(Qt::Key_Right);
+}
+
+void KeypadFrame::typeSpace()
+{
+    m_edit->type(QLatin1String(" "));
+}
+
+void KeypadFrame::toggleSign()
+{
+    m_edit->toggleSign();
+}
+
+void KeypadFrame::turnShift()
+{
+    m_shift = m_shift == ShiftOff ? ShiftOnce : m_shift == ShiftOnce ? ShiftLocked : ShiftOff;
+    labelKeys();
+}
+
+void KeypadFrame::turnSymbols()
+{
+    m_symbols = !m_symbols;
+    labelKeys();
+    check();
+}
+
+void KeypadFrame::accept()
+{
+    Q_EMIT accepted();
+}
+
+void KeypadFrame::reject()
+{
+    Q_EMIT rejected();
+}
+
+const NamedKey *KeypadFrame::namedKey(const QString &token)
+{
+    for (const NamedKey &key : namedKeys) {
+        if (token == QLatin1String(key.token))
+            return &key;
+    }
+    return nullptr;
+}

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef KEYPADFRAME_H
+#define KEYPADFRAME_H
+
+#include "keypadlayout.h"
+
+#include <QPointer>
+#include <QValidator>
+#include <QWidget>
+
+class KeyButton;
+class KeypadLabel;
+class ValueEdit;
+struct NamedKey;
+
+/// What a caller asks of a keypad for one exec(). A default one asks for nothing.
+struct KeypadRequest
+{
+    QPointer<QObject> object;
+    QPointer<QValidator> validator;
+    QString text;
+    QString limit;
+    bool pointEnabled = true;
+};
+
+/// What makes one keypad differ from the others.
+struct KeypadFace
+{
+    /// The layout, and the one for a screen on which the keys of the first would be too narrow.
+    const char *const *wide;
+    const char *const *narrow;
+    int narrowestKey;
+    /// The size of a key where the screen has room and the caller names no size.
+    QSize keySize;
+    /// Only numbers are typed: the old value is selected, so that typing replaces it, and a comma
+    /// is a decimal point.
+    bool forNumbers;
+};
+
+/// The inside of a keypad: the old value, the limits, the value that is typed and why it can't be
+/// accepted, above the keys. It serves one request after the other and keeps nothing of the last.
+class KeypadFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    KeypadFrame(const KeypadFace &face, QWidget *parent);
+
+    /// What the present caller asks for; may be changed in any order before begin().
+    KeypadRequest &request() { return m_request; }
+    /// Changes the text, also while the keypad is open.
+    void setText(const QString &text);
+    /// Changes the validator, also while the keypad is open.
+    void setValidator(const QValidator *validator);
+
+    /// Where the keypad goes on a screen, and with which layout. An empty \a wish leaves the size
+    /// to the keypad. It never leaves the screen; a low screen it takes whole.
+    QRect place(const QRect &screen, const QSize &wish);
+    /// Shows the request. The keypad is on the screen by now.
+    void begin();
+    /// Whether the text may be accepted.
+    bool isAcceptable() const;
+    /// Writes the text to the property `text` of the caller's object, if there still is one.
+    void deliver();
+    /// Forgets the request.
+    void end();
+
+Q_SIGNALS:
+    void accepted();
+    void rejected();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private Q_SLOTS:
+    void keyClicked();
+    void check();
+
+private:
+    enum Shift { ShiftOff, ShiftOnce, ShiftLocked };
+
+    QSize sizeOf(const KeypadLayout &layout, const QSize &key) const;
+    void useLayout(const KeypadLayout &layout);
+    KeyButton *addKey(const QString &token);
+    void arrange();
+    void labelKeys();
+    QString labelOf(const KeyButton *key) const;
+    void showOldValue();
+
+    void typeKey(const QString &text);
+    void backspace();
+    void clear();
+    void moveLeft();
+    void moveRight();
+    void typeSpace();
+    void toggleSign();
+    void turnShift();
+    void turnSymbols();
+    void accept();
+    void reject();
+
+    static const NamedKey namedKeys[];
+    static const NamedKey *namedKey(const QString &token);
+
+    KeypadFace m_face;
+    KeypadLayout m_layout;
+    QList<KeyButton *> m_keys;
+    KeypadLabel *m_oldValue;
+    KeypadLabel *m_limit;
+    KeypadLabel *m_reason;
+    ValueEdit *m_edit;
+
+    KeypadRequest m_request;
+    Shift m_shift = ShiftOff;
+    bool m_symbols = false;
+};
+
+#endif // KEYPADFRAME_H
