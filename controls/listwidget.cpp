@@ -23,13 +23,19 @@ void ListWidget::initializeWidget()
     setLayout(boxLayout);
 }
 
+/// A row that grew after it was added, and is then removed, can leave a sum below 0.
+void ListWidget::applyHeight()
+{
+    setFixedHeight(qMax(totalHeight, 0));
+}
+
 void ListWidget::addWidget(QWidget *widget)
 {
     if (!widget)
         return;
     totalHeight += widget->height();
     boxLayout->addWidget(widget);
-    setFixedHeight(totalHeight);
+    applyHeight();
 }
 
 void ListWidget::insertWidget(int index, QWidget *widget)
@@ -38,7 +44,7 @@ void ListWidget::insertWidget(int index, QWidget *widget)
         return;
     totalHeight += widget->height();
     boxLayout->insertWidget(index, widget);
-    setFixedHeight(totalHeight);
+    applyHeight();
 }
 
 QWidget *ListWidget::removeWidget(int index)
@@ -54,7 +60,7 @@ void ListWidget::removeWidget(QWidget *widget)
         return;
     totalHeight -= widget->height();
     boxLayout->removeWidget(widget);
-    setFixedHeight(totalHeight);
+    applyHeight();
 }
 
 void ListWidget::takeAt(int index)
@@ -107,5 +113,5 @@ void ListWidget::recalculateHeight()
     totalHeight = 0;
     for (int i = 0; i < count(); ++i)
         totalHeight += itemAt(i)->height();
-    setFixedHeight(totalHeight);
+    applyHeight();
 }

@@ -64,6 +64,7 @@ public:
 
 private:
     void initializeWidget();
+    void applyHeight();
 
     QVBoxLayout *boxLayout;
     int totalHeight;

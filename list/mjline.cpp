@@ -140,7 +140,7 @@ MJLine::MJLine(QStringList &list, QSize size, QWidget *parent)
     showSuffix();
     createDataEditor(isTitle, content, showsEditor);
 
-    RowStyle::apply(this, RowStyle::plainRow);
+    setStyleSheet(QLatin1String(RowStyle::plainRow));
     setFixedHeight(RowGeometry::rowHeight(m_size.height()));
     setLayout(m_rowLayout);
     connectFirstLine();

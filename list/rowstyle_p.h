@@ -18,11 +18,16 @@ const char selectedRow[] =
     "border-style:solid;border-width: 1px;background-color: #00ffff;color: #ffffff;";
 
 /// Sets a sheet unless it stands already: an equal one would be polished all over again.
+///
+/// A row that was never shown is polished first, or its cells would keep the colours of the sheet
+/// that it was built with.
 inline void apply(QWidget *widget, const char *sheet)
 {
     const QString text = QLatin1String(sheet);
-    if (widget->styleSheet() != text)
-        widget->setStyleSheet(text);
+    if (widget->styleSheet() == text)
+        return;
+    widget->ensurePolished();
+    widget->setStyleSheet(text);
 }
 
 } // namespace RowStyle

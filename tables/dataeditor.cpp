@@ -66,7 +66,7 @@ DataEditor::DataEditor(bool isTitle, QStringList &list, QSize size, QWidget *par
     }
 
     setLayout(layout);
-    RowStyle::apply(this, RowStyle::plainRow);
+    setStyleSheet(QLatin1String(RowStyle::plainRow));
     setFixedHeight(RowGeometry::rowHeight(m_size.height()));
     setFocusPolicy(Qt::ClickFocus);
 }
