@@ -18,6 +18,7 @@
 #include "pushbutton.h"
 #include "scrollbar.h"
 #include "spinbox.h"
+#include "tlistwidget.h"
 #include "wcopydialog.h"
 #include "wfinddialog.h"
 #include "whighlighter.h"
@@ -153,6 +154,17 @@ void TestMetaObjects::ownEntriesInOrder_data()
                            << "signal sg_content_change(int)"
                            << "public slot on_editfinished()"
                            << "public slot on_content_change(QString)");
+    // Its base, a plain stack of widgets, has no meta-object of its own.
+    newClass("QWidget", TListWidget::staticMetaObject,
+             QStringList() << "signal clicked(int)"
+                           << "signal sg_jpos_update(int)"
+                           << "signal sg_v_update(int)"
+                           << "signal sg_item_deleted(int)"
+                           << "public slot on_jpos_update(int)"
+                           << "public slot on_v_update(int)"
+                           << "public slot on_line_changed(bool)"
+                           << "public slot on_line_clicked(int)"
+                           << "public slot on_content_change(int)");
 }
 
 void TestMetaObjects::ownEntriesInOrder()
