@@ -29,12 +29,13 @@ const int gutterMargin = 3;
 const int paintInterval = 100;
 
 /// Spares the painting of a widget that changes many times a second; the widget's own state of
-/// updatesEnabled comes back on every way out.
+/// updatesEnabled comes back on every way out. What a parent holds back is the parent's business:
+/// updatesEnabled() would report it, and it would then stick to the widget.
 class PaintThrottle
 {
 public:
     explicit PaintThrottle(QWidget *widget)
-        : m_widget(widget), m_wasEnabled(widget->updatesEnabled())
+        : m_widget(widget), m_wasEnabled(!widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
     {
         m_time.start();
         m_widget->setUpdatesEnabled(false);
