@@ -151,11 +151,10 @@ QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
     const QSize wanted = (wish.isEmpty() ? sizeOf(layout, m_face.keySize) : wish)
                              .expandedTo(smallest)
                              .boundedTo(sizeOf(layout, largestKey));
-    QRect rect(0, 0, shareOf(screen.width(), wanted.width()),
-               shareOf(screen.height(), wanted.height()));
-    rect.moveCenter(screen.center());
-    rect.moveBottom(screen.bottom());
-    return rect;
+    const QSize size(shareOf(screen.width(), wanted.width()),
+                     shareOf(screen.height(), wanted.height()));
+    return QRect(screen.left() + (screen.width() - size.width()) / 2,
+                 screen.top() + screen.height() - size.height(), size.width(), size.height());
 }
 
 void KeypadFrame::begin()
