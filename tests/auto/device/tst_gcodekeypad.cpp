@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "keypadtest.h"
+
+#include <hmidevice/gcodekeypad.h>
+
+#include <QRegExpValidator>
+
+#include <memory>
+
+class TestGCodeKeypad : public KeypadTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isOneDialog();
+    void hasTheKeysOfALine_data();
+    void hasTheKeysOfALine();
+    void lineIsEdited();
+    void unchangedLineIsWrittenToo();
+    void cancelLeavesThePropertyAlone();
+    void emptyLineWithEmptyHint();
+    void hintThatIsTheLineIsShownOnce();
+    void otherHintIsShown();
+    void longLineIsMadeSmaller();
+    void commentIsTypedOnTheKeyboard();
+    void validatorDecides();
+    void nothingIsLeftForTheNextCaller();
+    void callerMayVanish();
+    void staysOnTheScreen_data();
+    void staysOnTheScreen();
+
+private:
+    static GCodeKeypad *pad() { return GCodeKeypad::instance(); }
+    static int runPad(const std::function<void()> &step) { return run(pad(), step); }
+};
+
+void TestGCodeKeypad::isOneDialog()
+{
+    QVERIFY(pad());
+    QCOMPARE(GCodeKeypad::instance(), pad());
+}
+
+void TestGCodeKeypad::hasTheKeysOfALine_data()
+{
+    QTest::addColumn<QRect>("screen");
+    QTest::newRow("wide") << QRect(0, 0, 480, 272);
+    QTest::newRow("narrow") << QRect(0, 0, 272, 480);
+}
+
+void TestGCodeKeypad::hasTheKeysOfALine()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    runPad([] {
+        const QString typing = QLatin1String("GMXYZUVWIJKFSTN0123456789-.;");
+        Q_FOREACH (QChar sign, typing) {
+            click(pad(), "clear");
+            click(pad(), QByteArray(1, sign.toLatin1()));
+            QCOMPARE(value(pad())->text(), QString(sign));
+            QCOMPARE(key(pad(), QByteArray(1, sign.toLatin1()))->text(), QString(sign));
+        }
+        click(pad(), "clear space");
+        QCOMPARE(value(pad())->text(), QString(" "));
+    });
+}
+
+void TestGCodeKeypad::lineIsEdited()
+{
+    Caller caller;
+    pad()->setObject(&caller);
+    pad()->setValidator(nullptr);
+    pad()->setText(QLatin1String("G01 X10 Y5"));
+    pad()->setLimitToolTip(QLatin1String("G01 X10 Y5"));
+    const int result = runPad([] {
+        QCOMPARE(value(pad())->text(), QString("G01 X10 Y5"));
+        QVERIFY(!value(pad())->hasSelectedText());
+        QCOMPARE(value(pad())->cursorPosition(), 10);
+        click(pad(), "back - 2 . 5 space F 3 0 0");
+        click(pad(), "left left left left left left left left left back Z right");
+        QCOMPARE(value(pad())->cursorPosition(), 10);
+        click(pad(), "ok");
+    });
+    QCOMPARE(result, 1);
+    QCOMPARE(caller.text(), QString("G01 X10 Z-2.5 F300"));
+    QCOMPARE(caller.writes, 1);
+}
+
+void TestGCodeKeypad::unchangedLineIsWrittenToo()
+{
+    Caller caller;
+    pad()->setObject(&caller);
+    pad()->setText(QLatin1String("  g1 x1 (a)  "));
+    QCOMPARE(runPad([] { click(pad(), "ok"); }), 1);
+    QCOMPARE(caller.text(), QString("  g1 x1 (a)  "));
+    QCOMPARE(caller.writes, 1);
+}
+
+void TestGCodeKeypad::cancelLeavesThePropertyAlone()
+{
+    Caller caller;
+    pad()->setObject(&caller);
+    pad()->setText(QLatin1String("G01"));
+    QCOMPARE(runPad([] { click(pad(), "clear cancel"); }), 0);
+    QCOMPARE(runPad([] { QTest::keyClick(value(pad()), Qt::Key_Escape); }), 0);
+    QCOMPARE(caller.writes, 0);
+}
+
+void TestGCodeKeypad::emptyLineWithEmptyHint()
+{
+    Caller caller;
+    pad()->setObject(&caller);
+    pad()->setText(QString());
+    pad()->setLimitToolTip(QString());
+    const int result = runPad([] {
+        QCOMPARE(line(pad(), "oldValue"), QString("Was empty"));
+        QVERIFY(line(pad(), "limit").isNull());
+        click(pad(), "M 3 0 ok");
+    });
+    QCOMPARE(result, 1);
+    QCOMPARE(caller.text(), QString("M30"));
+}
+
+void TestGCodeKeypad::hintThatIsTheLineIsShownOnce()
+{
+    pad()->setLimitToolTip(QLatin1String("G01 X10"));
+    pad()->setText(QLatin1String("G01 X10"));
+    runPad([] {
+        QCOMPARE(line(pad(), "oldValue"), QString("Was: G01 X10"));
+        QVERIFY(line(pad(), "limit").isNull());
+    });
+}
+
+void TestGCodeKeypad::otherHintIsShown()
+{
+    pad()->setLimitToolTip(QLatin1String("X 0 to 400"));
+    pad()->setText(QLatin1String("G01 X10"));
+    runPad([] { QCOMPARE(line(pad(), "limit"), QString("X 0 to 400")); });
+}
+
+void TestGCodeKeypad::longLineIsMadeSmaller()
+{
+    pad()->setText(QLatin1String("G01"));
+    int large = 0;
+    runPad([&] { large = value(pad())->fontMetrics().height(); });
+    pad()->setText(QLatin1String("G01 X120.5 Y-33.25 Z4 F1200 ; layer 3 of 12, guide left"));
+    runPad([&] {
+        const QFontMetrics metrics = value(pad())->fontMetrics();
+        QVERIFY(metrics.height() < large);
+        QVERIFY(metrics.width(value(pad())->text()) < value(pad())->width());
+        // Readable it stays, and then the line scrolls.
+        value(pad())->setText(QString(500, QLatin1Char('X')));
+        QVERIFY(value(pad())->fontMetrics().height() >= 14);
+        click(pad(), "clear G");
+        QCOMPARE(value(pad())->fontMetrics().height(), large);
+    });
+}
+
+void TestGCodeKeypad::commentIsTypedOnTheKeyboard()
+{
+    Caller caller;
+    pad()->setObject(&caller);
+    const int result = runPad([] {
+        QTest::keyClicks(value(pad()), QLatin1String("g1 x1,5 ; (slow)"));
+        QTest::keyClick(value(pad()), Qt::Key_Return);
+    });
+    QCOMPARE(result, 1);
+    QCOMPARE(caller.text(), QString("g1 x1,5 ; (slow)"));
+}
+
+void TestGCodeKeypad::validatorDecides()
+{
+    QRegExpValidator validator(QRegExp(QLatin1String("[GM][0-9]+")), nullptr);
+    pad()->setValidator(&validator);
+    runPad([] {
+        QVERIFY(!key(pad(), "ok")->isEnabled());
+        click(pad(), "G");
+        QCOMPARE(line(pad(), "reason"), QString("Not complete"));
+        click(pad(), "0");
+        QVERIFY(key(pad(), "ok")->isEnabled());
+        QCOMPARE(line(pad(), "reason"), QString(""));
+    });
+}
+
+void TestGCodeKeypad::nothingIsLeftForTheNextCaller()
+{
+    Caller caller;
+    QRegExpValidator validator(QRegExp(QLatin1String("[GM][0-9]+")), nullptr);
+    pad()->setObject(&caller);
+    pad()->setValidator(&validator);
+    pad()->setText(QLatin1String("G1"));
+    pad()->setLimitToolTip(QLatin1String("a G or an M"));
+    runPad([] { click(pad(), "cancel"); });
+    const int result = runPad([] {
+        QCOMPARE(value(pad())->text(), QString(""));
+        QVERIFY(line(pad(), "limit").isNull());
+        QVERIFY(line(pad(), "reason").isNull());
+        click(pad(), "X ok");
+    });
+    QCOMPARE(result, 1);
+    QCOMPARE(caller.writes, 0);
+}
+
+void TestGCodeKeypad::callerMayVanish()
+{
+    std::unique_ptr<Caller> caller(new Caller);
+    pad()->setObject(caller.get());
+    pad()->setText(QLatin1String("G01"));
+    QCOMPARE(runPad([&] {
+                 caller.reset();
+                 click(pad(), "ok");
+             }),
+             1);
+}
+
+void TestGCodeKeypad::staysOnTheScreen_data()
+{
+    addScreens();
+}
+
+void TestGCodeKeypad::staysOnTheScreen()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    const QString text = QLatin1String("G01 X120.5 Y-33.25 Z4 F1200 ; layer 3 of 12, guide left");
+    QRegExpValidator validator(QRegExp(QLatin1String("G.*")), nullptr);
+    Q_FOREACH (const QString &hint, QStringList()
+                                        << text << QLatin1String("X 0 to 400") << text + text) {
+        pad()->setText(text);
+        pad()->setLimitToolTip(hint);
+        pad()->setValidator(&validator);
+        runPad([&] { QCOMPARE(layoutFault(pad(), screen, 38), QString()); });
+    }
+}
+
+FILARIX_TEST_MAIN(TestGCodeKeypad)
+
+#include "tst_gcodekeypad.moc"
