@@ -1,0 +1,1054 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "managerfixture.h"
+#include "modaldriver.h"
+#include "shell.h"
+
+#include <QDialog>
+#include <QEvent>
+
+namespace {
+
+const qint64 limit = 31457280;
+const qint64 fourGibibytes = Q_INT64_C(4294967296);
+
+/// One direction of copying, or one side of deleting, as the operator and the shell see it.
+struct Way
+{
+    const char *button;
+    const char *title;
+    /// The panel that is touched.
+    bool fromHmi;
+    const char *nothingSelected;
+    const char *noStick;
+    const char *coverQuestion;
+};
+
+const Way toUsb = {">>",
+                   "Copy to Usb",
+                   true,
+                   "No file Selected!",
+                   "Usb not found!",
+                   " existed in Usb,\n do you want to cover it?"};
+const Way toHmi = {"<<",
+                   "Copy to Hmi",
+                   false,
+                   "No file Selected.",
+                   "Usb not found.",
+                   " existed in Hmi,\n do you want to cover it?"};
+const Way delHmi = {">Del", "Hmi Delete", true, "No file Selected.", "", ""};
+const Way delUsb = {"Del<", "Usb Delete", false, "No file Selected.", "", ""};
+
+} // namespace
+
+Q_DECLARE_METATYPE(const Way *)
+
+class TestTransferCommands : public ManagerTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { Shell::reset(); }
+    void init();
+    void cleanup();
+
+    void copyPutsTheOptionsBehindTheOperands();
+    void deleteEndsWithoutABlank();
+    void toolsAreCalledInOrder();
+    void charactersBeyondAsciiAreLost();
+    void blankInANameSplitsTheOperand();
+    void statusComesBackUndecoded_data();
+    void statusComesBackUndecoded();
+    void killedToolIsAFailure();
+    void missingToolIsAFailure();
+    void failingSyncIsNotNoticed();
+    void deletingWhatIsGoneIsASuccess();
+    void deletingADirectoryTakesAllThatIsInIt();
+    void processingIsOnTheScreenBeforeTheCommandRuns();
+
+    void nothingSelected_data() { addWays(true, true); }
+    void nothingSelected();
+    void missingStickRefusesACopy_data() { addWays(true, false); }
+    void missingStickRefusesACopy();
+    void mountWithoutMarkerPassesTheUsbTest_data() { addWays(true, false); }
+    void mountWithoutMarkerPassesTheUsbTest();
+    void newFileIsCopiedWithoutAQuestion_data() { addWays(true, false); }
+    void newFileIsCopiedWithoutAQuestion();
+    void failedCopyOfANewFileSaysSo_data() { addWays(true, false); }
+    void failedCopyOfANewFileSaysSo();
+    void failedCopyLeavesWhatItWrote_data() { addWays(true, false); }
+    void failedCopyLeavesWhatItWrote();
+    void coverIsAskedFor_data() { addWays(true, false); }
+    void coverIsAskedFor();
+    void coverGoesAheadOnlyOnYes_data();
+    void coverGoesAheadOnlyOnYes();
+    void coverDeletesThenCopies_data() { addWays(true, false); }
+    void coverDeletesThenCopies();
+    void failedDeleteStopsACover_data() { addWays(true, false); }
+    void failedDeleteStopsACover();
+    void failedCopyLosesTheCoveredFile_data() { addWays(true, false); }
+    void failedCopyLosesTheCoveredFile();
+    void namesDifferingInCaseAreTwoFiles_data() { addWays(true, false); }
+    void namesDifferingInCaseAreTwoFiles();
+    void hiddenTwinIsOverwrittenWithoutAQuestion_data() { addWays(true, false); }
+    void hiddenTwinIsOverwrittenWithoutAQuestion();
+    void directoryOfThatNameIsCoveredWithAllInIt_data() { addWays(true, false); }
+    void directoryOfThatNameIsCoveredWithAllInIt();
+    void directoryLargerThanTheUsedSpaceIsUnexpected();
+
+    void directoryOnTheStickIsRefused();
+    void limitOfThePanelSide_data();
+    void limitOfThePanelSide();
+    void copyToTheStickHasNoLimit();
+    void refusedCoverKeepsTheOldFile();
+    void goneCoverTargetIsUnexpected();
+    void fileThatWrapsTheSumIsCopied();
+
+    void deleteIsAskedFor_data() { addWays(false, true); }
+    void deleteIsAskedFor();
+    void deleteStopsOnlyOnNo_data();
+    void deleteStopsOnlyOnNo();
+    void failedDeleteSaysSo_data() { addWays(false, true); }
+    void failedDeleteSaysSo();
+    void deleteOfAGoneFileSaysNothing_data() { addWays(false, true); }
+    void deleteOfAGoneFileSaysNothing();
+    void deleteWithoutAStickOrASelectionNeverAsks();
+
+    void selectionIsGoneAfterEachOperation_data() { addWays(true, true); }
+    void selectionIsGoneAfterEachOperation();
+    void itemOutsideTheDirectoryIsNoSelection_data() { addWays(true, true); }
+    void itemOutsideTheDirectoryIsNoSelection();
+    void directoryAnywhereInThePathIsASelection();
+    void statusLineIsRestoredByEveryEnd_data() { addWays(true, true); }
+    void statusLineIsRestoredByEveryEnd();
+
+    void stickPulledAtTheQuestion_data() { addWays(true, true); }
+    void stickPulledAtTheQuestion();
+    void stickPulledBetweenTestAndCommand_data() { addWays(true, false); }
+    void stickPulledBetweenTestAndCommand();
+
+    void everythingWithTheRealTools();
+
+private:
+    static void addWays(bool copies, bool deletes);
+    static QString sourceDir(const Way *way) { return way->fromHmi ? programDir() : stickDir(); }
+    static QString targetDir(const Way *way) { return way->fromHmi ? stickDir() : programDir(); }
+    static QListView *source(const Manager &manager, const Way *way)
+    {
+        return way->fromHmi ? manager.hmiView : manager.usbView;
+    }
+    static bool select(const Manager &manager, const Way *way, const QString &name)
+    {
+        return Manager::select(source(manager, way), name);
+    }
+    /// The commands that are no "sync", each of which must have one behind it.
+    static QList<QByteArray> commandsBeforeSync();
+    static QByteArray cp(const Way *way, const char *name);
+    static QByteArray rm(const QString &dir, const char *name);
+    static void expectCritical(const ModalDriver::Box &box, const Way *way, const char *text,
+                               const QWidget *parent);
+};
+
+#define EXPECT_CRITICAL(box, way, text)                                                            \
+    do {                                                                                           \
+        expectCritical(box, way, text, &manager.dialog);                                           \
+        if (QTest::currentTestFailed())                                                            \
+            return;                                                                                \
+    } while (0)
+
+void TestTransferCommands::addWays(bool copies, bool deletes)
+{
+    QTest::addColumn<const Way *>("way");
+    if (copies) {
+        QTest::newRow("panel to stick") << &toUsb;
+        QTest::newRow("stick to panel") << &toHmi;
+    }
+    if (deletes) {
+        QTest::newRow("delete on the panel") << &delHmi;
+        QTest::newRow("delete on the stick") << &delUsb;
+    }
+}
+
+QList<QByteArray> TestTransferCommands::commandsBeforeSync()
+{
+    QList<QByteArray> result;
+    const QList<QByteArray> all = Shell::commands();
+    for (int i = 0; i < all.size(); i += 2) {
+        result << all.at(i);
+        if (all.value(i + 1) != "sync")
+            result << "no sync!";
+    }
+    return result;
+}
+
+QByteArray TestTransferCommands::cp(const Way *way, const char *name)
+{
+    return "cp " + sourceDir(way).toLatin1() + '/' + name + ' ' + targetDir(way).toLatin1() + '/'
+           + name + " -rf ";
+}
+
+QByteArray TestTransferCommands::rm(const QString &dir, const char *name)
+{
+    return "rm " + dir.toLatin1() + '/' + name + " -rf";
+}
+
+void TestTransferCommands::expectCritical(const ModalDriver::Box &box, const Way *way,
+                                          const char *text, const QWidget *parent)
+{
+    QCOMPARE(box.title, QString(way->title));
+    QCOMPARE(box.text, QString(text));
+    QCOMPARE(box.icon, QMessageBox::Critical);
+    QCOMPARE(int(box.buttons), int(QMessageBox::Ok));
+    QCOMPARE(static_cast<const QWidget *>(box.parent), parent);
+}
+
+void TestTransferCommands::init()
+{
+    ManagerTest::init();
+    Shell::reset();
+    Shell::recordTool("cp");
+    Shell::recordTool("rm");
+    // The machine's own disks have nothing to do with these tests.
+    Shell::standIn("sync", "echo sync >> /tmp/tools.log\n");
+    plugStick();
+}
+
+void TestTransferCommands::cleanup()
+{
+    Shell::reset();
+    ManagerTest::cleanup();
+}
+
+void TestTransferCommands::copyPutsTheOptionsBehindTheOperands()
+{
+    Manager manager;
+    Shell::answerNext(0);
+    QCOMPARE(manager.dialog.copyFile("/from", "a.cnc", "/to", "b.cnc"), 0);
+    QCOMPARE(Shell::commands(), QList<QByteArray>() << "cp /from/a.cnc /to/b.cnc -rf "
+                                                    << "sync");
+}
+
+void TestTransferCommands::deleteEndsWithoutABlank()
+{
+    Manager manager;
+    Shell::answerNext(0);
+    QCOMPARE(manager.dialog.deleteFile("/from", "a.cnc"), 0);
+    QCOMPARE(Shell::commands(), QList<QByteArray>() << "rm /from/a.cnc -rf"
+                                                    << "sync");
+}
+
+void TestTransferCommands::toolsAreCalledInOrder()
+{
+    writeFile(stickDir() + "/part.cnc", "G01\n");
+    Manager manager;
+    QCOMPARE(manager.dialog.copyFile(stickDir(), "part.cnc", programDir(), "copy.cnc"), 0);
+    QCOMPARE(manager.dialog.deleteFile(stickDir(), "part.cnc"), 0);
+    QCOMPARE(Shell::toolCalls(), QStringList()
+                                     << "cp [/mnt/Storage/part.cnc] [/tmp/home/cnc/copy.cnc] [-rf]"
+                                     << "sync"
+                                     << "rm [/mnt/Storage/part.cnc] [-rf]"
+                                     << "sync");
+    QCOMPARE(readFile(programDir() + "/copy.cnc"), QByteArray("G01\n"));
+    QVERIFY(!QFile::exists(stickDir() + "/part.cnc"));
+}
+
+void TestTransferCommands::charactersBeyondAsciiAreLost()
+{
+    Manager manager;
+    const QString umlaut = QString::fromUtf8("\xc3\xbc.cnc");
+    const QString winding = QString::fromUtf8("\xe7\xbb\x95.cnc");
+    writeFile(stickDir() + '/' + umlaut, "x");
+    writeFile(stickDir() + '/' + winding, "x");
+    QVERIFY(manager.dialog.copyFile(stickDir(), umlaut, programDir(), umlaut) != 0);
+    QVERIFY(manager.dialog.copyFile(stickDir(), winding, programDir(), "y") != 0);
+    QCOMPARE(Shell::commands().value(0),
+             QByteArray("cp /mnt/Storage/\xfc.cnc /tmp/home/cnc/\xfc.cnc -rf "));
+    // The "?" is the shell's sign for any character.
+    QCOMPARE(Shell::commands().value(2), QByteArray("cp /mnt/Storage/?.cnc /tmp/home/cnc/y -rf "));
+    QCOMPARE(manager.dialog.deleteFile(stickDir(), umlaut), 0);
+    QVERIFY(QFile::exists(stickDir() + '/' + umlaut));
+}
+
+void TestTransferCommands::blankInANameSplitsTheOperand()
+{
+    writeFile(stickDir() + "/a b", "x");
+    writeFile(programDir() + "/a b", "old");
+    Manager manager;
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    QVERIFY(Manager::select(manager.usbView, "a b"));
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(1), &toHmi, "Copy file failed!");
+    QCOMPARE(Shell::toolCalls(), QStringList()
+                                     << "rm [/tmp/home/cnc/a] [b] [-rf]"
+                                     << "sync"
+                                     << "cp [/mnt/Storage/a] [b] [/tmp/home/cnc/a] [b] [-rf]"
+                                     << "sync");
+    QCOMPARE(readFile(programDir() + "/a b"), QByteArray("old"));
+}
+
+void TestTransferCommands::statusComesBackUndecoded_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("status");
+    QTest::newRow("success") << QByteArray("exit 0\n") << 0;
+    QTest::newRow("exit status 1") << QByteArray("exit 1\n") << 0x100;
+    QTest::newRow("exit status 3") << QByteArray("exit 3\n") << 0x300;
+    QTest::newRow("exit status 255") << QByteArray("exit 255\n") << 0xff00;
+}
+
+void TestTransferCommands::statusComesBackUndecoded()
+{
+    QFETCH(QByteArray, script);
+    Shell::standIn("cp", script);
+    Shell::standIn("rm", script);
+    Manager manager;
+    QTEST(manager.dialog.copyFile("/from", "a", "/to", "a"), "status");
+    QTEST(manager.dialog.deleteFile("/from", "a"), "status");
+    // A shell that could not be started.
+    Shell::answerNext(-1);
+    QCOMPARE(manager.dialog.copyFile("/from", "a", "/to", "a"), -1);
+    Shell::answerNext(-1);
+    QCOMPARE(manager.dialog.deleteFile("/from", "a"), -1);
+}
+
+// Whether the shell became the tool or waited for it makes the status; it is never 0.
+void TestTransferCommands::killedToolIsAFailure()
+{
+    Shell::standIn("cp", "kill -9 $$\n");
+    Shell::standIn("rm", "kill -9 $$\n");
+    Manager manager;
+    const int copied = manager.dialog.copyFile("/from", "a", "/to", "a");
+    QVERIFY2(copied == 9 || copied == 137 << 8, QByteArray::number(copied));
+    const int deleted = manager.dialog.deleteFile("/from", "a");
+    QVERIFY2(deleted == 9 || deleted == 137 << 8, QByteArray::number(deleted));
+    QCOMPARE(commandsBeforeSync().size(), 2);
+}
+
+void TestTransferCommands::missingToolIsAFailure()
+{
+    Shell::hideTools();
+    Manager manager;
+    QCOMPARE(manager.dialog.copyFile("/from", "a", "/to", "a"), 127 << 8);
+    QCOMPARE(manager.dialog.deleteFile("/from", "a"), 127 << 8);
+    QCOMPARE(commandsBeforeSync().size(), 2);
+}
+
+void TestTransferCommands::failingSyncIsNotNoticed()
+{
+    writeFile(stickDir() + "/part.cnc", "x");
+    Shell::standIn("sync", "exit 5\n");
+    Manager manager;
+    QCOMPARE(manager.dialog.copyFile(stickDir(), "part.cnc", programDir(), "part.cnc"), 0);
+    QCOMPARE(manager.dialog.deleteFile(stickDir(), "part.cnc"), 0);
+}
+
+void TestTransferCommands::deletingWhatIsGoneIsASuccess()
+{
+    Manager manager;
+    QCOMPARE(manager.dialog.deleteFile(stickDir(), "gone.cnc"), 0);
+}
+
+void TestTransferCommands::deletingADirectoryTakesAllThatIsInIt()
+{
+    writeFile(stickDir() + "/folder/deeper/part.cnc", "x");
+    Manager manager;
+    QCOMPARE(manager.dialog.deleteFile(stickDir(), "folder"), 0);
+    QVERIFY(!QFile::exists(stickDir() + "/folder"));
+}
+
+namespace {
+
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void TestTransferCommands::processingIsOnTheScreenBeforeTheCommandRuns()
+{
+    Manager manager;
+    manager.dialog.show();
+    QVERIFY(TestCompat::waitForExposed(&manager.dialog));
+    QCoreApplication::processEvents();
+    PaintCounter counter;
+    manager.dialog.installEventFilter(&counter);
+    QString text;
+    int paints = 0;
+    Shell::setBefore([&] {
+        text = manager.status->text();
+        paints = counter.paints;
+    });
+    Shell::answerNext(0);
+    manager.dialog.copyFile("/from", "a", "/to", "a");
+    QCOMPARE(text, QString("Processing..."));
+    QVERIFY(paints > 0);
+
+    manager.dialog.init();
+    counter.paints = 0;
+    Shell::answerNext(0);
+    manager.dialog.deleteFile("/from", "a");
+    QCOMPARE(text, QString("Processing..."));
+    QVERIFY(paints > 0);
+}
+
+void TestTransferCommands::nothingSelected()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    // What is selected on the other side does not count.
+    writeFile(targetDir(way) + "/other.cnc", "x");
+    manager.dialog.init();
+    Manager::select(way->fromHmi ? manager.usbView : manager.hmiView, "other.cnc");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), way, way->nothingSelected);
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+    // The end of every operation: both selections are gone.
+    QVERIFY(!manager.usbView->currentIndex().isValid());
+    QVERIFY(!manager.hmiView->currentIndex().isValid());
+}
+
+void TestTransferCommands::missingStickRefusesACopy()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    pullStick();
+    // The marker has no say here.
+    writeFile(marker(), "");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), way, way->noStick);
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+}
+
+void TestTransferCommands::mountWithoutMarkerPassesTheUsbTest()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "G01\n");
+    Manager manager;
+    QFile::remove(marker());
+    if (way->fromHmi)
+        manager.dialog.init();
+    QVERIFY(select(manager, way, "part.cnc"));
+    manager.button(way->button)->click();
+    QVERIFY(manager.status->text().endsWith(" Usb not found!"));
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("G01\n"));
+}
+
+void TestTransferCommands::newFileIsCopiedWithoutAQuestion()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "N10 G01\n");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    manager.button(way->button)->click();
+    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << cp(way, "part.cnc"));
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("N10 G01\n"));
+    QCOMPARE(readFile(sourceDir(way) + "/part.cnc"), QByteArray("N10 G01\n"));
+    QCOMPARE(Manager::shown(manager.hmiView), QStringList("part.cnc"));
+    QCOMPARE(Manager::shown(manager.usbView), QStringList("part.cnc"));
+}
+
+void TestTransferCommands::failedCopyOfANewFileSaysSo()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    Shell::standIn("cp", "exit 1\n");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), way, "Copy file failed!");
+    QCOMPARE(commandsBeforeSync().size(), 1);
+}
+
+void TestTransferCommands::failedCopyLeavesWhatItWrote()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", QByteArray(3 * 1024 * 1024, 'x'));
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    Shell::standIn("cp", "head -c 2097152 \"$1\" > \"$2\"\nexit 1\n");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(QFileInfo(targetDir(way) + "/part.cnc").size(), Q_INT64_C(2097152));
+    QCOMPARE(Manager::shown(way->fromHmi ? manager.usbView : manager.hmiView),
+             QStringList("part.cnc"));
+    if (!way->fromHmi)
+        QCOMPARE(manager.status->text(), QString("Used Space 2M.Left Space 28M."));
+}
+
+void TestTransferCommands::coverIsAskedFor()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    writeFile(targetDir(way) + "/part.cnc", "old");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    const ModalDriver::Box box = driver.boxes().value(0);
+    QCOMPARE(box.title, QString(way->title));
+    QCOMPARE(box.text, QString("part.cnc") + way->coverQuestion);
+    QCOMPARE(box.icon, QMessageBox::Warning);
+    QCOMPARE(int(box.buttons), int(QMessageBox::Yes | QMessageBox::No));
+    QCOMPARE(box.parent, static_cast<QWidget *>(&manager.dialog));
+}
+
+void TestTransferCommands::coverGoesAheadOnlyOnYes_data()
+{
+    QTest::addColumn<const Way *>("way");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("panel to stick, no") << &toUsb << int(QMessageBox::No);
+    QTest::newRow("panel to stick, closed") << &toUsb << int(QMessageBox::NoButton);
+    QTest::newRow("stick to panel, no") << &toHmi << int(QMessageBox::No);
+    QTest::newRow("stick to panel, closed") << &toHmi << int(QMessageBox::NoButton);
+}
+
+void TestTransferCommands::coverGoesAheadOnlyOnYes()
+{
+    QFETCH(const Way *, way);
+    QFETCH(int, answer);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    writeFile(targetDir(way) + "/part.cnc", "old");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    if (answer == QMessageBox::NoButton)
+        driver.then([&manager](QWidget *) { manager.dialog.reject(); });
+    else
+        driver.press(QMessageBox::StandardButton(answer));
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("old"));
+}
+
+void TestTransferCommands::coverDeletesThenCopies()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    writeFile(targetDir(way) + "/part.cnc", "old");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(commandsBeforeSync(), QList<QByteArray>()
+                                       << rm(targetDir(way), "part.cnc") << cp(way, "part.cnc"));
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("new"));
+}
+
+void TestTransferCommands::failedDeleteStopsACover()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    writeFile(targetDir(way) + "/part.cnc", "old");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    Shell::standIn("rm", "exit 1\n");
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(1), way, "Can't cover this file!");
+    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << rm(targetDir(way), "part.cnc"));
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("old"));
+}
+
+void TestTransferCommands::failedCopyLosesTheCoveredFile()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    writeFile(targetDir(way) + "/part.cnc", "old");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    Shell::standIn("cp", "exit 1\n");
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(1), way, "Copy file failed!");
+    QVERIFY(!QFile::exists(targetDir(way) + "/part.cnc"));
+    QCOMPARE(readFile(sourceDir(way) + "/part.cnc"), QByteArray("new"));
+}
+
+void TestTransferCommands::namesDifferingInCaseAreTwoFiles()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    writeFile(targetDir(way) + "/PART.CNC", "old");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    manager.button(way->button)->click();
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("new"));
+    QCOMPARE(readFile(targetDir(way) + "/PART.CNC"), QByteArray("old"));
+}
+
+void TestTransferCommands::hiddenTwinIsOverwrittenWithoutAQuestion()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/.part", "new");
+    writeFile(targetDir(way) + "/.part", "old");
+    Manager manager;
+    // No panel shows a hidden file by itself.
+    QDirModel *model = Manager::model(source(manager, way));
+    model->setFilter(model->filter() | QDir::Hidden);
+    manager.dialog.init();
+    QVERIFY(select(manager, way, ".part"));
+    manager.button(way->button)->click();
+    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << cp(way, ".part"));
+    QCOMPARE(readFile(targetDir(way) + "/.part"), QByteArray("new"));
+}
+
+void TestTransferCommands::directoryOfThatNameIsCoveredWithAllInIt()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part", "new");
+    writeFile(targetDir(way) + "/part/deep/inner", "old");
+    // On the panel side the directory's own size is credited, and has to be covered by files.
+    writeFile(programDir() + "/others.cnc", QByteArray(100000, 'x'));
+    Manager manager;
+    QVERIFY(select(manager, way, "part"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(QFileInfo(targetDir(way) + "/part").isFile());
+    QCOMPARE(readFile(targetDir(way) + "/part"), QByteArray("new"));
+}
+
+void TestTransferCommands::directoryLargerThanTheUsedSpaceIsUnexpected()
+{
+    writeFile(stickDir() + "/part", "new");
+    writeFile(programDir() + "/part/inner", "old");
+    QVERIFY(QFileInfo(programDir() + "/part").size() > 0);
+    Manager manager;
+    QVERIFY(Manager::select(manager.usbView, "part"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(1), &toHmi, "Unexpected error!");
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+    QCOMPARE(readFile(programDir() + "/part/inner"), QByteArray("old"));
+}
+
+void TestTransferCommands::directoryOnTheStickIsRefused()
+{
+    writeFile(stickDir() + "/part", "x");
+    Manager manager;
+    QVERIFY(Manager::select(manager.usbView, "part"));
+    // The panel was read when it was still a file.
+    QVERIFY(QFile::remove(stickDir() + "/part"));
+    writeFile(stickDir() + "/part/inner", "x");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), &toHmi, "Font file can not be a Dir!");
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+
+    writeFile(programDir() + "/file", "old");
+    writeFile(stickDir() + "/file", "new");
+    manager.dialog.init();
+    QVERIFY(Manager::select(manager.usbView, "file"));
+    QVERIFY(QFile::remove(stickDir() + "/file"));
+    writeFile(stickDir() + "/file/inner", "x");
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(2), &toHmi, "Font file can not be a Dir!");
+    QCOMPARE(readFile(programDir() + "/file"), QByteArray("old"));
+}
+
+void TestTransferCommands::limitOfThePanelSide_data()
+{
+    QTest::addColumn<qint64>("others");
+    QTest::addColumn<int>("old");
+    QTest::addColumn<int>("source");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("new, one byte under") << limit - 101 << -1 << 100 << true;
+    QTest::newRow("new, on the limit") << limit - 100 << -1 << 100 << true;
+    QTest::newRow("new, one byte over") << limit - 99 << -1 << 100 << false;
+    QTest::newRow("cover, one byte under") << limit - 201 << 100 << 200 << true;
+    QTest::newRow("cover, on the limit") << limit - 200 << 100 << 200 << true;
+    QTest::newRow("cover, one byte over") << limit - 199 << 100 << 200 << false;
+}
+
+void TestTransferCommands::limitOfThePanelSide()
+{
+    QFETCH(qint64, others);
+    QFETCH(int, old);
+    QFETCH(int, source);
+    QFETCH(bool, fits);
+    const QByteArray bytes(source, 'n');
+    writeSparse(programDir() + "/others.cnc", others);
+    if (old >= 0)
+        writeFile(programDir() + "/part.cnc", QByteArray(old, 'o'));
+    writeFile(stickDir() + "/part.cnc", bytes);
+    Manager manager;
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    ModalDriver driver;
+    if (old >= 0)
+        driver.press(QMessageBox::Yes);
+    if (!fits)
+        driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    if (fits) {
+        QCOMPARE(readFile(programDir() + "/part.cnc"), bytes);
+        return;
+    }
+    EXPECT_CRITICAL(driver.boxes().last(), &toHmi, "Not enough Space!");
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+    QCOMPARE(readFile(programDir() + "/part.cnc"), old >= 0 ? QByteArray(old, 'o') : QByteArray());
+}
+
+void TestTransferCommands::copyToTheStickHasNoLimit()
+{
+    writeSparse(programDir() + "/part.cnc", limit + 1);
+    writeSparse(stickDir() + "/others.cnc", limit + 1);
+    Manager manager;
+    QVERIFY(Manager::select(manager.hmiView, "part.cnc"));
+    manager.button(">>")->click();
+    QCOMPARE(QFileInfo(stickDir() + "/part.cnc").size(), limit + 1);
+}
+
+void TestTransferCommands::refusedCoverKeepsTheOldFile()
+{
+    writeFile(programDir() + "/part.cnc", "old");
+    writeSparse(stickDir() + "/part.cnc", limit + 1);
+    Manager manager;
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(1), &toHmi, "Not enough Space!");
+    QCOMPARE(readFile(programDir() + "/part.cnc"), QByteArray("old"));
+}
+
+void TestTransferCommands::goneCoverTargetIsUnexpected()
+{
+    writeFile(programDir() + "/part.cnc", "old");
+    writeFile(stickDir() + "/part.cnc", "new");
+    Manager manager;
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    ModalDriver driver;
+    driver.then([](QWidget *widget) {
+        QFile::remove(programDir() + "/part.cnc");
+        static_cast<QDialog *>(widget)->done(QMessageBox::Yes);
+    });
+    driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), &toHmi, "Unexpected error!");
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+}
+
+void TestTransferCommands::fileThatWrapsTheSumIsCopied()
+{
+    // What is pinned is the command: no file of that size has to be moved.
+    Shell::standIn("cp", "exit 0\n");
+    writeSparse(stickDir() + "/huge.cnc", fourGibibytes + 1000);
+    writeSparse(stickDir() + "/large.cnc", fourGibibytes - 1);
+    Manager manager;
+    QVERIFY(Manager::select(manager.usbView, "huge.cnc"));
+    manager.button("<<")->click();
+    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << cp(&toHmi, "huge.cnc"));
+
+    QVERIFY(Manager::select(manager.usbView, "large.cnc"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button("<<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), &toHmi, "Not enough Space!");
+    QCOMPARE(commandsBeforeSync().size(), 1);
+}
+
+void TestTransferCommands::deleteIsAskedFor()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    const ModalDriver::Box box = driver.boxes().value(0);
+    QCOMPARE(box.title, QString(way->title));
+    QCOMPARE(box.text, QString("Are you sure to delete part.cnc?"));
+    QCOMPARE(box.icon, QMessageBox::Warning);
+    QCOMPARE(int(box.buttons), int(QMessageBox::Yes | QMessageBox::No));
+    QCOMPARE(box.parent, static_cast<QWidget *>(&manager.dialog));
+}
+
+void TestTransferCommands::deleteStopsOnlyOnNo_data()
+{
+    QTest::addColumn<const Way *>("way");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("deleted");
+    const Way *const ways[] = {&delHmi, &delUsb};
+    for (const Way *way : ways) {
+        const QByteArray title = way->title;
+        QTest::newRow(title + ", yes") << way << int(QMessageBox::Yes) << true;
+        QTest::newRow(title + ", no") << way << int(QMessageBox::No) << false;
+        QTest::newRow(title + ", closed with the dialog")
+            << way << int(QMessageBox::NoButton) << true;
+    }
+}
+
+void TestTransferCommands::deleteStopsOnlyOnNo()
+{
+    QFETCH(const Way *, way);
+    QFETCH(int, answer);
+    QFETCH(bool, deleted);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    writeFile(targetDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    if (answer == QMessageBox::NoButton)
+        driver.then([&manager](QWidget *) { manager.dialog.reject(); });
+    else
+        driver.press(QMessageBox::StandardButton(answer));
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(QFile::exists(sourceDir(way) + "/part.cnc"), !deleted);
+    QVERIFY(QFile::exists(targetDir(way) + "/part.cnc"));
+    QList<QByteArray> commands;
+    if (deleted)
+        commands << rm(sourceDir(way), "part.cnc");
+    QCOMPARE(commandsBeforeSync(), commands);
+}
+
+void TestTransferCommands::failedDeleteSaysSo()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    Shell::standIn("rm", "exit 1\n");
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(1), way, "Can't delete this file.");
+}
+
+void TestTransferCommands::deleteOfAGoneFileSaysNothing()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    QVERIFY(QFile::remove(sourceDir(way) + "/part.cnc"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(Manager::shown(source(manager, way)), QStringList());
+}
+
+void TestTransferCommands::deleteWithoutAStickOrASelectionNeverAsks()
+{
+    pullStick();
+    Manager manager;
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button("Del<")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), &delUsb, "No file Selected.");
+}
+
+void TestTransferCommands::selectionIsGoneAfterEachOperation()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    writeFile(sourceDir(way) + "/second.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    if (!*way->coverQuestion)
+        driver.press(QMessageBox::Yes);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().last(), way, way->nothingSelected);
+    QCOMPARE(commandsBeforeSync().size(), 1);
+}
+
+// A panel without a root shows the top level.
+void TestTransferCommands::itemOutsideTheDirectoryIsNoSelection()
+{
+    QFETCH(const Way *, way);
+    Manager manager;
+    if (way->fromHmi)
+        QVERIFY(QDir().rmdir(home() + "/cnc"));
+    else
+        pullStick();
+    manager.dialog.init();
+    QVERIFY(select(manager, way, "/"));
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), way, way->nothingSelected);
+    QCOMPARE(Shell::commands(), QList<QByteArray>());
+}
+
+void TestTransferCommands::directoryAnywhereInThePathIsASelection()
+{
+    writeFile(home() + "/mnt/Storage/part.cnc", "elsewhere");
+    writeFile(stickDir() + "/part.cnc", "stick");
+    Manager manager;
+    QDirModel *model = Manager::model(manager.usbView);
+    manager.usbView->setRootIndex(model->index(home() + "/mnt/Storage"));
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    manager.button("<<")->click();
+    // The name counts, in the stick's directory.
+    QCOMPARE(readFile(programDir() + "/part.cnc"), QByteArray("stick"));
+}
+
+void TestTransferCommands::statusLineIsRestoredByEveryEnd()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    const QString before = manager.status->text();
+    const char *const scripts[] = {"exit 1\n", "exit 0\n"};
+    for (const char *script : scripts) {
+        Shell::standIn("cp", script);
+        Shell::standIn("rm", script);
+        QVERIFY(select(manager, way, "part.cnc"));
+        QString during;
+        Shell::setBefore([&] { during = manager.status->text(); });
+        ModalDriver driver;
+        if (!*way->coverQuestion)
+            driver.press(QMessageBox::Yes);
+        if (QByteArray(script) == "exit 1\n")
+            driver.press(QMessageBox::Ok);
+        manager.button(way->button)->click();
+        QVERIFY2(driver.finished(), driver.report());
+        QCOMPARE(during, QString("Processing..."));
+        QCOMPARE(manager.status->text(), before);
+    }
+}
+
+void TestTransferCommands::stickPulledAtTheQuestion()
+{
+    QFETCH(const Way *, way);
+    writeFile(programDir() + "/part.cnc", "panel");
+    writeFile(stickDir() + "/part.cnc", "stick");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    ModalDriver driver;
+    driver.then([](QWidget *widget) {
+        pullStick();
+        static_cast<QDialog *>(widget)->done(QMessageBox::Yes);
+    });
+    // The delete finds nothing to do on the stick; the copy fails.
+    const bool copies = *way->coverQuestion;
+    if (copies)
+        driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    if (copies)
+        EXPECT_CRITICAL(driver.boxes().value(0), way, "Copy file failed!");
+    // A cover from the stick has lost the old file by then.
+    QCOMPARE(QFile::exists(programDir() + "/part.cnc"), way == &toUsb || way == &delUsb);
+    QVERIFY(manager.status->text().endsWith(" Usb not found!"));
+    QVERIFY(!QFile::exists(stickDir()));
+}
+
+void TestTransferCommands::stickPulledBetweenTestAndCommand()
+{
+    QFETCH(const Way *, way);
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    Manager manager;
+    QVERIFY(select(manager, way, "part.cnc"));
+    Shell::setBefore([] { pullStick(); });
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    manager.button(way->button)->click();
+    QVERIFY2(driver.finished(), driver.report());
+    EXPECT_CRITICAL(driver.boxes().value(0), way, "Copy file failed!");
+    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << cp(way, "part.cnc"));
+    QCOMPARE(QFile::exists(programDir() + "/part.cnc"), way->fromHmi);
+}
+
+void TestTransferCommands::everythingWithTheRealTools()
+{
+    Shell::reset();
+    QByteArray program;
+    for (int line = 0; line < 5000; ++line)
+        program += "N" + QByteArray::number(10 * line) + " G01 X" + QByteArray::number(line) + '\n';
+    writeFile(stickDir() + "/part.cnc", program);
+    Manager manager;
+    ModalDriver driver;
+
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    manager.button("<<")->click();
+    QCOMPARE(readFile(programDir() + "/part.cnc"), program);
+
+    writeFile(stickDir() + "/part.cnc", "M30\n");
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    driver.press(QMessageBox::Yes);
+    manager.button("<<")->click();
+    QCOMPARE(readFile(programDir() + "/part.cnc"), QByteArray("M30\n"));
+
+    QVERIFY(Manager::select(manager.usbView, "part.cnc"));
+    driver.press(QMessageBox::Yes);
+    manager.button("Del<")->click();
+    QCOMPARE(Manager::shown(manager.usbView), QStringList());
+
+    QVERIFY(Manager::select(manager.hmiView, "part.cnc"));
+    manager.button(">>")->click();
+    QCOMPARE(readFile(stickDir() + "/part.cnc"), QByteArray("M30\n"));
+
+    QVERIFY(Manager::select(manager.hmiView, "part.cnc"));
+    driver.press(QMessageBox::Yes);
+    manager.button(">Del")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(Manager::shown(manager.hmiView), QStringList());
+    QCOMPARE(Manager::shown(manager.usbView), QStringList("part.cnc"));
+}
+
+FILARIX_TEST_MAIN(TestTransferCommands)
+#include "tst_transfercommands.moc"
