@@ -6,6 +6,7 @@
 
 // What QtTest of Qt 4.8 lacks of Qt 5.15's.
 
+#include <QHeaderView>
 #include <QPixmap>
 #include <QTest>
 #include <QWidget>
@@ -38,6 +39,15 @@ inline QPixmap grab(QWidget *widget)
     return widget->grab();
 #else
     return QPixmap::grabWidget(widget);
+#endif
+}
+
+inline QHeaderView::ResizeMode sectionResizeMode(const QHeaderView *header, int section)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return header->sectionResizeMode(section);
+#else
+    return header->resizeMode(section);
 #endif
 }
 
