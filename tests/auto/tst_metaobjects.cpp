@@ -20,8 +20,11 @@
 #include "spinbox.h"
 #include "tlistwidget.h"
 #include "wcopydialog.h"
+#include "wfiledialog.h"
 #include "wfinddialog.h"
+#include "wgcodeediter.h"
 #include "whighlighter.h"
+#include "wmmainwindow.h"
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -118,6 +121,11 @@ void TestMetaObjects::ownEntriesInOrder_data()
              QStringList() << "public slot slot_minus()"
                            << "public slot slot_plus()"
                            << "property QString text read write");
+    newClass("Dialog", WFileDialog::staticMetaObject,
+             QStringList() << "private slot openFileOfItem(int,int)"
+                           << "private slot on_applyButton_clicked()"
+                           << "private slot on_cancelButton_clicked()"
+                           << "property QString text read write");
     newClass("QDialog", WFindDialog::staticMetaObject,
              QStringList() << "signal findNext(QString,Qt::CaseSensitivity)"
                            << "signal findPrevious(QString,Qt::CaseSensitivity)"
@@ -125,7 +133,40 @@ void TestMetaObjects::ownEntriesInOrder_data()
                            << "private slot findClicked()"
                            << "private slot enableFindButton(QString)"
                            << "private slot replaceClicked()");
+    newClass("QPlainTextEdit", WGCodeEditer::staticMetaObject,
+             QStringList() << "public slot updateLineNumberAreaWidth(int)"
+                           << "public slot highlightCurrentLine()"
+                           << "public slot updateLineNumberArea(QRect,int)"
+                           << "public slot gotoLine(int)"
+                           << "public slot copy()"
+                           << "public slot paste()"
+                           << "public slot findAndReplace()"
+                           << "public slot findNext(QString,Qt::CaseSensitivity)"
+                           << "public slot findPrevious(QString,Qt::CaseSensitivity)"
+                           << "public slot replaceTxt(QString)");
     newClass("QSyntaxHighlighter", WHighlighter::staticMetaObject, QStringList());
+
+    newClass("QSplitter", WMMainWindow::staticMetaObject,
+             QStringList() << "signal signal_download(QString)"
+                           << "signal signal_copyFromTag()"
+                           << "signal signal_softEditGCode(QString)"
+                           << "signal gDataIsCorrect()"
+                           << "private slot newFile()"
+                           << "private slot open()"
+                           << "private slot remove()"
+                           << "private slot bool save()"
+                           << "private slot bool saveAs()"
+                           << "private slot bool importExport()"
+                           << "private slot documentWasModified()"
+                           << "private slot slot_updateTips()"
+                           << "private slot bool download()"
+                           << "private slot moveEvent()"
+                           << "private slot softEditGcode()"
+                           << "private slot insertRow()"
+                           << "private slot insertBefore()"
+                           << "private slot deleteRow()"
+                           << "private slot copyFromTag()"
+                           << "property QString text read write");
 
     newClass("QLineEdit", ComboLineEdit::staticMetaObject,
              QStringList() << "signal clicked()"
