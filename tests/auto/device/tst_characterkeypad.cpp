@@ -5,6 +5,8 @@
 
 #include <hmidevice/characterkeypad.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QRegExpValidator>
 
 #include <memory>
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void validatorDecides();
     void callerAndValidatorMayVanish();
     void keyboardWorks();
+    void pastedLinesBecomeOne();
     void staysOnTheScreen_data();
     void staysOnTheScreen();
     void lowScreenIsCoveredWhole();
@@ -248,6 +251,15 @@ void TestCharacterKeypad::keyboardWorks()
     QCOMPARE(caller.text(), QString("aBc"));
 }
 
+void TestCharacterKeypad::pastedLinesBecomeOne()
+{
+    QApplication::clipboard()->setText(QLatin1String("one\ttwo\nthree"));
+    runPad([] {
+        QTest::keyClick(value(pad()), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(value(pad())->text(), QString("onetwothree"));
+    });
+}
+
 void TestCharacterKeypad::staysOnTheScreen_data()
 {
     addScreens();
@@ -268,8 +280,9 @@ void TestCharacterKeypad::staysOnTheScreen()
 
 void TestCharacterKeypad::lowScreenIsCoveredWhole()
 {
-    setScreen(QRect(0, 0, 480, 272));
-    runPad([] { QCOMPARE(pad()->geometry(), QRect(0, 0, 480, 272)); });
+    setScreen(QRect(0, 0, 800, 390));
+    pad()->resize(480, 272);
+    runPad([] { QCOMPARE(pad()->geometry(), QRect(0, 0, 800, 390)); });
     setScreen(QRect(0, 0, 480, 800));
     runPad([] {
         QCOMPARE(pad()->width(), 480);
