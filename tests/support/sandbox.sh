@@ -37,7 +37,7 @@ done
 args+=(
     --dir /usr/share/qt/bin
     --dir /tmp/home
-    --dir /tmp/runtime
+    --perms 0700 --dir /tmp/runtime
     --perms 1777 --dir /tmp/.X11-unix
 )
 # The build tree may lie below a folder that was just replaced.

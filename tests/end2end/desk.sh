@@ -1,0 +1,133 @@
+# shellcheck shell=bash
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# Sourced by the end-to-end tests: an X server with a window manager, the panel program on it, and
+# clicks and keys that the X server sends. Runs inside the sandbox.
+#
+# The locator library, loaded into the unchanged program, tells where the widgets are; that is all
+# it does.
+
+set -euo pipefail
+
+desk_panel=$1
+desk_locator=$2
+desk_map=/tmp/widgets
+desk_pids=()
+
+desk_fail() {
+    echo "FAILED: $*" >&2
+    if [ -f "$desk_map" ]; then
+        echo "-- what stood on the screen (window, class, name, text, enabled, x, y):" >&2
+        cat "$desk_map" >&2
+    fi
+    [ ! -f /tmp/panel.log ] || tail -n 30 /tmp/panel.log >&2
+    exit 1
+}
+
+desk_stop() {
+    local pid
+    for pid in "${desk_pids[@]}"; do
+        kill "$pid" 2>/dev/null || true
+    done
+}
+trap desk_stop EXIT
+
+# desk_until SECONDS COMMAND...: waits until the command succeeds.
+desk_until() {
+    local end=$((SECONDS + $1))
+    shift
+    until "$@"; do
+        [ "$SECONDS" -lt "$end" ] || return 1
+        sleep 0.05
+    done
+}
+
+# desk_start WIDTHxHEIGHT [PANEL OPTION ...]
+desk_start() {
+    local size=$1
+    shift
+    export DISPLAY=:99 QT_QPA_PLATFORM=xcb
+    Xvfb :99 -screen 0 "${size}x24" -nolisten tcp -noreset >/tmp/xvfb.log 2>&1 &
+    desk_pids+=($!)
+    desk_until 20 xdpyinfo >/dev/null 2>&1 || desk_fail "no X server: $(cat /tmp/xvfb.log)"
+    openbox --sm-disable >/tmp/openbox.log 2>&1 &
+    desk_pids+=($!)
+    desk_until 20 desk_has_window_manager || desk_fail "no window manager: $(cat /tmp/openbox.log)"
+    FILARIX_LOCATOR=$desk_map LD_PRELOAD=$desk_locator \
+        "$desk_panel" --size "$size" "$@" >/tmp/panel.log 2>&1 &
+    desk_pids+=($!)
+    desk_until 30 test -s "$desk_map" || desk_fail "the panel shows nothing"
+}
+
+desk_has_window_manager() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+# desk_place TEXT [WINDOW TITLE]: "x y" of the first enabled widget or item with this text.
+desk_place() {
+    [ -f "$desk_map" ] || return 1
+    awk -F '\t' -v text="$1" -v title="${2-}" '
+        $4 == text && $5 == 1 && (title == "" || index($1, title)) { print $6, $7; found = 1; exit }
+        END { exit !found }' "$desk_map"
+}
+
+# desk_named NAME [N]: "x y" of the first, or Nth, enabled widget with this class or object name.
+desk_named() {
+    [ -f "$desk_map" ] || return 1
+    awk -F '\t' -v name="$1" -v nth="${2:-1}" '
+        ($2 == name || $3 == name) && $5 == 1 && --nth == 0 { print $6, $7; found = 1; exit }
+        END { exit !found }' "$desk_map"
+}
+
+desk_click_at() {
+    xdotool mousemove "$1" "$2" click 1
+}
+
+# touch_text TEXT [WINDOW TITLE]: waits for the widget and clicks on its middle.
+touch_text() {
+    local place
+    desk_until 20 desk_place "$@" >/dev/null || desk_fail "nothing reads \"$1\" ${2:+in \"$2\"}"
+    # A window that has just come up may still move.
+    sleep 0.15
+    place=$(desk_place "$@") || desk_fail "\"$1\" went away"
+    # shellcheck disable=SC2086
+    desk_click_at $place
+}
+
+# touch_named NAME [N]: the same by class or object name.
+touch_named() {
+    local place
+    desk_until 20 desk_named "$@" >/dev/null || desk_fail "nothing is named \"$1\" ${2-}"
+    sleep 0.15
+    place=$(desk_named "$@") || desk_fail "\"$1\" went away"
+    # shellcheck disable=SC2086
+    desk_click_at $place
+}
+
+# type_keys TEXT: on the keypad that is open, key by key.
+type_keys() {
+    local i key
+    for ((i = 0; i < ${#1}; ++i)); do
+        key=${1:i:1}
+        [ "$key" != " " ] || key=space
+        touch_named "key_$key"
+    done
+}
+
+desk_shows() { desk_place "$@" >/dev/null; }
+desk_hides() { ! desk_place "$@" >/dev/null; }
+
+# expect_text TEXT [WINDOW TITLE] / expect_gone TEXT [WINDOW TITLE]
+expect_text() { desk_until 20 desk_shows "$@" || desk_fail "\"$1\" never showed ${2:+in \"$2\"}"; }
+expect_gone() { desk_until 20 desk_hides "$@" || desk_fail "\"$1\" stays ${2:+in \"$2\"}"; }
+
+# expect_same FILE FILE WHAT
+expect_same() {
+    cmp "$1" "$2" || desk_fail "$3: $(diff "$1" "$2" | head -n 8)"
+}
+
+# desk_picture FILE: a picture of the whole screen, kept when FILARIX_PICTURES names a folder.
+desk_picture() {
+    [ -z "${FILARIX_PICTURES:-}" ] || import -window root "$FILARIX_PICTURES/$1"
+}
