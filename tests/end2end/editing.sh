@@ -6,7 +6,7 @@
 #
 # Edits without a keyboard: a line on the G-code keypad, a word found and replaced, three lines
 # copied and pasted. Then the saved program is compared with what it has to hold.
-# shellcheck source=desk.sh
+# shellcheck source-path=SCRIPTDIR source=desk.sh
 source "$(dirname "$(readlink -f "$0")")/desk.sh"
 
 program=$HOME/cnc/test-coil.cnc

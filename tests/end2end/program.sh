@@ -7,7 +7,7 @@
 # The first minutes of an operator: open a long program, go up and down, insert a line, write it on the
 # keypad, save it under a new name, and send it to the PLC. Then the stored file and the PLC's are
 # compared byte by byte with what they have to hold.
-# shellcheck source=desk.sh
+# shellcheck source-path=SCRIPTDIR source=desk.sh
 source "$(dirname "$(readlink -f "$0")")/desk.sh"
 
 programs=$HOME/cnc
