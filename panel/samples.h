@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SAMPLES_H
+#define SAMPLES_H
+
+#include <QStringList>
+
+/// The sample programs that come with the panel program.
+namespace Samples {
+
+/// Names of the samples, shortest program first.
+QStringList names();
+/// Copies the samples into \a programDir if no program (*.cnc) lies there. A file that is in the
+/// way stays as it is. Returns the names of those that were copied.
+QStringList install(const QString &programDir);
+
+} // namespace Samples
+
+#endif // SAMPLES_H

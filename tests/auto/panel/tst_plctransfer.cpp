@@ -1,0 +1,307 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "plctransfer.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSignalSpy>
+
+class TestPlcTransfer : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void programArrivesByteForByte_data();
+    void programArrivesByteForByte();
+    void progressRisesTo100();
+    void eventLoopRunsBetweenThePieces();
+    void earlierProgramOfTheNameIsReplaced();
+    void failures_data();
+    void failures();
+    void folderThatTakesNothing();
+    void folderThatIsTheProgramDirectory();
+    void programTooLarge();
+    void programSavedAgainMeanwhileArrivesAsItWas();
+    void arrivalThatDiffersIsTakenOut_data();
+    void arrivalThatDiffersIsTakenOut();
+    void stopKeepsWhatThePlcHad();
+    void secondStartWhileRunningDoesNothing();
+    void oneTransferAfterAnother();
+
+private:
+    QString m_plc;
+};
+
+static QByteArray longProgram()
+{
+    QByteArray program;
+    for (int i = 0; program.size() < 10 * PlcTransfer::kPiece; ++i)
+        program += "G01 X" + QByteArray::number(i) + "\n";
+    return program;
+}
+
+void TestPlcTransfer::init()
+{
+    FilarixTest::init();
+    m_plc = home() + "/plc";
+    QVERIFY(QDir().mkpath(m_plc));
+    programDir();
+}
+
+void TestPlcTransfer::programArrivesByteForByte_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QByteArray allBytes;
+    for (int i = 0; i < 256; ++i)
+        allBytes += char(i);
+    const QByteArray piece(PlcTransfer::kPiece, 'X');
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("one byte") << QByteArray("G");
+    QTest::newRow("every byte there is") << allBytes;
+    QTest::newRow("carriage returns") << QByteArray("G01\r\nG02\r\n");
+    QTest::newRow("one under a piece") << piece.left(piece.size() - 1);
+    QTest::newRow("a piece") << piece;
+    QTest::newRow("one over a piece") << piece + 'Y';
+    QTest::newRow("many pieces") << longProgram();
+}
+
+void TestPlcTransfer::programArrivesByteForByte()
+{
+    QFETCH(QByteArray, bytes);
+    writeFile(programDir() + "/coil.cnc", bytes);
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc");
+    QVERIFY(transfer.isRunning());
+    QTRY_COMPARE(ends.size(), 1);
+    QVERIFY(!transfer.isRunning());
+    QCOMPARE(failures.size(), 0);
+    QCOMPARE(ends.at(0).at(0).toString(), m_plc + "/coil.cnc");
+    QCOMPARE(ends.at(0).at(1).toLongLong(), qint64(bytes.size()));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
+    // Nothing half-made lies beside it.
+    QCOMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestPlcTransfer::progressRisesTo100()
+{
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    PlcTransfer transfer(m_plc);
+    QSignalSpy steps(&transfer, SIGNAL(progress(int)));
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    int last = 0;
+    for (int i = 0; i < steps.size(); ++i) {
+        QVERIFY(steps.at(i).at(0).toInt() >= last);
+        last = steps.at(i).at(0).toInt();
+    }
+    QCOMPARE(last, 100);
+    QVERIFY(steps.size() >= 20);
+}
+
+void TestPlcTransfer::eventLoopRunsBetweenThePieces()
+{
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    PlcTransfer transfer(m_plc);
+    int turns = 0;
+    QTimer other;
+    connect(&other, &QTimer::timeout, [&] { ++turns; });
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    other.start(0);
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QVERIFY2(turns >= 20, qPrintable(QString::number(turns)));
+}
+
+void TestPlcTransfer::earlierProgramOfTheNameIsReplaced()
+{
+    writeFile(m_plc + "/coil.cnc", longProgram());
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("G01\n"));
+}
+
+void TestPlcTransfer::failures_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("never saved") << ""
+                                 << "plc"
+                                 << "Save it";
+    QTest::newRow("gone") << "cnc/gone.cnc"
+                          << "plc"
+                          << "gone.cnc";
+    QTest::newRow("a directory") << "cnc"
+                                 << "plc"
+                                 << "not a program";
+    QTest::newRow("no PLC") << "cnc/coil.cnc"
+                            << "nowhere"
+                            << "nowhere";
+    QTest::newRow("PLC is a file") << "cnc/coil.cnc"
+                                   << "cnc/coil.cnc"
+                                   << "does not answer";
+}
+
+void TestPlcTransfer::failures()
+{
+    QFETCH(QString, program);
+    QFETCH(QString, folder);
+    QFETCH(QString, word);
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    PlcTransfer transfer(home() + '/' + folder);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(program.isEmpty() ? QString() : home() + '/' + program);
+    // Never before start() has returned: a caller brackets it.
+    QCOMPARE(failures.size(), 0);
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(!transfer.isRunning());
+    const QString reason = failures.at(0).at(0).toString();
+    QVERIFY2(reason.contains(word), qPrintable(reason));
+    QTest::qWait(20);
+    QCOMPARE(failures.size(), 1);
+    QCOMPARE(ends.size(), 0);
+    QVERIFY(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+void TestPlcTransfer::folderThatTakesNothing()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    // All of the machine is read-only here.
+    PlcTransfer transfer("/usr/bin");
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(failures.at(0).at(0).toString().contains("does not take"));
+}
+
+void TestPlcTransfer::folderThatIsTheProgramDirectory()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    PlcTransfer transfer(programDir() + "/../cnc/.");
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QCOMPARE(readFile(programDir() + "/coil.cnc"), QByteArray("G01\n"));
+}
+
+void TestPlcTransfer::programTooLarge()
+{
+    QFile file(programDir() + "/coil.cnc");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.resize(PlcTransfer::kLargestProgram + 1));
+    PlcTransfer transfer(m_plc);
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(failures.at(0).at(0).toString().contains("64 MB"));
+}
+
+void TestPlcTransfer::programSavedAgainMeanwhileArrivesAsItWas()
+{
+    const QByteArray bytes = longProgram();
+    writeFile(programDir() + "/coil.cnc", bytes);
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    connect(&transfer, &PlcTransfer::progress,
+            [&](int) { writeFile(programDir() + "/coil.cnc", "another\n"); });
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
+}
+
+void TestPlcTransfer::arrivalThatDiffersIsTakenOut_data()
+{
+    QTest::addColumn<int>("keep");
+    QTest::addColumn<QByteArray>("tail");
+    const int size = longProgram().size();
+    QTest::newRow("another last byte") << size - 1 << QByteArray("?");
+    QTest::newRow("a byte short") << size - 1 << QByteArray();
+    QTest::newRow("a byte over") << size << QByteArray("?");
+}
+
+void TestPlcTransfer::arrivalThatDiffersIsTakenOut()
+{
+    QFETCH(int, keep);
+    QFETCH(QByteArray, tail);
+    const QByteArray bytes = longProgram();
+    writeFile(programDir() + "/coil.cnc", bytes);
+    PlcTransfer transfer(m_plc);
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    const QString target = m_plc + "/coil.cnc";
+    bool spoilt = false;
+    connect(&transfer, &PlcTransfer::progress, [&](int) {
+        if (spoilt || !QFileInfo(target).exists())
+            return;
+        QFile file(target);
+        spoilt = file.open(QIODevice::ReadWrite) && file.resize(keep) && file.seek(keep)
+                 && file.write(tail) == tail.size();
+    });
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(spoilt);
+    QVERIFY(failures.at(0).at(0).toString().contains("differs"));
+    QVERIFY(!QFileInfo(target).exists());
+}
+
+void TestPlcTransfer::stopKeepsWhatThePlcHad()
+{
+    writeFile(m_plc + "/coil.cnc", "before\n");
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    PlcTransfer transfer(m_plc);
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    connect(&transfer, &PlcTransfer::progress, [&](int percent) {
+        if (percent >= 20)
+            transfer.stop();
+    });
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(!transfer.isRunning());
+    QTest::qWait(20);
+    QCOMPARE(failures.size(), 1);
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
+    QCOMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestPlcTransfer::secondStartWhileRunningDoesNothing()
+{
+    writeFile(programDir() + "/a.cnc", longProgram());
+    writeFile(programDir() + "/b.cnc", "b\n");
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    transfer.start(programDir() + "/a.cnc");
+    transfer.start(programDir() + "/b.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QTest::qWait(20);
+    QCOMPARE(ends.size(), 1);
+    QVERIFY(!QFileInfo(m_plc + "/b.cnc").exists());
+}
+
+void TestPlcTransfer::oneTransferAfterAnother()
+{
+    writeFile(programDir() + "/a.cnc", longProgram());
+    writeFile(programDir() + "/b.cnc", "b\n");
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/a.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    transfer.start(QString());
+    QTRY_COMPARE(failures.size(), 1);
+    transfer.start(programDir() + "/b.cnc");
+    QTRY_COMPARE(ends.size(), 2);
+    QCOMPARE(readFile(m_plc + "/a.cnc"), longProgram());
+    QCOMPARE(readFile(m_plc + "/b.cnc"), QByteArray("b\n"));
+}
+
+FILARIX_TEST_MAIN(TestPlcTransfer)
+#include "tst_plctransfer.moc"
