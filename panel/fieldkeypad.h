@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FIELDKEYPAD_H
+#define FIELDKEYPAD_H
+
+#include <QObject>
+
+/// Opens the character keypad on a touched field of the find dialog.
+///
+/// The library's other fields open a keypad by themselves; those of its find dialog are for keys,
+/// and a panel may have none.
+class FieldKeypad : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Watches the application from now on.
+    explicit FieldKeypad(QObject *parent);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+#endif // FIELDKEYPAD_H

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "glyphs.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace {
+
+// Drawn once at twice the largest size in use; the icon scales it down.
+const int kSide = 96;
+// All paths lie on a grid of 24 by 24.
+const qreal kGrid = 24;
+
+QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> strokes)
+{
+    QPainterPath path;
+    for (const std::initializer_list<QPointF> &stroke : strokes) {
+        const QPointF *point = stroke.begin();
+        path.moveTo(*point);
+        while (++point != stroke.end())
+            path.lineTo(*point);
+    }
+    return path;
+}
+
+// A half turn with an arrow head at its left end.
+QPainterPath turn()
+{
+    QPainterPath path;
+    path.moveTo(5, 9);
+    path.lineTo(14, 9);
+    path.arcTo(QRectF(9.5, 9, 10, 10), 90, -180);
+    path.lineTo(8, 19);
+    path.addPath(lines({{{9.5, 4}, {4.5, 9}, {9.5, 14}}}));
+    return path;
+}
+
+QPainterPath shape(Glyphs::Glyph glyph)
+{
+    QPainterPath path;
+    switch (glyph) {
+    case Glyphs::Program:
+        path = lines({{{5, 3}, {15, 3}, {19, 7}, {19, 21}, {5, 21}, {5, 3}},
+                      {{8.5, 9}, {15.5, 9}},
+                      {{8.5, 13}, {15.5, 13}},
+                      {{8.5, 17}, {12.5, 17}}});
+        break;
+    case Glyphs::Teach:
+        path = lines({{{3, 21}, {21, 21}}, {{6, 21}, {6, 13}, {14, 8}}});
+        path.addEllipse(QPointF(6, 12), 2, 2);
+        path.addEllipse(QPointF(16, 7), 2.5, 2.5);
+        path.addPath(lines({{{16, 12}, {16, 16}}, {{14, 14}, {18, 14}}}));
+        break;
+    case Glyphs::Variables:
+        path = lines({{{3, 5}, {21, 5}, {21, 19}, {3, 19}, {3, 5}},
+                      {{3, 10}, {21, 10}},
+                      {{10, 5}, {10, 19}}});
+        path.addPath(lines({{{13, 14.5}, {18, 14.5}}}));
+        break;
+    case Glyphs::Connections:
+        path.addRect(9, 3, 6, 5);
+        path.addRect(3, 16, 6, 5);
+        path.addRect(15, 16, 6, 5);
+        path.addPath(lines({{{12, 8}, {12, 12}}, {{6, 16}, {6, 12}, {18, 12}, {18, 16}}}));
+        break;
+    case Glyphs::Files:
+        path = lines({{{3, 19}, {3, 5}, {9, 5}, {11, 8}, {21, 8}, {21, 19}, {3, 19}}});
+        break;
+    case Glyphs::Menu:
+        path = lines({{{4, 6}, {20, 6}}, {{4, 12}, {20, 12}}, {{4, 18}, {20, 18}}});
+        break;
+    case Glyphs::Find:
+        path.addEllipse(QPointF(10, 10), 6, 6);
+        path.addPath(lines({{{14.5, 14.5}, {21, 21}}}));
+        break;
+    case Glyphs::Undo:
+        path = turn();
+        break;
+    case Glyphs::Redo:
+        path = QTransform(-1, 0, 0, 1, kGrid, 0).map(turn());
+        break;
+    case Glyphs::More:
+        path = lines({{{5, 5}, {12, 12}, {5, 19}}, {{12, 5}, {19, 12}, {12, 19}}});
+        break;
+    case Glyphs::Close:
+        path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
+        break;
+    }
+    return path;
+}
+
+} // namespace
+
+QIcon Glyphs::icon(Glyph glyph, const QColor &color)
+{
+    QPixmap pixmap(kSide, kSide);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(kSide / kGrid, kSide / kGrid);
+    painter.setPen(QPen(color, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(shape(glyph));
+    return QIcon(pixmap);
+}

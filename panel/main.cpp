@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "dialogkeeper.h"
+#include "fieldkeypad.h"
+#include "glyphs.h"
+#include "look.h"
+#include "machinedata.h"
+#include "options.h"
+#include "panelstyle.h"
+#include "panelsurface.h"
+#include "panelwindow.h"
+#include "programscreen.h"
+#include "samples.h"
+#include "tour.h"
+#include "waqp.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+bool hasArgument(int argc, char **argv, std::initializer_list<const char *> names)
+{
+    for (int i = 1; i < argc; ++i) {
+        for (const char *name : names) {
+            const size_t length = std::strlen(name);
+            if (!std::strncmp(argv[i], name, length)
+                && (argv[i][length] == '\0' || argv[i][length] == '='))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// The outcome of a command line that shows no panel: the exit status.
+int answer(const Options &options)
+{
+    const bool refused = options.outcome == Options::Refuse;
+    std::fputs(options.text.toLocal8Bit().constData(), refused ? stderr : stdout);
+    if (refused)
+        std::fputc('\n', stderr);
+    return refused ? 2 : 0;
+}
+
+void setUpLook()
+{
+    QApplication::setStyle(new PanelStyle);
+    QApplication::setPalette(Look::palette());
+    QFont font = QApplication::font();
+    font.setPixelSize(15);
+    QApplication::setFont(font);
+}
+
+QSize surfaceSize(const Options &options)
+{
+    if (options.size.isValid() || PanelSurface::isDesktop())
+        return options.surfaceSize();
+    return QGuiApplication::primaryScreen()->size();
+}
+
+int runPanel(const Options &options)
+{
+    if (!options.programDir.isEmpty()) {
+        if (!QDir().mkpath(options.programDir)) {
+            std::fprintf(stderr, "The program directory %s cannot be made.\n",
+                         qPrintable(options.programDir));
+            return 2;
+        }
+        qputenv("HOME", QFile::encodeName(options.home()));
+    }
+    Samples::install(WAQP::getCncDir());
+    const QString plcDir =
+        options.plcDir.isEmpty() ? QDir::home().filePath(QLatin1String("plc")) : options.plcDir;
+    // A folder that cannot be made is a PLC that is away, and the panel says so.
+    QDir().mkpath(plcDir);
+
+    setUpLook();
+    PanelWindow panel(surfaceSize(options));
+    new PanelSurface(&panel, options.touch);
+    new FieldKeypad(&panel);
+    new DialogKeeper(&panel);
+    MachineData machine;
+    ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, &machine);
+    panel.addScreen(programs, PanelWindow::tr("Program"), Glyphs::icon(Glyphs::Program));
+    panel.show();
+
+    if (options.tourDir.isEmpty())
+        return QApplication::exec();
+    Tour tour(&panel, options.tourDir);
+    tour.visitProgramScreen(programs);
+    QObject::connect(&tour, &Tour::finished, qApp, &QApplication::quit);
+    tour.start();
+    QApplication::exec();
+    if (tour.error().isEmpty())
+        return 0;
+    std::fprintf(stderr, "%s\n", qPrintable(tour.error()));
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setApplicationName(QLatin1String("filarix-panel"));
+    QCoreApplication::setApplicationVersion(QLatin1String(FILARIX_VERSION));
+    if (hasArgument(argc, argv, {"--help", "-h", "--version", "-v"})) {
+        // No display is needed to read on.
+        QCoreApplication application(argc, argv);
+        return answer(Options::parse(application.arguments()));
+    }
+    if (hasArgument(argc, argv, {"--tour"}) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
+        && !hasArgument(argc, argv, {"-platform", "--platform"}))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    QApplication application(argc, argv);
+    const Options options = Options::parse(application.arguments());
+    return options.outcome == Options::Run ? runPanel(options) : answer(options);
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "panelkey.h"
+
+#include "look.h"
+
+namespace {
+
+const int kIcon = 22;
+const int kFontPixels = 11;
+
+void setUp(PanelKey *key, const QString &text)
+{
+    QFont font = key->font();
+    font.setPixelSize(kFontPixels);
+    font.setBold(true);
+    key->setFont(font);
+    key->setText(text);
+    key->setFocusPolicy(Qt::NoFocus);
+    key->setIconSize(QSize(kIcon, kIcon));
+}
+
+} // namespace
+
+PanelKey::PanelKey(const QIcon &icon, const QString &text, QWidget *parent) : QToolButton(parent)
+{
+    setUp(this, text);
+    setIcon(icon);
+    setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+}
+
+PanelKey::PanelKey(const QString &text, QWidget *parent) : QToolButton(parent)
+{
+    setUp(this, text);
+    setToolButtonStyle(Qt::ToolButtonTextOnly);
+}
+
+QSize PanelKey::sizeHint() const
+{
+    return QToolButton::sizeHint().expandedTo(QSize(Look::kTouch + 4, Look::kTouch));
+}
+
+QSize PanelKey::minimumSizeHint() const
+{
+    return sizeHint();
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PANELKEY_H
+#define PANELKEY_H
+
+#include "glyphs.h"
+
+#include <QToolButton>
+
+/// A key of the host: a glyph over a short word, never smaller than a thumb needs.
+class PanelKey : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    PanelKey(const QIcon &icon, const QString &text, QWidget *parent = nullptr);
+    /// A key without a picture.
+    explicit PanelKey(const QString &text, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+};
+
+#endif // PANELKEY_H

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PANELSCREEN_H
+#define PANELSCREEN_H
+
+#include <QList>
+#include <QWidget>
+
+class PanelKey;
+
+/// One screen of the host. The shell shows its title, its keys and what it has to say.
+class PanelScreen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum Tone {
+        Info,   ///< Passes by itself.
+        Good,   ///< Passes by itself.
+        Warning ///< Stays until the operator has closed it.
+    };
+
+    Q_ENUM(Tone)
+
+    using QWidget::QWidget;
+
+    /// What the operator works on: the name of a program, say.
+    virtual QString title() const = 0;
+    /// Whether that has changes that are not stored.
+    virtual bool hasChanges() const { return false; }
+    /// Keys for the shell's strip while the screen is up; the shell takes them.
+    virtual QList<PanelKey *> keys() { return QList<PanelKey *>(); }
+    /// Asks what has to be asked before the program ends; false keeps it open.
+    virtual bool mayClose() { return true; }
+    /// Looks at the devices and emits statusChanged(); the shell calls it every few seconds.
+    virtual void refreshStatus() {}
+
+Q_SIGNALS:
+    /// title() or hasChanges() gives something else now.
+    void titleChanged();
+    void told(const QString &text, PanelScreen::Tone tone);
+    /// Long work goes on: \a percent of it is done. The shell offers a Stop key.
+    void worked(const QString &text, int percent);
+    /// The state of a device, for the status line: "PLC ready".
+    void statusChanged(const QString &device, const QString &state);
+
+public Q_SLOTS:
+    /// The operator pressed Stop.
+    virtual void stopWork() {}
+};
+
+#endif // PANELSCREEN_H

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PANELSURFACE_H
+#define PANELSURFACE_H
+
+#include <QObject>
+
+class QWidget;
+
+/// Makes the host's window the panel's screen.
+///
+/// On a panel the two are one. On a desktop the library would size and place its lists and
+/// dialogs by the desktop, and a program for a panel of 480 by 272 could not be judged there: so
+/// the toolkit's primary screen is given the window's rectangle, as long as the window stands,
+/// and follows it. The device library's keypads are told the same rectangle, in global
+/// coordinates, through the application's property "hmiScreen", and whether there is a touch
+/// screen through "hmiTouchScreen".
+class PanelSurface : public QObject
+{
+    Q_OBJECT
+
+public:
+    PanelSurface(QWidget *window, bool touch);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// Whether the platform shows windows on a desktop, rather than one program on a screen.
+    static bool isDesktop();
+
+private:
+    void announce();
+
+    QWidget *m_window;
+};
+
+#endif // PANELSURFACE_H

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PANELWINDOW_H
+#define PANELWINDOW_H
+
+#include "panelscreen.h"
+
+#include <QList>
+#include <QPair>
+#include <QSize>
+#include <QTimer>
+#include <QWidget>
+
+class ElidedLabel;
+class MessageBar;
+class PanelKey;
+class QHBoxLayout;
+class QStackedWidget;
+
+/// The shell around the screens: which screen is up, its title and keys, the state of the devices,
+/// the clock, and what the screens have to say.
+///
+/// Three shapes, by the surface: lying and wide (tabs in the top strip), upright (tabs at the
+/// foot, in reach of the thumbs), and lying and small (tabs behind a Menu key, so that the screen
+/// gets every line there is).
+///
+///     PanelWindow panel(QSize(800, 480));
+///     panel.addScreen(new ProgramScreen(0, "/srv/plc", &machine), tr("Program"),
+///                     Glyphs::Program);
+///     panel.show();
+class PanelWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PanelWindow(const QSize &surface, QWidget *parent = nullptr);
+
+    /// Takes the screen over. The first one is up at once.
+    void addScreen(PanelScreen *screen, const QString &name, const QIcon &icon);
+    PanelScreen *currentScreen() const;
+    /// \a index counts from 0 in the order of addScreen().
+    void showScreen(int index);
+
+    MessageBar *messageBar() const { return m_messages; }
+
+    bool event(QEvent *event) override;
+
+Q_SIGNALS:
+    /// The operator closed the program and no screen objected.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    enum Shape { Wide, Upright, Small };
+
+    struct Entry
+    {
+        PanelScreen *screen;
+        QString name;
+        PanelKey *tab;
+        QList<PanelKey *> keys;
+    };
+
+    QWidget *makeTopStrip();
+    QWidget *makeFootStrip();
+    void makeMenu();
+    void toggleMenu();
+    void showTitle();
+    void showStatus();
+    void refreshStatus();
+    void tell(const QString &text, PanelScreen::Tone tone);
+    void noteStatus(const QString &device, const QString &state);
+
+    const Shape m_shape;
+    QList<Entry> m_entries;
+    QStackedWidget *m_stack;
+    QWidget *m_menu = nullptr;
+    QHBoxLayout *m_tabs;
+    QHBoxLayout *m_keys;
+    ElidedLabel *m_title;
+    ElidedLabel *m_lastMessage = nullptr;
+    ElidedLabel *m_status;
+    MessageBar *m_messages;
+    QWidget *m_shade;
+    QTimer m_statusTimer;
+    QList<QPair<QString, QString>> m_devices;
+};
+
+#endif // PANELWINDOW_H

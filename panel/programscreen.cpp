@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "programscreen.h"
+
+#include "barpager.h"
+#include "machinedata.h"
+#include "panelkey.h"
+#include "plctransfer.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QTextDocument>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <QWindow>
+
+ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineData *machine,
+                             QWidget *parent)
+    : PanelScreen(parent)
+    , m_machine(machine)
+    , m_window(new WMMainWindow(this, rotation))
+    , m_editor(m_window->findChild<WGCodeEditer *>())
+    , m_transfer(new PlcTransfer(plcDir, this))
+{
+    QVBoxLayout *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_window);
+    // The strips hold what they hold: dragged shut they would be lost to a thumb.
+    m_window->setChildrenCollapsible(false);
+    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
+    for (QToolBar *bar : bars)
+        new BarPager(bar);
+
+    // The window leaves it to its host whether the modified mark lives.
+    QTextDocument *document = m_editor->document();
+    connect(document, SIGNAL(modificationChanged(bool)), m_window, SLOT(documentWasModified()));
+    connect(document, SIGNAL(contentsChanged()), m_window, SLOT(documentWasModified()));
+    m_window->installEventFilter(this);
+
+    connect(m_window, &WMMainWindow::signal_download, this, &ProgramScreen::startDownload);
+    connect(m_window, &WMMainWindow::signal_copyFromTag, this, &ProgramScreen::insertTaughtPoint);
+    connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showProgress);
+    connect(m_transfer, &PlcTransfer::finished, this, [this](const QString &target, qint64 bytes) {
+        endDownload(tr("%1 is in the PLC: %2 bytes, compared.")
+                        .arg(QFileInfo(target).fileName())
+                        .arg(bytes),
+                    Good);
+    });
+    connect(m_transfer, &PlcTransfer::failed, this,
+            [this](const QString &reason) { endDownload(reason, Warning); });
+}
+
+QString ProgramScreen::title() const
+{
+    const QString whole = m_window->windowTitle();
+    if (whole.isEmpty())
+        return tr("New program");
+    return whole.left(whole.indexOf(QLatin1String("[*]")));
+}
+
+bool ProgramScreen::hasChanges() const
+{
+    return m_window->isWindowModified();
+}
+
+QList<PanelKey *> ProgramScreen::keys()
+{
+    PanelKey *findKey = new PanelKey(Glyphs::icon(Glyphs::Find), tr("Find"));
+    PanelKey *undoKey = new PanelKey(Glyphs::icon(Glyphs::Undo), tr("Undo"));
+    PanelKey *redoKey = new PanelKey(Glyphs::icon(Glyphs::Redo), tr("Redo"));
+    undoKey->setEnabled(false);
+    redoKey->setEnabled(false);
+    connect(findKey, &PanelKey::clicked, this, &ProgramScreen::find);
+    connect(undoKey, &PanelKey::clicked, m_editor, &WGCodeEditer::undo);
+    connect(redoKey, &PanelKey::clicked, m_editor, &WGCodeEditer::redo);
+    connect(m_editor, &WGCodeEditer::undoAvailable, undoKey, &PanelKey::setEnabled);
+    connect(m_editor, &WGCodeEditer::redoAvailable, redoKey, &PanelKey::setEnabled);
+    return {findKey, undoKey, redoKey};
+}
+
+bool ProgramScreen::mayClose()
+{
+    if (m_transfer->isRunning()) {
+        Q_EMIT told(tr("A download is running. Let it end, or stop it first."), Warning);
+        return false;
+    }
+    if (!hasChanges())
+        return true;
+    const int answer = QMessageBox::warning(
+        nullptr, tr("Program"), tr("%1 has changes that are not saved.").arg(title()),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Discard)
+        return true;
+    bool saved = false;
+    if (answer == QMessageBox::Save)
+        QMetaObject::invokeMethod(m_window, "save", Q_RETURN_ARG(bool, saved));
+    return saved;
+}
+
+bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window
+        && (event->type() == QEvent::WindowTitleChange || event->type() == QEvent::ModifiedChange))
+        Q_EMIT titleChanged();
+    return PanelScreen::eventFilter(watched, event);
+}
+
+void ProgramScreen::stopWork()
+{
+    m_transfer->stop();
+}
+
+void ProgramScreen::startDownload(const QString &path)
+{
+    m_sending = QFileInfo(path).fileName();
+    m_window->setDownloading(true);
+    m_transfer->start(path);
+}
+
+void ProgramScreen::showProgress(int percent)
+{
+    Q_EMIT worked(tr("%1 goes to the PLC: %2 %").arg(m_sending).arg(percent), percent);
+    refreshStatus();
+}
+
+// Every way out of a transfer comes through here, so the window's key is always given back.
+void ProgramScreen::endDownload(const QString &text, Tone tone)
+{
+    m_window->setDownloading(false);
+    Q_EMIT told(text, tone);
+    refreshStatus();
+}
+
+void ProgramScreen::insertTaughtPoint()
+{
+    const QString name = m_machine->points().at(m_machine->currentPoint() - 1).name;
+    const QString line = m_window->getEffectiveString(m_machine->lineToCurrentPoint());
+    if (line.isEmpty()) {
+        Q_EMIT told(tr("The machine already stands as point %1 \"%2\" wants it: nothing to insert.")
+                        .arg(m_machine->currentPoint())
+                        .arg(name),
+                    Info);
+        return;
+    }
+    m_window->insertLine(line);
+    Q_EMIT told(tr("Point %1 \"%2\" inserted: %3").arg(m_machine->currentPoint()).arg(name, line),
+                Good);
+}
+
+void ProgramScreen::find()
+{
+    m_editor->findAndReplace();
+    // The dialog has no parent: it must not slip behind the panel.
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *dialog : topLevels) {
+        if (!dialog->inherits("WFindDialog") || !dialog->windowHandle())
+            continue;
+        const QWidget *shell = window();
+        dialog->windowHandle()->setTransientParent(shell->windowHandle());
+        // In the corner that the starts of the lines leave free.
+        const QPoint corner = mapToGlobal(QPoint(width(), height()));
+        dialog->move(corner.x() - dialog->width(), corner.y() - dialog->height());
+        dialog->raise();
+    }
+}
+
+void ProgramScreen::refreshStatus()
+{
+    const bool reachable = QFileInfo(m_transfer->dropDir()).isDir();
+    Q_EMIT statusChanged(tr("PLC"), m_transfer->isRunning() ? tr("busy")
+                                    : reachable             ? tr("ready")
+                                                            : tr("away"));
+}

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "tour.h"
+
+#include "messagebar.h"
+#include "panelwindow.h"
+#include "plctransfer.h"
+#include "programscreen.h"
+#include "waqp.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QTextBlock>
+#include <QToolButton>
+
+namespace {
+
+// Long enough for what a step started to be laid out and painted.
+const int kTickMs = 120;
+
+void tap(QWidget *target)
+{
+    const QPointF point(target->width() / 2.0, target->height() / 2.0);
+    const QPointF global = target->mapToGlobal(point.toPoint());
+    QMouseEvent press(QEvent::MouseButtonPress, point, global, Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(target, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, point, global, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QApplication::sendEvent(target, &release);
+}
+
+QToolButton *toolButton(const QWidget *among, const QString &text)
+{
+    const QList<QToolButton *> buttons = among->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (button->text() == text && button->isVisible())
+            return button;
+    }
+    return nullptr;
+}
+
+QWidget *topLevel(const char *className)
+{
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (widget->isVisible() && widget->inherits(className))
+            return widget;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Tour::Tour(PanelWindow *panel, const QString &folder, QObject *parent)
+    : QObject(parent), m_panel(panel), m_folder(folder)
+{
+    if (!QDir().mkpath(folder))
+        m_error = tr("The folder %1 cannot be made.").arg(folder);
+    connect(&m_timer, &QTimer::timeout, this, &Tour::next);
+}
+
+void Tour::visitProgramScreen(ProgramScreen *screen)
+{
+    WMMainWindow *window = screen->programWindow();
+    picture(QLatin1String("program-new"));
+
+    pressTool(window, QLatin1String("Open"));
+    picture(QLatin1String("open"));
+    press([] {
+        QWidget *dialog = topLevel("WFileDialog");
+        if (!dialog)
+            return static_cast<QWidget *>(nullptr);
+        dialog->findChild<QLineEdit *>()->setText(QLatin1String("stator-coil.cnc"));
+        return static_cast<QWidget *>(dialog->findChild<QPushButton *>());
+    });
+    then([screen] {
+        QTextCursor cursor(screen->editor()->document()->findBlockByNumber(24));
+        screen->editor()->setTextCursor(cursor);
+        screen->editor()->centerCursor();
+    });
+    picture(QLatin1String("program"));
+
+    then([window] { window->insertLine(QLatin1String("G33 X18.50 K0.50")); });
+    picture(QLatin1String("program-changed"));
+
+    turnBar(window);
+    then([] {});
+    then([this, window] {
+        if (toolButton(window, QLatin1String("More")))
+            save(QLatin1String("program-more-keys"));
+    });
+    pressTool(window, QLatin1String("Edit"));
+    picture(QLatin1String("gcode-keypad"));
+    closeDialog();
+    pressTool(window, QLatin1String("Copy"));
+    picture(QLatin1String("copy"));
+    closeDialog();
+    pressTool(window, QLatin1String("Tag"));
+    picture(QLatin1String("tag"));
+    turnBar(window);
+
+    pressTool(m_panel, QLatin1String("Find"));
+    picture(QLatin1String("find"));
+    press([] {
+        QWidget *dialog = topLevel("WFindDialog");
+        return static_cast<QWidget *>(dialog ? dialog->findChild<QLineEdit *>() : nullptr);
+    });
+    picture(QLatin1String("character-keypad"));
+    closeDialog();
+    then([] {
+        if (QWidget *dialog = topLevel("WFindDialog"))
+            dialog->close();
+    });
+
+    pressTool(window, QLatin1String("New"));
+    picture(QLatin1String("unsaved-changes"));
+    closeDialog();
+
+    then([this, screen] {
+        connect(screen->transfer(), &PlcTransfer::progress, this, &Tour::saveDownload);
+        Q_EMIT screen->programWindow()->signal_download(WAQP::getCncDir()
+                                                        + QLatin1String("/endurance-run.cnc"));
+    });
+    waitUntil([screen] { return !screen->transfer()->isRunning(); });
+    picture(QLatin1String("download-done"));
+    then([window] { Q_EMIT window->signal_download(QString()); });
+    picture(QLatin1String("download-refused"));
+}
+
+// The transfer is quicker than a tick: its picture is taken in the middle of it.
+void Tour::saveDownload(int percent)
+{
+    if (percent < 50)
+        return;
+    disconnect(sender(), nullptr, this, nullptr);
+    save(QLatin1String("download-running"));
+}
+
+void Tour::start()
+{
+    m_timer.start(kTickMs);
+}
+
+void Tour::then(const Step &step)
+{
+    m_steps.append(step);
+}
+
+void Tour::waitUntil(const std::function<bool()> &condition)
+{
+    then([this, condition] {
+        if (!condition())
+            m_steps.prepend(m_lastStep);
+    });
+}
+
+void Tour::picture(const QString &name)
+{
+    // One tick for what the step before started.
+    then([] {});
+    then([this, name] { save(name); });
+}
+
+void Tour::press(const std::function<QWidget *()> &target)
+{
+    then([this, target] {
+        QTimer::singleShot(0, this, [this, target] {
+            if (QWidget *widget = target())
+                tap(widget);
+            else
+                fail(tr("What step %1 touches is not on the screen.").arg(m_step));
+        });
+    });
+}
+
+void Tour::pressTool(QWidget *among, const QString &text)
+{
+    press([among, text] { return toolButton(among, text); });
+}
+
+// A bar that the panel is wide enough for has no key to turn it.
+void Tour::turnBar(QWidget *window)
+{
+    then([window] {
+        if (QToolButton *more = toolButton(window, QLatin1String("More")))
+            tap(more);
+    });
+}
+
+void Tour::closeDialog()
+{
+    then([this] {
+        if (QWidget *dialog = QApplication::activeModalWidget())
+            dialog->close();
+        else
+            fail(tr("Step %1 expects a dialog, and none is open.").arg(m_step));
+    });
+}
+
+void Tour::fail(const QString &error)
+{
+    if (m_error.isEmpty())
+        m_error = error;
+}
+
+void Tour::next()
+{
+    if (m_steps.isEmpty() || !m_error.isEmpty()) {
+        m_timer.stop();
+        Q_EMIT finished();
+        return;
+    }
+    ++m_step;
+    m_lastStep = m_steps.takeFirst();
+    m_lastStep();
+}
+
+// The panel with whatever stands over it, as the operator sees it.
+void Tour::save(const QString &name)
+{
+    QPixmap picture = m_panel->grab();
+    QPainter painter(&picture);
+    const QPoint origin = m_panel->mapToGlobal(QPoint(0, 0));
+    QWidgetList above;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (widget->isVisible() && widget != m_panel && widget != QApplication::activeModalWidget())
+            above.append(widget);
+    }
+    if (QApplication::activeModalWidget())
+        above.append(QApplication::activeModalWidget());
+    for (QWidget *widget : qAsConst(above))
+        painter.drawPixmap(widget->mapToGlobal(QPoint(0, 0)) - origin, widget->grab());
+    painter.end();
+
+    const QString file = QDir(m_folder).filePath(
+        QString::fromLatin1("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));
+    if (!picture.save(file))
+        fail(tr("The picture %1 cannot be written.").arg(file));
+}

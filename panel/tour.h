@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TOUR_H
+#define TOUR_H
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+
+class PanelWindow;
+class ProgramScreen;
+
+/// Walks the panel's screens and dialogs without an operator and leaves a numbered PNG of each.
+///
+/// One step a tick of a timer, so the steps go on while a modal dialog waits: a step that opens
+/// one only posts the touch that does.
+class Tour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Pictures go to \a folder, which is made if it is missing.
+    Tour(PanelWindow *panel, const QString &folder, QObject *parent = nullptr);
+
+    /// The stops at the program screen.
+    void visitProgramScreen(ProgramScreen *screen);
+
+    void start();
+    /// What went wrong; empty when every step found what it touches and every picture was written.
+    QString error() const { return m_error; }
+
+Q_SIGNALS:
+    void finished();
+
+private:
+    typedef std::function<void()> Step;
+
+    void then(const Step &step);
+    void waitUntil(const std::function<bool()> &condition);
+    void picture(const QString &name);
+    void press(const std::function<QWidget *()> &target);
+    void pressTool(QWidget *among, const QString &text);
+    void turnBar(QWidget *window);
+    void closeDialog();
+    void fail(const QString &error);
+    void next();
+    void saveDownload(int percent);
+    void save(const QString &name);
+
+    PanelWindow *m_panel;
+    const QString m_folder;
+    QList<Step> m_steps;
+    Step m_lastStep;
+    QTimer m_timer;
+    int m_step = 0;
+    int m_pictures = 0;
+    QString m_error;
+};
+
+#endif // TOUR_H

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "dialogkeeper.h"
+#include "filarixtest.h"
+#include "panelsurface.h"
+
+#include <QDialog>
+
+class TestDialogKeeper : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dialogLargerThanThePanelIsMadeToFit();
+    void dialogBesideThePanelIsMovedOntoIt();
+    void dialogHasAnEdge();
+};
+
+void TestDialogKeeper::dialogLargerThanThePanelIsMadeToFit()
+{
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    panel.show();
+    PanelSurface surface(&panel, true);
+    DialogKeeper keeper(nullptr);
+    QDialog dialog;
+    dialog.resize(500, 300);
+    dialog.show();
+    const QRect screen(panel.mapToGlobal(QPoint(0, 0)), panel.size());
+    QTRY_COMPARE(dialog.geometry(), screen);
+}
+
+void TestDialogKeeper::dialogBesideThePanelIsMovedOntoIt()
+{
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    panel.show();
+    PanelSurface surface(&panel, true);
+    DialogKeeper keeper(nullptr);
+    QDialog dialog;
+    dialog.setGeometry(700, -90, 200, 100);
+    dialog.show();
+    const QRect screen(panel.mapToGlobal(QPoint(0, 0)), panel.size());
+    QTRY_VERIFY(screen.contains(dialog.geometry()));
+    QCOMPARE(dialog.size(), QSize(200, 100));
+    QCOMPARE(dialog.geometry().right(), screen.right());
+    QCOMPARE(dialog.geometry().top(), screen.top());
+}
+
+void TestDialogKeeper::dialogHasAnEdge()
+{
+    DialogKeeper keeper(nullptr);
+    QDialog dialog;
+    dialog.resize(200, 100);
+    const QImage image = TestCompat::grab(&dialog).toImage();
+    QVERIFY(image.pixelColor(0, 50).lightness() < 60);
+    QVERIFY(image.pixelColor(199, 50).lightness() < 60);
+    QVERIFY(image.pixelColor(100, 50).lightness() > 200);
+}
+
+FILARIX_TEST_MAIN(TestDialogKeeper)
+#include "tst_dialogkeeper.moc"

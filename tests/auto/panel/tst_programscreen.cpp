@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "devicelog.h"
+#include "filarixtest.h"
+#include "machinedata.h"
+#include "modaldriver.h"
+#include "panelkey.h"
+#include "plctransfer.h"
+#include "programscreen.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QToolButton>
+#include <QWindow>
+
+class TestProgramScreen : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void downloadIsBracketedAndTold();
+    void failedDownloadGivesTheKeyBack_data();
+    void failedDownloadGivesTheKeyBack();
+    void stoppedDownloadGivesTheKeyBack();
+    void modifiedMarkFollowsTheDocument();
+    void tagInsertsWhatIsNotInForce();
+    void tagTellsWhenNothingIsLeft();
+    void undoAndRedoKeysFollowTheDocument();
+    void findKeyOpensTheDialog();
+    void closingWithChangesAsks_data();
+    void closingWithChangesAsks();
+    void closingDuringADownloadIsRefused();
+    void stateOfThePlcIsTold();
+
+private:
+    QToolButton *button(const QString &text) const;
+    PanelKey *key(const QString &text) const;
+
+    QString m_plc;
+    MachineData *m_machine = nullptr;
+    ProgramScreen *m_screen = nullptr;
+    QList<PanelKey *> m_keys;
+};
+
+void TestProgramScreen::init()
+{
+    FilarixTest::init();
+    DeviceLog::reset();
+    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    m_plc = home() + "/plc";
+    QVERIFY(QDir().mkpath(m_plc));
+    m_machine = new MachineData;
+    m_screen = new ProgramScreen(90, m_plc, m_machine);
+    m_keys = m_screen->keys();
+    for (PanelKey *key : m_keys)
+        key->setParent(m_screen);
+    m_screen->resize(480, 700);
+    m_screen->show();
+    QVERIFY(TestCompat::waitForExposed(m_screen));
+}
+
+void TestProgramScreen::cleanup()
+{
+    delete m_screen;
+    delete m_machine;
+    // The window leaves the buttons that no bar takes to nobody.
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (qobject_cast<QToolButton *>(widget))
+            delete widget;
+    }
+    FilarixTest::cleanup();
+}
+
+QToolButton *TestProgramScreen::button(const QString &text) const
+{
+    const QList<QToolButton *> buttons = m_screen->programWindow()->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (button->text() == text)
+            return button;
+    }
+    return nullptr;
+}
+
+PanelKey *TestProgramScreen::key(const QString &text) const
+{
+    for (PanelKey *key : m_keys) {
+        if (key->text() == text)
+            return key;
+    }
+    return nullptr;
+}
+
+void TestProgramScreen::downloadIsBracketedAndTold()
+{
+    const QByteArray bytes = QByteArray("G01 X1\n").repeated(10000);
+    writeFile(programDir() + "/coil.cnc", bytes);
+    WMMainWindow *window = m_screen->programWindow();
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy worked(m_screen, SIGNAL(worked(QString, int)));
+    Q_EMIT window->signal_download(programDir() + "/coil.cnc");
+    QVERIFY(window->isDownloading());
+    QVERIFY(!button("D/L")->isEnabled());
+    QTRY_VERIFY(!window->isDownloading());
+    QVERIFY(button("D/L")->isEnabled());
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
+    QVERIFY(worked.size() > 5);
+    QCOMPARE(told.size(), 1);
+    QVERIFY(told.at(0).at(0).toString().contains("coil.cnc"));
+    QVERIFY(told.at(0).at(0).toString().contains("70000 bytes"));
+}
+
+void TestProgramScreen::failedDownloadGivesTheKeyBack_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("never saved") << QString();
+    QTest::newRow("gone") << "/nowhere/coil.cnc";
+}
+
+void TestProgramScreen::failedDownloadGivesTheKeyBack()
+{
+    QFETCH(QString, program);
+    WMMainWindow *window = m_screen->programWindow();
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    Q_EMIT window->signal_download(program);
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(!window->isDownloading());
+    QVERIFY(button("D/L")->isEnabled());
+    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+}
+
+void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
+{
+    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    WMMainWindow *window = m_screen->programWindow();
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    connect(m_screen, &PanelScreen::worked, m_screen, &PanelScreen::stopWork);
+    Q_EMIT window->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(!window->isDownloading());
+    QVERIFY(!QFileInfo(m_plc + "/coil.cnc").exists());
+}
+
+void TestProgramScreen::modifiedMarkFollowsTheDocument()
+{
+    QSignalSpy titles(m_screen, SIGNAL(titleChanged()));
+    QVERIFY(!m_screen->hasChanges());
+    m_screen->programWindow()->insertLine("G01 X1");
+    QVERIFY(m_screen->hasChanges());
+    QVERIFY(titles.size() >= 1);
+    m_screen->editor()->undo();
+    QTRY_VERIFY(!m_screen->hasChanges());
+}
+
+void TestProgramScreen::tagInsertsWhatIsNotInForce()
+{
+    m_screen->editor()->setPlainText("G00 X-6 Y14 Z0 U0 V0 W0\n");
+    m_machine->setCurrentPoint(2);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QTest::mouseClick(button("Tag"), Qt::LeftButton);
+    QCOMPARE(m_screen->editor()->getLineText(1), QString("G01 U1.5 F120"));
+    QCOMPARE(told.size(), 1);
+    QVERIFY(told.at(0).at(0).toString().contains("G01 U1.5 F120"));
+}
+
+void TestProgramScreen::tagTellsWhenNothingIsLeft()
+{
+    const QString program = m_machine->lineToCurrentPoint();
+    m_screen->editor()->setPlainText(program);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QTest::mouseClick(button("Tag"), Qt::LeftButton);
+    QCOMPARE(m_screen->editor()->toPlainText(), program);
+    QCOMPARE(told.size(), 1);
+    QVERIFY(told.at(0).at(0).toString().contains("nothing to insert"));
+}
+
+void TestProgramScreen::undoAndRedoKeysFollowTheDocument()
+{
+    QVERIFY(!key("Undo")->isEnabled());
+    QVERIFY(!key("Redo")->isEnabled());
+    m_screen->programWindow()->insertLine("G01 X1");
+    QVERIFY(key("Undo")->isEnabled());
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QVERIFY(m_screen->editor()->toPlainText().isEmpty());
+    QVERIFY(key("Redo")->isEnabled());
+    QTest::mouseClick(key("Redo"), Qt::LeftButton);
+    QCOMPARE(m_screen->editor()->toPlainText(), QString("G01 X1"));
+}
+
+void TestProgramScreen::findKeyOpensTheDialog()
+{
+    QTest::mouseClick(key("Find"), Qt::LeftButton);
+    QWidget *dialog = nullptr;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (widget->inherits("WFindDialog"))
+            dialog = widget;
+    }
+    QVERIFY(dialog);
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(dialog->windowHandle()->transientParent(), m_screen->windowHandle());
+}
+
+void TestProgramScreen::closingWithChangesAsks_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("closes");
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << false;
+}
+
+void TestProgramScreen::closingWithChangesAsks()
+{
+    QFETCH(int, answer);
+    QVERIFY(m_screen->mayClose());
+    m_screen->programWindow()->insertLine("G01 X1");
+    ModalDriver driver;
+    driver.press(QMessageBox::StandardButton(answer));
+    QTEST(m_screen->mayClose(), "closes");
+    QVERIFY2(driver.finished(), driver.report());
+
+    // Save with a name that is given up is no leave to go.
+    driver.press(QMessageBox::Save);
+    driver.reject();
+    QVERIFY(!m_screen->mayClose());
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+void TestProgramScreen::closingDuringADownloadIsRefused()
+{
+    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
+    QVERIFY(!m_screen->mayClose());
+    QTRY_VERIFY(!m_screen->transfer()->isRunning());
+    QVERIFY(m_screen->mayClose());
+}
+
+void TestProgramScreen::stateOfThePlcIsTold()
+{
+    QSignalSpy states(m_screen, SIGNAL(statusChanged(QString, QString)));
+    m_screen->refreshStatus();
+    QCOMPARE(states.takeLast().at(1).toString(), QString("ready"));
+    QVERIFY(QDir().rmdir(m_plc));
+    m_screen->refreshStatus();
+    QCOMPARE(states.takeLast().at(1).toString(), QString("away"));
+}
+
+FILARIX_TEST_MAIN(TestProgramScreen)
+#include "tst_programscreen.moc"
