@@ -17,8 +17,11 @@
 namespace {
 
 // Not through tr(), which takes them for Latin-1 on the panels; marked so that lupdate finds them.
+//: Behind the name of the instruction. Keep the "(" in front: the name ends there.
 const char *const closedSuffix = QT_TRANSLATE_NOOP_UTF8("MJLine", "(↓)");
+//: Behind the name of the instruction. Keep the "(" in front: the name ends there.
 const char *const openSuffix = QT_TRANSLATE_NOOP_UTF8("MJLine", "(↑)");
+//: Closes an open row.
 const char *const closeArrow = QT_TRANSLATE_NOOP_UTF8("MJLine", "↑");
 
 QString suffix(bool expanded)
