@@ -6,9 +6,11 @@
 
 // What QtTest of Qt 4.8 lacks of Qt 5.15's.
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QPixmap>
 #include <QTest>
+#include <QTranslator>
 #include <QWidget>
 
 #ifndef QTRY_VERIFY_WITH_TIMEOUT
@@ -59,6 +61,32 @@ inline bool waitForExposed(QWidget *widget)
     return QTest::qWaitForWindowShown(widget);
 #endif
 }
+
+/// While it lives, "text" of one context reads "text*".
+class MarkingTranslator : public QTranslator
+{
+public:
+    explicit MarkingTranslator(const char *context) : m_context(context)
+    {
+        QCoreApplication::installTranslator(this);
+    }
+    ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    QString translate(const char *context, const char *text, const char *, int) const override
+#else
+    QString translate(const char *context, const char *text, const char *) const override
+#endif
+    {
+        if (m_context != context)
+            return QString();
+        return QString::fromUtf8(text) + QLatin1Char('*');
+    }
+
+private:
+    QByteArray m_context;
+};
 
 } // namespace TestCompat
 
