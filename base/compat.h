@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QString>
+#include <QTextBlock>
+#include <QTextDocument>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 /// Qt 4 calls languageChange() itself on QEvent::LanguageChange; here changeEvent() has to.
@@ -34,6 +36,21 @@ inline QString translateUtf8(const char *context, const char *text)
     return QCoreApplication::translate(context, text);
 #else
     return QCoreApplication::translate(context, text, nullptr, QCoreApplication::UnicodeUTF8);
+#endif
+}
+
+/// The text of the document as it is held: one character a position, a block ends in U+2029.
+inline QString rawText(const QTextDocument *document)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 9, 0)
+    return document->toRawText();
+#else
+    // toPlainText() would turn a no-break space into a blank.
+    QString text;
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
+        text += block.text() + QChar(QChar::ParagraphSeparator);
+    text.chop(1);
+    return text;
 #endif
 }
 

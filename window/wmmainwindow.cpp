@@ -7,6 +7,7 @@
 #include "waqp.h"
 #include "wfiledialog.h"
 #include "wgcodeediter.h"
+#include "wordsinforce_p.h"
 
 #include <hmidevice/gcodekeypad.h>
 #include <hmidevice/hmideviceinfo.h>
@@ -197,11 +198,12 @@ QString WMMainWindow::getEffectiveString(QString line)
     if (start >= names.size())
         return QString();
 
+    const WordsInForce inForce(names.mid(start), m_editor->document(), startLine);
+    bool keptAny = false;
     // After a word of one character the names run ahead of the words: the word kept is then not the
     // word that was compared.
-    bool keptAny = false;
     for (int i = start; i < names.size(); ++i) {
-        if (compareString(startLine, names.at(i), values.at(i)))
+        if (inForce.holds(names.at(i), values.at(i)))
             continue;
         kept += QLatin1Char(' ') + words.at(i);
         keptAny = true;
@@ -630,14 +632,5 @@ bool WMMainWindow::splitString(const QStringList &words, QStringList &names, QLi
 
 bool WMMainWindow::compareString(int lineNumber, QString name, double value)
 {
-    for (int line = lineNumber; line >= 0; --line) {
-        QStringList names;
-        QList<double> values;
-        splitString(m_editor->getLineText(line).split(QLatin1Char(' '), QString::SkipEmptyParts),
-                    names, values);
-        const int index = names.indexOf(name);
-        if (index >= 0)
-            return values.at(index) == value;
-    }
-    return false;
+    return WordsInForce(QStringList(name), m_editor->document(), lineNumber).holds(name, value);
 }

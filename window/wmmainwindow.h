@@ -123,6 +123,7 @@ private:
     void writeSettings();
 
     bool splitString(const QStringList &words, QStringList &names, QList<double> &values);
+    /// Asks for one word what getEffectiveString() asks for all words of a line at once.
     bool compareString(int lineNumber, QString name, double value);
 
     QString m_text;

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "wordsinforce_p.h"
+
+#include "compat.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace {
+
+/// Reading a block by itself costs about ten times its share of the whole text, so this is where
+/// taking the whole text begins to pay, and a little before.
+const int nearShare = 32;
+const int nearLines = 256;
+
+/// Paragraphs, and the frames and tables that only rich text has.
+bool endsABlock(QChar character)
+{
+    return character == QChar(QChar::ParagraphSeparator) || character == QChar(0xfdd0)
+           || character == QChar(0xfdd1);
+}
+
+} // namespace
+
+WordsInForce::WordsInForce(const QStringList &names, const QTextDocument *document, int line)
+{
+    Q_FOREACH (const QString &name, names) {
+        if (name.size() == 1 && !wanted.contains(name.at(0)))
+            wanted.append(name.at(0));
+    }
+    lookUp(document, line);
+}
+
+bool WordsInForce::holds(const QString &name, double value) const
+{
+    for (int i = 0; i < found.size(); ++i) {
+        if (name == found.at(i).name)
+            return found.at(i).value == value;
+    }
+    return false;
+}
+
+void WordsInForce::lookUp(const QTextDocument *document, int line)
+{
+    if (line < 0)
+        return;
+    const int blocks = document->blockCount();
+    const int lines = document->lineCount();
+    // A block that is hidden has no line, one that is wrapped has several: only the blocks know.
+    const int blocksToRead = lines == blocks ? qMax(nearLines, blocks / nearShare) : blocks;
+    QTextBlock block = document->findBlockByLineNumber(qMin(line, lines - 1));
+    for (int i = 0; i < blocksToRead && block.isValid() && !wanted.isEmpty(); ++i) {
+        if (block.lineCount() > 0) {
+            const QString text = block.text();
+            readLine(text.constData(), text.constData() + text.size());
+        }
+        block = block.previous();
+    }
+    if (!block.isValid() || wanted.isEmpty())
+        return;
+
+    const QString text = Compat::rawText(document);
+    const QChar *first = text.constData();
+    const QChar *end = first + block.position() + block.length() - 1;
+    while (!wanted.isEmpty()) {
+        const QChar *begin = end;
+        while (begin != first && !endsABlock(begin[-1]))
+            --begin;
+        readLine(begin, end);
+        if (begin == first)
+            return;
+        end = begin - 1;
+    }
+}
+
+void WordsInForce::readLine(const QChar *begin, const QChar *end)
+{
+    const QChar blank = QLatin1Char(' ');
+    while (begin != end) {
+        if (*begin == blank) {
+            ++begin;
+            continue;
+        }
+        const QChar *word = begin;
+        while (begin != end && *begin != blank)
+            ++begin;
+        readWord(word, begin);
+    }
+}
+
+void WordsInForce::readWord(const QChar *begin, const QChar *end)
+{
+    const int index = end - begin < 2 ? -1 : wanted.indexOf(*begin);
+    if (index < 0)
+        return;
+    Word word;
+    word.name = *begin;
+    word.value = QString(begin + 1, int(end - begin) - 1).toDouble();
+    found.append(word);
+    wanted.remove(index);
+}

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef WORDSINFORCE_P_H
+#define WORDSINFORCE_P_H
+
+#include <QChar>
+#include <QStringList>
+#include <QVector>
+
+class QTextDocument;
+
+/// The values that G-code words have at a line of a program, because the line itself or the nearest
+/// one above it set them.
+///
+/// A word is what stands between blanks (U+0020): its first character is the name, the rest the
+/// value. Words of one character count for nothing. A line's first word of a name decides. A value
+/// that is no number is 0.
+///
+///     const WordsInForce words(names, document, line);
+///     if (!words.holds(names.at(0), 10.0)) ...
+class WordsInForce
+{
+public:
+    /// Looks all \a names up in one pass from text line \a line, from 0, up to the first one. Only
+    /// names of one character are ever found; for a negative line none is.
+    ///
+    /// The time goes by the distance of the farthest name, not by the length of the program: up to
+    /// a thirtieth of it block by block, and only beyond that over its whole text at once.
+    WordsInForce(const QStringList &names, const QTextDocument *document, int line);
+
+    /// Whether \a name was found with exactly this value. The value "nan" equals nothing.
+    bool holds(const QString &name, double value) const;
+
+private:
+    struct Word
+    {
+        QChar name;
+        double value;
+    };
+
+    void lookUp(const QTextDocument *document, int line);
+    void readLine(const QChar *begin, const QChar *end);
+    void readWord(const QChar *begin, const QChar *end);
+
+    QVector<Word> found;
+    QVector<QChar> wanted;
+};
+
+#endif // WORDSINFORCE_P_H
