@@ -3,6 +3,7 @@
 
 #include "wfinddialog.h"
 
+#include "gcodesymbols.h"
 #include "lineedit.h"
 
 #include <QBoxLayout>

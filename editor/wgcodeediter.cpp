@@ -3,6 +3,7 @@
 
 #include "wgcodeediter.h"
 
+#include "gcodesymbols.h"
 #include "waqp.h"
 #include "wcopydialog.h"
 #include "wfinddialog.h"

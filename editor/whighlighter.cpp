@@ -3,6 +3,8 @@
 
 #include "whighlighter.h"
 
+#include "gcodesymbols.h"
+
 #include <QBrush>
 #include <QTextBlock>
 

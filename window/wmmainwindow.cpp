@@ -3,6 +3,7 @@
 
 #include "wmmainwindow.h"
 
+#include "gcodesymbols.h"
 #include "importmanage.h"
 #include "waqp.h"
 #include "wfiledialog.h"

@@ -4,6 +4,7 @@
 #include "wordsinforce_p.h"
 
 #include "compat.h"
+#include "gcodesymbols.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
