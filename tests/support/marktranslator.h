@@ -11,7 +11,8 @@
 /// Translates every text by putting a mark before it, and remembers what it was asked for: so a
 /// test sees which texts go through translation, in which context, and which stay plain.
 ///
-/// Installed as long as it lives. Making and destroying it tells all widgets of a new language.
+/// Installed as long as it lives. Making and destroying it tells all widgets of a new
+/// language, by posted events.
 class MarkTranslator : public QTranslator
 {
 public:

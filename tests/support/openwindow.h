@@ -4,9 +4,9 @@
 #ifndef OPENWINDOW_H
 #define OPENWINDOW_H
 
-// Includes the G-code screen with access control off. Must be the last include, for the headers of
-// the toolkit do not bear that.
+// The G-code screen with access control off, which the headers of the toolkit would not bear.
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "openwindow.h"
 #include "waqp.h"
 
 #include <QApplication>
@@ -15,13 +16,6 @@
 
 #include <functional>
 #include <random>
-
-#define private public
-#define protected public
-#include "wgcodeediter.h"
-#include "wmmainwindow.h"
-#undef private
-#undef protected
 
 /// Looks at the progress dialog of a load each time the load serves the event loop.
 class LoadWatcher : public QObject
@@ -634,7 +628,7 @@ void TestGCodeLoader::abortedWindowNamesTheWholeFile()
 {
     const QString path = programDir() + QLatin1String("/long.cnc");
     writeFile(path, program(1000).join(QLatin1String("\n")).toUtf8());
-    WMMainWindow window(nullptr, 0);
+    OpenWindow window;
     LoadWatcher watcher([](QProgressDialog *progress) { press(progress); });
     window.loadFile(path);
     // A fiftieth, of which two comments and two empty lines are gone.
@@ -650,7 +644,7 @@ void TestGCodeLoader::savingAfterAnAbortStoresTheFrontPart()
 {
     const QString path = programDir() + QLatin1String("/long.cnc");
     writeFile(path, program(1000).join(QLatin1String("\n")).toUtf8());
-    WMMainWindow window(nullptr, 0);
+    OpenWindow window;
     LoadWatcher watcher([](QProgressDialog *progress) { press(progress); });
     window.loadFile(path);
     QVERIFY(window.save());
