@@ -68,7 +68,10 @@ private:
 
     QVBoxLayout *boxLayout;
     int totalHeight;
-    int reserved; // read by nothing; keeps its place in the object
+
+protected:
+    /// Starts at 0 and is read by nothing here: a place that a derived stack may use.
+    int reserved;
 };
 
 #endif // LISTWIDGET_H
