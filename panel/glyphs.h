@@ -10,7 +10,23 @@
 /// The host's own line drawings: crisp at any size, in any colour.
 namespace Glyphs {
 
-enum Glyph { Program, Teach, Variables, Connections, Files, Menu, Find, Undo, Redo, More, Close };
+enum Glyph {
+    Program,
+    Teach,
+    Variables,
+    Connections,
+    Files,
+    Menu,
+    Find,
+    Undo,
+    Redo,
+    More,
+    Close,
+    Load,
+    Store,
+    Clear,
+    Select
+};
 
 QIcon icon(Glyph glyph, const QColor &color = Qt::white);
 

@@ -12,7 +12,9 @@
 #include "panelwindow.h"
 #include "programscreen.h"
 #include "samples.h"
+#include "teachscreen.h"
 #include "tour.h"
+#include "variablesscreen.h"
 #include "waqp.h"
 
 #include <QApplication>
@@ -88,12 +90,19 @@ int runPanel(const Options &options)
     MachineData machine;
     ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, &machine);
     panel.addScreen(programs, PanelWindow::tr("Program"), Glyphs::icon(Glyphs::Program));
+    const QString teachDir = QDir::home().filePath(QLatin1String("teach"));
+    TeachScreen *teach = new TeachScreen(panel.size(), teachDir, &machine);
+    panel.addScreen(teach, PanelWindow::tr("Teach"), Glyphs::icon(Glyphs::Teach));
+    VariablesScreen *variables = new VariablesScreen(panel.size(), teachDir);
+    panel.addScreen(variables, PanelWindow::tr("Variables"), Glyphs::icon(Glyphs::Variables));
     panel.show();
 
     if (options.tourDir.isEmpty())
         return QApplication::exec();
     Tour tour(&panel, options.tourDir);
     tour.visitProgramScreen(programs);
+    tour.visitTeachScreen(teach);
+    tour.visitVariablesScreen(variables);
     QObject::connect(&tour, &Tour::finished, qApp, &QApplication::quit);
     tour.start();
     QApplication::exec();

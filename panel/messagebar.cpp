@@ -78,6 +78,8 @@ void MessageBar::showWork(const QString &text, int percent)
     m_key->setToolButtonStyle(Qt::ToolButtonTextOnly);
     paint(Look::ink());
     place();
+    // Some work keeps the event loop waiting.
+    repaint();
 }
 
 QString MessageBar::text() const

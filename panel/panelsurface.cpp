@@ -5,13 +5,25 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QRect>
 #include <QScreen>
 #include <QTimer>
 #include <QVariant>
 #include <QWidget>
 
 #include <qpa/qwindowsysteminterface.h>
+
+const int SurfaceLoan::kTallPanel;
+
+namespace {
+
+void setScreen(const QRect &geometry, const QRect &available)
+{
+    QWindowSystemInterface::handleScreenGeometryChange(QGuiApplication::primaryScreen(), geometry,
+                                                       available);
+    QWindowSystemInterface::flushWindowSystemEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
 
 PanelSurface::PanelSurface(QWidget *window, bool touch) : QObject(window), m_window(window)
 {
@@ -43,9 +55,17 @@ void PanelSurface::announce()
 {
     const QRect surface(m_window->mapToGlobal(QPoint(0, 0)), m_window->size());
     qApp->setProperty("hmiScreen", surface);
-    QScreen *screen = QGuiApplication::primaryScreen();
-    if (!isDesktop() || !screen || screen->geometry() == surface)
-        return;
-    QWindowSystemInterface::handleScreenGeometryChange(screen, surface, surface);
-    QWindowSystemInterface::flushWindowSystemEvents(QEventLoop::ExcludeUserInputEvents);
+    if (isDesktop() && QGuiApplication::primaryScreen()->geometry() != surface)
+        setScreen(surface, surface);
+}
+
+SurfaceLoan::SurfaceLoan(int height) : m_own(QGuiApplication::primaryScreen()->availableGeometry())
+{
+    const QRect lent(m_own.topLeft(), QSize(m_own.width(), height));
+    setScreen(QGuiApplication::primaryScreen()->geometry(), lent);
+}
+
+SurfaceLoan::~SurfaceLoan()
+{
+    setScreen(QGuiApplication::primaryScreen()->geometry(), m_own);
 }

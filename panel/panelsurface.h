@@ -5,6 +5,7 @@
 #define PANELSURFACE_H
 
 #include <QObject>
+#include <QRect>
 
 class QWidget;
 
@@ -32,6 +33,26 @@ private:
     void announce();
 
     QWidget *m_window;
+};
+
+/// Presents a screen of another height to what is built meanwhile.
+///
+/// The library makes rows a twenty-fourth of the screen's height. That is a thumb's height on a
+/// panel of 800 lines and a third of it on one of 272. A list that is built under a loan gets rows
+/// of the height lent; the host then shows as many of them as fit.
+class SurfaceLoan
+{
+public:
+    explicit SurfaceLoan(int height = kTallPanel);
+    ~SurfaceLoan();
+
+    /// Screen height in pixels for which the library's rows are as high as a thumb needs.
+    static const int kTallPanel = 800;
+
+private:
+    Q_DISABLE_COPY(SurfaceLoan)
+
+    const QRect m_own;
 };
 
 #endif // PANELSURFACE_H

@@ -4,9 +4,13 @@
 #include "tour.h"
 
 #include "messagebar.h"
+#include "panelkey.h"
 #include "panelwindow.h"
 #include "plctransfer.h"
 #include "programscreen.h"
+#include "teachscreen.h"
+#include "tlistwidget.h"
+#include "variablesscreen.h"
 #include "waqp.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
@@ -135,6 +139,43 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
     picture(QLatin1String("download-refused"));
 }
 
+void Tour::visitTeachScreen(TeachScreen *screen)
+{
+    showScreen(1);
+    picture(QLatin1String("teach"));
+    pressCell(screen, 2, "Label", 0);
+    picture(QLatin1String("teach-open-row"));
+    pressCell(screen, 2, "ComboLineEdit", 0);
+    picture(QLatin1String("numeric-keypad"));
+    closeDialog();
+    pressCell(screen, 2, "Label", 0);
+    pressCell(screen, 2, "Label", 1);
+    picture(QLatin1String("points"));
+    closeDialog();
+    pressKey(screen, QLatin1String("Page"), 1);
+    picture(QLatin1String("teach-second-page"));
+    pressKey(screen, QLatin1String("First"));
+    pressKey(screen, QLatin1String("Select"));
+    then([screen] { screen->list()->setCurIndex(4, false); });
+    picture(QLatin1String("teach-selection"));
+    pressKey(screen, QLatin1String("Delete"));
+    picture(QLatin1String("teach-deleted"));
+    pressTool(m_panel, QLatin1String("Clear"));
+    picture(QLatin1String("teach-clear"));
+    closeDialog();
+    pressTool(m_panel, QLatin1String("Store"));
+    picture(QLatin1String("teach-stored"));
+}
+
+void Tour::visitVariablesScreen(VariablesScreen *screen)
+{
+    showScreen(2);
+    picture(QLatin1String("variables"));
+    pressCell(screen, 1, "ComboLineEdit", 0);
+    picture(QLatin1String("variables-keypad"));
+    closeDialog();
+}
+
 // The transfer is quicker than a tick: its picture is taken in the middle of it.
 void Tour::saveDownload(int percent)
 {
@@ -184,6 +225,42 @@ void Tour::press(const std::function<QWidget *()> &target)
 void Tour::pressTool(QWidget *among, const QString &text)
 {
     press([among, text] { return toolButton(among, text); });
+}
+
+void Tour::showScreen(int index)
+{
+    then([this, index] {
+        m_panel->messageBar()->hide();
+        m_panel->showScreen(index);
+    });
+    then([] {});
+}
+
+void Tour::pressKey(QWidget *among, const QString &text, int nth)
+{
+    press([among, text, nth] {
+        QList<PanelKey *> keys = among->findChildren<PanelKey *>();
+        for (int i = keys.size() - 1; i >= 0; --i) {
+            if (keys.at(i)->text() != text)
+                keys.removeAt(i);
+        }
+        return static_cast<QWidget *>(keys.value(nth));
+    });
+}
+
+// The nth visible cell of a class, from left to right, of a row on the page.
+void Tour::pressCell(ListScreen *screen, int row, const char *className, int nth)
+{
+    press([screen, row, className, nth] {
+        const QWidget *line = screen->list()->itemAt(screen->list()->getListPos(row));
+        QWidgetList cells;
+        const QWidgetList all = line ? line->findChildren<QWidget *>() : QWidgetList();
+        for (QWidget *cell : all) {
+            if (cell->isVisible() && cell->inherits(className))
+                cells.append(cell);
+        }
+        return cells.value(nth);
+    });
 }
 
 // A bar that the panel is wide enough for has no key to turn it.

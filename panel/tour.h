@@ -12,7 +12,10 @@
 #include <functional>
 
 class PanelWindow;
+class ListScreen;
 class ProgramScreen;
+class TeachScreen;
+class VariablesScreen;
 
 /// Walks the panel's screens and dialogs without an operator and leaves a numbered PNG of each.
 ///
@@ -26,8 +29,10 @@ public:
     /// Pictures go to \a folder, which is made if it is missing.
     Tour(PanelWindow *panel, const QString &folder, QObject *parent = nullptr);
 
-    /// The stops at the program screen.
+    /// The stops at each screen, in the order of the calls.
     void visitProgramScreen(ProgramScreen *screen);
+    void visitTeachScreen(TeachScreen *screen);
+    void visitVariablesScreen(VariablesScreen *screen);
 
     void start();
     /// What went wrong; empty when every step found what it touches and every picture was written.
@@ -44,6 +49,9 @@ private:
     void picture(const QString &name);
     void press(const std::function<QWidget *()> &target);
     void pressTool(QWidget *among, const QString &text);
+    void showScreen(int index);
+    void pressKey(QWidget *among, const QString &text, int nth = 0);
+    void pressCell(ListScreen *screen, int row, const char *className, int nth);
     void turnBar(QWidget *window);
     void closeDialog();
     void fail(const QString &error);

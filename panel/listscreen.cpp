@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "listscreen.h"
+
+#include "look.h"
+#include "panelkey.h"
+#include "panelsurface.h"
+#include "tlistwidget.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+
+namespace {
+
+const int kKeysBesideFrom = 760;
+// A list with a title is no wider: its title keeps the width that the library gives it.
+const int kTitledWidth = 480;
+const int kKeyPanelWidth = 3 * Look::kTouch;
+const int kKeyGap = 4;
+const int kLargeIcon = 36;
+
+TListWidget *makeList(QStringList title)
+{
+    const SurfaceLoan tall;
+    return new TListWidget(title, nullptr);
+}
+
+} // namespace
+
+ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, QWidget *parent)
+    : PanelScreen(parent)
+    , m_keysBeside(surface.width() >= kKeysBesideFrom)
+    , m_keyColumns(keyColumns)
+    , m_firstRow(title.isEmpty() ? 0 : 1)
+    , m_list(makeList(title))
+    , m_area(new QScrollArea)
+    , m_keyGrid(new QGridLayout)
+{
+    // An open row can push the foot of the page out of sight: the area moves, but shows no bars,
+    // for the list has pages.
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_area->viewport()->installEventFilter(this);
+    m_list->setFixedWidth(listWidth(surface));
+    if (m_firstRow == 0)
+        m_list->setSize(m_list->size());
+    m_area->setWidget(m_list);
+    connect(m_list, &TListWidget::clicked, this,
+            [this](int row) { QTimer::singleShot(0, this, [this, row] { keepRowInView(row); }); });
+
+    QWidget *keyPanel = new QWidget;
+    keyPanel->setStyleSheet(Look::keyPanelSheet());
+    m_keyGrid->setSpacing(kKeyGap);
+    m_keyGrid->setContentsMargins(kKeyGap, kKeyGap, kKeyGap, kKeyGap);
+    keyPanel->setLayout(m_keyGrid);
+
+    QBoxLayout *layout =
+        new QBoxLayout(m_keysBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    if (m_keysBeside) {
+        m_area->setFixedWidth(m_list->width());
+        keyPanel->setMinimumWidth(2 * Look::kTouch);
+        layout->addWidget(m_area);
+        layout->addWidget(keyPanel, 1);
+    } else {
+        layout->addWidget(m_area, 1);
+        layout->addWidget(keyPanel);
+    }
+}
+
+int ListScreen::listWidth(const QSize &surface) const
+{
+    if (m_firstRow == 1)
+        return qMin(surface.width(), kTitledWidth);
+    return m_keysBeside ? surface.width() - kKeyPanelWidth : surface.width();
+}
+
+PanelKey *ListScreen::addKey(const QIcon &icon, const QString &text)
+{
+    PanelKey *key = new PanelKey(icon, text);
+    key->setSizePolicy(QSizePolicy::Expanding,
+                       m_keysBeside ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    key->setMaximumHeight(2 * Look::kTouch);
+    if (m_keysBeside)
+        key->setIconSize(QSize(kLargeIcon, kLargeIcon));
+    m_keyGrid->addWidget(key, m_keyCount / m_keyColumns, m_keyCount % m_keyColumns);
+    ++m_keyCount;
+    return key;
+}
+
+void ListScreen::addPagingKeys()
+{
+    const auto icon = [](const char *name) {
+        return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
+    };
+    connect(addKey(icon("home"), tr("First")), &PanelKey::clicked, m_list, &TListWidget::home);
+    connect(addKey(icon("pageUp"), tr("Page")), &PanelKey::clicked, m_list, &TListWidget::prevPage);
+    connect(addKey(icon("pageDown"), tr("Page")), &PanelKey::clicked, m_list,
+            &TListWidget::nextPage);
+    connect(addKey(icon("end"), tr("Last")), &PanelKey::clicked, m_list, &TListWidget::end);
+}
+
+void ListScreen::setRows(const QList<QStringList> &rows)
+{
+    m_list->clear();
+    for (QStringList row : rows)
+        m_list->addWidget(row, false, false);
+    m_list->setCurIndex(m_firstRow, true);
+    fitPage();
+    m_list->home();
+}
+
+QList<QStringList> ListScreen::rows() const
+{
+    QList<QStringList> rows;
+    for (int row = m_firstRow; row < m_list->count(); ++row)
+        rows.append(m_list->getContent(row));
+    return rows;
+}
+
+bool ListScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_area->viewport() && event->type() == QEvent::Resize)
+        fitPage();
+    return PanelScreen::eventFilter(watched, event);
+}
+
+// As many rows a page as fit under the title.
+void ListScreen::fitPage()
+{
+    // The title is as high as a row that is not open.
+    const QWidget *first = m_list->itemAt(0);
+    if (!first || first->minimumHeight() <= 0)
+        return;
+    const int lines = m_area->viewport()->height() / first->minimumHeight();
+    m_list->setTotalLine(qMax(1, lines - m_firstRow));
+}
+
+void ListScreen::keepRowInView(int row)
+{
+    const QWidget *widget = m_list->itemAt(m_list->getListPos(row));
+    if (!widget)
+        return;
+    const int foot = widget->geometry().bottom() + 1;
+    m_area->verticalScrollBar()->setValue(qMax(0, foot - m_area->viewport()->height()));
+}

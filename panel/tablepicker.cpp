@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "tablepicker.h"
+
+#include "look.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+const int kValueWidth = 50;
+
+} // namespace
+
+TablePicker::TablePicker(const QString &title, const QStringList &keys,
+                         const QList<TableEntry> &table, int current, QWidget *parent)
+    : Dialog(parent), m_table(new QTableWidget(table.size(), 2 + keys.size()))
+{
+    setTitle(title);
+    QLabel *heading = new QLabel(title);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+
+    m_table->setHorizontalHeaderLabels(QStringList() << tr("No.") << tr("Name") << keys);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(Look::kTouch);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->horizontalHeader()->setDefaultSectionSize(kValueWidth);
+    m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->setColumnWidth(0, Look::kTouch);
+    for (int row = 0; row < table.size(); ++row) {
+        m_table->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
+        m_table->setItem(row, 1, new QTableWidgetItem(table.at(row).name));
+        for (int i = 0; i < keys.size(); ++i)
+            m_table->setItem(row, 2 + i, new QTableWidgetItem(table.at(row).values.value(i)));
+    }
+
+    QPushButton *ok = new QPushButton(tr("OK"));
+    QPushButton *cancel = new QPushButton(tr("Cancel"));
+    ok->setEnabled(false);
+    connect(m_table, &QTableWidget::itemSelectionChanged, ok, [ok] { ok->setEnabled(true); });
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    if (current >= 1 && current <= table.size())
+        m_table->selectRow(current - 1);
+
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->addWidget(heading);
+    column->addWidget(m_table, 1);
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    column->addLayout(buttons);
+    const QSize panel = QGuiApplication::primaryScreen()->availableSize();
+    resize(QSize(560, 430).boundedTo(panel - QSize(8, 8)));
+}
+
+int TablePicker::number() const
+{
+    const QList<QTableWidgetItem *> chosen = m_table->selectedItems();
+    return chosen.isEmpty() ? 0 : chosen.first()->row() + 1;
+}

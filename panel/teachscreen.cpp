@@ -1,0 +1,261 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "teachscreen.h"
+
+#include "look.h"
+#include "machinedata.h"
+#include "panelkey.h"
+#include "tablepicker.h"
+#include "taughtprogram.h"
+#include "tlistwidget.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace {
+
+const int kKeyColumns = 2;
+const int kKeysInALine = 9;
+
+QIcon libraryIcon(const char *name)
+{
+    return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
+}
+
+} // namespace
+
+TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
+                         QWidget *parent)
+    : ListScreen(surface, TaughtProgram::titleRow(),
+                 surface.width() < 760 ? kKeysInALine : kKeyColumns, parent)
+    , m_folder(folder)
+    , m_file(QDir(folder).filePath(QLatin1String("program.teach")))
+    , m_machine(machine)
+{
+    addPagingKeys();
+    connect(addKey(libraryIcon("insert"), tr("Joint")), &PanelKey::clicked, this,
+            [this] { insertMovement(QLatin1String("MJ")); });
+    connect(addKey(libraryIcon("insert"), tr("Line")), &PanelKey::clicked, this,
+            [this] { insertMovement(QLatin1String("ML")); });
+    connect(addKey(libraryIcon("insert"), tr("Other")), &PanelKey::clicked, this,
+            [this] { insert(TaughtProgram::command(tr("G04 F1 wait"))); });
+    connect(addKey(libraryIcon("delete"), tr("Delete")), &PanelKey::clicked, this,
+            &TeachScreen::removeChosen);
+    m_selectKey = addKey(Glyphs::icon(Glyphs::Select, Look::ink()), tr("Select"));
+    m_selectKey->setCheckable(true);
+    connect(m_selectKey, &PanelKey::toggled, this, [this](bool several) {
+        if (several)
+            list()->setMultiSelect();
+        else
+            list()->clearMultiSelect();
+    });
+
+    connect(list(), &TListWidget::clicked, this, &TeachScreen::followRow);
+    connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);
+    connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
+    connect(list(), &TListWidget::sg_item_deleted, this,
+            [this](int percent) { Q_EMIT worked(tr("Clearing: %1 %").arg(percent), percent); });
+
+    QList<QStringList> rows;
+    QString error;
+    if (!QFileInfo(m_file).exists() || !TaughtProgram::load(m_file, &rows, &error))
+        rows = TaughtProgram::sample(*m_machine);
+    setRows(rows);
+    markStored();
+}
+
+QString TeachScreen::title() const
+{
+    return QFileInfo(m_file).fileName();
+}
+
+QString TeachScreen::filePath() const
+{
+    return m_file;
+}
+
+QList<PanelKey *> TeachScreen::keys()
+{
+    PanelKey *loadKey = new PanelKey(Glyphs::icon(Glyphs::Load), tr("Load"));
+    PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), tr("Store"));
+    PanelKey *clearKey = new PanelKey(Glyphs::icon(Glyphs::Clear), tr("Clear"));
+    connect(loadKey, &PanelKey::clicked, this, &TeachScreen::askAndLoad);
+    connect(storeKey, &PanelKey::clicked, this, &TeachScreen::store);
+    connect(clearKey, &PanelKey::clicked, this, &TeachScreen::clear);
+    return {loadKey, storeKey, clearKey};
+}
+
+bool TeachScreen::mayClose()
+{
+    return mayLoseChanges(tr("The taught program has changes that are not stored."));
+}
+
+void TeachScreen::refreshStatus()
+{
+    const bool changed = rows() != m_stored;
+    if (changed == m_changed)
+        return;
+    m_changed = changed;
+    Q_EMIT titleChanged();
+}
+
+bool TeachScreen::load(const QString &path)
+{
+    QList<QStringList> rows;
+    QString error;
+    if (!TaughtProgram::load(path, &rows, &error)) {
+        Q_EMIT told(error, Warning);
+        return false;
+    }
+    m_file = path;
+    m_selectKey->setChecked(false);
+    setRows(rows);
+    markStored();
+    Q_EMIT told(tr("%1 loaded: %2 instructions.").arg(title()).arg(rows.size()), Good);
+    return true;
+}
+
+bool TeachScreen::store()
+{
+    QDir().mkpath(m_folder);
+    QString error;
+    if (!TaughtProgram::store(m_file, rows(), &error)) {
+        Q_EMIT told(error, Warning);
+        return false;
+    }
+    markStored();
+    Q_EMIT told(tr("%1 stored: %2 instructions.").arg(title()).arg(m_stored.size()), Good);
+    return true;
+}
+
+void TeachScreen::askAndLoad()
+{
+    if (mayLoseChanges(tr("Loading replaces what was changed and is not stored.")))
+        load(m_file);
+}
+
+void TeachScreen::clear()
+{
+    const int count = list()->count() - firstRow();
+    const int answer =
+        QMessageBox::question(nullptr, tr("Clear"), tr("Remove all %1 instructions?").arg(count),
+                              QMessageBox::Yes | QMessageBox::No);
+    if (answer != QMessageBox::Yes)
+        return;
+    m_selectKey->setChecked(false);
+    list()->clear();
+    Q_EMIT told(tr("%1 instructions removed. Load brings the stored ones back.").arg(count), Info);
+    refreshStatus();
+}
+
+void TeachScreen::insertMovement(const QString &kind)
+{
+    insert(TaughtProgram::movement(kind, tr("Move"), m_machine->currentPoint(), 1, *m_machine));
+}
+
+// Below the current row, and in view.
+void TeachScreen::insert(QStringList row)
+{
+    const int index = qMin(list()->getCurIndex() + 1, list()->count());
+    row[1] = QString::number(index);
+    m_selectKey->setChecked(false);
+    list()->insertWidget(index, row, true, false);
+    const int page = list()->getListPos(index);
+    if (page < firstRow() || !list()->itemAt(page) || !list()->itemAt(page)->isVisible())
+        list()->nextLine();
+    refreshStatus();
+}
+
+void TeachScreen::removeChosen()
+{
+    const int current = list()->getCurIndex();
+    const int other = list()->isMultiSelect() ? list()->getLastIndex() : current;
+    const int from = qMax(firstRow(), qMin(current, other));
+    const int to = qMin(list()->count() - 1, qMax(current, other));
+    if (from > to) {
+        Q_EMIT told(tr("There is no instruction to delete."), Info);
+        return;
+    }
+    m_selectKey->setChecked(false);
+    for (int row = to; row >= from; --row)
+        list()->removeWidget(row, row == from);
+    refreshStatus();
+}
+
+// The point that an instruction names is shared: a choice goes to every row that names it.
+void TeachScreen::choosePoint(int row)
+{
+    const int old = list()->getJposIndex(row);
+    TablePicker picker(tr("Point for instruction %1").arg(row), MachineData::pointKeys(),
+                       m_machine->points(), old);
+    if (picker.exec() != QDialog::Accepted || picker.number() == 0)
+        return;
+    const TableEntry &point = m_machine->points().at(picker.number() - 1);
+    QStringList values = point.values;
+    values.append(QString::number(picker.number()));
+    int count = 0;
+    for (int i = firstRow(); i < list()->count(); ++i) {
+        if (i != row && (old < 1 || list()->getJposIndex(i) != old))
+            continue;
+        list()->setJpos(i, values);
+        ++count;
+    }
+    list()->reshow();
+    m_machine->setCurrentPoint(picker.number());
+    refreshStatus();
+    Q_EMIT told(tr("Point %1 \"%2\" in %n instruction(s).", nullptr, count)
+                    .arg(picker.number())
+                    .arg(point.name),
+                Good);
+}
+
+void TeachScreen::chooseSpeed(int row)
+{
+    const int old = list()->getVIndex(row);
+    TablePicker picker(tr("Speed for instruction %1").arg(row), MachineData::speedKeys(),
+                       m_machine->speeds(), old);
+    if (picker.exec() != QDialog::Accepted || picker.number() == 0)
+        return;
+    const TableEntry &speed = m_machine->speeds().at(picker.number() - 1);
+    QStringList values = speed.values;
+    values.append(QString::number(picker.number()));
+    int count = 0;
+    for (int i = firstRow(); i < list()->count(); ++i) {
+        if (i != row && (old < 1 || list()->getVIndex(i) != old))
+            continue;
+        list()->setV(i, values);
+        ++count;
+    }
+    list()->reshow();
+    refreshStatus();
+    Q_EMIT told(tr("Speed %1 \"%2\" in %n instruction(s).", nullptr, count)
+                    .arg(picker.number())
+                    .arg(speed.name),
+                Good);
+}
+
+// What the program screen's Tag copies is the point of the instruction that was touched last.
+void TeachScreen::followRow(int row)
+{
+    m_machine->setCurrentPoint(list()->getJposIndex(row));
+}
+
+void TeachScreen::markStored()
+{
+    m_stored = rows();
+    refreshStatus();
+    Q_EMIT titleChanged();
+}
+
+bool TeachScreen::mayLoseChanges(const QString &question)
+{
+    refreshStatus();
+    if (!m_changed)
+        return true;
+    const int answer =
+        QMessageBox::warning(nullptr, tr("Taught program"), question,
+                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && store());
+}

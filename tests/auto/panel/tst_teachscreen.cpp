@@ -1,0 +1,397 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "combolineedit.h"
+#include "devicelog.h"
+#include "filarixtest.h"
+#include "label.h"
+#include "machinedata.h"
+#include "modaldriver.h"
+#include "panelkey.h"
+#include "tablepicker.h"
+#include "taughtprogram.h"
+#include "teachscreen.h"
+#include "tlistwidget.h"
+
+#include <QSignalSpy>
+#include <QTableWidget>
+
+class TestTeachScreen : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void fits_data();
+    void fits();
+    void pagingKeysTurnPages();
+    void insertedRowFollowsTheCurrentOne();
+    void deleteTakesTheCurrentRow();
+    void deleteTakesTheSelection();
+    void clearShowsProgressAndAsksFirst();
+    void insertAndDeleteInAnEmptyList();
+    void chosenPointGoesToEveryRowThatNamesTheSame();
+    void chosenSpeedGoesToEveryRowThatNamesTheSame();
+    void cancelledTableChangesNothing();
+    void rowWithoutAnIndexIsChangedAlone();
+    void touchedRowSetsThePointThatTagCopies();
+    void editOnTheKeypadIsStoredAndLoaded();
+    void brokenFileLeavesTheScreenAsItIs();
+    void closingWithChangesAsks();
+
+private:
+    PanelKey *key(const QString &text, int nth = 0) const;
+    QWidget *cell(int row, const char *className, int nth) const;
+    QStringList firstStrings(int position) const;
+    void choose(ModalDriver *driver, int number);
+
+    MachineData *m_machine = nullptr;
+    TeachScreen *m_screen = nullptr;
+    TListWidget *m_list = nullptr;
+    QList<PanelKey *> m_keys;
+};
+
+void TestTeachScreen::init()
+{
+    FilarixTest::init();
+    DeviceLog::reset();
+    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    m_machine = new MachineData;
+    m_screen = new TeachScreen(QSize(480, 800), home() + "/teach", m_machine);
+    m_keys = m_screen->keys();
+    for (PanelKey *key : m_keys)
+        key->setParent(m_screen);
+    m_screen->resize(480, 640);
+    m_screen->show();
+    QVERIFY(TestCompat::waitForExposed(m_screen));
+    m_list = m_screen->list();
+}
+
+void TestTeachScreen::cleanup()
+{
+    delete m_screen;
+    delete m_machine;
+    FilarixTest::cleanup();
+}
+
+PanelKey *TestTeachScreen::key(const QString &text, int nth) const
+{
+    const QList<PanelKey *> all = m_screen->findChildren<PanelKey *>();
+    for (PanelKey *key : all) {
+        if (key->text() == text && nth-- == 0)
+            return key;
+    }
+    return nullptr;
+}
+
+// The nth visible cell of a class in a row of the page.
+QWidget *TestTeachScreen::cell(int row, const char *className, int nth) const
+{
+    const QWidgetList all = m_list->itemAt(m_list->getListPos(row))->findChildren<QWidget *>();
+    for (QWidget *cell : all) {
+        if (cell->isVisible() && cell->inherits(className) && nth-- == 0)
+            return cell;
+    }
+    return nullptr;
+}
+
+QStringList TestTeachScreen::firstStrings(int position) const
+{
+    QStringList strings;
+    for (int row = 1; row < m_list->count(); ++row)
+        strings.append(m_list->getContent(row).value(position));
+    return strings;
+}
+
+void TestTeachScreen::choose(ModalDriver *driver, int number)
+{
+    driver->then([number](QWidget *dialog) {
+        dialog->findChild<QTableWidget *>()->selectRow(number - 1);
+        static_cast<TablePicker *>(dialog)->accept();
+    });
+}
+
+static QStringList numbers(int count)
+{
+    QStringList numbers;
+    for (int i = 1; i <= count; ++i)
+        numbers.append(QString::number(i));
+    return numbers;
+}
+
+void TestTeachScreen::fits_data()
+{
+    QTest::addColumn<QSize>("panel");
+    QTest::addColumn<QSize>("screen");
+    QTest::newRow("480x272") << QSize(480, 272) << QSize(480, 230);
+    QTest::newRow("480x800") << QSize(480, 800) << QSize(480, 670);
+    QTest::newRow("800x480") << QSize(800, 480) << QSize(800, 405);
+    QTest::newRow("1024x600") << QSize(1024, 600) << QSize(1024, 525);
+}
+
+void TestTeachScreen::fits()
+{
+    QFETCH(QSize, panel);
+    QFETCH(QSize, screen);
+    TeachScreen teach(panel, home() + "/teach", m_machine);
+    teach.resize(screen);
+    teach.show();
+    QVERIFY(TestCompat::waitForExposed(&teach));
+    QCOMPARE(teach.size(), screen);
+
+    const QWidgetList all = teach.findChildren<QWidget *>();
+    int rows = 0;
+    for (QWidget *widget : all) {
+        if (!widget->isVisible())
+            continue;
+        const bool isKey = widget->inherits("PanelKey");
+        const bool isRow = widget->parentWidget() == teach.list();
+        if (!isKey && !isRow)
+            continue;
+        const QRect place(widget->mapTo(&teach, QPoint(0, 0)), widget->size());
+        QVERIFY(teach.rect().contains(place));
+        QVERIFY(widget->height() >= 34);
+        QVERIFY(widget->width() >= 34);
+        rows += isRow;
+    }
+    QVERIFY(rows >= 5);
+}
+
+void TestTeachScreen::pagingKeysTurnPages()
+{
+    const auto firstShown = [this] {
+        for (int row = 1; row < m_list->count(); ++row) {
+            if (m_list->getListPos(row) == 1)
+                return row;
+        }
+        return -1;
+    };
+    QCOMPARE(firstShown(), 1);
+    QTest::mouseClick(key("Page", 1), Qt::LeftButton);
+    const int second = firstShown();
+    QVERIFY(second > 5);
+    QTest::mouseClick(key("Page", 0), Qt::LeftButton);
+    QCOMPARE(firstShown(), 1);
+    QTest::mouseClick(key("Last"), Qt::LeftButton);
+    QCOMPARE(firstShown(), m_list->count() - (second - 1));
+    QTest::mouseClick(key("First"), Qt::LeftButton);
+    QCOMPARE(firstShown(), 1);
+}
+
+void TestTeachScreen::insertedRowFollowsTheCurrentOne()
+{
+    const int before = m_list->count();
+    m_list->setCurIndex(3, false);
+    m_machine->setCurrentPoint(5);
+    QTest::mouseClick(key("Line"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), before + 1);
+    QCOMPARE(m_list->getCurIndex(), 4);
+    QCOMPARE(m_list->typeAt(4), QString("ML"));
+    QCOMPARE(m_list->getJposIndex(4), 5);
+    QTest::mouseClick(key("Joint"), Qt::LeftButton);
+    QCOMPARE(m_list->typeAt(5), QString("MJ"));
+    QTest::mouseClick(key("Other"), Qt::LeftButton);
+    QCOMPARE(m_list->typeAt(6), QString("Oth"));
+    QCOMPARE(firstStrings(1), numbers(before + 2));
+    QVERIFY(m_screen->hasChanges());
+}
+
+void TestTeachScreen::deleteTakesTheCurrentRow()
+{
+    const int before = m_list->count();
+    const QString next = m_list->getContent(4).at(4);
+    m_list->setCurIndex(3, false);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), before - 1);
+    QCOMPARE(m_list->getContent(3).at(4), next);
+    QCOMPARE(firstStrings(1), numbers(before - 2));
+}
+
+void TestTeachScreen::deleteTakesTheSelection()
+{
+    const int before = m_list->count();
+    const QStringList after = m_list->getContent(7);
+    m_list->setCurIndex(6, false);
+    QTest::mouseClick(key("Select"), Qt::LeftButton);
+    QVERIFY(m_list->isMultiSelect());
+    m_list->setCurIndex(2, false);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), before - 5);
+    QCOMPARE(m_list->getContent(2).mid(2), after.mid(2));
+    QVERIFY(!m_list->isMultiSelect());
+    QVERIFY(!key("Select")->isChecked());
+    QCOMPARE(firstStrings(1), numbers(before - 6));
+}
+
+void TestTeachScreen::clearShowsProgressAndAsksFirst()
+{
+    const int before = m_list->count();
+    QSignalSpy progress(m_screen, SIGNAL(worked(QString, int)));
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    QTest::mouseClick(key("Clear"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_list->count(), before);
+    QCOMPARE(progress.size(), 0);
+
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(key("Clear"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_list->count(), 1);
+    QCOMPARE(progress.size(), before);
+    QCOMPARE(progress.last().at(1).toInt(), 100);
+    for (int i = 1; i < progress.size(); ++i)
+        QVERIFY(progress.at(i).at(1).toInt() >= progress.at(i - 1).at(1).toInt());
+    QVERIFY(m_screen->hasChanges());
+}
+
+void TestTeachScreen::insertAndDeleteInAnEmptyList()
+{
+    m_list->setCurIndex(20, false);
+    m_list->clear();
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), 1);
+    QCOMPARE(told.size(), 1);
+    QTest::mouseClick(key("Joint"), Qt::LeftButton);
+    QTest::mouseClick(key("Other"), Qt::LeftButton);
+    QCOMPARE(firstStrings(0), (QStringList{"MJ", "Oth"}));
+    QCOMPARE(firstStrings(1), numbers(2));
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), 1);
+}
+
+void TestTeachScreen::chosenPointGoesToEveryRowThatNamesTheSame()
+{
+    QList<int> sharing;
+    for (int row = 1; row < m_list->count(); ++row) {
+        if (m_list->getJposIndex(row) == 2)
+            sharing.append(row);
+    }
+    // Make a second row share point 2, so that more than the touched row has to change.
+    QStringList values = m_machine->points().at(1).values;
+    values.append("2");
+    m_list->setJpos(m_list->count() - 1, values);
+    sharing.append(m_list->count() - 1);
+    QVERIFY(sharing.size() >= 2);
+    const int others = firstStrings(4).count("4");
+
+    ModalDriver driver;
+    choose(&driver, 6);
+    QTest::mouseClick(cell(sharing.first(), "Label", 1), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    for (int row : sharing) {
+        QCOMPARE(m_list->getJposIndex(row), 6);
+        QCOMPARE(m_list->getJpos(row), m_machine->points().at(5).values);
+    }
+    QCOMPARE(firstStrings(4).count("4"), others);
+    QCOMPARE(static_cast<QLabel *>(cell(sharing.first(), "Label", 1))->text(), QString("P:6"));
+    QCOMPARE(m_machine->currentPoint(), 6);
+}
+
+void TestTeachScreen::chosenSpeedGoesToEveryRowThatNamesTheSame()
+{
+    QList<int> sharing;
+    for (int row = 1; row < m_list->count(); ++row) {
+        if (m_list->getVIndex(row) == 4)
+            sharing.append(row);
+    }
+    QVERIFY(sharing.size() >= 3);
+    ModalDriver driver;
+    choose(&driver, 1);
+    QTest::mouseClick(cell(1, "Label", 2), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    for (int row : sharing) {
+        QCOMPARE(m_list->getVIndex(row), 1);
+        QCOMPARE(m_list->getV(row), m_machine->speeds().at(0).values);
+    }
+    QCOMPARE(static_cast<QLabel *>(cell(1, "Label", 2))->text(), QString("V:1"));
+}
+
+void TestTeachScreen::cancelledTableChangesNothing()
+{
+    const QStringList before = m_list->getContent(1);
+    ModalDriver driver;
+    driver.reject();
+    QTest::mouseClick(cell(1, "Label", 1), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_list->getContent(1), before);
+    QVERIFY(!m_screen->hasChanges());
+}
+
+void TestTeachScreen::rowWithoutAnIndexIsChangedAlone()
+{
+    // Values entered by hand belong to no entry, in two rows.
+    QStringList values = m_machine->points().at(0).values;
+    values.append(QString());
+    m_list->setJpos(1, values);
+    m_list->setJpos(2, values);
+    m_list->reshow();
+    ModalDriver driver;
+    choose(&driver, 3);
+    QTest::mouseClick(cell(1, "Label", 1), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_list->getJposIndex(1), 3);
+    QCOMPARE(m_list->getContent(2).at(4), QString());
+}
+
+void TestTeachScreen::touchedRowSetsThePointThatTagCopies()
+{
+    QCOMPARE(m_list->getJposIndex(2), 2);
+    QTest::mouseClick(cell(2, "Label", 0), Qt::LeftButton);
+    QCOMPARE(m_machine->currentPoint(), 2);
+}
+
+void TestTeachScreen::editOnTheKeypadIsStoredAndLoaded()
+{
+    QVERIFY(!m_screen->hasChanges());
+    DeviceLog::acceptWith("12.5");
+    QTest::mouseClick(cell(1, "ComboLineEdit", 0), Qt::LeftButton);
+    QCOMPARE(m_list->getContent(1).at(8), QString("12.5"));
+    m_screen->refreshStatus();
+    QVERIFY(m_screen->hasChanges());
+    QTest::mouseClick(key("Store"), Qt::LeftButton);
+    QVERIFY(!m_screen->hasChanges());
+
+    m_list->setCurIndex(1, false);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QVERIFY(m_list->getContent(1).at(8) != "12.5");
+    QVERIFY(m_screen->load(m_screen->filePath()));
+    QCOMPARE(m_list->getContent(1).at(8), QString("12.5"));
+    QVERIFY(!m_screen->hasChanges());
+
+    // The next start of the program shows what was stored.
+    TeachScreen next(QSize(480, 800), home() + "/teach", m_machine);
+    QCOMPARE(next.list()->getContent(1), m_list->getContent(1));
+    QCOMPARE(next.list()->count(), m_list->count());
+}
+
+void TestTeachScreen::brokenFileLeavesTheScreenAsItIs()
+{
+    const int before = m_list->count();
+    writeFile(home() + "/broken.teach", "G01 X10\n");
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QVERIFY(!m_screen->load(home() + "/broken.teach"));
+    QCOMPARE(m_list->count(), before);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QCOMPARE(m_screen->title(), QString("program.teach"));
+}
+
+void TestTeachScreen::closingWithChangesAsks()
+{
+    QVERIFY(m_screen->mayClose());
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    ModalDriver driver;
+    driver.press(QMessageBox::Cancel);
+    QVERIFY(!m_screen->mayClose());
+    driver.press(QMessageBox::Save);
+    QVERIFY(m_screen->mayClose());
+    QVERIFY(m_screen->mayClose());
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+FILARIX_TEST_MAIN(TestTeachScreen)
+#include "tst_teachscreen.moc"
