@@ -4,6 +4,7 @@
 #include "filarixtest.h"
 #include "whighlighter.h"
 
+#include <QDir>
 #include <QPlainTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void aHostsHighlighterUsesAMarkUp();
     void outsideOfHighlightingAMarkDrawsNothing();
     void sameAsTheSixExpressionsOnRandomLines();
+    void sameAsTheSixExpressionsOnSamplePrograms();
 };
 
 namespace {
@@ -384,6 +386,22 @@ void TestWHighlighter::sameAsTheSixExpressionsOnRandomLines()
     // The lines are worth comparing: most hold a word, many hold none.
     QVERIFY(coloured > documents * linesEach / 2);
     QVERIFY(coloured < documents * linesEach * 95 / 100);
+}
+
+void TestWHighlighter::sameAsTheSixExpressionsOnSamplePrograms()
+{
+    const QDir samples(QLatin1String(FILARIX_SAMPLE_PROGRAMS));
+    const QStringList programs =
+        samples.entryList(QStringList(QLatin1String("*.cnc")), QDir::Files, QDir::Name);
+    QVERIFY2(!programs.isEmpty(), FILARIX_SAMPLE_PROGRAMS);
+    Q_FOREACH (const QString &program, programs) {
+        const QByteArray bytes = readFile(samples.filePath(program));
+        QVERIFY2(!bytes.isEmpty(), qPrintable(program));
+        QTextDocument document;
+        newHighlighter(&document);
+        document.setPlainText(QString::fromUtf8(bytes));
+        compareAll(document);
+    }
 }
 
 FILARIX_TEST_MAIN(TestWHighlighter)
