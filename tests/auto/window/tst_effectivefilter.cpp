@@ -30,6 +30,7 @@ private Q_SLOTS:
     void blocksThatAreNoSingleLine();
     void sameAsThePlainStepsOnRandomDocuments();
     void sameAsThePlainStepsOnLongDocuments();
+    void everyLineAboveIsRead();
     void aNameThatStandsNowhereInAMillionLines();
 };
 
@@ -475,6 +476,28 @@ void TestEffectiveFilter::sameAsThePlainStepsOnLongDocuments()
                      Plain::getEffectiveString(*desk.editor, candidate));
         }
     }
+}
+
+void TestEffectiveFilter::everyLineAboveIsRead()
+{
+    // One name a line: whatever way the search takes up the document, it must miss no line.
+    const int lines = 1500;
+    const int firstName = 0x4e00;
+    QString text;
+    for (int i = 0; i < lines; ++i)
+        text += QChar(firstName + i) + QString::number(i) + QLatin1Char('\n');
+    Desk desk;
+    desk.load(text, lines);
+    for (int i = 0; i < lines; ++i) {
+        const QString name(QChar(firstName + i));
+        QVERIFY2(desk.window.compareString(lines, name, i), qPrintable(QString::number(i)));
+        QVERIFY2(!desk.window.compareString(lines, name, i + 1), qPrintable(QString::number(i)));
+    }
+    const QString both = QChar(firstName) + QString::fromLatin1("0 ") + QChar(firstName + lines - 1)
+                         + QString::number(lines - 1);
+    QCOMPARE(desk.window.getEffectiveString(both), QString());
+    QCOMPARE(desk.window.getEffectiveString(both + QLatin1String(" X1")),
+             QString::fromLatin1(" X1"));
 }
 
 void TestEffectiveFilter::aNameThatStandsNowhereInAMillionLines()
