@@ -88,6 +88,12 @@ private:
     QByteArray m_context;
 };
 
+/// Qt 5 leaves a field that a spin box was given empty until the value changes or the box is shown.
+inline bool givenFieldStartsEmpty()
+{
+    return QT_VERSION >= QT_VERSION_CHECK(5, 0, 0);
+}
+
 } // namespace TestCompat
 
 #endif // TESTCOMPAT_H

@@ -47,10 +47,10 @@ void TestDoubleSpinBox::theFieldFillsWithTheFirstChangeOrShowing()
 {
     DoubleSpinBox changed(nullptr);
     DoubleSpinBox shown(nullptr);
-#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-    QCOMPARE(changed.findChild<LineEdit *>()->text(), QString());
-    QCOMPARE(shown.findChild<LineEdit *>()->text(), QString());
-#endif
+    if (TestCompat::givenFieldStartsEmpty()) {
+        QCOMPARE(changed.findChild<LineEdit *>()->text(), QString());
+        QCOMPARE(shown.findChild<LineEdit *>()->text(), QString());
+    }
     changed.setValue(1.5);
     QCOMPARE(changed.findChild<LineEdit *>()->text(), changed.textFromValue(1.5));
     shown.show();

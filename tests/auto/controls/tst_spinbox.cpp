@@ -49,10 +49,10 @@ void TestSpinBox::theFieldFillsWithTheFirstChangeOrShowing()
 {
     SpinBox changed(nullptr);
     SpinBox shown(nullptr);
-#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-    QCOMPARE(changed.findChild<LineEdit *>()->text(), QString());
-    QCOMPARE(shown.findChild<LineEdit *>()->text(), QString());
-#endif
+    if (TestCompat::givenFieldStartsEmpty()) {
+        QCOMPARE(changed.findChild<LineEdit *>()->text(), QString());
+        QCOMPARE(shown.findChild<LineEdit *>()->text(), QString());
+    }
     changed.setValue(7);
     QCOMPARE(changed.findChild<LineEdit *>()->text(), QString::fromLatin1("7"));
     shown.show();
