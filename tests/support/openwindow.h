@@ -4,30 +4,17 @@
 #ifndef OPENWINDOW_H
 #define OPENWINDOW_H
 
-// The G-code screen with access control off, which the headers of the toolkit would not bear.
+// For tests built with NO_ACCESS_CONTROL.
 
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSplitter>
-#include <QStatusBar>
-#include <QTableWidget>
-#include <QToolBar>
-#include <QToolButton>
-
-#include "compat.h"
-#include "dialog.h"
-#include "filarixglobal.h"
-
-#define private public
-#define protected public
 #include "wfiledialog.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
-#undef private
-#undef protected
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolBar>
+#include <QToolButton>
 
 /// A window that takes the buttons along which no bar holds and which otherwise outlive it.
 class OpenWindow : public WMMainWindow

@@ -5,6 +5,7 @@
 #include "filarixtest.h"
 #include "marktranslator.h"
 #include "modaldriver.h"
+#include "wfiledialog.h"
 
 #include <QDesktopWidget>
 #include <QDir>
@@ -18,12 +19,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
-
-#define private public
-#define protected public
-#include "wfiledialog.h"
-#undef private
-#undef protected
 
 namespace {
 
@@ -61,6 +56,26 @@ void touch(WFileDialog &dialog, int row, int column)
 
 } // namespace
 
+/// Reads the name at the moment when the dialog is accepted.
+class NameReader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit NameReader(WFileDialog *dialog) : m_dialog(dialog)
+    {
+        connect(dialog, SIGNAL(accepted()), SLOT(read()));
+    }
+
+    QString name;
+
+private Q_SLOTS:
+    void read() { name = m_dialog->fileName; }
+
+private:
+    WFileDialog *m_dialog;
+};
+
 class TestWFileDialog : public FilarixTest
 {
     Q_OBJECT
@@ -96,6 +111,8 @@ private Q_SLOTS:
     void okGivesTheNameAsItStands();
     void cancelGivesNothing();
     void buttonsAreConnectedOnce();
+
+    void nameIsThereWhenTheDialogSaysSo();
 
     void textPropertyHasNoOtherEffect();
     void pressOpensTheKeypad();
@@ -454,6 +471,15 @@ void TestWFileDialog::buttonsAreConnectedOnce()
     // Names of objects are what a connection by name would go by.
     QCOMPARE(dialog.applyButton->objectName(), QString());
     QCOMPARE(dialog.cancelButton->objectName(), QString());
+}
+
+void TestWFileDialog::nameIsThereWhenTheDialogSaysSo()
+{
+    WFileDialog dialog(nullptr);
+    dialog.nameEdit->setText(QLatin1String("a.cnc"));
+    NameReader reader(&dialog);
+    dialog.applyButton->click();
+    QCOMPARE(reader.name, QString("a.cnc"));
 }
 
 void TestWFileDialog::textPropertyHasNoOtherEffect()

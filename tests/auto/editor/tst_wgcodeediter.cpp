@@ -3,6 +3,7 @@
 
 #include "filarixtest.h"
 #include "waqp.h"
+#include "wgcodeediter.h"
 #include "whighlighter.h"
 
 #include <QApplication>
@@ -19,34 +20,15 @@
 
 #include <random>
 
-// The gutter, the search state and the copy buffer have no public access.
-#define private public
-#define protected public
-#include "wgcodeediter.h"
-#undef private
-#undef protected
-
 namespace {
 
 const QChar softBreak(QChar::LineSeparator);
-
-/// Opens what the base class keeps to its heirs.
-class OpenEditer : public WGCodeEditer
-{
-public:
-    explicit OpenEditer(QWidget *parent = nullptr) : WGCodeEditer(parent) {}
-
-    using QPlainTextEdit::blockBoundingGeometry;
-    using QPlainTextEdit::contentOffset;
-    using QPlainTextEdit::firstVisibleBlock;
-    using QPlainTextEdit::setViewportMargins;
-};
 
 /// A screen around an editor that notes which presses nobody handled.
 class Screen : public QWidget
 {
 public:
-    Screen() : other(new QLineEdit(this)), editer(new OpenEditer(this))
+    Screen() : other(new QLineEdit(this)), editer(new WGCodeEditer(this))
     {
         QVBoxLayout *layout = new QVBoxLayout(this);
         layout->addWidget(other);
@@ -55,7 +37,7 @@ public:
     }
 
     QLineEdit *other;
-    OpenEditer *editer;
+    WGCodeEditer *editer;
     QList<QEvent::Type> unhandled;
 
 protected:
@@ -147,7 +129,7 @@ bool isRedMark(const WGCodeEditer &editer)
 }
 
 /// The gutter drawn as the editor's own geometry wants it.
-QImage expectedGutter(OpenEditer &editer, const QRect &rect)
+QImage expectedGutter(WGCodeEditer &editer, const QRect &rect)
 {
     QWidget *gutter = editer.lineNumberArea;
     QImage image(gutter->size(), QImage::Format_RGB32);
@@ -168,7 +150,7 @@ QImage expectedGutter(OpenEditer &editer, const QRect &rect)
     return image;
 }
 
-QImage paintedGutter(OpenEditer &editer, const QRect &rect)
+QImage paintedGutter(WGCodeEditer &editer, const QRect &rect)
 {
     QWidget *gutter = editer.lineNumberArea;
     QImage image(gutter->size(), QImage::Format_RGB32);
@@ -291,6 +273,7 @@ private Q_SLOTS:
     void currentLineNumberIsStored();
 
     void pressPlacesTheCursorAndGoesOnToTheParent();
+    void pressOnTheCursorRenewsTheMark();
     void dragSelectsNothing();
     void pressDropsTheSelection();
     void doubleTouchSelectsNothing();
@@ -378,7 +361,7 @@ void TestWGCodeEditer::startsEmptyWithOneHighlighterAndNoFindDialog()
 
 void TestWGCodeEditer::emptyDocumentHasAGutterOfOneDigit()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     QCOMPARE(editer.blockCount(), 1);
     const int digit = QFontMetrics(editer.font()).width(QLatin1Char('9'));
     QCOMPARE(editer.lineNumberAreaWidth(), digit + 3);
@@ -479,7 +462,7 @@ void TestWGCodeEditer::gutterIsPaintedAsTheBlocksLie()
 {
     QFETCH(QString, text);
     QFETCH(int, firstLine);
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.setPlainText(text);
     editer.show();
@@ -494,7 +477,7 @@ void TestWGCodeEditer::gutterIsPaintedAsTheBlocksLie()
 
 void TestWGCodeEditer::gutterPaintsAPartOnly()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.setPlainText(numberedLines(120));
     editer.show();
@@ -507,7 +490,7 @@ void TestWGCodeEditer::gutterPaintsAPartOnly()
 
 void TestWGCodeEditer::gutterDrawsTheNumbersOfHiddenBlocksToo()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.setPlainText(numberedLines(8));
     editer.show();
@@ -524,7 +507,7 @@ void TestWGCodeEditer::gutterDrawsTheNumbersOfHiddenBlocksToo()
 
 void TestWGCodeEditer::gutterLooksTheSameOnTheCurrentLine()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.setPlainText(numberedLines(5));
     editer.show();
@@ -537,7 +520,7 @@ void TestWGCodeEditer::gutterLooksTheSameOnTheCurrentLine()
 
 void TestWGCodeEditer::gutterScrollsWithTheText()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.setPlainText(numberedLines(60));
     editer.show();
@@ -558,7 +541,7 @@ void TestWGCodeEditer::gutterScrollsWithTheText()
 
 void TestWGCodeEditer::gutterUpdatesTheStripOfTheText()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.setPlainText(numberedLines(60));
     editer.show();
@@ -571,7 +554,7 @@ void TestWGCodeEditer::gutterUpdatesTheStripOfTheText()
 
 void TestWGCodeEditer::fullUpdateRenewsTheGutterWidth()
 {
-    OpenEditer editer;
+    WGCodeEditer editer(nullptr);
     editer.resize(300, 200);
     editer.show();
     QVERIFY(TestCompat::waitForExposed(&editer));
@@ -936,6 +919,19 @@ void TestWGCodeEditer::pressPlacesTheCursorAndGoesOnToTheParent()
     QTest::mouseRelease(screen.editer->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     QCOMPARE(screen.editer->textCursor().position(), 12);
     QVERIFY(!screen.editer->document()->isModified());
+}
+
+void TestWGCodeEditer::pressOnTheCursorRenewsTheMark()
+{
+    WGCodeEditer editer(nullptr);
+    editer.setPlainText(numberedLines(3));
+    editer.show();
+    QVERIFY(TestCompat::waitForExposed(&editer));
+    editer.gotoLine(2);
+    QTest::mousePress(editer.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      editer.cursorRect().center());
+    QCOMPARE(editer.getCurRowNumber(), 2);
+    QVERIFY(isCurrentLineMark(editer));
 }
 
 void TestWGCodeEditer::dragSelectsNothing()

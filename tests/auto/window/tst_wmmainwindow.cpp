@@ -10,6 +10,7 @@
 #include <QMoveEvent>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace {
