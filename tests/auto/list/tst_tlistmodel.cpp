@@ -456,70 +456,88 @@ void Walk::setTotalLine()
 
 void Walk::tapLine()
 {
+    enum { Frame, Number, Instruction, Jpos, V, Arrow };
     const int slot = anyShownSlot(true);
     if (slot < 0)
         return;
-    MJLine *line = qobject_cast<MJLine *>(m_list.itemAt(slot));
     const LineModel &model = m_model.pool.at(slot).line;
-    QList<int> cells;
+    QList<int> places;
+    places << Frame;
     if (!model.firstLineHidden)
-        cells << NumCell << InsCell << InsCell << InsCell << JposCell << VCell;
-    const int arrow = FirstLineCells;
+        places << Number << Instruction << Instruction << Instruction << Jpos << V;
     if (!model.detailAreaHidden)
-        cells << arrow;
-    const int frame = FirstLineCells + 1;
-    cells << frame;
-    const int cell = cells.at(m_random.below(cells.size()));
-    note(QString("tap cell %1 in slot %2").arg(cell).arg(slot));
-    if (cell == frame || cell == NumCell)
+        places << Arrow;
+    const int place = places.at(m_random.below(places.size()));
+    note(QString("tap place %1 in slot %2").arg(place).arg(slot));
+    MJLine *line = qobject_cast<MJLine *>(m_list.itemAt(slot));
+    const RowView view(line);
+    switch (place) {
+    case Frame:
         m_model.tapRow(slot);
-    else if (cell == InsCell || cell == arrow)
-        m_model.tapInstruction(slot);
-    else if (cell == JposCell)
-        m_model.tapJpos(slot);
-    else
-        m_model.tapV(slot);
-    if (cell == frame)
         tap(line);
-    else
-        tap(cell == arrow ? detailField(line, ArrowField) : firstLineCell(line, cell));
+        break;
+    case Number:
+        m_model.tapRow(slot);
+        tap(view.cell(RowView::Num));
+        break;
+    case Instruction:
+        m_model.tapInstruction(slot);
+        tap(view.cell(RowView::Ins));
+        break;
+    case Jpos:
+        m_model.tapJpos(slot);
+        tap(view.cell(RowView::Jpos));
+        break;
+    case V:
+        m_model.tapV(slot);
+        tap(view.cell(RowView::V));
+        break;
+    case Arrow:
+        m_model.tapInstruction(slot);
+        tap(view.arrow());
+        break;
+    }
 }
 
 void Walk::editLine()
 {
+    enum { Z = 9, T, Res }; // the numbers below are the details'
     const int slot = anyShownSlot(true);
     if (slot < 0)
         return;
-    MJLine *line = qobject_cast<MJLine *>(m_list.itemAt(slot));
     const LineModel &model = m_model.pool.at(slot).line;
-    const int z = DetailFields;
-    const int time = DetailFields + 1;
     QList<int> fields;
     if (!model.firstLineHidden)
-        fields << z << time;
-    for (int field = 0; !model.detailAreaHidden && field <= ResField; ++field)
-        fields << field;
+        fields << Z << T;
+    if (!model.detailAreaHidden)
+        fields << 0 << 1 << 2 << 3 << 4 << 5 << 6 << 7 << 8 << Res;
     if (fields.isEmpty())
         return;
     const int field = fields.at(m_random.below(fields.size()));
-    const KeypadAnswer answer = anyAnswer(field != ResField);
+    const KeypadAnswer answer = anyAnswer(field != Res);
     note(QString("edit field %1 in slot %2: %3 %4")
              .arg(field)
              .arg(slot)
              .arg(answer.accepted)
              .arg(answer.text));
-    if (field == z)
+    const RowView view(qobject_cast<MJLine *>(m_list.itemAt(slot)));
+    switch (field) {
+    case Z:
         m_model.tapZ(slot, answer);
-    else if (field == time)
+        tap(view.cell(RowView::Z));
+        break;
+    case T:
         m_model.tapT(slot, answer);
-    else if (field == ResField)
+        tap(view.cell(RowView::T));
+        break;
+    case Res:
         m_model.tapRes(slot, answer);
-    else
+        tap(view.res());
+        break;
+    default:
         m_model.tapDetail(slot, field, answer);
-    if (field == z || field == time)
-        tap(firstLineCell(line, field == z ? ZCell : TCell));
-    else
-        tap(detailField(line, field));
+        tap(view.detail(field));
+    }
 }
 
 void Walk::tapTable()
@@ -693,19 +711,21 @@ QString Walk::compareSlot(int slot)
 
 QString Walk::compareLine(MJLine *line, const LineModel &model)
 {
+    const RowView view(line);
     DIFFERENT("open", line->isExpanded(), model.expanded);
     DIFFERENT("first line hidden", line->firstLine()->isHidden(), model.firstLineHidden);
-    DIFFERENT("details hidden", detailArea(line)->isHidden(), model.detailAreaHidden);
-    const QString *const cells[] = {&model.num, &model.ins, &model.jpos,
-                                    &model.v,   &model.z,   &model.t};
-    for (int cell = 0; cell < FirstLineCells; ++cell)
-        DIFFERENT(QString("cell %1").arg(cell), text(firstLineCell(line, cell)), *cells[cell]);
-    DIFFERENT("detail fields", detailField(line, 0) != nullptr, model.hasDetailFields);
-    for (int field = 0; model.hasDetailFields && field < ResField; ++field)
-        DIFFERENT(QString("detail %1").arg(field), text(detailField(line, field)),
-                  model.detailFields.at(field));
+    DIFFERENT("details hidden", view.detailArea()->isHidden(), model.detailAreaHidden);
+    DIFFERENT("number", view.text(RowView::Num), model.num);
+    DIFFERENT("instruction", view.text(RowView::Ins), model.ins);
+    DIFFERENT("Jpos label", view.text(RowView::Jpos), model.jpos);
+    DIFFERENT("V label", view.text(RowView::V), model.v);
+    DIFFERENT("Z", view.text(RowView::Z), model.z);
+    DIFFERENT("T", view.text(RowView::T), model.t);
+    DIFFERENT("detail fields", view.isBuilt(), model.hasDetailFields);
+    for (int k = 0; model.hasDetailFields && k < 9; ++k)
+        DIFFERENT(QString("detail %1").arg(k), view.detailText(k), model.detailFields.at(k));
     if (model.hasDetailFields)
-        DIFFERENT("free text", text(detailField(line, ResField)), model.resField);
+        DIFFERENT("free text", view.resText(), model.resField);
     const QString sheet = line->dataEditor()->styleSheet();
     DIFFERENT("table hidden", line->dataEditor()->isHidden(), model.table.hidden);
     DIFFERENT("table sheet", sheet, QLatin1String(sheetOf(model.table.selected)));
@@ -716,7 +736,8 @@ QString Walk::compareTable(DataEditor *table, const TableModel &model)
 {
     int cell = 0;
     for (QMap<int, QString>::const_iterator i = model.cells.begin(); i != model.cells.end(); ++i)
-        DIFFERENT(QString("column %1").arg(i.key()), text(tableCell(table, cell++)), i.value());
+        DIFFERENT(QString("column %1").arg(i.key()), RowView::text(tableCell(table, cell++)),
+                  i.value());
     DIFFERENT("cells", table->layout()->count(), cell);
     return QString();
 }

@@ -4,6 +4,7 @@
 #include "combolineedit.h"
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "recordingkeypads.h"
 #include "rowprobe.h"
 #include "tlistwidget.h"
 
@@ -98,19 +99,16 @@ public:
     TListWidget *operator->() { return &m_list; }
     TListWidget *get() { return &m_list; }
 
-    ListWidget *slots() { return &m_list; }
-    MJLine *line(int row)
-    {
-        return qobject_cast<MJLine *>(slots()->itemAt(m_list.getListPos(row)));
-    }
+    ListWidget *pool() { return &m_list; }
+    MJLine *line(int row) { return qobject_cast<MJLine *>(pool()->itemAt(m_list.getListPos(row))); }
 
     /// The numbers on the page from top to bottom, without the title.
     QStringList page()
     {
         QStringList numbers;
-        for (int slot = m_title.isEmpty() ? 0 : 1; slot < slots()->count(); ++slot) {
-            if (!slots()->itemAt(slot)->isHidden())
-                numbers << numberOf(slots()->itemAt(slot));
+        for (int slot = m_title.isEmpty() ? 0 : 1; slot < pool()->count(); ++slot) {
+            if (!pool()->itemAt(slot)->isHidden())
+                numbers << numberOf(pool()->itemAt(slot));
         }
         return numbers;
     }
@@ -120,9 +118,12 @@ public:
     /// Writes beside the list's back what only a refill of this row takes away.
     void smear(int row)
     {
-        qobject_cast<QLabel *>(firstLineCell(line(row), NumCell))->setText("smear");
+        qobject_cast<QLabel *>(RowView(line(row)).cell(RowView::Num))->setText("smear");
     }
-    bool isSmeared(int row) { return text(firstLineCell(line(row), NumCell)) == "smear"; }
+    bool isSmeared(int row)
+    {
+        return RowView::text(RowView(line(row)).cell(RowView::Num)) == "smear";
+    }
 
 private:
     QStringList m_title;
@@ -200,6 +201,7 @@ private Q_SLOTS:
     void openRowAtTheFootPushesTheFirstTwoRowsOut_data();
     void openRowAtTheFootPushesTheFirstTwoRowsOut();
     void openRowAboveTheFootPushesNothingOut();
+    void pageOfTwoRowsFewerIsFullEnoughToMakeRoom();
     void titleRowIsNeverShownBelowTheTitle();
     void rowsOfThePageGetWidgetsOnceOnly();
     void refillEmitsNothing();
@@ -221,6 +223,7 @@ private Q_SLOTS:
     void multipleSelectionStretches();
     void insertingAndRemovingEndAMultipleSelection();
     void selectionOfAnOthRowStylesItsTable();
+    void deselectReachesOneRowBehindTheRowsOfATitledList();
     void extraIndexIsKept();
     void tapsAreReportedAfterTheRowIsCurrent();
     void pressBesideTheRowsIsTaken();
@@ -256,6 +259,8 @@ private Q_SLOTS:
     void editOfAnOthRowReachesTheStore();
     void editOfATableRowReachesTheStore();
     void editEmitsNoSignalOfTheList();
+    void listMayChangeWhileAKeypadIsOpen_data();
+    void listMayChangeWhileAKeypadIsOpen();
 
     void rowsOfUnknownKindHaveNoWidget();
     void titleOfUnknownKindIsNoTitle();
@@ -293,7 +298,7 @@ void TestTListWidget::startsWithAFullPageOfTheScreen()
     const int width = qMin(screen.width(), 480);
     MJLine *line = untitled.line(30);
     QCOMPARE(line->height(), int(screen.height() * 1.04 / 24.0));
-    QCOMPARE(firstLineCell(line, NumCell)->width(), int((width + 11.0f * 0.5f) / 11.0f - 2));
+    QCOMPARE(RowView(line).cell(RowView::Num)->width(), int((width + 11.0f * 0.5f) / 11.0f - 2));
 
     QStringList none;
     TListWidget empty(none, nullptr);
@@ -470,14 +475,15 @@ void TestTListWidget::setContentRefillsTheRow()
     row[8] = "8.25";
     program->setContent(2, row);
     QCOMPARE(row.size(), 35); // the row widget fills it up
-    QCOMPARE(text(firstLineCell(program.line(2), InsCell)), QString::fromUtf8("ARC(\342\206\223)"));
-    QCOMPARE(text(firstLineCell(program.line(2), ZCell)), QString("Z:8.25"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Ins)),
+             QString::fromUtf8("ARC(\342\206\223)"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Z)), QString("Z:8.25"));
 
     QStringList other = comment("2", "hello");
     program->setContent(2, other);
     QVERIFY(program.line(2)->firstLine()->isHidden());
     QVERIFY(!program.line(2)->dataEditor()->isHidden());
-    QCOMPARE(text(tableCell(program.line(2)->dataEditor(), 2)), QString("hello"));
+    QCOMPARE(RowView::text(tableCell(program.line(2)->dataEditor(), 2)), QString("hello"));
 
     QStringList back = instruction(2);
     program->setContent(2, back);
@@ -489,14 +495,14 @@ void TestTListWidget::setContentNeverReachesTheTitle()
 {
     Program program(true, 40);
     program->end();
-    MJLine *head = qobject_cast<MJLine *>(program.slots()->itemAt(0));
-    const QString before = text(tableCell(head->dataEditor(), 0));
+    MJLine *head = qobject_cast<MJLine *>(program.pool()->itemAt(0));
+    const QString before = RowView::text(tableCell(head->dataEditor(), 0));
     const int above = program.startLine() - 1;
     QCOMPARE(program->getListPos(above), 0);
     QStringList row = comment(QString::number(above), "hello");
     program->setContent(above, row);
     QCOMPARE(program->typeAt(above), QString("Oth"));
-    QCOMPARE(text(tableCell(head->dataEditor(), 0)), before);
+    QCOMPARE(RowView::text(tableCell(head->dataEditor(), 0)), before);
     QVERIFY(head->dataEditor()->isTitle());
 }
 
@@ -663,7 +669,7 @@ void TestTListWidget::pagingClosesOpenRows()
 {
     Program program(false, 40);
     program->home();
-    tap(firstLineCell(program.line(2), InsCell));
+    tap(RowView(program.line(2)).cell(RowView::Ins));
     QVERIFY(program.line(2)->isExpanded());
     program->nextPage();
     for (int i = 14; i < 28; ++i)
@@ -675,8 +681,8 @@ void TestTListWidget::pagingLeavesTheLastSlotOfATitledListOpen()
 {
     Program program(true, 40);
     program->home();
-    tap(firstLineCell(program.line(13), InsCell));
-    tap(firstLineCell(program.line(12), InsCell));
+    tap(RowView(program.line(13)).cell(RowView::Ins));
+    tap(RowView(program.line(12)).cell(RowView::Ins));
     QVERIFY(program.line(12)->isExpanded());
     program->nextPage();
     QVERIFY(program.line(26)->isExpanded());
@@ -704,14 +710,14 @@ void TestTListWidget::openRowAtTheFootPushesTheFirstTwoRowsOut()
     program->home();
     const int opened = 14 - fromTheFoot;
     const int closedHeight = program->height();
-    tap(firstLineCell(program.line(opened), InsCell));
+    tap(RowView(program.line(opened)).cell(RowView::Ins));
     QVERIFY(program.line(opened)->isExpanded());
     QCOMPARE(program.page(), numbers(t + 2, 13));
     QCOMPARE(program.startLine(), t); // the page itself has not moved
     QCOMPARE(program->getCurIndex(), opened);
     const int closedRow = program.line(t)->height();
     QCOMPARE(program->height(), closedHeight + program.line(opened)->height() - closedRow);
-    tap(detailField(program.line(opened), ArrowField));
+    tap(RowView(program.line(opened)).arrow());
     QCOMPARE(program.page(), numbers(t, 13));
     QCOMPARE(program->height(), closedHeight);
 }
@@ -720,12 +726,22 @@ void TestTListWidget::openRowAboveTheFootPushesNothingOut()
 {
     Program program(false, 40);
     program->home();
-    tap(firstLineCell(program.line(11), InsCell));
+    tap(RowView(program.line(11)).cell(RowView::Ins));
     QCOMPARE(program.page(), numbers(0, 13));
     // A page with free slots has room enough.
     Program shortPage(false, 10);
-    tap(firstLineCell(shortPage.line(9), InsCell));
+    tap(RowView(shortPage.line(9)).cell(RowView::Ins));
     QCOMPARE(shortPage.page(), numbers(0, 9));
+}
+
+void TestTListWidget::pageOfTwoRowsFewerIsFullEnoughToMakeRoom()
+{
+    Program nearlyFull(false, 12);
+    tap(RowView(nearlyFull.line(11)).cell(RowView::Ins));
+    QCOMPARE(nearlyFull.page(), numbers(2, 11));
+    Program shorter(false, 11);
+    tap(RowView(shorter.line(10)).cell(RowView::Ins));
+    QCOMPARE(shorter.page(), numbers(0, 10));
 }
 
 void TestTListWidget::titleRowIsNeverShownBelowTheTitle()
@@ -747,8 +763,8 @@ void TestTListWidget::rowsOfThePageGetWidgetsOnceOnly()
 {
     Program program(true, 60);
     QList<QWidget *> widgets;
-    for (int slot = 0; slot < program.slots()->count(); ++slot)
-        widgets << program.slots()->itemAt(slot);
+    for (int slot = 0; slot < program.pool()->count(); ++slot)
+        widgets << program.pool()->itemAt(slot);
     QCOMPARE(widgets.size(), 14);
     program->home();
     program->nextPage();
@@ -758,9 +774,9 @@ void TestTListWidget::rowsOfThePageGetWidgetsOnceOnly()
     QStringList row = instruction(1);
     program->addWidget(row, true, false);
     QCOMPARE(program.page(), numbers(1, 1));
-    QCOMPARE(program.slots()->count(), widgets.size());
+    QCOMPARE(program.pool()->count(), widgets.size());
     for (int slot = 0; slot < widgets.size(); ++slot)
-        QCOMPARE(program.slots()->itemAt(slot), widgets.at(slot));
+        QCOMPARE(program.pool()->itemAt(slot), widgets.at(slot));
 }
 
 void TestTListWidget::refillEmitsNothing()
@@ -806,16 +822,16 @@ void TestTListWidget::setSizeReplacesTheRowsAndKeepsTheTitle()
     Program program(true, 40);
     program->home();
     const int height = QApplication::desktop()->availableGeometry(-1).height();
-    QWidget *head = program.slots()->itemAt(0);
+    QWidget *head = program.pool()->itemAt(0);
     const QPointer<QWidget> row = program.line(2);
     program->setSize(QSize(300, height));
-    QCOMPARE(program.slots()->itemAt(0), head);
+    QCOMPARE(program.pool()->itemAt(0), head);
     QCOMPARE(head->height(), int(height * 1.04 / 24.0));
     QVERIFY(row && row->isHidden());
     QVERIFY(program.line(2) != row);
     QCOMPARE(program.page(), numbers(1, 13));
     // New rows get the new width and the old height.
-    QCOMPARE(firstLineCell(program.line(2), NumCell)->width(), int((300 + 5.5f) / 11.0f - 2));
+    QCOMPARE(RowView(program.line(2)).cell(RowView::Num)->width(), int((300 + 5.5f) / 11.0f - 2));
     QCOMPARE(program.line(2)->height(), int(height * 1.04 / 24.0));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!row);
@@ -845,12 +861,12 @@ void TestTListWidget::setSizeFromWithinATap()
     program->home();
     Resizer resizer(program.get());
     const QPointer<QWidget> row = program.line(2);
-    tap(firstLineCell(program.line(2), InsCell));
+    tap(RowView(program.line(2)).cell(RowView::Ins));
     QVERIFY(program.line(2) != row);
     DeviceLog::acceptWith("77");
-    tap(firstLineCell(program.line(3), ZCell));
+    tap(RowView(program.line(3)).cell(RowView::Z));
     QCOMPARE(program->getContent(3).at(8), QString("77"));
-    QCOMPARE(text(firstLineCell(program.line(3), ZCell)), QString("Z:77"));
+    QCOMPARE(RowView::text(RowView(program.line(3)).cell(RowView::Z)), QString("Z:77"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!row);
 }
@@ -861,7 +877,7 @@ void TestTListWidget::setTotalLineChangesThePage()
     program->home();
     program->setTotalLine(6);
     QCOMPARE(program.page(), numbers(1, 6));
-    QCOMPARE(program.slots()->count(), 14); // the pool is never reduced
+    QCOMPARE(program.pool()->count(), 14); // the pool is never reduced
     program->nextPage();
     QCOMPARE(program.page(), numbers(7, 12));
     program->setTotalLine(20);
@@ -897,7 +913,7 @@ void TestTListWidget::tinyPages()
     if (rows > 0) {
         MJLine *last = qobject_cast<MJLine *>(list.itemAt(list.ListWidget::count() - 1));
         QCOMPARE(last->getNum(), QString::number(7 + t));
-        tap(firstLineCell(last, InsCell));
+        tap(RowView(last).cell(RowView::Ins));
         // Two rows make room, even if there are no more than that.
         for (int slot = t; slot < list.ListWidget::count(); ++slot)
             QCOMPARE(list.itemAt(slot)->isHidden(), slot < t + 2);
@@ -937,7 +953,7 @@ void TestTListWidget::clickInsideThePageRestylesTwoRowsAndRefillsNone()
     program.smear(4);
     program.smear(6);
     QSignalSpy clicked(program.get(), SIGNAL(clicked(int)));
-    tap(firstLineCell(program.line(7), NumCell));
+    tap(RowView(program.line(7)).cell(RowView::Num));
     QCOMPARE(integers(clicked), QList<int>() << 7);
     QCOMPARE(program->getCurIndex(), 7);
     QVERIFY(!isSelected(program.line(4)));
@@ -1003,7 +1019,7 @@ void TestTListWidget::multipleSelectionStretches()
     program->setCurIndex(8, false);
     for (int i = 1; i <= 13; ++i)
         QCOMPARE(isSelected(program.line(i)), i >= 5 && i <= 8);
-    tap(firstLineCell(program.line(3), NumCell));
+    tap(RowView(program.line(3)).cell(RowView::Num));
     for (int i = 1; i <= 13; ++i)
         QCOMPARE(isSelected(program.line(i)), i >= 3 && i <= 5);
     QCOMPARE(program->getLastIndex(), 5);
@@ -1047,6 +1063,20 @@ void TestTListWidget::selectionOfAnOthRowStylesItsTable()
     QVERIFY(isSelected(line->dataEditor()));
 }
 
+// The slot is hidden, and styled anew before anybody sees it.
+void TestTListWidget::deselectReachesOneRowBehindTheRowsOfATitledList()
+{
+    Program program(true, 13);
+    for (int i = 13; i > 5; --i)
+        program->removeWidget(i, true);
+    QCOMPARE(program->count(), 6);
+    program->deselect(6, false);
+    program->deselect(7, false);
+    QVERIFY(isSelected(program.line(6)));
+    QVERIFY(program.line(6)->isHidden());
+    QVERIFY(!isSelected(program.line(7)));
+}
+
 void TestTListWidget::extraIndexIsKept()
 {
     Program program(true, 5);
@@ -1062,10 +1092,10 @@ void TestTListWidget::tapsAreReportedAfterTheRowIsCurrent()
     QSignalSpy clicked(program.get(), SIGNAL(clicked(int)));
     QSignalSpy jpos(program.get(), SIGNAL(sg_jpos_update(int)));
     QSignalSpy v(program.get(), SIGNAL(sg_v_update(int)));
-    tap(firstLineCell(program.line(2), JposCell));
+    tap(RowView(program.line(2)).cell(RowView::Jpos));
     QCOMPARE(integers(jpos), QList<int>() << 2);
     QCOMPARE(program->getCurIndex(), 2);
-    tap(firstLineCell(program.line(3), VCell));
+    tap(RowView(program.line(3)).cell(RowView::V));
     QCOMPARE(integers(v), QList<int>() << 3);
     QCOMPARE(program->getCurIndex(), 3);
     QCOMPARE(clicked.count(), 0);
@@ -1076,8 +1106,8 @@ void TestTListWidget::tapsAreReportedAfterTheRowIsCurrent()
     // A number below 0 moves no selection; only the labels report it.
     program->setIndex(4, "-1");
     tap(program.line(4));
-    tap(firstLineCell(program.line(4), JposCell));
-    tap(firstLineCell(program.line(4), VCell));
+    tap(RowView(program.line(4)).cell(RowView::Jpos));
+    tap(RowView(program.line(4)).cell(RowView::V));
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(integers(jpos), QList<int>() << 2 << -1);
     QCOMPARE(integers(v), QList<int>() << 3 << -1);
@@ -1118,8 +1148,8 @@ void TestTListWidget::insertRenumbersTheRowsBehind()
         QCOMPARE(program->getContent(i).at(1), prefix + QString::number(i));
     QCOMPARE(program->getCurIndex(), 2);
     QCOMPARE(program.startLine(), start);
-    QCOMPARE(text(firstLineCell(program.line(2), NumCell)), QString("new"));
-    QCOMPARE(text(firstLineCell(program.line(4), NumCell)), prefix + "4");
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Num)), QString("new"));
+    QCOMPARE(RowView::text(RowView(program.line(4)).cell(RowView::Num)), prefix + "4");
 }
 
 void TestTListWidget::insertBehindTheEndAppends()
@@ -1162,7 +1192,8 @@ void TestTListWidget::removeRenumbersTheRowsBehind()
     QCOMPARE(second.at(1), QString(titled ? "2" : "N2"));
     second[1] = third.at(1);
     QCOMPARE(second, third);
-    QCOMPARE(text(firstLineCell(program.line(2), NumCell)), QString(titled ? "2" : "N2"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Num)),
+             QString(titled ? "2" : "N2"));
     QCOMPARE(program->getContent(1).at(1), QString("1"));
 }
 
@@ -1304,7 +1335,7 @@ void TestTListWidget::clearKeepsTheCurrentRow()
     QCOMPARE(program->getLastIndex(), 30);
     QCOMPARE(program.startLine(), 1);
     QCOMPARE(program->getContent(0), head);
-    QVERIFY(!program.slots()->itemAt(0)->isHidden());
+    QVERIFY(!program.pool()->itemAt(0)->isHidden());
 }
 
 // Numbers and groups
@@ -1324,11 +1355,12 @@ void TestTListWidget::setIndexOfTheTopRowWaitsForItsRefill()
     program->setIndex(t + 1, "222");
     program->setIndex(13, "333");
     QCOMPARE(program->getContent(t).at(1), QString("111"));
-    QCOMPARE(text(firstLineCell(program.line(t), NumCell)), QString(titled ? "111" : "0"));
-    QCOMPARE(text(firstLineCell(program.line(t + 1), NumCell)), QString("222"));
-    QCOMPARE(text(firstLineCell(program.line(13), NumCell)), QString("333"));
+    QCOMPARE(RowView::text(RowView(program.line(t)).cell(RowView::Num)),
+             QString(titled ? "111" : "0"));
+    QCOMPARE(RowView::text(RowView(program.line(t + 1)).cell(RowView::Num)), QString("222"));
+    QCOMPARE(RowView::text(RowView(program.line(13)).cell(RowView::Num)), QString("333"));
     program->reshow();
-    QCOMPARE(text(firstLineCell(program.line(t), NumCell)), QString("111"));
+    QCOMPARE(RowView::text(RowView(program.line(t)).cell(RowView::Num)), QString("111"));
 }
 
 void TestTListWidget::setIndexByKind()
@@ -1337,7 +1369,7 @@ void TestTListWidget::setIndexByKind()
     QStringList row = comment("2", "hello");
     program->setContent(2, row);
     program->setIndex(2, "N5");
-    QCOMPARE(text(tableCell(program.line(2)->dataEditor(), 0)), QString("N5"));
+    QCOMPARE(RowView::text(tableCell(program.line(2)->dataEditor(), 0)), QString("N5"));
     QCOMPARE(program->getContent(2).at(1), QString("N5"));
 
     QStringList none;
@@ -1421,16 +1453,16 @@ void TestTListWidget::setVAndSetJposWriteStoreAndWidget()
     QCOMPARE(program->getVIndex(2), 61);
     QCOMPARE(program->getJposIndex(2), 4);
     MJLine *line = program.line(2);
-    QCOMPARE(text(firstLineCell(line, VCell)), QString("V:61"));
-    QCOMPARE(text(firstLineCell(line, JposCell)), QString("P:4"));
-    QCOMPARE(text(detailField(line, 0)), QString("k13:p"));
-    QCOMPARE(text(detailField(line, 5)), QString("k23:u"));
-    QCOMPARE(text(detailField(line, 8)), QString("k29:c"));
+    QCOMPARE(RowView::text(RowView(line).cell(RowView::V)), QString("V:61"));
+    QCOMPARE(RowView::text(RowView(line).cell(RowView::Jpos)), QString("P:4"));
+    QCOMPARE(RowView::text(RowView(line).detail(0)), QString("k13:p"));
+    QCOMPARE(RowView::text(RowView(line).detail(5)), QString("k23:u"));
+    QCOMPARE(RowView::text(RowView(line).detail(8)), QString("k29:c"));
 
     jpos << "41";
     program->setJpos(2, jpos);
     QCOMPARE(program->getJposIndex(2), 41);
-    QCOMPARE(text(firstLineCell(line, JposCell)), QString("P:41"));
+    QCOMPARE(RowView::text(RowView(line).cell(RowView::Jpos)), QString("P:41"));
     QCOMPARE(v.size(), 4); // the caller's lists stay whole
     QCOMPARE(jpos.size(), 7);
 }
@@ -1445,14 +1477,14 @@ void TestTListWidget::oneMoreStringThanTheGroupAndItsIndexReachesTheStoreOnly()
                                   << "extra";
     program->setV(2, v);
     QCOMPARE(program->getVIndex(2), 61);
-    QCOMPARE(text(firstLineCell(program.line(2), VCell)), QString("V:6"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::V)), QString("V:6"));
     QStringList jpos = numbers(1, 8);
     program->setJpos(2, jpos);
     QCOMPARE(program->getJposIndex(2), 7);
-    QCOMPARE(text(firstLineCell(program.line(2), JposCell)), QString("P:4"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Jpos)), QString("P:4"));
     program->reshow();
-    QCOMPARE(text(firstLineCell(program.line(2), VCell)), QString("V:61"));
-    QCOMPARE(text(firstLineCell(program.line(2), JposCell)), QString("P:7"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::V)), QString("V:61"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Jpos)), QString("P:7"));
 }
 
 void TestTListWidget::oneSlotShowsAGroupAtItsNextRefillOnly_data()
@@ -1479,13 +1511,13 @@ void TestTListWidget::oneSlotShowsAGroupAtItsNextRefillOnly()
         QCOMPARE(program->getVIndex(rows[k]), 61);
         QCOMPARE(program->getJposIndex(rows[k]), 41);
     }
-    QCOMPARE(text(firstLineCell(program.line(early), VCell)), QString("V:61"));
-    QCOMPARE(text(firstLineCell(program.line(early), JposCell)), QString("P:41"));
-    QCOMPARE(text(firstLineCell(program.line(late), VCell)), QString("V:6"));
-    QCOMPARE(text(firstLineCell(program.line(late), JposCell)), QString("P:4"));
+    QCOMPARE(RowView::text(RowView(program.line(early)).cell(RowView::V)), QString("V:61"));
+    QCOMPARE(RowView::text(RowView(program.line(early)).cell(RowView::Jpos)), QString("P:41"));
+    QCOMPARE(RowView::text(RowView(program.line(late)).cell(RowView::V)), QString("V:6"));
+    QCOMPARE(RowView::text(RowView(program.line(late)).cell(RowView::Jpos)), QString("P:4"));
     program->reshow();
-    QCOMPARE(text(firstLineCell(program.line(late), VCell)), QString("V:61"));
-    QCOMPARE(text(firstLineCell(program.line(late), JposCell)), QString("P:41"));
+    QCOMPARE(RowView::text(RowView(program.line(late)).cell(RowView::V)), QString("V:61"));
+    QCOMPARE(RowView::text(RowView(program.line(late)).cell(RowView::Jpos)), QString("P:41"));
 }
 
 void TestTListWidget::setJposOfAnOthRowChangesNothing()
@@ -1497,7 +1529,7 @@ void TestTListWidget::setJposOfAnOthRowChangesNothing()
     QStringList jpos = numbers(1, 7);
     program->setJpos(2, jpos);
     QCOMPARE(program->getContent(2), stored);
-    QCOMPARE(text(firstLineCell(program.line(2), JposCell)), QString("P:4"));
+    QCOMPARE(RowView::text(RowView(program.line(2)).cell(RowView::Jpos)), QString("P:4"));
 }
 
 // Edits
@@ -1507,12 +1539,12 @@ void TestTListWidget::editSurvivesPagingAwayAndBack()
     Program program(true, 40);
     program->home();
     DeviceLog::acceptWith("12.5");
-    tap(firstLineCell(program.line(3), ZCell));
-    tap(firstLineCell(program.line(3), InsCell));
+    tap(RowView(program.line(3)).cell(RowView::Z));
+    tap(RowView(program.line(3)).cell(RowView::Ins));
     DeviceLog::acceptWith("-7");
-    tap(detailField(program.line(3), 1));
+    tap(RowView(program.line(3)).detail(1));
     DeviceLog::acceptWith("two words");
-    tap(detailField(program.line(3), ResField));
+    tap(RowView(program.line(3)).res());
 
     QStringList expected = instruction(3);
     expected[8] = "12.5";
@@ -1523,11 +1555,11 @@ void TestTListWidget::editSurvivesPagingAwayAndBack()
 
     program->nextPage();
     program->prevPage();
-    QCOMPARE(text(firstLineCell(program.line(3), ZCell)), QString("Z:12.5"));
-    QCOMPARE(text(firstLineCell(program.line(3), JposCell)), QString("P:"));
-    tap(firstLineCell(program.line(3), InsCell));
-    QCOMPARE(text(detailField(program.line(3), 1)), QString("k15:-7"));
-    QCOMPARE(text(detailField(program.line(3), ResField)), QString("two words"));
+    QCOMPARE(RowView::text(RowView(program.line(3)).cell(RowView::Z)), QString("Z:12.5"));
+    QCOMPARE(RowView::text(RowView(program.line(3)).cell(RowView::Jpos)), QString("P:"));
+    tap(RowView(program.line(3)).cell(RowView::Ins));
+    QCOMPARE(RowView::text(RowView(program.line(3)).detail(1)), QString("k15:-7"));
+    QCOMPARE(RowView::text(RowView(program.line(3)).res()), QString("two words"));
 }
 
 void TestTListWidget::editOfAnOthRowReachesTheStore()
@@ -1570,6 +1602,59 @@ void TestTListWidget::editEmitsNoSignalOfTheList()
     QSignalSpy v(program.get(), SIGNAL(sg_v_update(int)));
     QMetaObject::invokeMethod(program.line(2), "sg_content_change", Q_ARG(int, 2));
     QCOMPARE(clicked.count() + jpos.count() + v.count(), 0);
+}
+
+void TestTListWidget::listMayChangeWhileAKeypadIsOpen_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<int>("edited");
+    // A slot keeps its field, so the answer goes to the row that is in the slot by then.
+    QTest::newRow("page turned, accepted") << "nextPage" << true << 1;
+    QTest::newRow("page turned, cancelled") << "nextPage" << false << 0;
+    QTest::newRow("row removed, accepted") << "remove" << true << 1;
+    QTest::newRow("row removed, cancelled") << "remove" << false << 0;
+    QTest::newRow("page shortened, accepted") << "setTotalLine" << true << 1;
+    QTest::newRow("page shortened, cancelled") << "setTotalLine" << false << 0;
+    QTest::newRow("rows cleared, accepted") << "clear" << true << 0;
+    QTest::newRow("rows cleared, cancelled") << "clear" << false << 0;
+    QTest::newRow("rows replaced, accepted") << "setSize" << true << 0;
+    QTest::newRow("rows replaced, cancelled") << "setSize" << false << 0;
+}
+
+// A host's timer, for example. No edit may reach a row that is gone, and nobody a dead widget.
+void TestTListWidget::listMayChangeWhileAKeypadIsOpen()
+{
+    QFETCH(QString, change);
+    QFETCH(bool, accepted);
+    Program program(true, 40);
+    program->home();
+    tap(RowView(program.line(3)).cell(RowView::Ins));
+    RecordingDevice::Answer answer;
+    answer.accept = accepted;
+    answer.text = "77";
+    answer.action = [&program, &change]() {
+        if (change == "nextPage")
+            program->nextPage();
+        else if (change == "setSize")
+            program->setSize(QSize(300, 2000));
+        else if (change == "clear")
+            program->clear();
+        else if (change == "remove")
+            program->removeWidget(3, true);
+        else
+            program->setTotalLine(2);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    RecordingDevice::instance().answers << answer;
+    tap(RowView(program.line(3)).detail(1));
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+
+    int edited = 0;
+    for (int i = 1; i < program->count(); ++i)
+        edited += program->getJpos(i).at(1) == "77" ? 1 : 0;
+    QTEST(edited, "edited");
+    program->home();
 }
 
 // A host's errors
