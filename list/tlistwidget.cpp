@@ -161,8 +161,7 @@ int TListWidget::pageEnd() const
 /// page: three times as high, it hangs over the foot.
 bool TListWidget::isFootOpen(int end) const
 {
-    if (count() < ListWidget::count() - 1 || getListPos(end) != ListWidget::count()
-        || end < qint64(m_startLine) + m_totalLine - 2)
+    if (getListPos(end) != ListWidget::count() || end < qint64(m_startLine) + m_totalLine - 2)
         return false;
     return isOpen(itemAt(getListPos(end - 1))) || isOpen(itemAt(getListPos(end - 2)));
 }

@@ -17,7 +17,7 @@ class QMouseEvent;
 /// A teach program of any length on a small panel: every row is kept as a list of strings, and only
 /// the rows of the page have widgets, refilled as the page moves.
 ///
-///     QStringList title;                        // or "Title", "Title" and nine column texts
+///     QStringList title = QStringList() << "Title" << "Title" << columns;   // nine or more
 ///     TListWidget *list = new TListWidget(title, parent);
 ///     Q_FOREACH (QStringList row, program)      // "MJ", number, instruction name, ...
 ///         list->addWidget(row, false, false);
@@ -26,9 +26,12 @@ class QMouseEvent;
 ///
 /// A row is the kind followed by the kind's own strings. A list holds rows of one family: "MJ",
 /// "ML", "Oth" and "Title" rows, or "DataEditor" rows. Row indexes count from 0; in a list with a
-/// title row 0 is the title and the host's own rows count from 1. The number that a row shows is
-/// what it reports itself by, so the host gives each row its index as number: the index itself
-/// with a title, "N" and the index without one.
+/// title row 0 is the title, and the host's own rows count from 1.
+///
+/// A row reports itself by the number that it shows, so a host gives each row its index as number.
+/// Inserting and removing keep that up: they number the rows behind "3", "4" and so on under a
+/// title, "N3", "N4" without one. A table drops the "N" as it reports itself, but an instruction
+/// row does not and then reports 0: a list of instructions wants a title.
 ///
 /// An edit of the operator reaches the row at once: getContent() is always current, and no signal
 /// tells of it. The list belongs to its parent, the row widgets to the list; it never gives one
