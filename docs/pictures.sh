@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# docs/pictures.sh
+#
+# Makes the pictures of the README anew: the panel program walks its screens, and the named ones go
+# to docs/images.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+# tour SIZE ROTATION: walks the screens with a home of its own into $scratch/SIZE.
+tour() {
+    mkdir -p "$scratch/home"
+    HOME=$scratch/home ./run --size "$1" --rotation "$2" --tour "$scratch/$1" >"$scratch/log" 2>&1 \
+        || { cat "$scratch/log" >&2; exit 1; }
+    rm -rf "${scratch:?}/home"
+}
+
+# keep SIZE SCREEN: one picture of a tour, whatever its number.
+keep() {
+    local found=("$scratch/$1"/*-"$2".png)
+    cp "${found[0]}" "docs/images/$2-$1.png"
+}
+
+mkdir -p docs/images
+tour 800x480 0
+keep 800x480 program
+keep 800x480 find
+tour 480x800 90
+keep 480x800 program
+keep 480x800 gcode-keypad
