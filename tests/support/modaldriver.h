@@ -36,7 +36,7 @@ public:
         QMessageBox::Icon icon;
         QMessageBox::StandardButtons buttons;
         QMessageBox::StandardButton defaultButton;
-        /// The escape button as the box answers Escape; NoButton when it has none.
+        /// The escape button that was set; NoButton when the choice is left to the toolkit.
         QMessageBox::StandardButton escapeButton;
         QWidget *parent;
     };
