@@ -36,6 +36,18 @@ function(filarix_find_qt_test)
   endif()
 endfunction()
 
+# Compiles a resource file into a target. Its qInitResources_ and qCleanupResources_ functions are
+# exported: hosts unload and reload the icons by them.
+function(filarix_add_resource target file)
+  if(FILARIX_QT EQUAL 5)
+    qt5_add_resources(source "${file}")
+  else()
+    qt4_add_resources(source "${file}")
+  endif()
+  set_source_files_properties(${source} PROPERTIES COMPILE_OPTIONS -fvisibility=default)
+  target_sources(${target} PRIVATE ${source})
+endfunction()
+
 # What all our own targets share. Private, so that nothing of it reaches a host: a host may use
 # the keywords and its own warning level.
 function(filarix_target_defaults target)
