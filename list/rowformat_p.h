@@ -4,11 +4,14 @@
 #ifndef ROWFORMAT_P_H
 #define ROWFORMAT_P_H
 
+#include "filarixrows.h"
+
 #include <QLatin1String>
 #include <QString>
 #include <QStringList>
 
-/// The one statement of what stands where in a row.
+/// The forms of a row inside the library. Kinds and positions are what hosts see too, and stand in
+/// filarixrows.h.
 ///
 /// A row is a list of strings and comes in three forms:
 /// - the host form is what a host passes in and the list stores: a kind, then the row;
@@ -18,57 +21,13 @@
 ///   host form.
 namespace RowFormat {
 
-// Kinds, at position 0 of the host form.
-const char jointMove[] = "MJ";
-const char linearMove[] = "ML";
-const char other[] = "Oth";   // also the mark in the row by which MJLine knows such a row
-const char title[] = "Title"; // the same
-const char dataEditor[] = "DataEditor";
-
-/// Rows with Jpos and V groups; nothing tells the two kinds apart.
-inline bool isInstruction(const QString &kind)
-{
-    return kind == QLatin1String(jointMove) || kind == QLatin1String(linearMove);
-}
-
-/// Positions in the host form; from Ins on those of the working form too.
-enum Position {
-    Kind = 0,
-    Num = 1,
-    Ins = 2,
-    JposKey = 3,
-    JposIndex = 4,
-    VKey = 5,
-    VIndex = 6,
-    ZKey = 7,
-    ZValue = 8,
-    TKey = 9,
-    TValue = 10,
-    Att = 11,
-    Res = 12,
-    FirstDetail = 13,
-    HostLength = 31
-};
+using namespace FilarixRows;
 
 /// Where the number stands in the inner and the working form.
 const int workingNum = 0;
 /// Where the empty string of the working form goes.
 const int insertedPosition = 1;
 const int workingLength = 35;
-
-/// What stands at Att in every row that is written.
-const char attLiteral[] = "Att";
-
-// The detail pairs, key then value: six of the Jpos group, then three of the V group.
-const int detailCount = 9;
-const int jposDetails = 6;
-const int vDetails = 3;
-
-/// Position of the value of detail pair \a pair, 0 to 8.
-inline int detailValue(int pair)
-{
-    return FirstDetail + 2 * pair + 1;
-}
 
 /// A list longer than this gets the inserted string: a new row is less strict than a refilled one,
 /// so a list of 10 to 19 strings lands one position further to the left when it is refilled.

@@ -1,0 +1,368 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FILARIXROWS_H
+#define FILARIXROWS_H
+
+#include <QLatin1String>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// Rows for TListWidget: builds them, and finds what is wrong with one. A header alone; it needs
+/// Qt Core and nothing of the library.
+///
+/// A list takes rows as it gets them and checks nothing, so one colon too many moves values to
+/// other fields, and a wrong number makes an edit land in another row. A host that builds its rows
+/// here, or checks what it reads from a file, is safe from that:
+///
+///     using namespace FilarixRows;
+///     InstructionRow move(InstructionRow::Joint, "MOVJ");
+///     move.setJpos("P", 3).setV("V", 1).setZ("Z", "0").setT("T", "0.5").setRes("over the core");
+///     move.setDetail(0, "X", "12.5");
+///     QStringList row = move.row(list->count());
+///     if (checkRow(row, list->count()).isEmpty())
+///         list->addWidget(row, true, false);
+///
+/// Give a list of instructions a title row. When rows move, a list without one writes their numbers
+/// as "N" and the index, which tables read and instruction rows do not.
+namespace FilarixRows {
+
+// Kinds, at position 0. A list holds "DataEditor" rows only, or none of them.
+const char jointMove[] = "MJ";
+const char linearMove[] = "ML";
+const char other[] = "Oth";   // also the mark in the row by which its widget knows it
+const char title[] = "Title"; // the same
+const char dataEditor[] = "DataEditor";
+
+/// Where the strings of an instruction row stand, as the host gives and reads it. A key and its
+/// value are shown as one text, with a ":" between.
+enum Position {
+    Kind = 0,
+    Num = 1, // the row's index in the list, the title counted
+    Ins = 2, // no "("
+    JposKey = 3,
+    JposIndex = 4, // an integer, or empty
+    VKey = 5,
+    VIndex = 6, // an integer, or empty
+    ZKey = 7,
+    ZValue = 8,
+    TKey = 9,
+    TValue = 10,
+    Att = 11, // "Att"
+    Res = 12, // free text with "_" for each blank
+    FirstDetail = 13,
+    HostLength = 31
+};
+
+/// What stands at Att.
+const char attLiteral[] = "Att";
+
+// The detail pairs, key then value: six of the Jpos group, then three of the V group.
+const int detailCount = 9;
+const int jposDetails = 6;
+const int vDetails = 3;
+
+/// Position of the key and of the value of detail pair \a pair, 0 to 8.
+inline int detailKey(int pair)
+{
+    return FirstDetail + 2 * pair;
+}
+
+inline int detailValue(int pair)
+{
+    return detailKey(pair) + 1;
+}
+
+/// Rows with Jpos and V groups; nothing tells the two kinds apart.
+inline bool isInstruction(const QString &kind)
+{
+    return kind == QLatin1String(jointMove) || kind == QLatin1String(linearMove);
+}
+
+/// Builds an instruction row. What is not set is empty. Texts are taken as they are given, except
+/// for the blanks of the free text: checkRow() tells which of them a row cannot hold.
+class InstructionRow
+{
+public:
+    enum Motion { Joint, Linear };
+
+    explicit InstructionRow(Motion motion, const QString &ins)
+    {
+        m_row.reserve(HostLength);
+        for (int i = 0; i < HostLength; ++i)
+            m_row.append(QString());
+        m_row[Kind] = QLatin1String(motion == Linear ? linearMove : jointMove);
+        m_row[Ins] = ins;
+        m_row[Att] = QLatin1String(attLiteral);
+    }
+
+    /// What the Jpos label shows: its key, and the number that stands for the six values.
+    InstructionRow &setJpos(const QString &key, int index)
+    {
+        return setPair(JposKey, key, QString::number(index));
+    }
+    /// What the V label shows: its key, and the number that stands for the three values.
+    InstructionRow &setV(const QString &key, int index)
+    {
+        return setPair(VKey, key, QString::number(index));
+    }
+    InstructionRow &setZ(const QString &key, const QString &value)
+    {
+        return setPair(ZKey, key, value);
+    }
+    InstructionRow &setT(const QString &key, const QString &value)
+    {
+        return setPair(TKey, key, value);
+    }
+    /// The free text. A row has no means to tell "_" from a blank: either is shown as a blank.
+    InstructionRow &setRes(const QString &text)
+    {
+        m_row[Res] = text;
+        m_row[Res].replace(QLatin1Char(' '), QLatin1Char('_'));
+        return *this;
+    }
+    /// Detail pair 0 to 8: Jpos values up to 5, V values from 6 on. Another \a pair is ignored.
+    InstructionRow &setDetail(int pair, const QString &key, const QString &value)
+    {
+        return pair < 0 || pair >= detailCount ? *this : setPair(detailKey(pair), key, value);
+    }
+
+    /// The 31 strings, for the row of index \a index: list->count() for one to be appended.
+    QStringList row(int index) const
+    {
+        QStringList result = m_row;
+        result[Num] = QString::number(index);
+        return result;
+    }
+
+private:
+    InstructionRow &setPair(int position, const QString &key, const QString &value)
+    {
+        m_row[position] = key;
+        m_row[position + 1] = value;
+        return *this;
+    }
+
+    QStringList m_row;
+};
+
+/// The title row of a list of instructions, for the constructor of TListWidget: the texts above the
+/// five columns that follow the number. A title is long; what it has no column for stays empty.
+inline QStringList titleRow(const QString &ins, const QString &jpos, const QString &v,
+                            const QString &z, const QString &t)
+{
+    const QString unseen;
+    return QStringList() << QLatin1String(title) << QLatin1String(title) << ins << jpos << unseen
+                         << v << unseen << z << unseen << t << unseen;
+}
+
+/// A row among instructions that is none: it shows its number, "Oth", and \a text to be edited.
+inline QStringList otherRow(int index, const QString &text)
+{
+    return QStringList() << QLatin1String(other) << QString::number(index) << QString()
+                         << QLatin1String(other) << text;
+}
+
+/// A row of a list of tables: the index, then \a cells. All rows of a list take the same number of
+/// cells. Of exactly three cells the first is left empty: it shares its place with the second.
+inline QStringList dataRow(int index, const QStringList &cells)
+{
+    return QStringList() << QLatin1String(dataEditor) << QString::number(index) << cells;
+}
+
+enum Fault {
+    UnknownKind,      // no widget is built for the row
+    MixedFamilies,    // tables among instructions, or the other way round
+    WrongLength,      // not 31 strings, or a table of another length than the list's first row
+    NumIsNotIndex,    // edits of the row would be stored in another one
+    ParenthesisInIns, // the name is cut there when the row is read back
+    ReservedIns,      // an instruction named "Oth" hides behind its table
+    ColonInField,     // read back, later strings move by one; a detail is cut by its next edit
+    IndexIsNoInteger, // reads as 0
+    AttMissing,       // comes back as "Att"
+    BlankInRes,       // comes back as "_"
+    MarkMissing,      // "Oth" or "Title" does not stand where the widget looks for it
+    SharedCell        // the first of two strings for one cell is not empty: they come back as one
+};
+
+/// What is wrong at one position of one row. \a row is its index, the title counted.
+struct Problem
+{
+    Problem(int row, int position, Fault fault) : row(row), position(position), fault(fault) {}
+
+    int row;
+    int position;
+    Fault fault;
+};
+
+inline bool operator==(const Problem &a, const Problem &b)
+{
+    return a.row == b.row && a.position == b.position && a.fault == b.fault;
+}
+
+/// The problem in words, for a log.
+inline QString describe(const Problem &problem)
+{
+    const char *text = "";
+    switch (problem.fault) {
+    case UnknownKind:
+        text = "unknown kind";
+        break;
+    case MixedFamilies:
+        text = "tables and instructions in one list";
+        break;
+    case WrongLength:
+        text = "wrong number of strings";
+        break;
+    case NumIsNotIndex:
+        text = "the number is not the row's index";
+        break;
+    case ParenthesisInIns:
+        text = "\"(\" in the instruction's name";
+        break;
+    case ReservedIns:
+        text = "an instruction named \"Oth\"";
+        break;
+    case ColonInField:
+        text = "\":\" in a key or a value";
+        break;
+    case IndexIsNoInteger:
+        text = "not an integer";
+        break;
+    case AttMissing:
+        text = "not \"Att\"";
+        break;
+    case BlankInRes:
+        text = "a blank in the free text, to be written as \"_\"";
+        break;
+    case MarkMissing:
+        text = "the row's mark is missing";
+        break;
+    case SharedCell:
+        text = "two strings for one cell";
+        break;
+    }
+    return QString::fromLatin1("row %1, position %2: %3")
+        .arg(problem.row)
+        .arg(problem.position)
+        .arg(QLatin1String(text));
+}
+
+/// What checkRow() is made of.
+namespace Detail {
+
+inline bool isInteger(const QString &text)
+{
+    bool ok = false;
+    text.toInt(&ok);
+    return ok;
+}
+
+inline bool isIndex(const QString &text, int index)
+{
+    return isInteger(text) && text.toInt() == index;
+}
+
+inline void checkInstruction(const QStringList &row, int index, QList<Problem> &problems)
+{
+    if (row.size() != HostLength) {
+        problems << Problem(index, row.size(), WrongLength);
+        return;
+    }
+    if (!isIndex(row.at(Num), index))
+        problems << Problem(index, Num, NumIsNotIndex);
+    if (row.at(Ins).contains(QLatin1Char('(')))
+        problems << Problem(index, Ins, ParenthesisInIns);
+    if (row.at(Ins) == QLatin1String(other))
+        problems << Problem(index, Ins, ReservedIns);
+    for (int i = JposKey; i < HostLength; ++i) {
+        if (i != Att && i != Res && row.at(i).contains(QLatin1Char(':')))
+            problems << Problem(index, i, ColonInField);
+        else if ((i == JposIndex || i == VIndex) && !row.at(i).isEmpty() && !isInteger(row.at(i)))
+            problems << Problem(index, i, IndexIsNoInteger);
+    }
+    if (row.at(Att) != QLatin1String(attLiteral))
+        problems << Problem(index, Att, AttMissing);
+    if (row.at(Res).contains(QLatin1Char(' ')))
+        problems << Problem(index, Res, BlankInRes);
+}
+
+inline void checkOther(const QStringList &row, int index, QList<Problem> &problems)
+{
+    // A widget that was made for an instruction carries a table of four strings, and takes no
+    // other.
+    if (row.size() != 5) {
+        problems << Problem(index, row.size(), WrongLength);
+        return;
+    }
+    if (!isIndex(row.at(1), index))
+        problems << Problem(index, 1, NumIsNotIndex);
+    if (!row.at(2).isEmpty())
+        problems << Problem(index, 2, SharedCell);
+    if (row.at(3) != QLatin1String(other))
+        problems << Problem(index, 3, MarkMissing);
+}
+
+inline void checkTitle(const QStringList &row, int index, QList<Problem> &problems)
+{
+    const int minLength = 11;
+    if (row.value(1) != QLatin1String(title))
+        problems << Problem(index, 1, MarkMissing);
+    if (row.size() < minLength)
+        problems << Problem(index, row.size(), WrongLength);
+}
+
+inline void checkData(const QStringList &row, int index, QList<Problem> &problems)
+{
+    QString number = row.value(1);
+    if (number.startsWith(QLatin1Char('N'))) // as the list itself numbers them
+        number.remove(0, 1);
+    if (!isIndex(number, index))
+        problems << Problem(index, 1, NumIsNotIndex);
+    if (row.size() == 5 && !row.at(2).isEmpty())
+        problems << Problem(index, 2, SharedCell);
+}
+
+} // namespace Detail
+
+/// All that is wrong with \a row as the row of index \a index, the title counted; empty if it is
+/// well-formed. A well-formed instruction row comes back from its widget as it went in.
+inline QList<Problem> checkRow(const QStringList &row, int index)
+{
+    QList<Problem> problems;
+    const QString kind = row.value(Kind);
+    if (isInstruction(kind))
+        Detail::checkInstruction(row, index, problems);
+    else if (kind == QLatin1String(other))
+        Detail::checkOther(row, index, problems);
+    else if (kind == QLatin1String(title))
+        Detail::checkTitle(row, index, problems);
+    else if (kind == QLatin1String(dataEditor))
+        Detail::checkData(row, index, problems);
+    else
+        problems << Problem(index, Kind, UnknownKind);
+    return problems;
+}
+
+/// All that is wrong with \a rows as the rows of one list, in order. \a firstIndex is 1 in a list
+/// with a title row, which is not among \a rows, and 0 in one without.
+inline QList<Problem> checkRows(const QList<QStringList> &rows, int firstIndex)
+{
+    QList<Problem> problems;
+    for (int i = 0; i < rows.size(); ++i) {
+        const int index = firstIndex + i;
+        problems += checkRow(rows.at(i), index);
+        const bool isData = rows.at(i).value(Kind) == QLatin1String(dataEditor);
+        const bool isDataList = rows.first().value(Kind) == QLatin1String(dataEditor);
+        if (isData != isDataList)
+            problems << Problem(index, Kind, MixedFamilies);
+        else if (isData && rows.at(i).size() != rows.first().size())
+            problems << Problem(index, rows.at(i).size(), WrongLength);
+    }
+    return problems;
+}
+
+} // namespace FilarixRows
+
+#endif // FILARIXROWS_H

@@ -1,0 +1,449 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixrows.h"
+
+#include "dataeditor.h"
+#include "filarixtest.h"
+#include "mjline.h"
+#include "rowprobe.h"
+#include "rowview.h"
+#include "tlistwidget.h"
+
+#include <QSignalSpy>
+
+#include <random>
+
+using namespace FilarixRows;
+
+/// The host's builder and checker of rows, held against what the widgets make of the rows.
+class TestRowBuilder : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everySetterHasItsPositions();
+    void detailOutsideTheNineIsIgnored();
+    void builtRowsAreWellFormed();
+    void wellFormedRowsComeBackAsTheyWentIn();
+    void checkerFindsWhatTheWidgetChanges();
+    void everyFaultIsFoundAtItsPlace_data();
+    void everyFaultIsFoundAtItsPlace();
+    void everyFaultHasItsOwnWords();
+    void colonInADetailCutsItAtTheNextEdit();
+    void instructionNamedLikeATableIsHidden();
+    void titleStandsAboveItsColumns();
+    void otherRowIsEditedAmongInstructions();
+    void tableRowsComeBackUnlessTwoStringsShareACell();
+    void listsAreCheckedAsAWhole();
+    void wellFormedListAnswersAsItself();
+};
+
+namespace {
+
+const QSize listSize(480, 800);
+
+typedef std::mt19937 Random;
+
+QString randomText(Random &random, const QString &alphabet)
+{
+    QString text;
+    for (int length = int(random() % 7); length > 0; --length)
+        text += alphabet.at(int(random() % unsigned(alphabet.size())));
+    return text;
+}
+
+const QString legal = QString::fromUtf8("abcXYZ019.-+_)äß↓<&\n\"\t");
+const QString any = legal + QLatin1String(" :(");
+
+InstructionRow randomInstruction(Random &random, const QString &alphabet)
+{
+    const auto text = [&random, &alphabet]() { return randomText(random, alphabet); };
+    InstructionRow row(random() % 2 ? InstructionRow::Joint : InstructionRow::Linear, text());
+    row.setJpos(text(), int(random())).setV(text(), int(random()));
+    row.setZ(text(), text()).setT(text(), text()).setRes(randomText(random, any));
+    for (int pair = 0; pair < detailCount; ++pair)
+        row.setDetail(pair, text(), text());
+    return row;
+}
+
+QStringList goodRow(int index)
+{
+    InstructionRow row(InstructionRow::Joint, QLatin1String("MOVJ"));
+    row.setJpos(QLatin1String("P"), 3).setV(QLatin1String("V"), 1);
+    row.setZ(QLatin1String("Z"), QLatin1String("0"));
+    row.setT(QLatin1String("T"), QLatin1String("0.5")).setRes(QLatin1String("over the core"));
+    for (int pair = 0; pair < detailCount; ++pair)
+        row.setDetail(pair, QString(QLatin1Char('A' + pair)), QString::number(pair));
+    return row.row(index);
+}
+
+QStringList titleTexts()
+{
+    return titleRow("Name", "Position", "Speed", "Zone", "Tool");
+}
+
+/// What comes back of a row whose widget was built for another one, kind first.
+QStringList throughWidget(MJLine *line, const QStringList &row)
+{
+    QStringList inner = row.mid(1);
+    line->setLineList(inner);
+    return QStringList(row.first()) + line->GetLineList();
+}
+
+MJLine *newLine(const QStringList &row)
+{
+    QStringList inner = row.mid(1);
+    return new MJLine(inner, listSize, nullptr);
+}
+
+/// Strings that make a row come back otherwise than it went in.
+bool changesRow(Fault fault)
+{
+    return fault == ParenthesisInIns || fault == ColonInField || fault == AttMissing
+           || fault == BlankInRes;
+}
+
+bool hasChangingFault(const QList<Problem> &problems)
+{
+    Q_FOREACH (const Problem &problem, problems) {
+        // A colon in a detail shows at its first edit, not before.
+        if (changesRow(problem.fault) && problem.position < FirstDetail)
+            return true;
+    }
+    return false;
+}
+
+QByteArray words(const QList<Problem> &problems)
+{
+    QStringList texts;
+    Q_FOREACH (const Problem &problem, problems)
+        texts << describe(problem);
+    return texts.join(QLatin1String("; ")).toUtf8();
+}
+
+} // namespace
+
+void TestRowBuilder::everySetterHasItsPositions()
+{
+    InstructionRow row(InstructionRow::Linear, "MOVL");
+    row.setJpos("Jkey", 4).setV("Vkey", -5).setZ("Zkey", "6").setT("Tkey", "7").setRes("a b");
+    for (int pair = 0; pair < 9; ++pair)
+        row.setDetail(pair, QString::fromLatin1("k%1").arg(pair),
+                      QString::fromLatin1("v%1").arg(pair));
+    const QStringList expected = QStringList() << "ML"
+                                               << "12"
+                                               << "MOVL"
+                                               << "Jkey"
+                                               << "4"
+                                               << "Vkey"
+                                               << "-5"
+                                               << "Zkey"
+                                               << "6"
+                                               << "Tkey"
+                                               << "7"
+                                               << "Att"
+                                               << "a_b"
+                                               << "k0"
+                                               << "v0"
+                                               << "k1"
+                                               << "v1"
+                                               << "k2"
+                                               << "v2"
+                                               << "k3"
+                                               << "v3"
+                                               << "k4"
+                                               << "v4"
+                                               << "k5"
+                                               << "v5"
+                                               << "k6"
+                                               << "v6"
+                                               << "k7"
+                                               << "v7"
+                                               << "k8"
+                                               << "v8";
+    QCOMPARE(row.row(12), expected);
+    QCOMPARE(InstructionRow(InstructionRow::Joint, QString()).row(0).first(), QString("MJ"));
+}
+
+void TestRowBuilder::detailOutsideTheNineIsIgnored()
+{
+    InstructionRow row(InstructionRow::Joint, "MOVJ");
+    const QStringList before = row.row(0);
+    row.setDetail(-1, "k", "v").setDetail(9, "k", "v");
+    QCOMPARE(row.row(0), before);
+}
+
+void TestRowBuilder::builtRowsAreWellFormed()
+{
+    Random random(1);
+    for (int i = 0; i < 100000; ++i) {
+        const QStringList row = randomInstruction(random, legal).row(i);
+        const QList<Problem> problems = checkRow(row, i);
+        QVERIFY2(problems.isEmpty(), words(problems));
+        QVERIFY(checkRow(row, i + 1) == QList<Problem>() << Problem(i + 1, Num, NumIsNotIndex));
+    }
+}
+
+void TestRowBuilder::wellFormedRowsComeBackAsTheyWentIn()
+{
+    Random random(2);
+    const QScopedPointer<MJLine> closed(newLine(goodRow(0)));
+    const QScopedPointer<MJLine> open(newLine(goodRow(0)));
+    open->on_expand();
+    for (int i = 0; i < 10000; ++i) {
+        const QStringList row = randomInstruction(random, legal).row(i);
+        QCOMPARE(throughWidget(closed.data(), row), row);
+        QCOMPARE(throughWidget(open.data(), row), row);
+        if (i % 20 == 0) {
+            const QScopedPointer<MJLine> built(newLine(row));
+            QCOMPARE(QStringList(row.first()) + built->GetLineList(), row);
+        }
+    }
+}
+
+void TestRowBuilder::checkerFindsWhatTheWidgetChanges()
+{
+    Random random(3);
+    const QScopedPointer<MJLine> line(newLine(goodRow(0)));
+    const int rows = 10000;
+    int changed = 0;
+    for (int i = 0; i < rows; ++i) {
+        QStringList row = randomInstruction(random, legal).row(i);
+        for (int spoilt = int(random() % 3); spoilt > 0; --spoilt)
+            row[Ins + int(random() % (FirstDetail - Ins + 2))] = randomText(random, any);
+        const bool isChanged = throughWidget(line.data(), row) != row;
+        const QList<Problem> problems = checkRow(row, i);
+        QVERIFY2(isChanged == hasChangingFault(problems), words(problems));
+        changed += isChanged;
+    }
+    QVERIFY(changed > rows / 10 && changed < rows * 9 / 10);
+}
+
+void TestRowBuilder::everyFaultIsFoundAtItsPlace_data()
+{
+    QTest::addColumn<QStringList>("row");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<int>("fault");
+
+    const auto spoilt = [](QStringList row, int position, const char *text) {
+        row[position] = QString::fromLatin1(text);
+        return row;
+    };
+    const QStringList good = goodRow(7);
+    const int none = -1;
+    QTest::newRow("well-formed") << good << none << none;
+    QTest::newRow("no strings") << QStringList() << 0 << int(UnknownKind);
+    QTest::newRow("unknown kind") << spoilt(good, Kind, "mj") << 0 << int(UnknownKind);
+    QTest::newRow("30 strings") << QStringList(good.mid(0, 30)) << 30 << int(WrongLength);
+    QTest::newRow("32 strings") << QStringList(good + QStringList("")) << 32 << int(WrongLength);
+    QTest::newRow("other number") << spoilt(good, Num, "8") << 1 << int(NumIsNotIndex);
+    QTest::newRow("no number") << spoilt(good, Num, "") << 1 << int(NumIsNotIndex);
+    QTest::newRow("number with N") << spoilt(good, Num, "N7") << 1 << int(NumIsNotIndex);
+    QTest::newRow("bracket in the name") << spoilt(good, Ins, "A(1)") << 2 << int(ParenthesisInIns);
+    QTest::newRow("name of a table") << spoilt(good, Ins, "Oth") << 2 << int(ReservedIns);
+    QTest::newRow("name like a table's") << spoilt(good, Ins, "oth") << none << none;
+    QTest::newRow("colon in the Jpos key") << spoilt(good, JposKey, "P:") << 3 << int(ColonInField);
+    QTest::newRow("colon in the T value") << spoilt(good, TValue, ":1") << 10 << int(ColonInField);
+    QTest::newRow("colon in the first detail")
+        << spoilt(good, 13, "a:b") << 13 << int(ColonInField);
+    QTest::newRow("colon in the last detail") << spoilt(good, 30, ":") << 30 << int(ColonInField);
+    QTest::newRow("colon in the free text") << spoilt(good, Res, "a:b") << none << none;
+    QTest::newRow("Jpos index in words")
+        << spoilt(good, JposIndex, "a") << 4 << int(IndexIsNoInteger);
+    QTest::newRow("V index with a point")
+        << spoilt(good, VIndex, "1.0") << 6 << int(IndexIsNoInteger);
+    QTest::newRow("no V index") << spoilt(good, VIndex, "") << none << none;
+    QTest::newRow("no Att") << spoilt(good, Att, "att") << 11 << int(AttMissing);
+    QTest::newRow("blank in the free text") << spoilt(good, Res, "a b") << 12 << int(BlankInRes);
+
+    const QStringList note = otherRow(7, "M05");
+    QTest::newRow("other") << note << none << none;
+    QTest::newRow("other too long")
+        << QStringList(note + QStringList("x")) << 6 << int(WrongLength);
+    QTest::newRow("other's number") << spoilt(note, 1, "N7") << 1 << int(NumIsNotIndex);
+    QTest::newRow("other's shared cell") << spoilt(note, 2, "x") << 2 << int(SharedCell);
+    QTest::newRow("other without mark") << spoilt(note, 3, "oth") << 3 << int(MarkMissing);
+
+    QTest::newRow("title") << titleTexts() << none << none;
+    QTest::newRow("title too short")
+        << QStringList(titleTexts().mid(0, 10)) << 10 << int(WrongLength);
+    QTest::newRow("title without mark") << spoilt(titleTexts(), 1, "") << 1 << int(MarkMissing);
+
+    const QStringList data = dataRow(7, QStringList() << "a"
+                                                      << "b");
+    QTest::newRow("table") << data << none << none;
+    QTest::newRow("table's number with N") << spoilt(data, 1, "N7") << none << none;
+    QTest::newRow("table's other number") << spoilt(data, 1, "N8") << 1 << int(NumIsNotIndex);
+    QTest::newRow("table's shared cell") << dataRow(7, QStringList() << "a"
+                                                                     << "b"
+                                                                     << "c")
+                                         << 2 << int(SharedCell);
+}
+
+void TestRowBuilder::everyFaultIsFoundAtItsPlace()
+{
+    QFETCH(QStringList, row);
+    QFETCH(int, position);
+    QFETCH(int, fault);
+
+    QList<Problem> expected;
+    if (fault >= 0)
+        expected << Problem(7, position, Fault(fault));
+    const QList<Problem> problems = checkRow(row, 7);
+    QVERIFY2(problems == expected, words(problems));
+}
+
+void TestRowBuilder::everyFaultHasItsOwnWords()
+{
+    QStringList seen;
+    for (int fault = UnknownKind; fault <= SharedCell; ++fault) {
+        const QString text = describe(Problem(12, 4, Fault(fault)));
+        QVERIFY2(text.startsWith("row 12, position 4: "), text.toUtf8());
+        QVERIFY(text.size() > int(qstrlen("row 12, position 4: ")));
+        QVERIFY(!seen.contains(text));
+        seen << text;
+    }
+}
+
+void TestRowBuilder::colonInADetailCutsItAtTheNextEdit()
+{
+    QStringList row = goodRow(0);
+    row[detailValue(2)] = "12:30";
+    QVERIFY(checkRow(row, 0) == QList<Problem>() << Problem(0, detailValue(2), ColonInField));
+
+    const QScopedPointer<MJLine> line(newLine(row));
+    line->on_expand();
+    QWidget *field = RowView(line.data()).detail(2);
+    QVERIFY(QMetaObject::invokeMethod(field, "changed", Q_ARG(QString, RowView::text(field))));
+    QStringList expected = row;
+    expected[detailValue(2)] = "30";
+    expected[JposIndex].clear(); // as after every edit of a Jpos value
+    QCOMPARE(QStringList(row.first()) + line->GetLineList(), expected);
+}
+
+void TestRowBuilder::instructionNamedLikeATableIsHidden()
+{
+    QStringList row = goodRow(0);
+    const QScopedPointer<MJLine> plain(newLine(row));
+    QVERIFY(!plain->firstLine()->isHidden());
+    row[Ins] = "Oth";
+    const QScopedPointer<MJLine> hidden(newLine(row));
+    QVERIFY(hidden->firstLine()->isHidden());
+}
+
+void TestRowBuilder::titleStandsAboveItsColumns()
+{
+    QStringList title = titleTexts();
+    TListWidget list(title, nullptr);
+    DataEditor *cells = static_cast<MJLine *>(list.itemAt(0))->dataEditor();
+    QVERIFY(!cells->isHidden());
+    QStringList shown;
+    for (int i = 0; i < cells->layout()->count(); ++i)
+        shown << RowView::text(RowProbe::tableCell(cells, i));
+    QCOMPARE(shown, QStringList() << ""
+                                  << "Name"
+                                  << "Position"
+                                  << "Speed"
+                                  << "Zone"
+                                  << "Tool");
+}
+
+void TestRowBuilder::otherRowIsEditedAmongInstructions()
+{
+    QStringList title = titleTexts();
+    TListWidget list(title, nullptr);
+    QStringList none;
+    for (int i = 1; i <= 40; ++i) {
+        QStringList row = i % 3 ? goodRow(i) : otherRow(i, QString::fromLatin1("M%1").arg(i));
+        list.addWidget(row, false, false);
+    }
+    list.addWidget(none, true, true);
+    list.home(); // every row goes into a widget that was made for another one
+    for (int i = 3; i <= 12; i += 3) {
+        DataEditor *cells = static_cast<MJLine *>(list.itemAt(list.getListPos(i)))->dataEditor();
+        QWidget *text = RowProbe::tableCell(cells, 2);
+        QCOMPARE(RowView::text(text), QString::fromLatin1("M%1").arg(i));
+        static_cast<QLineEdit *>(text)->setText("G4");
+        QVERIFY(QMetaObject::invokeMethod(text, "changed", Q_ARG(QString, QString("G4"))));
+        QCOMPARE(list.getContent(i), otherRow(i, "G4"));
+    }
+}
+
+void TestRowBuilder::tableRowsComeBackUnlessTwoStringsShareACell()
+{
+    Random random(4);
+    for (int cells = 1; cells <= 12; ++cells) {
+        QStringList first = dataRow(0, QVector<QString>(cells).toList()).mid(1);
+        DataEditor editor(false, first, listSize, nullptr, false);
+        for (int i = 0; i < 200; ++i) {
+            QStringList content;
+            while (content.size() < cells)
+                content << randomText(random, any);
+            if (cells == 3 && random() % 2)
+                content.first().clear();
+            const QStringList row = dataRow(i, content);
+            QStringList inner = row.mid(1);
+            editor.setData(inner);
+            const bool comesBack = editor.getData() == row.mid(1);
+            const QList<Problem> problems = checkRow(row, i);
+            QVERIFY2(comesBack == problems.isEmpty(), words(problems));
+            QVERIFY(cells == 3 || comesBack);
+        }
+    }
+}
+
+void TestRowBuilder::listsAreCheckedAsAWhole()
+{
+    QList<QStringList> rows;
+    QVERIFY(checkRows(rows, 0).isEmpty());
+    rows << goodRow(1) << otherRow(2, "x") << goodRow(3);
+    QVERIFY(checkRows(rows, 1).isEmpty());
+    QCOMPARE(checkRows(rows, 0).size(), 3); // as for a list without a title: every number is off
+    rows << dataRow(4, QStringList("a"));
+    QVERIFY(checkRows(rows, 1) == QList<Problem>() << Problem(4, Kind, MixedFamilies));
+
+    QList<QStringList> tables;
+    tables << dataRow(0, QStringList("a")) << dataRow(1, QStringList("b"));
+    QVERIFY(checkRows(tables, 0).isEmpty());
+    tables << dataRow(2, QStringList() << "a"
+                                       << "b");
+    QVERIFY(checkRows(tables, 0) == QList<Problem>() << Problem(2, 4, WrongLength));
+    tables[2] = goodRow(2);
+    QVERIFY(checkRows(tables, 0) == QList<Problem>() << Problem(2, Kind, MixedFamilies));
+}
+
+void TestRowBuilder::wellFormedListAnswersAsItself()
+{
+    Random random(5);
+    QStringList title = titleTexts();
+    TListWidget list(title, nullptr);
+    QList<QStringList> rows;
+    for (int i = 1; i <= 60; ++i) {
+        QStringList row = randomInstruction(random, legal).row(i);
+        rows << row;
+        list.addWidget(row, false, false);
+    }
+    QVERIFY(checkRows(rows, 1).isEmpty());
+    list.home();
+    list.reshow();
+
+    QSignalSpy clicked(&list, SIGNAL(clicked(int)));
+    for (int page = 0; page < 4; ++page) {
+        for (int slot = 1; slot < list.ListWidget::count(); ++slot) {
+            MJLine *line = static_cast<MJLine *>(list.itemAt(slot));
+            const int index = line->getNum().toInt();
+            QCOMPARE(list.getListPos(index), slot);
+            clicked.clear();
+            QVERIFY(QMetaObject::invokeMethod(line, "clicked", Q_ARG(int, index)));
+            QCOMPARE(clicked.count(), 1);
+            QCOMPARE(list.getCurIndex(), index);
+            QVERIFY(QMetaObject::invokeMethod(line, "sg_content_change", Q_ARG(int, index)));
+            QCOMPARE(list.getContent(index), rows.at(index - 1));
+        }
+        list.nextPage();
+    }
+}
+
+FILARIX_TEST_MAIN(TestRowBuilder)
+#include "tst_rowbuilder.moc"
