@@ -15,7 +15,6 @@
 #include "teachscreen.h"
 #include "tour.h"
 #include "variablesscreen.h"
-#include "waqp.h"
 
 #include <QApplication>
 #include <QDir>
@@ -76,7 +75,7 @@ int runPanel(const Options &options)
         }
         qputenv("HOME", QFile::encodeName(options.home()));
     }
-    Samples::install(WAQP::getCncDir());
+    Samples::install(Samples::programDir());
     const QString plcDir =
         options.plcDir.isEmpty() ? QDir::home().filePath(QLatin1String("plc")) : options.plcDir;
     // A folder that cannot be made is a PLC that is away, and the panel says so.

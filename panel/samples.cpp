@@ -12,9 +12,15 @@ QStringList Samples::names()
             QLatin1String("endurance-run.cnc")};
 }
 
+QString Samples::programDir()
+{
+    return QDir::home().filePath(QLatin1String("cnc"));
+}
+
 QStringList Samples::install(const QString &programDir)
 {
     const QDir folder(programDir);
+    folder.mkpath(QLatin1String("."));
     if (!folder.entryList({QLatin1String("*.cnc")}, QDir::Files | QDir::Hidden | QDir::System)
              .isEmpty())
         return QStringList();

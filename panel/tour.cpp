@@ -8,10 +8,10 @@
 #include "panelwindow.h"
 #include "plctransfer.h"
 #include "programscreen.h"
+#include "samples.h"
 #include "teachscreen.h"
 #include "tlistwidget.h"
 #include "variablesscreen.h"
-#include "waqp.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -130,7 +130,7 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
 
     then([this, screen] {
         connect(screen->transfer(), &PlcTransfer::progress, this, &Tour::saveDownload);
-        Q_EMIT screen->programWindow()->signal_download(WAQP::getCncDir()
+        Q_EMIT screen->programWindow()->signal_download(Samples::programDir()
                                                         + QLatin1String("/endurance-run.cnc"));
     });
     waitUntil([screen] { return !screen->transfer()->isRunning(); });

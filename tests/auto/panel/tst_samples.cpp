@@ -3,6 +3,7 @@
 
 #include "filarixtest.h"
 #include "samples.h"
+#include "waqp.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,13 +13,26 @@ class TestSamples : public FilarixTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void programsLieWhereTheLibraryLooks();
     void emptyDirectoryGetsAllSamples();
+    void missingDirectoryIsMade();
     void directoryWithAProgramGetsNone();
     void nothingIsOverwritten();
     void lengths_data();
     void lengths();
     void linesAreWordsTheEditorKnows();
 };
+
+void TestSamples::programsLieWhereTheLibraryLooks()
+{
+    QCOMPARE(Samples::programDir(), WAQP::getCncDir());
+}
+
+void TestSamples::missingDirectoryIsMade()
+{
+    const QString missing = programDir() + "/deeper/cnc";
+    QCOMPARE(Samples::install(missing), Samples::names());
+}
 
 void TestSamples::emptyDirectoryGetsAllSamples()
 {
