@@ -24,7 +24,7 @@ class QTableWidget;
 ///     dialog.setTitle(tr("Open file"));
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         open(dialog.fileName);
-class FILARIX_EXPORT WFileDialog : public Dialog
+class WFileDialog : public Dialog
 {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)

@@ -4,15 +4,13 @@
 #ifndef WAQP_H
 #define WAQP_H
 
-#include "filarixglobal.h"
-
 #include <QFont>
 #include <QString>
 #include <QVector>
 
 /// What every screen needs: the program directory, the fonts, and the division of a long program
 /// into pieces. Static functions only, no state, GUI thread.
-class FILARIX_EXPORT WAQP
+class WAQP
 {
 public:
     /// The program directory, "cnc" in the user's home, with "/" as separator and no trailing one.
