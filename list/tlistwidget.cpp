@@ -532,7 +532,7 @@ void TListWidget::clear()
 {
     const int t = titleCount();
     const int rows = count();
-    for (qint64 progress = 100 * t; count() > t; progress += 100) {
+    for (qint64 progress = qint64(100) * t; count() > t; progress += 100) {
         m_content.removeLast();
         Q_EMIT sg_item_deleted(int(progress / rows));
     }
