@@ -4,10 +4,12 @@
 #include "checkbox.h"
 #include "combobox.h"
 #include "combolineedit.h"
+#include "conneditor.h"
 #include "dataeditor.h"
 #include "dialog.h"
 #include "doublespinbox.h"
 #include "filarixtest.h"
+#include "filedialog.h"
 #include "groupbox.h"
 #include "hmidirmodel.h"
 #include "importmanage.h"
@@ -190,11 +192,19 @@ void TestMetaObjects::ownEntriesInOrder_data()
                            << "public slot on_v_change(QString)"
                            << "public slot on_vars1_change(QString)");
 
+    newClass("QDialog", ConnEditor::staticMetaObject,
+             QStringList() << "public slot on_save_clicked()");
     newClass("QWidget", DataEditor::staticMetaObject,
              QStringList() << "signal clicked(int)"
                            << "signal sg_content_change(int)"
                            << "public slot on_editfinished()"
                            << "public slot on_content_change(QString)");
+    newClass("QDialog", FileDialog::staticMetaObject,
+             QStringList() << "public slot on_cdUp_click()"
+                           << "public slot on_cdDown_click()"
+                           << "public slot on_line_click()"
+                           << "public slot on_cancel_click()"
+                           << "public slot on_ok_click()");
     // Its base, a plain stack of widgets, has no meta-object of its own.
     newClass("QWidget", TListWidget::staticMetaObject,
              QStringList() << "signal clicked(int)"

@@ -10,6 +10,8 @@
 #
 # "/mnt/Storage" is a folder that the program may even remove. With FILARIX_SANDBOX_STICK_SIZE it is
 # a file system of that many bytes, with FILARIX_SANDBOX_STICK a read-only view of that folder.
+# FILARIX_SANDBOX_SCREEN, for example 480x272, is the size of the screen; without it there is
+# Qt's offscreen one.
 set -euo pipefail
 
 if ! command -v bwrap >/dev/null; then
@@ -55,6 +57,10 @@ if [ -n "${FILARIX_SANDBOX_WRITABLE:-}" ]; then
     args+=(--bind "$FILARIX_SANDBOX_WRITABLE" "$FILARIX_SANDBOX_WRITABLE")
 fi
 
+# Only a served screen has a size of our choice; the network namespace keeps its port to itself.
+screen=offscreen
+[ -z "${FILARIX_SANDBOX_SCREEN:-}" ] || screen=vnc:size=$FILARIX_SANDBOX_SCREEN
+
 # Without capabilities root meets the same permissions as anybody.
 exec bwrap "${args[@]}" --cap-drop ALL \
     --unshare-pid --unshare-ipc --unshare-net --die-with-parent --new-session \
@@ -64,7 +70,7 @@ exec bwrap "${args[@]}" --cap-drop ALL \
     --unsetenv XDG_DATA_HOME --unsetenv XDG_CACHE_HOME \
     --unsetenv DISPLAY --unsetenv WAYLAND_DISPLAY --unsetenv QT_STYLE_OVERRIDE \
     --unsetenv QT_PLUGIN_PATH --unsetenv QT_QPA_PLATFORMTHEME \
-    --setenv QT_QPA_PLATFORM offscreen \
+    --setenv QT_QPA_PLATFORM "$screen" \
     --setenv LC_ALL "${FILARIX_TEST_LC_ALL:-C.UTF-8}" \
     --setenv FILARIX_SANDBOX 1 \
     --chdir /tmp \
