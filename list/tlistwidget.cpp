@@ -170,12 +170,13 @@ bool TListWidget::isFootOpen(int end) const
 /// row that stays.
 int TListWidget::pushOutAtTheTop()
 {
-    const int first = m_startLine + 2;
-    for (int i = m_startLine; i < first; ++i) {
-        if (QWidget *widget = rowWidget(i))
+    const int pushedOut = 2;
+    const int top = titleCount();
+    for (int slot = top; slot < top + pushedOut; ++slot) {
+        if (QWidget *widget = itemAt(slot))
             widget->hide();
     }
-    return first;
+    return toInt(qint64(m_startLine) + pushedOut);
 }
 
 void TListWidget::reshow()
@@ -187,8 +188,9 @@ void TListWidget::reshow()
     recalculateHeight();
     const int first = isFootOpen(end) ? pushOutAtTheTop() : m_startLine;
     // A refill is no edit: nothing that a row says meanwhile may get as far as the store.
-    for (int i = first; QWidget *widget = rowWidget(i); ++i) {
-        if (i < end)
+    const int endSlot = getListPos(end);
+    for (int slot = getListPos(first); QWidget *widget = itemAt(slot); ++slot) {
+        if (slot < endSlot)
             widget->blockSignals(true);
         else
             widget->hide();
