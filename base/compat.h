@@ -17,6 +17,11 @@
 #define FILARIX_LANGUAGE_CHANGE_BY_EVENT 1
 #endif
 
+#if QT_VERSION >= QT_VERSION_CHECK(5, 5, 0)
+/// A scroll area tells its viewport margins.
+#define FILARIX_HAS_VIEWPORT_MARGINS 1
+#endif
+
 namespace Compat {
 
 inline void setSectionResizeMode(QHeaderView *header, int section, QHeaderView::ResizeMode mode)

@@ -3,6 +3,7 @@
 
 #include "wgcodeediter.h"
 
+#include "compat.h"
 #include "gcodesymbols.h"
 #include "waqp.h"
 #include "wcopydialog.h"
@@ -301,7 +302,13 @@ void WGCodeEditer::lineNumberAreaPaintEvent(QPaintEvent *event)
 
 void WGCodeEditer::updateLineNumberAreaWidth(int)
 {
-    setViewportMargins(lineNumberAreaWidth(), 0, 0, 0);
+    const QMargins margins(lineNumberAreaWidth(), 0, 0, 0);
+#ifdef FILARIX_HAS_VIEWPORT_MARGINS
+    // Equal ones would lay the whole scroll area out again, at every full update of the view.
+    if (viewportMargins() == margins)
+        return;
+#endif
+    setViewportMargins(margins);
 }
 
 void WGCodeEditer::highlightCurrentLine()
