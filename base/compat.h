@@ -11,6 +11,8 @@
 #include <QString>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
+#include <QVector>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 /// Qt 4 calls languageChange() itself on QEvent::LanguageChange; here changeEvent() has to.
@@ -30,6 +32,31 @@ inline void setSectionResizeMode(QHeaderView *header, int section, QHeaderView::
     header->setSectionResizeMode(section, mode);
 #else
     header->setResizeMode(section, mode);
+#endif
+}
+
+/// The formats of a block's text, besides those of its characters.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+typedef QVector<QTextLayout::FormatRange> FormatRanges;
+#else
+typedef QList<QTextLayout::FormatRange> FormatRanges;
+#endif
+
+inline FormatRanges formats(const QTextLayout *layout)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+    return layout->formats();
+#else
+    return layout->additionalFormats();
+#endif
+}
+
+inline void setFormats(QTextLayout *layout, const FormatRanges &ranges)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+    layout->setFormats(ranges);
+#else
+    layout->setAdditionalFormats(ranges);
 #endif
 }
 

@@ -3,6 +3,7 @@
 
 #include "wgcodeediter.h"
 
+#include "blockformatter_p.h"
 #include "compat.h"
 #include "gcodesymbols.h"
 #include "waqp.h"
@@ -88,6 +89,7 @@ WGCodeEditer::WGCodeEditer(QWidget *parent) : QPlainTextEdit(parent), findDialog
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setWordWrapMode(QTextOption::NoWrap);
     highlighter = new WHighlighter(document());
+    new BlockFormatter(highlighter);
 
     connect(this, SIGNAL(blockCountChanged(int)), SLOT(updateLineNumberAreaWidth(int)));
     connect(this, SIGNAL(updateRequest(QRect, int)), SLOT(updateLineNumberArea(QRect, int)));
@@ -267,7 +269,7 @@ void WGCodeEditer::addErrorCode(int line, QString code)
 void WGCodeEditer::highlightErrorCode()
 {
     if (!highlighter->errorLines.isEmpty())
-        highlighter->rehighlight();
+        BlockFormatter::of(highlighter)->formatAll();
 }
 
 int WGCodeEditer::lineNumberAreaWidth()

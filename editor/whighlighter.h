@@ -35,6 +35,9 @@ public:
 
     explicit WHighlighter(QTextDocument *parent);
 
+    /// The six rules, in their order.
+    const QVector<WHighlightingRule> &rules() const { return highlightingRules; }
+
     /// Applies the six rules to \a text, the text of the block that is being highlighted.
     void highlightPatterns(const QString &text);
 

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "blockformatter_p.h"
+
+#include "gcodewords_p.h"
+#include "whighlighter.h"
+
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace {
+
+/// The lines of a text that was inserted, in step with the blocks that it became.
+class LinesInStep
+{
+public:
+    LinesInStep(const QString &text, int position)
+        : m_text(text), m_position(position), m_at(text.isNull() ? lost : notReached)
+    {}
+
+    /// The text of the block that follows the one of the last call; null if it is not one of the
+    /// lines. Other line ends than "\n" and changes by others lead out of step, and there it ends.
+    const QChar *lineOf(const QTextBlock &block, int length)
+    {
+        if (m_at == notReached && block.position() == m_position)
+            m_at = 0;
+        if (m_at < 0)
+            return nullptr;
+        const int behind = m_at + length;
+        const bool isLine = behind == m_text.size()
+                            || (behind < m_text.size() && m_text.at(behind) == QLatin1Char('\n'));
+        if (!isLine) {
+            m_at = lost;
+            return nullptr;
+        }
+        const QChar *const line = m_text.constData() + m_at;
+        m_at = behind == m_text.size() ? int(lost) : behind + 1;
+        return line;
+    }
+
+private:
+    enum { lost = -1, notReached = -2 };
+
+    const QString m_text;
+    const int m_position;
+    int m_at;
+};
+
+bool isEqual(const QTextLayout::FormatRange &a, const QTextLayout::FormatRange &b)
+{
+    return a.start == b.start && a.length == b.length && a.format == b.format;
+}
+
+bool areEqual(const Compat::FormatRanges &a, const Compat::FormatRanges &b)
+{
+    return a.size() == b.size()
+           && std::equal(a.constBegin(), a.constEnd(), b.constBegin(), isEqual);
+}
+
+/// Ranges for a layout that shows in its midst what an input method is composing: that keeps its
+/// own formats, and ours make room for it.
+Compat::FormatRanges aroundPreedit(const Compat::FormatRanges &ranges, const QTextLayout &layout)
+{
+    const int preeditStart = layout.preeditAreaPosition();
+    const int preeditLength = layout.preeditAreaText().length();
+    Compat::FormatRanges result;
+    Q_FOREACH (const QTextLayout::FormatRange &range, Compat::formats(&layout)) {
+        if (range.start >= preeditStart
+            && range.start + range.length <= preeditStart + preeditLength)
+            result.append(range);
+    }
+    Q_FOREACH (QTextLayout::FormatRange range, ranges) {
+        if (range.start >= preeditStart)
+            range.start += preeditLength;
+        else if (range.start + range.length > preeditStart)
+            range.length += preeditLength;
+        result.append(range);
+    }
+    return result;
+}
+
+/// A copy that has the memory it needs and no more.
+Compat::FormatRanges exactCopy(const Compat::FormatRanges &ranges)
+{
+    Compat::FormatRanges copy;
+    copy.reserve(ranges.size());
+    for (const QTextLayout::FormatRange &range : ranges)
+        copy.append(range);
+    return copy;
+}
+
+} // namespace
+
+BlockFormatter::BlockFormatter(WHighlighter *highlighter)
+    : QObject(highlighter)
+    , m_highlighter(highlighter)
+    , m_document(highlighter->document())
+    , m_expectedPosition(0)
+{
+    Q_FOREACH (const WHighlighter::WHighlightingRule &rule, highlighter->rules())
+        m_formats.append(rule.format);
+    // Should a toolkit react in another way, it goes on colouring by itself.
+    if (disconnect(m_document, SIGNAL(contentsChange(int, int, int)), highlighter, nullptr))
+        connect(m_document, SIGNAL(contentsChange(int, int, int)),
+                SLOT(formatChange(int, int, int)));
+}
+
+BlockFormatter *BlockFormatter::of(WHighlighter *highlighter)
+{
+    return highlighter->findChild<BlockFormatter *>();
+}
+
+void BlockFormatter::formatAll()
+{
+    QTextCursor cursor(m_document);
+    cursor.beginEditBlock();
+    formatBlocks(m_document->begin(), m_document->lastBlock());
+    cursor.endEditBlock();
+}
+
+void BlockFormatter::expect(const QString &text, int position)
+{
+    m_expectedText = text;
+    m_expectedPosition = position;
+}
+
+void BlockFormatter::stopExpecting()
+{
+    m_expectedText = QString();
+}
+
+void BlockFormatter::formatChange(int from, int removed, int added)
+{
+    // What was removed may have joined the last block with the one behind it.
+    const QTextBlock last = m_document->findBlock(from + added + (removed > 0 ? 1 : 0));
+    formatBlocks(m_document->findBlock(from), last.isValid() ? last : m_document->lastBlock());
+}
+
+void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &last)
+{
+    LinesInStep lines(m_expectedText, m_expectedPosition);
+    stopExpecting(); // a change that a receiver of this one makes is another
+    QTextBlock firstChanged;
+    QTextBlock lastChanged;
+    for (QTextBlock block = first; block.isValid(); block = block.next()) {
+        const int length = block.length() - 1;
+        if (const QChar *line = lines.lineOf(block, length))
+            findRanges(line, length);
+        else
+            findRanges(block.text().constData(), length);
+        if (setRanges(block)) {
+            if (!firstChanged.isValid())
+                firstChanged = block;
+            lastChanged = block;
+        }
+        if (block == last)
+            break;
+    }
+    if (firstChanged.isValid()) {
+        const int from = firstChanged.position();
+        m_document->markContentsDirty(from, lastChanged.position() + lastChanged.length() - from);
+    }
+}
+
+/// Finds the ranges of a text; neighbours of one format are one range.
+void BlockFormatter::findRanges(const QChar *text, int size)
+{
+    m_ranges.resize(0);
+    for (GCodeWords::Scanner words(text, size); words.next();) {
+        const QTextCharFormat &format = m_formats.at(words.rule());
+        if (!m_ranges.isEmpty()) {
+            QTextLayout::FormatRange &before = m_ranges.last();
+            if (before.start + before.length == words.start() && before.format == format) {
+                before.length += words.length();
+                continue;
+            }
+        }
+        QTextLayout::FormatRange range;
+        range.start = words.start();
+        range.length = words.length();
+        range.format = format;
+        m_ranges.append(range);
+    }
+}
+
+bool BlockFormatter::setRanges(const QTextBlock &block)
+{
+    QTextLayout *const layout = block.layout();
+    if (!layout->preeditAreaText().isEmpty())
+        m_ranges = aroundPreedit(m_ranges, *layout);
+    if (areEqual(m_ranges, Compat::formats(layout)))
+        return false;
+    Compat::setFormats(layout, exactCopy(m_ranges));
+    return true;
+}

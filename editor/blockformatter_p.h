@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef BLOCKFORMATTER_P_H
+#define BLOCKFORMATTER_P_H
+
+#include "compat.h"
+
+#include <QObject>
+#include <QString>
+#include <QTextBlock>
+#include <QTextCharFormat>
+#include <QVector>
+
+class QTextDocument;
+class WHighlighter;
+
+/// Gives the changed blocks of a document the formats that a WHighlighter gives them, but many
+/// blocks at a time.
+///
+/// The toolkit reads each block's text back, and writes and compares a format for each of its
+/// characters: in a long program that costs as much as the text itself. This takes over the
+/// toolkit's reaction to a change of the document, and nothing else of it: rehighlight() and the
+/// rest stay the toolkit's. Not for a subclass with a highlightBlock() of its own.
+///
+/// Owned by the highlighter.
+class BlockFormatter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BlockFormatter(WHighlighter *highlighter);
+
+    /// The formatter of a highlighter that has one.
+    static BlockFormatter *of(WHighlighter *highlighter);
+
+    /// Colours the whole document, with the signals of QSyntaxHighlighter::rehighlight(). Blocks
+    /// whose formats are right stay as they are and are not laid out again.
+    void formatAll();
+
+    /// Tells that \a text is about to be inserted at \a position, the start of a block, so that it
+    /// need not be read back. Holds until stopExpecting().
+    void expect(const QString &text, int position);
+    void stopExpecting();
+
+private Q_SLOTS:
+    void formatChange(int from, int removed, int added);
+
+private:
+    void formatBlocks(const QTextBlock &first, const QTextBlock &last);
+    void findRanges(const QChar *text, int size);
+    bool setRanges(const QTextBlock &block);
+
+    WHighlighter *m_highlighter;
+    QTextDocument *m_document;
+    QVector<QTextCharFormat> m_formats;
+    Compat::FormatRanges m_ranges; // of the block at hand
+    QString m_expectedText;
+    int m_expectedPosition;
+};
+
+#endif // BLOCKFORMATTER_P_H
