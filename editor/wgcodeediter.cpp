@@ -12,9 +12,11 @@
 #include "whighlighter.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPainter>
 #include <QProgressDialog>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTime>
 #include <QtDebug>
@@ -29,49 +31,122 @@ const int chunkCount = 50;
 const int gutterMargin = 3;
 
 /// Milliseconds between two paintings of the editor while a program goes in.
-const int paintInterval = 100;
+const int paintInterval = 200;
 
-/// Spares the painting of a widget that changes many times a second; the widget's own state of
-/// updatesEnabled comes back on every way out. What a parent holds back is the parent's business:
-/// updatesEnabled() would report it, and it would then stick to the widget.
-class PaintThrottle
+/// Takes many pieces of text at the end of an editor, as appendPlainText() does, but spares it the
+/// work of being looked at between them: painting, and laying out the last page to know how far it
+/// scrolls. The editor's own state comes back on every way out. What a parent holds back is the
+/// parent's business: updatesEnabled() would report it, and it would then stick to the editor.
+class PieceAppender
 {
 public:
-    explicit PaintThrottle(QWidget *widget)
-        : m_widget(widget), m_wasEnabled(!widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
+    PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter)
+        : m_view(view)
+        , m_formatter(formatter)
+        , m_bar(view->verticalScrollBar())
+        , m_wasEnabled(!view->testAttribute(Qt::WA_ForceUpdatesDisabled))
+        , m_wasCentring(view->centerOnScroll())
     {
         m_time.start();
-        m_widget->setUpdatesEnabled(false);
+        rest();
     }
-    ~PaintThrottle() { m_widget->setUpdatesEnabled(m_wasEnabled); }
+    ~PieceAppender() { wake(); }
 
-    /// Called before events are served: lets the widget paint if the last time is long ago.
-    void breathe()
+    void append(const QString &text);
+
+    /// Serves events; the view is up to date meanwhile if the last time is long ago.
+    void processEvents()
     {
-        const bool due = m_wasEnabled && m_time.elapsed() >= paintInterval;
-        m_widget->setUpdatesEnabled(due);
-        if (due)
+        const bool isDue = m_wasEnabled && m_time.elapsed() >= paintInterval;
+        if (isDue)
+            wake();
+        QCoreApplication::processEvents();
+        if (isDue)
             m_time.restart();
+        else if (m_bar->value() != m_restingValue)
+            wake(); // it was scrolled, perhaps to the end
+        else
+            return;
+        rest();
     }
 
 private:
-    QWidget *m_widget;
+    void appendUnseen(const QString &text);
+    void rest();
+    void wake();
+
+    QPlainTextEdit *m_view;
+    BlockFormatter *m_formatter;
+    QScrollBar *m_bar;
     bool m_wasEnabled;
-    QTime m_time;
+    bool m_wasCentring;
+    bool m_followsEnd;
+    int m_restingValue;
+    QElapsedTimer m_time;
 };
 
-/// The position just behind the next \a count line ends from \a from on; text.size() + 1 when the
-/// text has no more of them, as if one stood at its end.
-int behindLines(const QString &text, int from, int count)
+void PieceAppender::rest()
 {
-    int position = from;
-    for (int i = 0; i < count; ++i) {
-        const int lineEnd = text.indexOf(QLatin1Char('\n'), position);
-        if (lineEnd < 0)
-            return text.size() + 1;
-        position = lineEnd + 1;
+    m_view->setUpdatesEnabled(false);
+    m_followsEnd = m_bar->value() == m_bar->maximum();
+    // A view that may scroll its last line to the centre knows its range without any layout.
+    m_view->setCenterOnScroll(true);
+    m_restingValue = m_bar->value();
+}
+
+void PieceAppender::wake()
+{
+    const bool isWhereItWas = m_bar->value() == m_restingValue;
+    m_view->setCenterOnScroll(m_wasCentring);
+    // A view at its end stays there while text is appended, unless it was scrolled meanwhile.
+    if (m_followsEnd && isWhereItWas && m_view->isVisible())
+        m_bar->setValue(m_bar->maximum());
+    m_view->setUpdatesEnabled(m_wasEnabled);
+}
+
+void PieceAppender::append(const QString &text)
+{
+    QTextDocument *const document = m_view->document();
+    m_formatter->expect(text, document->isEmpty() ? 0 : document->characterCount());
+    if (m_wasCentring || !m_view->isVisible())
+        m_view->appendPlainText(text);
+    else
+        appendUnseen(text);
+    m_formatter->stopExpecting();
+}
+
+/// What appendPlainText() does, without its following of the end.
+void PieceAppender::appendUnseen(const QString &text)
+{
+    const QTextCursor own = m_view->textCursor();
+    QTextCursor cursor(m_view->document());
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::End);
+    if (m_view->document()->isEmpty())
+        cursor.setCharFormat(own.charFormat());
+    else
+        cursor.insertBlock(own.blockFormat(), own.charFormat());
+    cursor.insertText(text);
+    cursor.endEditBlock();
+}
+
+/// The lines of a text in pieces of as many lines each as \a sizes says, without the line end
+/// between two pieces. The sizes add up to the number of lines.
+QStringList cutByLines(const QString &text, const QVector<int> &sizes)
+{
+    QStringList pieces;
+    int from = 0;
+    Q_FOREACH (int size, sizes) {
+        int lineEnd = from - 1;
+        for (int i = 0; i < size; ++i) {
+            lineEnd = text.indexOf(QLatin1Char('\n'), lineEnd + 1);
+            if (lineEnd < 0)
+                lineEnd = text.size();
+        }
+        pieces.append(text.mid(from, lineEnd - from));
+        from = lineEnd + 1;
     }
-    return position;
+    return pieces;
 }
 
 } // namespace
@@ -217,22 +292,20 @@ void WGCodeEditer::readGCode(QString text)
     }
 
     QProgressDialog progress(QLatin1String("Load Files:"), QLatin1String("Abort check"), 0, total);
-    PaintThrottle throttle(this);
+    PieceAppender appender(this, BlockFormatter::of(highlighter));
+    // Only one piece at a time is cut into lines: a list of all lines would take as much memory
+    // again as the document. The text goes as the document comes.
+    const QVector<int> sizes = WAQP::chunkSizes(total, chunkCount);
+    QStringList pieces = cutByLines(text, sizes);
+    text.clear();
     int position = 0;
-    int from = 0;
-    Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
-        // Only one piece at a time is cut into lines: a list of all lines would take as much memory
-        // again as the document.
-        const int behind = behindLines(text, from, n);
-        const QString result =
-            preproccess(text.mid(from, behind - 1 - from).split(QLatin1Char('\n')));
-        from = behind;
+    Q_FOREACH (int n, sizes) {
+        const QString result = preproccess(pieces.takeFirst().split(QLatin1Char('\n')));
         if (!result.isEmpty())
-            appendPlainText(result);
+            appender.append(result);
         position += n;
         progress.setValue(position);
-        throttle.breathe();
-        QCoreApplication::processEvents();
+        appender.processEvents();
         if (progress.wasCanceled())
             break;
     }
