@@ -13,6 +13,12 @@
 #include <QScreen>
 #include <QTimer>
 
+namespace {
+
+const QSize kRoomyDialog(640, 440);
+
+} // namespace
+
 DialogKeeper::DialogKeeper(QObject *parent) : QObject(parent)
 {
     qApp->installEventFilter(this);
@@ -45,10 +51,16 @@ void DialogKeeper::fit(QDialog *dialog)
 {
     const QRect panel = QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));
+    if (dialog->inherits("ImportManage")) {
+        place.setSize(kRoomyDialog.boundedTo(panel.size()).expandedTo(place.size()));
+        place.moveCenter(panel.center());
+    }
     place.moveRight(qMin(place.right(), panel.right()));
     place.moveBottom(qMin(place.bottom(), panel.bottom()));
     place.moveLeft(qMax(place.left(), panel.left()));
     place.moveTop(qMax(place.top(), panel.top()));
+    // A fixed size gives way, too.
+    dialog->setMinimumSize(dialog->minimumSize().boundedTo(place.size()));
     if (place != dialog->geometry())
         dialog->setGeometry(place);
 }

@@ -110,6 +110,23 @@ QPainterPath shape(Glyphs::Glyph glyph)
                       {{3, 12}, {5, 14}, {8, 10}},
                       {{3, 19}, {5, 21}, {8, 17}}});
         break;
+    case Glyphs::Plug:
+    case Glyphs::Pull:
+        path.addRect(8, 11, 8, 10);
+        path.addPath(lines({{{10, 11}, {10, 8}, {14, 8}, {14, 11}}}));
+        path.addPath(glyph == Glyphs::Plug ? lines({{{5, 3}, {19, 3}}, {{12, 3}, {12, 5}}})
+                                           : lines({{{9, 5}, {12, 2}, {15, 5}}}));
+        break;
+    case Glyphs::Rename:
+        path = lines({{{3, 7}, {11, 7}},
+                      {{7, 7}, {7, 17}},
+                      {{14, 3}, {18, 3}},
+                      {{16, 3}, {16, 21}},
+                      {{14, 21}, {18, 21}}});
+        break;
+    case Glyphs::Edit:
+        path = lines({{{4, 20}, {5, 15}, {16, 4}, {20, 8}, {9, 19}, {4, 20}}, {{13, 7}, {17, 11}}});
+        break;
     case Glyphs::Close:
         path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
         break;

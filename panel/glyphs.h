@@ -25,7 +25,11 @@ enum Glyph {
     Load,
     Store,
     Clear,
-    Select
+    Select,
+    Plug,
+    Pull,
+    Rename,
+    Edit
 };
 
 QIcon icon(Glyph glyph, const QColor &color = Qt::white);

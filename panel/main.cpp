@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "connectionsscreen.h"
 #include "dialogkeeper.h"
 #include "fieldkeypad.h"
+#include "filesscreen.h"
 #include "glyphs.h"
 #include "look.h"
 #include "machinedata.h"
@@ -12,9 +14,11 @@
 #include "panelwindow.h"
 #include "programscreen.h"
 #include "samples.h"
+#include "stick.h"
 #include "teachscreen.h"
 #include "tour.h"
 #include "variablesscreen.h"
+#include "wmmainwindow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -81,6 +85,10 @@ int runPanel(const Options &options)
     // A folder that cannot be made is a PLC that is away, and the panel says so.
     QDir().mkpath(plcDir);
 
+    Stick stick(options.stickDir);
+    if (stick.isSimulated() && QDir().mkpath(stick.folder()))
+        Samples::fillStick(stick.folder());
+
     setUpLook();
     PanelWindow panel(surfaceSize(options));
     new PanelSurface(&panel, options.touch);
@@ -89,11 +97,19 @@ int runPanel(const Options &options)
     MachineData machine;
     ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, &machine);
     panel.addScreen(programs, PanelWindow::tr("Program"), Glyphs::icon(Glyphs::Program));
-    const QString teachDir = QDir::home().filePath(QLatin1String("teach"));
-    TeachScreen *teach = new TeachScreen(panel.size(), teachDir, &machine);
+    const QString ownDir = QDir::home().filePath(QLatin1String("hmi"));
+    TeachScreen *teach = new TeachScreen(panel.size(), ownDir, &machine);
     panel.addScreen(teach, PanelWindow::tr("Teach"), Glyphs::icon(Glyphs::Teach));
-    VariablesScreen *variables = new VariablesScreen(panel.size(), teachDir);
+    VariablesScreen *variables = new VariablesScreen(panel.size(), ownDir);
     panel.addScreen(variables, PanelWindow::tr("Variables"), Glyphs::icon(Glyphs::Variables));
+    ConnectionsScreen *connections =
+        new ConnectionsScreen(ownDir + QLatin1String("/connections.ini"));
+    panel.addScreen(connections, PanelWindow::tr("Connections"), Glyphs::icon(Glyphs::Connections));
+    FilesScreen *files = new FilesScreen(&stick);
+    panel.addScreen(files, PanelWindow::tr("Files"), Glyphs::icon(Glyphs::Files));
+    QObject::connect(files, &FilesScreen::importWanted, programs->programWindow(), [programs] {
+        QMetaObject::invokeMethod(programs->programWindow(), "importExport");
+    });
     panel.show();
 
     if (options.tourDir.isEmpty())
@@ -102,6 +118,8 @@ int runPanel(const Options &options)
     tour.visitProgramScreen(programs);
     tour.visitTeachScreen(teach);
     tour.visitVariablesScreen(variables);
+    tour.visitConnectionsScreen(connections);
+    tour.visitFilesScreen(files);
     QObject::connect(&tour, &Tour::finished, qApp, &QApplication::quit);
     tour.start();
     QApplication::exec();

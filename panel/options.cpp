@@ -85,7 +85,13 @@ Options Options::parse(const QStringList &arguments)
         QLatin1String("Walk all screens without an operator, leave a numbered PNG of each in DIR, "
                       "and end. Needs no display."),
         QLatin1String("DIR"));
-    parser.addOptions({rotation, size, noTouch, programs, plc, tour});
+    const QCommandLineOption stick(
+        QLatin1String("stick"),
+        QLatin1String("Folder that stands in for a USB stick, to be plugged and pulled on the "
+                      "Files screen. Where /mnt/Storage belongs to the system, ./run --stick DIR "
+                      "starts the panel with one of its own."),
+        QLatin1String("DIR"));
+    parser.addOptions({rotation, size, noTouch, programs, plc, stick, tour});
 
     if (!parser.parse(arguments))
         return refusal(parser.errorText());
@@ -111,7 +117,7 @@ Options Options::parse(const QStringList &arguments)
         return refusal(QString::fromLatin1("The size \"%1\" is not of the form 800x480, or below "
                                            "480x272.")
                            .arg(parser.value(size)));
-    for (const QCommandLineOption &folder : {programs, plc, tour}) {
+    for (const QCommandLineOption &folder : {programs, plc, stick, tour}) {
         if (parser.isSet(folder) && parser.value(folder).isEmpty())
             return refusal(
                 QString::fromLatin1("--%1 needs a directory.").arg(folder.names().constFirst()));
@@ -125,6 +131,8 @@ Options Options::parse(const QStringList &arguments)
     }
     if (parser.isSet(plc))
         options.plcDir = absolutePath(parser.value(plc));
+    if (parser.isSet(stick))
+        options.stickDir = absolutePath(parser.value(stick));
     if (parser.isSet(tour))
         options.tourDir = absolutePath(parser.value(tour));
     return options;

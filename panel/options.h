@@ -30,6 +30,8 @@ struct Options
     QString programDir;
     /// Absolute path of the drop folder; empty for the one in the user's home.
     QString plcDir;
+    /// Absolute path of the folder that stands in for a USB stick; empty for the panel's own.
+    QString stickDir;
     /// Absolute path of the folder for pictures; empty when no tour is wanted.
     QString tourDir;
 

@@ -59,9 +59,10 @@ void PanelSurface::announce()
         setScreen(surface, surface);
 }
 
-SurfaceLoan::SurfaceLoan(int height) : m_own(QGuiApplication::primaryScreen()->availableGeometry())
+SurfaceLoan::SurfaceLoan(int height, int width)
+    : m_own(QGuiApplication::primaryScreen()->availableGeometry())
 {
-    const QRect lent(m_own.topLeft(), QSize(m_own.width(), height));
+    const QRect lent(m_own.topLeft(), QSize(width > 0 ? width : m_own.width(), height));
     setScreen(QGuiApplication::primaryScreen()->geometry(), lent);
 }
 

@@ -43,10 +43,11 @@ private:
 class SurfaceLoan
 {
 public:
-    explicit SurfaceLoan(int height = kTallPanel);
+    /// The width stays the panel's unless one is given.
+    explicit SurfaceLoan(int height = kTallPanel, int width = 0);
     ~SurfaceLoan();
 
-    /// Screen height in pixels for which the library's rows are as high as a thumb needs.
+    /// Screen height in pixels for which a row of a list is 34 pixels high, a thumb's 9 mm.
     static const int kTallPanel = 800;
 
 private:

@@ -71,6 +71,10 @@ QWidget *PanelWindow::makeTopStrip()
     row->setContentsMargins(3, margin, 3, margin);
     row->setSpacing(4);
 
+    // As high as with keys, so that the screens keep their height.
+    strip->setMinimumHeight(PanelKey(Glyphs::icon(Glyphs::Menu), tr("Menu")).sizeHint().height()
+                            + 2 * margin);
+
     m_tabs->setSpacing(3);
     m_keys->setSpacing(3);
     QFont font = m_title->font();
@@ -114,11 +118,14 @@ QWidget *PanelWindow::makeFootStrip()
     m_lastMessage = new ElidedLabel;
     m_lastMessage->setObjectName(QLatin1String("lastMessage"));
     m_lastMessage->setFont(m_status->font());
+    // The state of the devices is always to be read; a message gives way.
     m_status->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_status->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     QHBoxLayout *line = new QHBoxLayout;
     line->setContentsMargins(6, 0, 6, 0);
-    line->addWidget(m_lastMessage, 3);
-    line->addWidget(m_status, 2);
+    line->setSpacing(12);
+    line->addWidget(m_lastMessage, 1);
+    line->addWidget(m_status);
     column->addLayout(line);
     if (m_shape == Upright)
         column->addLayout(m_tabs);

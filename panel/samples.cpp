@@ -6,6 +6,18 @@
 #include <QDir>
 #include <QFile>
 
+namespace {
+
+bool copy(const QString &sample, const QString &target)
+{
+    if (!QFile::copy(QLatin1String(":/samples/") + sample, target))
+        return false;
+    // What comes out of the resource is read-only, and these are there to be edited.
+    return QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
+}
+
+} // namespace
+
 QStringList Samples::names()
 {
     return {QLatin1String("test-coil.cnc"), QLatin1String("stator-coil.cnc"),
@@ -27,12 +39,22 @@ QStringList Samples::install(const QString &programDir)
 
     QStringList copied;
     for (const QString &name : names()) {
-        const QString target = folder.filePath(name);
-        if (!QFile::copy(QLatin1String(":/samples/") + name, target))
-            continue;
-        // What comes out of the resource is read-only, and these are there to be edited.
-        QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
-        copied.append(name);
+        if (copy(name, folder.filePath(name)))
+            copied.append(name);
+    }
+    return copied;
+}
+
+QStringList Samples::fillStick(const QString &folderPath)
+{
+    const QDir folder(folderPath);
+    if (!folder.exists()
+        || !folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).isEmpty())
+        return QStringList();
+    QStringList copied;
+    for (const char *name : {"pin-test.cnc", "flange coil.cnc"}) {
+        if (copy(names().first(), folder.filePath(QLatin1String(name))))
+            copied.append(QLatin1String(name));
     }
     return copied;
 }

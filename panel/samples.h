@@ -17,6 +17,10 @@ QString programDir();
 /// missing. A file that is in the way stays as it is. Returns the names of those that were copied.
 QStringList install(const QString &programDir);
 
+/// Gives an empty \a folder that stands in for a stick two programs, one of them with a name that
+/// the transfer would mistake. Returns the names.
+QStringList fillStick(const QString &folder);
+
 } // namespace Samples
 
 #endif // SAMPLES_H

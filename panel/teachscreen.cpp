@@ -6,6 +6,7 @@
 #include "look.h"
 #include "machinedata.h"
 #include "panelkey.h"
+#include "pathpicker.h"
 #include "tablepicker.h"
 #include "taughtprogram.h"
 #include "tlistwidget.h"
@@ -113,7 +114,7 @@ bool TeachScreen::load(const QString &path)
     m_selectKey->setChecked(false);
     setRows(rows);
     markStored();
-    Q_EMIT told(tr("%1 loaded: %2 instructions.").arg(title()).arg(rows.size()), Good);
+    Q_EMIT told(tr("%1 loaded, instructions: %2.").arg(title()).arg(rows.size()), Good);
     return true;
 }
 
@@ -126,14 +127,17 @@ bool TeachScreen::store()
         return false;
     }
     markStored();
-    Q_EMIT told(tr("%1 stored: %2 instructions.").arg(title()).arg(m_stored.size()), Good);
+    Q_EMIT told(tr("%1 stored, instructions: %2.").arg(title()).arg(m_stored.size()), Good);
     return true;
 }
 
 void TeachScreen::askAndLoad()
 {
-    if (mayLoseChanges(tr("Loading replaces what was changed and is not stored.")))
-        load(m_file);
+    if (!mayLoseChanges(tr("Loading replaces what was changed and is not stored.")))
+        return;
+    const QString path = PathPicker::pick(tr("Load a taught program"), m_folder);
+    if (!path.isEmpty())
+        load(path);
 }
 
 void TeachScreen::clear()
@@ -146,7 +150,7 @@ void TeachScreen::clear()
         return;
     m_selectKey->setChecked(false);
     list()->clear();
-    Q_EMIT told(tr("%1 instructions removed. Load brings the stored ones back.").arg(count), Info);
+    Q_EMIT told(tr("Instructions removed: %1. Load brings the stored ones back.").arg(count), Info);
     refreshStatus();
 }
 
@@ -205,9 +209,10 @@ void TeachScreen::choosePoint(int row)
     list()->reshow();
     m_machine->setCurrentPoint(picker.number());
     refreshStatus();
-    Q_EMIT told(tr("Point %1 \"%2\" in %n instruction(s).", nullptr, count)
+    Q_EMIT told(tr("Instructions that now name point %1 \"%2\": %3.")
                     .arg(picker.number())
-                    .arg(point.name),
+                    .arg(point.name)
+                    .arg(count),
                 Good);
 }
 
@@ -230,9 +235,10 @@ void TeachScreen::chooseSpeed(int row)
     }
     list()->reshow();
     refreshStatus();
-    Q_EMIT told(tr("Speed %1 \"%2\" in %n instruction(s).", nullptr, count)
+    Q_EMIT told(tr("Instructions that now name speed %1 \"%2\": %3.")
                     .arg(picker.number())
-                    .arg(speed.name),
+                    .arg(speed.name)
+                    .arg(count),
                 Good);
 }
 

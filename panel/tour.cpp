@@ -3,6 +3,8 @@
 
 #include "tour.h"
 
+#include "connectionsscreen.h"
+#include "filesscreen.h"
 #include "messagebar.h"
 #include "panelkey.h"
 #include "panelwindow.h"
@@ -18,6 +20,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -173,6 +176,47 @@ void Tour::visitVariablesScreen(VariablesScreen *screen)
     picture(QLatin1String("variables"));
     pressCell(screen, 1, "ComboLineEdit", 0);
     picture(QLatin1String("variables-keypad"));
+    closeDialog();
+}
+
+void Tour::visitConnectionsScreen(ConnectionsScreen *screen)
+{
+    showScreen(3);
+    picture(QLatin1String("connections"));
+    pressKey(screen, QLatin1String("Edit the addresses"));
+    picture(QLatin1String("connect-table"));
+    press([] {
+        QWidget *dialog = topLevel("ConnEditor");
+        QWidget *field = nullptr;
+        const QWidgetList all = dialog ? dialog->findChildren<QWidget *>() : QWidgetList();
+        for (QWidget *widget : all) {
+            if (!field && widget->inherits("ComboLineEdit") && widget->isVisible())
+                field = widget;
+        }
+        return field;
+    });
+    picture(QLatin1String("address-keypad"));
+    closeDialog();
+    closeDialog();
+}
+
+void Tour::visitFilesScreen(FilesScreen *screen)
+{
+    showScreen(4);
+    picture(QLatin1String("files"));
+    then([screen] { QTimer::singleShot(0, screen, [screen] { screen->plug(); }); });
+    picture(QLatin1String("stick-plugged"));
+    then([] {
+        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (box)
+            box->button(QMessageBox::Yes)->click();
+    });
+    picture(QLatin1String("stick-names"));
+    pressKey(screen, QLatin1String("I/E"));
+    picture(QLatin1String("import-export"));
+    closeDialog();
+    pressKey(screen, QLatin1String("Pick"));
+    picture(QLatin1String("pick-path"));
     closeDialog();
 }
 

@@ -12,6 +12,8 @@
 #include <functional>
 
 class PanelWindow;
+class ConnectionsScreen;
+class FilesScreen;
 class ListScreen;
 class ProgramScreen;
 class TeachScreen;
@@ -33,6 +35,9 @@ public:
     void visitProgramScreen(ProgramScreen *screen);
     void visitTeachScreen(TeachScreen *screen);
     void visitVariablesScreen(VariablesScreen *screen);
+    void visitConnectionsScreen(ConnectionsScreen *screen);
+    /// Plugs the stick in if it is a simulated one that can be.
+    void visitFilesScreen(FilesScreen *screen);
 
     void start();
     /// What went wrong; empty when every step found what it touches and every picture was written.

@@ -101,7 +101,7 @@ bool VariablesScreen::store()
     }
     m_stored = rows();
     refreshStatus();
-    Q_EMIT told(tr("%n variable(s) stored.", nullptr, m_stored.size()), Good);
+    Q_EMIT told(tr("Variables stored: %1.").arg(m_stored.size()), Good);
     return true;
 }
 

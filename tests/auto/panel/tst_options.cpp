@@ -43,13 +43,14 @@ void TestOptions::allOptionsAreRead()
 {
     const Options options =
         parse({"--rotation", "270", "--size", "480x800", "--no-touch", "--programs", "/srv/hmi/cnc",
-               "--plc=/srv/plc", "--tour", "pictures"});
+               "--plc=/srv/plc", "--stick", "/srv/stick", "--tour", "pictures"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.size, QSize(480, 800));
     QVERIFY(!options.touch);
     QCOMPARE(options.programDir, QString("/srv/hmi/cnc"));
     QCOMPARE(options.plcDir, QString("/srv/plc"));
+    QCOMPARE(options.stickDir, QString("/srv/stick"));
     QCOMPARE(options.tourDir, QDir::currentPath() + "/pictures");
 }
 
@@ -139,7 +140,7 @@ void TestOptions::helpTellsEveryOption()
     const Options options = parse({"--help"});
     QCOMPARE(options.outcome, Options::ShowText);
     for (const char *option :
-         {"--rotation", "--size", "--no-touch", "--programs", "--plc", "--tour"})
+         {"--rotation", "--size", "--no-touch", "--programs", "--plc", "--stick", "--tour"})
         QVERIFY2(options.text.contains(option), option);
     QVERIFY(options.text.contains("DIR/cnc"));
 }

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void missingDirectoryIsMade();
     void directoryWithAProgramGetsNone();
     void nothingIsOverwritten();
+    void emptyStickGetsPrograms();
     void lengths_data();
     void lengths();
     void linesAreWordsTheEditorKnows();
@@ -61,6 +62,16 @@ void TestSamples::nothingIsOverwritten()
     QCOMPARE(copied, Samples::names().mid(1));
     QVERIFY(QFileInfo(programDir() + '/' + Samples::names().first()).isDir());
     QCOMPARE(readFile(programDir() + "/notes.txt"), QByteArray("mine"));
+}
+
+void TestSamples::emptyStickGetsPrograms()
+{
+    const QString stick = home() + "/stick";
+    QVERIFY(Samples::fillStick(stick).isEmpty());
+    QVERIFY(QDir().mkpath(stick));
+    QCOMPARE(Samples::fillStick(stick).size(), 2);
+    QVERIFY(Samples::fillStick(stick).isEmpty());
+    QCOMPARE(QDir(stick).entryList(QDir::Files).size(), 2);
 }
 
 void TestSamples::lengths_data()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void rowWithoutAnIndexIsChangedAlone();
     void touchedRowSetsThePointThatTagCopies();
     void editOnTheKeypadIsStoredAndLoaded();
+    void loadKeyPicksAFile();
     void brokenFileLeavesTheScreenAsItIs();
     void closingWithChangesAsks();
 
@@ -366,6 +367,34 @@ void TestTeachScreen::editOnTheKeypadIsStoredAndLoaded()
     TeachScreen next(QSize(480, 800), home() + "/teach", m_machine);
     QCOMPARE(next.list()->getContent(1), m_list->getContent(1));
     QCOMPARE(next.list()->count(), m_list->count());
+}
+
+void TestTeachScreen::loadKeyPicksAFile()
+{
+    QString error;
+    QList<QStringList> rows{TaughtProgram::command("M05")};
+    rows[0][1] = "1";
+    writeFile(home() + "/teach/keep", "");
+    QVERIFY(TaughtProgram::store(home() + "/teach/other.teach", rows, &error));
+    ModalDriver driver;
+    driver.reject();
+    QTest::mouseClick(key("Load"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(m_list->count() > 2);
+
+    driver.then([](QWidget *dialog) {
+        const QList<Label *> lines = dialog->findChildren<Label *>();
+        for (Label *line : lines) {
+            if (line->text() == "other.teach")
+                QTest::mouseClick(line, Qt::LeftButton);
+        }
+        static_cast<QDialog *>(dialog)->accept();
+    });
+    QTest::mouseClick(key("Load"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_screen->title(), QString("other.teach"));
+    QCOMPARE(m_screen->list()->count(), 2);
+    QCOMPARE(m_list->getContent(1), rows.first());
 }
 
 void TestTeachScreen::brokenFileLeavesTheScreenAsItIs()

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filesscreen.h"
+
+#include "elidedlabel.h"
+#include "importguard.h"
+#include "look.h"
+#include "panelkey.h"
+#include "pathpicker.h"
+#include "samples.h"
+#include "stick.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+// What the import manager lets in altogether.
+const qint64 kProgramSpace = 31457280;
+
+PanelKey *darkKey(Glyphs::Glyph glyph, const QString &text)
+{
+    return new PanelKey(Glyphs::icon(glyph, Look::ink()), text);
+}
+
+} // namespace
+
+FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
+    : PanelScreen(parent)
+    , m_stick(stick)
+    , m_guard(new ImportGuard(Samples::programDir(), Stick::mountPoint(), this))
+    , m_grid(new QGridLayout)
+    , m_plugKey(darkKey(Glyphs::Plug, tr("Plug")))
+    , m_pullKey(darkKey(Glyphs::Pull, tr("Pull")))
+    , m_renameKey(darkKey(Glyphs::Rename, tr("Rename")))
+{
+    setStyleSheet(Look::keyPanelSheet());
+    PanelKey *importKey =
+        new PanelKey(QIcon(QLatin1String(":/images/importExport.png")), tr("I/E"));
+    PanelKey *pickKey = darkKey(Glyphs::Files, tr("Pick"));
+    m_stickState = addLine(tr("Stick"), {m_plugKey, m_pullKey});
+    m_nameState = addLine(tr("Names"), {m_renameKey});
+    m_storageState = addLine(tr("Programs"), {importKey});
+    m_pathState = addLine(tr("Path"), {pickKey});
+    m_grid->setContentsMargins(12, 6, 6, 6);
+    m_grid->setRowStretch(m_grid->rowCount(), 1);
+    m_grid->setColumnStretch(0, 1);
+    setLayout(m_grid);
+
+    connect(m_plugKey, &PanelKey::clicked, this, &FilesScreen::plug);
+    connect(m_pullKey, &PanelKey::clicked, this, &FilesScreen::pull);
+    connect(m_renameKey, &PanelKey::clicked, this, &FilesScreen::rename);
+    connect(importKey, &PanelKey::clicked, this, &FilesScreen::importWanted);
+    connect(pickKey, &PanelKey::clicked, this, &FilesScreen::pick);
+    connect(m_guard, &ImportGuard::told, this, [this](const QString &text, bool isSettled) {
+        Q_EMIT told(text, isSettled ? Good : Warning);
+        showState();
+    });
+    showState();
+}
+
+QString FilesScreen::title() const
+{
+    return tr("Files and stick");
+}
+
+ElidedLabel *FilesScreen::addLine(const QString &heading, const QList<PanelKey *> &keys)
+{
+    const int row = m_grid->rowCount();
+    QLabel *name = new QLabel(heading);
+    QFont font = name->font();
+    font.setBold(true);
+    name->setFont(font);
+    ElidedLabel *state = new ElidedLabel;
+    QVBoxLayout *texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addStretch();
+    texts->addWidget(name);
+    texts->addWidget(state);
+    texts->addStretch();
+    m_grid->addLayout(texts, row, 0);
+    for (int i = 0; i < keys.size(); ++i) {
+        keys.at(i)->setMinimumWidth(2 * Look::kTouch);
+        // A line with one key has it at the edge, under the last of two.
+        m_grid->addWidget(keys.at(i), row, keys.size() == 1 ? 2 : 1 + i);
+    }
+    return state;
+}
+
+void FilesScreen::refreshStatus()
+{
+    const bool present = m_stick->isPresent();
+    const bool arrived = present && !m_wasPresent;
+    m_wasPresent = present;
+    Q_EMIT statusChanged(tr("Stick"), present ? tr("in") : tr("out"));
+    showState();
+    // A box over another dialog would come as a surprise; the guard asks at the next press anyway.
+    if (arrived && !QApplication::activeModalWidget()) {
+        if (m_guard->unsafeFiles().isEmpty())
+            Q_EMIT told(tr("The stick is in; all file names are safe."), Good);
+        else
+            m_guard->settle();
+    }
+}
+
+void FilesScreen::plug()
+{
+    QString error;
+    if (!m_stick->plug(&error))
+        Q_EMIT told(error, Warning);
+    refreshStatus();
+}
+
+void FilesScreen::pull()
+{
+    m_stick->pull();
+    refreshStatus();
+    Q_EMIT told(tr("The stick is out."), Info);
+}
+
+void FilesScreen::rename()
+{
+    m_guard->settle();
+    showState();
+}
+
+void FilesScreen::pick()
+{
+    const QString start = m_stick->isPresent() ? Stick::mountPoint() : Samples::programDir();
+    const QString path = PathPicker::pick(tr("Pick a path"), start);
+    if (!path.isEmpty())
+        m_pickedPath = path;
+    showState();
+}
+
+void FilesScreen::showState()
+{
+    const bool present = m_stick->isPresent();
+    m_plugKey->setVisible(m_stick->isSimulated());
+    m_pullKey->setVisible(m_stick->isSimulated());
+    m_plugKey->setEnabled(!present);
+    m_pullKey->setEnabled(present);
+    const QString what =
+        m_stick->isSimulated() ? tr("simulated by %1").arg(m_stick->folder()) : Stick::mountPoint();
+    const int onStick = QDir(Stick::mountPoint()).entryList(QDir::Files).size();
+    m_stickState->setText(present ? tr("In. Files: %1, ").arg(onStick) + what : tr("Out. ") + what);
+
+    const int unsafe = m_guard->unsafeFiles().size();
+    m_renameKey->setEnabled(unsafe > 0);
+    m_nameState->setText(unsafe == 0 ? tr("All are safe for the transfer")
+                                     : tr("Names that are not safe: %1").arg(unsafe));
+
+    qint64 used = 0;
+    const QFileInfoList programs = QDir(Samples::programDir()).entryInfoList(QDir::Files);
+    for (const QFileInfo &program : programs)
+        used += program.size();
+    m_storageState->setText(
+        tr("Files: %1, ").arg(programs.size())
+        + tr("%1 KB of %2 MB").arg((used + 1023) / 1024).arg(kProgramSpace / (1024 * 1024)));
+    m_pathState->setText(m_pickedPath.isEmpty() ? tr("None picked yet") : m_pickedPath);
+}

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FILESSCREEN_H
+#define FILESSCREEN_H
+
+#include "panelscreen.h"
+
+class ElidedLabel;
+class ImportGuard;
+class QGridLayout;
+class Stick;
+
+/// Where files are: the stick, the program directory, and a path picked with the library's browser.
+class FilesScreen : public PanelScreen
+{
+    Q_OBJECT
+
+public:
+    /// \a stick must outlive the screen.
+    explicit FilesScreen(Stick *stick, QWidget *parent = nullptr);
+
+    QString title() const override;
+    /// Also sees a stick come and go: when one comes, its names are checked.
+    void refreshStatus() override;
+
+    ImportGuard *guard() const { return m_guard; }
+    /// The path that was picked last; empty when none was.
+    QString pickedPath() const { return m_pickedPath; }
+
+    /// What the keys Plug and Pull do.
+    void plug();
+    void pull();
+
+Q_SIGNALS:
+    /// The operator wants the import manager.
+    void importWanted();
+
+private:
+    ElidedLabel *addLine(const QString &heading, const QList<PanelKey *> &keys);
+    void rename();
+    void pick();
+    void showState();
+
+    Stick *m_stick;
+    ImportGuard *m_guard;
+    QGridLayout *m_grid;
+    ElidedLabel *m_stickState;
+    ElidedLabel *m_nameState;
+    ElidedLabel *m_storageState;
+    ElidedLabel *m_pathState;
+    PanelKey *m_plugKey;
+    PanelKey *m_pullKey;
+    PanelKey *m_renameKey;
+    QString m_pickedPath;
+    bool m_wasPresent = false;
+};
+
+#endif // FILESSCREEN_H

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "filesscreen.h"
+#include "importguard.h"
+#include "modaldriver.h"
+#include "panelkey.h"
+#include "stick.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QSignalSpy>
+
+class TestFilesScreen : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void keysPlugAndPullTheStick();
+    void arrivingStickIsCheckedOnce();
+    void stickThatCannotBePluggedIsTold();
+    void pickedPathIsShown();
+    void cancelledPickKeepsThePath();
+    void importKeyAsksTheHost();
+    void panelsOwnStickHasNoKeys();
+    void fits_data();
+    void fits();
+
+private:
+    static PanelKey *key(const FilesScreen &screen, const QString &text);
+    static bool shows(const FilesScreen &screen, const QString &text);
+
+    QString m_folder;
+};
+
+void TestFilesScreen::init()
+{
+    FilarixTest::init();
+    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    programDir();
+    m_folder = home() + "/stick";
+    QDir().mkpath(m_folder);
+    QDir().mkdir(Stick::mountPoint());
+}
+
+void TestFilesScreen::cleanup()
+{
+    QFile::remove(Stick::marker());
+    QDir().mkdir(Stick::mountPoint());
+    emptyFolder(Stick::mountPoint());
+    FilarixTest::cleanup();
+}
+
+PanelKey *TestFilesScreen::key(const FilesScreen &screen, const QString &text)
+{
+    const QList<PanelKey *> keys = screen.findChildren<PanelKey *>();
+    for (PanelKey *key : keys) {
+        if (key->text() == text)
+            return key;
+    }
+    return nullptr;
+}
+
+bool TestFilesScreen::shows(const FilesScreen &screen, const QString &text)
+{
+    const QList<QLabel *> labels = screen.findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->text().contains(text))
+            return true;
+    }
+    return false;
+}
+
+void TestFilesScreen::keysPlugAndPullTheStick()
+{
+    writeFile(m_folder + "/coil.cnc", "G01\n");
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.show();
+    QSignalSpy states(&screen, SIGNAL(statusChanged(QString, QString)));
+    QVERIFY(!key(screen, "Pull")->isEnabled());
+    QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
+    QVERIFY(stick.isPresent());
+    QCOMPARE(states.last().at(1).toString(), QString("in"));
+    QVERIFY(!key(screen, "Plug")->isEnabled());
+    QVERIFY(shows(screen, "In. Files: 1"));
+    QTest::mouseClick(key(screen, "Pull"), Qt::LeftButton);
+    QVERIFY(!stick.isPresent());
+    QCOMPARE(states.last().at(1).toString(), QString("out"));
+    QVERIFY(shows(screen, "Out"));
+}
+
+void TestFilesScreen::arrivingStickIsCheckedOnce()
+{
+    writeFile(m_folder + "/a b.cnc", "G01\n");
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.show();
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(driver.boxes().last().text.contains("a b.cnc"));
+    QVERIFY(shows(screen, "not safe: 1"));
+    screen.refreshStatus();
+    QVERIFY2(driver.finished(), driver.report());
+
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(key(screen, "Rename"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList("a_b.cnc"));
+    QVERIFY(!key(screen, "Rename")->isEnabled());
+}
+
+void TestFilesScreen::stickThatCannotBePluggedIsTold()
+{
+    writeFile("/mnt/Storage/real.cnc", "G01\n");
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.show();
+    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QVERIFY(key(screen, "Plug")->isEnabled());
+}
+
+void TestFilesScreen::pickedPathIsShown()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.show();
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        const QWidgetList all = dialog->findChildren<QWidget *>();
+        for (QWidget *widget : all) {
+            QLabel *line = qobject_cast<QLabel *>(widget);
+            if (line && line->text() == "coil.cnc")
+                QTest::mouseClick(line, Qt::LeftButton);
+        }
+        static_cast<QDialog *>(dialog)->accept();
+    });
+    QTest::mouseClick(key(screen, "Pick"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(screen.pickedPath(), programDir() + "/coil.cnc");
+    QVERIFY(shows(screen, programDir() + "/coil.cnc"));
+}
+
+void TestFilesScreen::cancelledPickKeepsThePath()
+{
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.show();
+    ModalDriver driver;
+    driver.reject();
+    QTest::mouseClick(key(screen, "Pick"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(screen.pickedPath(), QString());
+}
+
+void TestFilesScreen::importKeyAsksTheHost()
+{
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.show();
+    QSignalSpy wanted(&screen, SIGNAL(importWanted()));
+    QTest::mouseClick(key(screen, "I/E"), Qt::LeftButton);
+    QCOMPARE(wanted.size(), 1);
+}
+
+void TestFilesScreen::panelsOwnStickHasNoKeys()
+{
+    Stick stick;
+    FilesScreen screen(&stick);
+    screen.show();
+    QVERIFY(!key(screen, "Plug")->isVisible());
+    QVERIFY(!key(screen, "Pull")->isVisible());
+}
+
+void TestFilesScreen::fits_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("480x272") << QSize(480, 228);
+    QTest::newRow("480x800") << QSize(480, 670);
+    QTest::newRow("800x480") << QSize(800, 405);
+}
+
+void TestFilesScreen::fits()
+{
+    QFETCH(QSize, size);
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.resize(size);
+    screen.show();
+    QVERIFY(TestCompat::waitForExposed(&screen));
+    QCOMPARE(screen.size(), size);
+    const QList<PanelKey *> keys = screen.findChildren<PanelKey *>();
+    for (PanelKey *key : keys) {
+        QVERIFY(screen.rect().contains(key->geometry()));
+        QVERIFY(key->height() >= 34);
+    }
+}
+
+FILARIX_TEST_MAIN(TestFilesScreen)
+#include "tst_filesscreen.moc"
