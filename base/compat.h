@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef COMPAT_H
-#define COMPAT_H
+#ifndef FILARIX_COMPAT_H
+#define FILARIX_COMPAT_H
 
 // The one header that knows how Qt 4.8 (the panels) and Qt 5.15 (PCs) differ.
 
@@ -88,4 +88,4 @@ inline QString rawText(const QTextDocument *document)
 
 } // namespace Compat
 
-#endif // COMPAT_H
+#endif // FILARIX_COMPAT_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef CHECKBOX_H
-#define CHECKBOX_H
+#ifndef FILARIX_CHECKBOX_H
+#define FILARIX_CHECKBOX_H
 
 #include "filarixglobal.h"
 
@@ -29,4 +29,4 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
 };
 
-#endif // CHECKBOX_H
+#endif // FILARIX_CHECKBOX_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef COMBOBOX_H
-#define COMBOBOX_H
+#ifndef FILARIX_COMBOBOX_H
+#define FILARIX_COMBOBOX_H
 
 #include "filarixglobal.h"
 
@@ -42,4 +42,4 @@ private:
     bool popupToggle;
 };
 
-#endif // COMBOBOX_H
+#endif // FILARIX_COMBOBOX_H

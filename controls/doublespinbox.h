@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef DOUBLESPINBOX_H
-#define DOUBLESPINBOX_H
+#ifndef FILARIX_DOUBLESPINBOX_H
+#define FILARIX_DOUBLESPINBOX_H
 
 #include "filarixglobal.h"
 
@@ -37,4 +37,4 @@ private:
     LineEdit *lineEdit;
 };
 
-#endif // DOUBLESPINBOX_H
+#endif // FILARIX_DOUBLESPINBOX_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef GROUPBOX_H
-#define GROUPBOX_H
+#ifndef FILARIX_GROUPBOX_H
+#define FILARIX_GROUPBOX_H
 
 #include "filarixglobal.h"
 
@@ -28,4 +28,4 @@ protected:
     bool event(QEvent *event) override;
 };
 
-#endif // GROUPBOX_H
+#endif // FILARIX_GROUPBOX_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef LINEEDIT_H
-#define LINEEDIT_H
+#ifndef FILARIX_LINEEDIT_H
+#define FILARIX_LINEEDIT_H
 
 #include "filarixglobal.h"
 
@@ -32,4 +32,4 @@ private:
     QString reserved;
 };
 
-#endif // LINEEDIT_H
+#endif // FILARIX_LINEEDIT_H

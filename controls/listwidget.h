@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef LISTWIDGET_H
-#define LISTWIDGET_H
+#ifndef FILARIX_LISTWIDGET_H
+#define FILARIX_LISTWIDGET_H
 
 #include "filarixglobal.h"
 
@@ -74,4 +74,4 @@ protected:
     int reserved;
 };
 
-#endif // LISTWIDGET_H
+#endif // FILARIX_LISTWIDGET_H

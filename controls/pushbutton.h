@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef PUSHBUTTON_H
-#define PUSHBUTTON_H
+#ifndef FILARIX_PUSHBUTTON_H
+#define FILARIX_PUSHBUTTON_H
 
 #include "filarixglobal.h"
 
@@ -35,4 +35,4 @@ protected:
     void initStyleOption(QStyleOptionButton *option) const;
 };
 
-#endif // PUSHBUTTON_H
+#endif // FILARIX_PUSHBUTTON_H

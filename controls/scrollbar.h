@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef SCROLLBAR_H
-#define SCROLLBAR_H
+#ifndef FILARIX_SCROLLBAR_H
+#define FILARIX_SCROLLBAR_H
 
 #include "filarixglobal.h"
 
@@ -26,4 +26,4 @@ public:
     QSize sizeHint() const override;
 };
 
-#endif // SCROLLBAR_H
+#endif // FILARIX_SCROLLBAR_H

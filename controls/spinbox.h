@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef SPINBOX_H
-#define SPINBOX_H
+#ifndef FILARIX_SPINBOX_H
+#define FILARIX_SPINBOX_H
 
 #include "filarixglobal.h"
 
@@ -36,4 +36,4 @@ private:
     LineEdit *lineEdit;
 };
 
-#endif // SPINBOX_H
+#endif // FILARIX_SPINBOX_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef WGCODEEDITER_H
-#define WGCODEEDITER_H
+#ifndef FILARIX_WGCODEEDITER_H
+#define FILARIX_WGCODEEDITER_H
 
 #include "filarixglobal.h"
 
@@ -144,4 +144,4 @@ private:
     WGCodeEditer *codeEditor;
 };
 
-#endif // WGCODEEDITER_H
+#endif // FILARIX_WGCODEEDITER_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef WHIGHLIGHTER_H
-#define WHIGHLIGHTER_H
+#ifndef FILARIX_WHIGHLIGHTER_H
+#define FILARIX_WHIGHLIGHTER_H
 
 #include "filarixglobal.h"
 
@@ -71,4 +71,4 @@ private:
     QTextCharFormat errorFormat;
 };
 
-#endif // WHIGHLIGHTER_H
+#endif // FILARIX_WHIGHLIGHTER_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef MJLINE_H
-#define MJLINE_H
+#ifndef FILARIX_MJLINE_H
+#define FILARIX_MJLINE_H
 
 #include "filarixglobal.h"
 
@@ -161,4 +161,4 @@ private:
     DataEditor *m_dataEditor;
 };
 
-#endif // MJLINE_H
+#endif // FILARIX_MJLINE_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef TLISTWIDGET_H
-#define TLISTWIDGET_H
+#ifndef FILARIX_TLISTWIDGET_H
+#define FILARIX_TLISTWIDGET_H
 
 #include "filarixglobal.h"
 #include "listwidget.h"
@@ -195,4 +195,4 @@ private:
     QSize m_size;
 };
 
-#endif // TLISTWIDGET_H
+#endif // FILARIX_TLISTWIDGET_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef CONNEDITOR_H
-#define CONNEDITOR_H
+#ifndef FILARIX_CONNEDITOR_H
+#define FILARIX_CONNEDITOR_H
 
 #include "filarixglobal.h"
 
@@ -56,4 +56,4 @@ private:
     QPushButton *m_cancelButton;
 };
 
-#endif // CONNEDITOR_H
+#endif // FILARIX_CONNEDITOR_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef DATAEDITOR_H
-#define DATAEDITOR_H
+#ifndef FILARIX_DATAEDITOR_H
+#define FILARIX_DATAEDITOR_H
 
 #include "filarixglobal.h"
 
@@ -90,4 +90,4 @@ private:
     QSize m_size;
 };
 
-#endif // DATAEDITOR_H
+#endif // FILARIX_DATAEDITOR_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef FILEDIALOG_H
-#define FILEDIALOG_H
+#ifndef FILARIX_FILEDIALOG_H
+#define FILARIX_FILEDIALOG_H
 
 #include "filarixglobal.h"
 
@@ -74,4 +74,4 @@ private:
     QPushButton *m_cancelButton;
 };
 
-#endif // FILEDIALOG_H
+#endif // FILARIX_FILEDIALOG_H

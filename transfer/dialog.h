@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef DIALOG_H
-#define DIALOG_H
+#ifndef FILARIX_DIALOG_H
+#define FILARIX_DIALOG_H
 
 #include "filarixglobal.h"
 
@@ -34,4 +34,4 @@ protected:
     void showEvent(QShowEvent *event) override;
 };
 
-#endif // DIALOG_H
+#endif // FILARIX_DIALOG_H

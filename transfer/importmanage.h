@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef IMPORTMANAGE_H
-#define IMPORTMANAGE_H
+#ifndef FILARIX_IMPORTMANAGE_H
+#define FILARIX_IMPORTMANAGE_H
 
 #include "filarixglobal.h"
 
@@ -108,4 +108,4 @@ private:
     QLabel *m_statusLabel;
 };
 
-#endif // IMPORTMANAGE_H
+#endif // FILARIX_IMPORTMANAGE_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef MESSAGEBOX_H
-#define MESSAGEBOX_H
+#ifndef FILARIX_MESSAGEBOX_H
+#define FILARIX_MESSAGEBOX_H
 
 #include "filarixglobal.h"
 
@@ -45,4 +45,4 @@ private:
     static MessageBox *create(QWidget *parent, const QString &title, const QString &text);
 };
 
-#endif // MESSAGEBOX_H
+#endif // FILARIX_MESSAGEBOX_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef WMMAINWINDOW_H
-#define WMMAINWINDOW_H
+#ifndef FILARIX_WMMAINWINDOW_H
+#define FILARIX_WMMAINWINDOW_H
 
 #include "compat.h"
 #include "filarixglobal.h"
@@ -170,4 +170,4 @@ private:
     int m_rotation;
 };
 
-#endif // WMMAINWINDOW_H
+#endif // FILARIX_WMMAINWINDOW_H
