@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 #
 # The one place that knows which toolkit is built against: Qt 5.15 on PCs and in CI, Qt 4.8 on the
-# panels. Gives the targets Filarix::QtGui (Core, Gui, Widgets) and, for tests, Filarix::QtTest.
+# panels. Gives the targets Filarix::QtGui (Core, Gui, Widgets) and, for tests, Filarix::QtTest; and
+# the names under which the installed packages ask a host for the toolkit (FILARIX_QT_*).
 
 set(FILARIX_QT "5" CACHE STRING "Major version of the toolkit: 5, or 4 for the panels")
 set_property(CACHE FILARIX_QT PROPERTY STRINGS 5 4)
@@ -13,9 +14,18 @@ add_library(Filarix::QtGui ALIAS filarix_qt_gui)
 if(FILARIX_QT EQUAL 5)
   find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets)
   target_link_libraries(filarix_qt_gui INTERFACE Qt5::Core Qt5::Gui Qt5::Widgets)
+  set(FILARIX_QT_PACKAGE "Qt5 5.15 COMPONENTS Core Gui Widgets")
+  set(FILARIX_QT_PKGCONFIG "Qt5Core Qt5Gui Qt5Widgets")
+  set(FILARIX_QT_QMAKE "core gui widgets")
+  # Qt's own CMake and qmake files ask for it too; its headers refuse to compile otherwise.
+  set(FILARIX_QT_CFLAGS "-fPIC")
 elseif(FILARIX_QT EQUAL 4)
   find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)
   target_link_libraries(filarix_qt_gui INTERFACE Qt4::QtCore Qt4::QtGui)
+  set(FILARIX_QT_PACKAGE "Qt4 4.8 COMPONENTS QtCore QtGui")
+  set(FILARIX_QT_PKGCONFIG "QtCore QtGui")
+  set(FILARIX_QT_QMAKE "core gui")
+  set(FILARIX_QT_CFLAGS "")
 else()
   message(FATAL_ERROR "FILARIX_QT is ${FILARIX_QT}; it must be 5 or 4")
 endif()

@@ -1,0 +1,130 @@
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# What `cmake --install` puts where, by component:
+#
+#   runtime         libFilarixModule.so.1, all that a panel needs of us
+#   development     headers, the link name, and the CMake, pkg-config and qmake packages
+#   device-headers  the interface of the panel's device library, for hosts that use it themselves
+#   simulator       the stand-in device library
+#   panel           filarix-panel with its manual page
+#
+# A plain install takes the first two. The others are installed by name only, so that the stand-in
+# never reaches a panel by accident. Everything may be moved as a whole, lie in a sysroot or be
+# installed with DESTDIR: the packages find their files from where they are themselves.
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+if(FILARIX_QT EQUAL 5)
+  set(filarix_qmake_features "${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/features")
+else()
+  set(filarix_qmake_features "${CMAKE_INSTALL_DATADIR}/qt4/mkspecs/features")
+endif()
+set(FILARIX_QMAKE_FEATURES_DIR "${filarix_qmake_features}" CACHE STRING
+  "Where the qmake feature filarixmodule.prf goes; qmake finds it in its own folder of features")
+
+set(FILARIX_INSTALL_HEADERDIR "${CMAKE_INSTALL_INCLUDEDIR}/filarix")
+set(FILARIX_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/FilarixModule")
+
+# The published interface: the exported classes, what their headers include, and
+# the builder of rows.
+set(FILARIX_PUBLIC_HEADERS
+  base/compat.h
+  base/filarixglobal.h
+  controls/checkbox.h
+  controls/combobox.h
+  controls/doublespinbox.h
+  controls/groupbox.h
+  controls/lineedit.h
+  controls/listwidget.h
+  controls/pushbutton.h
+  controls/scrollbar.h
+  controls/spinbox.h
+  editor/wgcodeediter.h
+  editor/whighlighter.h
+  list/filarixrows.h
+  list/mjline.h
+  list/tlistwidget.h
+  tables/conneditor.h
+  tables/dataeditor.h
+  tables/filedialog.h
+  transfer/dialog.h
+  transfer/importmanage.h
+  transfer/messagebox.h
+  window/wmmainwindow.h
+)
+
+# The way from one installed folder to another.
+function(filarix_relative_path out from to)
+  cmake_path(ABSOLUTE_PATH from BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE)
+  cmake_path(ABSOLUTE_PATH to BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE)
+  file(RELATIVE_PATH path "${from}" "${to}")
+  string(REGEX REPLACE "/$" "" path "${path}")
+  set(${out} "${path}" PARENT_SCOPE)
+endfunction()
+
+# The library. A host that links it need not have the device library at hand: that is found when the
+# program is loaded. Without one in the build its symbols are the host's to link, and the linker
+# says so.
+set(FILARIX_LINK_OPTIONS "")
+if(FILARIX_HMIDEVICE_LIBRARY OR TARGET HMIDevice)
+  set(FILARIX_LINK_OPTIONS "-Wl,--allow-shlib-undefined")
+endif()
+set_target_properties(FilarixModule PROPERTIES EXPORT_NAME Module INSTALL_RPATH "$ORIGIN")
+target_include_directories(FilarixModule INTERFACE
+  $<INSTALL_INTERFACE:${FILARIX_INSTALL_HEADERDIR}>)
+target_link_options(FilarixModule INTERFACE $<INSTALL_INTERFACE:${FILARIX_LINK_OPTIONS}>)
+set_target_properties(filarix_qt_gui PROPERTIES EXPORT_NAME QtGui)
+install(TARGETS FilarixModule filarix_qt_gui
+  EXPORT FilarixModuleTargets
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    COMPONENT runtime NAMELINK_COMPONENT development)
+install(FILES ${FILARIX_PUBLIC_HEADERS}
+  DESTINATION "${FILARIX_INSTALL_HEADERDIR}" COMPONENT development)
+
+# find_package(FilarixModule)
+install(EXPORT FilarixModuleTargets
+  NAMESPACE Filarix:: DESTINATION "${FILARIX_INSTALL_CMAKEDIR}" COMPONENT development)
+configure_package_config_file(
+  cmake/FilarixModuleConfig.cmake.in FilarixModuleConfig.cmake
+  INSTALL_DESTINATION "${FILARIX_INSTALL_CMAKEDIR}"
+  NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(FilarixModuleConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+  "${CMAKE_CURRENT_BINARY_DIR}/FilarixModuleConfig.cmake"
+  "${CMAKE_CURRENT_BINARY_DIR}/FilarixModuleConfigVersion.cmake"
+  DESTINATION "${FILARIX_INSTALL_CMAKEDIR}" COMPONENT development)
+
+# pkg-config filarixmodule
+set(pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+filarix_relative_path(FILARIX_PREFIX_FROM_PKGCONFIG "${pkgconfig_dir}" ".")
+filarix_relative_path(FILARIX_LIBDIR_FROM_PREFIX "." "${CMAKE_INSTALL_LIBDIR}")
+filarix_relative_path(FILARIX_HEADERDIR_FROM_PREFIX "." "${FILARIX_INSTALL_HEADERDIR}")
+configure_file(cmake/filarixmodule.pc.in filarixmodule.pc @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixmodule.pc"
+  DESTINATION "${pkgconfig_dir}" COMPONENT development)
+
+# CONFIG += filarixmodule
+filarix_relative_path(FILARIX_LIBDIR_FROM_FEATURES
+  "${FILARIX_QMAKE_FEATURES_DIR}" "${CMAKE_INSTALL_LIBDIR}")
+filarix_relative_path(FILARIX_HEADERDIR_FROM_FEATURES
+  "${FILARIX_QMAKE_FEATURES_DIR}" "${FILARIX_INSTALL_HEADERDIR}")
+configure_file(cmake/filarixmodule.prf.in filarixmodule.prf @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixmodule.prf"
+  DESTINATION "${FILARIX_QMAKE_FEATURES_DIR}" COMPONENT development)
+
+install(DIRECTORY "${FILARIX_HMIDEVICE_INCLUDE_DIR}/hmidevice"
+  DESTINATION "${FILARIX_INSTALL_HEADERDIR}" COMPONENT device-headers EXCLUDE_FROM_ALL
+  FILES_MATCHING PATTERN "*.h")
+if(TARGET HMIDevice)
+  install(TARGETS HMIDevice
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+      COMPONENT simulator NAMELINK_SKIP EXCLUDE_FROM_ALL)
+endif()
+if(TARGET filarix-panel)
+  filarix_relative_path(libdir_from_bindir "${CMAKE_INSTALL_BINDIR}" "${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(filarix-panel PROPERTIES INSTALL_RPATH "$ORIGIN/${libdir_from_bindir}")
+  install(TARGETS filarix-panel
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel EXCLUDE_FROM_ALL)
+endif()

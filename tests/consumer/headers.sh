@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# Compiles every installed header alone, twice in one file, with the switches of strict hosts. The
+# environment is set by CMakeLists.txt.
+set -euo pipefail
+
+cd "$WORK"
+rm -rf headers
+mkdir headers
+for header in moved/include/filarix/*.h; do
+    name=${header##*/}
+    printf '#include "%s"\n#include "%s"\n' "$name" "$name" >"headers/${name%.h}.cpp"
+done
+[ "$(find headers -name '*.cpp' | wc -l)" -gt 20 ] || {
+    echo "headers: hardly any" >&2
+    exit 1
+}
+
+qt_flags=$(pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem /g')
+# shellcheck disable=SC2086 # flags are words
+printf '%s\0' headers/*.cpp | xargs -0 -P 2 -n 1 -I{} \
+    $CCACHE "$CXX" -std=c++11 -fPIC -Wall -Wextra -Wpedantic -Woverloaded-virtual -Werror \
+    -DQT_NO_KEYWORDS -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII \
+    -Imoved/include/filarix $qt_flags -c {} -o {}.o
