@@ -64,11 +64,14 @@ desk_has_window_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# desk_place TEXT [WINDOW TITLE]: "x y" of the first enabled widget or item with this text.
+# desk_place TEXT [WINDOW TITLE [N]]: "x y" of the first, or Nth, enabled widget or item with this
+# text.
 desk_place() {
     [ -f "$desk_map" ] || return 1
-    awk -F '\t' -v text="$1" -v title="${2-}" '
-        $4 == text && $5 == 1 && (title == "" || index($1, title)) { print $6, $7; found = 1; exit }
+    awk -F '\t' -v text="$1" -v title="${2-}" -v nth="${3:-1}" '
+        $4 == text && $5 == 1 && (title == "" || index($1, title)) && --nth == 0 {
+            print $6, $7; found = 1; exit
+        }
         END { exit !found }' "$desk_map"
 }
 
@@ -84,7 +87,7 @@ desk_click_at() {
     xdotool mousemove "$1" "$2" click 1
 }
 
-# touch_text TEXT [WINDOW TITLE]: waits for the widget and clicks on its middle.
+# touch_text TEXT [WINDOW TITLE [N]]: waits for the widget and clicks on its middle.
 touch_text() {
     local place
     desk_until 20 desk_place "$@" >/dev/null || desk_fail "nothing reads \"$1\" ${2:+in \"$2\"}"
