@@ -16,13 +16,13 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QMap>
 #include <QPushButton>
 #include <QRegExpValidator>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTranslator>
 
 #include <random>
 
@@ -89,18 +89,6 @@ bool areNamable(const QStringList &keys)
     }
     return true;
 }
-
-class FrameTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QByteArray(context) == "ConnEditor"
-                   ? QLatin1Char('<') + QLatin1String(text) + QLatin1Char('>')
-                   : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace
 
@@ -287,18 +275,16 @@ void TestConnEditor::highButtonsAreAskedFor()
 
 void TestConnEditor::textsAreTranslatedInTheClassesContext()
 {
-    FrameTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    const TestCompat::MarkingTranslator translator("ConnEditor");
     Table table(nextPath());
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(table.dialog.windowTitle(), QString("<Connect Table>"));
-    QCOMPARE(table.ok->text(), QString("<OK>"));
-    QCOMPARE(table.cancel->text(), QString("<Cancel>"));
-    QCOMPARE(table.row(0)->getData(), QStringList() << "<Cid>"
-                                                    << "<Port>"
-                                                    << "<CPU Addr>"
-                                                    << "<Baud>"
-                                                    << "<IP>");
+    QCOMPARE(table.dialog.windowTitle(), QString("Connect Table*"));
+    QCOMPARE(table.ok->text(), QString("OK*"));
+    QCOMPARE(table.cancel->text(), QString("Cancel*"));
+    QCOMPARE(table.row(0)->getData(), QStringList() << "Cid*"
+                                                    << "Port*"
+                                                    << "CPU Addr*"
+                                                    << "Baud*"
+                                                    << "IP*");
 }
 
 void TestConnEditor::withoutInitListThereIsNoRow()

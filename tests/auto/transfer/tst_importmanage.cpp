@@ -1,12 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-// What a USB test found out is in a private member alone.
-#include <QDialog>
-#define private public
-#include "importmanage.h"
-#undef private
-
 #include "dialog.h"
 #include "hmidirmodel.h"
 #include "managerfixture.h"
@@ -15,7 +9,6 @@
 #include <QBoxLayout>
 #include <QSignalSpy>
 #include <QTimer>
-#include <QTranslator>
 
 namespace {
 
@@ -450,34 +443,16 @@ void TestImportManage::statusLine()
     QTEST(manager.status->text(), "text");
 }
 
-namespace {
-
-class FrameTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QByteArray(context) == "ImportManage"
-                   ? QLatin1Char('<') + QLatin1String(text) + QLatin1Char('>')
-                   : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
-} // namespace
-
 void TestImportManage::figuresUnitIsNotTranslated()
 {
-    FrameTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    const TestCompat::MarkingTranslator translator("ImportManage");
     Manager manager;
     const QString status = manager.status->text();
     QStringList buttons;
     Q_FOREACH (QPushButton *button, manager.dialog.findChildren<QPushButton *>())
         buttons << button->text();
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(status, QString("<Used Space >0M.<Left Space >30M.< Usb not found!>"));
-    QCOMPARE(buttons.join(" "), QString("<>>> <<<> <>Del> <Del<> <Quit>"));
+    QCOMPARE(status, QString("Used Space *0M.Left Space *30M. Usb not found!*"));
+    QCOMPARE(buttons.join(" "), QString(">>* <<* >Del* Del<* Quit*"));
 }
 
 void TestImportManage::admission_data()
