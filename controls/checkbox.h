@@ -20,12 +20,15 @@ class FILARIX_EXPORT CheckBox : public QCheckBox
     Q_OBJECT
 
 public:
+    /// Without a text. \a parent may be null.
     explicit CheckBox(QWidget *parent);
+    /// With \a text beside the box; a "&" in it marks the letter of the shortcut.
     CheckBox(const QString &text, QWidget *parent);
 
 protected:
     /// A held Return toggles once: its repeats are swallowed, here and on release.
     void keyPressEvent(QKeyEvent *event) override;
+    /// The release that toggles.
     void keyReleaseEvent(QKeyEvent *event) override;
 };
 

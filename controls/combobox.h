@@ -24,7 +24,9 @@ public:
     /// An \a editable combo box gets a LineEdit as its field; Return does not open its list.
     ComboBox(QWidget *parent, bool editable);
 
+    /// Opens the list and emits showPop().
     void showPopup() override;
+    /// Closes the list and takes the focus back.
     void hidePopup() override;
 
 Q_SIGNALS:
@@ -36,6 +38,7 @@ protected:
     /// press that closes an open list goes to the list, so the next press at the control only
     /// clears the flag and the one after it opens the list again.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Return and Enter as Space; other keys as they are.
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:

@@ -27,8 +27,10 @@ class FILARIX_EXPORT DoubleSpinBox : public QDoubleSpinBox
     Q_OBJECT
 
 public:
+    /// Range and decimals are QDoubleSpinBox's: 0 to 99.99. \a parent may be null.
     explicit DoubleSpinBox(QWidget *parent);
 
+    /// Steps, and reports a finished edit, even where the range left nothing to step.
     void stepBy(int steps) override;
 
 private:

@@ -20,7 +20,9 @@ class FILARIX_EXPORT GroupBox : public QGroupBox
     Q_OBJECT
 
 public:
+    /// Without a title. \a parent may be null.
     explicit GroupBox(QWidget *parent);
+    /// With \a title in its frame.
     GroupBox(const QString &title, QWidget *parent);
 
 protected:

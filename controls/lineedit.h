@@ -22,9 +22,11 @@ class FILARIX_EXPORT LineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// Empty. \a parent may be null.
     explicit LineEdit(QWidget *parent);
 
 protected:
+    /// The base class's, so far.
     void mousePressEvent(QMouseEvent *event) override;
 
 private:

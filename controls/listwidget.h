@@ -21,6 +21,7 @@ class QVBoxLayout;
 class FILARIX_EXPORT ListWidget : public QWidget
 {
 public:
+    /// Empty and of height 0. \a parent may be null.
     explicit ListWidget(QWidget *parent);
     ~ListWidget() override;
 

@@ -21,14 +21,19 @@ class FILARIX_EXPORT PushButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// Without a text. \a parent may be null.
     explicit PushButton(QWidget *parent);
+    /// With \a text; a "&" in it marks the letter of the shortcut.
     PushButton(const QString &text, QWidget *parent);
+    /// With \a icon before \a text.
     PushButton(const QIcon &icon, const QString &text, QWidget *parent);
 
 protected:
     /// A held Return clicks once: its repeats are swallowed, here and on release.
     void keyPressEvent(QKeyEvent *event) override;
+    /// The release that clicks.
     void keyReleaseEvent(QKeyEvent *event) override;
+    /// Paints by our initStyleOption(); the base class would take its own.
     void paintEvent(QPaintEvent *event) override;
 
     /// Hides the base class's: the same, with a focus frame whenever the button has the focus.

@@ -26,8 +26,10 @@ class FILARIX_EXPORT SpinBox : public QSpinBox
     Q_OBJECT
 
 public:
+    /// The range is QSpinBox's: 0 to 99. \a parent may be null.
     explicit SpinBox(QWidget *parent);
 
+    /// Steps, and reports a finished edit, even where the range left nothing to step.
     void stepBy(int steps) override;
 
 private:

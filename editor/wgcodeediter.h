@@ -38,6 +38,7 @@ class FILARIX_EXPORT WGCodeEditer : public QPlainTextEdit
     Q_OBJECT
 
 public:
+    /// Empty. \a parent may be null.
     explicit WGCodeEditer(QWidget *parent);
     ~WGCodeEditer() override;
 
@@ -62,8 +63,9 @@ public:
     /// Replaces the current line by \a text. On the last line a new empty line follows it, so that
     /// there is always one to go on with.
     void updateGCode(QString text);
-    /// Row and column of the cursor, both from 1; column 1 is before the first character.
+    /// The cursor's row, from 1.
     int getCurRowNumber() const;
+    /// The cursor's column, from 1: column 1 is before the first character.
     int getCurColNumber() const;
 
     /// Puts a program's text into the editor. From 500 lines on it goes in as 50 pieces without
@@ -91,8 +93,12 @@ public:
     void lineNumberAreaPaintEvent(QPaintEvent *event);
 
 public Q_SLOTS:
+    /// Makes room for the gutter; the editor's own connections see to it. \a newBlockCount is
+    /// ignored.
     void updateLineNumberAreaWidth(int newBlockCount);
+    /// Marks the cursor's line, in place of all other marks; in a read-only editor none.
     void highlightCurrentLine();
+    /// Scrolls the gutter by \a dy pixels, or draws it anew along \a rect of the viewport.
     void updateLineNumberArea(QRect rect, int dy);
     /// Jumps to the row \a lineNum, from 1, and shows it in red until the cursor moves. A row that
     /// does not exist leads to the first line.
@@ -104,9 +110,10 @@ public Q_SLOTS:
     void paste();
     /// Shows the find dialog, which is made at its first use and stays.
     void findAndReplace();
-    /// Selects the next or previous match, without wrapping around; a message tells when there is
+    /// Selects the next match of \a str, without wrapping around; a message tells when there is
     /// none.
     void findNext(const QString &str, Qt::CaseSensitivity cs);
+    /// The same towards the start of the program.
     void findPrevious(const QString &str, Qt::CaseSensitivity cs);
     /// Replaces the match of the search just done; without one it does nothing.
     void replaceTxt(const QString &str);
@@ -114,8 +121,11 @@ public Q_SLOTS:
 protected:
     using QPlainTextEdit::moveEvent;
 
+    /// Places the cursor and leaves the press to the parent: nothing is selected by dragging.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Leaves it to the parent: a double touch selects no word.
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    /// Keeps the gutter as high as the pane.
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -133,11 +143,14 @@ private:
 class WGLineNubmerArea : public QWidget
 {
 public:
+    /// The editor's constructor makes its own.
     explicit WGLineNubmerArea(WGCodeEditer *editor);
 
+    /// As wide as the numbers ask for; the height is the editor's to set.
     QSize sizeHint() const override;
 
 protected:
+    /// Has the editor draw it.
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -27,12 +27,16 @@ class FILARIX_EXPORT WHighlighter : public QSyntaxHighlighter
     Q_OBJECT
 
 public:
+    /// What is coloured, and how.
     struct WHighlightingRule
     {
+        /// Case-sensitive, and matched anywhere in a line: no word boundary is asked for.
         QRegExp pattern;
+        /// Sets the foreground only.
         QTextCharFormat format;
     };
 
+    /// Starts to colour \a parent, which owns the highlighter.
     explicit WHighlighter(QTextDocument *parent);
 
     /// The six rules, in their order.

@@ -29,46 +29,47 @@
 namespace FilarixRows {
 
 // Kinds, at position 0. A list holds "DataEditor" rows only, or none of them.
-const char jointMove[] = "MJ";
-const char linearMove[] = "ML";
-const char other[] = "Oth";   // also the mark in the row by which its widget knows it
-const char title[] = "Title"; // the same
-const char dataEditor[] = "DataEditor";
+const char jointMove[] = "MJ";  ///< The kind of an instruction row.
+const char linearMove[] = "ML"; ///< The same; nothing tells the two apart.
+const char other[] = "Oth";     ///< A kind, and the mark by which the row's widget knows it.
+const char title[] = "Title";   ///< The same.
+const char dataEditor[] = "DataEditor"; ///< The kind of a row of a list of tables.
 
 /// Where the strings of an instruction row stand, as the host gives and reads it. A key and its
 /// value are shown as one text, with a ":" between.
 enum Position {
-    Kind = 0,
-    Num = 1, // the row's index in the list, the title counted
-    Ins = 2, // no "("
-    JposKey = 3,
-    JposIndex = 4, // an integer, or empty
-    VKey = 5,
-    VIndex = 6, // an integer, or empty
-    ZKey = 7,
-    ZValue = 8,
-    TKey = 9,
-    TValue = 10,
-    Att = 11, // "Att"
-    Res = 12, // free text with "_" for each blank
-    FirstDetail = 13,
-    HostLength = 31
+    Kind = 0,         ///< "MJ" or "ML"
+    Num = 1,          ///< the row's index in the list, the title counted
+    Ins = 2,          ///< the instruction's name; no "("
+    JposKey = 3,      ///< the Jpos label
+    JposIndex = 4,    ///< an integer, or empty
+    VKey = 5,         ///< the V label
+    VIndex = 6,       ///< an integer, or empty
+    ZKey = 7,         ///< the Z field
+    ZValue = 8,       ///< a number
+    TKey = 9,         ///< the T field
+    TValue = 10,      ///< a number
+    Att = 11,         ///< "Att"
+    Res = 12,         ///< free text with "_" for each blank
+    FirstDetail = 13, ///< nine pairs from here on; see detailKey()
+    HostLength = 31   ///< how many strings a row has
 };
 
 /// What stands at Att.
 const char attLiteral[] = "Att";
 
 // The detail pairs, key then value: six of the Jpos group, then three of the V group.
-const int detailCount = 9;
-const int jposDetails = 6;
-const int vDetails = 3;
+const int detailCount = 9; ///< Detail pairs of a row.
+const int jposDetails = 6; ///< Of these, the first belong to the Jpos group,
+const int vDetails = 3;    ///< and the last to the V group.
 
-/// Position of the key and of the value of detail pair \a pair, 0 to 8.
+/// Position of the key of detail pair \a pair, 0 to 8.
 inline int detailKey(int pair)
 {
     return FirstDetail + 2 * pair;
 }
 
+/// Position of the value of detail pair \a pair, 0 to 8.
 inline int detailValue(int pair)
 {
     return detailKey(pair) + 1;
@@ -85,8 +86,10 @@ inline bool isInstruction(const QString &kind)
 class InstructionRow
 {
 public:
+    /// The kind of row: "MJ" or "ML".
     enum Motion { Joint, Linear };
 
+    /// \a ins is the instruction's name.
     explicit InstructionRow(Motion motion, const QString &ins)
     {
         m_row.reserve(HostLength);
@@ -107,10 +110,12 @@ public:
     {
         return setPair(VKey, key, QString::number(index));
     }
+    /// What the Z field shows.
     InstructionRow &setZ(const QString &key, const QString &value)
     {
         return setPair(ZKey, key, value);
     }
+    /// What the T field shows.
     InstructionRow &setT(const QString &key, const QString &value)
     {
         return setPair(TKey, key, value);
@@ -171,31 +176,34 @@ inline QStringList dataRow(int index, const QStringList &cells)
     return QStringList() << QLatin1String(dataEditor) << QString::number(index) << cells;
 }
 
+/// What can be wrong with a row.
 enum Fault {
-    UnknownKind,      // no widget is built for the row
-    MixedFamilies,    // tables among instructions, or the other way round
-    WrongLength,      // not 31 strings, or a table of another length than the list's first row
-    NumIsNotIndex,    // edits of the row would be stored in another one
-    ParenthesisInIns, // the name is cut there when the row is read back
-    ReservedIns,      // an instruction named "Oth" hides behind its table
-    ColonInField,     // read back, later strings move by one; a detail is cut by its next edit
-    IndexIsNoInteger, // reads as 0
-    AttMissing,       // comes back as "Att"
-    BlankInRes,       // comes back as "_"
-    MarkMissing,      // "Oth" or "Title" does not stand where the widget looks for it
-    SharedCell        // the first of two strings for one cell is not empty: they come back as one
+    UnknownKind,      ///< no widget is built for the row
+    MixedFamilies,    ///< tables among instructions, or the other way round
+    WrongLength,      ///< not 31 strings, or a table of another length than the list's first row
+    NumIsNotIndex,    ///< edits of the row would be stored in another one
+    ParenthesisInIns, ///< the name is cut there when the row is read back
+    ReservedIns,      ///< an instruction named "Oth" hides behind its table
+    ColonInField,     ///< read back, later strings move by one; a detail is cut by its next edit
+    IndexIsNoInteger, ///< reads as 0
+    AttMissing,       ///< comes back as "Att"
+    BlankInRes,       ///< comes back as "_"
+    MarkMissing,      ///< "Oth" or "Title" does not stand where the widget looks for it
+    SharedCell        ///< the first of two strings for one cell is not empty: they come back as one
 };
 
 /// What is wrong at one position of one row. \a row is its index, the title counted.
 struct Problem
 {
+    /// Takes the three as they are.
     Problem(int row, int position, Fault fault) : row(row), position(position), fault(fault) {}
 
-    int row;
-    int position;
-    Fault fault;
+    int row;      ///< The row's index.
+    int position; ///< Where in the row, as it counts there; the row's length where that is wrong.
+    Fault fault;  ///< What is wrong.
 };
 
+/// The same fault at the same place.
 inline bool operator==(const Problem &a, const Problem &b)
 {
     return a.row == b.row && a.position == b.position && a.fault == b.fault;

@@ -49,6 +49,7 @@ public:
     /// Opens a closed row and closes an open one. Emits nothing: whoever calls it lays the list
     /// out.
     void on_expand();
+    /// Whether the detail area is open.
     bool isExpanded() const;
 
     /// Writes a field by its class; no field emits a signal. Any other widget is left alone.
@@ -56,8 +57,9 @@ public:
     /// Reads a field by its class. Empty for any other widget.
     QString getText(QWidget *field);
 
-    /// The row's number, as text.
+    /// Sets the row's number, by which it reports itself.
     void setNum(const QString &text);
+    /// The row's number, as the text that it shows.
     QString getNum();
     /// The name of the instruction, without its arrow; all that precedes a "(".
     QString getIns();
@@ -81,8 +83,9 @@ public:
     /// when the row is opened, until the row is refilled.
     QStringList GetLineList();
 
-    /// What a list shows and hides by the kind of row; owned by the row, never null.
+    /// The line that a list shows or hides by the kind of row; owned by the row, never null.
     QWidget *firstLine() const;
+    /// The embedded table row; owned by the row, never null.
     DataEditor *dataEditor() const;
 
 Q_SIGNALS:
@@ -98,13 +101,22 @@ Q_SIGNALS:
     void sg_content_change(int);
 
 public Q_SLOTS:
+    /// A tap on the instruction: opens or closes the row, then emits sizeChanged() and clicked().
     void on_press_down();
+    /// A tap on the arrow of an open row: the same.
     void on_press_up();
+    /// A tap on the Jpos label: emits sg_jpos_update().
     void on_jpos_update();
+    /// A tap on the V label: emits sg_v_update().
     void on_v_update();
+    /// A tap on the Z field: emits clicked(), unless the embedded editor shows, which reports its
+    /// own taps.
     void on_z_update();
+    /// The same for the T field.
     void on_t_update();
+    /// The same for the free text.
     void on_res_update();
+    /// The same for a detail field.
     void on_lineEdit_clicked();
     /// A detail value was edited: the Jpos index is emptied, as the row no longer stands for that
     /// entry of the host's table.
@@ -115,6 +127,7 @@ public Q_SLOTS:
     void on_vars1_change(const QString &);
 
 protected:
+    /// A tap beside the fields: emits clicked(), unless the embedded editor shows.
     void mousePressEvent(QMouseEvent *event) override;
 
 private:

@@ -70,14 +70,19 @@ public:
     /// \a n rows a page, the title not counted. 0 or less shows no row.
     void setTotalLine(int n);
 
-    /// The paging commands close the open rows that they come to, and leave the current row as it
-    /// is, on the page or not. At the end of the rows, or in a list shorter than a page, they do
-    /// nothing; none goes round.
+    /// A page up. Like all paging commands it closes the open rows that it comes to, and leaves the
+    /// current row as it is, on the page or not. At the end of the rows, or in a list shorter than
+    /// a page, they do nothing; none goes round.
     void prevPage();
+    /// A page down; the last page may be a short one.
     void nextPage();
+    /// A row up.
     void prevLine();
+    /// A row down.
     void nextLine();
+    /// To the first row.
     void home();
+    /// To the last full page.
     void end();
 
     /// The current row, on the page or not; never the title.
@@ -90,13 +95,16 @@ public:
     int getLastIndex() const;
     /// From now on each current row stretches the selection from the one that is current now.
     void setMultiSelect();
+    /// Ends a multiple selection: the current row alone is selected.
     void clearMultiSelect();
+    /// Whether a multiple selection is on.
     bool isMultiSelect() const;
     /// Shows row \a i, if it is on the page, as not selected (\a plain) or as selected.
     void deselect(int i, bool plain);
 
     /// A number that the host parks here, 0 at first; the list makes no use of it.
     int getExtraIndex() const;
+    /// Parks a number; see getExtraIndex().
     void setExtraIndex(int index);
 
     /// Appends a copy of \a row, ends a multiple selection, and makes the last page the page; with
@@ -127,12 +135,13 @@ public:
     /// it at its next refill only.
     void setIndex(int i, QString n);
 
-    /// The three V values and the six Jpos values of an instruction row; empty for another kind.
+    /// The three V values of an instruction row; empty for another kind.
     QStringList getV(int i) const;
+    /// The six Jpos values of an instruction row; empty for another kind.
     QStringList getJpos(int i) const;
-    /// The V index and the Jpos index of an instruction row, 0 where that is no number; -1 for
-    /// another kind.
+    /// The V index of an instruction row, 0 where that is no number; -1 for another kind.
     int getVIndex(int i) const;
+    /// The same for the Jpos index.
     int getJposIndex(int i) const;
     /// Writes the V values of an instruction row, and the V index if \a l holds a fourth string.
     /// Fewer than three strings, or another kind of row, change nothing. The widget in slot 0 of a
@@ -145,21 +154,27 @@ public:
 Q_SIGNALS:
     /// The operator touched this row, which is now the current row.
     void clicked(int);
-    /// The operator touched the Jpos or V label of this row, which is now the current row.
+    /// The operator touched the Jpos label of this row, which is now the current row.
     void sg_jpos_update(int);
+    /// The operator touched the V label of this row, which is now the current row.
     void sg_v_update(int);
     /// The progress of clear() in percent; the last one is 100.
     void sg_item_deleted(int value);
 
 public Q_SLOTS:
+    /// A row widget reports its Jpos label: makes the row current and passes it on.
     void on_jpos_update(int);
+    /// A row widget reports its V label: the same.
     void on_v_update(int);
+    /// A row was opened or closed: lays the page out anew. \a expand is ignored.
     void on_line_changed(bool expand);
+    /// A row widget was touched: makes row \a index current and emits clicked().
     void on_line_clicked(int index);
     /// Takes a changed row from its widget, the sender.
     void on_content_change(int);
 
 protected:
+    /// Does nothing with a touch beside the rows: it neither selects nor goes on.
     void mousePressEvent(QMouseEvent *event) override;
 
 private:

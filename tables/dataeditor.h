@@ -55,6 +55,7 @@ public:
     /// Reads a cell of this row. Empty for null and for an area.
     QString getText(QWidget *cell);
 
+    /// Whether the row was made as a title.
     bool isTitle() const;
 
 Q_SIGNALS:
@@ -64,11 +65,13 @@ Q_SIGNALS:
     void sg_content_change(int);
 
 public Q_SLOTS:
+    /// A cell was tapped: emits clicked().
     void on_editfinished();
     /// The argument is ignored: what the keypad wrote into the cell stays.
     void on_content_change(const QString &);
 
 protected:
+    /// A tap beside the cells: emits clicked().
     void mousePressEvent(QMouseEvent *event) override;
 
 private:

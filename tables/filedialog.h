@@ -41,6 +41,7 @@ public:
     /// same: a caller picks the one whose name says what is meant.
     static QString getOpenFileName(QWidget *parent, const QString &title, const QString &path,
                                    QDir::Filters filter);
+    /// The same as getOpenFileName().
     static QString getExistingDirectory(QWidget *parent, const QString &title, const QString &path,
                                         QDir::Filters filter);
 
@@ -52,11 +53,16 @@ public:
     static QString m_returnStr;
 
 public Q_SLOTS:
+    /// "<<": cuts the path at its last "/", and so first drops the "/" that ">>" put there.
+    /// Stays at "/mnt/Storage" and at "/".
     void on_cdUp_click();
+    /// ">>": opens the current path, if it is a directory.
     void on_cdDown_click();
     /// Takes the line that was touched, the sender.
     void on_line_click();
+    /// Rejects the dialog.
     void on_cancel_click();
+    /// Accepts the dialog.
     void on_ok_click();
 
 private:

@@ -26,6 +26,7 @@ public:
 
     /// The title is the window title: each of the two reads what the other wrote.
     void setTitle(const QString &title);
+    /// The window title.
     QString getTitle() const;
 
 protected:

@@ -68,10 +68,14 @@ public:
     int deleteFile(const QString &dir, const QString &name);
 
 public Q_SLOTS:
-    /// The four transfers of the current file. Each reports a failure in a box and ends in init().
+    /// ">>": the panel's current file to the stick, over one of the same name after a question.
+    /// Like the other three it reports a failure in a box and ends in init().
     void slot_copyFromHmiToUsb();
+    /// "<<": the stick's current file to the panel, if isSatisfyTheCondition() lets it.
     void slot_copyFromUsbToHmi();
+    /// ">Del": deletes the panel's current file, unless the answer is No.
     void slot_deleteFromHmi();
+    /// "Del<": the same with the stick's.
     void slot_deleteFromUsb();
     /// Rejects the dialog.
     void slot_quit();

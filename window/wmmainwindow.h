@@ -36,6 +36,7 @@ class WGCodeEditer;
 class FILARIX_EXPORT WMMainWindow : public QSplitter
 {
     Q_OBJECT
+    /// Where the on-screen keypad leaves its answer.
     Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
@@ -48,6 +49,7 @@ public:
     /// none. This is what signal_download() carries.
     QString getCurrentFile() const;
 
+    /// What setDownloading() was last told; false at first.
     bool isDownloading() const;
     /// Tells the window that the host's transfer runs (true) or has ended (false). The D/L button
     /// is greyed meanwhile, and download() sends nothing.
@@ -55,6 +57,7 @@ public:
 
     /// The property through which the keypad returns its text; it has no other effect.
     QString text() const;
+    /// Writes the property; see text().
     void setText(const QString &text);
 
     /// Inserts \a line below the cursor, or into the cursor's line if that is empty.
@@ -74,8 +77,9 @@ Q_SIGNALS:
     void signal_download(QString path);
     /// The operator wants a line made from the taught point.
     void signal_copyFromTag();
-    /// Declared for hosts; nothing here emits them.
+    /// Declared for hosts; nothing here emits it.
     void signal_softEditGCode(QString line);
+    /// Declared for hosts; nothing here emits it.
     void gDataIsCorrect();
 
 private Q_SLOTS:
