@@ -13,6 +13,7 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegExp>
 
 namespace {
 
@@ -91,6 +92,12 @@ bool ImportGuard::settle()
     return unsafeFiles().isEmpty();
 }
 
+// The path of the program directory becomes part of the command lines as it is, too.
+bool ImportGuard::isProgramDirSafe() const
+{
+    return QRegExp(QLatin1String("[A-Za-z0-9_./+-]+")).exactMatch(m_programDir);
+}
+
 bool ImportGuard::eventFilter(QObject *watched, QEvent *event)
 {
     if (!isPress(event->type()))
@@ -99,6 +106,13 @@ bool ImportGuard::eventFilter(QObject *watched, QEvent *event)
     ImportManage *manager = button ? qobject_cast<ImportManage *>(button->window()) : nullptr;
     if (!manager || button->text() == ImportManage::tr("Quit"))
         return false;
+    if (!isProgramDirSafe()) {
+        Q_EMIT told(tr("No transfer: the path %1 holds characters that the transfer would not take "
+                       "for what they are.")
+                        .arg(m_programDir),
+                    false);
+        return true;
+    }
     if (!unsafeFiles().isEmpty()) {
         settle();
         manager->init();

@@ -36,6 +36,7 @@ Q_SIGNALS:
     void told(const QString &text, bool isSettled);
 
 private:
+    bool isProgramDirSafe() const;
     bool choosesUnsafeName(const ImportManage *manager) const;
     int renameAll(const QStringList &files);
 

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void keysPressedByAKeyboardAreGuardedToo();
     void quitIsNeverHeldBack();
     void renamingThatFailsIsTold();
+    void programDirectoryWithABlankIsRefused();
 
 private:
     static QPushButton *button(ImportManage *manager, const QString &text);
@@ -200,6 +201,21 @@ void TestImportGuard::quitIsNeverHeldBack()
     manager.show();
     QTest::mouseClick(button(&manager, "Quit"), Qt::LeftButton);
     QVERIFY(!manager.isVisible());
+}
+
+void TestImportGuard::programDirectoryWithABlankIsRefused()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile("/mnt/Storage/coil.cnc", "G01\n");
+    ImportGuard guard(home() + "/a b/cnc", "/mnt/Storage");
+    QSignalSpy told(&guard, SIGNAL(told(QString, bool)));
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnStick(&manager, "coil.cnc");
+    QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QCOMPARE(told.size(), 1);
+    QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
 }
 
 void TestImportGuard::renamingThatFailsIsTold()
