@@ -16,6 +16,7 @@
 #include "samples.h"
 #include "stick.h"
 #include "teachscreen.h"
+#include "terminationsignals.h"
 #include "tour.h"
 #include "variablesscreen.h"
 #include "wmmainwindow.h"
@@ -24,7 +25,6 @@
 #include <QDir>
 #include <QScreen>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -110,6 +110,10 @@ int runPanel(const Options &options)
     QObject::connect(files, &FilesScreen::importWanted, programs->programWindow(), [programs] {
         QMetaObject::invokeMethod(programs->programWindow(), "importExport");
     });
+    // Not by the last window: the find dialog may be open, and it has no parent.
+    QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
+    TerminationSignals signals;
+    QObject::connect(&signals, &TerminationSignals::received, qApp, &QApplication::quit);
     panel.show();
 
     if (options.tourDir.isEmpty())

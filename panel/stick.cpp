@@ -8,9 +8,16 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <csignal>
+
 #include <sys/stat.h>
+#include <sys/types.h>
+#include <unistd.h>
 
 namespace {
+
+const QByteArray kMarkerText = "filarix-panel ";
 
 QString tr(const char *text)
 {
@@ -54,6 +61,8 @@ bool Stick::plug(QString *error)
         m_madeMarker = true;
         return true;
     }
+    if (isMarkerAbandoned())
+        QFile::remove(marker());
     if (QFileInfo(marker()).exists()) {
         *error = tr("Another stick is plugged: %1 is there already.").arg(marker());
         return false;
@@ -66,7 +75,8 @@ bool Stick::plug(QString *error)
         return false;
     // Never through a link that somebody else has laid in a folder open to all.
     QFile file(marker());
-    m_madeMarker = file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    m_madeMarker = file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
+                   && file.write(kMarkerText + QByteArray::number(qint64(getpid()))) > 0;
     if (!m_madeMarker) {
         *error = tr("The marker %1 cannot be made: %2.").arg(marker(), file.errorString());
         pull();
@@ -92,6 +102,17 @@ bool Stick::isBound() const
     return lstat(QFile::encodeName(mountPoint()).constData(), &point) == 0
            && stat(QFile::encodeName(m_folder).constData(), &folder) == 0
            && point.st_dev == folder.st_dev && point.st_ino == folder.st_ino;
+}
+
+// The marker of a program like this one that was killed. Nobody else writes such a text.
+bool Stick::isMarkerAbandoned()
+{
+    QFile file(marker());
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray text = file.read(64);
+    const int process = text.startsWith(kMarkerText) ? text.mid(kMarkerText.size()).toInt() : 0;
+    return process > 0 && kill(process, 0) != 0 && errno == ESRCH;
 }
 
 bool Stick::isLinked() const

@@ -40,6 +40,7 @@ private:
     Q_DISABLE_COPY(Stick)
 
     bool isBound() const;
+    static bool isMarkerAbandoned();
     bool isLinked() const;
     bool link(QString *error);
 

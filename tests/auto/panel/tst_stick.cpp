@@ -23,6 +23,8 @@ private Q_SLOTS:
     void markerOfAnotherStickIsRespected();
     void markerIsNotWrittenThroughALink();
     void leftoverOfAKilledProgramIsTakenOver();
+    void markerOfAKilledProgramIsReplaced();
+    void markerOfARunningProgramIsRespected();
     void folderThatCannotBeMade();
     void ownStickOfThePanelIsOnlyWatched();
 
@@ -158,6 +160,27 @@ void TestStick::leftoverOfAKilledProgramIsTakenOver()
     stick.pull();
     QVERIFY(!QFileInfo("/mnt/Storage").exists());
     QVERIFY(!QFileInfo("/tmp/udiskattach").exists());
+}
+
+void TestStick::markerOfAKilledProgramIsReplaced()
+{
+    // No process has this number: it is above what the system gives.
+    writeFile("/tmp/udiskattach", "filarix-panel 2000000000");
+    Stick stick(m_folder);
+    QString error;
+    QVERIFY2(stick.plug(&error), qPrintable(error));
+    QCOMPARE(readFile("/tmp/udiskattach"),
+             "filarix-panel " + QByteArray::number(QCoreApplication::applicationPid()));
+}
+
+void TestStick::markerOfARunningProgramIsRespected()
+{
+    writeFile("/tmp/udiskattach",
+              "filarix-panel " + QByteArray::number(QCoreApplication::applicationPid()));
+    Stick stick(m_folder);
+    QString error;
+    QVERIFY(!stick.plug(&error));
+    QVERIFY(QFileInfo("/tmp/udiskattach").exists());
 }
 
 void TestStick::folderThatCannotBeMade()

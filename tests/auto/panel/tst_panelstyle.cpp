@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "combolineedit.h"
+#include "filarixtest.h"
+#include "panelstyle.h"
+#include "wfinddialog.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+class TestPanelStyle : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void buttonsOfMessageBoxesAreLargeEnough();
+    void findDialogIsLargeEnough();
+    void fixedSizesOfTheLibraryStay();
+    void cellsTakeTheHeightOfTheirRow();
+};
+
+void TestPanelStyle::initTestCase()
+{
+    QApplication::setStyle(new PanelStyle);
+}
+
+void TestPanelStyle::buttonsOfMessageBoxesAreLargeEnough()
+{
+    QMessageBox box(QMessageBox::Warning, "Title", "Text", QMessageBox::Yes | QMessageBox::No);
+    box.show();
+    const QList<QAbstractButton *> buttons = box.buttons();
+    QCOMPARE(buttons.size(), 2);
+    for (QAbstractButton *button : buttons)
+        QVERIFY(button->height() >= 40 && button->width() >= 40);
+}
+
+void TestPanelStyle::findDialogIsLargeEnough()
+{
+    WFindDialog dialog(nullptr);
+    dialog.show();
+    const QWidgetList all = dialog.findChildren<QWidget *>();
+    int touched = 0;
+    for (QWidget *widget : all) {
+        if (!qobject_cast<QPushButton *>(widget) && !qobject_cast<QLineEdit *>(widget)
+            && !qobject_cast<QCheckBox *>(widget))
+            continue;
+        ++touched;
+        QVERIFY2(widget->height() >= 34, widget->metaObject()->className());
+    }
+    QCOMPARE(touched, 7);
+}
+
+void TestPanelStyle::fixedSizesOfTheLibraryStay()
+{
+    QPushButton button("OK");
+    button.setFixedSize(30, 20);
+    button.show();
+    QCOMPARE(button.size(), QSize(30, 20));
+}
+
+void TestPanelStyle::cellsTakeTheHeightOfTheirRow()
+{
+    QLineEdit field;
+    ComboLineEdit cell(nullptr);
+    QVERIFY(field.sizeHint().height() >= 40);
+    QVERIFY(cell.sizeHint().height() < 34);
+}
+
+FILARIX_TEST_MAIN(TestPanelStyle)
+#include "tst_panelstyle.moc"
