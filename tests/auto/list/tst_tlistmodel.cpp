@@ -107,7 +107,12 @@ private:
     QStringList group(int least);
     KeypadAnswer anyAnswer(bool numeric);
     int anyShownSlot(bool line);
-    void note(const QString &operation) { m_done << operation; }
+    void note(const QString &operation)
+    {
+        m_done << operation;
+        ++m_operations;
+    }
+    const Choice &choose();
 
     void append();
     void insert();
@@ -148,8 +153,9 @@ private:
     TListWidget m_list;
     ListModel m_model;
     Recorder m_recorder;
-    QString m_trouble; // found by an operation itself
-    QStringList m_done;
+    QString m_trouble;  // found by an operation itself
+    QStringList m_done; // the last ones
+    int m_operations;
 };
 
 Walk::Walk(unsigned seed, Rows rows, bool titled, bool shown)
@@ -161,6 +167,7 @@ Walk::Walk(unsigned seed, Rows rows, bool titled, bool shown)
     , m_list(m_titleForList, nullptr)
     , m_model(&m_titleForModel, m_screen)
     , m_recorder(&m_list)
+    , m_operations(0)
 {
     if (shown) {
         m_list.show();
@@ -584,7 +591,7 @@ void Walk::editTable()
     tap(tableCell(editor, cell));
 }
 
-QString Walk::step()
+const Walk::Choice &Walk::choose()
 {
     static const Choice choices[] = {
         {40, &Walk::append},
@@ -617,9 +624,17 @@ QString Walk::step()
     const Choice *chosen = choices;
     while (left >= chosen->weight)
         left -= (chosen++)->weight;
+    return *chosen;
+}
+
+QString Walk::step()
+{
     while (m_done.size() > 12)
         m_done.removeFirst();
-    (this->*chosen->operation)();
+    // An operation that finds nothing to work on is no step.
+    const int before = m_operations;
+    while (m_operations == before)
+        (this->*choose().operation)();
     const QString difference = compare();
     return difference.isEmpty() ? difference : m_done.join("\n") + "\n=> " + difference;
 }
