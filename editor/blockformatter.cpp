@@ -114,8 +114,19 @@ BlockFormatter *BlockFormatter::of(WHighlighter *highlighter)
     return highlighter->findChild<BlockFormatter *>();
 }
 
+/// False once a host has taken the highlighter off, or put it on another document, where the
+/// toolkit reacts by itself.
+bool BlockFormatter::isHighlighted() const
+{
+    return m_highlighter->document() == m_document;
+}
+
 void BlockFormatter::formatAll()
 {
+    if (!isHighlighted()) {
+        m_highlighter->rehighlight();
+        return;
+    }
     QTextCursor cursor(m_document);
     cursor.beginEditBlock();
     formatBlocks(m_document->begin(), m_document->lastBlock());
@@ -135,6 +146,8 @@ void BlockFormatter::stopExpecting()
 
 void BlockFormatter::formatChange(int from, int removed, int added)
 {
+    if (!isHighlighted())
+        return;
     // What was removed may have joined the last block with the one behind it.
     const QTextBlock last = m_document->findBlock(from + added + (removed > 0 ? 1 : 0));
     formatBlocks(m_document->findBlock(from), last.isValid() ? last : m_document->lastBlock());

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void formatChange(int from, int removed, int added);
 
 private:
+    bool isHighlighted() const;
     void formatBlocks(const QTextBlock &first, const QTextBlock &last);
     void findRanges(const QChar *text, int size);
     bool setRanges(const QTextBlock &block);

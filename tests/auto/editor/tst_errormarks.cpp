@@ -22,6 +22,7 @@ private Q_SLOTS:
     void withAMarkTheDocumentIsColouredAnew();
     void theMarkedLineShowsItsSyntaxColoursOnly();
     void marksStayWhateverHappensToTheText();
+    void aHighlighterTakenOffColoursNothing();
 };
 
 namespace {
@@ -161,6 +162,26 @@ void TestErrorMarks::marksStayWhateverHappensToTheText()
     editor.readGCode(QLatin1String("M30"));
     QCOMPARE(marks(editor).keys(), QList<int>() << 2);
     QCOMPARE(marks(editor).value(2), QList<int>() << 0);
+}
+
+void TestErrorMarks::aHighlighterTakenOffColoursNothing()
+{
+    WGCodeEditer editor(nullptr);
+    QCoreApplication::processEvents();
+    WHighlighter *highlighter = highlighterOf(editor);
+    editor.setPlainText(QLatin1String("G01 X1"));
+    QCOMPARE(formats(editor, 0).size(), 2);
+    highlighter->setDocument(nullptr);
+    editor.setPlainText(QLatin1String("G01 X1\nG02"));
+    editor.addErrorCode(1, QLatin1String("^"));
+    editor.highlightErrorCode();
+    QCOMPARE(formats(editor, 0).size(), 0);
+    QCOMPARE(formats(editor, 1).size(), 0);
+
+    highlighter->setDocument(editor.document());
+    QTRY_COMPARE(formats(editor, 1).size(), 1);
+    editor.setPlainText(QLatin1String("G01 X1"));
+    QCOMPARE(formats(editor, 0).size(), 2);
 }
 
 FILARIX_TEST_MAIN(TestErrorMarks)
