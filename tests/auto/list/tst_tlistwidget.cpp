@@ -9,6 +9,7 @@
 #include "tlistwidget.h"
 
 #include <QDesktopWidget>
+#include <QMetaMethod>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -168,6 +169,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void argumentsHaveTheirNames_data();
+    void argumentsHaveTheirNames();
     void startsWithAFullPageOfTheScreen();
     void titleRowIsStoredWithoutItsKind();
     void emptyTitleListMakesNoTitle();
@@ -283,6 +286,22 @@ void TestTListWidget::cleanup()
 {
     QCOMPARE(DeviceLog::answersLeft(), 0);
     FilarixTest::cleanup();
+}
+
+void TestTListWidget::argumentsHaveTheirNames_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("sg_item_deleted(int)") << QByteArray("value");
+    QTest::newRow("on_line_changed(bool)") << QByteArray("expand");
+    QTest::newRow("on_line_clicked(int)") << QByteArray("index");
+}
+
+void TestTListWidget::argumentsHaveTheirNames()
+{
+    QFETCH(QByteArray, name);
+    const QMetaObject &meta = TListWidget::staticMetaObject;
+    const QMetaMethod method = meta.method(meta.indexOfMethod(QTest::currentDataTag()));
+    QCOMPARE(method.parameterNames(), QList<QByteArray>() << name);
 }
 
 // Building
