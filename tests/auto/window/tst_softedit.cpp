@@ -3,6 +3,8 @@
 
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "modaldriver.h"
+#include "strictmessages.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -10,8 +12,8 @@
 #include <QTextDocument>
 #include <QToolButton>
 
-/// The Edit button with the G-code keypad behind it, and the two operations by which a host writes
-/// lines.
+/// The Edit button with the G-code keypad behind it, the transfer manager behind I/E, and the two
+/// operations by which a host writes lines.
 class TestSoftEdit : public FilarixTest
 {
     Q_OBJECT
@@ -30,6 +32,8 @@ private Q_SLOTS:
     void theResultIsNotClearedBeforehand();
     void eachUseSetsTheKeypadUpInFull();
     void theTextIsARealProperty();
+    void theTransferManagerTellsTheWindowNothing_data();
+    void theTransferManagerTellsTheWindowNothing();
     void hostReplacesTheCurrentLine();
     void hostInsertsALine();
 };
@@ -216,6 +220,39 @@ void TestSoftEdit::theTextIsARealProperty()
     QVERIFY(window.metaObject()->indexOfProperty("text") >= 0);
     QVERIFY(window.setProperty("text", QString::fromLatin1("G01")));
     QCOMPARE(window.text(), QString::fromLatin1("G01"));
+}
+
+void TestSoftEdit::theTransferManagerTellsTheWindowNothing_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::newRow("closed") << int(QDialog::Rejected);
+    QTest::newRow("accepted") << int(QDialog::Accepted);
+}
+
+void TestSoftEdit::theTransferManagerTellsTheWindowNothing()
+{
+    QFETCH(int, result);
+    Desk desk;
+    desk.window.setCurrentFile(QLatin1String("/programs/a.cnc"));
+    desk.editor->document()->setModified(true);
+    QString opened;
+    // Of unsaved changes nobody is asked: the manager is the only dialog.
+    ModalDriver person;
+    person.then([result, &opened](QWidget *widget) {
+        opened = QLatin1String(widget->metaObject()->className());
+        opened += QLatin1String(widget->parent() ? " with a parent" : " without a parent");
+        qobject_cast<QDialog *>(widget)->done(result);
+    });
+    // Its own words about a connection that it leaves open.
+    StrictMessages::expect(QLatin1String("ImportManage::slot_checkUSB"));
+    bool returned = true;
+    QVERIFY(QMetaObject::invokeMethod(&desk.window, "importExport", Q_RETURN_ARG(bool, returned)));
+    QVERIFY2(person.finished(), person.report());
+    QCOMPARE(opened, QString::fromLatin1("ImportManage without a parent"));
+    QVERIFY(!returned);
+    QCOMPARE(desk.text(), QString::fromLatin1(program));
+    QVERIFY(desk.modified());
+    QCOMPARE(desk.window.m_curFile, QString::fromLatin1("/programs/a.cnc"));
 }
 
 void TestSoftEdit::hostReplacesTheCurrentLine()
