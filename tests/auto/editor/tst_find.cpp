@@ -3,6 +3,7 @@
 
 #include "filarixtest.h"
 #include "lineedit.h"
+#include "marktranslator.h"
 #include "modaldriver.h"
 #include "wfinddialog.h"
 #include "wgcodeediter.h"
@@ -28,6 +29,8 @@ private Q_SLOTS:
     void matchCaseWorksInBothDirections();
     void theEndTellsAndDoesNotWrapAround();
     void theStartTellsInTheSameWords();
+    void theWordsAreNotTranslated_data();
+    void theWordsAreNotTranslated();
     void replaceBeforeAnySearchDoesNothing();
     void replaceAfterAHitReplacesOnceAndDoesNotSearchOn();
     void anEmptyReplacementDeletesTheMatch();
@@ -231,6 +234,33 @@ void TestFind::theStartTellsInTheSameWords()
     QCOMPARE(int(box.buttons), int(QMessageBox::Ok));
     QCOMPARE(box.parent, static_cast<QWidget *>(desk.dialog));
     QCOMPARE(desk.editor.textCursor().position(), 5);
+}
+
+void TestFind::theWordsAreNotTranslated_data()
+{
+    QTest::addColumn<bool>("backward");
+    QTest::newRow("forward") << false;
+    QTest::newRow("backward") << true;
+}
+
+void TestFind::theWordsAreNotTranslated()
+{
+    QFETCH(bool, backward);
+    const MarkTranslator translator(QLatin1String("#"));
+    // A host's own search, with no dialog made yet.
+    WGCodeEditer editor(nullptr);
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    if (backward)
+        editor.findPrevious(QLatin1String("X"), Qt::CaseInsensitive);
+    else
+        editor.findNext(QLatin1String("X"), Qt::CaseInsensitive);
+    QVERIFY2(driver.finished(), driver.report());
+    const ModalDriver::Box box = driver.boxes().first();
+    QCOMPARE(box.title, QString::fromLatin1("Find"));
+    QCOMPARE(box.text, QString::fromLatin1("Find finished!\n Can't find any information!"));
+    QVERIFY(!box.parent);
+    QVERIFY(!Desk::theDialog());
 }
 
 void TestFind::replaceBeforeAnySearchDoesNothing()

@@ -3,6 +3,7 @@
 
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "marktranslator.h"
 #include "wcopydialog.h"
 
 #include <QBoxLayout>
@@ -22,6 +23,7 @@ class TestWCopyDialog : public FilarixTest
 private Q_SLOTS:
     void init();
     void threeRows();
+    void wordsAreTranslatedAndSignsAreNot();
     void returnIsTheAnswer();
     void showsTheCurrentLine();
     void aRangeStartsTheCountAtOne();
@@ -128,6 +130,22 @@ void TestWCopyDialog::threeRows()
     QCOMPARE(row[2]->stretch(0), 1);
     QCOMPARE(row[2]->itemAt(1)->widget(), static_cast<QWidget *>(button(dialog, "OK")));
     QCOMPARE(row[2]->itemAt(2)->widget(), static_cast<QWidget *>(button(dialog, "Cancel")));
+}
+
+void TestWCopyDialog::wordsAreTranslatedAndSignsAreNot()
+{
+    const MarkTranslator translator(QLatin1String("#"));
+    const WCopyDialog dialog(nullptr);
+    QCOMPARE(dialog.getTitle(), QString::fromLatin1("#Copy"));
+    QStringList labels;
+    Q_FOREACH (const QLabel *label, dialog.findChildren<QLabel *>())
+        labels << label->text();
+    QVERIFY(labels.contains(QLatin1String("#Current line:")));
+    QVERIFY(labels.contains(QLatin1String("#Copy count:")));
+    QVERIFY(button(dialog, "#OK"));
+    QVERIFY(button(dialog, "#Cancel"));
+    QVERIFY(button(dialog, "-"));
+    QVERIFY(button(dialog, "+"));
 }
 
 void TestWCopyDialog::returnIsTheAnswer()

@@ -3,11 +3,13 @@
 
 #include "filarixtest.h"
 #include "lineedit.h"
+#include "marktranslator.h"
 #include "wfinddialog.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -20,6 +22,9 @@ class TestWFindDialog : public FilarixTest
 private Q_SLOTS:
     void initTestCase();
     void textsAndTitle();
+    void everyTextIsTranslated();
+    void argumentsHaveTheirNames_data();
+    void argumentsHaveTheirNames();
     void labelsLeadToTheirFields();
     void twoColumns();
     void replaceIsTheDefaultButton();
@@ -88,6 +93,41 @@ void TestWFindDialog::textsAndTitle()
     QCOMPARE(it.replacement->text(), QString());
     QVERIFY(!it.matchCase->isChecked());
     QVERIFY(!it.backward->isChecked());
+}
+
+void TestWFindDialog::everyTextIsTranslated()
+{
+    MarkTranslator translator(QLatin1String("#"));
+    const WFindDialog dialog(nullptr);
+    QCOMPARE(dialog.windowTitle(), QString::fromLatin1("#Find"));
+    QVERIFY(byText<QLabel>(dialog, "#Find &what:"));
+    QVERIFY(byText<QLabel>(dialog, "#Replace &what:"));
+    QVERIFY(byText<QCheckBox>(dialog, "#Match &case"));
+    QVERIFY(byText<QCheckBox>(dialog, "#Search &backward"));
+    QVERIFY(byText<QPushButton>(dialog, "#&Find"));
+    QVERIFY(byText<QPushButton>(dialog, "#&Replace"));
+    QVERIFY(byText<QPushButton>(dialog, "#Close"));
+    QCOMPARE(translator.asked("WFindDialog").size(), 8);
+}
+
+void TestWFindDialog::argumentsHaveTheirNames_data()
+{
+    QTest::addColumn<QString>("names");
+    QTest::newRow("findNext(QString,Qt::CaseSensitivity)") << "str cs";
+    QTest::newRow("findPrevious(QString,Qt::CaseSensitivity)") << "str cs";
+    QTest::newRow("replaceTxt(QString)") << "str";
+    QTest::newRow("enableFindButton(QString)") << "text";
+}
+
+void TestWFindDialog::argumentsHaveTheirNames()
+{
+    QFETCH(QString, names);
+    const QMetaObject &meta = WFindDialog::staticMetaObject;
+    QStringList found;
+    Q_FOREACH (const QByteArray &name,
+               meta.method(meta.indexOfMethod(QTest::currentDataTag())).parameterNames())
+        found << QString::fromLatin1(name);
+    QCOMPARE(found.join(QLatin1String(" ")), names);
 }
 
 void TestWFindDialog::labelsLeadToTheirFields()
