@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QScreen>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstring>
@@ -51,6 +52,15 @@ int answer(const Options &options)
     if (refused)
         std::fputc('\n', stderr);
     return refused ? 2 : 0;
+}
+
+/// The import manager's commands run in the shell, and a file name can reach what is at hand there:
+/// so there is little. \a emptyFolder becomes the working directory.
+void limitShell(const QString &emptyFolder)
+{
+    QFile::setPermissions(emptyFolder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    QDir::setCurrent(emptyFolder);
+    qputenv("PATH", "/usr/bin:/bin");
 }
 
 void setUpLook()
@@ -85,6 +95,9 @@ int runPanel(const Options &options)
     // A folder that cannot be made is a PLC that is away, and the panel says so.
     QDir().mkpath(plcDir);
 
+    const QTemporaryDir emptyFolder;
+    if (emptyFolder.isValid())
+        limitShell(emptyFolder.path());
     Stick stick(options.stickDir);
     if (stick.isSimulated() && QDir().mkpath(stick.folder()))
         Samples::fillStick(stick.folder());
