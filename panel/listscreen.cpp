@@ -57,7 +57,8 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     QWidget *keyPanel = new QWidget;
     keyPanel->setStyleSheet(Look::keyPanelSheet());
     m_keyGrid->setSpacing(kKeyGap);
-    m_keyGrid->setContentsMargins(kKeyGap, kKeyGap, kKeyGap, kKeyGap);
+    // On a small panel each pixel between the strips counts for one more row.
+    m_keyGrid->setContentsMargins(kKeyGap, kKeyGap / 2, kKeyGap, kKeyGap / 2);
     keyPanel->setLayout(m_keyGrid);
 
     QBoxLayout *layout =

@@ -156,6 +156,7 @@ void TestTeachScreen::fits()
         QVERIFY(widget->width() >= 34);
         rows += isRow;
     }
+    // The title and four instructions at least.
     QVERIFY(rows >= 5);
 }
 
