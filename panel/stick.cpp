@@ -123,9 +123,13 @@ bool Stick::isLinked() const
 bool Stick::link(QString *error)
 {
     const QFileInfo point(mountPoint());
+    // The import manager looks through a link, and takes a file for the stick's only where the
+    // mount point's path is part of the file's own.
+    const bool isKnown = QFileInfo(m_folder).canonicalFilePath().contains(mountPoint());
     // An empty folder makes way and comes back at the end; a stick that is mounted there does not.
-    const bool removed = point.isDir() && !point.isSymLink() && QDir().rmdir(mountPoint());
-    if (QFile::link(m_folder, mountPoint())) {
+    const bool removed =
+        isKnown && point.isDir() && !point.isSymLink() && QDir().rmdir(mountPoint());
+    if (isKnown && QFile::link(m_folder, mountPoint())) {
         m_replacedFolder = m_replacedFolder || removed;
         return true;
     }

@@ -10,10 +10,11 @@
 /// and a marker file while it is plugged.
 ///
 /// On a panel the system sees to both. Here a folder can stand in for the stick, plugged and pulled
-/// by the program: while it is in, the mount point is a link to the folder. Where the mount point
-/// can't be replaced, plug() fails and says so in words; ./run --stick starts the program where it
-/// can. A folder that was bound to the mount point from outside stays there, and only the marker
-/// comes and goes.
+/// by the program: while it is in, the mount point is a link to the folder, whose own path has to
+/// begin like the mount point's ("/mnt/Storage.stick"), or the import manager won't take its files
+/// for the stick's. Otherwise, and where the mount point can't be replaced, plug() fails and says
+/// so in words; ./run --stick starts the program where both hold. A folder that was bound to the
+/// mount point from outside stays there, and only the marker comes and goes.
 class Stick
 {
 public:

@@ -10,8 +10,8 @@
 source "$(dirname "$(readlink -f "$0")")/desk.sh"
 
 programs=$HOME/cnc
-# The stick that the sandbox has at the mount point.
-stick=/mnt/Storage
+stick=/mnt/Storage.stick
+mkdir "$stick"
 echo "G00 X1" >"$stick/fresh.cnc"
 echo "G00 X2" >"$stick/test-coil.cnc"
 truncate -s 31457280 "$stick/huge.cnc"
@@ -64,6 +64,7 @@ expect_gone Quit
 touch_text Pull
 expect_text "The stick is out."
 [ ! -e /tmp/udiskattach ] || desk_fail "the stick left its marker behind"
+[ ! -e /mnt/Storage/test-coil.cnc ] || desk_fail "the stick is still there"
 
 touch_text Connections
 touch_text "Edit the addresses"

@@ -42,13 +42,14 @@ void TestFilesScreen::init()
     FilarixTest::init();
     qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
     programDir();
-    m_folder = home() + "/stick";
+    m_folder = "/mnt/Storage.stick";
     QDir().mkpath(m_folder);
     QDir().mkdir(Stick::mountPoint());
 }
 
 void TestFilesScreen::cleanup()
 {
+    emptyFolder(m_folder);
     QFile::remove(Stick::marker());
     QDir().mkdir(Stick::mountPoint());
     emptyFolder(Stick::mountPoint());

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void mountPointComesBackAtTheEnd();
     void mountPointThatWasMissingStaysSo();
     void mountPointInUseIsLeftAlone();
+    void folderThatTheManagerWouldNotKnowIsRefused();
     void linkOfSomebodyElseIsLeftAlone();
     void markerOfAnotherStickIsRespected();
     void markerIsNotWrittenThroughALink();
@@ -35,13 +36,14 @@ private:
 void TestStick::init()
 {
     FilarixTest::init();
-    m_folder = home() + "/stick";
+    m_folder = "/mnt/Storage.stick";
     writeFile(m_folder + "/coil.cnc", "G01\n");
     QDir().mkdir(Stick::mountPoint());
 }
 
 void TestStick::cleanup()
 {
+    emptyFolder(m_folder);
     QFile::remove(Stick::marker());
     if (QFileInfo(Stick::mountPoint()).isSymLink())
         QFile::remove(Stick::mountPoint());
@@ -114,6 +116,17 @@ void TestStick::mountPointInUseIsLeftAlone()
     QVERIFY(!QFileInfo("/tmp/udiskattach").exists());
     stick.pull();
     QCOMPARE(readFile("/mnt/Storage/real.cnc"), QByteArray("G03\n"));
+}
+
+void TestStick::folderThatTheManagerWouldNotKnowIsRefused()
+{
+    Stick stick(home() + "/elsewhere");
+    QString error;
+    QVERIFY(!stick.plug(&error));
+    QVERIFY2(error.contains("./run --stick"), qPrintable(error));
+    QVERIFY(QFileInfo("/mnt/Storage").isDir());
+    QVERIFY(!QFileInfo("/mnt/Storage").isSymLink());
+    QVERIFY(!stick.isPresent());
 }
 
 void TestStick::linkOfSomebodyElseIsLeftAlone()
