@@ -298,8 +298,12 @@ bool TListWidget::hasFullPage() const
 
 void TListWidget::prevPage()
 {
-    if (hasFullPage())
-        turnTo(qMax(qint64(titleCount()), qint64(m_startLine) - m_totalLine));
+    if (!hasFullPage())
+        return;
+    // A host may set a page length below 0, which leads down: without a title the top is left out.
+    const bool isAtTop = !m_titleWidget && m_startLine <= 0;
+    const qint64 startLine = isAtTop ? m_startLine : qint64(m_startLine) - m_totalLine;
+    turnTo(qMax(qint64(titleCount()), startLine));
 }
 
 void TListWidget::nextPage()

@@ -455,7 +455,7 @@ void Walk::resize()
 
 void Walk::setTotalLine()
 {
-    const int n = m_random.between(0, 16);
+    const int n = m_random.between(-3, 16);
     note(QString("setTotalLine %1").arg(n));
     m_model.setTotalLine(n);
     m_list.setTotalLine(n);
