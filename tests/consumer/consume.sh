@@ -18,7 +18,7 @@ mkdir -p "$build"
 
 cmake_build() {
     "$CMAKE" -S "$project" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
-        -DCMAKE_CXX_COMPILER_LAUNCHER="$CCACHE" -DCMAKE_CXX_FLAGS="$FLAGS" "$@"
+        -DCMAKE_CXX_COMPILER_LAUNCHER="$CCACHE" "$@"
     "$CMAKE" --build "$build" --parallel 2
 }
 
@@ -30,13 +30,13 @@ case "$way" in
         ;;
     pkgconfig)
         PKG_CONFIG_PATH=$moved/$LIBDIR/pkgconfig make -C "$build" -f "$project/Makefile" \
-            SOURCES="$SOURCE/tests/consumer/host" CXX="$CCACHE $CXX $FLAGS"
+            SOURCES="$SOURCE/tests/consumer/host" CXX="$CCACHE $CXX"
         libraries=$libraries:$moved/$LIBDIR
         ;;
     qmake)
         cd "$build"
         QMAKEFEATURES=$moved/$FEATURES "$QMAKE" "$project/host.pro" \
-            QMAKE_CXX="$CCACHE $CXX $FLAGS" QMAKE_LINK="$CXX $FLAGS"
+            QMAKE_CXX="$CCACHE $CXX" QMAKE_LINK="$CXX"
         make
         libraries=$libraries:$moved/$LIBDIR
         ;;
