@@ -8,6 +8,7 @@
 #   device-headers  the interface of the panel's device library, for hosts that use it themselves
 #   simulator       the stand-in device library
 #   panel           filarix-panel with its manual page
+#   doc             documentation for hosts' developers
 #
 # A plain install takes the first two. The others are installed by name only, so that the stand-in
 # never reaches a panel by accident. Everything may be moved as a whole, lie in a sysroot or be
@@ -127,4 +128,9 @@ if(TARGET filarix-panel)
   set_target_properties(filarix-panel PROPERTIES INSTALL_RPATH "$ORIGIN/${libdir_from_bindir}")
   install(TARGETS filarix-panel
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel EXCLUDE_FROM_ALL)
+  install(FILES panel/filarix-panel.1
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT panel EXCLUDE_FROM_ALL)
 endif()
+
+install(FILES docs/abi.md docs/security.md
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT doc EXCLUDE_FROM_ALL)
