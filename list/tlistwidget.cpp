@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDesktopWidget>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -59,6 +60,41 @@ QStringList sharedWith(const QStringList &neighbour, const QStringList &row)
     }
     return result;
 }
+
+/// The number of a row as its text: "N" and decimal digits in a list without a title, the digits
+/// alone with one. A long list is renumbered at each insertion, so this goes without the heap.
+class NumberText
+{
+public:
+    NumberText(int number, bool hasPrefix) : m_begin(m_text + maxSize)
+    {
+        unsigned rest = number < 0 ? 0u - unsigned(number) : unsigned(number);
+        do {
+            *--m_begin = QLatin1Char(char('0' + rest % 10));
+            rest /= 10;
+        } while (rest > 0);
+        if (number < 0)
+            *--m_begin = QLatin1Char('-');
+        if (hasPrefix)
+            *--m_begin = QLatin1Char('N');
+    }
+
+    /// A string of the same length keeps its memory, unless it is shared.
+    void writeTo(QString &string) const
+    {
+        const int size = int(m_text + maxSize - m_begin);
+        if (string.size() == size)
+            std::copy(m_begin, m_begin + size, string.data());
+        else
+            string = QString(m_begin, size);
+    }
+
+private:
+    enum { maxSize = 12 }; // "N-2147483648"
+
+    QChar m_text[maxSize];
+    QChar *m_begin;
+};
 
 /// A string of a stored row, to be written. A short row counts as filled up with empty strings;
 /// they become real as soon as one behind its end is written.
@@ -529,9 +565,12 @@ int TListWidget::indexAfterRemoval(int index, int removed, int rows) const
 /// Gives each row from \a from on its index plus \a step as number.
 void TListWidget::renumber(int from, int step)
 {
-    const QString prefix = m_titleWidget ? QString() : QString(QLatin1Char('N'));
-    for (int j = from; j < count(); ++j)
-        setIndex(j, prefix + QString::number(j + step));
+    for (int j = from; j < count(); ++j) {
+        const NumberText text(j + step, !m_titleWidget);
+        QString &number = stringAt(m_content[j], RowFormat::Num);
+        text.writeTo(number);
+        showIndex(j, number);
+    }
 }
 
 void TListWidget::clear()
@@ -573,6 +612,12 @@ void TListWidget::setIndex(int i, QString n)
     if (!isRow(i))
         return;
     stringAt(m_content[i], RowFormat::Num) = n;
+    showIndex(i, n);
+}
+
+/// Shows the number of row \a i, if the row is on the page.
+void TListWidget::showIndex(int i, const QString &n)
+{
     const int pos = getListPos(i);
     if (pos < 1 || pos >= qint64(m_totalLine) + titleCount())
         return;

@@ -194,6 +194,7 @@ private:
     void turnTo(qint64 startLine);
 
     void renumber(int from, int step);
+    void showIndex(int i, const QString &n);
     int indexAfterRemoval(int index, int removed, int rows) const;
     QStringList groupValues(int i, int firstPair, int pairs) const;
     int groupIndex(int i, int position) const;
