@@ -3,6 +3,7 @@
 
 #include "wmmainwindow.h"
 
+#include "gcodenumber_p.h"
 #include "gcodesymbols.h"
 #include "importmanage.h"
 #include "waqp.h"
@@ -621,11 +622,10 @@ bool WMMainWindow::splitString(const QStringList &words, QStringList &names, QLi
 {
     bool appended = false;
     Q_FOREACH (const QString &word, words) {
-        const QString value = word.mid(1);
-        if (value.isEmpty())
+        if (word.size() < 2)
             continue;
         names.append(word.left(1));
-        values.append(value.toDouble());
+        values.append(GCodeNumber::toDouble(word.constData() + 1, word.constData() + word.size()));
         appended = true;
     }
     return appended;

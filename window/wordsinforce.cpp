@@ -4,6 +4,7 @@
 #include "wordsinforce_p.h"
 
 #include "compat.h"
+#include "gcodenumber_p.h"
 #include "gcodesymbols.h"
 
 #include <QTextBlock>
@@ -13,7 +14,7 @@ namespace {
 
 /// Reading a block by itself costs about ten times its share of the whole text, so this is where
 /// taking the whole text begins to pay, and a little before.
-const int nearShare = 32;
+const int nearShare = 64;
 const int nearLines = 256;
 
 /// Paragraphs, and the frames and tables that only rich text has.
@@ -23,14 +24,25 @@ bool endsABlock(QChar character)
            || character == QChar(0xfdd1);
 }
 
+template<class Characters>
+int indexOf(const Characters &characters, QChar character)
+{
+    for (int i = 0; i < characters.size(); ++i) {
+        if (characters.at(i) == character)
+            return i;
+    }
+    return -1;
+}
+
 } // namespace
 
 WordsInForce::WordsInForce(const QStringList &names, const QTextDocument *document, int line)
 {
     Q_FOREACH (const QString &name, names) {
-        if (name.size() == 1 && !wanted.contains(name.at(0)))
+        if (name.size() == 1 && indexOf(wanted, name.at(0)) < 0)
             wanted.append(name.at(0));
     }
+    updateWantedBits();
     lookUp(document, line);
 }
 
@@ -63,17 +75,37 @@ void WordsInForce::lookUp(const QTextDocument *document, int line)
         return;
 
     const QString text = Compat::rawText(document);
-    const QChar *first = text.constData();
-    const QChar *end = first + block.position() + block.length() - 1;
+    readText(text.constData(), text.constData() + block.position() + block.length() - 1);
+}
+
+/// Reads lines of a document's text from the last one upward.
+void WordsInForce::readText(const QChar *begin, const QChar *end)
+{
     while (!wanted.isEmpty()) {
-        const QChar *begin = end;
-        while (begin != first && !endsABlock(begin[-1]))
-            --begin;
-        readLine(begin, end);
-        if (begin == first)
+        const QChar *line = end;
+        bool mayHoldWord = false;
+        while (line != begin && !endsABlock(line[-1])) {
+            --line;
+            mayHoldWord |= mayBeWanted(*line);
+        }
+        if (mayHoldWord)
+            readLine(line, end);
+        if (line == begin)
             return;
-        end = begin - 1;
+        end = line - 1;
     }
+}
+
+bool WordsInForce::mayBeWanted(QChar character) const
+{
+    return (wantedBits >> (character.unicode() % 64)) & 1;
+}
+
+void WordsInForce::updateWantedBits()
+{
+    wantedBits = 0;
+    for (int i = 0; i < wanted.size(); ++i)
+        wantedBits |= quint64(1) << (wanted.at(i).unicode() % 64);
 }
 
 void WordsInForce::readLine(const QChar *begin, const QChar *end)
@@ -93,12 +125,14 @@ void WordsInForce::readLine(const QChar *begin, const QChar *end)
 
 void WordsInForce::readWord(const QChar *begin, const QChar *end)
 {
-    const int index = end - begin < 2 ? -1 : wanted.indexOf(*begin);
+    const int index = end - begin < 2 ? -1 : indexOf(wanted, *begin);
     if (index < 0)
         return;
     Word word;
     word.name = *begin;
-    word.value = QString(begin + 1, int(end - begin) - 1).toDouble();
+    word.value = GCodeNumber::toDouble(begin + 1, end);
     found.append(word);
-    wanted.remove(index);
+    wanted[index] = wanted.at(wanted.size() - 1);
+    wanted.removeLast();
+    updateWantedBits();
 }

@@ -6,7 +6,7 @@
 
 #include <QChar>
 #include <QStringList>
-#include <QVector>
+#include <QVarLengthArray>
 
 class QTextDocument;
 
@@ -26,7 +26,7 @@ public:
     /// names of one character are ever found; for a negative line none is.
     ///
     /// The time goes by the distance of the farthest name, not by the length of the program: up to
-    /// a thirtieth of it block by block, and only beyond that over its whole text at once.
+    /// a sixtieth of it block by block, and only beyond that over its whole text at once.
     WordsInForce(const QStringList &names, const QTextDocument *document, int line);
 
     /// Whether \a name was found with exactly this value. The value "nan" equals nothing.
@@ -39,12 +39,17 @@ private:
         double value;
     };
 
+    bool mayBeWanted(QChar character) const;
+    void updateWantedBits();
     void lookUp(const QTextDocument *document, int line);
+    void readText(const QChar *begin, const QChar *end);
     void readLine(const QChar *begin, const QChar *end);
     void readWord(const QChar *begin, const QChar *end);
 
-    QVector<Word> found;
-    QVector<QChar> wanted;
+    // A line has few words: these need no memory of their own.
+    QVarLengthArray<Word, 16> found;
+    QVarLengthArray<QChar, 16> wanted;
+    quint64 wantedBits; // of wanted and perhaps some more, by the lowest six bits of a character
 };
 
 #endif // WORDSINFORCE_P_H
