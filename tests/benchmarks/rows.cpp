@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "works.h"
+
+#include "contest.h"
+#include "plainlist.h"
+#include "samplerows.h"
+#include "subjects.h"
+#include "tlistwidget.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTableView>
+
+namespace {
+
+using namespace Subjects;
+
+const int rowsPerPage = 14;
+
+template<class List>
+class ListSubject
+{
+public:
+    explicit ListSubject(int rows) : m_list(m_noTitle, nullptr)
+    {
+        for (int i = 0; i < rows; ++i)
+            append(false);
+        m_list.resize(480, 600);
+        m_list.show();
+        m_list.addWidget(m_noTitle, true, true);
+        m_list.home();
+        settle();
+    }
+
+    void append(bool refresh)
+    {
+        QStringList row = sampleRow(m_list.count());
+        m_list.addWidget(row, refresh, false);
+    }
+
+    double turnPages(int times)
+    {
+        return cpuOf([&]() {
+                   for (int i = 0; i < times; ++i) {
+                       if (m_isAtHome)
+                           m_list.nextPage();
+                       else
+                           m_list.prevPage();
+                       m_isAtHome = !m_isAtHome;
+                       settle();
+                   }
+               })
+               / times;
+    }
+
+    double refill(int times)
+    {
+        return cpuOf([&]() {
+                   for (int i = 0; i < times; ++i)
+                       m_list.reshow();
+               })
+               / times;
+    }
+
+    double appendRows(int times)
+    {
+        const double cost = cpuOf([&]() {
+            for (int i = 0; i < times; ++i)
+                append(true);
+        });
+        settle();
+        return cost / times;
+    }
+
+    double insertAtFront()
+    {
+        QStringList row = sampleRow(0);
+        return cpuOf([&]() { m_list.insertWidget(0, row, false, false); });
+    }
+
+private:
+    QStringList m_noTitle;
+    List m_list;
+    bool m_isAtHome = true;
+};
+
+class RowModel : public QAbstractTableModel
+{
+public:
+    explicit RowModel(int rows)
+    {
+        for (int i = 0; i < rows; ++i)
+            m_rows.append(sampleRow(i));
+    }
+
+    int rowCount(const QModelIndex &) const override { return m_rows.size(); }
+    int columnCount(const QModelIndex &) const override { return 6; }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role != Qt::DisplayRole)
+            return QVariant();
+        const QStringList &row = m_rows.at(index.row());
+        const int column = index.column();
+        if (column < 2)
+            return row.at(column + 1);
+        return QString(row.at(2 * column - 1) + QLatin1Char(':') + row.at(2 * column));
+    }
+
+private:
+    QList<QStringList> m_rows;
+};
+
+class TableSubject
+{
+public:
+    explicit TableSubject(int rows) : m_model(rows)
+    {
+        m_view.setModel(&m_model);
+        m_view.horizontalHeader()->hide();
+        m_view.verticalHeader()->hide();
+        m_view.verticalHeader()->setDefaultSectionSize(34);
+        m_view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        m_view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        m_view.setFrameShape(QFrame::NoFrame);
+        for (int column = 0; column < 6; ++column)
+            m_view.setColumnWidth(column, 80);
+        m_view.resize(480, 34 * rowsPerPage);
+        m_view.show();
+        settle();
+    }
+
+    double turnPages(int times)
+    {
+        return cpuOf([&]() {
+                   for (int i = 0; i < times; ++i) {
+                       m_view.verticalScrollBar()->setValue(m_isAtHome ? rowsPerPage : 0);
+                       m_isAtHome = !m_isAtHome;
+                       settle();
+                   }
+               })
+               / times;
+    }
+
+private:
+    RowModel m_model;
+    QTableView m_view;
+    bool m_isAtHome = true;
+};
+
+void measurePages(Report &report, int rows)
+{
+    ListSubject<TListWidget> own(rows);
+    ListSubject<PlainList> other(rows);
+    TableSubject table(rows);
+    const int rounds = 15;
+
+    const QString turn = QLatin1String("page turn, painted");
+    Contest turns(turn, rows);
+    turns.add(shipped, [&]() { return own.turnPages(10); });
+    turns.add(plain, [&]() { return other.turnPages(10); });
+    turns.add(tableView, [&]() { return table.turnPages(10); });
+    turns.run(report, rounds, true);
+    report.compare(turn, rows, shipped, rows, plain, 0.3);
+    report.compare(turn, rows, shipped, rows, tableView, 2.3);
+    report.compare(turn, rows, plain, rows, tableView);
+
+    const QString refill = QLatin1String("refill of an unchanged page");
+    Contest refills(refill, rows);
+    refills.add(shipped, [&]() { return own.refill(20); });
+    refills.add(plain, [&]() { return other.refill(5); });
+    refills.run(report, rounds, true);
+    report.compare(refill, rows, shipped, rows, plain, 0.01);
+
+    const QString append = QLatin1String("append with refresh");
+    Contest appends(append, rows);
+    appends.add(shipped, [&]() { return own.appendRows(5); });
+    appends.add(plain, [&]() { return other.appendRows(5); });
+    appends.run(report, rounds, true);
+    report.compare(append, rows, shipped, rows, plain, 0.1);
+}
+
+void measureInsertion(Report &report, int rows, double limit)
+{
+    ListSubject<TListWidget> own(rows);
+    ListSubject<PlainList> other(rows);
+    const QString work = QLatin1String("insert at the front");
+    Contest contest(work, rows);
+    contest.add(shipped, [&]() { return own.insertAtFront(); });
+    contest.add(plain, [&]() { return other.insertAtFront(); });
+    contest.run(report, 11, true);
+    report.compare(work, rows, shipped, rows, plain, limit);
+}
+
+} // namespace
+
+QStringList sampleRow(int number)
+{
+    // From bytes each time, as a host reads its files: no two rows share a string by themselves.
+    const auto text = [](const char *bytes) { return QString::fromLatin1(bytes); };
+    QStringList row;
+    row << text("MJ") << QString::fromLatin1("N%1").arg(number) << text("MOVJ") << text("P")
+        << QString::number(number % 40) << text("V") << text("3") << text("Z")
+        << QString::number(number % 100) << text("T") << text("0.50") << text("Att")
+        << text("wire_left");
+    for (int pair = 0; pair < 9; ++pair)
+        row << text("J") + QString::number(pair + 1)
+            << (pair < 3 ? QString::number(number * 7 % 3600 / 10.0, 'f', 1) : text("120.5"));
+    return row;
+}
+
+void measureRows(Report &report, const Extent &extent)
+{
+    measurePages(report, 1000);
+    if (!extent.isQuick)
+        measurePages(report, 100000);
+    measureInsertion(report, 1000, 0);
+    measureInsertion(report, 10000, 0.2);
+    if (!extent.isQuick)
+        measureInsertion(report, 100000, 0);
+}
