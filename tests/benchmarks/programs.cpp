@@ -287,13 +287,18 @@ void measureFilter(Report &report, const Extent &extent)
         report.compare(farWork, 50000, shipped, 50000, plain, 0.08);
 
         ShippedFilter longest(largest);
+        PlainFilterSubject longestOther(largest);
         Contest growth(farWork, largest, perLine);
         growth.add(shipped, [&]() { return longest.cost(nowhere, 1) / largest; });
+        growth.add(plain, [&]() { return longestOther.cost(nowhere, 1) / largest; });
         const QString before = QLatin1String("library, 50000 lines");
         growth.add(before, [&]() { return own.cost(nowhere, 20) / 50000; });
-        growth.run(report, 7, true);
-        // Linear but for the caches, which a long document outgrows.
-        report.compare(farWork, largest, shipped, largest, before, 2);
+        const QString plainBefore = QLatin1String("plain, 50000 lines");
+        growth.add(plainBefore, [&]() { return other.cost(nowhere, 1) / 50000; });
+        growth.run(report, 5, true);
+        report.compare(farWork, largest, shipped, largest, plain, 0.08);
+        report.compare(farWork, largest, shipped, largest, before);
+        report.compare(farWork, largest, plain, largest, plainBefore);
     }
     const QString nearWork = QLatin1String("filter, near hit");
     const QString perCall = QLatin1String("us a call");
@@ -309,12 +314,18 @@ void measureFilter(Report &report, const Extent &extent)
         report.compare(nearWork, 1000, shipped, 1000, plain, 0.4);
 
         ShippedFilter longest(largest);
+        PlainFilterSubject longestOther(largest);
         Contest growth(nearWork, largest, perCall);
         growth.add(shipped, [&]() { return longest.cost(line, times); });
+        growth.add(plain, [&]() { return longestOther.cost(line, times); });
         const QString before = QLatin1String("library, 1000 lines");
         growth.add(before, [&]() { return own.cost(line, times); });
+        const QString plainBefore = QLatin1String("plain, 1000 lines");
+        growth.add(plainBefore, [&]() { return other.cost(line, times); });
         growth.run(report, 9, true);
+        report.compare(nearWork, largest, shipped, largest, plain, 0.4);
         report.compare(nearWork, largest, shipped, largest, before, 1.3);
+        report.compare(nearWork, largest, plain, largest, plainBefore);
     }
 }
 
