@@ -24,6 +24,7 @@ private Q_SLOTS:
     void init();
     void threeRows();
     void wordsAreTranslatedAndSignsAreNot();
+    void isPlacedAsEveryDialogWhenShown();
     void returnIsTheAnswer();
     void showsTheCurrentLine();
     void aRangeStartsTheCountAtOne();
@@ -146,6 +147,16 @@ void TestWCopyDialog::wordsAreTranslatedAndSignsAreNot()
     QVERIFY(button(dialog, "#Cancel"));
     QVERIFY(button(dialog, "-"));
     QVERIFY(button(dialog, "+"));
+}
+
+void TestWCopyDialog::isPlacedAsEveryDialogWhenShown()
+{
+    QWidget parent;
+    parent.setGeometry(150, 70, 800, 480);
+    WCopyDialog dialog(&parent);
+    dialog.show();
+    QCOMPARE(dialog.geometry().topLeft(),
+             QPoint(400 - dialog.width() / 2, 240 - dialog.height() / 2));
 }
 
 void TestWCopyDialog::returnIsTheAnswer()
