@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QProgressDialog>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTime>
@@ -33,6 +34,9 @@ const int gutterMargin = 3;
 /// Milliseconds between two paintings of the editor while a program goes in.
 const int paintInterval = 200;
 
+/// Set on an editor while PieceAppender works on it.
+const char isAppendingName[] = "_filarix_isAppending";
+
 /// Takes many pieces of text at the end of an editor, as appendPlainText() does, but spares it the
 /// work of being looked at between them: painting, and laying out the last page to know how far it
 /// scrolls. The editor's own state comes back on every way out. What a parent holds back is the
@@ -47,10 +51,20 @@ public:
         , m_wasEnabled(!view->testAttribute(Qt::WA_ForceUpdatesDisabled))
         , m_wasCentring(view->centerOnScroll())
     {
+        m_view->setProperty(isAppendingName, true);
         m_time.start();
         rest();
     }
-    ~PieceAppender() { wake(); }
+    ~PieceAppender()
+    {
+        wake();
+        m_view->setProperty(isAppendingName, QVariant());
+    }
+
+    static bool isAtWorkOn(const QPlainTextEdit *view)
+    {
+        return view->property(isAppendingName).toBool();
+    }
 
     void append(const QString &text);
 
@@ -130,23 +144,18 @@ void PieceAppender::appendUnseen(const QString &text)
     cursor.endEditBlock();
 }
 
-/// The lines of a text in pieces of as many lines each as \a sizes says, without the line end
-/// between two pieces. The sizes add up to the number of lines.
-QStringList cutByLines(const QString &text, const QVector<int> &sizes)
+/// The position just behind the next \a count line ends from \a from on; text.size() + 1 when the
+/// text has no more of them, as if one stood at its end.
+int behindLines(const QString &text, int from, int count)
 {
-    QStringList pieces;
-    int from = 0;
-    Q_FOREACH (int size, sizes) {
-        int lineEnd = from - 1;
-        for (int i = 0; i < size; ++i) {
-            lineEnd = text.indexOf(QLatin1Char('\n'), lineEnd + 1);
-            if (lineEnd < 0)
-                lineEnd = text.size();
-        }
-        pieces.append(text.mid(from, lineEnd - from));
-        from = lineEnd + 1;
+    int position = from;
+    for (int i = 0; i < count; ++i) {
+        const int lineEnd = text.indexOf(QLatin1Char('\n'), position);
+        if (lineEnd < 0)
+            return text.size() + 1;
+        position = lineEnd + 1;
     }
-    return pieces;
+    return position;
 }
 
 } // namespace
@@ -293,14 +302,20 @@ void WGCodeEditer::readGCode(QString text)
 
     QProgressDialog progress(QLatin1String("Load Files:"), QLatin1String("Abort check"), 0, total);
     PieceAppender appender(this, BlockFormatter::of(highlighter));
-    // Only one piece at a time is cut into lines: a list of all lines would take as much memory
-    // again as the document. The text goes as the document comes.
-    const QVector<int> sizes = WAQP::chunkSizes(total, chunkCount);
-    QStringList pieces = cutByLines(text, sizes);
-    text.clear();
     int position = 0;
-    Q_FOREACH (int n, sizes) {
-        const QString result = preproccess(pieces.takeFirst().split(QLatin1Char('\n')));
+    int from = 0;
+    Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
+        // Only one piece at a time is cut into lines: a list of all lines would take as much memory
+        // again as the document.
+        const int behind = behindLines(text, from, n);
+        const QString result =
+            preproccess(text.mid(from, behind - 1 - from).split(QLatin1Char('\n')));
+        from = behind;
+        // The text goes as the document comes, but it is not copied for each piece.
+        if (from > text.size() / 2) {
+            text = text.mid(from);
+            from = 0;
+        }
         if (!result.isEmpty())
             appender.append(result);
         position += n;
@@ -505,7 +520,15 @@ void WGCodeEditer::mouseDoubleClickEvent(QMouseEvent *event)
 
 void WGCodeEditer::resizeEvent(QResizeEvent *event)
 {
-    QPlainTextEdit::resizeEvent(event);
+    const QSize size = event->size();
+    if (PieceAppender::isAtWorkOn(this) && lineWrapMode() == NoWrap) {
+        // The gutter gets wider as a program goes in. To the base class a new width means to lay
+        // every line out anew; without wrapping the width is of no account to a line.
+        QResizeEvent sameWidth(size, QSize(size.width(), event->oldSize().height()));
+        QPlainTextEdit::resizeEvent(&sameWidth);
+    } else {
+        QPlainTextEdit::resizeEvent(event);
+    }
     const QRect area = contentsRect();
     lineNumberArea->setGeometry(area.left(), area.top(), lineNumberAreaWidth(), area.height());
 }

@@ -7,6 +7,7 @@
 #include "wgcodeediter.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -239,6 +240,8 @@ private Q_SLOTS:
     void loads();
     void followsTheEndUnlessScrolled_data();
     void followsTheEndUnlessScrolled();
+    void looksTheSame_data();
+    void looksTheSame();
     void undoesALoad();
     void editsAtRandom();
     void composesText();
@@ -310,6 +313,40 @@ void TestAsPlainEditor::followsTheEndUnlessScrolled()
         pair.plain.readGCode(text);
     }
     QCOMPARE(pair.difference(), QString());
+}
+
+void TestAsPlainEditor::looksTheSame_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("from left to right") << "G01 X1 Y2 F100" << 1500;
+    QTest::newRow("from left to right, 6 digits in the gutter") << "G1" << 100100;
+    const QChar alef(0x0627);
+    QTest::newRow("a line from right to left") << QString(6, alef) + QLatin1String(" G01") << 1500;
+    const QString gothic = QString(QChar(0xd800)) + QChar(0xdf30);
+    QTest::newRow("characters of two units") << gothic << 1500;
+}
+
+// The gutter grows as a program goes in, and with it the room for the lines shrinks.
+void TestAsPlainEditor::looksTheSame()
+{
+    QFETCH(QString, words);
+    QFETCH(int, lines);
+    const QString text = (words + QLatin1Char('\n')).repeated(lines);
+    Pair pair(true);
+    QList<QImage> pictures;
+    Q_FOREACH (QPlainTextEdit *view, pair.both()) {
+        view->resize(400, 300);
+        view->setCursorWidth(0);
+    }
+    QCoreApplication::processEvents();
+    pair.read(text);
+    Q_FOREACH (QPlainTextEdit *view, pair.both()) {
+        view->clearFocus();
+        QCoreApplication::processEvents();
+        pictures << TestCompat::grab(view).toImage();
+    }
+    QVERIFY(pictures.first() == pictures.last());
 }
 
 void TestAsPlainEditor::undoesALoad()
