@@ -5,6 +5,7 @@
 
 #include "contest.h"
 #include "plainlist.h"
+#include "sampleprogram.h"
 #include "samplerows.h"
 #include "subjects.h"
 #include "tlistwidget.h"

@@ -5,6 +5,7 @@
 
 #include "contest.h"
 #include "plaineditor.h"
+#include "sampleprogram.h"
 #include "subjects.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"

@@ -10,10 +10,6 @@
 
 class QWidget;
 
-/// A program of \a lines lines as machines get it: numbered blocks of moves, now and then a feed, a
-/// switch and a comment.
-QString sampleProgram(int lines);
-
 /// An editor that the library's is measured against, or that itself.
 class EditorSubject
 {
