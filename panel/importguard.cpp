@@ -19,6 +19,8 @@ namespace {
 
 // As many as a message box on the smallest panel has lines for.
 const int kNamesShown = 3;
+// The library's text; not written into tr(), which would have it translated once more for us.
+const char kManagerQuit[] = "Quit";
 
 bool isPress(QEvent::Type type)
 {
@@ -104,7 +106,7 @@ bool ImportGuard::eventFilter(QObject *watched, QEvent *event)
         return false;
     QPushButton *button = qobject_cast<QPushButton *>(watched);
     ImportManage *manager = button ? qobject_cast<ImportManage *>(button->window()) : nullptr;
-    if (!manager || button->text() == ImportManage::tr("Quit"))
+    if (!manager || button->text() == ImportManage::tr(kManagerQuit))
         return false;
     if (!isProgramDirSafe()) {
         Q_EMIT told(tr("No transfer: the path %1 holds characters that the transfer would not take "

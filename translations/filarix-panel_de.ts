@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>BarPager</name>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsScreen</name>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>Cid</source>
+        <translation>Cid</translation>
+    </message>
+    <message>
+        <source>Baud</source>
+        <translation>Baud</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Edit the addresses</source>
+        <translation>Adressen ändern</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1 cannot be written.</source>
+        <translation>Die Adressen sind nicht gespeichert: %1 lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>No address was changed.</source>
+        <translation>Keine Adresse wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Stored: %1.</source>
+        <translation>Gespeichert: %1.</translation>
+    </message>
+    <message>
+        <source>not set yet</source>
+        <translation>noch nicht gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>FilesScreen</name>
+    <message>
+        <source>Plug</source>
+        <translation>Stecken</translation>
+    </message>
+    <message>
+        <source>Pull</source>
+        <translation>Ziehen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>I/E</source>
+        <translation>Im/Ex</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Stick</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Files and stick</source>
+        <translation>Dateien und Stick</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>steckt</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>The stick is in; all file names are safe.</source>
+        <translation>Der Stick steckt; alle Dateinamen sind sicher.</translation>
+    </message>
+    <message>
+        <source>The stick is out.</source>
+        <translation>Der Stick ist abgezogen.</translation>
+    </message>
+    <message>
+        <source>Pick a path</source>
+        <translation>Pfad wählen</translation>
+    </message>
+    <message>
+        <source>simulated by %1</source>
+        <translation>nachgestellt durch %1</translation>
+    </message>
+    <message>
+        <source>In. Files: %1, </source>
+        <translation>Steckt. Dateien: %1, </translation>
+    </message>
+    <message>
+        <source>Out. </source>
+        <translation>Fehlt. </translation>
+    </message>
+    <message>
+        <source>All are safe for the transfer</source>
+        <translation>Alle sind sicher für die Übertragung</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1</source>
+        <translation>Unsichere Namen: %1</translation>
+    </message>
+    <message>
+        <source>Files: %1, </source>
+        <translation>Dateien: %1, </translation>
+    </message>
+    <message>
+        <source>%1 KB of %2 MB</source>
+        <translation>%1 KB von %2 MB</translation>
+    </message>
+    <message>
+        <source>None picked yet</source>
+        <translation>Noch keiner gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>ImportGuard</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>The transfer would not take these file names for what they are. Rename?</source>
+        <translation>Die Übertragung würde diese Dateinamen falsch verstehen. Umbenennen?</translation>
+    </message>
+    <message>
+        <source>File names</source>
+        <translation>Dateinamen</translation>
+    </message>
+    <message>
+        <source>Not renamed. Import and export stay closed until the names are safe.</source>
+        <translation>Nicht umbenannt. Import und Export bleiben gesperrt, bis die Namen sicher sind.</translation>
+    </message>
+    <message>
+        <source>Files that could not be renamed: %1. Is the stick write-protected?</source>
+        <translation>Nicht umbenennbare Dateien: %1. Ist der Stick schreibgeschützt?</translation>
+    </message>
+    <message>
+        <source>Files renamed: %1.</source>
+        <translation>Umbenannte Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
+        <translation>Keine Übertragung: Der Pfad %1 enthält Zeichen, die die Übertragung falsch verstehen würde.</translation>
+    </message>
+</context>
+<context>
+    <name>ListScreen</name>
+    <message>
+        <source>First</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Ende</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+</context>
+<context>
+    <name>PanelWindow</name>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>Einlernen</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>%1[*] - Winding panel</source>
+        <translation>%1[*] - Wickelpanel</translation>
+    </message>
+</context>
+<context>
+    <name>PlcTransfer</name>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>The PLC does not answer: there is no folder %1.</source>
+        <translation>Die SPS antwortet nicht: Der Ordner %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>The PLC folder is the program directory itself. Choose another one.</source>
+        <translation>Der SPS-Ordner ist das Programmverzeichnis selbst. Einen anderen wählen.</translation>
+    </message>
+    <message>
+        <source>The program %1 is larger than the PLC takes (%2 MB).</source>
+        <translation>Das Programm %1 ist größer, als die SPS annimmt (%2 MB).</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The PLC does not take the program: %1.</source>
+        <translation>Die SPS nimmt das Programm nicht an: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC cannot be read back: %1.</source>
+        <translation>Rücklesen aus der SPS ist nicht möglich: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
+        <translation>In der SPS ist etwas anderes angekommen als gesendet. Es wurde wieder entfernt; bitte erneut senden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramScreen</name>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 ist in der SPS: %2 Bytes, verglichen.</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Neues Programm</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wieder</translation>
+    </message>
+    <message>
+        <source>A download is running. Let it end, or stop it first.</source>
+        <translation>Eine Übertragung läuft. Ihr Ende abwarten oder sie erst stoppen.</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>%1 wird zur SPS gesendet: %2 %</translation>
+    </message>
+    <message>
+        <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
+        <translation>Die Maschine steht schon auf Punkt %1 „%2“: nichts einzufügen.</translation>
+    </message>
+    <message>
+        <source>Point %1 &quot;%2&quot; inserted: %3</source>
+        <translation>Punkt %1 „%2“ eingefügt: %3</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>SPS</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>belegt</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>RowFile</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a text file.</source>
+        <translation>%1 ist keine Textdatei.</translation>
+    </message>
+</context>
+<context>
+    <name>Stick</name>
+    <message>
+        <source>The stick is the panel&apos;s own: plug it into the panel.</source>
+        <translation>Der Stick ist ein echter: in das Panel stecken.</translation>
+    </message>
+    <message>
+        <source>Another stick is plugged: %1 is there already.</source>
+        <translation>Ein anderer Stick steckt: %1 ist schon da.</translation>
+    </message>
+    <message>
+        <source>The folder %1, which stands for the stick, cannot be made.</source>
+        <translation>Der Ordner %1, der für den Stick steht, lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>The marker %1 cannot be made: %2.</source>
+        <translation>Die Markierung %1 lässt sich nicht anlegen: %2.</translation>
+    </message>
+    <message>
+        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
+        <translation>Der Einhängepunkt %1 gehört nicht diesem Programm. Um einen Stick auszuprobieren, mit „./run --stick DIR“ starten.</translation>
+    </message>
+</context>
+<context>
+    <name>TablePicker</name>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtProgram</name>
+    <message>
+        <source>Instr.</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschw.</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>%1 is no taught program: row %2 is not an instruction.</source>
+        <translation>%1 ist kein eingelerntes Programm: Zeile %2 ist kein Befehl.</translation>
+    </message>
+</context>
+<context>
+    <name>TeachScreen</name>
+    <message>
+        <source>Joint</source>
+        <translation>Gelenk</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>G04 F1 wait</source>
+        <translation>G04 F1 warten</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf.</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Clearing: %1 %</source>
+        <translation>Leeren: %1 %</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Store</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>The taught program has changes that are not stored.</source>
+        <translation>Das eingelernte Programm hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>%1 loaded, instructions: %2.</source>
+        <translation>%1 geladen, Befehle: %2.</translation>
+    </message>
+    <message>
+        <source>%1 stored, instructions: %2.</source>
+        <translation>%1 gespeichert, Befehle: %2.</translation>
+    </message>
+    <message>
+        <source>Loading replaces what was changed and is not stored.</source>
+        <translation>Laden ersetzt, was geändert und nicht gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Load a taught program</source>
+        <translation>Eingelerntes Programm laden</translation>
+    </message>
+    <message>
+        <source>Remove all %1 instructions?</source>
+        <translation>Alle %1 Befehle löschen?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Load brings the stored ones back.</source>
+        <translation>Gelöschte Befehle: %1. Laden bringt die gespeicherten zurück.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Fahren</translation>
+    </message>
+    <message>
+        <source>There is no instruction to delete.</source>
+        <translation>Es gibt keinen Befehl zum Löschen.</translation>
+    </message>
+    <message>
+        <source>Point for instruction %1</source>
+        <translation>Punkt für Befehl %1</translation>
+    </message>
+    <message>
+        <source>Instructions that now name point %1 &quot;%2&quot;: %3.</source>
+        <translation>Befehle, die nun Punkt %1 „%2“ nennen: %3.</translation>
+    </message>
+    <message>
+        <source>Speed for instruction %1</source>
+        <translation>Geschwindigkeit für Befehl %1</translation>
+    </message>
+    <message>
+        <source>Instructions that now name speed %1 &quot;%2&quot;: %3.</source>
+        <translation>Befehle, die nun Geschwindigkeit %1 „%2“ nennen: %3.</translation>
+    </message>
+    <message>
+        <source>Taught program</source>
+        <translation>Eingelerntes Programm</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>What step %1 touches is not on the screen.</source>
+        <translation>Was Schritt %1 berührt, ist nicht auf dem Bildschirm.</translation>
+    </message>
+    <message>
+        <source>Step %1 expects a dialog, and none is open.</source>
+        <translation>Schritt %1 erwartet einen Dialog, und keiner ist offen.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be written.</source>
+        <translation>Das Bild %1 lässt sich nicht schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>VariablesScreen</name>
+    <message>
+        <source>Machine variables</source>
+        <translation>Maschinenvariablen</translation>
+    </message>
+    <message>
+        <source>Store</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>The variables have changes that are not stored.</source>
+        <translation>Die Variablen haben Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1.</source>
+        <translation>Gespeicherte Variablen: %1.</translation>
+    </message>
+</context>
+</TS>

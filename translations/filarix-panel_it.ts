@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>BarPager</name>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsScreen</name>
+    <message>
+        <source>Connection</source>
+        <translation>Connessione</translation>
+    </message>
+    <message>
+        <source>Cid</source>
+        <translation>Cid</translation>
+    </message>
+    <message>
+        <source>Baud</source>
+        <translation>Baud</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>Edit the addresses</source>
+        <translation>Modifica gli indirizzi</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Connessioni</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1 cannot be written.</source>
+        <translation>Indirizzi non salvati: impossibile scrivere %1.</translation>
+    </message>
+    <message>
+        <source>No address was changed.</source>
+        <translation>Nessun indirizzo modificato.</translation>
+    </message>
+    <message>
+        <source>Stored: %1.</source>
+        <translation>Salvato: %1.</translation>
+    </message>
+    <message>
+        <source>not set yet</source>
+        <translation>non ancora impostato</translation>
+    </message>
+</context>
+<context>
+    <name>FilesScreen</name>
+    <message>
+        <source>Plug</source>
+        <translation>Inserisci</translation>
+    </message>
+    <message>
+        <source>Pull</source>
+        <translation>Togli</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>I/E</source>
+        <translation>Imp/Esp</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Scegli</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Chiavetta</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Nomi</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programmi</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Percorso</translation>
+    </message>
+    <message>
+        <source>Files and stick</source>
+        <translation>File e chiavetta</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>inserita</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>assente</translation>
+    </message>
+    <message>
+        <source>The stick is in; all file names are safe.</source>
+        <translation>Chiavetta inserita; tutti i nomi dei file sono sicuri.</translation>
+    </message>
+    <message>
+        <source>The stick is out.</source>
+        <translation>Chiavetta rimossa.</translation>
+    </message>
+    <message>
+        <source>Pick a path</source>
+        <translation>Scegli un percorso</translation>
+    </message>
+    <message>
+        <source>simulated by %1</source>
+        <translation>simulata da %1</translation>
+    </message>
+    <message>
+        <source>In. Files: %1, </source>
+        <translation>Inserita. File: %1, </translation>
+    </message>
+    <message>
+        <source>Out. </source>
+        <translation>Assente. </translation>
+    </message>
+    <message>
+        <source>All are safe for the transfer</source>
+        <translation>Tutti sicuri per il trasferimento</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1</source>
+        <translation>Nomi non sicuri: %1</translation>
+    </message>
+    <message>
+        <source>Files: %1, </source>
+        <translation>File: %1, </translation>
+    </message>
+    <message>
+        <source>%1 KB of %2 MB</source>
+        <translation>%1 KB di %2 MB</translation>
+    </message>
+    <message>
+        <source>None picked yet</source>
+        <translation>Nessuno scelto</translation>
+    </message>
+</context>
+<context>
+    <name>ImportGuard</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>The transfer would not take these file names for what they are. Rename?</source>
+        <translation>Il trasferimento interpreterebbe male questi nomi di file. Rinominarli?</translation>
+    </message>
+    <message>
+        <source>File names</source>
+        <translation>Nomi dei file</translation>
+    </message>
+    <message>
+        <source>Not renamed. Import and export stay closed until the names are safe.</source>
+        <translation>Non rinominati. Importazione ed esportazione restano chiuse finché i nomi non sono sicuri.</translation>
+    </message>
+    <message>
+        <source>Files that could not be renamed: %1. Is the stick write-protected?</source>
+        <translation>File non rinominabili: %1. La chiavetta è protetta da scrittura?</translation>
+    </message>
+    <message>
+        <source>Files renamed: %1.</source>
+        <translation>File rinominati: %1.</translation>
+    </message>
+    <message>
+        <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
+        <translation>Nessun trasferimento: il percorso %1 contiene caratteri che il trasferimento interpreterebbe male.</translation>
+    </message>
+</context>
+<context>
+    <name>ListScreen</name>
+    <message>
+        <source>First</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Pagina</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Fine</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+</context>
+<context>
+    <name>PanelWindow</name>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>Apprendi</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabili</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Connessioni</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>%1[*] - Winding panel</source>
+        <translation>%1[*] - Pannello avvolgitrice</translation>
+    </message>
+</context>
+<context>
+    <name>PlcTransfer</name>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>The PLC does not answer: there is no folder %1.</source>
+        <translation>Il PLC non risponde: manca la cartella %1.</translation>
+    </message>
+    <message>
+        <source>The PLC folder is the program directory itself. Choose another one.</source>
+        <translation>La cartella del PLC è la directory dei programmi stessa. Sceglierne un&apos;altra.</translation>
+    </message>
+    <message>
+        <source>The program %1 is larger than the PLC takes (%2 MB).</source>
+        <translation>Il programma %1 è più grande di quanto il PLC accetta (%2 MB).</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il programma %1: %2.</translation>
+    </message>
+    <message>
+        <source>The PLC does not take the program: %1.</source>
+        <translation>Il PLC non accetta il programma: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC cannot be read back: %1.</source>
+        <translation>Impossibile rileggere quanto arrivato al PLC: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
+        <translation>Quanto arrivato al PLC è diverso da quanto inviato. È stato tolto; inviare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramScreen</name>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 è nel PLC: %2 byte, confrontati.</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Nuovo programma</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>A download is running. Let it end, or stop it first.</source>
+        <translation>Invio in corso. Attenderne la fine o interromperlo prima.</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 ha modifiche non salvate.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>Invio di %1 al PLC: %2 %</translation>
+    </message>
+    <message>
+        <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
+        <translation>La macchina è già sul punto %1 &quot;%2&quot;: nulla da inserire.</translation>
+    </message>
+    <message>
+        <source>Point %1 &quot;%2&quot; inserted: %3</source>
+        <translation>Inserito il punto %1 &quot;%2&quot;: %3</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>PLC</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>occupato</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>pronto</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>assente</translation>
+    </message>
+</context>
+<context>
+    <name>RowFile</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossibile scrivere %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a text file.</source>
+        <translation>%1 non è un file di testo.</translation>
+    </message>
+</context>
+<context>
+    <name>Stick</name>
+    <message>
+        <source>The stick is the panel&apos;s own: plug it into the panel.</source>
+        <translation>La chiavetta è quella vera: inserirla nel pannello.</translation>
+    </message>
+    <message>
+        <source>Another stick is plugged: %1 is there already.</source>
+        <translation>È inserita un&apos;altra chiavetta: %1 c&apos;è già.</translation>
+    </message>
+    <message>
+        <source>The folder %1, which stands for the stick, cannot be made.</source>
+        <translation>Impossibile creare la cartella %1, che sta per la chiavetta.</translation>
+    </message>
+    <message>
+        <source>The marker %1 cannot be made: %2.</source>
+        <translation>Impossibile creare il segnale %1: %2.</translation>
+    </message>
+    <message>
+        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
+        <translation>Il punto di montaggio %1 non appartiene a questo programma. Per provare una chiavetta, avviarlo con &quot;./run --stick DIR&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>TablePicker</name>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtProgram</name>
+    <message>
+        <source>Instr.</source>
+        <translation>Istr.</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Veloc.</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>%1 is no taught program: row %2 is not an instruction.</source>
+        <translation>%1 non è un programma appreso: la riga %2 non è un&apos;istruzione.</translation>
+    </message>
+</context>
+<context>
+    <name>TeachScreen</name>
+    <message>
+        <source>Joint</source>
+        <translation>Giunti</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Lineare</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Altro</translation>
+    </message>
+    <message>
+        <source>G04 F1 wait</source>
+        <translation>G04 F1 attesa</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Scegli</translation>
+    </message>
+    <message>
+        <source>Clearing: %1 %</source>
+        <translation>Svuotamento: %1 %</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>Store</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Svuota</translation>
+    </message>
+    <message>
+        <source>The taught program has changes that are not stored.</source>
+        <translation>Il programma appreso ha modifiche non salvate.</translation>
+    </message>
+    <message>
+        <source>%1 loaded, instructions: %2.</source>
+        <translation>%1 caricato, istruzioni: %2.</translation>
+    </message>
+    <message>
+        <source>%1 stored, instructions: %2.</source>
+        <translation>%1 salvato, istruzioni: %2.</translation>
+    </message>
+    <message>
+        <source>Loading replaces what was changed and is not stored.</source>
+        <translation>Il caricamento sostituisce le modifiche non salvate.</translation>
+    </message>
+    <message>
+        <source>Load a taught program</source>
+        <translation>Carica un programma appreso</translation>
+    </message>
+    <message>
+        <source>Remove all %1 instructions?</source>
+        <translation>Eliminare tutte le %1 istruzioni?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Load brings the stored ones back.</source>
+        <translation>Istruzioni eliminate: %1. &quot;Carica&quot; riporta quelle salvate.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Vai</translation>
+    </message>
+    <message>
+        <source>There is no instruction to delete.</source>
+        <translation>Nessuna istruzione da eliminare.</translation>
+    </message>
+    <message>
+        <source>Point for instruction %1</source>
+        <translation>Punto per l&apos;istruzione %1</translation>
+    </message>
+    <message>
+        <source>Instructions that now name point %1 &quot;%2&quot;: %3.</source>
+        <translation>Istruzioni che ora indicano il punto %1 &quot;%2&quot;: %3.</translation>
+    </message>
+    <message>
+        <source>Speed for instruction %1</source>
+        <translation>Velocità per l&apos;istruzione %1</translation>
+    </message>
+    <message>
+        <source>Instructions that now name speed %1 &quot;%2&quot;: %3.</source>
+        <translation>Istruzioni che ora indicano la velocità %1 &quot;%2&quot;: %3.</translation>
+    </message>
+    <message>
+        <source>Taught program</source>
+        <translation>Programma appreso</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Impossibile creare la cartella %1.</translation>
+    </message>
+    <message>
+        <source>What step %1 touches is not on the screen.</source>
+        <translation>Ciò che il passo %1 tocca non è sullo schermo.</translation>
+    </message>
+    <message>
+        <source>Step %1 expects a dialog, and none is open.</source>
+        <translation>Il passo %1 attende una finestra di dialogo, e nessuna è aperta.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be written.</source>
+        <translation>Impossibile scrivere l&apos;immagine %1.</translation>
+    </message>
+</context>
+<context>
+    <name>VariablesScreen</name>
+    <message>
+        <source>Machine variables</source>
+        <translation>Variabili macchina</translation>
+    </message>
+    <message>
+        <source>Store</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>The variables have changes that are not stored.</source>
+        <translation>Le variabili hanno modifiche non salvate.</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1.</source>
+        <translation>Variabili salvate: %1.</translation>
+    </message>
+</context>
+</TS>

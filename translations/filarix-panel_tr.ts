@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name>BarPager</name>
+    <message>
+        <source>More</source>
+        <translation>Daha</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsScreen</name>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>Cid</source>
+        <translation>Cid</translation>
+    </message>
+    <message>
+        <source>Baud</source>
+        <translation>Baud</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Edit the addresses</source>
+        <translation>Adresleri düzenle</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Bağlantılar</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1 cannot be written.</source>
+        <translation>Adresler kaydedilmedi: %1 yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>No address was changed.</source>
+        <translation>Hiçbir adres değişmedi.</translation>
+    </message>
+    <message>
+        <source>Stored: %1.</source>
+        <translation>Kaydedildi: %1.</translation>
+    </message>
+    <message>
+        <source>not set yet</source>
+        <translation>henüz ayarlanmadı</translation>
+    </message>
+</context>
+<context>
+    <name>FilesScreen</name>
+    <message>
+        <source>Plug</source>
+        <translation>Tak</translation>
+    </message>
+    <message>
+        <source>Pull</source>
+        <translation>Çıkar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Adlandır</translation>
+    </message>
+    <message>
+        <source>I/E</source>
+        <translation>Aktar</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Bellek</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Adlar</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programlar</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Yol</translation>
+    </message>
+    <message>
+        <source>Files and stick</source>
+        <translation>Dosyalar ve bellek</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>takılı</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>yok</translation>
+    </message>
+    <message>
+        <source>The stick is in; all file names are safe.</source>
+        <translation>Bellek takıldı; tüm dosya adları güvenli.</translation>
+    </message>
+    <message>
+        <source>The stick is out.</source>
+        <translation>Bellek çıkarıldı.</translation>
+    </message>
+    <message>
+        <source>Pick a path</source>
+        <translation>Yol seç</translation>
+    </message>
+    <message>
+        <source>simulated by %1</source>
+        <translation>benzetim: %1</translation>
+    </message>
+    <message>
+        <source>In. Files: %1, </source>
+        <translation>Takılı. Dosya: %1, </translation>
+    </message>
+    <message>
+        <source>Out. </source>
+        <translation>Yok. </translation>
+    </message>
+    <message>
+        <source>All are safe for the transfer</source>
+        <translation>Tümü aktarım için güvenli</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1</source>
+        <translation>Güvenli olmayan ad: %1</translation>
+    </message>
+    <message>
+        <source>Files: %1, </source>
+        <translation>Dosya: %1, </translation>
+    </message>
+    <message>
+        <source>%1 KB of %2 MB</source>
+        <translation>%1 KB / %2 MB</translation>
+    </message>
+    <message>
+        <source>None picked yet</source>
+        <translation>Henüz seçilmedi</translation>
+    </message>
+</context>
+<context>
+    <name>ImportGuard</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>ve %1 tane daha</translation>
+    </message>
+    <message>
+        <source>The transfer would not take these file names for what they are. Rename?</source>
+        <translation>Aktarım bu dosya adlarını yanlış anlar. Yeniden adlandırılsın mı?</translation>
+    </message>
+    <message>
+        <source>File names</source>
+        <translation>Dosya adları</translation>
+    </message>
+    <message>
+        <source>Not renamed. Import and export stay closed until the names are safe.</source>
+        <translation>Yeniden adlandırılmadı. Adlar güvenli olana kadar içe ve dışa aktarma kapalı kalır.</translation>
+    </message>
+    <message>
+        <source>Files that could not be renamed: %1. Is the stick write-protected?</source>
+        <translation>Yeniden adlandırılamayan dosya: %1. Bellek yazmaya karşı korumalı mı?</translation>
+    </message>
+    <message>
+        <source>Files renamed: %1.</source>
+        <translation>Yeniden adlandırılan dosya: %1.</translation>
+    </message>
+    <message>
+        <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
+        <translation>Aktarım yok: %1 yolunda aktarımın yanlış anlayacağı karakterler var.</translation>
+    </message>
+</context>
+<context>
+    <name>ListScreen</name>
+    <message>
+        <source>First</source>
+        <translation>Baş</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Sayfa</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Son</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+</context>
+<context>
+    <name>PanelWindow</name>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Teach</source>
+        <translation>Öğretme</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Değişken</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Bağlantılar</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>%1[*] - Winding panel</source>
+        <translation>%1[*] - Sarım paneli</translation>
+    </message>
+</context>
+<context>
+    <name>PlcTransfer</name>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
+    </message>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Henüz yüklenecek program yok. Önce bir adla kaydedin.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>%1 programı panelde yok. Yeniden kaydedip yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 bir program dosyası değil.</translation>
+    </message>
+    <message>
+        <source>The PLC does not answer: there is no folder %1.</source>
+        <translation>PLC yanıt vermiyor: %1 klasörü yok.</translation>
+    </message>
+    <message>
+        <source>The PLC folder is the program directory itself. Choose another one.</source>
+        <translation>PLC klasörü program dizininin kendisi. Başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>The program %1 is larger than the PLC takes (%2 MB).</source>
+        <translation>%1 programı PLC&apos;nin alabileceğinden büyük (%2 MB).</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>%1 programı okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The PLC does not take the program: %1.</source>
+        <translation>PLC programı almıyor: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC cannot be read back: %1.</source>
+        <translation>PLC&apos;ye ulaşan geri okunamıyor: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
+        <translation>PLC&apos;ye ulaşan, gönderilenden farklı. Geri alındı; yeniden yükleyin.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramScreen</name>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 PLC&apos;de: %2 bayt, karşılaştırıldı.</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Yeni program</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Bul</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Yinele</translation>
+    </message>
+    <message>
+        <source>A download is running. Let it end, or stop it first.</source>
+        <translation>Yükleme sürüyor. Bitmesini bekleyin ya da önce durdurun.</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 içinde kaydedilmemiş değişiklikler var.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>%1 PLC&apos;ye yükleniyor: %2 %</translation>
+    </message>
+    <message>
+        <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
+        <translation>Makine zaten %1 &quot;%2&quot; noktasında: eklenecek bir şey yok.</translation>
+    </message>
+    <message>
+        <source>Point %1 &quot;%2&quot; inserted: %3</source>
+        <translation>%1 &quot;%2&quot; noktası eklendi: %3</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>PLC</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>meşgul</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>hazır</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>yok</translation>
+    </message>
+</context>
+<context>
+    <name>RowFile</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 yazılamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a text file.</source>
+        <translation>%1 bir metin dosyası değil.</translation>
+    </message>
+</context>
+<context>
+    <name>Stick</name>
+    <message>
+        <source>The stick is the panel&apos;s own: plug it into the panel.</source>
+        <translation>Bellek panelin kendisinin: panele takın.</translation>
+    </message>
+    <message>
+        <source>Another stick is plugged: %1 is there already.</source>
+        <translation>Başka bir bellek takılı: %1 zaten var.</translation>
+    </message>
+    <message>
+        <source>The folder %1, which stands for the stick, cannot be made.</source>
+        <translation>Belleğin yerine geçen %1 klasörü oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>The marker %1 cannot be made: %2.</source>
+        <translation>%1 işareti oluşturulamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
+        <translation>%1 bağlama noktası bu programın değiştirebileceği bir yer değil. Bellek denemek için &quot;./run --stick DIR&quot; ile başlatın.</translation>
+    </message>
+</context>
+<context>
+    <name>TablePicker</name>
+    <message>
+        <source>No.</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtProgram</name>
+    <message>
+        <source>Instr.</source>
+        <translation>Komut</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Nokta</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Hız</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>%1 is no taught program: row %2 is not an instruction.</source>
+        <translation>%1 öğretilmiş bir program değil: %2. satır komut değil.</translation>
+    </message>
+</context>
+<context>
+    <name>TeachScreen</name>
+    <message>
+        <source>Joint</source>
+        <translation>Eklem</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Doğru</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Diğer</translation>
+    </message>
+    <message>
+        <source>G04 F1 wait</source>
+        <translation>G04 F1 bekle</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
+        <source>Clearing: %1 %</source>
+        <translation>Temizleniyor: %1 %</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Aç</translation>
+    </message>
+    <message>
+        <source>Store</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
+        <source>The taught program has changes that are not stored.</source>
+        <translation>Öğretilmiş programda kaydedilmemiş değişiklikler var.</translation>
+    </message>
+    <message>
+        <source>%1 loaded, instructions: %2.</source>
+        <translation>%1 açıldı, komut: %2.</translation>
+    </message>
+    <message>
+        <source>%1 stored, instructions: %2.</source>
+        <translation>%1 kaydedildi, komut: %2.</translation>
+    </message>
+    <message>
+        <source>Loading replaces what was changed and is not stored.</source>
+        <translation>Açmak, kaydedilmemiş değişiklikleri siler.</translation>
+    </message>
+    <message>
+        <source>Load a taught program</source>
+        <translation>Öğretilmiş program aç</translation>
+    </message>
+    <message>
+        <source>Remove all %1 instructions?</source>
+        <translation>%1 komutun tümü silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Load brings the stored ones back.</source>
+        <translation>Silinen komut: %1. &quot;Aç&quot; kaydedilenleri geri getirir.</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Git</translation>
+    </message>
+    <message>
+        <source>There is no instruction to delete.</source>
+        <translation>Silinecek komut yok.</translation>
+    </message>
+    <message>
+        <source>Point for instruction %1</source>
+        <translation>%1. komutun noktası</translation>
+    </message>
+    <message>
+        <source>Instructions that now name point %1 &quot;%2&quot;: %3.</source>
+        <translation>Artık %1 &quot;%2&quot; noktasını kullanan komut: %3.</translation>
+    </message>
+    <message>
+        <source>Speed for instruction %1</source>
+        <translation>%1. komutun hızı</translation>
+    </message>
+    <message>
+        <source>Instructions that now name speed %1 &quot;%2&quot;: %3.</source>
+        <translation>Artık %1 &quot;%2&quot; hızını kullanan komut: %3.</translation>
+    </message>
+    <message>
+        <source>Taught program</source>
+        <translation>Öğretilmiş program</translation>
+    </message>
+</context>
+<context>
+    <name>Tour</name>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>%1 klasörü oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>What step %1 touches is not on the screen.</source>
+        <translation>%1. adımın dokunduğu şey ekranda yok.</translation>
+    </message>
+    <message>
+        <source>Step %1 expects a dialog, and none is open.</source>
+        <translation>%1. adım bir iletişim kutusu bekliyor, açık olan yok.</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be written.</source>
+        <translation>%1 resmi yazılamıyor.</translation>
+    </message>
+</context>
+<context>
+    <name>VariablesScreen</name>
+    <message>
+        <source>Machine variables</source>
+        <translation>Makine değişkenleri</translation>
+    </message>
+    <message>
+        <source>Store</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>The variables have changes that are not stored.</source>
+        <translation>Değişkenlerde kaydedilmemiş değişiklikler var.</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1.</source>
+        <translation>Kaydedilen değişken: %1.</translation>
+    </message>
+</context>
+</TS>
