@@ -5,16 +5,16 @@
 #
 #   runtime         libFilarixModule.so.1, all that a panel needs of us
 #   development     headers, the link name, and the CMake, pkg-config and qmake packages
+#   l10n            the library's translations, which hosts load
 #   device-headers  the interface of the panel's device library, for hosts that use it themselves
-#   simulator       the stand-in device library
-#   panel           filarix-panel with its manual page
+#   simulator       the stand-in device library with its translations
+#   panel           filarix-panel with its manual page and its translations
 #   doc             documentation for hosts' developers
 #
-# A plain install takes the first two. The others are installed by name only, so that the stand-in
+# A plain install takes the first three. The others are installed by name only, so that the stand-in
 # never reaches a panel by accident. Everything may be moved as a whole, lie in a sysroot or be
 # installed with DESTDIR: the packages find their files from where they are themselves.
 
-include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 if(FILARIX_QT EQUAL 5)
@@ -90,6 +90,7 @@ install(EXPORT FilarixModuleTargets
 configure_package_config_file(
   cmake/FilarixModuleConfig.cmake.in FilarixModuleConfig.cmake
   INSTALL_DESTINATION "${FILARIX_INSTALL_CMAKEDIR}"
+  PATH_VARS FILARIX_TRANSLATIONS_DIR
   NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(FilarixModuleConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
@@ -102,6 +103,7 @@ set(pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 filarix_relative_path(FILARIX_PREFIX_FROM_PKGCONFIG "${pkgconfig_dir}" ".")
 filarix_relative_path(FILARIX_LIBDIR_FROM_PREFIX "." "${CMAKE_INSTALL_LIBDIR}")
 filarix_relative_path(FILARIX_HEADERDIR_FROM_PREFIX "." "${FILARIX_INSTALL_HEADERDIR}")
+filarix_relative_path(FILARIX_TRANSLATIONS_FROM_PREFIX "." "${FILARIX_TRANSLATIONS_DIR}")
 configure_file(cmake/filarixmodule.pc.in filarixmodule.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixmodule.pc"
   DESTINATION "${pkgconfig_dir}" COMPONENT development)
@@ -111,9 +113,22 @@ filarix_relative_path(FILARIX_LIBDIR_FROM_FEATURES
   "${FILARIX_QMAKE_FEATURES_DIR}" "${CMAKE_INSTALL_LIBDIR}")
 filarix_relative_path(FILARIX_HEADERDIR_FROM_FEATURES
   "${FILARIX_QMAKE_FEATURES_DIR}" "${FILARIX_INSTALL_HEADERDIR}")
+filarix_relative_path(FILARIX_TRANSLATIONS_FROM_FEATURES
+  "${FILARIX_QMAKE_FEATURES_DIR}" "${FILARIX_TRANSLATIONS_DIR}")
 configure_file(cmake/filarixmodule.prf.in filarixmodule.prf @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixmodule.prf"
   DESTINATION "${FILARIX_QMAKE_FEATURES_DIR}" COMPONENT development)
+
+function(filarix_install_translations name)
+  set(files "")
+  foreach(language IN LISTS FILARIX_LANGUAGES)
+    list(APPEND files "${PROJECT_BINARY_DIR}/translations/${name}_${language}.qm")
+  endforeach()
+  install(FILES ${files} DESTINATION "${FILARIX_TRANSLATIONS_DIR}" ${ARGN})
+endfunction()
+if(FILARIX_TRANSLATIONS)
+  filarix_install_translations(filarix COMPONENT l10n)
+endif()
 
 install(DIRECTORY "${FILARIX_HMIDEVICE_INCLUDE_DIR}/hmidevice"
   DESTINATION "${FILARIX_INSTALL_HEADERDIR}" COMPONENT device-headers EXCLUDE_FROM_ALL
@@ -122,6 +137,9 @@ if(TARGET HMIDevice)
   install(TARGETS HMIDevice
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
       COMPONENT simulator NAMELINK_SKIP EXCLUDE_FROM_ALL)
+  if(FILARIX_TRANSLATIONS)
+    filarix_install_translations(hmidevice-sim COMPONENT simulator EXCLUDE_FROM_ALL)
+  endif()
 endif()
 if(TARGET filarix-panel)
   filarix_relative_path(libdir_from_bindir "${CMAKE_INSTALL_BINDIR}" "${CMAKE_INSTALL_LIBDIR}")
@@ -130,6 +148,9 @@ if(TARGET filarix-panel)
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel EXCLUDE_FROM_ALL)
   install(FILES panel/filarix-panel.1
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT panel EXCLUDE_FROM_ALL)
+  if(FILARIX_TRANSLATIONS)
+    filarix_install_translations(filarix-panel COMPONENT panel EXCLUDE_FROM_ALL)
+  endif()
 endif()
 
 install(FILES docs/abi.md docs/security.md

@@ -22,6 +22,7 @@ install() {
 : >install.log
 install --prefix "$WORK/prefix" --component runtime
 install --prefix "$WORK/prefix" --component development
+install --prefix "$WORK/prefix" --component l10n
 mv prefix moved
 DESTDIR=$WORK/sysroot install --prefix /usr
 install --prefix "$WORK/device" --component simulator

@@ -26,6 +26,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTextDocument>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -84,6 +85,18 @@ void useListSide()
     check(editor.getData() == cells, "a table row keeps its cells");
 }
 
+#ifdef TRANSLATIONS
+void useTranslations()
+{
+    QTranslator german;
+    check(german.load("filarix_de", TRANSLATIONS), "the translations are where the package says");
+    QCoreApplication::installTranslator(&german);
+    check(MessageBox::tr("About Corvane") == QString::fromUtf8("\303\234ber Corvane"),
+          "the library speaks German");
+    QCoreApplication::removeTranslator(&german);
+}
+#endif
+
 void useTheRest()
 {
     Question question;
@@ -127,5 +140,8 @@ int main(int argc, char **argv)
     useProgramSide();
     useListSide();
     useTheRest();
+#ifdef TRANSLATIONS
+    useTranslations();
+#endif
     return failures ? 1 : 0;
 }
