@@ -216,7 +216,7 @@ void MJLine::connectFirstLine()
     connect(m_tEdit, SIGNAL(changed(QString)), this, SLOT(on_vars1_change(QString)));
 }
 
-QWidget *MJLine::createWidget(int index, const QString &text, float widthFactor, float)
+QWidget *MJLine::createWidget(int index, QString text, float widthFactor, float)
 {
     const bool isKnown = index >= 0 && index < widgetTypeCount;
     const WidgetType &entry = m_widgetType[isKnown ? index : detailAreaPlace.index];
@@ -293,7 +293,7 @@ void MJLine::showSuffix()
     setText(m_insLabel, getIns() + suffix(m_expanded));
 }
 
-void MJLine::setText(QWidget *field, const QString &text)
+void MJLine::setText(QWidget *field, QString text)
 {
     RowField::setText(field, text);
 }
@@ -303,7 +303,7 @@ QString MJLine::getText(QWidget *field)
     return RowField::text(field);
 }
 
-void MJLine::setNum(const QString &text)
+void MJLine::setNum(QString text)
 {
     setText(m_numLabel, text);
 }

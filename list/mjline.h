@@ -42,7 +42,7 @@ public:
     /// Builds one field as a child of the row: \a index looks up its class and style sheet, an
     /// index outside the table gives an empty area. \a widthFactor is the number of such fields
     /// that would fill the list. The height factor is ignored: layouts give the height.
-    QWidget *createWidget(int index, const QString &text, float widthFactor, float heightFactor);
+    QWidget *createWidget(int index, QString text, float widthFactor, float heightFactor);
     /// Builds the detail area, at the first call only.
     void createLine2();
 
@@ -53,12 +53,12 @@ public:
     bool isExpanded() const;
 
     /// Writes a field by its class; no field emits a signal. Any other widget is left alone.
-    void setText(QWidget *field, const QString &text);
+    void setText(QWidget *field, QString text);
     /// Reads a field by its class. Empty for any other widget.
     QString getText(QWidget *field);
 
     /// Sets the row's number, by which it reports itself.
-    void setNum(const QString &text);
+    void setNum(QString text);
     /// The row's number, as the text that it shows.
     QString getNum();
     /// The name of the instruction, without its arrow; all that precedes a "(".

@@ -81,7 +81,7 @@ int shownPort(int com)
 
 } // namespace
 
-ConnEditor::ConnEditor(const QString &fileName, QWidget *parent)
+ConnEditor::ConnEditor(QString fileName, QWidget *parent)
     : QDialog(parent, Qt::WindowFlags()), m_width(-1), m_height(-1), m_fileName(fileName)
 {
     setWindowTitle(tr("Connect Table"));

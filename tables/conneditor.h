@@ -29,7 +29,7 @@ class FILARIX_EXPORT ConnEditor : public QDialog
 
 public:
     /// \a fileName is the path of the connection file, in INI format. \a parent may be null.
-    ConnEditor(const QString &fileName, QWidget *parent);
+    ConnEditor(QString fileName, QWidget *parent);
 
     /// Fills the table from the file. To be called once before the dialog is shown; called again,
     /// it reads the file anew and drops what the operator has entered. The first 1000 connections

@@ -113,8 +113,7 @@ void DataEditor::createFurtherCell(int column, const QString &text, bool connect
     }
 }
 
-void DataEditor::CreateWidget(QWidget **out, int type, const QString &text, const QString &style,
-                              float ratio)
+void DataEditor::CreateWidget(QWidget **out, int type, QString text, QString style, float ratio)
 {
     int fieldType = type;
     if (type == RowField::NumberField && (m_count == 2 || m_count == 4 || m_count == 6))
@@ -172,12 +171,12 @@ void DataEditor::setData(QStringList &list)
         setText(cellAt(column), list.at(column));
 }
 
-void DataEditor::setIndex(const QString &text)
+void DataEditor::setIndex(QString text)
 {
     setText(m_firstCell, text);
 }
 
-void DataEditor::setText(QWidget *cell, const QString &text)
+void DataEditor::setText(QWidget *cell, QString text)
 {
     RowField::setText(cell, text);
 }

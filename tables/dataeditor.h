@@ -38,8 +38,7 @@ public:
     /// Makes a cell and stores it through \a out: a clickable label (\a type 0), a passive one (1),
     /// a field to edit (2) or an empty area (any other). \a ratio is the number of such cells that
     /// would fill the table. The row owns the cell; it is not yet in the row's layout.
-    void CreateWidget(QWidget **out, int type, const QString &text, const QString &style,
-                      float ratio);
+    void CreateWidget(QWidget **out, int type, QString text, QString style, float ratio);
 
     /// The cells' texts, as many strings as the row was made from. Where two strings share a cell
     /// the first comes back empty, and a string without a cell as well.
@@ -48,10 +47,10 @@ public:
     /// two strings share a cell and neither is empty, it shows both with ":" between.
     void setData(QStringList &list);
     /// Writes the first cell, the row's number.
-    void setIndex(const QString &text);
+    void setIndex(QString text);
 
     /// Writes a cell of this row. Null and an area are left alone.
-    void setText(QWidget *cell, const QString &text);
+    void setText(QWidget *cell, QString text);
     /// Reads a cell of this row. Empty for null and for an area.
     QString getText(QWidget *cell);
 

@@ -56,8 +56,8 @@ QString run(QWidget *parent, const QString &title, const QString &path, QDir::Fi
 
 } // namespace
 
-FileDialog::FileDialog(QDir::Filters filter, const QString &title, const QString &path,
-                       QWidget *parent, Qt::WindowFlags flags)
+FileDialog::FileDialog(QDir::Filters filter, QString title, QString path, QWidget *parent,
+                       Qt::WindowFlags flags)
     : QDialog(parent, flags), m_filter(filter), m_selected(nullptr)
 {
     setWindowTitle(title);
@@ -109,13 +109,13 @@ FileDialog::FileDialog(QDir::Filters filter, const QString &title, const QString
     setFixedHeight(dialogHeight(m_height));
 }
 
-QString FileDialog::getOpenFileName(QWidget *parent, const QString &title, const QString &path,
+QString FileDialog::getOpenFileName(QWidget *parent, QString title, QString path,
                                     QDir::Filters filter)
 {
     return run(parent, title, path, filter);
 }
 
-QString FileDialog::getExistingDirectory(QWidget *parent, const QString &title, const QString &path,
+QString FileDialog::getExistingDirectory(QWidget *parent, QString title, QString path,
                                          QDir::Filters filter)
 {
     return run(parent, title, path, filter);

@@ -33,16 +33,16 @@ public:
     /// A \a path that does not start with "/" counts from "/mnt/Storage/", and so does an empty
     /// one. A directory is opened at its entries with or without a "/" at its end; without one, the
     /// first touch replaces the directory's own name in the path. \a parent may be null.
-    FileDialog(QDir::Filters filter, const QString &title, const QString &path, QWidget *parent,
+    FileDialog(QDir::Filters filter, QString title, QString path, QWidget *parent,
                Qt::WindowFlags flags);
 
     /// Shows the dialog modally, with the arguments of the constructor.
     /// \returns the current path as it stood at OK; an empty string means Cancel. The two do the
     /// same: a caller picks the one whose name says what is meant.
-    static QString getOpenFileName(QWidget *parent, const QString &title, const QString &path,
+    static QString getOpenFileName(QWidget *parent, QString title, QString path,
                                    QDir::Filters filter);
     /// The same as getOpenFileName().
-    static QString getExistingDirectory(QWidget *parent, const QString &title, const QString &path,
+    static QString getExistingDirectory(QWidget *parent, QString title, QString path,
                                         QDir::Filters filter);
 
     /// Reads the directory anew. What can't be read shows as an empty list.

@@ -146,7 +146,7 @@ bool ImportManage::isUsbMounted()
     return m_usbPresent;
 }
 
-quint32 ImportManage::fontUsedSpace() const
+quint32 ImportManage::fontUsedSpace()
 {
     quint32 bytes = 0;
     Q_FOREACH (const QFileInfo &entry, QDir(m_hmiDir).entryInfoList()) {
@@ -156,7 +156,7 @@ quint32 ImportManage::fontUsedSpace() const
     return bytes;
 }
 
-int ImportManage::isSatisfyTheCondition(const QString &name, bool cover) const
+int ImportManage::isSatisfyTheCondition(const QString &name, bool cover)
 {
     const QFileInfo source(join(m_usbDir, name));
     if (source.isDir())

@@ -50,12 +50,12 @@ public:
 
     /// Bytes in the program directory: plain files and links to such, neither hidden ones nor those
     /// of subdirectories. The sum wraps at 32 bits; a missing directory gives 0.
-    quint32 fontUsedSpace() const;
+    quint32 fontUsedSpace();
 
     /// Whether the file \a name of the stick may be copied to the panel: 30 MiB is the limit of
     /// all files there together. With \a cover the size of the file that it replaces is credited.
     /// \returns one of Condition.
-    int isSatisfyTheCondition(const QString &name, bool cover) const;
+    int isSatisfyTheCondition(const QString &name, bool cover);
 
     /// Copies srcDir/srcName to dstDir/dstName. Characters beyond Latin-1 become "?", and blanks
     /// and shell characters are not quoted.
