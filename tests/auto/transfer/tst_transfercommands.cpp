@@ -128,6 +128,10 @@ private Q_SLOTS:
     void stickPulledBetweenTestAndCommand_data() { addWays(true, false); }
     void stickPulledBetweenTestAndCommand();
 
+    void messagesAreTranslatedInTheClassesContext_data() { addWays(true, true); }
+    void messagesAreTranslatedInTheClassesContext();
+    void refusalsAreTranslatedInTheClassesContext();
+
     void everythingWithTheRealTools();
 
 private:
@@ -1011,6 +1015,92 @@ void TestTransferCommands::stickPulledBetweenTestAndCommand()
     EXPECT_CRITICAL(driver.boxes().value(0), way, "Copy file failed!");
     QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << cp(way, "part.cnc"));
     QCOMPARE(QFile::exists(programDir() + "/part.cnc"), way->fromHmi);
+}
+
+// A file's name and the question mark behind it are no text of ours.
+void TestTransferCommands::messagesAreTranslatedInTheClassesContext()
+{
+    QFETCH(const Way *, way);
+    const bool copies = *way->coverQuestion;
+    writeFile(sourceDir(way) + "/part.cnc", "x");
+    const TestCompat::MarkingTranslator translator("ImportManage");
+    Manager manager;
+    QPushButton *button = manager.button(QByteArray(way->button) + '*');
+    QVERIFY(button);
+    Shell::standIn("cp", "exit 1\n");
+    Shell::standIn("rm", "exit 1\n");
+    QString during;
+    Shell::setBefore([&] { during = manager.status->text(); });
+    ModalDriver driver;
+    QStringList texts;
+
+    texts << QString(way->nothingSelected) + '*';
+    driver.press(QMessageBox::Ok);
+    button->click();
+    if (copies) {
+        texts << "Copy file failed!*";
+        QVERIFY(select(manager, way, "part.cnc"));
+        driver.press(QMessageBox::Ok);
+        button->click();
+
+        texts << QString("part.cnc") + way->coverQuestion + '*' << "Can't cover this file!*";
+        writeFile(targetDir(way) + "/part.cnc", "old");
+        QVERIFY(select(manager, way, "part.cnc"));
+        driver.press(QMessageBox::Yes);
+        driver.press(QMessageBox::Ok);
+        button->click();
+
+        texts << QString(way->noStick) + '*';
+        QVERIFY(select(manager, way, "part.cnc"));
+        pullStick();
+        driver.press(QMessageBox::Ok);
+        button->click();
+    } else {
+        texts << "Are you sure to delete *part.cnc?"
+              << "Can't delete this file.*";
+        QVERIFY(select(manager, way, "part.cnc"));
+        driver.press(QMessageBox::Yes);
+        driver.press(QMessageBox::Ok);
+        button->click();
+    }
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(during, QString("Processing...*"));
+    QStringList shown;
+    Q_FOREACH (const ModalDriver::Box &box, driver.boxes()) {
+        QCOMPARE(box.title, QString(way->title) + '*');
+        shown << box.text;
+    }
+    QCOMPARE(shown, texts);
+}
+
+void TestTransferCommands::refusalsAreTranslatedInTheClassesContext()
+{
+    writeSparse(stickDir() + "/huge.cnc", limit + 1);
+    writeFile(stickDir() + "/folder", "new");
+    writeFile(programDir() + "/folder/inner", "old");
+    writeFile(stickDir() + "/part", "x");
+    const TestCompat::MarkingTranslator translator("ImportManage");
+    Manager manager;
+    ModalDriver driver;
+
+    QVERIFY(Manager::select(manager.usbView, "huge.cnc"));
+    driver.press(QMessageBox::Ok);
+    manager.button("<<*")->click();
+    // The folder's own size is more than all that the files use.
+    QVERIFY(Manager::select(manager.usbView, "folder"));
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    manager.button("<<*")->click();
+    QVERIFY(Manager::select(manager.usbView, "part"));
+    QVERIFY(QFile::remove(stickDir() + "/part"));
+    writeFile(stickDir() + "/part/inner", "x");
+    driver.press(QMessageBox::Ok);
+    manager.button("<<*")->click();
+
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(driver.boxes().value(0).text, QString("Not enough Space!*"));
+    QCOMPARE(driver.boxes().value(2).text, QString("Unexpected error!*"));
+    QCOMPARE(driver.boxes().value(3).text, QString("Font file can not be a Dir!*"));
 }
 
 void TestTransferCommands::everythingWithTheRealTools()
