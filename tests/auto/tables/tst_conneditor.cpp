@@ -133,6 +133,7 @@ private Q_SLOTS:
     void okStoresTheAddressesAndNothingElse();
     void shownDefaultIsStoredByOk();
     void partlyTypedAddressIsStoredAsTyped();
+    void okAndCancelEndAsTheDerivedClassDoes();
     void cancelStoresNothing();
     void connectionsOfOneNameShareTheAddress();
     void connectionWithoutANameHasTheBareKey();
@@ -662,6 +663,31 @@ void TestConnEditor::partlyTypedAddressIsStoredAsTyped()
     QVERIFY(stored(path).contains("PLCnew IP=10.0."));
     QVERIFY(stored(path).contains("Servonew IP="));
     QCOMPARE(table.dialog.result(), int(QDialog::Accepted));
+}
+
+namespace {
+
+class StayingEditor : public ConnEditor
+{
+public:
+    explicit StayingEditor(const QString &path) : ConnEditor(path, nullptr) {}
+    void accept() override { calls << "accept"; }
+    void reject() override { calls << "reject"; }
+    QStringList calls;
+};
+
+} // namespace
+
+void TestConnEditor::okAndCancelEndAsTheDerivedClassDoes()
+{
+    StayingEditor editor(nextPath());
+    editor.init_list();
+    editor.show();
+    Q_FOREACH (QPushButton *button, editor.findChildren<QPushButton *>())
+        button->click();
+    QCOMPARE(editor.calls, QStringList() << "accept"
+                                         << "reject");
+    QVERIFY(editor.isVisible());
 }
 
 void TestConnEditor::cancelStoresNothing()

@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedPointer>
 #include <QScrollArea>
 
 namespace {
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void okAtOnceGivesTheStartPath();
     void cancelGivesAnEmptyString_data();
     void cancelGivesAnEmptyString();
+    void okAndCancelEndAsTheDerivedClassDoes();
     void staticFunctionsPassTheirArguments_data();
     void staticFunctionsPassTheirArguments();
 
@@ -347,6 +349,32 @@ void TestFileDialog::cancelGivesAnEmptyString()
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(result, QString());
     QCOMPARE(FileDialog::m_returnStr, tree() + "/alpha.cnc");
+}
+
+namespace {
+
+class StayingDialog : public FileDialog
+{
+public:
+    explicit StayingDialog(const QString &path)
+        : FileDialog(everything(), "Title", path, nullptr, Qt::WindowTitleHint)
+    {}
+    void accept() override { calls << "accept"; }
+    void reject() override { calls << "reject"; }
+    QStringList calls;
+};
+
+} // namespace
+
+void TestFileDialog::okAndCancelEndAsTheDerivedClassDoes()
+{
+    StayingDialog dialog(tree());
+    dialog.show();
+    dialog.findChildren<QPushButton *>().value(2)->click();
+    dialog.findChildren<QPushButton *>().value(3)->click();
+    QCOMPARE(dialog.calls, QStringList() << "accept"
+                                         << "reject");
+    QVERIFY(dialog.isVisible());
 }
 
 void TestFileDialog::staticFunctionsPassTheirArguments_data()
@@ -670,7 +698,8 @@ void TestFileDialog::upFromATouchedFileShowsItsDirectory()
 
 void TestFileDialog::oldLinesStayAliveOutOfSight()
 {
-    Browser browser(tree() + '/');
+    QScopedPointer<Browser> opened(new Browser(tree() + '/'));
+    Browser &browser = *opened;
     browser.dialog.show();
     QList<QPointer<Label>> old;
     for (int i = 0; i < 3; ++i)
@@ -686,6 +715,9 @@ void TestFileDialog::oldLinesStayAliveOutOfSight()
     browser.up->click();
     QCOMPARE(browser.dialog.findChildren<Label *>().size(), 5);
     QVERIFY(browser.line(0)->isVisible());
+    opened.reset();
+    Q_FOREACH (const QPointer<Label> &line, old)
+        QVERIFY(!line);
 }
 
 void TestFileDialog::selectedLineOfAnOldListIsRestyledByTheNextTouch()

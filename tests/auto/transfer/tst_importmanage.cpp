@@ -64,6 +64,7 @@ private Q_SLOTS:
     void sourceThatWrapsTheSumIsAdmitted();
 
     void quitRejects();
+    void quitRejectsAsTheDerivedClassDoes();
 };
 
 void TestImportManage::isAnOrdinaryDialogWithTheFlagsAsked()
@@ -344,7 +345,7 @@ void TestImportManage::pluggedStickIsNoticedAtTheNextButtonPress()
     manager.dialog.show();
     plugStick();
     writeFile(stickDir() + "/part.cnc", "x");
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
     QVERIFY(manager.status->text().endsWith(" Usb not found!"));
 
     ModalDriver driver;
@@ -558,6 +559,27 @@ void TestImportManage::quitRejects()
     driver.then([&manager](QWidget *) { manager.button("Quit")->click(); });
     QCOMPARE(manager.dialog.exec(), int(QDialog::Rejected));
     QVERIFY2(driver.finished(), driver.report());
+}
+
+namespace {
+
+class StayingManager : public ImportManage
+{
+public:
+    StayingManager() : ImportManage(nullptr) {}
+    void reject() override { ++rejections; }
+    int rejections = 0;
+};
+
+} // namespace
+
+void TestImportManage::quitRejectsAsTheDerivedClassDoes()
+{
+    StayingManager manager;
+    manager.show();
+    manager.slot_quit();
+    QCOMPARE(manager.rejections, 1);
+    QVERIFY(manager.isVisible());
 }
 
 FILARIX_TEST_MAIN(TestImportManage)
