@@ -23,8 +23,11 @@ expect_text "The stick is in; all file names are safe."
 [ -e /tmp/udiskattach ] || desk_fail "the stick left no marker"
 desk_picture transfer-files.png
 
+# From the screen where operators miss a program; the files have the same key.
+touch_text Program
 touch_text I/E
 expect_text Quit
+desk_picture transfer-start.png
 
 touch_text fresh.cnc
 touch_text "<<"
@@ -61,6 +64,11 @@ desk_picture transfer-manager.png
 touch_text Quit
 expect_gone Quit
 
+touch_text Files
+touch_text I/E
+expect_text Quit
+touch_text Quit
+expect_gone Quit
 touch_text Pull
 expect_text "The stick is out."
 [ ! -e /tmp/udiskattach ] || desk_fail "the stick left its marker behind"
