@@ -31,7 +31,7 @@ public:
         std::fill(m_rules, m_rules + asciiCount, noRule);
         for (int rule = 0; rule < ruleCount; ++rule) {
             for (const char *first = rules[rule].firstCharacters; *first; ++first)
-                m_rules[int(*first)] = qint8(rule);
+                m_rules[uchar(*first)] = qint8(rule);
         }
     }
 
