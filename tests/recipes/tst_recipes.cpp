@@ -1,0 +1,416 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "editbuttons.h"
+#include "filarixtest.h"
+#include "languageswitch.h"
+#include "marktranslator.h"
+#include "modaldriver.h"
+#include "modifiedmark.h"
+#include "plcerror.h"
+#include "rowfile.h"
+#include "safedownload.h"
+#include "wfiledialog.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
+
+namespace {
+
+/// What a host has: a window, and its way to the editor. The buttons along which no bar holds go
+/// with it.
+class Host
+{
+public:
+    Host() : window(nullptr, 0) {}
+    ~Host()
+    {
+        Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets())
+            if (qobject_cast<QToolButton *>(widget))
+                delete widget;
+    }
+
+    WGCodeEditer *editor() { return window.findChild<WGCodeEditer *>(); }
+
+    /// Opens the program \a name the way the operator does.
+    void open(const QString &name)
+    {
+        ModalDriver driver;
+        driver.then([name](QWidget *dialog) { pick(dialog, name); });
+        QVERIFY(QMetaObject::invokeMethod(&window, "open"));
+        QVERIFY2(driver.finished(), driver.report());
+    }
+    void saveAs(const QString &name)
+    {
+        ModalDriver driver;
+        driver.then([name](QWidget *dialog) { pick(dialog, name); });
+        QVERIFY(QMetaObject::invokeMethod(&window, "saveAs"));
+        QVERIFY2(driver.finished(), driver.report());
+    }
+
+    QToolButton *button(const QString &text)
+    {
+        Q_FOREACH (QToolButton *button, window.findChildren<QToolButton *>())
+            if (button->text() == text)
+                return button;
+        return nullptr;
+    }
+
+    WMMainWindow window;
+
+private:
+    static void pick(QWidget *widget, const QString &name)
+    {
+        WFileDialog *dialog = qobject_cast<WFileDialog *>(widget);
+        QVERIFY(dialog);
+        dialog->findChild<QLineEdit *>()->setText(name);
+        QVERIFY(QMetaObject::invokeMethod(dialog, "on_applyButton_clicked"));
+    }
+};
+
+QString pathOf(const char *name)
+{
+    return FilarixTest::programDir() + QLatin1Char('/') + QLatin1String(name);
+}
+
+/// 600 lines: a comment before each 20 of code.
+QByteArray longProgram()
+{
+    QByteArray program;
+    for (int i = 1; i <= 600; ++i)
+        program += i % 20 == 1 ? QByteArray("; layer\n") : "G01 X" + QByteArray::number(i) + "\n";
+    return program;
+}
+
+QStringList title()
+{
+    return FilarixRows::titleRow("Instr.", "Point", "Speed", "Z", "T");
+}
+
+QList<QStringList> taught(int count)
+{
+    QList<QStringList> rows;
+    for (int i = 1; i <= count; ++i) {
+        FilarixRows::InstructionRow move(FilarixRows::InstructionRow::Linear, "Wind");
+        move.setJpos("P", i % 8).setV("V", 1).setZ("Z", "1.5").setT("T", "0").setRes("one layer");
+        rows.append(move.row(i));
+    }
+    return rows;
+}
+
+class RecordingDownload : public SafeDownload
+{
+public:
+    explicit RecordingDownload(WMMainWindow *window)
+        : SafeDownload(window), accepts(true), wasGreyed(false), m_window(window)
+    {}
+
+    bool accepts;
+    bool wasGreyed;
+    QList<QByteArray> sent;
+    QStringList told;
+
+protected:
+    bool transfer(const QByteArray &program) override
+    {
+        wasGreyed = m_window->isDownloading();
+        sent.append(program);
+        return accepts;
+    }
+    void tell(const QString &text) override { told.append(text); }
+
+private:
+    WMMainWindow *m_window;
+};
+
+void pressDownload(Host &host)
+{
+    host.button("D/L")->click();
+}
+
+} // namespace
+
+/// The recipes of the documentation, run as hosts would.
+class TestRecipes : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void modifiedMarkFollowsTheDocument();
+    void undoGoesBackToTheLoadedProgram();
+    void undoDoesNotTakeALongProgramApart();
+    void findOpensTheDialog();
+    void plcErrorIsShownInAShortProgram();
+    void plcErrorIsFoundBehindDroppedComments();
+    void plcErrorOfAnotherProgramIsNotGuessed();
+    void languageSwitchReachesTheWindowAndBack();
+    void languageThatIsMissingChangesNothing();
+    void downloadSendsWhatIsStoredAndShown();
+    void downloadOfALongProgramSendsItsComments();
+    void downloadGivesTheButtonBackAfterAFailure();
+    void downloadRefusesWhatIsNotOnTheScreen();
+    void downloadRefusesAProgramThatIsHalfLoaded();
+    void downloadRefusesAProgramWithoutAFile();
+    void exportedRowsComeBack();
+    void importRefusesRowsThatAListWouldTake();
+    void importOfAMissingFileLeavesTheList();
+    void exportThatFailsLeavesTheFile();
+    void manyRowsMakeOnePageOfWidgets();
+};
+
+void TestRecipes::modifiedMarkFollowsTheDocument()
+{
+    Host host;
+    followChanges(&host.window);
+    host.editor()->insertLine("G01 X1");
+    QVERIFY(host.window.isWindowModified());
+    host.saveAs("part.cnc");
+    QVERIFY(!host.window.isWindowModified());
+    QCOMPARE(host.window.windowTitle(), QString("part.cnc[*] - Application"));
+}
+
+void TestRecipes::undoGoesBackToTheLoadedProgram()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2");
+    Host host;
+    EditButtons buttons(&host.window);
+    host.open("part.cnc");
+    QVERIFY(!host.button("Undo")->isEnabled());
+    host.editor()->deleteLine();
+    QVERIFY(host.button("Undo")->isEnabled());
+    while (host.button("Undo")->isEnabled())
+        host.button("Undo")->click();
+    QCOMPARE(host.editor()->toPlainText(), QString("G01 X1\nM2"));
+}
+
+void TestRecipes::undoDoesNotTakeALongProgramApart()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    Host host;
+    EditButtons buttons(&host.window);
+    host.open("long.cnc");
+    QCOMPARE(host.editor()->blockCount(), 570);
+    QVERIFY(!host.button("Undo")->isEnabled());
+    host.editor()->insertLine("M30");
+    while (host.button("Undo")->isEnabled())
+        host.button("Undo")->click();
+    QCOMPARE(host.editor()->blockCount(), 570);
+}
+
+void TestRecipes::findOpensTheDialog()
+{
+    Host host;
+    EditButtons buttons(&host.window);
+    host.button("Find")->click();
+    QWidget *dialog = nullptr;
+    Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets())
+        if (widget->windowTitle() == QLatin1String("Find") && widget->isVisible())
+            dialog = widget;
+    QVERIFY(dialog);
+    QVERIFY(dialog->findChild<QCheckBox *>());
+}
+
+void TestRecipes::plcErrorIsShownInAShortProgram()
+{
+    writeFile(pathOf("part.cnc"), "; start\n\nG01 X1\nM2\n");
+    Host host;
+    host.open("part.cnc");
+    QVERIFY(goToPlcError(&host.window, 4));
+    QCOMPARE(host.editor()->curLineText(), QString("M2"));
+    QVERIFY(!goToPlcError(&host.window, 0));
+    QVERIFY(!goToPlcError(&host.window, 6));
+}
+
+void TestRecipes::plcErrorIsFoundBehindDroppedComments()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    Host host;
+    host.open("long.cnc");
+    QVERIFY(goToPlcError(&host.window, 600));
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X600"));
+    QVERIFY(goToPlcError(&host.window, 42));
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X42"));
+    QVERIFY(goToPlcError(&host.window, 41)); // a comment
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X40"));
+    QVERIFY(goToPlcError(&host.window, 1));
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X2"));
+}
+
+void TestRecipes::plcErrorOfAnotherProgramIsNotGuessed()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
+    Host host;
+    QVERIFY(!goToPlcError(&host.window, 1));
+    host.open("part.cnc");
+    host.editor()->insertLine("G01 X2");
+    QVERIFY(!goToPlcError(&host.window, 2));
+}
+
+void TestRecipes::languageSwitchReachesTheWindowAndBack()
+{
+    Host host;
+    {
+        LanguageSwitch language;
+        language.use(new MarkTranslator("+"));
+        QTRY_VERIFY(host.button("+Open"));
+    }
+    QTRY_VERIFY(host.button("Open"));
+}
+
+void TestRecipes::languageThatIsMissingChangesNothing()
+{
+    Host host;
+    LanguageSwitch language;
+    language.use(new MarkTranslator("+"));
+    QTRY_VERIFY(host.button("+Open"));
+    QVERIFY(!language.load("filarixmodule_xx", home()));
+    QCoreApplication::processEvents();
+    QVERIFY(host.button("+Open"));
+}
+
+void TestRecipes::downloadSendsWhatIsStoredAndShown()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
+    Host host;
+    RecordingDownload download(&host.window);
+    host.open("part.cnc");
+    pressDownload(host);
+    QCOMPARE(download.sent, QList<QByteArray>() << "G01 X1\nM2\n");
+    QCOMPARE(download.told, QStringList());
+    QVERIFY(download.wasGreyed);
+    QVERIFY(!host.window.isDownloading());
+    QVERIFY(host.button("D/L")->isEnabled());
+}
+
+void TestRecipes::downloadOfALongProgramSendsItsComments()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    Host host;
+    RecordingDownload download(&host.window);
+    host.open("long.cnc");
+    pressDownload(host);
+    QCOMPARE(download.sent, QList<QByteArray>() << longProgram());
+}
+
+void TestRecipes::downloadGivesTheButtonBackAfterAFailure()
+{
+    writeFile(pathOf("part.cnc"), "M2\n");
+    Host host;
+    RecordingDownload download(&host.window);
+    download.accepts = false;
+    host.open("part.cnc");
+    pressDownload(host);
+    QCOMPARE(download.told.size(), 1);
+    QVERIFY(!host.window.isDownloading());
+}
+
+void TestRecipes::downloadRefusesWhatIsNotOnTheScreen()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
+    Host host;
+    RecordingDownload download(&host.window);
+    host.open("part.cnc");
+    host.editor()->insertLine("G01 X2");
+    ModalDriver driver;
+    driver.press(QMessageBox::Discard);
+    pressDownload(host);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(download.sent, QList<QByteArray>());
+    QCOMPARE(download.told.size(), 1);
+}
+
+void TestRecipes::downloadRefusesAProgramThatIsHalfLoaded()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    Host host;
+    RecordingDownload download(&host.window);
+    host.open("long.cnc");
+    // What an abort leaves: the front part, under the file's name, without a mark.
+    host.editor()->setPlainText(host.editor()->toPlainText().left(500));
+    host.editor()->document()->setModified(false);
+    pressDownload(host);
+    QCOMPARE(download.sent, QList<QByteArray>());
+    QCOMPARE(download.told.size(), 1);
+}
+
+void TestRecipes::downloadRefusesAProgramWithoutAFile()
+{
+    Host host;
+    RecordingDownload download(&host.window);
+    pressDownload(host);
+    QCOMPARE(download.sent, QList<QByteArray>());
+    QCOMPARE(download.told.size(), 1);
+}
+
+void TestRecipes::exportedRowsComeBack()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    QList<QStringList> rows = taught(30);
+    rows[4][FilarixRows::Ins] = QString::fromUtf8("tab\tand\nline\r\n \\t end ä");
+    fillRows(&list, rows);
+    const RowFile file(home() + "/taught.rows");
+    QVERIFY(file.exportRows(&list, 1));
+    QCOMPARE(QDir(home()).entryList(QStringList("taught*")), QStringList("taught.rows"));
+
+    QStringList otherTitle = title();
+    TListWidget other(otherTitle, nullptr);
+    QStringList old = taught(1).first();
+    other.addWidget(old, true, false);
+    QCOMPARE(file.importRows(&other, 1), QString());
+    QCOMPARE(other.count(), 31);
+    for (int i = 1; i < other.count(); ++i)
+        QCOMPARE(other.getContent(i), rows.at(i - 1));
+}
+
+void TestRecipes::importRefusesRowsThatAListWouldTake()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    QList<QStringList> rows = taught(3);
+    rows[1][FilarixRows::ZValue] = "1:5";
+    fillRows(&list, rows);
+    const RowFile file(home() + "/taught.rows");
+    QVERIFY(file.exportRows(&list, 1));
+
+    QStringList otherTitle = title();
+    TListWidget other(otherTitle, nullptr);
+    QStringList old = taught(1).first();
+    other.addWidget(old, true, false);
+    QVERIFY(file.importRows(&other, 1).contains("row 2, position 8"));
+    QCOMPARE(other.count(), 2);
+}
+
+void TestRecipes::importOfAMissingFileLeavesTheList()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    fillRows(&list, taught(3));
+    QVERIFY(!RowFile(home() + "/none.rows").importRows(&list, 1).isEmpty());
+    QCOMPARE(list.count(), 4);
+}
+
+void TestRecipes::exportThatFailsLeavesTheFile()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    const QString path = home() + "/taught.rows";
+    writeFile(path, "as it was");
+    QVERIFY(QDir(home()).mkdir("taught.rows.new")); // no file can take this name
+    QVERIFY(!RowFile(path).exportRows(&list, 1));
+    QCOMPARE(readFile(path), QByteArray("as it was"));
+}
+
+void TestRecipes::manyRowsMakeOnePageOfWidgets()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    fillRows(&list, taught(100000));
+    QCOMPARE(list.count(), 100001);
+    QCOMPARE(list.ListWidget::count(), 14);
+    QCOMPARE(list.getContent(100000).at(FilarixRows::Num), QString("100000"));
+}
+
+FILARIX_TEST_MAIN(TestRecipes)
+#include "tst_recipes.moc"
