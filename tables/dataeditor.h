@@ -26,8 +26,9 @@ class FILARIX_EXPORT DataEditor : public QWidget
 public:
     /// Builds the row from \a list, which should hold at least 2 strings; missing ones are empty.
     /// \a size is the size of the whole table in pixels, from which the cells' widths and the
-    /// row's height follow. A title row has no editable cell. In a \a connectionRow only the last
-    /// cell can be edited, and takes an IP address.
+    /// row's height follow. A title row has no editable cell, unless it has 4 strings: its last
+    /// cell can be edited then. In a \a connectionRow only the last cell can, and takes an IP
+    /// address.
     ///
     /// In a row of 4 strings, and in a title row of more than 8, the strings 1 and 2 share a cell:
     /// it shows string 2, or string 1 if that is empty. A title row of more than 8 strings has a
