@@ -4,8 +4,8 @@
 #
 # docs/pictures.sh
 #
-# Makes the pictures of the README anew: the panel program walks its screens, and the named ones go
-# to docs/images.
+# Makes the pictures of the README and of the documentation anew: the panel program walks its screens,
+# and the named ones go to docs/images; classpictures leaves one of each class in docs/images/classes.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
@@ -33,3 +33,11 @@ keep 800x480 find
 tour 480x800 90
 keep 480x800 program
 keep 480x800 gcode-keypad
+
+cmake --preset dev >/dev/null
+cmake --build --preset dev --target classpictures >/dev/null
+mkdir -p docs/images/classes "$scratch/classes"
+FILARIX_SANDBOX_WRITABLE=$scratch/classes \
+    tests/support/sandbox.sh build/dev/docs/classpictures "$scratch/classes" 2>"$scratch/log" \
+    || { cat "$scratch/log" >&2; exit 1; }
+cp "$scratch"/classes/*.png docs/images/classes/
