@@ -11,8 +11,8 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 output=$(realpath -m "${1:-$root/build/packages}")
 
 "$root/cmake/ensure-packages.sh" \
-    build-essential cmake debhelper dpkg-dev ninja-build qtbase5-dev qtbase5-private-dev \
-    qttools5-dev qttools5-dev-tools
+    build-essential cmake debhelper dpkg-dev doxygen ninja-build qtbase5-dev \
+    qtbase5-private-dev qttools5-dev qttools5-dev-tools
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT

@@ -145,6 +145,7 @@ private Q_SLOTS:
     void plcErrorIsFoundBehindDroppedComments();
     void plcErrorOfAnotherProgramIsNotGuessed();
     void languageSwitchReachesTheWindowAndBack();
+    void languageIsLoadedFromAFile();
     void languageThatIsMissingChangesNothing();
     void downloadSendsWhatIsStoredAndShown();
     void downloadOfALongProgramSendsItsComments();
@@ -258,13 +259,23 @@ void TestRecipes::languageSwitchReachesTheWindowAndBack()
     QTRY_VERIFY(host.button("Open"));
 }
 
+void TestRecipes::languageIsLoadedFromAFile()
+{
+    Host host;
+    LanguageSwitch language;
+    QVERIFY(language.load("filarix_de", TRANSLATIONS_DIR));
+    const QString open = QCoreApplication::translate("WMMainWindow", "Open");
+    QVERIFY(open != QLatin1String("Open"));
+    QTRY_VERIFY(host.button(open));
+}
+
 void TestRecipes::languageThatIsMissingChangesNothing()
 {
     Host host;
     LanguageSwitch language;
     language.use(new MarkTranslator("+"));
     QTRY_VERIFY(host.button("+Open"));
-    QVERIFY(!language.load("filarixmodule_xx", home()));
+    QVERIFY(!language.load("filarix_xx", TRANSLATIONS_DIR));
     QCoreApplication::processEvents();
     QVERIFY(host.button("+Open"));
 }

@@ -5,7 +5,8 @@ LIC_FILES_CHKSUM = "file://LICENSE;md5=79a262fcda6958ab19a85b10feacbffd"
 # The sources are named by EXTERNALSRC:pn-filarix-module in local.conf.
 inherit cmake_qt5 externalsrc systemd
 
-DEPENDS = "qtbase"
+# The tools that make the translations are the build machine's.
+DEPENDS = "qtbase qttools-native qttools"
 
 # The panel's own libHMIDevice.so.1, to link the module with; empty leaves its symbols to the host.
 FILARIX_HMIDEVICE_LIBRARY ?= ""
@@ -44,6 +45,8 @@ RDEPENDS:${PN}-stick = "util-linux-blkid util-linux-mount util-linux-umount"
 
 # A template: it is started for each stick, by the device manager.
 SYSTEMD_PACKAGES = ""
+
+FILES:${PN} += "${datadir}/qt5/translations"
 
 # Beside what a library's development package takes by itself.
 FILES:${PN}-dev += "${libdir}/cmake ${libdir}/qt5/mkspecs"
