@@ -182,7 +182,7 @@ void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &las
 /// Finds the ranges of a text; neighbours of one format are one range.
 void BlockFormatter::findRanges(const QChar *text, int size)
 {
-    m_ranges.resize(0);
+    m_ranges.clear();
     for (GCodeWords::Scanner words(text, size); words.next();) {
         const QTextCharFormat &format = m_formats.at(words.rule());
         if (!m_ranges.isEmpty()) {
