@@ -11,7 +11,7 @@ set output ARG2
 set logscale xy
 set xlabel "lines"
 set grid
-set key left top
+set key left top reverse Left
 set format x "10^{%L}"
 subjects = "library plain floor QScintilla KTextEditor"
 titles = "library,plain transcription,toolkit without colours,QScintilla,KTextEditor"
@@ -22,5 +22,6 @@ set multiplot layout 1,2
 set ylabel "CPU time, ms"
 plot for [i=1:words(subjects)] rows("load", word(subjects, i)) with linespoints linewidth 2 title title_of(i)
 set ylabel "peak memory, MB"
+set yrange [20:2000]
 plot for [i=1:words(subjects)] rows("peak memory of a load", word(subjects, i)) with linespoints linewidth 2 title title_of(i)
 unset multiplot
