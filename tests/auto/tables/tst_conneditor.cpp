@@ -134,6 +134,7 @@ private Q_SLOTS:
     void shownDefaultIsStoredByOk();
     void partlyTypedAddressIsStoredAsTyped();
     void okAndCancelEndAsTheDerivedClassDoes();
+    void addressesAreInTheFileWhenOkIsTold();
     void cancelStoresNothing();
     void connectionsOfOneNameShareTheAddress();
     void connectionWithoutANameHasTheBareKey();
@@ -688,6 +689,33 @@ void TestConnEditor::okAndCancelEndAsTheDerivedClassDoes()
     QCOMPARE(editor.calls, QStringList() << "accept"
                                          << "reject");
     QVERIFY(editor.isVisible());
+}
+
+namespace {
+
+/// Looks into the file as a host does that connects to accepted().
+class LookingEditor : public ConnEditor
+{
+public:
+    explicit LookingEditor(const QString &path) : ConnEditor(path, nullptr), m_path(path) {}
+    void accept() override { bytes = FilarixTest::readFile(m_path); }
+    QByteArray bytes;
+
+private:
+    QString m_path;
+};
+
+} // namespace
+
+void TestConnEditor::addressesAreInTheFileWhenOkIsTold()
+{
+    const QString path = writeTable(QStringList() << "connect count=1"
+                                                  << "Connect 0=PLC"
+                                                  << "Connect 0 com=3");
+    LookingEditor editor(path);
+    editor.init_list();
+    editor.on_save_clicked();
+    QVERIFY2(editor.bytes.contains("PLCnew%20IP=192.168.1.3"), editor.bytes);
 }
 
 void TestConnEditor::cancelStoresNothing()
