@@ -102,6 +102,7 @@ private Q_SLOTS:
     void startPath_data();
     void startPath();
     void constructionForgetsThePathBefore();
+    void pathBeforeCanBeTheNextStart();
 
     void okAtOnceGivesTheStartPath_data();
     void okAtOnceGivesTheStartPath();
@@ -308,6 +309,20 @@ void TestFileDialog::constructionForgetsThePathBefore()
     QCOMPARE(FileDialog::m_returnStr, tree());
 }
 
+// Hosts go on where the operator stopped: the shared string itself is what they pass.
+void TestFileDialog::pathBeforeCanBeTheNextStart()
+{
+    FileDialog::m_returnStr = tree() + '/';
+    Browser browser(FileDialog::m_returnStr);
+    QCOMPARE(browser.path(), tree() + '/');
+
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { static_cast<QDialog *>(dialog)->accept(); });
+    QCOMPARE(FileDialog::getOpenFileName(nullptr, "Title", FileDialog::m_returnStr, everything()),
+             tree() + '/');
+    QVERIFY2(driver.finished(), driver.report());
+}
+
 void TestFileDialog::okAtOnceGivesTheStartPath_data()
 {
     startPath_data();
@@ -390,6 +405,8 @@ void TestFileDialog::staticFunctionsPassTheirArguments()
     QPointer<QWidget> shown;
     driver.then([&](QWidget *dialog) {
         shown = dialog;
+        // Before all else: a comparison that fails must not leave it open.
+        static_cast<QDialog *>(dialog)->accept();
         QCOMPARE(QByteArray(dialog->metaObject()->className()), QByteArray("FileDialog"));
         QCOMPARE(dialog->windowTitle(), QString("Pick one"));
         QCOMPARE(dialog->parentWidget(), &parent);
@@ -398,7 +415,6 @@ void TestFileDialog::staticFunctionsPassTheirArguments()
         QList<Label *> lines = dialog->findChildren<Label *>();
         QCOMPARE(lines.size(), 1);
         QCOMPARE(lines.first()->text(), QString("folder"));
-        static_cast<QDialog *>(dialog)->accept();
     });
     const QDir::Filters filter = QDir::Dirs | QDir::NoDotAndDotDot;
     if (openFile)
