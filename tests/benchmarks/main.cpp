@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-// Measures the library beside a plain transcription of its design, the toolkit's bare widgets and
+// Measures the library beside a plain version of itself, the toolkit's bare widgets and
 // what a user would pick instead, and compares with the targets.
 //
 //     filarix-bench [--quick] [--only load|edit|filter|rows|memory] [--csv FILE]
