@@ -22,7 +22,7 @@ class FILARIX_EXPORT ComboBox : public QComboBox
 
 public:
     /// An \a editable combo box gets a LineEdit as its field; Return does not open its list.
-    ComboBox(QWidget *parent, bool editable);
+    explicit ComboBox(QWidget *parent, bool editable = false);
 
     /// Opens the list and emits showPop().
     void showPopup() override;

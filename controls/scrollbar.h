@@ -21,6 +21,8 @@ public:
     /// \a orientation chooses the style sheet alone; a value that is no orientation sets none. The
     /// bar starts vertical, and whoever takes it, as a scroll area does, sets its orientation.
     ScrollBar(Qt::Orientation orientation, QWidget *parent);
+    /// A vertical one: what a form made with Qt Designer asks for.
+    explicit ScrollBar(QWidget *parent) : ScrollBar(Qt::Vertical, parent) {}
 
     /// In pixels, by the bar's current orientation().
     QSize sizeHint() const override;

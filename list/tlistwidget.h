@@ -47,6 +47,11 @@ public:
     /// An empty \a list makes a list without a title. Otherwise it is the title row, kind first,
     /// and comes back changed: without its kind, and filled up for the row widget.
     TListWidget(QStringList &list, QWidget *parent);
+    /// The same with a copy of the title row: what a form made with Qt Designer asks for, without
+    /// one.
+    explicit TListWidget(QWidget *parent, QStringList title = QStringList())
+        : TListWidget(title, parent)
+    {}
 
     /// Builds the widget of a row as a child of this list, outside the page. Takes the kind off
     /// \a list and may fill it up. \a expand opens an instruction row; \a title makes a

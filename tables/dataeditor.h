@@ -34,6 +34,12 @@ public:
     /// it shows string 2, or string 1 if that is empty. A title row of more than 8 strings has a
     /// cell for every second string only.
     DataEditor(bool isTitle, QStringList &list, QSize size, QWidget *parent, bool connectionRow);
+    /// A row of a number, a name and one text to edit, 4 strings, for a table of 480 by 800 pixels:
+    /// what a form made with Qt Designer asks for. \a row can give it another shape.
+    explicit DataEditor(QWidget *parent, QStringList row = QStringList() << QString() << QString()
+                                                                         << QString() << QString())
+        : DataEditor(false, row, QSize(480, 800), parent, false)
+    {}
     ~DataEditor() override;
 
     /// Makes a cell and stores it through \a out: a clickable label (\a type 0), a passive one (1),
