@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Filarix Module developers
 # SPDX-License-Identifier: MIT
 #
-# Renders the icons from src/*.svg into the PNGs that robot.qrc compiles in.
-# The PNGs are kept in the tree so that a build needs no SVG renderer; run this
+# Renders the icons from src/*.svg into the PNGs that robot.qrc compiles in, and those of the Designer
+# plugin likewise. The PNGs are kept in the tree so that a build needs no SVG renderer; run this
 # after editing a drawing.
 #
 #   render.sh          renders every icon
@@ -33,34 +33,35 @@ if ! command -v rsvg-convert >/dev/null; then
     exit 1
 fi
 
-cd "$(dirname "${BASH_SOURCE[0]}")"
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
 shopt -s nullglob
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-for drawing in src/*.svg; do
-    name=$(basename "$drawing" .svg)
-    rsvg-convert --width=$size --height=$size --output="$scratch/$name.png" "$drawing"
-done
-
-if ! $check; then
-    cp "$scratch"/*.png .
-    exit 0
-fi
-
 failures=0
-for rendered in "$scratch"/*.png; do
-    name=${rendered##*/}
-    if ! cmp --silent "$rendered" "$name"; then
-        echo "images/$name is missing or out of date; run images/render.sh" >&2
-        failures=$((failures + 1))
+for folder in images designer/icons; do
+    mkdir -p "$scratch/$folder"
+    for drawing in "$folder"/src/*.svg; do
+        name=$(basename "$drawing" .svg)
+        rsvg-convert --width=$size --height=$size --output="$scratch/$folder/$name.png" "$drawing"
+    done
+    if ! $check; then
+        cp "$scratch/$folder"/*.png "$folder"
+        continue
     fi
-done
-for image in *.png; do
-    if [[ ! -e $scratch/$image ]]; then
-        echo "images/$image has no drawing in images/src" >&2
-        failures=$((failures + 1))
-    fi
+    for rendered in "$scratch/$folder"/*.png; do
+        name=${rendered##*/}
+        if ! cmp --silent "$rendered" "$folder/$name"; then
+            echo "$folder/$name is missing or out of date; run images/render.sh" >&2
+            failures=$((failures + 1))
+        fi
+    done
+    for image in "$folder"/*.png; do
+        if [[ ! -e $scratch/$image ]]; then
+            echo "$image has no drawing in $folder/src" >&2
+            failures=$((failures + 1))
+        fi
+    done
 done
 ((failures == 0))
