@@ -6,6 +6,7 @@
 #   runtime         libFilarixModule.so.1, all that a panel needs of us
 #   development     headers, the link name, and the CMake, pkg-config and qmake packages
 #   l10n            the library's translations, which hosts load
+#   designer        the Qt Designer plugin
 #   device-headers  the interface of the panel's device library, for hosts that use it themselves
 #   simulator       the stand-in device library with its translations
 #   panel           filarix-panel with its manual page and its translations
@@ -128,6 +129,13 @@ function(filarix_install_translations name)
 endfunction()
 if(FILARIX_TRANSLATIONS)
   filarix_install_translations(filarix COMPONENT l10n)
+endif()
+
+set(FILARIX_DESIGNER_PLUGIN_DIR "${CMAKE_INSTALL_LIBDIR}/qt5/plugins/designer" CACHE STRING
+  "Where the Designer plugin goes; Qt Designer looks into Qt's own folder of plugins")
+if(TARGET filarixmoduledesigner)
+  install(TARGETS filarixmoduledesigner
+    LIBRARY DESTINATION "${FILARIX_DESIGNER_PLUGIN_DIR}" COMPONENT designer EXCLUDE_FROM_ALL)
 endif()
 
 install(DIRECTORY "${FILARIX_HMIDEVICE_INCLUDE_DIR}/hmidevice"

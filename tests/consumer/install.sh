@@ -15,7 +15,7 @@ fail() {
 }
 
 cd "$WORK"
-rm -rf prefix moved sysroot device
+rm -rf prefix moved sysroot device designer
 install() {
     "$CMAKE" --install "$BUILD" "$@" >>install.log
 }
@@ -26,6 +26,7 @@ install --prefix "$WORK/prefix" --component l10n
 mv prefix moved
 DESTDIR=$WORK/sysroot install --prefix /usr
 install --prefix "$WORK/device" --component simulator
+install --prefix "$WORK/designer" --component designer
 
 # The files, all of them and no other.
 (cd moved && find . \( -type f -o -type l \) | sed "s,^\./$LIBDIR/,LIBDIR/,; s,^\./,,") \
@@ -42,7 +43,8 @@ find moved/include/filarix -type f -printf '%f\n' | LC_ALL=C sort \
     | diff -u expected-headers.txt - || fail "headers of other classes than the exported ones"
 
 # A plain install brings nothing that a panel must not have.
-stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel' -o -name '*_p.h')
+stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel' -o -name '*_p.h' \
+    -o -name '*designer*')
 [ -z "$stray" ] || fail "in a plain install: $stray"
 
 # Nothing knows where it was built or first installed.
@@ -54,6 +56,13 @@ runpath=$(readelf -d "$library" | sed -n 's/.*R\(UN\)\?PATH.*\[\(.*\)\].*/\2/p')
 # shellcheck disable=SC2016
 [ "$runpath" = '$ORIGIN' ] || fail "run path $runpath"
 readelf -d "$library" | grep -q 'SONAME.*\[libFilarixModule\.so\.1\]' || fail "another soname"
+
+# The Designer plugin needs nothing but Qt.
+plugin=designer/$LIBDIR/qt5/plugins/designer/libfilarixmoduledesigner.so
+[ "$(find designer -type f)" = "$plugin" ] || fail "the Designer plugin: $(find designer -type f)"
+needed=$(readelf -d "$plugin" | sed -n 's/.*NEEDED.*\[\(.*\)\].*/\1/p' \
+    | grep -vE '^(libQt5(Core|Gui|Widgets)|libstdc\+\+|libgcc_s|libm|libc)\.so' || true)
+[ -z "$needed" ] || fail "the Designer plugin needs $needed"
 
 # Below a sysroot pkg-config names the folders there.
 pkg_config_path=$WORK/sysroot/usr/$LIBDIR/pkgconfig:$(pkg-config --variable pc_path pkg-config)
