@@ -1,6 +1,15 @@
 # SPDX-FileCopyrightText: 2026 The Filarix Module developers
 # SPDX-License-Identifier: MIT
 
+set(FILARIX_TEST_SCALE 1 CACHE STRING
+  "How many times slower than on a PC the tests run: sizes are divided by it, time limits multiplied")
+
+# filarix_set_timeout(NAME seconds): after so many seconds on a PC the test is taken to hang.
+function(filarix_set_timeout name seconds)
+  math(EXPR seconds "${seconds} * ${FILARIX_TEST_SCALE}")
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds})
+endfunction()
+
 # filarix_add_test(NAME tst_x SOURCES tst_x.cpp [LIBRARIES ...] [TIMEOUT seconds] [NO_LIBRARY]
 #                  [NO_ACCESS_CONTROL])
 #
@@ -26,5 +35,5 @@ function(filarix_add_test)
   endif()
   add_test(NAME ${arg_NAME}
     COMMAND "${PROJECT_SOURCE_DIR}/tests/support/sandbox.sh" $<TARGET_FILE:${arg_NAME}>)
-  set_tests_properties(${arg_NAME} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  filarix_set_timeout(${arg_NAME} ${arg_TIMEOUT})
 endfunction()

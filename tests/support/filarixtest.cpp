@@ -55,6 +55,25 @@ void FilarixTest::emptyFolder(const QString &path)
     }
 }
 
+int FilarixTest::scaled(int full, int least)
+{
+    return qMax(full / FILARIX_TEST_SCALE, least);
+}
+
+int FilarixTest::patience(int milliseconds)
+{
+    return milliseconds * FILARIX_TEST_SCALE;
+}
+
+bool FilarixTest::isSanitized()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return true;
+#else
+    return false;
+#endif
+}
+
 void FilarixTest::allowTopLevel(QWidget *widget)
 {
     m_allowed.append(widget);

@@ -33,6 +33,15 @@ public:
     /// Removes what lies in a folder; the folder itself stays.
     static void emptyFolder(const QString &path);
 
+    /// \a full, the number of cases, lines or rows of a long test, where the programs run as fast
+    /// as on a PC; its FILARIX_TEST_SCALE-th part, \a least at the least, where they are slower by
+    /// that factor. It makes a test smaller, never what it checks.
+    static int scaled(int full, int least = 1);
+    /// A limit of time, longer by the same factor.
+    static int patience(int milliseconds);
+    /// Under the sanitizers, memory and the count of its blocks say nothing about the library.
+    static bool isSanitized();
+
     /// A widget that is meant to outlive the test.
     void allowTopLevel(QWidget *widget);
 

@@ -272,7 +272,7 @@ void TestAsPlainEditor::loads()
     QFETCH(bool, allLineEnds);
     QFETCH(QString, before);
     std::mt19937 random(20260801u);
-    for (int i = 0; i < 3; ++i) {
+    for (int i = scaled(3); i > 0; --i) {
         Pair pair(isShown);
         Q_FOREACH (QPlainTextEdit *view, pair.both())
             view->setPlainText(before);
@@ -372,7 +372,8 @@ void TestAsPlainEditor::editsAtRandom()
     std::mt19937 random(20260804u);
     Pair pair(true);
     pair.read(randomProgram(random, 600, false));
-    for (int i = 0; i < 3000; ++i) {
+    const int edits = scaled(3000);
+    for (int i = 0; i < edits; ++i) {
         const int characters = pair.plain.document()->characterCount();
         const int from = int(random() % unsigned(characters));
         const int to = qMin(characters - 1, from + int(random() % 80));

@@ -424,7 +424,7 @@ void TestGCodeLoader::randomProgramsLoadAsThePlainCallsDo()
                                << QString::fromUtf8("; \xc3\xa4\xf0\x9f\x94\xa7")
                                << QString(QChar(0)) << "N10G1;";
     std::mt19937 random(500);
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < scaled(60, 20); ++round) {
         const int parts = round % 3 ? 480 + int(random() % 45) : 500 + int(random() % 1500);
         // Some programs are mostly empty, so that whole pieces hold nothing.
         const unsigned choice = round % 4 ? unsigned(pieces.size()) : 4;
@@ -674,7 +674,8 @@ void TestGCodeLoader::secondLoadAfterAnAbortIsWhole()
 
 void TestGCodeLoader::millionLinesCanBeAborted()
 {
-    const QString text = QString::fromLatin1("N10 G01 X100.25 Y-3\n").repeated(1000000);
+    const int lines = scaled(1000000);
+    const QString text = QString::fromLatin1("N10 G01 X100.25 Y-3\n").repeated(lines);
     WGCodeEditer editor(nullptr);
     editor.show();
     QVERIFY(TestCompat::waitForExposed(&editor));
@@ -685,23 +686,27 @@ void TestGCodeLoader::millionLinesCanBeAborted()
     });
     editor.readGCode(text);
     QCOMPARE(turns, 2);
-    // 1,000,001 parts: the first piece has one more than the others.
-    QCOMPARE(editor.blockCount(), 40001);
+    const QVector<int> sizes = WAQP::chunkSizes(lines + 1, 50);
+    QCOMPARE(editor.blockCount(), sizes.at(0) + sizes.at(1));
     QVERIFY(editor.updatesEnabled());
 }
 
 // The pieces, the list of lines and the like must not add up to the document's own size again.
 void TestGCodeLoader::millionLinesLoad()
 {
-    const QString text = QString::fromLatin1("G1 X2.5\n").repeated(1000000);
+    const int lines = scaled(1000000);
+    const QString text = QString::fromLatin1("G1 X2.5\n").repeated(lines);
     WGCodeEditer editor(nullptr);
     writeFile(QLatin1String("/proc/self/clear_refs"), "5");
     const qint64 before = processMemory("VmRSS:");
     editor.readGCode(text);
     const qint64 document = processMemory("VmRSS:") - before;
     const qint64 peak = processMemory("VmHWM:") - before;
-    QCOMPARE(editor.blockCount(), 1000000);
-    QCOMPARE(editor.getLineText(999999), QString("G1 X2.5"));
+    QCOMPARE(editor.blockCount(), lines);
+    QCOMPARE(editor.getLineText(lines - 1), QString("G1 X2.5"));
+    // A sanitizer keeps what is freed, to see whether anyone still uses it.
+    if (isSanitized())
+        return;
     QVERIFY(document > 0);
     QVERIFY(peak < document + document / 2);
 }

@@ -352,7 +352,7 @@ void TestWHighlighter::outsideOfHighlightingAMarkDrawsNothing()
 
 void TestWHighlighter::sameAsTheSixExpressionsOnRandomLines()
 {
-    const int documents = 60;
+    const int documents = scaled(60);
     const int linesEach = 2000;
     const QString digits =
         QLatin1String("0123456789") + QChar(0x0660) + QChar(0x096b) + QChar(0xff17);

@@ -177,7 +177,8 @@ void TestRowBuilder::detailOutsideTheNineIsIgnored()
 void TestRowBuilder::builtRowsAreWellFormed()
 {
     Random random(1);
-    for (int i = 0; i < 100000; ++i) {
+    const int rows = scaled(100000);
+    for (int i = 0; i < rows; ++i) {
         const QStringList row = randomInstruction(random, legal).row(i);
         const QList<Problem> problems = checkRow(row, i);
         QVERIFY2(problems.isEmpty(), words(problems));
@@ -191,7 +192,8 @@ void TestRowBuilder::wellFormedRowsComeBackAsTheyWentIn()
     const QScopedPointer<MJLine> closed(newLine(goodRow(0)));
     const QScopedPointer<MJLine> open(newLine(goodRow(0)));
     open->on_expand();
-    for (int i = 0; i < 10000; ++i) {
+    const int rows = scaled(10000);
+    for (int i = 0; i < rows; ++i) {
         const QStringList row = randomInstruction(random, legal).row(i);
         QCOMPARE(throughWidget(closed.data(), row), row);
         QCOMPARE(throughWidget(open.data(), row), row);
@@ -206,7 +208,7 @@ void TestRowBuilder::checkerFindsWhatTheWidgetChanges()
 {
     Random random(3);
     const QScopedPointer<MJLine> line(newLine(goodRow(0)));
-    const int rows = 10000;
+    const int rows = scaled(10000);
     int changed = 0;
     for (int i = 0; i < rows; ++i) {
         QStringList row = randomInstruction(random, legal).row(i);

@@ -433,7 +433,7 @@ void TestRowFormat::positionsOfAFullRow()
 void TestRowFormat::builtRowComesBackEqual()
 {
     Random random(1);
-    for (int round = 0; round < 300; ++round) {
+    for (int round = scaled(300); round > 0; --round) {
         const QStringList row = randomRow(random);
         QStringList list = row;
         MJLine line(list, listSize, nullptr);
@@ -446,12 +446,13 @@ void TestRowFormat::refilledRowComesBackEqual()
     Random random(2);
     QStringList first = randomRow(random);
     MJLine line(first, listSize, nullptr);
-    for (int round = 0; round < 10000; ++round) {
+    const int rounds = scaled(10000);
+    for (int round = 0; round < rounds; ++round) {
         const QStringList row = randomRow(random);
         QStringList list = row;
         line.setLineList(list);
         QCOMPARE(line.GetLineList(), asWritten(row));
-        if (round % 1000 == 0)
+        if (round % (rounds / 10) == 0)
             line.on_expand();
     }
 }
@@ -681,7 +682,7 @@ void TestRowFormat::everyLengthAgreesWithTheSteps()
 {
     QFETCH(int, length);
     Random random(unsigned(100 + length));
-    for (int round = 0; round < 8; ++round) {
+    for (int round = scaled(8, 2); round > 0; --round) {
         const QStringList given = randomList(random, length);
         QStringList list = given;
         QStringList copy = given;

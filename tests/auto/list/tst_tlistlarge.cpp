@@ -12,7 +12,7 @@ using namespace RowProbe;
 
 namespace {
 
-const int manyRows = 100000;
+const int manyRows = FilarixTest::scaled(100000);
 
 QStringList titleRow()
 {

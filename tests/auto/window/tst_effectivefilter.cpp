@@ -422,7 +422,7 @@ private:
 
 void TestEffectiveFilter::sameAsThePlainStepsOnRandomDocuments()
 {
-    const int documents = 100000;
+    const int documents = scaled(100000);
     const QString names = QString::fromLatin1("GgXYZxM;(") + QChar(0xe9) + QChar(0xd835);
     Generator random(1103u);
     Desk desk;
@@ -459,7 +459,7 @@ void TestEffectiveFilter::sameAsThePlainStepsOnLongDocuments()
     Desk desk;
     desk.editor->blockSignals(true);
     desk.editor->findChild<WHighlighter *>()->setDocument(nullptr);
-    for (int i = 0; i < 12; ++i) {
+    for (int i = scaled(12, 2); i > 0; --i) {
         const int lines = 300 + random.below(4000);
         QString text;
         for (int line = 0; line < lines; ++line) {
@@ -502,7 +502,7 @@ void TestEffectiveFilter::everyLineAboveIsRead()
 
 void TestEffectiveFilter::aNameThatStandsNowhereInAMillionLines()
 {
-    const int lines = 1000000;
+    const int lines = scaled(1000) * 1000;
     QString text;
     text.reserve(lines * 12);
     for (int i = 1; i < lines; ++i)
@@ -528,8 +528,8 @@ void TestEffectiveFilter::aNameThatStandsNowhereInAMillionLines()
     }
     // Asking a million lines one by one takes many times the first limit, and the second shows that
     // a near word never asks for the whole text.
-    QVERIFY2(nowhere < 1500, qPrintable(QString::number(nowhere)));
-    QVERIFY2(nearby < 10, qPrintable(QString::number(nearby)));
+    QVERIFY2(nowhere < patience(1500), qPrintable(QString::number(nowhere)));
+    QVERIFY2(nearby < patience(10), qPrintable(QString::number(nearby)));
 }
 
 FILARIX_TEST_MAIN(TestEffectiveFilter)
