@@ -75,4 +75,10 @@ function(filarix_target_defaults target)
   if(FILARIX_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
+  if(FILARIX_SANITIZE)
+    # A finding ends the program, so that no test passes over it.
+    target_compile_options(${target} PRIVATE
+      -fsanitize=${FILARIX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${FILARIX_SANITIZE})
+  endif()
 endfunction()

@@ -14,6 +14,7 @@ CharacterKeypad *CharacterKeypad::instance()
     return nullptr;
 }
 
+CharacterKeypad::~CharacterKeypad() {}
 void CharacterKeypad::setObject(QObject *) {}
 void CharacterKeypad::setValidator(const QValidator *) {}
 void CharacterKeypad::setText(const QString &) {}
@@ -24,6 +25,7 @@ GCodeKeypad *GCodeKeypad::instance()
     return nullptr;
 }
 
+GCodeKeypad::~GCodeKeypad() {}
 void GCodeKeypad::setObject(QObject *) {}
 void GCodeKeypad::setValidator(const QValidator *) {}
 void GCodeKeypad::setText(const QString &) {}
@@ -34,6 +36,7 @@ NumericKeypad *NumericKeypad::instance()
     return nullptr;
 }
 
+NumericKeypad::~NumericKeypad() {}
 void NumericKeypad::setObject(QObject *) {}
 void NumericKeypad::setValidator(const QValidator *) {}
 void NumericKeypad::setText(const QString &) {}
