@@ -4,7 +4,6 @@
 #include "barpager.h"
 
 #include "glyphs.h"
-#include "look.h"
 
 #include <QAction>
 #include <QEvent>
@@ -15,7 +14,7 @@
 BarPager::BarPager(QToolBar *bar)
     : QObject(bar), m_bar(bar), m_key(new QToolButton), m_items(bar->actions())
 {
-    m_key->setIcon(Glyphs::icon(Glyphs::More, Look::accent()));
+    m_key->setIcon(Glyphs::icon(Glyphs::More, Glyphs::OnPaper));
     m_key->setText(tr("More"));
     m_key->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_keyAction = bar->addWidget(m_key);

@@ -59,7 +59,7 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
 {
     if (!QFileInfo(filePath).exists())
         makeFile();
-    setStyleSheet(Look::keyPanelSheet());
+    Look::dress(this, Look::KeyPanel);
     m_table->setHorizontalHeaderLabels({tr("Connection"), tr("Cid"), tr("Baud"), tr("Address")});
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -77,7 +77,7 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     m_table->setColumnWidth(2, 2 * Look::kTouch);
 
     PanelKey *editKey =
-        new PanelKey(Glyphs::icon(Glyphs::Edit, Look::ink()), tr("Edit the addresses"));
+        new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey), tr("Edit the addresses"));
     editKey->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(editKey, &PanelKey::clicked, this, &ConnectionsScreen::edit);
 

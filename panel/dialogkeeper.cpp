@@ -42,7 +42,7 @@ bool DialogKeeper::eventFilter(QObject *watched, QEvent *event)
     }
     // The background is filled by now, and the dialog's own painting comes after.
     QPainter painter(dialog);
-    painter.setPen(QPen(Look::ink(), 2));
+    painter.setPen(QPen(Look::edge(), 2));
     painter.drawRect(dialog->rect().adjusted(1, 1, -1, -1));
     return false;
 }

@@ -24,7 +24,7 @@ const qint64 kProgramSpace = 31457280;
 
 PanelKey *darkKey(Glyphs::Glyph glyph, const QString &text)
 {
-    return new PanelKey(Glyphs::icon(glyph, Look::ink()), text);
+    return new PanelKey(Glyphs::icon(glyph, Glyphs::OnKey), text);
 }
 
 } // namespace
@@ -38,7 +38,7 @@ FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
     , m_pullKey(darkKey(Glyphs::Pull, tr("Pull")))
     , m_renameKey(darkKey(Glyphs::Rename, tr("Rename")))
 {
-    setStyleSheet(Look::keyPanelSheet());
+    Look::dress(this, Look::KeyPanel);
     PanelKey *importKey =
         new PanelKey(QIcon(QLatin1String(":/images/importExport.png")), tr("I/E"));
     PanelKey *pickKey = darkKey(Glyphs::Files, tr("Pick"));

@@ -3,14 +3,17 @@
 
 #include "glyphs.h"
 
+#include "look.h"
+
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 
+#include <cmath>
+
 namespace {
 
-// Drawn once at twice the largest size in use; the icon scales it down.
-const int kSide = 96;
 // All paths lie on a grid of 24 by 24.
 const qreal kGrid = 24;
 
@@ -130,20 +133,92 @@ QPainterPath shape(Glyphs::Glyph glyph)
     case Glyphs::Close:
         path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
         break;
+    case Glyphs::Plc:
+        path.addRect(6, 6, 12, 12);
+        path.addPath(lines({{{9, 2}, {9, 6}},
+                            {{15, 2}, {15, 6}},
+                            {{9, 18}, {9, 22}},
+                            {{15, 18}, {15, 22}},
+                            {{2, 9}, {6, 9}},
+                            {{2, 15}, {6, 15}},
+                            {{18, 9}, {22, 9}},
+                            {{18, 15}, {22, 15}}}));
+        break;
+    case Glyphs::Stick:
+        path.addRect(7, 9, 10, 12);
+        path.addPath(lines({{{9, 9}, {9, 3}, {15, 3}, {15, 9}}}));
+        break;
+    case Glyphs::Storage:
+        path.addEllipse(QRectF(4, 3, 16, 6));
+        path.moveTo(4, 6);
+        path.lineTo(4, 18);
+        path.arcTo(QRectF(4, 15, 16, 6), 180, 180);
+        path.lineTo(20, 6);
+        break;
+    case Glyphs::Style:
+        path.addEllipse(QPointF(12, 12), 8, 8);
+        for (int y = 6; y <= 18; y += 2) {
+            const qreal half = std::sqrt(64.0 - (y - 12) * (y - 12)) - 1;
+            path.addPath(lines({{QPointF(12, y), QPointF(12 + half, y)}}));
+        }
+        break;
     }
     return path;
 }
 
+/// Draws when it is asked to, so that the colours are those of the moment.
+class GlyphEngine : public QIconEngine
+{
+public:
+    GlyphEngine(Glyphs::Glyph glyph, Glyphs::Ground ground) : m_glyph(glyph), m_ground(ground) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / kGrid, rect.height() / kGrid);
+        painter->setPen(QPen(color(mode, state), 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->drawPath(shape(m_glyph));
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine *clone() const override { return new GlyphEngine(*this); }
+
+private:
+    QColor color(QIcon::Mode mode, QIcon::State state) const
+    {
+        const bool disabled = mode == QIcon::Disabled;
+        switch (m_ground) {
+        case Glyphs::OnStrip:
+            return disabled ? Look::stripFaint() : Look::stripText();
+        case Glyphs::OnKey:
+            // A key that is down for good has the accent for its ground.
+            return disabled             ? Look::keyFaint()
+                   : state == QIcon::On ? Look::stripText()
+                                        : Look::keyText();
+        case Glyphs::OnPaper:
+            break;
+        }
+        return Look::palette().color(QPalette::Link);
+    }
+
+    const Glyphs::Glyph m_glyph;
+    const Glyphs::Ground m_ground;
+};
+
 } // namespace
 
-QIcon Glyphs::icon(Glyph glyph, const QColor &color)
+QIcon Glyphs::icon(Glyph glyph, Ground ground)
 {
-    QPixmap pixmap(kSide, kSide);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(kSide / kGrid, kSide / kGrid);
-    painter.setPen(QPen(color, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(shape(glyph));
-    return QIcon(pixmap);
+    return QIcon(new GlyphEngine(glyph, ground));
 }

@@ -4,10 +4,10 @@
 #ifndef GLYPHS_H
 #define GLYPHS_H
 
-#include <QColor>
 #include <QIcon>
 
-/// The host's own line drawings: crisp at any size, in any colour.
+/// The host's own line drawings: crisp at any size, in the colours of the look in use. An icon that
+/// is shown already follows when the look changes.
 namespace Glyphs {
 
 enum Glyph {
@@ -29,10 +29,21 @@ enum Glyph {
     Plug,
     Pull,
     Rename,
-    Edit
+    Edit,
+    Plc,
+    Stick,
+    Storage,
+    Style
 };
 
-QIcon icon(Glyph glyph, const QColor &color = Qt::white);
+/// What an icon stands on.
+enum Ground {
+    OnStrip, ///< A key of a strip.
+    OnKey,   ///< A key beside a screen's content.
+    OnPaper  ///< A bar of the library.
+};
+
+QIcon icon(Glyph glyph, Ground ground = OnStrip);
 
 } // namespace Glyphs
 

@@ -55,7 +55,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
             [this](int row) { QTimer::singleShot(0, this, [this, row] { keepRowInView(row); }); });
 
     QWidget *keyPanel = new QWidget;
-    keyPanel->setStyleSheet(Look::keyPanelSheet());
+    Look::dress(keyPanel, Look::KeyPanel);
     m_keyGrid->setSpacing(kKeyGap);
     // On a small panel each pixel between the strips counts for one more row.
     m_keyGrid->setContentsMargins(kKeyGap, kKeyGap / 2, kKeyGap, kKeyGap / 2);

@@ -3,29 +3,209 @@
 
 #include "look.h"
 
-QColor Look::ink()
+#include <QApplication>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+
+const char kDressProperty[] = "lookDress";
+// Beside the values of Look::Dress.
+const int kLightGround = -1;
+
+Look::Style currentStyle = Look::Light;
+
+struct Colors
 {
-    return QColor(0x17, 0x20, 0x2b);
+    // Screens and dialogs.
+    QRgb paper;
+    QRgb base;
+    QRgb alternate;
+    QRgb text;
+    QRgb faint;
+    QRgb button;
+    QRgb link;
+    QRgb edge;
+    // Strips. They are dark in both styles, so that the content stands out.
+    QRgb strip;
+    QRgb stripKey;
+    QRgb stripKeyOff;
+    QRgb stripFaint;
+    // Keys beside a screen's content.
+    QRgb key;
+    QRgb keyEdge;
+    QRgb keyPressed;
+    QRgb keyOff;
+    QRgb keyFaint;
+};
+
+const Colors colorTable[] = {
+    {0xffeef1f5, 0xffffffff, 0xffe4eaf1, 0xff17202b, 0xff66727f, 0xffdfe5ec, 0xff1659a8,
+     0xff17202b,                                     //
+     0xff17202b, 0xff2b3a4a, 0xff1f2a36, 0xff8b9aab, //
+     0xffffffff, 0xff9fb0c2, 0xffb7d7fb, 0xffe6ebf0, 0xff66727f},
+    {0xff1d242c, 0xff12171c, 0xff222b34, 0xffe8edf2, 0xff8e9ba8, 0xff323e4a, 0xff8ec3ff,
+     0xff8e9ba8,                                     //
+     0xff0b0f13, 0xff26313c, 0xff151b21, 0xff7f8d9b, //
+     0xff2f3b47, 0xff566473, 0xff1d4f86, 0xff232c35, 0xff8e9ba8},
+};
+
+const QRgb kAccent = 0xff1a6fd0;
+const QRgb kAccentPressed = 0xff0d4d99;
+const QRgb kAlert = 0xffb92525;
+const QRgb kGood = 0xff23753a;
+const QRgb kWhite = 0xffffffff;
+
+const Colors &colors()
+{
+    return colorTable[currentStyle];
 }
 
-QColor Look::paper()
+QString hex(QRgb color)
 {
-    return QColor(0xee, 0xf1, 0xf5);
+    return QColor(color).name();
+}
+
+QString stripSheet()
+{
+    return QString::fromLatin1("#strip { background: %1; }"
+                               "QLabel, ElidedLabel { color: %2; background: transparent; }"
+                               "PanelKey { color: %2; background: %3; border: 0;"
+                               "  border-radius: 6px; padding: 1px; }"
+                               "PanelKey:checked { background: %4; }"
+                               "PanelKey:pressed { background: %5; }"
+                               "PanelKey:disabled { color: %6; background: %7; }")
+        .arg(hex(colors().strip), hex(kWhite), hex(colors().stripKey), hex(kAccent),
+             hex(kAccentPressed), hex(colors().stripFaint), hex(colors().stripKeyOff));
+}
+
+QString keyPanelSheet()
+{
+    return QString::fromLatin1("PanelKey { color: %1; background: %2; border: 1px solid %3;"
+                               "  border-radius: 6px; padding: 1px; }"
+                               "PanelKey:checked { color: %4; background: %5; }"
+                               "PanelKey:pressed { color: %1; background: %6; }"
+                               "PanelKey:checked:pressed { color: %4; background: %9; }"
+                               "PanelKey:disabled { color: %7; background: %8; }")
+        .arg(hex(colors().text), hex(colors().key), hex(colors().keyEdge), hex(kWhite),
+             hex(kAccent), hex(colors().keyPressed), hex(colors().keyFaint), hex(colors().keyOff),
+             hex(kAccentPressed));
+}
+
+QString messageSheet()
+{
+    return QString::fromLatin1("#messageBar { border: 1px solid %1; border-radius: 8px; }"
+                               "#messageBar[tone=\"info\"] { background: %2; }"
+                               "#messageBar[tone=\"good\"] { background: %3; }"
+                               "#messageBar[tone=\"warning\"] { background: %4; }"
+                               "QLabel { color: %1; background: transparent; }")
+               .arg(hex(kWhite), hex(colors().strip), hex(kGood), hex(kAlert))
+           + stripSheet();
+}
+
+// The other roles go on following the application's palette, and what the widget has set itself
+// stays.
+void lighten(QWidget *widget)
+{
+    const Colors &light = colorTable[Look::Light];
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Base, QColor(currentStyle == Look::Dark ? light.paper : light.base));
+    // The editor marks the current line with it, so it has to differ from the paper in bright
+    // light. A line that is marked already keeps the colour, so both styles have the same.
+    palette.setColor(QPalette::AlternateBase, QColor(0xcf, 0xe3, 0xfb));
+    palette.setColor(QPalette::Text, QColor(light.text));
+    widget->setPalette(palette);
+}
+
+} // namespace
+
+Look::Style Look::style()
+{
+    return currentStyle;
+}
+
+void Look::use(Style style)
+{
+    currentStyle = style;
+    QApplication::setPalette(palette());
+    const QWidgetList all = QApplication::allWidgets();
+    for (QWidget *widget : all) {
+        const QVariant dress = widget->property(kDressProperty);
+        if (!dress.isValid())
+            continue;
+        if (dress.toInt() == kLightGround)
+            lighten(widget);
+        else
+            widget->setStyleSheet(sheet(Dress(dress.toInt())));
+    }
+}
+
+QString Look::name(Style style)
+{
+    return style == Dark ? QLatin1String("dark") : QLatin1String("light");
+}
+
+bool Look::read(const QString &text, Style *style)
+{
+    for (Style known : {Light, Dark}) {
+        if (text == name(known)) {
+            *style = known;
+            return true;
+        }
+    }
+    return false;
+}
+
+void Look::dress(QWidget *widget, Dress dress)
+{
+    widget->setProperty(kDressProperty, int(dress));
+    widget->setStyleSheet(sheet(dress));
+}
+
+void Look::keepLight(QWidget *widget)
+{
+    widget->setProperty(kDressProperty, kLightGround);
+    lighten(widget);
+}
+
+QString Look::sheet(Dress dress)
+{
+    switch (dress) {
+    case Strip:
+        return stripSheet();
+    case KeyPanel:
+        return keyPanelSheet();
+    case Message:
+        return messageSheet();
+    }
+    return QString();
+}
+
+QPalette Look::palette()
+{
+    const QColor text(colors().text);
+    const QColor faint(colors().faint);
+    // The toolkit derives the shades of frames from the two.
+    QPalette palette(QColor(colors().button), QColor(colors().paper));
+    palette.setColor(QPalette::Base, QColor(colors().base));
+    palette.setColor(QPalette::AlternateBase, QColor(colors().alternate));
+    palette.setColor(QPalette::Highlight, QColor(kAccent));
+    palette.setColor(QPalette::HighlightedText, QColor(kWhite));
+    palette.setColor(QPalette::ToolTipBase, QColor(colors().base));
+    palette.setColor(QPalette::Link, QColor(colors().link));
+    palette.setColor(QPalette::LinkVisited, QColor(colors().link));
+    palette.setColor(QPalette::BrightText, QColor(kWhite));
+    for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText,
+                                     QPalette::ToolTipText, QPalette::PlaceholderText}) {
+        palette.setColor(role, role == QPalette::PlaceholderText ? faint : text);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    return palette;
 }
 
 QColor Look::accent()
 {
-    return QColor(0x1f, 0x7a, 0xe0);
-}
-
-QColor Look::alert()
-{
-    return QColor(0xc9, 0x2a, 0x2a);
-}
-
-QColor Look::good()
-{
-    return QColor(0x2b, 0x8a, 0x3e);
+    return kAccent;
 }
 
 QColor Look::changed()
@@ -33,41 +213,42 @@ QColor Look::changed()
     return QColor(0xff, 0xc0, 0x4d);
 }
 
-QPalette Look::palette()
+QColor Look::caution()
 {
-    QPalette palette(paper());
-    palette.setColor(QPalette::Base, Qt::white);
-    // The editor marks the current line with it, so it has to differ from the paper in bright
-    // light.
-    palette.setColor(QPalette::AlternateBase, QColor(0xcf, 0xe3, 0xfb));
-    palette.setColor(QPalette::Text, ink());
-    palette.setColor(QPalette::WindowText, ink());
-    palette.setColor(QPalette::ButtonText, ink());
-    palette.setColor(QPalette::Button, QColor(0xdf, 0xe5, 0xec));
-    palette.setColor(QPalette::Highlight, accent());
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x8a, 0x96, 0xa3));
-    return palette;
+    return QColor(0xff, 0xc0, 0x4d);
 }
 
-QString Look::stripSheet()
+QColor Look::alarm()
 {
-    return QLatin1String("#strip { background: #17202b; }"
-                         "QLabel, ElidedLabel { color: #ffffff; background: transparent; }"
-                         "PanelKey { color: #ffffff; background: #2b3a4a; border: 0;"
-                         "  border-radius: 6px; padding: 1px; }"
-                         "PanelKey:checked { background: #1f7ae0; }"
-                         "PanelKey:pressed { background: #5aa5f5; }"
-                         "PanelKey:disabled { color: #7b8b9c; background: #1f2a36; }");
+    return QColor(0xff, 0x8a, 0x80);
 }
 
-QString Look::keyPanelSheet()
+QColor Look::calm()
 {
-    return QLatin1String("PanelKey { color: #17202b; background: #ffffff; border: 1px solid"
-                         "  #9fb0c2; border-radius: 6px; padding: 1px; }"
-                         "PanelKey:checked { color: #ffffff; background: #1f7ae0; }"
-                         "PanelKey:pressed { background: #b7d7fb; }"
-                         "PanelKey:disabled { color: #9aa6b3; background: #e6ebf0;"
-                         "  border-color: #c9d2dc; }");
+    return QColor(0x7d, 0xdb, 0x98);
+}
+
+QColor Look::edge()
+{
+    return colors().edge;
+}
+
+QColor Look::keyText()
+{
+    return colors().text;
+}
+
+QColor Look::keyFaint()
+{
+    return colors().keyFaint;
+}
+
+QColor Look::stripText()
+{
+    return kWhite;
+}
+
+QColor Look::stripFaint()
+{
+    return colors().stripFaint;
 }

@@ -8,27 +8,61 @@
 #include <QPalette>
 #include <QString>
 
-/// The one look of the host: colours and the style sheets of its own strips.
+class QWidget;
+
+/// The one look of the host: its colours and the style sheets of its own strips, light or dark.
 ///
 /// Sheets are set on the host's own widgets only, never on the application or on a parent of a
-/// widget of the library: the library's rows and fields carry fixed sheets of their own.
+/// widget of the library: the library's rows and fields carry fixed sheets of their own. They stay
+/// black on white in the dark look, and so does the editor, whose words have fixed dark colours.
+///
+///     Look::use(Look::Dark);
+///     Look::dress(strip, Look::Strip);
+///     Look::use(Look::Light); // the strip follows
 namespace Look {
 
 /// Smallest side of anything that is meant to be touched, in pixels: 9 mm at 96 dpi are 34.
 const int kTouch = 40;
 
-QColor ink();     ///< Background of the host's strips.
-QColor paper();   ///< Background of the screens.
-QColor accent();  ///< What is chosen or pressed.
-QColor alert();   ///< What the operator has to see to.
-QColor good();    ///< What went well.
-QColor changed(); ///< What is not saved.
+enum Style { Light, Dark };
+
+/// What a widget of the host can be dressed as.
+enum Dress {
+    Strip,    ///< A dark strip that holds PanelKeys and labels.
+    KeyPanel, ///< PanelKeys beside a screen's content.
+    Message   ///< The message bar, by its property "tone": "info", "good", "warning".
+};
+
+/// The style in use; light until another one is chosen.
+Style style();
+/// Changes the application's palette, and what was dressed.
+void use(Style style);
+/// "light" or "dark".
+QString name(Style style);
+/// Reads what name() gives; false, and \a style as it was, for anything else.
+bool read(const QString &name, Style *style);
+
+/// Gives a widget the style sheet of its kind, now and at each change of the style. Once a
+/// widget.
+void dress(QWidget *widget, Dress dress);
+/// Dark words on light ground in both styles: for the library's editor.
+void keepLight(QWidget *widget);
+/// The sheet of a kind in the style in use.
+QString sheet(Dress dress);
 
 QPalette palette();
-/// For dark strips that hold PanelKeys and labels.
-QString stripSheet();
-/// For light panels of PanelKeys beside a screen's content.
-QString keyPanelSheet();
+
+QColor accent();   ///< What is chosen or pressed; for white text.
+QColor changed();  ///< What is not saved; on a strip.
+QColor caution();  ///< What the operator should see to soon; on a strip.
+QColor alarm();    ///< What the operator has to see to; on a strip.
+QColor calm();     ///< What is in order; on a strip.
+QColor edge();     ///< Around a dialog.
+QColor keyText();  ///< On a key of a key panel.
+QColor keyFaint(); ///< The same while the key is disabled.
+
+QColor stripText();  ///< On a strip, and on its keys.
+QColor stripFaint(); ///< On a disabled key of a strip.
 
 } // namespace Look
 

@@ -63,10 +63,10 @@ void limitShell(const QString &emptyFolder)
     qputenv("PATH", "/usr/bin:/bin");
 }
 
-void setUpLook()
+void setUpLook(Look::Style style)
 {
     QApplication::setStyle(new PanelStyle);
-    QApplication::setPalette(Look::palette());
+    Look::use(style);
     QFont font = QApplication::font();
     font.setPixelSize(15);
     QApplication::setFont(font);
@@ -102,7 +102,7 @@ int runPanel(const Options &options)
     if (stick.isSimulated() && QDir().mkpath(stick.folder()))
         Samples::fillStick(stick.folder());
 
-    setUpLook();
+    setUpLook(options.look);
     PanelWindow panel(surfaceSize(options));
     new PanelSurface(&panel, options.touch);
     new FieldKeypad(&panel);

@@ -10,7 +10,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace {
 
@@ -27,10 +29,9 @@ MessageBar::MessageBar(QWidget *parent)
     setObjectName(QLatin1String("messageBar"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
-    m_text->setStyleSheet(QLatin1String("color: #ffffff;"));
     m_progress->setTextVisible(false);
     m_progress->setFixedHeight(10);
-    m_key->setStyleSheet(Look::stripSheet());
+    Look::dress(this, Look::Message);
 
     QVBoxLayout *column = new QVBoxLayout;
     column->setSpacing(4);
@@ -56,9 +57,7 @@ void MessageBar::tell(const QString &text, PanelScreen::Tone tone)
     m_key->setIcon(Glyphs::icon(Glyphs::Close));
     m_key->setText(QString());
     m_key->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    paint(tone == PanelScreen::Warning ? Look::alert()
-          : tone == PanelScreen::Good  ? Look::good()
-                                       : Look::ink());
+    setTone(tone);
     if (tone == PanelScreen::Warning)
         m_timer.stop();
     else
@@ -76,7 +75,7 @@ void MessageBar::showWork(const QString &text, int percent)
     m_key->setIcon(QIcon());
     m_key->setText(tr("Stop"));
     m_key->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    paint(Look::ink());
+    setTone(PanelScreen::Info);
     place();
     // Some work keeps the event loop waiting.
     repaint();
@@ -94,11 +93,15 @@ bool MessageBar::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
-void MessageBar::paint(const QColor &color)
+void MessageBar::setTone(PanelScreen::Tone tone)
 {
-    setStyleSheet(QString::fromLatin1("#messageBar { background: %1; border: 1px solid #ffffff; "
-                                      "border-radius: 8px; }")
-                      .arg(color.name()));
+    const char *name = tone == PanelScreen::Warning ? "warning"
+                       : tone == PanelScreen::Good  ? "good"
+                                                    : "info";
+    setProperty("tone", QString::fromLatin1(name));
+    // A sheet looks at properties when it is set.
+    style()->unpolish(this);
+    style()->polish(this);
 }
 
 void MessageBar::place()

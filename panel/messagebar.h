@@ -34,7 +34,7 @@ Q_SIGNALS:
     void stopped();
 
 private:
-    void paint(const QColor &color);
+    void setTone(PanelScreen::Tone tone);
     void place();
     void press();
 

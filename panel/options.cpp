@@ -68,6 +68,10 @@ Options Options::parse(const QStringList &arguments)
     const QCommandLineOption noTouch(
         QLatin1String("no-touch"),
         QLatin1String("The panel has keys and no touch screen: no on-screen keypad opens."));
+    const QCommandLineOption look(
+        QLatin1String("look"),
+        QLatin1String("Colours of the panel: light, or dark for a dim hall. Without it: light."),
+        QLatin1String("style"), QLatin1String("light"));
     const QCommandLineOption programs(
         QLatin1String("programs"),
         QLatin1String("Program directory. It is always named cnc: for another name DIR/cnc is "
@@ -91,7 +95,7 @@ Options Options::parse(const QStringList &arguments)
                       "Files screen. Where /mnt/Storage belongs to the system, ./run --stick DIR "
                       "starts the panel with one of its own."),
         QLatin1String("DIR"));
-    parser.addOptions({rotation, size, noTouch, programs, plc, stick, tour});
+    parser.addOptions({rotation, size, noTouch, look, programs, plc, stick, tour});
 
     if (!parser.parse(arguments))
         return refusal(parser.errorText());
@@ -117,6 +121,9 @@ Options Options::parse(const QStringList &arguments)
         return refusal(QString::fromLatin1("The size \"%1\" is not of the form 800x480, or below "
                                            "480x272.")
                            .arg(parser.value(size)));
+    if (!Look::read(parser.value(look), &options.look))
+        return refusal(QString::fromLatin1("The look \"%1\" is neither light nor dark.")
+                           .arg(parser.value(look)));
     for (const QCommandLineOption &folder : {programs, plc, stick, tour}) {
         if (parser.isSet(folder) && parser.value(folder).isEmpty())
             return refusal(

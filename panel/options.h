@@ -4,6 +4,8 @@
 #ifndef OPTIONS_H
 #define OPTIONS_H
 
+#include "look.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -25,6 +27,7 @@ struct Options
     /// Surface in pixels as the operator sees it; invalid when it was not given.
     QSize size;
     bool touch = true;
+    Look::Style look = Look::Light;
     /// Absolute path of the program directory, whose last part is always "cnc"; empty for the
     /// one in the user's home.
     QString programDir;

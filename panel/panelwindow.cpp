@@ -65,7 +65,7 @@ QWidget *PanelWindow::makeTopStrip()
     QWidget *strip = new QWidget;
     strip->setObjectName(QLatin1String("strip"));
     strip->setAttribute(Qt::WA_StyledBackground);
-    strip->setStyleSheet(Look::stripSheet());
+    Look::dress(strip, Look::Strip);
     QHBoxLayout *row = new QHBoxLayout(strip);
     const int margin = m_shape == Small ? 1 : 3;
     row->setContentsMargins(3, margin, 3, margin);
@@ -110,7 +110,7 @@ QWidget *PanelWindow::makeFootStrip()
     QWidget *strip = new QWidget;
     strip->setObjectName(QLatin1String("strip"));
     strip->setAttribute(Qt::WA_StyledBackground);
-    strip->setStyleSheet(Look::stripSheet());
+    Look::dress(strip, Look::Strip);
     QVBoxLayout *column = new QVBoxLayout(strip);
     column->setContentsMargins(3, 2, 3, 3);
     column->setSpacing(2);
@@ -168,7 +168,7 @@ void PanelWindow::makeMenu()
     m_menu = new QWidget(this);
     m_menu->setObjectName(QLatin1String("strip"));
     m_menu->setAttribute(Qt::WA_StyledBackground);
-    m_menu->setStyleSheet(Look::stripSheet());
+    Look::dress(m_menu, Look::Strip);
     m_tabs->setContentsMargins(4, 4, 4, 6);
     m_menu->setLayout(m_tabs);
     m_menu->hide();

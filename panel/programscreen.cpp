@@ -4,6 +4,7 @@
 #include "programscreen.h"
 
 #include "barpager.h"
+#include "look.h"
 #include "machinedata.h"
 #include "panelkey.h"
 #include "plctransfer.h"
@@ -30,6 +31,9 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineD
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_window);
+    Look::keepLight(m_editor);
+    // The line is marked already, in the colour of before.
+    QMetaObject::invokeMethod(m_editor, "highlightCurrentLine");
     // The strips hold what they hold: dragged shut they would be lost to a thumb.
     m_window->setChildrenCollapsible(false);
     const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();

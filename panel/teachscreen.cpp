@@ -44,7 +44,7 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
             [this] { insert(TaughtProgram::command(tr("G04 F1 wait"))); });
     connect(addKey(libraryIcon("delete"), tr("Delete")), &PanelKey::clicked, this,
             &TeachScreen::removeChosen);
-    m_selectKey = addKey(Glyphs::icon(Glyphs::Select, Look::ink()), tr("Select"));
+    m_selectKey = addKey(Glyphs::icon(Glyphs::Select, Glyphs::OnKey), tr("Select"));
     m_selectKey->setCheckable(true);
     connect(m_selectKey, &PanelKey::toggled, this, [this](bool several) {
         if (several)

@@ -3,6 +3,8 @@
 
 #include "keybutton.h"
 
+#include "keypadlook.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -20,15 +22,22 @@ struct KeyColours
     QRgb text;
 };
 
-// By role, in the order of the enum.
-const KeyColours roleColours[] = {
-    {0xffffffff, 0xff8c96a0, 0xff10161c}, // typing
-    {0xffc3ccd5, 0xff7d8892, 0xff10161c}, // editing
-    {0xff1b7a3a, 0xff0f5727, 0xffffffff}, // accept
-    {0xff4c5763, 0xff333c45, 0xffffffff}, // cancel
-};
+// By role, in the order of the enum; light and dark.
+const KeyColours roleColours[][4] = {{
+                                         {0xffffffff, 0xff8c96a0, 0xff10161c}, // typing
+                                         {0xffc3ccd5, 0xff7d8892, 0xff10161c}, // editing
+                                         {0xff1b7a3a, 0xff0f5727, 0xffffffff}, // accept
+                                         {0xff4c5763, 0xff333c45, 0xffffffff}, // cancel
+                                     },
+                                     {
+                                         {0xff37434f, 0xff566473, 0xffeef2f6},
+                                         {0xff232c35, 0xff566473, 0xffeef2f6},
+                                         {0xff1b7a3a, 0xff2f9a53, 0xffffffff},
+                                         {0xff4c5763, 0xff6b7885, 0xffffffff},
+                                     }};
 const KeyColours pressedColours = {0xffffb000, 0xffa06a00, 0xff10161c};
-const KeyColours disabledColours = {0xffb4bbc2, 0xffa3abb3, 0xff7b848d};
+const KeyColours disabledColours[] = {{0xffb4bbc2, 0xffa3abb3, 0xff5a636c},
+                                      {0xff1b222a, 0xff333c45, 0xff7b848d}};
 
 // The glyphs are drawn in a square from -1 to 1.
 
@@ -147,9 +156,10 @@ QSize KeyButton::sizeHint() const
 
 void KeyButton::paintEvent(QPaintEvent *)
 {
-    const KeyColours &colours = !isEnabled() ? disabledColours
+    const int look = KeypadLook::isDark() ? 1 : 0;
+    const KeyColours &colours = !isEnabled() ? disabledColours[look]
                                 : isDown()   ? pressedColours
-                                             : roleColours[m_role];
+                                             : roleColours[look][m_role];
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QColor(colours.edge));

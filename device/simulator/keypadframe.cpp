@@ -6,6 +6,7 @@
 #include "keybutton.h"
 #include "keypadcheck.h"
 #include "keypadlabel.h"
+#include "keypadlook.h"
 #include "valueedit.h"
 
 #include <QPainter>
@@ -24,7 +25,8 @@ const int smallKeypad = 480;
 const int repeatDelay = 500;
 const int repeatInterval = 80;
 
-const QRgb frameColour = 0xff26303a;
+// Light and dark.
+const QRgb frameColours[] = {0xff26303a, 0xff0b0f13};
 const QRgb oldValueColour = 0xffd5dce3;
 const QRgb limitColour = 0xffffd479;
 const QRgb reasonColour = 0xffff9d8a;
@@ -201,7 +203,7 @@ void KeypadFrame::end()
 
 void KeypadFrame::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(rect(), QColor(frameColour));
+    QPainter(this).fillRect(rect(), QColor(frameColours[KeypadLook::isDark() ? 1 : 0]));
 }
 
 void KeypadFrame::resizeEvent(QResizeEvent *)

@@ -3,6 +3,8 @@
 
 #include "valueedit.h"
 
+#include "keypadlook.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
@@ -16,7 +18,7 @@ const int largestText = 34;
 
 // Every property that a host's sheet might have for line edits has its value here.
 const char *const sheet =
-    "QLineEdit { color: #10161c; background: #ffffff; border: %1px solid #ffb000;"
+    "QLineEdit { color: %4; background: %5; border: %1px solid #ffb000;"
     " border-radius: 4px; margin: 0px; padding: 0px %2px; font-size: %3px;"
     " font-weight: normal; min-width: 0px; min-height: 0px; max-width: 9999px;"
     " max-height: 9999px; selection-color: #ffffff;"
@@ -72,6 +74,12 @@ void ValueEdit::keyPressEvent(QKeyEvent *event)
         QLineEdit::keyPressEvent(event);
 }
 
+void ValueEdit::showEvent(QShowEvent *event)
+{
+    QLineEdit::showEvent(event);
+    fitFont();
+}
+
 void ValueEdit::resizeEvent(QResizeEvent *event)
 {
     QLineEdit::resizeEvent(event);
@@ -81,10 +89,13 @@ void ValueEdit::resizeEvent(QResizeEvent *event)
 void ValueEdit::fitFont()
 {
     const int size = fittingSize();
-    if (size == m_fontSize)
+    const bool dark = KeypadLook::isDark();
+    if (size == m_fontSize && dark == m_dark)
         return;
     m_fontSize = size;
-    setStyleSheet(QString::fromLatin1(sheet).arg(border).arg(padding).arg(size));
+    m_dark = dark;
+    setStyleSheet(QString::fromLatin1(sheet).arg(border).arg(padding).arg(size).arg(
+        QLatin1String(dark ? "#eef2f6" : "#10161c"), QLatin1String(dark ? "#12171c" : "#ffffff")));
 }
 
 QString ValueEdit::permitted(const QString &typed) const

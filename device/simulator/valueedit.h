@@ -37,6 +37,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private Q_SLOTS:
@@ -48,6 +49,7 @@ private:
 
     TypingRules m_rules;
     int m_fontSize = 0;
+    bool m_dark = false;
 };
 
 #endif // VALUEEDIT_H

@@ -34,6 +34,7 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
     QCOMPARE(options.rotation, 0);
     QVERIFY(!options.size.isValid());
     QVERIFY(options.touch);
+    QCOMPARE(options.look, Look::Light);
     QCOMPARE(options.home(), QString());
     QCOMPARE(options.plcDir, QString());
     QCOMPARE(options.tourDir, QString());
@@ -41,13 +42,14 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
 
 void TestOptions::allOptionsAreRead()
 {
-    const Options options =
-        parse({"--rotation", "270", "--size", "480x800", "--no-touch", "--programs", "/srv/hmi/cnc",
-               "--plc=/srv/plc", "--stick", "/srv/stick", "--tour", "pictures"});
+    const Options options = parse({"--rotation", "270", "--size", "480x800", "--no-touch", "--look",
+                                   "dark", "--programs", "/srv/hmi/cnc", "--plc=/srv/plc",
+                                   "--stick", "/srv/stick", "--tour", "pictures"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.size, QSize(480, 800));
     QVERIFY(!options.touch);
+    QCOMPARE(options.look, Look::Dark);
     QCOMPARE(options.programDir, QString("/srv/hmi/cnc"));
     QCOMPARE(options.plcDir, QString("/srv/plc"));
     QCOMPARE(options.stickDir, QString("/srv/stick"));
@@ -120,6 +122,7 @@ void TestOptions::refused_data()
     QTest::newRow("size too small") << QStringList{"--size", "320x240"} << "320x240";
     QTest::newRow("size with a tail") << QStringList{"--size", "800x480x3"} << "800x480x3";
     QTest::newRow("empty directory") << QStringList{"--plc", ""} << "--plc";
+    QTest::newRow("look of no kind") << QStringList{"--look", "grey"} << "grey";
     QTest::newRow("unknown option") << QStringList{"--turn"} << "turn";
     QTest::newRow("missing value") << QStringList{"--programs"} << "programs";
     QTest::newRow("stray word") << QStringList{"coil.cnc"} << "coil.cnc";

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "contrast.h"
+#include "keypadtest.h"
+
+#include <hmidevice/characterkeypad.h>
+#include <hmidevice/gcodekeypad.h>
+#include <hmidevice/numerickeypad.h>
+
+#include <QIntValidator>
+
+/// The keypads are light or dark with the host, and readable either way.
+class TestKeypadLook : public KeypadTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void keysAndLinesAreReadable_data();
+    void keysAndLinesAreReadable();
+    void goesWithTheHost();
+
+private:
+    static void setDark(bool dark);
+    static QDialog *keypad(const QString &kind);
+};
+
+void TestKeypadLook::setDark(bool dark)
+{
+    QApplication::setPalette(dark ? QPalette(QColor(0x32, 0x3e, 0x4a), QColor(0x1d, 0x24, 0x2c))
+                                  : QPalette(QColor(0xdf, 0xe5, 0xec), QColor(0xee, 0xf1, 0xf5)));
+}
+
+QDialog *TestKeypadLook::keypad(const QString &kind)
+{
+    if (kind == "numeric")
+        return NumericKeypad::instance();
+    if (kind == "character")
+        return CharacterKeypad::instance();
+    return GCodeKeypad::instance();
+}
+
+void TestKeypadLook::cleanup()
+{
+    setDark(false);
+    FilarixTest::cleanup();
+}
+
+void TestKeypadLook::keysAndLinesAreReadable_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("dark");
+    Q_FOREACH (const char *kind, QList<const char *>() << "numeric"
+                                                       << "character"
+                                                       << "gcode") {
+        QTest::newRow(kind) << kind << false;
+        QTest::newRow(QByteArray(kind).append(" dark").constData()) << kind << true;
+    }
+}
+
+void TestKeypadLook::keysAndLinesAreReadable()
+{
+    QFETCH(QString, kind);
+    QFETCH(bool, dark);
+    setDark(dark);
+    QDialog *pad = keypad(kind);
+    QIntValidator validator(1, 9);
+    if (kind == "numeric") {
+        NumericKeypad::instance()->setValidator(&validator);
+        NumericKeypad::instance()->setLimitToolTip("1 to 9");
+        NumericKeypad::instance()->setText("77");
+    }
+    run(pad, [&] {
+        Q_FOREACH (QAbstractButton *button, pad->findChildren<QAbstractButton *>()) {
+            const QRect inside = button->rect().adjusted(5, 5, -5, -5);
+            const double wanted = button->isEnabled() ? Contrast::kText : Contrast::kDisabled;
+            QVERIFY2(Contrast::drawn(button, inside) >= wanted, qPrintable(button->objectName()));
+            button->setDown(true);
+            QVERIFY2(Contrast::drawn(button, inside) >= wanted, qPrintable(button->objectName()));
+            button->setDown(false);
+        }
+        Q_FOREACH (const char *name, QList<const char *>() << "oldValue"
+                                                           << "limit"
+                                                           << "reason") {
+            QWidget *label = pad->findChild<QWidget *>(QLatin1String(name));
+            if (!label->isVisible() || line(pad, name).isEmpty())
+                continue;
+            const QRect place(label->mapTo(pad, QPoint(0, 0)), label->size());
+            QVERIFY2(Contrast::drawn(pad, place) >= Contrast::kText, name);
+        }
+        value(pad)->deselect();
+        value(pad)->setText("123");
+        QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6))
+                >= Contrast::kText);
+        value(pad)->selectAll();
+        QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6))
+                >= Contrast::kText);
+    });
+}
+
+void TestKeypadLook::goesWithTheHost()
+{
+    QDialog *pad = keypad("gcode");
+    QList<int> brightness;
+    Q_FOREACH (bool dark, QList<bool>() << false << true << false) {
+        setDark(dark);
+        run(pad, [&] {
+            brightness.append(
+                QColor(TestCompat::grab(key(pad, "G")).toImage().pixel(8, 8)).lightness());
+            brightness.append(
+                QColor(TestCompat::grab(value(pad)).toImage().pixel(8, 8)).lightness());
+        });
+    }
+    QCOMPARE(brightness.size(), 6);
+    QVERIFY(brightness.at(0) > 192 && brightness.at(1) > 192);
+    QVERIFY(brightness.at(2) < 96 && brightness.at(3) < 96);
+    QCOMPARE(brightness.mid(4), brightness.mid(0, 2));
+}
+
+FILARIX_TEST_MAIN(TestKeypadLook)
+#include "tst_keypadlook.moc"

@@ -1,0 +1,281 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "contrast.h"
+#include "filarixtest.h"
+#include "glyphs.h"
+#include "look.h"
+#include "messagebar.h"
+#include "panelkey.h"
+#include "panelstyle.h"
+#include "wgcodeediter.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTableWidget>
+
+Q_DECLARE_METATYPE(Look::Dress)
+Q_DECLARE_METATYPE(Look::Style)
+
+class TestLook : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void namesAreRead();
+    void paletteIsReadable_data();
+    void paletteIsReadable();
+    void keysAreReadable_data();
+    void keysAreReadable();
+    void messagesAreReadable_data();
+    void messagesAreReadable();
+    void stripColoursAreReadable_data();
+    void stripColoursAreReadable();
+    void whatIsShownFollows();
+    void editorStaysLight();
+    void sheetsOfTheLibraryStay();
+
+private:
+    void addStyles();
+};
+
+void TestLook::initTestCase()
+{
+    QApplication::setStyle(new PanelStyle);
+}
+
+void TestLook::cleanup()
+{
+    Look::use(Look::Light);
+    FilarixTest::cleanup();
+}
+
+void TestLook::addStyles()
+{
+    QTest::addColumn<Look::Style>("style");
+    QTest::newRow("light") << Look::Light;
+    QTest::newRow("dark") << Look::Dark;
+}
+
+void TestLook::namesAreRead()
+{
+    Look::Style style = Look::Light;
+    QVERIFY(Look::read("dark", &style));
+    QCOMPARE(style, Look::Dark);
+    QVERIFY(!Look::read("Dark", &style));
+    QVERIFY(!Look::read(QString(), &style));
+    QCOMPARE(style, Look::Dark);
+    QCOMPARE(Look::name(Look::Light), QString("light"));
+    QCOMPARE(Look::name(Look::Dark), QString("dark"));
+}
+
+void TestLook::paletteIsReadable_data()
+{
+    addStyles();
+}
+
+void TestLook::paletteIsReadable()
+{
+    QFETCH(Look::Style, style);
+    Look::use(style);
+    const QPair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::Link, QPalette::Window},
+        {QPalette::Link, QPalette::Base},
+    };
+    const QPalette palette = QApplication::palette();
+    for (const QPair<QPalette::ColorRole, QPalette::ColorRole> &pair : pairs) {
+        for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+            const double ratio = Contrast::ratio(palette.color(group, pair.first),
+                                                 palette.color(group, pair.second));
+            QVERIFY2(ratio >= Contrast::kText,
+                     qPrintable(
+                         QString("role %1 on %2: %3").arg(pair.first).arg(pair.second).arg(ratio)));
+        }
+    }
+    for (QPalette::ColorRole ground : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        const double ratio =
+            Contrast::ratio(palette.color(QPalette::Disabled, QPalette::WindowText),
+                            palette.color(QPalette::Disabled, ground));
+        QVERIFY2(ratio >= Contrast::kDisabled, qPrintable(QString::number(ratio)));
+    }
+}
+
+void TestLook::keysAreReadable_data()
+{
+    QTest::addColumn<Look::Style>("style");
+    QTest::addColumn<Look::Dress>("dress");
+    QTest::addColumn<bool>("withGlyph");
+    for (Look::Style style : {Look::Light, Look::Dark}) {
+        for (Look::Dress dress : {Look::Strip, Look::KeyPanel}) {
+            for (bool withGlyph : {false, true})
+                QTest::newRow(qPrintable(QString("%1 %2 %3")
+                                             .arg(Look::name(style),
+                                                  dress == Look::Strip ? "strip" : "key panel",
+                                                  withGlyph ? "glyph" : "text")))
+                    << style << dress << withGlyph;
+        }
+    }
+}
+
+void TestLook::keysAreReadable()
+{
+    QFETCH(Look::Style, style);
+    QFETCH(Look::Dress, dress);
+    QFETCH(bool, withGlyph);
+    Look::use(style);
+    QWidget strip;
+    strip.setObjectName("strip");
+    strip.setAttribute(Qt::WA_StyledBackground);
+    Look::dress(&strip, dress);
+    PanelKey *key =
+        withGlyph ? new PanelKey(
+            Glyphs::icon(Glyphs::Plc, dress == Look::Strip ? Glyphs::OnStrip : Glyphs::OnKey),
+            QString(), &strip)
+                  : new PanelKey("Word", &strip);
+    key->setCheckable(true);
+    key->resize(90, 44);
+    strip.show();
+    const QRect inside = key->rect().adjusted(8, 6, -8, -6);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    key->setDown(true);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    key->setDown(false);
+    key->setChecked(true);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    key->setDown(true);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    key->setDown(false);
+    key->setChecked(false);
+    key->setEnabled(false);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kDisabled);
+}
+
+void TestLook::messagesAreReadable_data()
+{
+    QTest::addColumn<Look::Style>("style");
+    QTest::addColumn<PanelScreen::Tone>("tone");
+    for (Look::Style style : {Look::Light, Look::Dark}) {
+        const QByteArray name = Look::name(style).toLatin1();
+        QTest::newRow((name + " info").constData()) << style << PanelScreen::Info;
+        QTest::newRow((name + " good").constData()) << style << PanelScreen::Good;
+        QTest::newRow((name + " warning").constData()) << style << PanelScreen::Warning;
+    }
+}
+
+void TestLook::messagesAreReadable()
+{
+    QFETCH(Look::Style, style);
+    QFETCH(PanelScreen::Tone, tone);
+    Look::use(style);
+    QWidget screen;
+    screen.resize(480, 200);
+    MessageBar bar(&screen);
+    screen.show();
+    // The tones follow one another.
+    bar.showWork("on its way", 40);
+    bar.tell("The PLC does not answer.", tone);
+    QLabel *text = bar.findChild<QLabel *>();
+    QVERIFY(Contrast::drawn(&bar, text->geometry()) >= Contrast::kText);
+    PanelKey *key = bar.findChild<PanelKey *>();
+    QVERIFY(Contrast::drawn(&bar, key->geometry().adjusted(8, 8, -8, -8)) >= Contrast::kText);
+}
+
+void TestLook::stripColoursAreReadable_data()
+{
+    addStyles();
+}
+
+void TestLook::stripColoursAreReadable()
+{
+    QFETCH(Look::Style, style);
+    Look::use(style);
+    QWidget strip;
+    strip.setObjectName("strip");
+    strip.setAttribute(Qt::WA_StyledBackground);
+    Look::dress(&strip, Look::Strip);
+    strip.resize(20, 20);
+    const QColor ground = TestCompat::grab(&strip).toImage().pixelColor(10, 10);
+    for (const QColor &color : {Look::stripText(), Look::changed(), Look::caution(), Look::alarm(),
+                                Look::calm(), Look::stripFaint()})
+        QVERIFY2(Contrast::ratio(color, ground) >= Contrast::kText, qPrintable(color.name()));
+}
+
+void TestLook::whatIsShownFollows()
+{
+    QWidget strip;
+    strip.setObjectName("strip");
+    strip.setAttribute(Qt::WA_StyledBackground);
+    Look::dress(&strip, Look::Strip);
+    QWidget panel;
+    Look::dress(&panel, Look::KeyPanel);
+    PanelKey *key = new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey), "Edit", &panel);
+    key->resize(90, 60);
+    QTableWidget table(2, 1);
+    strip.show();
+    panel.show();
+    table.show();
+    const QImage lightStrip = TestCompat::grab(&strip).toImage();
+    const QImage lightKey = TestCompat::grab(key).toImage();
+    const QColor lightBase = table.viewport()->palette().color(QPalette::Base);
+
+    Look::use(Look::Dark);
+    QCOMPARE(Look::style(), Look::Dark);
+    QVERIFY(TestCompat::grab(&strip).toImage() != lightStrip);
+    QVERIFY(TestCompat::grab(key).toImage() != lightKey);
+    QVERIFY(table.viewport()->palette().color(QPalette::Base).lightness() < 64);
+    QVERIFY(lightBase.lightness() > 192);
+    // The glyph alone is the word's whole colour on a dark key.
+    key->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    QVERIFY(Contrast::drawn(key, key->rect().adjusted(8, 6, -8, -6)) >= Contrast::kText);
+
+    Look::use(Look::Light);
+    QCOMPARE(TestCompat::grab(&strip).toImage(), lightStrip);
+    QCOMPARE(table.viewport()->palette().color(QPalette::Base), lightBase);
+}
+
+// The colours of the words are fixed, and made for paper.
+void TestLook::editorStaysLight()
+{
+    WGCodeEditer editor(nullptr);
+    const QBrush selection = editor.palette().brush(QPalette::Inactive, QPalette::Highlight);
+    Look::keepLight(&editor);
+    editor.setPlainText("; wait\n; again");
+    editor.show();
+    for (Look::Style style : {Look::Dark, Look::Light, Look::Dark}) {
+        Look::use(style);
+        const QPalette palette = editor.viewport()->palette();
+        for (const QColor &word :
+             {QColor(Qt::blue), QColor(Qt::darkMagenta), palette.color(QPalette::Text)})
+            QVERIFY(Contrast::ratio(word, palette.color(QPalette::Base)) >= Contrast::kText);
+        QVERIFY(
+            Contrast::ratio(palette.color(QPalette::Text), palette.color(QPalette::AlternateBase))
+            >= Contrast::kText);
+        QCOMPARE(editor.palette().brush(QPalette::Inactive, QPalette::Highlight), selection);
+        // What belongs to no text follows.
+        QCOMPARE(editor.palette().color(QPalette::Window),
+                 QApplication::palette().color(QPalette::Window));
+    }
+}
+
+void TestLook::sheetsOfTheLibraryStay()
+{
+    WGCodeEditer editor(nullptr);
+    const QString sheet = editor.styleSheet();
+    QVERIFY(!sheet.isEmpty());
+    Look::keepLight(&editor);
+    Look::use(Look::Dark);
+    QCOMPARE(editor.styleSheet(), sheet);
+    QCOMPARE(qApp->styleSheet(), QString());
+}
+
+FILARIX_TEST_MAIN(TestLook)
+#include "tst_look.moc"
