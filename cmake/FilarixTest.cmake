@@ -1,6 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Filarix Module developers
 # SPDX-License-Identifier: MIT
 
+# What starts a test program: the sandbox, and in it the emulator where this machine's processor is not
+# the program's.
+set(FILARIX_TEST_LAUNCHER "${PROJECT_SOURCE_DIR}/tests/support/sandbox.sh")
+if(CMAKE_CROSSCOMPILING_EMULATOR)
+  set(FILARIX_TEST_LAUNCHER ${CMAKE_CROSSCOMPILING_EMULATOR})
+endif()
+
 set(FILARIX_TEST_SCALE 1 CACHE STRING
   "How many times slower than on a PC the tests run: sizes are divided by it, time limits multiplied")
 
@@ -34,6 +41,6 @@ function(filarix_add_test)
       FilarixModuleObjects filarix_test_support filarix_test_frame ${arg_LIBRARIES})
   endif()
   add_test(NAME ${arg_NAME}
-    COMMAND "${PROJECT_SOURCE_DIR}/tests/support/sandbox.sh" $<TARGET_FILE:${arg_NAME}>)
+    COMMAND ${FILARIX_TEST_LAUNCHER} $<TARGET_FILE:${arg_NAME}>)
   filarix_set_timeout(${arg_NAME} ${arg_TIMEOUT})
 endfunction()
