@@ -9,6 +9,7 @@
 #include "keypadlook.h"
 #include "valueedit.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace {
@@ -209,6 +210,17 @@ void KeypadFrame::paintEvent(QPaintEvent *)
 void KeypadFrame::resizeEvent(QResizeEvent *)
 {
     arrange();
+}
+
+void KeypadFrame::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    labelKeys();
+    showOldValue();
+    arrange();
+    check();
 }
 
 void KeypadFrame::keyClicked()

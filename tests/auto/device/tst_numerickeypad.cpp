@@ -55,6 +55,7 @@ private Q_SLOTS:
     void orderOfCallsDoesNotMatter();
     void nothingIsLeftForTheNextCaller();
     void setWhileOpenCounts();
+    void languageOfAnOpenKeypadChanges();
     void sizeOfOneCallerIsNotTheNextOnes_data();
     void sizeOfOneCallerIsNotTheNextOnes();
 
@@ -592,6 +593,35 @@ void TestNumericKeypad::setWhileOpenCounts()
     });
     QCOMPARE(result, 1);
     QCOMPARE(caller.text(), QString("21"));
+}
+
+void TestNumericKeypad::languageOfAnOpenKeypadChanges()
+{
+    const QIntValidator validator(1, 20, nullptr);
+    pad()->setValidator(&validator);
+    pad()->setText(QLatin1String("5"));
+    const int result = runPad([&] {
+        click(pad(), "1 2 3");
+        {
+            const TestCompat::MarkingTranslator frame("KeypadFrame");
+            const TestCompat::MarkingTranslator check("KeypadCheck");
+            QApplication::processEvents();
+            QCOMPARE(key(pad(), "clear")->text(), QString("Clear*"));
+            QCOMPARE(key(pad(), "7")->text(), QString("7"));
+            QCOMPARE(line(pad(), "oldValue"), QString("Was: 5*"));
+            QCOMPARE(line(pad(), "reason"), QString("Outside the limits*"));
+            QCOMPARE(value(pad())->text(), QString("123"));
+        }
+        QApplication::processEvents();
+        QCOMPARE(key(pad(), "clear")->text(), QString("Clear"));
+        QCOMPARE(line(pad(), "oldValue"), QString("Was: 5"));
+        click(pad(), "cancel");
+    });
+    QCOMPARE(result, 0);
+    // A closed one follows too.
+    const TestCompat::MarkingTranslator frame("KeypadFrame");
+    QApplication::processEvents();
+    QCOMPARE(key(pad(), "clear")->text(), QString("Clear*"));
 }
 
 void TestNumericKeypad::sizeOfOneCallerIsNotTheNextOnes_data()
