@@ -29,6 +29,11 @@ bool BarPager::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_bar && (event->type() == QEvent::Resize || event->type() == QEvent::Show)
         && m_bar->width() != m_dividedWidth)
         divide();
+    if (watched == m_bar && event->type() == QEvent::LanguageChange) {
+        // The window has given its buttons their texts already.
+        m_key->setText(tr("More"));
+        divide();
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -60,7 +60,6 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     if (!QFileInfo(filePath).exists())
         makeFile();
     Look::dress(this, Look::KeyPanel);
-    m_table->setHorizontalHeaderLabels({tr("Connection"), tr("Cid"), tr("Baud"), tr("Address")});
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setFocusPolicy(Qt::NoFocus);
@@ -76,8 +75,8 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     m_table->setColumnWidth(1, Look::kTouch);
     m_table->setColumnWidth(2, 2 * Look::kTouch);
 
-    PanelKey *editKey =
-        new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey), tr("Edit the addresses"));
+    PanelKey *editKey = new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey),
+                                     [] { return tr("Edit the addresses"); });
     editKey->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(editKey, &PanelKey::clicked, this, &ConnectionsScreen::edit);
 
@@ -86,6 +85,12 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     column->setSpacing(4);
     column->addWidget(m_table, 1);
     column->addWidget(editKey);
+    retranslate();
+}
+
+void ConnectionsScreen::retranslate()
+{
+    m_table->setHorizontalHeaderLabels({tr("Connection"), tr("Cid"), tr("Baud"), tr("Address")});
     showConnections();
 }
 

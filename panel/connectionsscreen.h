@@ -23,6 +23,9 @@ public:
     /// Name and stored address of each connection; an empty address where none is stored yet.
     QList<QPair<QString, QString>> addresses() const;
 
+protected:
+    void retranslate() override;
+
 private:
     void makeFile();
     void edit();

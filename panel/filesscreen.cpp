@@ -5,6 +5,7 @@
 
 #include "elidedlabel.h"
 #include "importguard.h"
+#include "livetext.h"
 #include "look.h"
 #include "panelkey.h"
 #include "pathpicker.h"
@@ -22,7 +23,7 @@ namespace {
 // What the import manager lets in altogether.
 const qint64 kProgramSpace = 31457280;
 
-PanelKey *darkKey(Glyphs::Glyph glyph, const QString &text)
+PanelKey *darkKey(Glyphs::Glyph glyph, const std::function<QString()> &text)
 {
     return new PanelKey(Glyphs::icon(glyph, Glyphs::OnKey), text);
 }
@@ -34,18 +35,18 @@ FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
     , m_stick(stick)
     , m_guard(new ImportGuard(Samples::programDir(), Stick::mountPoint(), this))
     , m_grid(new QGridLayout)
-    , m_plugKey(darkKey(Glyphs::Plug, tr("Plug")))
-    , m_pullKey(darkKey(Glyphs::Pull, tr("Pull")))
-    , m_renameKey(darkKey(Glyphs::Rename, tr("Rename")))
+    , m_plugKey(darkKey(Glyphs::Plug, [] { return tr("Plug"); }))
+    , m_pullKey(darkKey(Glyphs::Pull, [] { return tr("Pull"); }))
+    , m_renameKey(darkKey(Glyphs::Rename, [] { return tr("Rename"); }))
 {
     Look::dress(this, Look::KeyPanel);
     PanelKey *importKey =
-        new PanelKey(QIcon(QLatin1String(":/images/importExport.png")), tr("I/E"));
-    PanelKey *pickKey = darkKey(Glyphs::Files, tr("Pick"));
-    m_stickState = addLine(tr("Stick"), {m_plugKey, m_pullKey});
-    m_nameState = addLine(tr("Names"), {m_renameKey});
-    m_storageState = addLine(tr("Programs"), {importKey});
-    m_pathState = addLine(tr("Path"), {pickKey});
+        new PanelKey(QIcon(QLatin1String(":/images/importExport.png")), [] { return tr("I/E"); });
+    PanelKey *pickKey = darkKey(Glyphs::Files, [] { return tr("Pick"); });
+    m_stickState = addLine([] { return tr("Stick"); }, {m_plugKey, m_pullKey});
+    m_nameState = addLine([] { return tr("Names"); }, {m_renameKey});
+    m_storageState = addLine([] { return tr("Programs"); }, {importKey});
+    m_pathState = addLine([] { return tr("Path"); }, {pickKey});
     m_grid->setContentsMargins(12, 6, 6, 6);
     m_grid->setRowStretch(m_grid->rowCount(), 1);
     m_grid->setColumnStretch(0, 1);
@@ -68,10 +69,12 @@ QString FilesScreen::title() const
     return tr("Files and stick");
 }
 
-ElidedLabel *FilesScreen::addLine(const QString &heading, const QList<PanelKey *> &keys)
+ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
+                                  const QList<PanelKey *> &keys)
 {
     const int row = m_grid->rowCount();
-    QLabel *name = new QLabel(heading);
+    QLabel *name = new QLabel;
+    new LiveText(name, heading);
     QFont font = name->font();
     font.setBold(true);
     name->setFont(font);
@@ -105,6 +108,11 @@ void FilesScreen::refreshStatus()
         else
             m_guard->settle();
     }
+}
+
+void FilesScreen::retranslate()
+{
+    showState();
 }
 
 void FilesScreen::plug()

@@ -6,6 +6,8 @@
 
 #include "panelscreen.h"
 
+#include <functional>
+
 class ElidedLabel;
 class ImportGuard;
 class QGridLayout;
@@ -36,8 +38,11 @@ Q_SIGNALS:
     /// The operator wants the import manager.
     void importWanted();
 
+protected:
+    void retranslate() override;
+
 private:
-    ElidedLabel *addLine(const QString &heading, const QList<PanelKey *> &keys);
+    ElidedLabel *addLine(const std::function<QString()> &heading, const QList<PanelKey *> &keys);
     void rename();
     void pick();
     void showState();

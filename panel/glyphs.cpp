@@ -130,6 +130,11 @@ QPainterPath shape(Glyphs::Glyph glyph)
     case Glyphs::Edit:
         path = lines({{{4, 20}, {5, 15}, {16, 4}, {20, 8}, {9, 19}, {4, 20}}, {{13, 7}, {17, 11}}});
         break;
+    case Glyphs::Language:
+        path.addEllipse(QPointF(12, 12), 9, 9);
+        path.addEllipse(QPointF(12, 12), 4, 9);
+        path.addPath(lines({{{3.5, 9}, {20.5, 9}}, {{3.5, 15}, {20.5, 15}}}));
+        break;
     case Glyphs::Close:
         path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
         break;

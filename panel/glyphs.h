@@ -33,7 +33,8 @@ enum Glyph {
     Plc,
     Stick,
     Storage,
-    Style
+    Style,
+    Language
 };
 
 /// What an icon stands on.

@@ -83,7 +83,7 @@ int ListScreen::listWidth(const QSize &surface) const
     return m_keysBeside ? surface.width() - kKeyPanelWidth : surface.width();
 }
 
-PanelKey *ListScreen::addKey(const QIcon &icon, const QString &text)
+PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &text)
 {
     PanelKey *key = new PanelKey(icon, text);
     key->setSizePolicy(QSizePolicy::Expanding,
@@ -101,11 +101,14 @@ void ListScreen::addPagingKeys()
     const auto icon = [](const char *name) {
         return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
     };
-    connect(addKey(icon("home"), tr("First")), &PanelKey::clicked, m_list, &TListWidget::home);
-    connect(addKey(icon("pageUp"), tr("Page")), &PanelKey::clicked, m_list, &TListWidget::prevPage);
-    connect(addKey(icon("pageDown"), tr("Page")), &PanelKey::clicked, m_list,
+    connect(addKey(icon("home"), [] { return tr("First"); }), &PanelKey::clicked, m_list,
+            &TListWidget::home);
+    connect(addKey(icon("pageUp"), [] { return tr("Page"); }), &PanelKey::clicked, m_list,
+            &TListWidget::prevPage);
+    connect(addKey(icon("pageDown"), [] { return tr("Page"); }), &PanelKey::clicked, m_list,
             &TListWidget::nextPage);
-    connect(addKey(icon("end"), tr("Last")), &PanelKey::clicked, m_list, &TListWidget::end);
+    connect(addKey(icon("end"), [] { return tr("Last"); }), &PanelKey::clicked, m_list,
+            &TListWidget::end);
 }
 
 void ListScreen::setRows(const QList<QStringList> &rows)

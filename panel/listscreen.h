@@ -6,6 +6,8 @@
 
 #include "panelscreen.h"
 
+#include <functional>
+
 #include <QSize>
 #include <QStringList>
 
@@ -30,7 +32,7 @@ protected:
     ListScreen(const QSize &surface, QStringList title, int keyColumns, QWidget *parent);
 
     /// Appends a key to the panel.
-    PanelKey *addKey(const QIcon &icon, const QString &text);
+    PanelKey *addKey(const QIcon &icon, const std::function<QString()> &text);
     /// Appends the four keys that turn pages.
     void addPagingKeys();
     /// Fills the list, the first row under the title becoming current, and shows its first page.

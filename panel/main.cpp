@@ -6,6 +6,7 @@
 #include "fieldkeypad.h"
 #include "filesscreen.h"
 #include "glyphs.h"
+#include "languages.h"
 #include "look.h"
 #include "machinedata.h"
 #include "options.h"
@@ -14,6 +15,7 @@
 #include "panelwindow.h"
 #include "programscreen.h"
 #include "samples.h"
+#include "settings.h"
 #include "stick.h"
 #include "teachscreen.h"
 #include "terminationsignals.h"
@@ -79,6 +81,16 @@ QSize surfaceSize(const Options &options)
     return QGuiApplication::primaryScreen()->size();
 }
 
+/// Where the build has them, and where they are installed; from the program's own folder.
+QStringList translationFolders()
+{
+    QStringList folders;
+    for (const char *folder : {FILARIX_BUILT_TRANSLATIONS, FILARIX_INSTALLED_TRANSLATIONS})
+        folders.append(
+            QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(folder)));
+    return folders;
+}
+
 int runPanel(const Options &options)
 {
     if (!options.programDir.isEmpty()) {
@@ -103,33 +115,50 @@ int runPanel(const Options &options)
         Samples::fillStick(stick.folder());
 
     setUpLook(options.look);
+    const QString ownDir = QDir::home().filePath(QLatin1String("hmi"));
+    // The pictures of a tour are the same wherever they are made.
+    const bool isTour = !options.tourDir.isEmpty();
+    Settings settings(isTour ? QString() : ownDir + QLatin1String("/panel.ini"));
+    Languages languages(translationFolders(), &settings);
+    const QString wanted = !options.language.isEmpty() ? options.language
+                           : isTour                    ? languages.current()
+                                                       : languages.preferred();
+    if (!languages.use(wanted))
+        std::fprintf(stderr, "The translation for %s is not installed.\n", qPrintable(wanted));
     PanelWindow panel(surfaceSize(options));
     new PanelSurface(&panel, options.touch);
     new FieldKeypad(&panel);
     new DialogKeeper(&panel);
     MachineData machine;
     ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, &machine);
-    panel.addScreen(programs, PanelWindow::tr("Program"), Glyphs::icon(Glyphs::Program));
-    const QString ownDir = QDir::home().filePath(QLatin1String("hmi"));
+    panel.addScreen(
+        programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
     TeachScreen *teach = new TeachScreen(panel.size(), ownDir, &machine);
-    panel.addScreen(teach, PanelWindow::tr("Teach"), Glyphs::icon(Glyphs::Teach));
+    panel.addScreen(
+        teach, [] { return PanelWindow::tr("Teach"); }, Glyphs::icon(Glyphs::Teach));
     VariablesScreen *variables = new VariablesScreen(panel.size(), ownDir);
-    panel.addScreen(variables, PanelWindow::tr("Variables"), Glyphs::icon(Glyphs::Variables));
+    panel.addScreen(
+        variables, [] { return PanelWindow::tr("Variables"); }, Glyphs::icon(Glyphs::Variables));
     ConnectionsScreen *connections =
         new ConnectionsScreen(ownDir + QLatin1String("/connections.ini"));
-    panel.addScreen(connections, PanelWindow::tr("Connections"), Glyphs::icon(Glyphs::Connections));
+    panel.addScreen(
+        connections, [] { return PanelWindow::tr("Connections"); },
+        Glyphs::icon(Glyphs::Connections));
     FilesScreen *files = new FilesScreen(&stick);
-    panel.addScreen(files, PanelWindow::tr("Files"), Glyphs::icon(Glyphs::Files));
+    panel.addScreen(
+        files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
     QObject::connect(files, &FilesScreen::importWanted, programs->programWindow(), [programs] {
         QMetaObject::invokeMethod(programs->programWindow(), "importExport");
     });
+    panel.setLanguages(&languages);
+    panel.setSettings(&settings);
     // Not by the last window: the find dialog may be open, and it has no parent.
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
     TerminationSignals signals;
     QObject::connect(&signals, &TerminationSignals::received, qApp, &QApplication::quit);
     panel.show();
 
-    if (options.tourDir.isEmpty())
+    if (!isTour)
         return QApplication::exec();
     Tour tour(&panel, options.tourDir);
     tour.visitProgramScreen(programs);
@@ -137,6 +166,7 @@ int runPanel(const Options &options)
     tour.visitVariablesScreen(variables);
     tour.visitConnectionsScreen(connections);
     tour.visitFilesScreen(files);
+    tour.visitLanguages();
     QObject::connect(&tour, &Tour::finished, qApp, &QApplication::quit);
     tour.start();
     QApplication::exec();

@@ -88,7 +88,7 @@ QString MessageBar::text() const
 
 bool MessageBar::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == parent() && event->type() == QEvent::Resize && isVisible())
+    if (watched == parent() && event->type() == QEvent::Resize && !isHidden())
         place();
     return QFrame::eventFilter(watched, event);
 }

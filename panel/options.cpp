@@ -3,6 +3,8 @@
 
 #include "options.h"
 
+#include "languages.h"
+
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
@@ -95,7 +97,14 @@ Options Options::parse(const QStringList &arguments)
                       "Files screen. Where /mnt/Storage belongs to the system, ./run --stick DIR "
                       "starts the panel with one of its own."),
         QLatin1String("DIR"));
-    parser.addOptions({rotation, size, noTouch, look, programs, plc, stick, tour});
+    const QStringList codes = Languages::codes();
+    const QCommandLineOption language(
+        QLatin1String("language"),
+        QString::fromLatin1("Language to speak, one of %1. Without it: the one that the operator "
+                            "chose, else the system's; in a tour English.")
+            .arg(codes.join(QLatin1String(", "))),
+        QLatin1String("code"));
+    parser.addOptions({rotation, size, noTouch, look, language, programs, plc, stick, tour});
 
     if (!parser.parse(arguments))
         return refusal(parser.errorText());
@@ -124,6 +133,10 @@ Options Options::parse(const QStringList &arguments)
     if (!Look::read(parser.value(look), &options.look))
         return refusal(QString::fromLatin1("The look \"%1\" is neither light nor dark.")
                            .arg(parser.value(look)));
+    options.language = parser.value(language);
+    if (parser.isSet(language) && !codes.contains(options.language))
+        return refusal(QString::fromLatin1("The language \"%1\" is none of %2.")
+                           .arg(options.language, codes.join(QLatin1String(", "))));
     for (const QCommandLineOption &folder : {programs, plc, stick, tour}) {
         if (parser.isSet(folder) && parser.value(folder).isEmpty())
             return refusal(

@@ -35,6 +35,8 @@ struct Options
     QString plcDir;
     /// Absolute path of the folder that stands in for a USB stick; empty for the panel's own.
     QString stickDir;
+    /// Code of the language to speak; empty for the operator's choice.
+    QString language;
     /// Absolute path of the folder for pictures; empty when no tour is wanted.
     QString tourDir;
 

@@ -3,6 +3,7 @@
 
 #include "panelkey.h"
 
+#include "livetext.h"
 #include "look.h"
 
 namespace {
@@ -28,6 +29,12 @@ PanelKey::PanelKey(const QIcon &icon, const QString &text, QWidget *parent) : QT
     setUp(this, text);
     setIcon(icon);
     setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+}
+
+PanelKey::PanelKey(const QIcon &icon, const std::function<QString()> &text, QWidget *parent)
+    : PanelKey(icon, text(), parent)
+{
+    new LiveText(this, text);
 }
 
 PanelKey::PanelKey(const QString &text, QWidget *parent) : QToolButton(parent)

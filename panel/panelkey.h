@@ -8,6 +8,8 @@
 
 #include <QToolButton>
 
+#include <functional>
+
 /// A key of the host: a glyph over a short word, never smaller than a thumb needs.
 class PanelKey : public QToolButton
 {
@@ -15,6 +17,8 @@ class PanelKey : public QToolButton
 
 public:
     PanelKey(const QIcon &icon, const QString &text, QWidget *parent = nullptr);
+    /// A key whose text follows the language; see LiveText.
+    PanelKey(const QIcon &icon, const std::function<QString()> &text, QWidget *parent = nullptr);
     /// A key without a picture.
     explicit PanelKey(const QString &text, QWidget *parent = nullptr);
 

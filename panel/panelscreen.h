@@ -4,6 +4,7 @@
 #ifndef PANELSCREEN_H
 #define PANELSCREEN_H
 
+#include <QEvent>
 #include <QList>
 #include <QWidget>
 
@@ -48,6 +49,17 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// The operator pressed Stop.
     virtual void stopWork() {}
+
+protected:
+    /// The language has changed: sets what no LiveText does.
+    virtual void retranslate() {}
+
+    void changeEvent(QEvent *event) override
+    {
+        if (event->type() == QEvent::LanguageChange)
+            retranslate();
+        QWidget::changeEvent(event);
+    }
 };
 
 #endif // PANELSCREEN_H

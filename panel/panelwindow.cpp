@@ -4,9 +4,12 @@
 #include "panelwindow.h"
 
 #include "elidedlabel.h"
+#include "languagepicker.h"
+#include "languages.h"
 #include "look.h"
 #include "messagebar.h"
 #include "panelkey.h"
+#include "settings.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -19,6 +22,8 @@ namespace {
 
 const int kWideFrom = 760;
 const int kTallFrom = 400;
+// Five of them and the key of the languages are as wide as the narrowest panel.
+const int kTabWidth = 74;
 const int kStatusMs = 2000;
 
 } // namespace
@@ -92,7 +97,7 @@ QWidget *PanelWindow::makeTopStrip()
     titles->setSpacing(0);
     titles->addWidget(m_title);
     if (m_shape == Small) {
-        PanelKey *menuKey = new PanelKey(Glyphs::icon(Glyphs::Menu), tr("Menu"));
+        PanelKey *menuKey = new PanelKey(Glyphs::icon(Glyphs::Menu), [] { return tr("Menu"); });
         menuKey->setObjectName(QLatin1String("menuKey"));
         connect(menuKey, &PanelKey::clicked, this, &PanelWindow::toggleMenu);
         row->addWidget(menuKey);
@@ -134,14 +139,20 @@ QWidget *PanelWindow::makeFootStrip()
 
 void PanelWindow::addScreen(PanelScreen *screen, const QString &name, const QIcon &icon)
 {
+    addScreen(
+        screen, [name] { return name; }, icon);
+}
+
+void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> &name,
+                            const QIcon &icon)
+{
     const int index = m_entries.size();
     Entry entry;
     entry.screen = screen;
-    entry.name = name;
     entry.tab = new PanelKey(icon, name);
     entry.tab->setCheckable(true);
     entry.tab->setAutoExclusive(true);
-    entry.tab->setMinimumWidth(84);
+    entry.tab->setMinimumWidth(kTabWidth);
     entry.tab->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     connect(entry.tab, &PanelKey::clicked, this, [this, index] { showScreen(index); });
     m_tabs->addWidget(entry.tab);
@@ -160,6 +171,41 @@ void PanelWindow::addScreen(PanelScreen *screen, const QString &name, const QIco
     screen->refreshStatus();
     if (index == 0)
         showScreen(0);
+}
+
+void PanelWindow::setLanguages(Languages *languages)
+{
+    m_languages = languages;
+    PanelKey *key = new PanelKey(Glyphs::icon(Glyphs::Language),
+                                 [languages] { return languages->shortName(); });
+    key->setObjectName(QLatin1String("languageKey"));
+    connect(key, &PanelKey::clicked, this, &PanelWindow::chooseLanguage);
+    m_tabs->addWidget(key);
+}
+
+void PanelWindow::chooseLanguage()
+{
+    if (m_menu)
+        m_menu->hide();
+    LanguagePicker picker(m_languages->current());
+    if (picker.exec() != QDialog::Accepted)
+        return;
+    if (!m_languages->choose(picker.code()))
+        tell(tr("The translation is not installed."), PanelScreen::Warning);
+}
+
+void PanelWindow::setSettings(Settings *settings)
+{
+    m_settings = settings;
+    connect(m_settings, &Settings::troubled, this, &PanelWindow::tellTrouble);
+    tellTrouble();
+}
+
+void PanelWindow::tellTrouble()
+{
+    const QString trouble = m_settings->takeTrouble();
+    if (!trouble.isEmpty())
+        tell(trouble, PanelScreen::Warning);
 }
 
 // The tabs of a small panel, over the screen while the operator chooses.
@@ -259,6 +305,17 @@ bool PanelWindow::event(QEvent *event)
         m_shade->hide();
     }
     return QWidget::event(event);
+}
+
+void PanelWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        // The devices report again, under their names in the new language.
+        m_devices.clear();
+        showTitle();
+        refreshStatus();
+    }
+    QWidget::changeEvent(event);
 }
 
 void PanelWindow::closeEvent(QCloseEvent *event)

@@ -12,11 +12,15 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 class ElidedLabel;
+class Languages;
 class MessageBar;
 class PanelKey;
 class QHBoxLayout;
 class QStackedWidget;
+class Settings;
 
 /// The shell around the screens: which screen is up, its title and keys, the state of the devices,
 /// the clock, and what the screens have to say.
@@ -26,8 +30,8 @@ class QStackedWidget;
 /// gets every line there is).
 ///
 ///     PanelWindow panel(QSize(800, 480));
-///     panel.addScreen(new ProgramScreen(0, "/srv/plc", &machine), tr("Program"),
-///                     Glyphs::Program);
+///     panel.addScreen(new ProgramScreen(0, "/srv/plc", &machine), [] { return tr("Program"); },
+///                     Glyphs::icon(Glyphs::Program));
 ///     panel.show();
 class PanelWindow : public QWidget
 {
@@ -38,6 +42,14 @@ public:
 
     /// Takes the screen over. The first one is up at once.
     void addScreen(PanelScreen *screen, const QString &name, const QIcon &icon);
+    /// The same with a name that follows the language; see LiveText.
+    void addScreen(PanelScreen *screen, const std::function<QString()> &name, const QIcon &icon);
+    /// Adds the key by which the operator changes the language. \a languages must outlive the
+    /// window.
+    void setLanguages(Languages *languages);
+    /// Tells the operator of troubles with the settings, from now on and those until now.
+    /// \a settings must outlive the window.
+    void setSettings(Settings *settings);
     PanelScreen *currentScreen() const;
     /// \a index counts from 0 in the order of addScreen().
     void showScreen(int index);
@@ -51,6 +63,7 @@ Q_SIGNALS:
     void closed();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -59,7 +72,6 @@ private:
     struct Entry
     {
         PanelScreen *screen;
-        QString name;
         PanelKey *tab;
         QList<PanelKey *> keys;
     };
@@ -68,6 +80,8 @@ private:
     QWidget *makeFootStrip();
     void makeMenu();
     void toggleMenu();
+    void chooseLanguage();
+    void tellTrouble();
     void showTitle();
     void showStatus();
     void refreshStatus();
@@ -85,6 +99,8 @@ private:
     ElidedLabel *m_status;
     MessageBar *m_messages;
     QWidget *m_shade;
+    Languages *m_languages = nullptr;
+    Settings *m_settings = nullptr;
     QTimer m_statusTimer;
     QList<QPair<QString, QString>> m_devices;
 };

@@ -11,14 +11,37 @@
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTextDocument>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
+
+namespace {
+
+QString findDialogText(const char *source)
+{
+    return QCoreApplication::translate("WFindDialog", source);
+}
+
+/// Gives the find dialog's widgets of one kind their texts, in the order in which it made them.
+template<class Widget>
+void setFindDialogTexts(const QWidget *dialog, std::initializer_list<const char *> sources)
+{
+    const QList<Widget *> widgets = dialog->findChildren<Widget *>();
+    int i = 0;
+    for (const char *source : sources) {
+        if (i < widgets.size())
+            widgets.at(i++)->setText(findDialogText(source));
+    }
+}
+
+} // namespace
 
 ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineData *machine,
                              QWidget *parent)
@@ -74,9 +97,9 @@ bool ProgramScreen::hasChanges() const
 
 QList<PanelKey *> ProgramScreen::keys()
 {
-    PanelKey *findKey = new PanelKey(Glyphs::icon(Glyphs::Find), tr("Find"));
-    PanelKey *undoKey = new PanelKey(Glyphs::icon(Glyphs::Undo), tr("Undo"));
-    PanelKey *redoKey = new PanelKey(Glyphs::icon(Glyphs::Redo), tr("Redo"));
+    PanelKey *findKey = new PanelKey(Glyphs::icon(Glyphs::Find), [] { return tr("Find"); });
+    PanelKey *undoKey = new PanelKey(Glyphs::icon(Glyphs::Undo), [] { return tr("Undo"); });
+    PanelKey *redoKey = new PanelKey(Glyphs::icon(Glyphs::Redo), [] { return tr("Redo"); });
     undoKey->setEnabled(false);
     redoKey->setEnabled(false);
     connect(findKey, &PanelKey::clicked, this, &ProgramScreen::find);
@@ -112,6 +135,21 @@ bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
         && (event->type() == QEvent::WindowTitleChange || event->type() == QEvent::ModifiedChange))
         Q_EMIT titleChanged();
     return PanelScreen::eventFilter(watched, event);
+}
+
+// The library makes its find dialog once, in the language of that moment.
+void ProgramScreen::retranslate()
+{
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *dialog : topLevels) {
+        if (!dialog->inherits("WFindDialog"))
+            continue;
+        dialog->setWindowTitle(findDialogText("Find"));
+        setFindDialogTexts<QLabel>(dialog, {"Find &what:", "Replace &what:"});
+        setFindDialogTexts<QAbstractButton>(
+            dialog, {"Match &case", "Search &backward", "&Find", "&Replace", "Close"});
+        dialog->adjustSize();
+    }
 }
 
 void ProgramScreen::stopWork()

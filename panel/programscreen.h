@@ -40,6 +40,9 @@ public:
 public Q_SLOTS:
     void stopWork() override;
 
+protected:
+    void retranslate() override;
+
 private:
     void startDownload(const QString &path);
     void showProgress(int percent);

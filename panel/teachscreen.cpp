@@ -3,8 +3,10 @@
 
 #include "teachscreen.h"
 
+#include "dataeditor.h"
 #include "look.h"
 #include "machinedata.h"
+#include "mjline.h"
 #include "panelkey.h"
 #include "pathpicker.h"
 #include "tablepicker.h"
@@ -36,15 +38,15 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     , m_machine(machine)
 {
     addPagingKeys();
-    connect(addKey(libraryIcon("insert"), tr("Joint")), &PanelKey::clicked, this,
+    connect(addKey(libraryIcon("insert"), [] { return tr("Joint"); }), &PanelKey::clicked, this,
             [this] { insertMovement(QLatin1String("MJ")); });
-    connect(addKey(libraryIcon("insert"), tr("Line")), &PanelKey::clicked, this,
+    connect(addKey(libraryIcon("insert"), [] { return tr("Line"); }), &PanelKey::clicked, this,
             [this] { insertMovement(QLatin1String("ML")); });
-    connect(addKey(libraryIcon("insert"), tr("Other")), &PanelKey::clicked, this,
+    connect(addKey(libraryIcon("insert"), [] { return tr("Other"); }), &PanelKey::clicked, this,
             [this] { insert(TaughtProgram::command(tr("G04 F1 wait"))); });
-    connect(addKey(libraryIcon("delete"), tr("Delete")), &PanelKey::clicked, this,
+    connect(addKey(libraryIcon("delete"), [] { return tr("Delete"); }), &PanelKey::clicked, this,
             &TeachScreen::removeChosen);
-    m_selectKey = addKey(Glyphs::icon(Glyphs::Select, Glyphs::OnKey), tr("Select"));
+    m_selectKey = addKey(Glyphs::icon(Glyphs::Select, Glyphs::OnKey), [] { return tr("Select"); });
     m_selectKey->setCheckable(true);
     connect(m_selectKey, &PanelKey::toggled, this, [this](bool several) {
         if (several)
@@ -67,6 +69,17 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     markStored();
 }
 
+// The list never fills its title row again; its cells are those of the row without the two words
+// that make it one.
+void TeachScreen::retranslate()
+{
+    QStringList cells = TaughtProgram::titleRow();
+    cells[0].clear();
+    cells[1].clear();
+    if (MJLine *title = qobject_cast<MJLine *>(list()->itemAt(0)))
+        title->dataEditor()->setData(cells);
+}
+
 QString TeachScreen::title() const
 {
     return QFileInfo(m_file).fileName();
@@ -79,9 +92,9 @@ QString TeachScreen::filePath() const
 
 QList<PanelKey *> TeachScreen::keys()
 {
-    PanelKey *loadKey = new PanelKey(Glyphs::icon(Glyphs::Load), tr("Load"));
-    PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), tr("Store"));
-    PanelKey *clearKey = new PanelKey(Glyphs::icon(Glyphs::Clear), tr("Clear"));
+    PanelKey *loadKey = new PanelKey(Glyphs::icon(Glyphs::Load), [] { return tr("Load"); });
+    PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), [] { return tr("Store"); });
+    PanelKey *clearKey = new PanelKey(Glyphs::icon(Glyphs::Clear), [] { return tr("Clear"); });
     connect(loadKey, &PanelKey::clicked, this, &TeachScreen::askAndLoad);
     connect(storeKey, &PanelKey::clicked, this, &TeachScreen::store);
     connect(clearKey, &PanelKey::clicked, this, &TeachScreen::clear);

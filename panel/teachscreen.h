@@ -32,6 +32,9 @@ public:
     bool load(const QString &path);
     bool store();
 
+protected:
+    void retranslate() override;
+
 private:
     void askAndLoad();
     void clear();

@@ -44,11 +44,23 @@ void tap(QWidget *target)
     QApplication::sendEvent(target, &release);
 }
 
+// The steps name a button by its English text; it may show that in another language.
+bool says(const QToolButton *button, const QString &text)
+{
+    const QByteArray source = text.toLatin1();
+    for (const char *context : {"WMMainWindow", "BarPager", "PanelWindow", "ProgramScreen",
+                                "ListScreen", "TeachScreen", "ConnectionsScreen", "FilesScreen"}) {
+        if (button->text() == QCoreApplication::translate(context, source))
+            return true;
+    }
+    return false;
+}
+
 QToolButton *toolButton(const QWidget *among, const QString &text)
 {
     const QList<QToolButton *> buttons = among->findChildren<QToolButton *>();
     for (QToolButton *button : buttons) {
-        if (button->text() == text && button->isVisible())
+        if (says(button, text) && button->isVisible())
             return button;
     }
     return nullptr;
@@ -144,12 +156,7 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
 
 void Tour::visitTeachScreen(TeachScreen *screen)
 {
-    // A panel with room for the tabs has no key for them.
-    then([this] {
-        if (QToolButton *menu = toolButton(m_panel, QLatin1String("Menu")))
-            tap(menu);
-    });
-    then([] {});
+    openMenu();
     then([this] {
         if (toolButton(m_panel, QLatin1String("Menu")))
             save(QLatin1String("menu"));
@@ -239,6 +246,14 @@ void Tour::saveDownload(int percent)
     save(QLatin1String("download-running"));
 }
 
+void Tour::visitLanguages()
+{
+    openMenu();
+    press([this] { return m_panel->findChild<QWidget *>(QLatin1String("languageKey")); });
+    picture(QLatin1String("language"));
+    closeDialog();
+}
+
 void Tour::start()
 {
     m_timer.start(kTickMs);
@@ -281,6 +296,16 @@ void Tour::pressTool(QWidget *among, const QString &text)
     press([among, text] { return toolButton(among, text); });
 }
 
+void Tour::openMenu()
+{
+    // A panel with room for the tabs has no key for them.
+    then([this] {
+        if (QToolButton *menu = toolButton(m_panel, QLatin1String("Menu")))
+            tap(menu);
+    });
+    then([] {});
+}
+
 void Tour::showScreen(int index)
 {
     then([this, index] {
@@ -295,7 +320,7 @@ void Tour::pressKey(QWidget *among, const QString &text, int nth)
     press([among, text, nth] {
         QList<PanelKey *> keys = among->findChildren<PanelKey *>();
         for (int i = keys.size() - 1; i >= 0; --i) {
-            if (keys.at(i)->text() != text)
+            if (!says(keys.at(i), text))
                 keys.removeAt(i);
         }
         return static_cast<QWidget *>(keys.value(nth));

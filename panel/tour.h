@@ -38,6 +38,7 @@ public:
     void visitConnectionsScreen(ConnectionsScreen *screen);
     /// Plugs the stick in if it is a simulated one that can be.
     void visitFilesScreen(FilesScreen *screen);
+    void visitLanguages();
 
     void start();
     /// What went wrong; empty when every step found what it touches and every picture was written.
@@ -54,6 +55,7 @@ private:
     void picture(const QString &name);
     void press(const std::function<QWidget *()> &target);
     void pressTool(QWidget *among, const QString &text);
+    void openMenu();
     void showScreen(int index);
     void pressKey(QWidget *among, const QString &text, int nth = 0);
     void pressCell(ListScreen *screen, int row, const char *className, int nth);

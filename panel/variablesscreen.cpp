@@ -60,7 +60,7 @@ QString VariablesScreen::title() const
 
 QList<PanelKey *> VariablesScreen::keys()
 {
-    PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), tr("Store"));
+    PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), [] { return tr("Store"); });
     connect(storeKey, &PanelKey::clicked, this, &VariablesScreen::store);
     return {storeKey};
 }

@@ -178,6 +178,17 @@
     </message>
 </context>
 <context>
+    <name>LanguagePicker</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>ListScreen</name>
     <message>
         <source>First</source>
@@ -228,6 +239,10 @@
     <message>
         <source>%1[*] - Winding panel</source>
         <translation>%1[*] - Wickelpanel</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>Die Übersetzung ist nicht installiert.</translation>
     </message>
 </context>
 <context>
@@ -353,6 +368,21 @@
     <message>
         <source>%1 is not a text file.</source>
         <translation>%1 ist keine Textdatei.</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>The settings file had errors and is now named %1. Please look over your settings.</source>
+        <translation>Die Einstellungsdatei war fehlerhaft und heißt jetzt %1. Bitte prüfen Sie Ihre Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
+        <translation>Die Einstellungsdatei %1 ist fehlerhaft und lässt sich nicht umbenennen. Was Sie wählen, gilt bis zum Programmende.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
+        <translation>Die Einstellungen lassen sich nicht in %1 speichern. Was Sie wählen, gilt bis zum Programmende.</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>not set yet</source>
-        <translation>non ancora impostato</translation>
+        <translation>da impostare</translation>
     </message>
 </context>
 <context>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Stick</source>
-        <translation>Chiavetta</translation>
+        <translation>USB</translation>
     </message>
     <message>
         <source>Names</source>
@@ -178,6 +178,17 @@
     </message>
 </context>
 <context>
+    <name>LanguagePicker</name>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>ListScreen</name>
     <message>
         <source>First</source>
@@ -228,6 +239,10 @@
     <message>
         <source>%1[*] - Winding panel</source>
         <translation>%1[*] - Pannello avvolgitrice</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>La traduzione non è installata.</translation>
     </message>
 </context>
 <context>
@@ -353,6 +368,21 @@
     <message>
         <source>%1 is not a text file.</source>
         <translation>%1 non è un file di testo.</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>The settings file had errors and is now named %1. Please look over your settings.</source>
+        <translation>Il file delle impostazioni conteneva errori e ora si chiama %1. Controllare le impostazioni.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
+        <translation>Il file delle impostazioni %1 contiene errori e non si può rinominare. Le scelte valgono fino alla chiusura del programma.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
+        <translation>Le impostazioni non si possono salvare in %1. Le scelte valgono fino alla chiusura del programma.</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,17 @@
     </message>
 </context>
 <context>
+    <name>LanguagePicker</name>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
     <name>ListScreen</name>
     <message>
         <source>First</source>
@@ -228,6 +239,10 @@
     <message>
         <source>%1[*] - Winding panel</source>
         <translation>%1[*] - Sarım paneli</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>Çeviri kurulu değil.</translation>
     </message>
 </context>
 <context>
@@ -353,6 +368,21 @@
     <message>
         <source>%1 is not a text file.</source>
         <translation>%1 bir metin dosyası değil.</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>The settings file had errors and is now named %1. Please look over your settings.</source>
+        <translation>Ayar dosyası hatalıydı, yeni adı: %1. Lütfen ayarlarınızı gözden geçirin.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
+        <translation>Ayar dosyası %1 hatalı ve yeniden adlandırılamıyor. Seçimleriniz program kapanana kadar geçerlidir.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
+        <translation>Ayarlar %1 dosyasına kaydedilemiyor. Seçimleriniz program kapanana kadar geçerlidir.</translation>
     </message>
 </context>
 <context>

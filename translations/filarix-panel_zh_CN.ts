@@ -178,6 +178,17 @@
     </message>
 </context>
 <context>
+    <name>LanguagePicker</name>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>ListScreen</name>
     <message>
         <source>First</source>
@@ -228,6 +239,10 @@
     <message>
         <source>%1[*] - Winding panel</source>
         <translation>%1[*] - 绕线机面板</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>未安装该语言的翻译。</translation>
     </message>
 </context>
 <context>
@@ -353,6 +368,21 @@
     <message>
         <source>%1 is not a text file.</source>
         <translation>%1 不是文本文件。</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>The settings file had errors and is now named %1. Please look over your settings.</source>
+        <translation>设置文件有错误, 现已更名为 %1。请检查您的设置。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
+        <translation>设置文件 %1 有错误且无法更名。您的选择在程序结束前有效。</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
+        <translation>设置无法保存到 %1。您的选择在程序结束前有效。</translation>
     </message>
 </context>
 <context>

@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>Tamam</translation>
+        <translation>Onay</translation>
     </message>
     <message>
         <source>abc</source>

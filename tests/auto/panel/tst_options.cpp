@@ -38,13 +38,15 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
     QCOMPARE(options.home(), QString());
     QCOMPARE(options.plcDir, QString());
     QCOMPARE(options.tourDir, QString());
+    QCOMPARE(options.language, QString());
 }
 
 void TestOptions::allOptionsAreRead()
 {
-    const Options options = parse({"--rotation", "270", "--size", "480x800", "--no-touch", "--look",
-                                   "dark", "--programs", "/srv/hmi/cnc", "--plc=/srv/plc",
-                                   "--stick", "/srv/stick", "--tour", "pictures"});
+    const Options options =
+        parse({"--rotation", "270", "--size", "480x800", "--no-touch", "--look", "dark",
+               "--programs", "/srv/hmi/cnc", "--plc=/srv/plc", "--stick", "/srv/stick", "--tour",
+               "pictures", "--language", "zh_CN"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.size, QSize(480, 800));
@@ -54,6 +56,7 @@ void TestOptions::allOptionsAreRead()
     QCOMPARE(options.plcDir, QString("/srv/plc"));
     QCOMPARE(options.stickDir, QString("/srv/stick"));
     QCOMPARE(options.tourDir, QDir::currentPath() + "/pictures");
+    QCOMPARE(options.language, QString("zh_CN"));
 }
 
 void TestOptions::programDirectory_data()
@@ -121,6 +124,8 @@ void TestOptions::refused_data()
     QTest::newRow("size negative") << QStringList{"--size", "-1x480"} << "-1x480";
     QTest::newRow("size too small") << QStringList{"--size", "320x240"} << "320x240";
     QTest::newRow("size with a tail") << QStringList{"--size", "800x480x3"} << "800x480x3";
+    QTest::newRow("language of no file") << QStringList{"--language", "fr"} << "fr";
+    QTest::newRow("no language") << QStringList{"--language", ""} << "language";
     QTest::newRow("empty directory") << QStringList{"--plc", ""} << "--plc";
     QTest::newRow("look of no kind") << QStringList{"--look", "grey"} << "grey";
     QTest::newRow("unknown option") << QStringList{"--turn"} << "turn";

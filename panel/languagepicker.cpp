@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "languagepicker.h"
+
+#include "look.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+
+namespace {
+
+const int kColumns = 2;
+const QSize kKey(180, Look::kTouch + 10);
+
+} // namespace
+
+LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog(parent)
+{
+    setTitle(tr("Language"));
+    QGridLayout *grid = new QGridLayout(this);
+    grid->setSpacing(8);
+    const QList<Languages::Language> languages = Languages::all();
+    for (int i = 0; i < languages.size(); ++i) {
+        const QString code = languages.at(i).code;
+        QPushButton *key = new QPushButton(languages.at(i).name);
+        key->setObjectName(QLatin1String("language_") + code);
+        key->setMinimumSize(kKey);
+        key->setCheckable(true);
+        key->setChecked(code == current);
+        connect(key, &QPushButton::clicked, this, [this, code] {
+            m_code = code;
+            accept();
+        });
+        grid->addWidget(key, i / kColumns, i % kColumns);
+    }
+    QPushButton *cancel = new QPushButton(tr("Cancel"));
+    cancel->setMinimumSize(kKey);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    grid->addWidget(cancel, languages.size() / kColumns, languages.size() % kColumns);
+}

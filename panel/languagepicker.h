@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef LANGUAGEPICKER_H
+#define LANGUAGEPICKER_H
+
+#include "dialog.h"
+#include "languages.h"
+
+/// Asks for a language: a key each, with the language's name in itself, so that whoever cannot
+/// read the others finds the own one.
+class LanguagePicker : public Dialog
+{
+    Q_OBJECT
+
+public:
+    /// \a current is the code of the key that is marked.
+    explicit LanguagePicker(const QString &current, QWidget *parent = nullptr);
+
+    /// The code of the chosen language; empty until a key was pressed.
+    QString code() const { return m_code; }
+
+private:
+    QString m_code;
+};
+
+#endif // LANGUAGEPICKER_H

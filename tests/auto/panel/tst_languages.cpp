@@ -1,0 +1,444 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "connectionsscreen.h"
+#include "filarixtest.h"
+#include "filesscreen.h"
+#include "glyphs.h"
+#include "languagepicker.h"
+#include "languages.h"
+#include "livetext.h"
+#include "machinedata.h"
+#include "modaldriver.h"
+#include "panelkey.h"
+#include "panelwindow.h"
+#include "programscreen.h"
+#include "settings.h"
+#include "stick.h"
+#include "teachscreen.h"
+#include "variablesscreen.h"
+#include "wgcodeediter.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace {
+
+QStringList folders()
+{
+    return QStringList(QLatin1String(FILARIX_TRANSLATIONS));
+}
+
+QString settingsFile()
+{
+    return FilarixTest::home() + QLatin1String("/hmi/panel.ini");
+}
+
+QString translated(const char *context, const char *source)
+{
+    return QCoreApplication::translate(context, source);
+}
+
+/// The panel with all its screens, as the program has it.
+struct Panel
+{
+    explicit Panel(const QSize &size, Languages *languages) : stick(QString()), window(size)
+    {
+        const QString ownDir = FilarixTest::home() + QLatin1String("/hmi");
+        program = new ProgramScreen(0, FilarixTest::home() + QLatin1String("/plc"), &machine);
+        window.addScreen(
+            program, [] { return PanelWindow::tr("Program"); }, QIcon());
+        window.addScreen(
+            new TeachScreen(size, ownDir, &machine), [] { return PanelWindow::tr("Teach"); },
+            QIcon());
+        window.addScreen(
+            new VariablesScreen(size, ownDir), [] { return PanelWindow::tr("Variables"); },
+            QIcon());
+        window.addScreen(
+            new ConnectionsScreen(ownDir + QLatin1String("/connections.ini")),
+            [] { return PanelWindow::tr("Connections"); }, QIcon());
+        window.addScreen(
+            new FilesScreen(&stick), [] { return PanelWindow::tr("Files"); }, QIcon());
+        window.setLanguages(languages);
+        window.show();
+        QCoreApplication::processEvents();
+    }
+
+    /// A row has cells for another kind of row, which it hides.
+    static bool isPartOfItsRow(const QLabel *label)
+    {
+        const QWidget *row = label->parentWidget();
+        while (row && !row->inherits("MJLine"))
+            row = row->parentWidget();
+        return !row || label->isVisibleTo(row);
+    }
+
+    /// All that can be read on it, but the clock.
+    QStringList texts() const
+    {
+        QStringList texts(window.windowTitle());
+        const QList<QLabel *> labels = window.findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (isPartOfItsRow(label))
+                texts << label->text();
+        }
+        const QList<QAbstractButton *> buttons = window.findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons)
+            texts << button->text();
+        const QTableWidget *table = window.findChild<QTableWidget *>();
+        for (int column = 0; column < table->columnCount(); ++column)
+            texts << table->horizontalHeaderItem(column)->text()
+                  << table->item(table->rowCount() - 1, column)->text();
+        return texts.replaceInStrings(QRegExp(QLatin1String("\\d\\d:\\d\\d")), QString());
+    }
+
+    Stick stick;
+    MachineData machine;
+    PanelWindow window;
+    ProgramScreen *program;
+};
+
+} // namespace
+
+class TestLanguages : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void everyLanguageIsSpoken_data();
+    void everyLanguageIsSpoken();
+    void anUnknownLanguageChangesNothing_data();
+    void anUnknownLanguageChangesNothing();
+    void theProgramsOwnFolderComesFirst();
+    void theChoiceIsKept();
+    void withoutAChoiceTheSystemsLanguageIsTaken_data();
+    void withoutAChoiceTheSystemsLanguageIsTaken();
+    void aLiveTextFollowsTheLanguage();
+    void theRunningPanelChangesItsLanguage_data();
+    void theRunningPanelChangesItsLanguage();
+    void theFindDialogFollows();
+    void everythingFits_data();
+    void everythingFits();
+    void theOperatorChoosesByAKey_data();
+    void theOperatorChoosesByAKey();
+    void aTranslationThatIsNotInstalledIsTold();
+};
+
+void TestLanguages::cleanup()
+{
+    QLocale::setDefault(QLocale::c());
+    FilarixTest::cleanup();
+}
+
+static void addTranslations()
+{
+    QTest::addColumn<QString>("code");
+    const QList<Languages::Language> all = Languages::all();
+    for (const Languages::Language &language : all) {
+        if (language.code != "en")
+            QTest::newRow(qPrintable(language.code)) << language.code;
+    }
+}
+
+void TestLanguages::everyLanguageIsSpoken_data()
+{
+    addTranslations();
+}
+
+void TestLanguages::everyLanguageIsSpoken()
+{
+    QFETCH(QString, code);
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    QCOMPARE(languages.current(), QString("en"));
+    QVERIFY(languages.use(code));
+    QCOMPARE(languages.current(), code);
+    QCOMPARE(languages.shortName(), code.left(2).toUpper());
+    QVERIFY(translated("WMMainWindow", "Open") != "Open");
+    QVERIFY(translated("PanelWindow", "Connections") != "Connections");
+    QVERIFY(translated("KeypadCheck", "Not a number") != "Not a number");
+    QVERIFY(translated("QPlatformTheme", "Cancel") != "Cancel");
+
+    QVERIFY(languages.use("en"));
+    QCOMPARE(translated("WMMainWindow", "Open"), QString("Open"));
+    QCOMPARE(translated("QPlatformTheme", "Cancel"), QString("Cancel"));
+}
+
+void TestLanguages::anUnknownLanguageChangesNothing_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QStringList>("where");
+    QTest::newRow("no code") << QString() << folders();
+    QTest::newRow("none of ours") << "fr" << folders();
+    QTest::newRow("a path") << "../de" << folders();
+    QTest::newRow("not installed") << "de" << QStringList("/nowhere");
+}
+
+void TestLanguages::anUnknownLanguageChangesNothing()
+{
+    QFETCH(QString, code);
+    QFETCH(QStringList, where);
+    Settings settings(settingsFile());
+    Languages languages(where, &settings);
+    QVERIFY(!languages.use(code));
+    QVERIFY(!languages.choose(code));
+    QCOMPARE(languages.current(), QString("en"));
+    QCOMPARE(translated("WMMainWindow", "Open"), QString("Open"));
+    QVERIFY(!QFileInfo::exists(settingsFile()));
+}
+
+void TestLanguages::theProgramsOwnFolderComesFirst()
+{
+    const QString own = home() + "/own";
+    QVERIFY(QDir().mkpath(own));
+    // Another language under the name, to be told apart.
+    for (const char *name : {"filarix", "filarix-panel"})
+        QVERIFY(QFile::copy(QString("%1/%2_it.qm").arg(FILARIX_TRANSLATIONS, name),
+                            QString("%1/%2_de.qm").arg(own, name)));
+    Settings settings(settingsFile());
+    Languages languages(QStringList(own) + folders(), &settings);
+    QVERIFY(languages.use("de"));
+    QCOMPARE(translated("WMMainWindow", "Open"), QString("Apri"));
+}
+
+void TestLanguages::theChoiceIsKept()
+{
+    {
+        Settings settings(settingsFile());
+        Languages languages(folders(), &settings);
+        QCOMPARE(languages.preferred(), QString("en"));
+        QVERIFY(languages.use("it"));
+        QCOMPARE(languages.preferred(), QString("en"));
+        QVERIFY(languages.choose("de"));
+    }
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    QCOMPARE(languages.preferred(), QString("de"));
+    QCOMPARE(languages.current(), QString("en"));
+    QVERIFY(languages.choose("en"));
+    QLocale::setDefault(QLocale("it_IT"));
+    QCOMPARE(languages.preferred(), QString("en"));
+
+    writeFile(settingsFile(), "[General]\nlanguage=klingon\n");
+    Settings broken(settingsFile());
+    QCOMPARE(Languages(folders(), &broken).preferred(), QString("it"));
+    QVERIFY(!broken.takeTrouble().isEmpty());
+}
+
+void TestLanguages::withoutAChoiceTheSystemsLanguageIsTaken_data()
+{
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("code");
+    QTest::newRow("Austria") << "de_AT"
+                             << "de";
+    QTest::newRow("China") << "zh_CN"
+                           << "zh_CN";
+    QTest::newRow("Taiwan") << "zh_TW"
+                            << "en";
+    QTest::newRow("Turkey") << "tr_TR"
+                            << "tr";
+    QTest::newRow("France") << "fr_FR"
+                            << "en";
+    QTest::newRow("none") << "C"
+                          << "en";
+}
+
+void TestLanguages::withoutAChoiceTheSystemsLanguageIsTaken()
+{
+    QFETCH(QString, system);
+    QLocale::setDefault(QLocale(system));
+    Settings settings(settingsFile());
+    const Languages languages(folders(), &settings);
+    QTEST(languages.preferred(), "code");
+}
+
+void TestLanguages::aLiveTextFollowsTheLanguage()
+{
+    QLabel label;
+    new LiveText(&label, [] { return translated("FilesScreen", "Names"); });
+    PanelKey key(QIcon(), [] { return translated("FilesScreen", "Pick"); });
+    QCOMPARE(label.text(), QString("Names"));
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    QVERIFY(languages.use("de"));
+    QCoreApplication::processEvents();
+    QCOMPARE(label.text(), QString("Namen"));
+    QCOMPARE(key.text(), QString::fromUtf8("W\u00e4hlen"));
+    QVERIFY(languages.use("en"));
+    QCoreApplication::processEvents();
+    QCOMPARE(label.text(), QString("Names"));
+}
+
+void TestLanguages::theRunningPanelChangesItsLanguage_data()
+{
+    addTranslations();
+}
+
+void TestLanguages::theRunningPanelChangesItsLanguage()
+{
+    QFETCH(QString, code);
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    QStringList expected;
+    QVERIFY(languages.use(code));
+    {
+        const Panel made(QSize(480, 272), &languages);
+        expected = made.texts();
+    }
+    QVERIFY(languages.use("en"));
+    const Panel panel(QSize(480, 272), &languages);
+    const QStringList english = panel.texts();
+    QVERIFY(english != expected);
+    QVERIFY(languages.use(code));
+    QCoreApplication::processEvents();
+    QCOMPARE(panel.texts(), expected);
+    QVERIFY(languages.use("en"));
+    QCoreApplication::processEvents();
+    QCOMPARE(panel.texts(), english);
+}
+
+void TestLanguages::theFindDialogFollows()
+{
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    const Panel panel(QSize(800, 480), &languages);
+    panel.program->editor()->findAndReplace();
+    QWidget *dialog = nullptr;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (widget->inherits("WFindDialog"))
+            dialog = widget;
+    }
+    QVERIFY(dialog);
+    const auto texts = [dialog] {
+        QStringList texts(dialog->windowTitle());
+        const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
+        for (const QLabel *label : labels)
+            texts << label->text();
+        const QList<QAbstractButton *> buttons = dialog->findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons)
+            texts << button->text();
+        return texts;
+    };
+    const QStringList english{
+        "Find",  "Find &what:", "Replace &what:", "Match &case", "Search &backward",
+        "&Find", "&Replace",    "Close"};
+    QCOMPARE(texts(), english);
+    QVERIFY(languages.use("de"));
+    QCoreApplication::processEvents();
+    QStringList german;
+    for (const QString &text : english)
+        german << translated("WFindDialog", text.toLatin1());
+    QCOMPARE(texts(), german);
+    QCOMPARE(german.first(), QString("Suchen"));
+}
+
+void TestLanguages::everythingFits_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QSize>("size");
+    const QList<Languages::Language> all = Languages::all();
+    for (const Languages::Language &language : all) {
+        for (const QSize &size :
+             {QSize(480, 272), QSize(480, 800), QSize(800, 480), QSize(1024, 600)})
+            QTest::newRow(qPrintable(
+                QString("%1 %2x%3").arg(language.code).arg(size.width()).arg(size.height())))
+                << language.code << size;
+    }
+}
+
+void TestLanguages::everythingFits()
+{
+    QFETCH(QString, code);
+    QFETCH(QSize, size);
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    Panel panel(size, &languages);
+    // Changed while it runs: the keys grow and shrink in place.
+    QVERIFY(languages.use(code));
+    QCoreApplication::processEvents();
+    if (PanelKey *menu = panel.window.findChild<PanelKey *>("menuKey"))
+        QTest::mouseClick(menu, Qt::LeftButton);
+    for (int screen = 0; screen < 5; ++screen) {
+        if (screen > 0)
+            panel.window.showScreen(screen);
+        QCoreApplication::processEvents();
+        QCOMPARE(panel.window.size(), size);
+        const QList<PanelKey *> keys = panel.window.findChildren<PanelKey *>();
+        for (const PanelKey *key : keys) {
+            if (!key->isVisible())
+                continue;
+            const QRect place(key->mapTo(&panel.window, QPoint(0, 0)), key->size());
+            QVERIFY2(panel.window.rect().contains(place), qPrintable(key->text()));
+            QVERIFY2(key->width() >= 34 && key->height() >= 34, qPrintable(key->text()));
+            QVERIFY2(key->fontMetrics().boundingRect(key->text()).width() <= key->width(),
+                     qPrintable(key->text()));
+        }
+    }
+}
+
+void TestLanguages::theOperatorChoosesByAKey_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("behind the menu") << QSize(480, 272);
+    QTest::newRow("at the foot") << QSize(480, 800);
+    QTest::newRow("at the top") << QSize(800, 480);
+}
+
+void TestLanguages::theOperatorChoosesByAKey()
+{
+    QFETCH(QSize, size);
+    Settings settings(settingsFile());
+    Languages languages(folders(), &settings);
+    Panel panel(size, &languages);
+    if (PanelKey *menu = panel.window.findChild<PanelKey *>("menuKey"))
+        QTest::mouseClick(menu, Qt::LeftButton);
+    PanelKey *key = panel.window.findChild<PanelKey *>("languageKey");
+    QVERIFY(key->isVisible());
+    QCOMPARE(key->text(), QString("EN"));
+
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        QVERIFY(dialog->inherits("LanguagePicker"));
+        QVERIFY(dialog->findChild<QPushButton *>("language_en")->isChecked());
+        QVERIFY(!dialog->findChild<QPushButton *>("language_de")->isChecked());
+        QTest::mouseClick(dialog->findChild<QPushButton *>("language_de"), Qt::LeftButton);
+    });
+    QTest::mouseClick(key, Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCoreApplication::processEvents();
+    QCOMPARE(languages.current(), QString("de"));
+    QCOMPARE(languages.preferred(), QString("de"));
+    QCOMPARE(key->text(), QString("DE"));
+
+    // Cancelled, it stays.
+    driver.reject();
+    key->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(languages.current(), QString("de"));
+}
+
+void TestLanguages::aTranslationThatIsNotInstalledIsTold()
+{
+    Settings settings(settingsFile());
+    Languages languages(QStringList("/nowhere"), &settings);
+    Panel panel(QSize(800, 480), &languages);
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        QTest::mouseClick(dialog->findChild<QPushButton *>("language_de"), Qt::LeftButton);
+    });
+    panel.window.findChild<PanelKey *>("languageKey")->click();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(languages.current(), QString("en"));
+    QCOMPARE(panel.window.findChild<QLabel *>("lastMessage")->text().mid(7),
+             QString("The translation is not installed."));
+}
+
+FILARIX_TEST_MAIN(TestLanguages)
+
+#include "tst_languages.moc"

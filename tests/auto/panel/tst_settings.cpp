@@ -1,0 +1,285 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "messagebar.h"
+#include "panelwindow.h"
+#include "settings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QSignalSpy>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QStringList colours{QLatin1String("red"), QLatin1String("green")};
+
+QString file()
+{
+    return FilarixTest::home() + QLatin1String("/hmi/panel.ini");
+}
+
+QString aside(int number = 1)
+{
+    const QString first = file() + QLatin1String(".broken");
+    return number == 1 ? first : first + QLatin1Char('.') + QString::number(number);
+}
+
+/// What lies beside the settings.
+QStringList files()
+{
+    return QDir(QFileInfo(file()).path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+}
+
+} // namespace
+
+class TestSettings : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void withoutAFileThereIsNoChoice();
+    void aChoiceIsKept();
+    void anEmptyPathKeepsNothing();
+    void keysOfALaterVersionAreKept();
+
+    void aBrokenFileIsPutAside_data();
+    void aBrokenFileIsPutAside();
+    void aDirectoryIsPutAside();
+    void aPipeIsPutAsideUnread();
+    void anUnknownValueIsPutAsideAndTheRestKept();
+    void severalUnknownValuesAreOneTrouble();
+    void earlierOnesAreNotOverwritten();
+    void whereAllNamesAreTakenTheFileStays();
+
+    void whereNothingCanBeWrittenItIsToldOnce();
+    void aBrokenFileThatCannotBeRenamedStays();
+    void theWindowTellsEachTroubleOnce();
+};
+
+void TestSettings::init()
+{
+    FilarixTest::init();
+    QDir folder(QFileInfo(file()).path());
+    QVERIFY(folder.removeRecursively());
+    QVERIFY(folder.mkpath(folder.path()));
+}
+
+void TestSettings::withoutAFileThereIsNoChoice()
+{
+    Settings settings(file());
+    QCOMPARE(settings.choice("colour", colours), QString());
+    QCOMPARE(settings.takeTrouble(), QString());
+    QCOMPARE(files(), QStringList());
+}
+
+void TestSettings::aChoiceIsKept()
+{
+    QVERIFY(QDir(QFileInfo(file()).path()).removeRecursively());
+    {
+        Settings settings(file());
+        settings.setChoice("colour", "red");
+        settings.setChoice("shape", "round");
+        QCOMPARE(settings.choice("colour", colours), QString("red"));
+        settings.setChoice("colour", "green");
+        QCOMPARE(settings.takeTrouble(), QString());
+    }
+    Settings settings(file());
+    QCOMPARE(settings.choice("colour", colours), QString("green"));
+    QCOMPARE(settings.choice("shape", QStringList("round")), QString("round"));
+    QCOMPARE(files(), QStringList("panel.ini"));
+}
+
+void TestSettings::anEmptyPathKeepsNothing()
+{
+    Settings settings((QString()));
+    QCOMPARE(settings.choice("colour", colours), QString());
+    settings.setChoice("colour", "red");
+    QCOMPARE(settings.choice("colour", colours), QString("red"));
+    QCOMPARE(settings.takeTrouble(), QString());
+    QCOMPARE(files(), QStringList());
+}
+
+void TestSettings::keysOfALaterVersionAreKept()
+{
+    writeFile(file(), "[General]\nweight=heavy\n[later]\nlist=1, 2\n");
+    {
+        Settings settings(file());
+        settings.setChoice("colour", "red");
+        QCOMPARE(settings.takeTrouble(), QString());
+    }
+    Settings settings(file());
+    QCOMPARE(settings.choice("weight", QStringList("heavy")), QString("heavy"));
+    QVERIFY(readFile(file()).contains("[later]\nlist=1, 2\n"));
+}
+
+void TestSettings::aBrokenFileIsPutAside_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("prose") << QByteArray("colour is red\n");
+    QTest::newRow("a line of prose") << QByteArray("[General]\ncolour=red\nand so on\n");
+    QTest::newRow("half a section") << QByteArray("[General\ncolour=red\n");
+    QTest::newRow("zeros") << QByteArray(4096, '\0');
+    QTest::newRow("an executable") << QByteArray("\x7f"
+                                                 "ELF\x02\x01\x01\n\xff\xfe\n");
+    QTest::newRow("large") << QByteArray("[General]\ncolour=").append(QByteArray(65536, 'r'));
+}
+
+void TestSettings::aBrokenFileIsPutAside()
+{
+    QFETCH(QByteArray, bytes);
+    writeFile(file(), bytes);
+    {
+        Settings settings(file());
+        QCOMPARE(settings.choice("colour", colours), QString());
+        QCOMPARE(settings.takeTrouble(),
+                 QString("The settings file had errors and is now named %1. Please look over your "
+                         "settings.")
+                     .arg(aside()));
+        QCOMPARE(settings.takeTrouble(), QString());
+        QCOMPARE(readFile(aside()), bytes);
+        QCOMPARE(files(), QStringList("panel.ini.broken"));
+        settings.setChoice("colour", "green");
+    }
+    Settings settings(file());
+    QCOMPARE(settings.choice("colour", colours), QString("green"));
+    QCOMPARE(settings.takeTrouble(), QString());
+    QCOMPARE(readFile(aside()), bytes);
+}
+
+void TestSettings::aDirectoryIsPutAside()
+{
+    QVERIFY(QDir().mkpath(file()));
+    writeFile(file() + "/inside", "kept");
+    Settings settings(file());
+    QVERIFY(settings.takeTrouble().contains(aside()));
+    QCOMPARE(readFile(aside() + "/inside"), QByteArray("kept"));
+    settings.setChoice("colour", "green");
+    QCOMPARE(settings.takeTrouble(), QString());
+    QVERIFY(QFileInfo(file()).isFile());
+}
+
+void TestSettings::aPipeIsPutAsideUnread()
+{
+    QCOMPARE(mkfifo(QFile::encodeName(file()).constData(), 0600), 0);
+    Settings settings(file());
+    QVERIFY(settings.takeTrouble().contains(aside()));
+    QCOMPARE(settings.choice("colour", colours), QString());
+}
+
+void TestSettings::anUnknownValueIsPutAsideAndTheRestKept()
+{
+    writeFile(file(), "[General]\ncolour=plaid\nshape=round\n");
+    {
+        Settings settings(file());
+        QCOMPARE(settings.takeTrouble(), QString());
+        QCOMPARE(settings.choice("shape", QStringList("round")), QString("round"));
+        QCOMPARE(settings.choice("colour", colours), QString());
+        QVERIFY(settings.takeTrouble().contains(aside()));
+        QCOMPARE(readFile(aside()), QByteArray("[General]\ncolour=plaid\nshape=round\n"));
+    }
+    Settings settings(file());
+    QCOMPARE(settings.choice("shape", QStringList("round")), QString("round"));
+    QCOMPARE(settings.choice("colour", colours), QString());
+    QCOMPARE(settings.takeTrouble(), QString());
+    QCOMPARE(files(), QStringList({"panel.ini", "panel.ini.broken"}));
+}
+
+void TestSettings::severalUnknownValuesAreOneTrouble()
+{
+    writeFile(file(), "[General]\ncolour=plaid\nshape=, ,\nsize=@Invalid()\n");
+    Settings settings(file());
+    QCOMPARE(settings.choice("colour", colours), QString());
+    QVERIFY(!settings.takeTrouble().isEmpty());
+    QCOMPARE(settings.choice("shape", QStringList("round")), QString());
+    QCOMPARE(settings.choice("size", QStringList("large")), QString());
+    QCOMPARE(settings.takeTrouble(), QString());
+    QVERIFY(!files().contains("panel.ini.broken.2"));
+    QVERIFY(!readFile(file()).contains("="));
+}
+
+void TestSettings::earlierOnesAreNotOverwritten()
+{
+    for (int i = 1; i <= 3; ++i) {
+        writeFile(file(), QByteArray(i, 'x'));
+        Settings settings(file());
+        QVERIFY(settings.takeTrouble().contains(aside(i) + '.'));
+    }
+    for (int i = 1; i <= 3; ++i)
+        QCOMPARE(readFile(aside(i)), QByteArray(i, 'x'));
+}
+
+void TestSettings::whereAllNamesAreTakenTheFileStays()
+{
+    for (int i = 1; i <= 99; ++i)
+        writeFile(aside(i), "old");
+    writeFile(file(), "broken");
+    Settings settings(file());
+    QVERIFY(settings.takeTrouble().contains("cannot be renamed"));
+    settings.setChoice("colour", "red");
+    QCOMPARE(readFile(file()), QByteArray("broken"));
+    QCOMPARE(files().size(), 100);
+}
+
+// The sandbox has all but the home read-only.
+void TestSettings::whereNothingCanBeWrittenItIsToldOnce()
+{
+    Settings settings("/etc/filarix/panel.ini");
+    QSignalSpy troubled(&settings, &Settings::troubled);
+    settings.setChoice("colour", "red");
+    QCOMPARE(troubled.count(), 1);
+    QCOMPARE(settings.takeTrouble(),
+             QString("The settings cannot be stored in /etc/filarix/panel.ini. What you choose "
+                     "lasts until the program ends."));
+    settings.setChoice("colour", "green");
+    QCOMPARE(troubled.count(), 1);
+    QCOMPARE(settings.takeTrouble(), QString());
+    QCOMPARE(settings.choice("colour", colours), QString("green"));
+}
+
+void TestSettings::aBrokenFileThatCannotBeRenamedStays()
+{
+    QVERIFY(QFileInfo("/etc/passwd").isFile());
+    Settings settings("/etc/passwd");
+    QCOMPARE(settings.takeTrouble(),
+             QString("The settings file /etc/passwd has errors and cannot be renamed. What you "
+                     "choose lasts until the program ends."));
+    settings.setChoice("colour", "red");
+    QCOMPARE(settings.takeTrouble(), QString());
+    QCOMPARE(settings.choice("colour", colours), QString("red"));
+}
+
+void TestSettings::theWindowTellsEachTroubleOnce()
+{
+    writeFile(file(), "broken");
+    Settings settings(file());
+    PanelWindow window(QSize(480, 272));
+    QCOMPARE(window.messageBar()->text(), QString());
+    window.setSettings(&settings);
+    window.show();
+    QVERIFY(window.messageBar()->text().contains(aside()));
+    // Whole on the smallest panel.
+    const QLabel *label = window.messageBar()->findChild<QLabel *>();
+    QVERIFY(label->heightForWidth(label->width()) <= label->height());
+    const MessageBar *bar = window.messageBar();
+    QVERIFY(window.rect().contains(bar->mapTo(&window, QPoint(0, 0))));
+    QVERIFY(window.rect().contains(bar->mapTo(&window, bar->rect().bottomRight())));
+    window.messageBar()->hide();
+
+    // A folder that has come in the way since.
+    QVERIFY(QDir().mkpath(file()));
+    settings.setChoice("colour", "red");
+    QVERIFY(window.messageBar()->text().contains("cannot be stored"));
+    window.messageBar()->hide();
+    settings.setChoice("colour", "green");
+    QCOMPARE(window.messageBar()->text(), QString());
+}
+
+FILARIX_TEST_MAIN(TestSettings)
+
+#include "tst_settings.moc"
