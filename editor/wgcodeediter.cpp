@@ -15,12 +15,15 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTime>
 #include <QtDebug>
+
+#include <algorithm>
 
 namespace {
 
@@ -47,7 +50,6 @@ public:
     PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter)
         : m_view(view)
         , m_formatter(formatter)
-        , m_bar(view->verticalScrollBar())
         , m_wasEnabled(!view->testAttribute(Qt::WA_ForceUpdatesDisabled))
         , m_wasCentring(view->centerOnScroll())
     {
@@ -57,6 +59,8 @@ public:
     }
     ~PieceAppender()
     {
+        if (!m_view)
+            return;
         wake();
         m_view->setProperty(isAppendingName, QVariant());
     }
@@ -68,30 +72,20 @@ public:
 
     void append(const QString &text);
 
-    /// Serves events; the view is up to date meanwhile if the last time is long ago.
-    void processEvents()
-    {
-        const bool isDue = m_wasEnabled && m_time.elapsed() >= paintInterval;
-        if (isDue)
-            wake();
-        QCoreApplication::processEvents();
-        if (isDue)
-            m_time.restart();
-        else if (m_bar->value() != m_restingValue)
-            wake(); // it was scrolled, perhaps to the end
-        else
-            return;
-        rest();
-    }
+    /// Serves events; the view is up to date meanwhile if the last time is long ago. False when a
+    /// receiver deleted the view.
+    bool processEvents();
 
 private:
     void appendUnseen(const QString &text);
     void rest();
     void wake();
+    QScrollBar *bar() const { return m_view->verticalScrollBar(); }
 
-    QPlainTextEdit *m_view;
-    BlockFormatter *m_formatter;
-    QScrollBar *m_bar;
+    // A receiver of an event may delete the view, give it another scroll bar, or another document
+    // and with it no formatter.
+    QPointer<QPlainTextEdit> m_view;
+    QPointer<BlockFormatter> m_formatter;
     bool m_wasEnabled;
     bool m_wasCentring;
     bool m_followsEnd;
@@ -99,34 +93,54 @@ private:
     QElapsedTimer m_time;
 };
 
+bool PieceAppender::processEvents()
+{
+    const bool isDue = m_wasEnabled && m_time.elapsed() >= paintInterval;
+    if (isDue)
+        wake();
+    QCoreApplication::processEvents();
+    if (!m_view)
+        return false;
+    if (isDue)
+        m_time.restart();
+    else if (bar()->value() != m_restingValue)
+        wake(); // it was scrolled, perhaps to the end
+    else
+        return true;
+    rest();
+    return true;
+}
+
 void PieceAppender::rest()
 {
     m_view->setUpdatesEnabled(false);
-    m_followsEnd = m_bar->value() == m_bar->maximum();
+    m_followsEnd = bar()->value() == bar()->maximum();
     // A view that may scroll its last line to the centre knows its range without any layout.
     m_view->setCenterOnScroll(true);
-    m_restingValue = m_bar->value();
+    m_restingValue = bar()->value();
 }
 
 void PieceAppender::wake()
 {
-    const bool isWhereItWas = m_bar->value() == m_restingValue;
+    const bool isWhereItWas = bar()->value() == m_restingValue;
     m_view->setCenterOnScroll(m_wasCentring);
     // A view at its end stays there while text is appended, unless it was scrolled meanwhile.
     if (m_followsEnd && isWhereItWas && m_view->isVisible())
-        m_bar->setValue(m_bar->maximum());
+        bar()->setValue(bar()->maximum());
     m_view->setUpdatesEnabled(m_wasEnabled);
 }
 
 void PieceAppender::append(const QString &text)
 {
     QTextDocument *const document = m_view->document();
-    m_formatter->expect(text, document->isEmpty() ? 0 : document->characterCount());
+    if (m_formatter)
+        m_formatter->expect(text, document->isEmpty() ? 0 : document->characterCount());
     if (m_wasCentring || !m_view->isVisible())
         m_view->appendPlainText(text);
     else
         appendUnseen(text);
-    m_formatter->stopExpecting();
+    if (m_formatter)
+        m_formatter->stopExpecting();
 }
 
 /// What appendPlainText() does, without its following of the end.
@@ -156,6 +170,19 @@ int behindLines(const QString &text, int from, int count)
         position = lineEnd + 1;
     }
     return position;
+}
+
+/// Whether \a highlighter is still there. The document owns it, and a host may have set its own.
+bool isThere(const WHighlighter *highlighter, const QTextDocument *document)
+{
+    const QObjectList &children = document->children();
+    return std::find(children.constBegin(), children.constEnd(), highlighter)
+           != children.constEnd();
+}
+
+BlockFormatter *formatterOf(WHighlighter *highlighter, const QTextDocument *document)
+{
+    return isThere(highlighter, document) ? BlockFormatter::of(highlighter) : nullptr;
 }
 
 } // namespace
@@ -301,7 +328,7 @@ void WGCodeEditer::readGCode(QString text)
     }
 
     QProgressDialog progress(QLatin1String("Load Files:"), QLatin1String("Abort check"), 0, total);
-    PieceAppender appender(this, BlockFormatter::of(highlighter));
+    PieceAppender appender(this, formatterOf(highlighter, document()));
     int position = 0;
     int from = 0;
     Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
@@ -320,8 +347,7 @@ void WGCodeEditer::readGCode(QString text)
             appender.append(result);
         position += n;
         progress.setValue(position);
-        appender.processEvents();
-        if (progress.wasCanceled())
+        if (!appender.processEvents() || progress.wasCanceled())
             break;
     }
     qDebug() << "Elapsed:" << time.elapsed();
@@ -349,15 +375,16 @@ void WGCodeEditer::addErrorCode(int line, QString code)
         if (code.at(i) != QLatin1Char(' '))
             columns.append(i);
     }
-    if (columns.isEmpty())
+    if (columns.isEmpty() || !isThere(highlighter, document()))
         return;
     highlighter->errorLines.insert(line, columns);
 }
 
 void WGCodeEditer::highlightErrorCode()
 {
-    if (!highlighter->errorLines.isEmpty())
-        BlockFormatter::of(highlighter)->formatAll();
+    BlockFormatter *const formatter = formatterOf(highlighter, document());
+    if (formatter && !highlighter->errorLines.isEmpty())
+        formatter->formatAll();
 }
 
 int WGCodeEditer::lineNumberAreaWidth()
@@ -448,7 +475,8 @@ void WGCodeEditer::copy()
     const int row = getCurRowNumber();
     dialog.setCurrentLine(row);
     dialog.setRange(1, 1 - row + document()->lineCount());
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer<WGCodeEditer> self(this);
+    if (dialog.exec() != QDialog::Accepted || !self)
         return;
     const int count = dialog.count();
     if (count < 1)

@@ -73,7 +73,10 @@ public:
     /// so a caller clears the document first. Below that the text goes in unchanged.
     ///
     /// Events of all kinds are served between the pieces, and an abort keeps what is in by then.
-    /// The editor must live until the call returns: a host that wants it gone uses deleteLater().
+    /// Whatever is done to the editor meanwhile, the rest of the program still comes behind it. A
+    /// host that wants the editor gone calls deleteLater(), at any time: the load then ends there.
+    /// To delete it from a slot that the load itself calls, such as one of textChanged(), is an
+    /// error.
     void readGCode(QString text);
     /// The lines without what follows the first ";", without empty lines and without the lines that
     /// this makes empty, joined by line ends, none after the last. Blanks stay.

@@ -22,6 +22,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTextStream>
@@ -228,9 +229,10 @@ void WMMainWindow::open()
     attemptToRefreshButton(sender(), m_openBtn);
     if (!maybeSave())
         return;
+    const QPointer<WMMainWindow> self(this);
     WFileDialog dialog(nullptr);
     dialog.setTitle(tr("Open file"));
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted || !self)
         return;
 
     const QString name = dialog.fileName;
@@ -239,11 +241,15 @@ void WMMainWindow::open()
         if (path != m_curFile) {
             m_editor->clear();
             loadFile(path);
+            if (!self)
+                return;
         } else {
             const int answer = QMessageBox::warning(
                 nullptr, tr("Application"),
                 tr("The document has been existed.\nDo you want to open it again?"),
                 QMessageBox::Yes | QMessageBox::Cancel);
+            if (!self)
+                return;
             if (answer == QMessageBox::Yes) {
                 m_editor->clear();
                 loadFile(path);
@@ -259,9 +265,10 @@ void WMMainWindow::open()
 void WMMainWindow::remove()
 {
     attemptToRefreshButton(sender(), m_removeBtn);
+    const QPointer<WMMainWindow> self(this);
     WFileDialog dialog(nullptr);
     dialog.setTitle(tr("Remove file"));
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted || !self)
         return;
 
     const QString name = dialog.fileName;
@@ -279,6 +286,8 @@ void WMMainWindow::remove()
         QMessageBox::information(nullptr, tr("Remove file"), tr("Success to remove file."),
                                  QMessageBox::Yes);
     }
+    if (!self)
+        return;
     // Even a file that could not be removed is taken off the screen once the operator gave it up.
     if (programPath(name) == m_curFile) {
         m_editor->clear();
@@ -296,9 +305,10 @@ bool WMMainWindow::save()
 bool WMMainWindow::saveAs()
 {
     attemptToRefreshButton(sender(), m_saveAsBtn);
+    const QPointer<WMMainWindow> self(this);
     WFileDialog dialog(nullptr);
     dialog.setTitle(tr("Save as"));
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted || !self)
         return false;
     const QString name = dialog.fileName;
     if (name.isEmpty())
@@ -372,7 +382,8 @@ void WMMainWindow::softEditGcode()
     keypad->setValidator(nullptr);
     keypad->setText(line);
     keypad->setLimitToolTip(line);
-    if (keypad->exec() != QDialog::Accepted)
+    const QPointer<WMMainWindow> self(this);
+    if (keypad->exec() != QDialog::Accepted || !self)
         return;
     updateGcode(text());
 }
@@ -539,10 +550,13 @@ bool WMMainWindow::maybeSave()
 {
     if (!m_editor->document()->isModified())
         return true;
+    const QPointer<WMMainWindow> self(this);
     const int answer = QMessageBox::warning(
         nullptr, tr("Application"),
         tr("The document has been modified.\nDo you want to save your changes?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (!self)
+        return false; // with the window gone there is nothing to go on with
     if (answer == QMessageBox::Save)
         return save();
     return answer != QMessageBox::Cancel;
@@ -558,7 +572,10 @@ void WMMainWindow::loadFile(const QString &fileName)
         return;
     }
     QTextStream stream(&file);
+    const QPointer<WMMainWindow> self(this);
     m_editor->readGCode(stream.readAll());
+    if (!self)
+        return;
     setCurrentFile(fileName);
 }
 

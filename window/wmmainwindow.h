@@ -32,6 +32,11 @@ class WGCodeEditer;
 /// The window title holds a "[*]" for changes. Nothing sets the mark unless the host connects the
 /// document's modificationChanged(bool) to the slot documentWasModified().
 ///
+/// While a long program is loaded and while one of its dialogs is open the window serves events, so
+/// a host's timers and slots run then, too. One that wants the window gone calls deleteLater(), at
+/// any time: the command under way ends there. To delete the window from a slot that its own load
+/// calls, such as one of the document's contentsChanged(), is an error.
+///
 /// Every operation belongs to the GUI thread.
 class FILARIX_EXPORT WMMainWindow : public QSplitter
 {

@@ -11,10 +11,13 @@
 #include "rowfile.h"
 #include "safedownload.h"
 #include "wfiledialog.h"
+#include "windowthatgoes.h"
 
 #include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QPointer>
+#include <QTimer>
 
 namespace {
 
@@ -153,6 +156,8 @@ private Q_SLOTS:
     void downloadRefusesWhatIsNotOnTheScreen();
     void downloadRefusesAProgramThatIsHalfLoaded();
     void downloadRefusesAProgramWithoutAFile();
+    void windowThatGoesLeavesNothingBehind();
+    void windowIsTakenAwayFromUnderALoad();
     void exportedRowsComeBack();
     void importRefusesRowsThatAListWouldTake();
     void importOfAMissingFileLeavesTheList();
@@ -352,6 +357,60 @@ void TestRecipes::downloadRefusesAProgramWithoutAFile()
     pressDownload(host);
     QCOMPARE(download.sent, QList<QByteArray>());
     QCOMPARE(download.told.size(), 1);
+}
+
+void TestRecipes::windowThatGoesLeavesNothingBehind()
+{
+    const QList<QWidget *> before = QApplication::allWidgets();
+    QToolButton own;
+    WMMainWindow *window = newWindowThatGoes(nullptr, 90);
+    window->show();
+    takeAway(window);
+    QVERIFY(!window->isVisible());
+    // The window first, then what it lets go.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(QApplication::allWidgets().size(), before.size() + 1);
+    QVERIFY(QApplication::allWidgets().contains(&own));
+}
+
+/// An alarm that comes up while a program is loaded.
+class Alarm : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Alarm(WMMainWindow *window) : m_window(window)
+    {
+        connect(&m_timer, SIGNAL(timeout()), SLOT(ring()));
+        m_timer.start(0);
+    }
+
+    QPointer<WMMainWindow> m_window;
+    bool hasRung = false;
+
+private Q_SLOTS:
+    void ring()
+    {
+        const bool isLoading = m_window && m_window->findChild<WGCodeEditer *>()->blockCount() > 1;
+        if (hasRung || !isLoading)
+            return;
+        hasRung = true;
+        takeAway(m_window);
+    }
+
+private:
+    QTimer m_timer;
+};
+
+void TestRecipes::windowIsTakenAwayFromUnderALoad()
+{
+    WMMainWindow *window = newWindowThatGoes(nullptr, 0);
+    Alarm alarm(window);
+    window->findChild<WGCodeEditer *>()->readGCode(QString::fromLatin1("G01 X1\n").repeated(9999));
+    QVERIFY(alarm.hasRung);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!alarm.m_window);
 }
 
 void TestRecipes::exportedRowsComeBack()

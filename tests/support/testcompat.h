@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QMetaMethod>
 #include <QPixmap>
 #include <QTest>
 #include <QTranslator>
@@ -50,6 +51,15 @@ inline QHeaderView::ResizeMode sectionResizeMode(const QHeaderView *header, int 
     return header->sectionResizeMode(section);
 #else
     return header->resizeMode(section);
+#endif
+}
+
+inline QString signature(const QMetaMethod &method)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QLatin1String(method.methodSignature());
+#else
+    return QLatin1String(method.signature());
 #endif
 }
 
