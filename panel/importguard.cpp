@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,6 +22,35 @@ namespace {
 const int kNamesShown = 3;
 // The library's text; not written into tr(), which would have it translated once more for us.
 const char kManagerQuit[] = "Quit";
+
+QPushButton *defaultButton(const QWidget *manager)
+{
+    const QList<QPushButton *> buttons = manager->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->isDefault())
+            return button;
+    }
+    return nullptr;
+}
+
+/// The button that an event of one of the manager's widgets presses, if any: Return presses one
+/// from wherever it is, and Escape and the arrows press none.
+QPushButton *pressedButton(QWidget *widget, const QEvent *event)
+{
+    QPushButton *button = qobject_cast<QPushButton *>(widget);
+    if (event->type() != QEvent::KeyPress)
+        return button;
+    switch (static_cast<const QKeyEvent *>(event)->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return button ? button : defaultButton(widget->window());
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+        return button;
+    default:
+        return nullptr;
+    }
+}
 
 bool isPress(QEvent::Type type)
 {
@@ -104,9 +134,10 @@ bool ImportGuard::eventFilter(QObject *watched, QEvent *event)
 {
     if (!isPress(event->type()))
         return false;
-    QPushButton *button = qobject_cast<QPushButton *>(watched);
-    ImportManage *manager = button ? qobject_cast<ImportManage *>(button->window()) : nullptr;
-    if (!manager || button->text() == ImportManage::tr(kManagerQuit))
+    QWidget *widget = qobject_cast<QWidget *>(watched);
+    ImportManage *manager = widget ? qobject_cast<ImportManage *>(widget->window()) : nullptr;
+    const QPushButton *button = manager ? pressedButton(widget, event) : nullptr;
+    if (!button || button->text() == ImportManage::tr(kManagerQuit))
         return false;
     if (!isProgramDirSafe()) {
         Q_EMIT told(tr("No transfer: the path %1 holds characters that the transfer would not take "

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void withoutRenamingNothingIsTransferred();
     void chosenNameOfAStickThatHasGoneIsRefused();
     void keysPressedByAKeyboardAreGuardedToo();
+    void returnInAListIsGuardedToo();
+    void escapeLeavesWithoutAQuestion();
     void quitIsNeverHeldBack();
     void renamingThatFailsIsTold();
     void programDirectoryWithABlankIsRefused();
@@ -189,6 +191,40 @@ void TestImportGuard::keysPressedByAKeyboardAreGuardedToo()
     QTest::keyClick(button(&manager, "<<"), Qt::Key_Space);
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
+}
+
+// Return in a list presses the manager's default button, the first.
+void TestImportGuard::returnInAListIsGuardedToo()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile(programDir() + "/$(rm canary)", "G01\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    manager.activateWindow();
+    QListView *programs = manager.findChildren<QListView *>().first();
+    programs->setCurrentIndex(
+        static_cast<QDirModel *>(programs->model())->index(programDir() + "/$(rm canary)"));
+    programs->setFocus();
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    QTest::keyClick(programs, Qt::Key_Return);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
+}
+
+void TestImportGuard::escapeLeavesWithoutAQuestion()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile("/mnt/Storage/a b.cnc", "G01\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    QTest::keyClick(button(&manager, "<<"), Qt::Key_Tab);
+    QTest::keyClick(button(&manager, "<<"), Qt::Key_Escape);
+    QVERIFY(!manager.isVisible());
 }
 
 void TestImportGuard::quitIsNeverHeldBack()
