@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QTextDocument>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -41,13 +42,33 @@ void setFindDialogTexts(const QWidget *dialog, std::initializer_list<const char 
     }
 }
 
+QSet<QToolButton *> buttonsWithoutParent()
+{
+    QSet<QToolButton *> buttons;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (QToolButton *button = qobject_cast<QToolButton *>(widget))
+            buttons.insert(button);
+    }
+    return buttons;
+}
+
+/// The window has buttons that it puts into no bar and gives to nobody: \a spare takes them.
+WMMainWindow *makeWindow(QWidget *parent, int rotation, QSet<QToolButton *> *spare)
+{
+    const QSet<QToolButton *> others = buttonsWithoutParent();
+    WMMainWindow *window = new WMMainWindow(parent, rotation);
+    *spare = buttonsWithoutParent().subtract(others);
+    return window;
+}
+
 } // namespace
 
 ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineData *machine,
                              QWidget *parent)
     : PanelScreen(parent)
     , m_machine(machine)
-    , m_window(new WMMainWindow(this, rotation))
+    , m_window(makeWindow(this, rotation, &m_spareButtons))
     , m_editor(m_window->findChild<WGCodeEditer *>())
     , m_transfer(new PlcTransfer(plcDir, this))
 {
@@ -80,6 +101,12 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineD
     });
     connect(m_transfer, &PlcTransfer::failed, this,
             [this](const QString &reason) { endDownload(reason, Warning); });
+}
+
+ProgramScreen::~ProgramScreen()
+{
+    delete m_window;
+    qDeleteAll(m_spareButtons);
 }
 
 QString ProgramScreen::title() const

@@ -6,8 +6,11 @@
 
 #include "panelscreen.h"
 
+#include <QSet>
+
 class MachineData;
 class PlcTransfer;
+class QToolButton;
 class WGCodeEditer;
 class WMMainWindow;
 
@@ -23,6 +26,7 @@ public:
     /// Programs go to the folder \a plcDir. \a machine must outlive the screen.
     ProgramScreen(int rotation, const QString &plcDir, const MachineData *machine,
                   QWidget *parent = nullptr);
+    ~ProgramScreen() override;
 
     QString title() const override;
     bool hasChanges() const override;
@@ -51,6 +55,7 @@ private:
     void find();
 
     const MachineData *m_machine;
+    QSet<QToolButton *> m_spareButtons;
     WMMainWindow *m_window;
     WGCodeEditer *m_editor;
     PlcTransfer *m_transfer;
