@@ -179,13 +179,7 @@ public:
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / kGrid, rect.height() / kGrid);
-        painter->setPen(QPen(color(mode, state), 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->drawPath(shape(m_glyph));
-        painter->restore();
+        Glyphs::draw(m_glyph, painter, rect, color(mode, state));
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
@@ -222,6 +216,17 @@ private:
 };
 
 } // namespace
+
+void Glyphs::draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColor &color)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(rect.topLeft());
+    painter->scale(rect.width() / kGrid, rect.height() / kGrid);
+    painter->setPen(QPen(color, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(shape(glyph));
+    painter->restore();
+}
 
 QIcon Glyphs::icon(Glyph glyph, Ground ground)
 {

@@ -4,7 +4,11 @@
 #ifndef GLYPHS_H
 #define GLYPHS_H
 
+#include <QColor>
 #include <QIcon>
+#include <QRect>
+
+class QPainter;
 
 /// The host's own line drawings: crisp at any size, in the colours of the look in use. An icon that
 /// is shown already follows when the look changes.
@@ -44,6 +48,8 @@ enum Ground {
     OnPaper  ///< A bar of the library.
 };
 
+/// Draws one by hand, for a widget that paints itself.
+void draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColor &color);
 QIcon icon(Glyph glyph, Ground ground = OnStrip);
 
 } // namespace Glyphs

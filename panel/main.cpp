@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "connectionsscreen.h"
+#include "devicewatch.h"
 #include "dialogkeeper.h"
 #include "fieldkeypad.h"
 #include "filesscreen.h"
@@ -16,6 +17,7 @@
 #include "programscreen.h"
 #include "samples.h"
 #include "settings.h"
+#include "statusstrip.h"
 #include "stick.h"
 #include "teachscreen.h"
 #include "terminationsignals.h"
@@ -152,6 +154,11 @@ int runPanel(const Options &options)
     });
     panel.setLanguages(&languages);
     panel.setSettings(&settings);
+    const QString programDir = Samples::programDir();
+    DeviceWatch watch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); });
+    QObject::connect(&watch, &DeviceWatch::changed, panel.status(), &StatusStrip::showDevices);
+    QObject::connect(files, &PanelScreen::statusChanged, &watch, &DeviceWatch::lookNow);
+    panel.status()->follow(programs->transfer());
     // Not by the last window: the find dialog may be open, and it has no parent.
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
     TerminationSignals signals;

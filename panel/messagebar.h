@@ -27,6 +27,8 @@ public:
     void tell(const QString &text, PanelScreen::Tone tone);
     void showWork(const QString &text, int percent);
     QString text() const;
+    /// Whether showWork() came last.
+    bool isWorking() const { return m_working && !isHidden(); }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -10,6 +10,7 @@
 #include "messagebar.h"
 #include "panelkey.h"
 #include "settings.h"
+#include "statusstrip.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -18,26 +19,30 @@
 #include <QTime>
 #include <QVBoxLayout>
 
+#include <climits>
+
 namespace {
 
 const int kWideFrom = 760;
 const int kTallFrom = 400;
 // Five of them and the key of the languages are as wide as the narrowest panel.
 const int kTabWidth = 74;
+// Narrower ones have no room for the tabs side by side.
+const int kTabsFrom = 400;
+const int kMenuTabWidth = 88;
+const int kMessagePixels = 12;
 const int kStatusMs = 2000;
 
 } // namespace
 
 PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     : QWidget(parent)
-    , m_shape(surface.height() < kTallFrom  ? Small
-              : surface.width() < kWideFrom ? Upright
-                                            : Wide)
+    , m_shape(shapeOf(surface))
     , m_stack(new QStackedWidget)
-    , m_tabs(new QHBoxLayout)
+    , m_tabs(new QGridLayout)
     , m_keys(new QHBoxLayout)
     , m_title(new ElidedLabel)
-    , m_status(new ElidedLabel)
+    , m_status(new StatusStrip(m_shape == Wide))
 {
     setFixedSize(surface);
     QVBoxLayout *column = new QVBoxLayout(this);
@@ -45,10 +50,10 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(makeTopStrip());
     column->addWidget(m_stack, 1);
-    if (m_shape == Small)
-        makeMenu();
-    else
+    if (m_shape != Small)
         column->addWidget(makeFootStrip());
+    if (hasMenu())
+        makeMenu();
 
     m_messages = new MessageBar(m_stack);
     connect(m_messages, &MessageBar::stopped, this, [this] { currentScreen()->stopWork(); });
@@ -62,7 +67,15 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
 
     connect(&m_statusTimer, &QTimer::timeout, this, &PanelWindow::refreshStatus);
     m_statusTimer.start(kStatusMs);
-    showStatus();
+}
+
+PanelWindow::Shape PanelWindow::shapeOf(const QSize &surface)
+{
+    if (surface.height() < kTallFrom)
+        return Small;
+    if (surface.width() < kTabsFrom)
+        return Slim;
+    return surface.width() < kWideFrom ? Upright : Wide;
 }
 
 QWidget *PanelWindow::makeTopStrip()
@@ -87,25 +100,27 @@ QWidget *PanelWindow::makeTopStrip()
     font.setBold(true);
     m_title->setFont(font);
     m_title->setObjectName(QLatin1String("title"));
-    font.setPixelSize(12);
-    font.setBold(false);
-    m_status->setFont(font);
     m_status->setObjectName(QLatin1String("status"));
 
-    QVBoxLayout *titles = new QVBoxLayout;
+    QWidget *titleBlock = new QWidget;
+    titleBlock->setObjectName(QLatin1String("titleBlock"));
+    titleBlock->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    titleBlock->installEventFilter(this);
+    QVBoxLayout *titles = new QVBoxLayout(titleBlock);
     titles->setContentsMargins(6, 0, 6, 0);
     titles->setSpacing(0);
     titles->addWidget(m_title);
-    if (m_shape == Small) {
+    if (hasMenu()) {
         PanelKey *menuKey = new PanelKey(Glyphs::icon(Glyphs::Menu), [] { return tr("Menu"); });
         menuKey->setObjectName(QLatin1String("menuKey"));
         connect(menuKey, &PanelKey::clicked, this, &PanelWindow::toggleMenu);
         row->addWidget(menuKey);
-        titles->addWidget(m_status);
     } else if (m_shape == Wide) {
         row->addLayout(m_tabs);
     }
-    row->addLayout(titles, 1);
+    if (m_shape == Small)
+        titles->addWidget(m_status);
+    row->addWidget(titleBlock, 1);
     row->addLayout(m_keys);
     return strip;
 }
@@ -122,13 +137,14 @@ QWidget *PanelWindow::makeFootStrip()
 
     m_lastMessage = new ElidedLabel;
     m_lastMessage->setObjectName(QLatin1String("lastMessage"));
-    m_lastMessage->setFont(m_status->font());
-    // The state of the devices is always to be read; a message gives way.
-    m_status->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_status->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-    QHBoxLayout *line = new QHBoxLayout;
+    QFont font = m_lastMessage->font();
+    font.setPixelSize(kMessagePixels);
+    m_lastMessage->setFont(font);
+    // The state of the devices is always to be read; a message gives way, or has a line of its own.
+    QBoxLayout *line =
+        new QBoxLayout(m_shape == Slim ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     line->setContentsMargins(6, 0, 6, 0);
-    line->setSpacing(12);
+    line->setSpacing(m_shape == Slim ? 1 : 12);
     line->addWidget(m_lastMessage, 1);
     line->addWidget(m_status);
     column->addLayout(line);
@@ -155,7 +171,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     entry.tab->setMinimumWidth(kTabWidth);
     entry.tab->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     connect(entry.tab, &PanelKey::clicked, this, [this, index] { showScreen(index); });
-    m_tabs->addWidget(entry.tab);
+    addTab(entry.tab);
     entry.keys = screen->keys();
     for (PanelKey *key : qAsConst(entry.keys)) {
         m_keys->addWidget(key);
@@ -167,7 +183,6 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     connect(screen, &PanelScreen::titleChanged, this, &PanelWindow::showTitle);
     connect(screen, &PanelScreen::told, this, &PanelWindow::tell);
     connect(screen, &PanelScreen::worked, m_messages, &MessageBar::showWork);
-    connect(screen, &PanelScreen::statusChanged, this, &PanelWindow::noteStatus);
     screen->refreshStatus();
     if (index == 0)
         showScreen(0);
@@ -180,7 +195,7 @@ void PanelWindow::setLanguages(Languages *languages)
                                  [languages] { return languages->shortName(); });
     key->setObjectName(QLatin1String("languageKey"));
     connect(key, &PanelKey::clicked, this, &PanelWindow::chooseLanguage);
-    m_tabs->addWidget(key);
+    addTab(key);
 }
 
 void PanelWindow::chooseLanguage()
@@ -206,6 +221,14 @@ void PanelWindow::tellTrouble()
     const QString trouble = m_settings->takeTrouble();
     if (!trouble.isEmpty())
         tell(trouble, PanelScreen::Warning);
+}
+
+// Those of a menu go on in a second line where the first is full.
+void PanelWindow::addTab(PanelKey *tab)
+{
+    const int columns = hasMenu() ? qMax(1, width() / kMenuTabWidth) : INT_MAX;
+    const int count = m_tabs->count();
+    m_tabs->addWidget(tab, count / columns, count % columns);
 }
 
 // The tabs of a small panel, over the screen while the operator chooses.
@@ -264,36 +287,31 @@ void PanelWindow::showTitle()
 void PanelWindow::tell(const QString &text, PanelScreen::Tone tone)
 {
     m_messages->tell(text, tone);
+    m_message = QTime::currentTime().toString(QLatin1String("HH:mm  ")) + text;
     if (m_lastMessage)
-        m_lastMessage->setText(QTime::currentTime().toString(QLatin1String("HH:mm  ")) + text);
+        m_lastMessage->setText(m_message);
 }
 
-void PanelWindow::noteStatus(const QString &device, const QString &state)
+void PanelWindow::showInFull()
 {
-    for (QPair<QString, QString> &known : m_devices) {
-        if (known.first == device) {
-            known.second = state;
-            return showStatus();
-        }
-    }
-    m_devices.append(qMakePair(device, state));
-    showStatus();
+    QStringList lines{currentScreen()->title()};
+    if (!m_message.isEmpty())
+        lines.append(m_message);
+    m_messages->tell(lines.join(QLatin1Char('\n')), PanelScreen::Info);
 }
 
-void PanelWindow::showStatus()
+bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    QStringList parts;
-    for (const QPair<QString, QString> &device : qAsConst(m_devices))
-        parts.append(device.first + QLatin1Char(' ') + device.second);
-    parts.append(QTime::currentTime().toString(QLatin1String("HH:mm")));
-    m_status->setText(parts.join(QString::fromUtf8("  \u00b7  ")));
+    // Work that goes on keeps the message bar, and its key.
+    if (event->type() == QEvent::MouseButtonRelease && currentScreen() && !m_messages->isWorking())
+        showInFull();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PanelWindow::refreshStatus()
 {
     for (const Entry &entry : qAsConst(m_entries))
         entry.screen->refreshStatus();
-    showStatus();
 }
 
 bool PanelWindow::event(QEvent *event)
@@ -310,8 +328,6 @@ bool PanelWindow::event(QEvent *event)
 void PanelWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        // The devices report again, under their names in the new language.
-        m_devices.clear();
         showTitle();
         refreshStatus();
     }

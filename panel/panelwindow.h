@@ -7,7 +7,6 @@
 #include "panelscreen.h"
 
 #include <QList>
-#include <QPair>
 #include <QSize>
 #include <QTimer>
 #include <QWidget>
@@ -18,16 +17,19 @@ class ElidedLabel;
 class Languages;
 class MessageBar;
 class PanelKey;
+class QGridLayout;
 class QHBoxLayout;
 class QStackedWidget;
 class Settings;
+class StatusStrip;
 
 /// The shell around the screens: which screen is up, its title and keys, the state of the devices,
 /// the clock, and what the screens have to say.
 ///
-/// Three shapes, by the surface: lying and wide (tabs in the top strip), upright (tabs at the
-/// foot, in reach of the thumbs), and lying and small (tabs behind a Menu key, so that the screen
-/// gets every line there is).
+/// Four shapes, by the surface: lying and wide (tabs in the top strip), upright (tabs at the foot,
+/// in reach of the thumbs), lying and small (tabs behind a Menu key, so that the screen gets every
+/// line there is), and upright and small (the same, with the state of the devices at the foot).
+/// A touch on the title shows it, and the last message, in full.
 ///
 ///     PanelWindow panel(QSize(800, 480));
 ///     panel.addScreen(new ProgramScreen(0, "/srv/plc", &machine), [] { return tr("Program"); },
@@ -55,8 +57,10 @@ public:
     void showScreen(int index);
 
     MessageBar *messageBar() const { return m_messages; }
+    StatusStrip *status() const { return m_status; }
 
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     /// The operator closed the program and no screen objected.
@@ -67,7 +71,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    enum Shape { Wide, Upright, Small };
+    enum Shape { Wide, Upright, Small, Slim };
 
     struct Entry
     {
@@ -76,33 +80,35 @@ private:
         QList<PanelKey *> keys;
     };
 
+    static Shape shapeOf(const QSize &surface);
+    bool hasMenu() const { return m_shape == Small || m_shape == Slim; }
     QWidget *makeTopStrip();
     QWidget *makeFootStrip();
     void makeMenu();
+    void addTab(PanelKey *tab);
     void toggleMenu();
     void chooseLanguage();
     void tellTrouble();
     void showTitle();
-    void showStatus();
+    void showInFull();
     void refreshStatus();
     void tell(const QString &text, PanelScreen::Tone tone);
-    void noteStatus(const QString &device, const QString &state);
 
     const Shape m_shape;
     QList<Entry> m_entries;
     QStackedWidget *m_stack;
     QWidget *m_menu = nullptr;
-    QHBoxLayout *m_tabs;
+    QGridLayout *m_tabs;
     QHBoxLayout *m_keys;
     ElidedLabel *m_title;
     ElidedLabel *m_lastMessage = nullptr;
-    ElidedLabel *m_status;
+    QString m_message;
+    StatusStrip *m_status;
     MessageBar *m_messages;
     QWidget *m_shade;
     Languages *m_languages = nullptr;
     Settings *m_settings = nullptr;
     QTimer m_statusTimer;
-    QList<QPair<QString, QString>> m_devices;
 };
 
 #endif // PANELWINDOW_H

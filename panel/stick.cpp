@@ -45,7 +45,7 @@ QString Stick::marker()
     return QLatin1String("/tmp/udiskattach");
 }
 
-bool Stick::isPresent() const
+bool Stick::isPresent()
 {
     return QFileInfo(marker()).exists() && QFileInfo(mountPoint()).isDir();
 }

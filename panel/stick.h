@@ -29,7 +29,7 @@ public:
     bool isSimulated() const { return !m_folder.isEmpty(); }
     QString folder() const { return m_folder; }
     /// Whether the marker and the mount point are there.
-    bool isPresent() const;
+    static bool isPresent();
 
     /// Puts the simulated stick in; nothing to do if it is in. On failure \a error says why, and
     /// nothing is changed.

@@ -93,7 +93,7 @@ struct Panel
         for (int column = 0; column < table->columnCount(); ++column)
             texts << table->horizontalHeaderItem(column)->text()
                   << table->item(table->rowCount() - 1, column)->text();
-        return texts.replaceInStrings(QRegExp(QLatin1String("\\d\\d:\\d\\d")), QString());
+        return texts.replaceInStrings(QRegExp(QLatin1String("\\d\\d:\\d\\d(:\\d\\d)?")), QString());
     }
 
     Stick stick;

@@ -8,6 +8,7 @@
 #include "modaldriver.h"
 #include "panelkey.h"
 #include "panelwindow.h"
+#include "statusstrip.h"
 
 #include <QLabel>
 #include <QMessageBox>
@@ -23,10 +24,8 @@ public:
     QList<PanelKey *> keys() override { return {m_key = new PanelKey("Do")}; }
     bool mayClose() override { return m_mayClose; }
     void stopWork() override { ++m_stops; }
-    void refreshStatus() override { Q_EMIT statusChanged("PLC", m_state); }
 
     QString m_title = "coil.cnc";
-    QString m_state = "ready";
     bool m_changed = false;
     bool m_mayClose = true;
     int m_stops = 0;
@@ -43,7 +42,9 @@ private Q_SLOTS:
     void tabShowsItsScreenAndKeys();
     void menuKeyOfASmallPanelShowsTheTabs();
     void titleCarriesTheMarkOfChanges();
-    void statusLineTellsTheDevices();
+    void statusIsInViewOnEveryScreen_data();
+    void statusIsInViewOnEveryScreen();
+    void titleTellsInFullWhenTouched();
     void messagesAndProgressOfAScreenAreShown();
     void panelIsShadedWhileADialogWaits();
     void closingAsksEveryScreen();
@@ -77,6 +78,7 @@ void TestPanelWindow::touchTargets_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("small") << QSize(480, 272);
+    QTest::newRow("small upright") << QSize(272, 480);
     QTest::newRow("upright") << QSize(480, 800);
     QTest::newRow("800x480") << QSize(800, 480);
     QTest::newRow("1024x600") << QSize(1024, 600);
@@ -165,18 +167,65 @@ void TestPanelWindow::titleCarriesTheMarkOfChanges()
     QVERIFY(panel.windowTitle().startsWith("other.cnc[*]"));
 }
 
-void TestPanelWindow::statusLineTellsTheDevices()
+void TestPanelWindow::statusIsInViewOnEveryScreen_data()
 {
-    PanelWindow panel(QSize(800, 480));
+    touchTargets_data();
+}
+
+void TestPanelWindow::statusIsInViewOnEveryScreen()
+{
+    QFETCH(QSize, size);
+    PanelWindow panel(size);
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    DeviceState devices;
+    devices.isKnown = true;
+    devices.freeBytes = qint64(100) * 1024 * 1024 * 1024;
+    panel.status()->showDevices(devices);
+    for (int i = 0; i < screens.size(); ++i) {
+        panel.showScreen(i);
+        screens.at(i)->m_title = QString(200, 'w');
+        Q_EMIT screens.at(i)->titleChanged();
+        Q_EMIT screens.at(i)->told(QString(200, 'w'), PanelScreen::Info);
+        QCoreApplication::processEvents();
+        const QList<QLabel *> words = panel.status()->findChildren<QLabel *>();
+        QCOMPARE(words.size(), 4);
+        for (QLabel *word : words) {
+            QVERIFY(word->isVisible());
+            const QRect place(word->mapTo(&panel, QPoint(0, 0)), word->size());
+            QVERIFY2(panel.rect().contains(place), qPrintable(word->objectName()));
+            QVERIFY2(word->fontMetrics().horizontalAdvance(word->text())
+                         <= word->contentsRect().width(),
+                     qPrintable(word->objectName()));
+            QVERIFY(word->height() >= word->fontMetrics().ascent());
+            QVERIFY(word->font().pixelSize() >= 12);
+            // Nothing lies over it.
+            QCOMPARE(panel.childAt(place.center()), static_cast<QWidget *>(word));
+        }
+    }
+}
+
+void TestPanelWindow::titleTellsInFullWhenTouched()
+{
+    PanelWindow panel(QSize(480, 272));
     FakeScreen *screen = new FakeScreen;
+    screen->m_title = QString(60, 'w') + ".cnc";
     panel.addScreen(screen, "Program", QIcon());
-    QVERIFY(label(panel, "status").contains("PLC ready"));
-    Q_EMIT screen->statusChanged("Stick", "away");
-    QVERIFY(label(panel, "status").contains("PLC ready"));
-    QVERIFY(label(panel, "status").contains("Stick away"));
-    screen->m_state = "gone";
-    QTRY_VERIFY(label(panel, "status").contains("PLC gone"));
-    QVERIFY(!label(panel, "status").contains("PLC ready"));
+    panel.show();
+    QWidget *block = panel.findChild<QWidget *>("titleBlock");
+    QVERIFY(block->height() >= 34);
+    QTest::mouseClick(block, Qt::LeftButton);
+    QCOMPARE(panel.messageBar()->text(), screen->m_title);
+    Q_EMIT screen->told("The stick is full.", PanelScreen::Warning);
+    panel.messageBar()->hide();
+    QTest::mouseClick(block, Qt::LeftButton);
+    QVERIFY(panel.messageBar()->text().startsWith(screen->m_title));
+    QVERIFY(panel.messageBar()->text().endsWith("The stick is full."));
+    // Running work keeps its Stop key.
+    Q_EMIT screen->worked("on its way", 30);
+    QTest::mouseClick(block, Qt::LeftButton);
+    QCOMPARE(panel.messageBar()->text(), QString("on its way"));
 }
 
 void TestPanelWindow::messagesAndProgressOfAScreenAreShown()

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef DEVICEWATCH_H
+#define DEVICEWATCH_H
+
+#include <QMetaType>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class DeviceLooker;
+
+/// What the panel knows of the devices around it.
+struct DeviceState
+{
+    /// Whether anything below is true: not so before the first look.
+    bool isKnown = false;
+    /// Whether the folder that stands for the PLC is there.
+    bool plcReachable = false;
+    bool stickIn = false;
+    /// What is left for programs, in the file system of their directory; -1 when it can't be told.
+    qint64 freeBytes = -1;
+
+    bool operator==(const DeviceState &other) const;
+};
+
+Q_DECLARE_METATYPE(DeviceState)
+
+/// Looks at the devices every second, in a thread of its own: a folder on a network or on a dying
+/// stick may keep whoever asks for it waiting, and that must not be the screen.
+///
+///     DeviceWatch watch([plcDir] { return DeviceWatch::lookAt(plcDir, programDir); });
+///     connect(&watch, &DeviceWatch::changed, strip, &StatusStrip::showDevices);
+class DeviceWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    typedef std::function<DeviceState()> Look;
+
+    /// \a look runs in the other thread, which may outlive the watch while a device keeps it
+    /// waiting: it has to own what it uses.
+    explicit DeviceWatch(const Look &look, QObject *parent = nullptr);
+    ~DeviceWatch() override;
+
+    /// The PLC's folder, the stick and the file system of \a programDir, now. May wait for them.
+    static DeviceState lookAt(const QString &plcDir, const QString &programDir);
+
+    /// What the last look has seen; nothing of anything before the first one has come back, and
+    /// again when one is overdue for seconds.
+    DeviceState state() const { return m_state; }
+
+public Q_SLOTS:
+    /// Has the devices looked at without waiting for the next second.
+    void lookNow();
+
+Q_SIGNALS:
+    void changed(const DeviceState &state);
+
+private:
+    void take(const DeviceState &state);
+
+    DeviceLooker *m_looker;
+    DeviceState m_state;
+    QTimer m_patience;
+};
+
+#endif // DEVICEWATCH_H

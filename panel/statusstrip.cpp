@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "statusstrip.h"
+
+#include "look.h"
+#include "plctransfer.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QTime>
+
+namespace {
+
+const int kFontPixels = 12;
+const int kGlyph = 14;
+const int kGlyphGap = 3;
+const int kItemGap = 9;
+const int kSecondMs = 1000;
+const qint64 kMegabyte = 1024 * 1024;
+const qint64 kLowBytes = 30 * kMegabyte;
+const qint64 kFullBytes = kMegabyte;
+
+QString dash()
+{
+    return QString::fromUtf8("\u2013");
+}
+
+QFont lineFont(QFont font)
+{
+    font.setPixelSize(kFontPixels);
+    font.setBold(false);
+    return font;
+}
+
+} // namespace
+
+StatusItem::StatusItem(Glyphs::Glyph glyph, QWidget *parent) : QLabel(parent), m_glyph(glyph)
+{
+    setFont(lineFont(font()));
+    setTextFormat(Qt::PlainText);
+    setContentsMargins(kGlyph + kGlyphGap, 0, 0, 0);
+}
+
+void StatusItem::set(const QString &word, Tone tone, const QString &meaning)
+{
+    setText(word);
+    setAccessibleName(meaning);
+    m_tone = tone;
+    update();
+}
+
+void StatusItem::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    const QColor color = m_tone == Alarm     ? Look::alarm()
+                         : m_tone == Caution ? Look::caution()
+                         : m_tone == Calm    ? Look::calm()
+                                             : Look::stripText();
+    Glyphs::draw(m_glyph, &painter, QRect(0, (height() - kGlyph) / 2, kGlyph, kGlyph), color);
+}
+
+StatusStrip::StatusStrip(bool roomy, QWidget *parent)
+    : QWidget(parent)
+    , m_roomy(roomy)
+    , m_plc(new StatusItem(Glyphs::Plc))
+    , m_stick(new StatusItem(Glyphs::Stick))
+    , m_storage(new StatusItem(Glyphs::Storage))
+    , m_clock(new QLabel)
+{
+    m_plc->setObjectName(QLatin1String("plcState"));
+    m_stick->setObjectName(QLatin1String("stickState"));
+    m_storage->setObjectName(QLatin1String("storageState"));
+    m_clock->setObjectName(QLatin1String("clock"));
+    m_clock->setFont(lineFont(m_clock->font()));
+
+    QHBoxLayout *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kItemGap);
+    for (QWidget *item : {static_cast<QWidget *>(m_plc), static_cast<QWidget *>(m_stick),
+                          static_cast<QWidget *>(m_storage), static_cast<QWidget *>(m_clock)})
+        row->addWidget(item);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+
+    connect(&m_clockTimer, &QTimer::timeout, this, &StatusStrip::tick);
+    m_clockTimer.setSingleShot(true);
+    tick();
+    showAll();
+}
+
+void StatusStrip::follow(const PlcTransfer *transfer)
+{
+    connect(transfer, &PlcTransfer::progress, this, &StatusStrip::noteProgress);
+    connect(transfer, &PlcTransfer::finished, this, [this] { noteEnd(false); });
+    connect(transfer, &PlcTransfer::failed, this, [this] { noteEnd(true); });
+}
+
+StatusStrip::Plc StatusStrip::plc() const
+{
+    if (m_percent >= 0)
+        return PlcSending;
+    if (!m_isKnown)
+        return PlcUnknown;
+    if (!m_devices.plcReachable)
+        return PlcAway;
+    return m_hasFailed ? PlcFailed : PlcReady;
+}
+
+StatusStrip::Storage StatusStrip::storageOf(qint64 freeBytes)
+{
+    if (freeBytes < 0)
+        return StorageUnknown;
+    if (freeBytes < kFullBytes)
+        return StorageFull;
+    return freeBytes < kLowBytes ? StorageLow : StorageAmple;
+}
+
+void StatusStrip::showDevices(const DeviceState &state)
+{
+    m_devices = state;
+    m_isKnown = state.isKnown;
+    showAll();
+}
+
+void StatusStrip::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        showAll();
+    QWidget::changeEvent(event);
+}
+
+void StatusStrip::noteProgress(int percent)
+{
+    m_percent = percent;
+    m_hasFailed = false;
+    showPlc();
+}
+
+void StatusStrip::noteEnd(bool failed)
+{
+    m_percent = -1;
+    m_hasFailed = failed;
+    showPlc();
+}
+
+void StatusStrip::showAll()
+{
+    showPlc();
+    showStick();
+    showStorage();
+}
+
+QString StatusStrip::named(const QString &name, const QString &word) const
+{
+    return m_roomy ? name + QLatin1Char(' ') + word : word;
+}
+
+void StatusStrip::showPlc()
+{
+    const QString name = tr("PLC");
+    switch (plc()) {
+    case PlcUnknown:
+        return m_plc->set(named(name, dash()), StatusItem::Plain, tr("PLC: not known"));
+    case PlcReady:
+        return m_plc->set(named(name, tr("ready")), StatusItem::Calm, tr("PLC: ready"));
+    case PlcAway:
+        return m_plc->set(named(name, tr("away")), StatusItem::Alarm, tr("PLC: does not answer"));
+    case PlcSending:
+        return m_plc->set(named(name, tr("%1 %").arg(m_percent)), StatusItem::Caution,
+                          tr("PLC: receives a program"));
+    case PlcFailed:
+        return m_plc->set(named(name, tr("failed")), StatusItem::Alarm,
+                          tr("PLC: the last download failed"));
+    }
+}
+
+void StatusStrip::showStick()
+{
+    const QString name = tr("Stick");
+    if (!m_isKnown)
+        return m_stick->set(named(name, dash()), StatusItem::Plain, tr("Stick: not known"));
+    if (m_devices.stickIn)
+        return m_stick->set(named(name, tr("in")), StatusItem::Calm, tr("Stick: in"));
+    m_stick->set(named(name, tr("out")), StatusItem::Plain, tr("Stick: out"));
+}
+
+void StatusStrip::showStorage()
+{
+    const qint64 megabytes = m_devices.freeBytes / kMegabyte;
+    const QString room = megabytes < 1000 ? tr("%1 MB").arg(megabytes)
+                                          : tr("%1 GB").arg(double(megabytes) / 1024, 0, 'f',
+                                                            megabytes < 100 * 1024 ? 1 : 0);
+    const QString name = tr("Storage");
+    switch (storage()) {
+    case StorageUnknown:
+        return m_storage->set(named(name, dash()), StatusItem::Plain, tr("Storage: not known"));
+    case StorageAmple:
+        return m_storage->set(named(name, room), StatusItem::Calm,
+                              tr("Storage: %1 free").arg(room));
+    case StorageLow:
+        return m_storage->set(named(name, QLatin1String("! ") + room), StatusItem::Caution,
+                              tr("Storage: only %1 free").arg(room));
+    case StorageFull:
+        return m_storage->set(named(name, tr("full")), StatusItem::Alarm, tr("Storage: full"));
+    }
+}
+
+// The clock of a panel may be set at any moment: each second is looked up, none is counted.
+void StatusStrip::tick()
+{
+    const QTime now = QTime::currentTime();
+    m_clock->setText(now.toString(QLatin1String(m_roomy ? "HH:mm:ss" : "HH:mm")));
+    m_clockTimer.start(kSecondMs - now.msec() % kSecondMs);
+}

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef STATUSSTRIP_H
+#define STATUSSTRIP_H
+
+#include "devicewatch.h"
+#include "glyphs.h"
+
+#include <QLabel>
+#include <QTimer>
+
+class PlcTransfer;
+
+/// A drawing and a word beside it: the state of one thing.
+class StatusItem : public QLabel
+{
+    Q_OBJECT
+
+public:
+    enum Tone { Calm, Plain, Caution, Alarm };
+
+    explicit StatusItem(Glyphs::Glyph glyph, QWidget *parent = nullptr);
+
+    /// \a meaning says it in full, for those who hear the screen.
+    void set(const QString &word, Tone tone, const QString &meaning);
+    Tone tone() const { return m_tone; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const Glyphs::Glyph m_glyph;
+    Tone m_tone = Plain;
+};
+
+/// The state of the PLC, of the stick and of the storage, and the clock, in one line.
+///
+/// Each state is told by a word and by a colour. What is not known is a dash.
+class StatusStrip : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum Plc { PlcUnknown, PlcReady, PlcAway, PlcSending, PlcFailed };
+    enum Storage { StorageUnknown, StorageAmple, StorageLow, StorageFull };
+
+    /// Where there is room, a \a roomy one names the things, and its clock shows seconds.
+    explicit StatusStrip(bool roomy, QWidget *parent = nullptr);
+
+    /// Shows how that transfer goes. It must outlive the strip or be disconnected.
+    void follow(const PlcTransfer *transfer);
+
+    Plc plc() const;
+    Storage storage() const { return storageOf(m_devices.freeBytes); }
+    /// Low when the import manager could no longer fill the program directory, full when no
+    /// program of a usual size can be stored.
+    static Storage storageOf(qint64 freeBytes);
+
+public Q_SLOTS:
+    void showDevices(const DeviceState &state);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void noteProgress(int percent);
+    void noteEnd(bool failed);
+    void showAll();
+    void showPlc();
+    void showStick();
+    void showStorage();
+    void tick();
+    QString named(const QString &name, const QString &word) const;
+
+    const bool m_roomy;
+    DeviceState m_devices;
+    bool m_isKnown = false;
+    int m_percent = -1;
+    bool m_hasFailed = false;
+    StatusItem *m_plc;
+    StatusItem *m_stick;
+    StatusItem *m_storage;
+    QLabel *m_clock;
+    QTimer m_clockTimer;
+};
+
+#endif // STATUSSTRIP_H

@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "plctransfer.h"
+#include "statusstrip.h"
+
+#include <QDir>
+#include <QHBoxLayout>
+#include <QTime>
+
+class TestStatusStrip : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingIsClaimedBeforeTheFirstLook();
+    void plcComesAndGoes();
+    void transferIsShown();
+    void failedTransferStaysToBeSeen();
+    void stickComesAndGoes();
+    void storage_data();
+    void storage();
+    void clockTicks();
+    void wordsFollowTheLanguage();
+    void thingsAreNamedWhereThereIsRoom();
+    void wordsKeepToTheirPlace();
+
+private:
+    static DeviceState devices(bool plc, bool stick, qint64 freeBytes);
+    static StatusItem *item(const StatusStrip &strip, const char *name);
+};
+
+DeviceState TestStatusStrip::devices(bool plc, bool stick, qint64 freeBytes)
+{
+    DeviceState state;
+    state.isKnown = true;
+    state.plcReachable = plc;
+    state.stickIn = stick;
+    state.freeBytes = freeBytes;
+    return state;
+}
+
+StatusItem *TestStatusStrip::item(const StatusStrip &strip, const char *name)
+{
+    return strip.findChild<StatusItem *>(name);
+}
+
+void TestStatusStrip::nothingIsClaimedBeforeTheFirstLook()
+{
+    StatusStrip strip(false);
+    for (const char *name : {"plcState", "stickState", "storageState"}) {
+        QCOMPARE(item(strip, name)->text(), QString::fromUtf8("\u2013"));
+        QCOMPARE(item(strip, name)->tone(), StatusItem::Plain);
+        QVERIFY(item(strip, name)->accessibleName().endsWith("not known"));
+    }
+    QCOMPARE(strip.plc(), StatusStrip::PlcUnknown);
+    QCOMPARE(strip.storage(), StatusStrip::StorageUnknown);
+}
+
+void TestStatusStrip::plcComesAndGoes()
+{
+    StatusStrip strip(false);
+    strip.showDevices(devices(true, false, 0));
+    QCOMPARE(item(strip, "plcState")->text(), QString("ready"));
+    QCOMPARE(item(strip, "plcState")->tone(), StatusItem::Calm);
+    strip.showDevices(devices(false, false, 0));
+    QCOMPARE(item(strip, "plcState")->text(), QString("away"));
+    QCOMPARE(item(strip, "plcState")->tone(), StatusItem::Alarm);
+    QCOMPARE(strip.plc(), StatusStrip::PlcAway);
+    strip.showDevices(DeviceState());
+    QCOMPARE(strip.plc(), StatusStrip::PlcUnknown);
+}
+
+void TestStatusStrip::transferIsShown()
+{
+    const QString plc = home() + "/plc";
+    QDir().mkpath(plc);
+    writeFile(programDir() + "/a.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
+    PlcTransfer transfer(plc);
+    StatusStrip strip(false);
+    strip.showDevices(devices(true, false, 0));
+    strip.follow(&transfer);
+    QStringList words;
+    bool alwaysSending = true;
+    connect(&transfer, &PlcTransfer::progress, this, [&] {
+        words.append(item(strip, "plcState")->text());
+        alwaysSending = alwaysSending && strip.plc() == StatusStrip::PlcSending;
+    });
+    transfer.start(programDir() + "/a.cnc");
+    QTRY_VERIFY(!words.isEmpty() && !transfer.isRunning());
+    QVERIFY(alwaysSending);
+    QVERIFY2(words.contains("50 %"), qPrintable(words.join(',')));
+    QCOMPARE(item(strip, "plcState")->text(), QString("ready"));
+}
+
+void TestStatusStrip::failedTransferStaysToBeSeen()
+{
+    const QString plc = home() + "/plc";
+    QDir().mkpath(plc);
+    PlcTransfer transfer(plc);
+    StatusStrip strip(false);
+    strip.follow(&transfer);
+    strip.showDevices(devices(true, false, 0));
+    transfer.start(programDir() + "/none.cnc");
+    QTRY_COMPARE(strip.plc(), StatusStrip::PlcFailed);
+    QCOMPARE(item(strip, "plcState")->text(), QString("failed"));
+    QCOMPARE(item(strip, "plcState")->tone(), StatusItem::Alarm);
+    strip.showDevices(devices(true, true, 0));
+    QCOMPARE(strip.plc(), StatusStrip::PlcFailed);
+    writeFile(programDir() + "/a.cnc", "G01\n");
+    transfer.start(programDir() + "/a.cnc");
+    QTRY_COMPARE(strip.plc(), StatusStrip::PlcReady);
+}
+
+void TestStatusStrip::stickComesAndGoes()
+{
+    StatusStrip strip(false);
+    strip.showDevices(devices(true, true, 0));
+    QCOMPARE(item(strip, "stickState")->text(), QString("in"));
+    QCOMPARE(item(strip, "stickState")->tone(), StatusItem::Calm);
+    strip.showDevices(devices(true, false, 0));
+    QCOMPARE(item(strip, "stickState")->text(), QString("out"));
+    QCOMPARE(item(strip, "stickState")->tone(), StatusItem::Plain);
+}
+
+void TestStatusStrip::storage_data()
+{
+    const qint64 mb = 1024 * 1024;
+    QTest::addColumn<qint64>("freeBytes");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<int>("tone");
+    QTest::newRow("nothing left") << qint64(0) << "full" << int(StatusItem::Alarm);
+    QTest::newRow("too little for a program") << mb - 1 << "full" << int(StatusItem::Alarm);
+    QTest::newRow("little") << mb << "! 1 MB" << int(StatusItem::Caution);
+    QTest::newRow("less than the manager fills")
+        << 30 * mb - 1 << "! 29 MB" << int(StatusItem::Caution);
+    QTest::newRow("enough") << 30 * mb << "30 MB" << int(StatusItem::Calm);
+    QTest::newRow("much") << 1536 * mb << "1.5 GB" << int(StatusItem::Calm);
+    QTest::newRow("very much") << 300 * 1024 * mb << "300 GB" << int(StatusItem::Calm);
+}
+
+void TestStatusStrip::storage()
+{
+    QFETCH(qint64, freeBytes);
+    StatusStrip strip(false);
+    strip.showDevices(devices(true, false, freeBytes));
+    QTEST(item(strip, "storageState")->text(), "word");
+    QTEST(int(item(strip, "storageState")->tone()), "tone");
+}
+
+void TestStatusStrip::clockTicks()
+{
+    StatusStrip strip(true);
+    StatusStrip small(false);
+    QLabel *clock = strip.findChild<QLabel *>("clock");
+    const QTime first = QTime::fromString(clock->text(), "HH:mm:ss");
+    QVERIFY(first.isValid());
+    QTRY_VERIFY(QTime::fromString(clock->text(), "HH:mm:ss") != first);
+    QVERIFY(qAbs(QTime::currentTime().secsTo(QTime::fromString(clock->text(), "HH:mm:ss"))) <= 1);
+    QVERIFY(QTime::fromString(small.findChild<QLabel *>("clock")->text(), "HH:mm").isValid());
+}
+
+void TestStatusStrip::wordsFollowTheLanguage()
+{
+    StatusStrip strip(false);
+    strip.showDevices(devices(true, true, 0));
+    {
+        const TestCompat::MarkingTranslator marks("StatusStrip");
+        QTRY_COMPARE(item(strip, "plcState")->text(), QString("ready*"));
+        QCOMPARE(item(strip, "stickState")->text(), QString("in*"));
+        QCOMPARE(item(strip, "storageState")->text(), QString("full*"));
+    }
+    QTRY_COMPARE(item(strip, "plcState")->text(), QString("ready"));
+}
+
+void TestStatusStrip::thingsAreNamedWhereThereIsRoom()
+{
+    StatusStrip strip(true);
+    QCOMPARE(item(strip, "plcState")->text(), QString::fromUtf8("PLC \u2013"));
+    strip.showDevices(devices(true, false, 40 * 1024 * 1024));
+    QCOMPARE(item(strip, "plcState")->text(), QString("PLC ready"));
+    QCOMPARE(item(strip, "stickState")->text(), QString("Stick out"));
+    QCOMPARE(item(strip, "storageState")->text(), QString("Storage 40 MB"));
+}
+
+// A word that grows must not push another out of the strip.
+void TestStatusStrip::wordsKeepToTheirPlace()
+{
+    QWidget window;
+    QHBoxLayout *row = new QHBoxLayout(&window);
+    StatusStrip *strip = new StatusStrip(false);
+    row->addStretch();
+    row->addWidget(strip);
+    window.resize(400, 40);
+    window.show();
+    strip->showDevices(devices(false, false, 3 * 1024 * 1024));
+    QCoreApplication::processEvents();
+    const QList<QLabel *> labels = strip->findChildren<QLabel *>();
+    QCOMPARE(labels.size(), 4);
+    for (QLabel *label : labels) {
+        QVERIFY(strip->rect().contains(label->geometry()));
+        QVERIFY(label->fontMetrics().horizontalAdvance(label->text())
+                <= label->contentsRect().width());
+    }
+}
+
+FILARIX_TEST_MAIN(TestStatusStrip)
+#include "tst_statusstrip.moc"
