@@ -3,6 +3,7 @@
 
 #include "languagepicker.h"
 
+#include "glyphs.h"
 #include "look.h"
 
 #include <QGridLayout>
@@ -38,4 +39,15 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
     cancel->setMinimumSize(kKey);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     grid->addWidget(cancel, languages.size() / kColumns, languages.size() % kColumns);
+
+    const bool isDark = Look::style() == Look::Dark;
+    QPushButton *look = new QPushButton(Glyphs::icon(Glyphs::Style, Glyphs::OnPaper),
+                                        isDark ? tr("Light colours") : tr("Dark colours"));
+    look->setObjectName(QLatin1String("look"));
+    look->setMinimumSize(kKey);
+    connect(look, &QPushButton::clicked, this, [this] {
+        reject();
+        Q_EMIT lookWanted();
+    });
+    grid->addWidget(look, grid->rowCount(), 0, 1, kColumns);
 }

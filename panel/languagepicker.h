@@ -8,7 +8,7 @@
 #include "languages.h"
 
 /// Asks for a language: a key each, with the language's name in itself, so that whoever cannot
-/// read the others finds the own one.
+/// read the others finds the own one. Another key asks for the other look, light or dark.
 class LanguagePicker : public Dialog
 {
     Q_OBJECT
@@ -19,6 +19,10 @@ public:
 
     /// The code of the chosen language; empty until a key was pressed.
     QString code() const { return m_code; }
+
+Q_SIGNALS:
+    /// The operator wants the colours that are not in use; the dialog is closing.
+    void lookWanted();
 
 private:
     QString m_code;

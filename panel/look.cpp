@@ -145,6 +145,16 @@ QString Look::name(Style style)
     return style == Dark ? QLatin1String("dark") : QLatin1String("light");
 }
 
+QStringList Look::names()
+{
+    return {name(Light), name(Dark)};
+}
+
+QString Look::settingsKey()
+{
+    return QLatin1String("look");
+}
+
 bool Look::read(const QString &text, Style *style)
 {
     for (Style known : {Light, Dark}) {

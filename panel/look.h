@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QPalette>
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -39,6 +40,10 @@ Style style();
 void use(Style style);
 /// "light" or "dark".
 QString name(Style style);
+/// All that name() gives.
+QStringList names();
+/// Under which the operator's choice is kept in the Settings.
+QString settingsKey();
 /// Reads what name() gives; false, and \a style as it was, for anything else.
 bool read(const QString &name, Style *style);
 

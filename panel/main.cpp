@@ -116,11 +116,15 @@ int runPanel(const Options &options)
     if (stick.isSimulated() && QDir().mkpath(stick.folder()))
         Samples::fillStick(stick.folder());
 
-    setUpLook(options.look);
     const QString ownDir = QDir::home().filePath(QLatin1String("hmi"));
     // The pictures of a tour are the same wherever they are made.
     const bool isTour = !options.tourDir.isEmpty();
     Settings settings(isTour ? QString() : ownDir + QLatin1String("/panel.ini"));
+    Look::Style style = Look::Light;
+    Look::read(options.look.isEmpty() ? settings.choice(Look::settingsKey(), Look::names())
+                                      : options.look,
+               &style);
+    setUpLook(style);
     Languages languages(translationFolders(), &settings);
     const QString wanted = !options.language.isEmpty() ? options.language
                            : isTour                    ? languages.current()

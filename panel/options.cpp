@@ -3,6 +3,8 @@
 
 #include "options.h"
 
+#include "look.h"
+
 #include "languages.h"
 
 #include <QCommandLineParser>
@@ -72,8 +74,9 @@ Options Options::parse(const QStringList &arguments)
         QLatin1String("The panel has keys and no touch screen: no on-screen keypad opens."));
     const QCommandLineOption look(
         QLatin1String("look"),
-        QLatin1String("Colours of the panel: light, or dark for a dim hall. Without it: light."),
-        QLatin1String("style"), QLatin1String("light"));
+        QLatin1String("Colours of the panel: light, or dark for a dim hall. Without it: what the "
+                      "operator has chosen, at first light."),
+        QLatin1String("style"));
     const QCommandLineOption programs(
         QLatin1String("programs"),
         QLatin1String("Program directory. It is always named cnc: for another name DIR/cnc is "
@@ -130,7 +133,8 @@ Options Options::parse(const QStringList &arguments)
         return refusal(QString::fromLatin1("The size \"%1\" is not of the form 800x480, or below "
                                            "480x272.")
                            .arg(parser.value(size)));
-    if (!Look::read(parser.value(look), &options.look))
+    Look::Style style = Look::Light;
+    if (parser.isSet(look) && !Look::read(parser.value(look), &style))
         return refusal(QString::fromLatin1("The look \"%1\" is neither light nor dark.")
                            .arg(parser.value(look)));
     options.language = parser.value(language);
@@ -143,6 +147,7 @@ Options Options::parse(const QStringList &arguments)
                 QString::fromLatin1("--%1 needs a directory.").arg(folder.names().constFirst()));
     }
 
+    options.look = parser.value(look);
     options.touch = !parser.isSet(noTouch);
     if (parser.isSet(programs)) {
         options.programDir = absolutePath(parser.value(programs));

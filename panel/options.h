@@ -4,8 +4,6 @@
 #ifndef OPTIONS_H
 #define OPTIONS_H
 
-#include "look.h"
-
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -27,7 +25,6 @@ struct Options
     /// Surface in pixels as the operator sees it; invalid when it was not given.
     QSize size;
     bool touch = true;
-    Look::Style look = Look::Light;
     /// Absolute path of the program directory, whose last part is always "cnc"; empty for the
     /// one in the user's home.
     QString programDir;
@@ -37,6 +34,8 @@ struct Options
     QString stickDir;
     /// Code of the language to speak; empty for the operator's choice.
     QString language;
+    /// "light" or "dark"; empty for the operator's choice.
+    QString look;
     /// Absolute path of the folder for pictures; empty when no tour is wanted.
     QString tourDir;
 

@@ -29,7 +29,7 @@ const int kTallFrom = 400;
 const int kTabWidth = 74;
 // Narrower ones have no room for the tabs side by side.
 const int kTabsFrom = 400;
-const int kMenuTabWidth = 88;
+const int kMenuTabWidth = 76;
 const int kMessagePixels = 12;
 const int kStatusMs = 2000;
 
@@ -203,10 +203,18 @@ void PanelWindow::chooseLanguage()
     if (m_menu)
         m_menu->hide();
     LanguagePicker picker(m_languages->current());
+    connect(&picker, &LanguagePicker::lookWanted, this, &PanelWindow::changeLook);
     if (picker.exec() != QDialog::Accepted)
         return;
     if (!m_languages->choose(picker.code()))
         tell(tr("The translation is not installed."), PanelScreen::Warning);
+}
+
+void PanelWindow::changeLook()
+{
+    Look::use(Look::style() == Look::Dark ? Look::Light : Look::Dark);
+    if (m_settings)
+        m_settings->setChoice(Look::settingsKey(), Look::name(Look::style()));
 }
 
 void PanelWindow::setSettings(Settings *settings)

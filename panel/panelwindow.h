@@ -88,6 +88,7 @@ private:
     void addTab(PanelKey *tab);
     void toggleMenu();
     void chooseLanguage();
+    void changeLook();
     void tellTrouble();
     void showTitle();
     void showInFull();

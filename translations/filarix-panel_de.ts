@@ -187,6 +187,14 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Light colours</source>
+        <translation>Helle Farben</translation>
+    </message>
+    <message>
+        <source>Dark colours</source>
+        <translation>Dunkle Farben</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -383,6 +391,105 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Die Einstellungen lassen sich nicht in %1 speichern. Was Sie wählen, gilt bis zum Programmende.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusStrip</name>
+    <message>
+        <source>PLC: not known</source>
+        <translation>SPS: unbekannt</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>PLC: ready</source>
+        <translation>SPS: bereit</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>PLC: does not answer</source>
+        <translation>SPS: antwortet nicht</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>PLC: receives a program</source>
+        <translation>SPS: empfängt ein Programm</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>PLC: the last download failed</source>
+        <translation>SPS: die letzte Übertragung ist gescheitert</translation>
+    </message>
+    <message>
+        <source>Stick: not known</source>
+        <translation>Stick: unbekannt</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>steckt</translation>
+    </message>
+    <message>
+        <source>Stick: in</source>
+        <translation>Stick: steckt</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>Stick: fehlt</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>Storage: not known</source>
+        <translation>Speicher: unbekannt</translation>
+    </message>
+    <message>
+        <source>Storage: %1 free</source>
+        <translation>Speicher: %1 frei</translation>
+    </message>
+    <message>
+        <source>Storage: only %1 free</source>
+        <translation>Speicher: nur %1 frei</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>voll</translation>
+    </message>
+    <message>
+        <source>Storage: full</source>
+        <translation>Speicher: voll</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>SPS</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Stick</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Speicher</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,14 @@
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>Light colours</source>
+        <translation>Colori chiari</translation>
+    </message>
+    <message>
+        <source>Dark colours</source>
+        <translation>Colori scuri</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -383,6 +391,105 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Le impostazioni non si possono salvare in %1. Le scelte valgono fino alla chiusura del programma.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusStrip</name>
+    <message>
+        <source>PLC: not known</source>
+        <translation>PLC: sconosciuto</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>pronto</translation>
+    </message>
+    <message>
+        <source>PLC: ready</source>
+        <translation>PLC: pronto</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>assente</translation>
+    </message>
+    <message>
+        <source>PLC: does not answer</source>
+        <translation>PLC: non risponde</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>PLC: receives a program</source>
+        <translation>PLC: riceve un programma</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>errore</translation>
+    </message>
+    <message>
+        <source>PLC: the last download failed</source>
+        <translation>PLC: l&apos;ultimo trasferimento è fallito</translation>
+    </message>
+    <message>
+        <source>Stick: not known</source>
+        <translation>Chiavetta: sconosciuta</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>inserita</translation>
+    </message>
+    <message>
+        <source>Stick: in</source>
+        <translation>Chiavetta: inserita</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>assente</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>Chiavetta: assente</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>Storage: not known</source>
+        <translation>Memoria: sconosciuta</translation>
+    </message>
+    <message>
+        <source>Storage: %1 free</source>
+        <translation>Memoria: %1 liberi</translation>
+    </message>
+    <message>
+        <source>Storage: only %1 free</source>
+        <translation>Memoria: solo %1 liberi</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>piena</translation>
+    </message>
+    <message>
+        <source>Storage: full</source>
+        <translation>Memoria: piena</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>PLC</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Chiavetta</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Memoria</translation>
     </message>
 </context>
 <context>

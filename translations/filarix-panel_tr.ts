@@ -187,6 +187,14 @@
         <source>Cancel</source>
         <translation>İptal</translation>
     </message>
+    <message>
+        <source>Light colours</source>
+        <translation>Açık renkler</translation>
+    </message>
+    <message>
+        <source>Dark colours</source>
+        <translation>Koyu renkler</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -383,6 +391,105 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Ayarlar %1 dosyasına kaydedilemiyor. Seçimleriniz program kapanana kadar geçerlidir.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusStrip</name>
+    <message>
+        <source>PLC: not known</source>
+        <translation>PLC: bilinmiyor</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>hazır</translation>
+    </message>
+    <message>
+        <source>PLC: ready</source>
+        <translation>PLC: hazır</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>yok</translation>
+    </message>
+    <message>
+        <source>PLC: does not answer</source>
+        <translation>PLC: yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>PLC: receives a program</source>
+        <translation>PLC: program alıyor</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>hata</translation>
+    </message>
+    <message>
+        <source>PLC: the last download failed</source>
+        <translation>PLC: son aktarım başarısız oldu</translation>
+    </message>
+    <message>
+        <source>Stick: not known</source>
+        <translation>Bellek: bilinmiyor</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>var</translation>
+    </message>
+    <message>
+        <source>Stick: in</source>
+        <translation>Bellek: takılı</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>yok</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>Bellek: takılı değil</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>Storage: not known</source>
+        <translation>Depolama: bilinmiyor</translation>
+    </message>
+    <message>
+        <source>Storage: %1 free</source>
+        <translation>Depolama: %1 boş</translation>
+    </message>
+    <message>
+        <source>Storage: only %1 free</source>
+        <translation>Depolama: yalnızca %1 boş</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>dolu</translation>
+    </message>
+    <message>
+        <source>Storage: full</source>
+        <translation>Depolama: dolu</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>PLC</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Bellek</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Depo</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,14 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>Light colours</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark colours</source>
+        <translation>深色</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -383,6 +391,105 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>设置无法保存到 %1。您的选择在程序结束前有效。</translation>
+    </message>
+</context>
+<context>
+    <name>StatusStrip</name>
+    <message>
+        <source>PLC: not known</source>
+        <translation>PLC:未知</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>PLC: ready</source>
+        <translation>PLC:就绪</translation>
+    </message>
+    <message>
+        <source>away</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>PLC: does not answer</source>
+        <translation>PLC:无应答</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>PLC: receives a program</source>
+        <translation>PLC:正在接收程序</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>PLC: the last download failed</source>
+        <translation>PLC:上次下载失败</translation>
+    </message>
+    <message>
+        <source>Stick: not known</source>
+        <translation>U盘:未知</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>已插入</translation>
+    </message>
+    <message>
+        <source>Stick: in</source>
+        <translation>U盘:已插入</translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation>未插入</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>U盘:未插入</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>Storage: not known</source>
+        <translation>存储:未知</translation>
+    </message>
+    <message>
+        <source>Storage: %1 free</source>
+        <translation>存储:剩余 %1</translation>
+    </message>
+    <message>
+        <source>Storage: only %1 free</source>
+        <translation>存储:仅剩 %1</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>已满</translation>
+    </message>
+    <message>
+        <source>Storage: full</source>
+        <translation>存储:已满</translation>
+    </message>
+    <message>
+        <source>PLC</source>
+        <translation>PLC</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>U盘</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>存储</translation>
     </message>
 </context>
 <context>

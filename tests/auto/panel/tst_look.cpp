@@ -67,6 +67,7 @@ void TestLook::namesAreRead()
     QVERIFY(!Look::read("Dark", &style));
     QVERIFY(!Look::read(QString(), &style));
     QCOMPARE(style, Look::Dark);
+    QCOMPARE(Look::names(), QStringList({"light", "dark"}));
     QCOMPARE(Look::name(Look::Light), QString("light"));
     QCOMPARE(Look::name(Look::Dark), QString("dark"));
 }

@@ -34,7 +34,7 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
     QCOMPARE(options.rotation, 0);
     QVERIFY(!options.size.isValid());
     QVERIFY(options.touch);
-    QCOMPARE(options.look, Look::Light);
+    QCOMPARE(options.look, QString());
     QCOMPARE(options.home(), QString());
     QCOMPARE(options.plcDir, QString());
     QCOMPARE(options.tourDir, QString());
@@ -51,7 +51,7 @@ void TestOptions::allOptionsAreRead()
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.size, QSize(480, 800));
     QVERIFY(!options.touch);
-    QCOMPARE(options.look, Look::Dark);
+    QCOMPARE(options.look, QString("dark"));
     QCOMPARE(options.programDir, QString("/srv/hmi/cnc"));
     QCOMPARE(options.plcDir, QString("/srv/plc"));
     QCOMPARE(options.stickDir, QString("/srv/stick"));

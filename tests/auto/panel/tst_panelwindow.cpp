@@ -3,15 +3,18 @@
 
 #include "filarixtest.h"
 #include "glyphs.h"
+#include "languages.h"
 #include "look.h"
 #include "messagebar.h"
 #include "modaldriver.h"
 #include "panelkey.h"
 #include "panelwindow.h"
+#include "settings.h"
 #include "statusstrip.h"
 
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
 
 class FakeScreen : public PanelScreen
@@ -45,6 +48,8 @@ private Q_SLOTS:
     void statusIsInViewOnEveryScreen_data();
     void statusIsInViewOnEveryScreen();
     void titleTellsInFullWhenTouched();
+    void lookIsChangedByTouchAndKept_data();
+    void lookIsChangedByTouchAndKept();
     void messagesAndProgressOfAScreenAreShown();
     void panelIsShadedWhileADialogWaits();
     void closingAsksEveryScreen();
@@ -226,6 +231,43 @@ void TestPanelWindow::titleTellsInFullWhenTouched()
     Q_EMIT screen->worked("on its way", 30);
     QTest::mouseClick(block, Qt::LeftButton);
     QCOMPARE(panel.messageBar()->text(), QString("on its way"));
+}
+
+void TestPanelWindow::lookIsChangedByTouchAndKept_data()
+{
+    touchTargets_data();
+}
+
+void TestPanelWindow::lookIsChangedByTouchAndKept()
+{
+    QFETCH(QSize, size);
+    const QString file = home() + "/panel.ini";
+    {
+        Settings settings(file);
+        Languages languages(QStringList(), &settings);
+        PanelWindow panel(size);
+        QList<FakeScreen *> screens;
+        addScreens(&panel, &screens);
+        panel.setLanguages(&languages);
+        panel.setSettings(&settings);
+        panel.show();
+        for (Look::Style style : {Look::Dark, Look::Light, Look::Dark}) {
+            if (PanelKey *menu = key(panel, "Menu"))
+                QTest::mouseClick(menu, Qt::LeftButton);
+            ModalDriver driver;
+            driver.then([](QWidget *dialog) {
+                QTest::mouseClick(dialog->findChild<QPushButton *>("look"), Qt::LeftButton);
+            });
+            PanelKey *languageKey = panel.findChild<PanelKey *>("languageKey");
+            QVERIFY(languageKey->isVisible());
+            QTest::mouseClick(languageKey, Qt::LeftButton);
+            QVERIFY2(driver.finished(), driver.report());
+            QCOMPARE(Look::style(), style);
+            QCOMPARE(panel.palette(), Look::palette());
+        }
+    }
+    Look::use(Look::Light);
+    QCOMPARE(Settings(file).choice(Look::settingsKey(), Look::names()), QString("dark"));
 }
 
 void TestPanelWindow::messagesAndProgressOfAScreenAreShown()
