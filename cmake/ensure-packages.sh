@@ -7,10 +7,11 @@
 # Installs those of the Debian packages that are missing, as root or through sudo, and says which.
 set -euo pipefail
 
+# One question for all of them: what asks each time is in the way of every start.
+installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
 missing=()
 for package in "$@"; do
-    status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
-    [ "$status" = installed ] || missing+=("$package")
+    [[ $'\n'$installed$'\n' == *$'\n'"installed $package"$'\n'* ]] || missing+=("$package")
 done
 [ ${#missing[@]} -gt 0 ] || exit 0
 
