@@ -131,7 +131,11 @@ void ImportManage::init()
         m_usbView->setRootIndex(m_usbModel->index(m_usbDir));
         m_usbView->QWidget::update();
     }
-    m_hmiView->setRootIndex(m_hmiModel->index(m_hmiDir));
+    const QModelIndex hmiRoot = m_hmiModel->index(m_hmiDir);
+    m_hmiView->setRootIndex(hmiRoot);
+    // Without a program directory the view stands at the top level, whose one entry is no program.
+    if (!hmiRoot.isValid())
+        m_hmiView->setRowHidden(0, true);
 
     QString status =
         tr("Used Space ") + inMebibytes(used) + tr("Left Space ") + inMebibytes(spaceLimit - used);

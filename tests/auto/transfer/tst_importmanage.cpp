@@ -258,7 +258,14 @@ void TestImportManage::missingProgramDirectoryIsNoError()
     QVERIFY(QDir().rmdir(home() + "/cnc"));
     manager.dialog.init();
     QCOMPARE(manager.status->text(), QString("Used Space 0M.Left Space 30M. Usb not found!"));
-    QVERIFY(!Manager::shown(manager.hmiView).contains("cnc"));
+    // The one entry of the top level is out of sight.
+    QCOMPARE(manager.hmiView->model()->rowCount(manager.hmiView->rootIndex()), 1);
+    QVERIFY(manager.hmiView->isRowHidden(0));
+    // The view shows programs again once there are any.
+    writeFile(programDir() + "/a.cnc", "G01");
+    manager.dialog.init();
+    QCOMPARE(Manager::shown(manager.hmiView), QStringList("a.cnc"));
+    QVERIFY(!manager.hmiView->isRowHidden(0));
 }
 
 void TestImportManage::markerDecidesOnTheStick_data()
