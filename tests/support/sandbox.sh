@@ -9,7 +9,8 @@
 # folder named by FILARIX_SANDBOX_WRITABLE, if any. A sandbox that cannot start is a failure.
 #
 # "/mnt/Storage" is a folder that the program may even remove. With FILARIX_SANDBOX_STICK_SIZE it is
-# a file system of that many bytes, with FILARIX_SANDBOX_STICK a read-only view of that folder.
+# a file system of that many bytes, with FILARIX_SANDBOX_STICK a read-only view of that folder. With
+# FILARIX_SANDBOX_HOME_SIZE the home is a file system of that many bytes.
 # FILARIX_SANDBOX_SCREEN, for example 480x272, is the size of the screen; without it there is
 # Qt's offscreen one.
 set -euo pipefail
@@ -52,6 +53,9 @@ if [ -n "${FILARIX_SANDBOX_STICK_SIZE:-}" ]; then
     args+=(--size "$FILARIX_SANDBOX_STICK_SIZE" --tmpfs /mnt/Storage)
 elif [ -n "${FILARIX_SANDBOX_STICK:-}" ]; then
     args+=(--ro-bind "$FILARIX_SANDBOX_STICK" /mnt/Storage)
+fi
+if [ -n "${FILARIX_SANDBOX_HOME_SIZE:-}" ]; then
+    args+=(--size "$FILARIX_SANDBOX_HOME_SIZE" --tmpfs /tmp/home)
 fi
 if [ -n "${FILARIX_SANDBOX_WRITABLE:-}" ]; then
     args+=(--bind "$FILARIX_SANDBOX_WRITABLE" "$FILARIX_SANDBOX_WRITABLE")
