@@ -29,14 +29,18 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
         key->setMinimumSize(kKey);
         key->setCheckable(true);
         key->setChecked(code == current);
+        key->setAutoDefault(false);
         connect(key, &QPushButton::clicked, this, [this, code] {
             m_code = code;
             accept();
         });
         grid->addWidget(key, i / kColumns, i % kColumns);
+        if (code == current)
+            key->setFocus();
     }
     QPushButton *cancel = new QPushButton(tr("Cancel"));
     cancel->setMinimumSize(kKey);
+    cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     grid->addWidget(cancel, languages.size() / kColumns, languages.size() % kColumns);
 
