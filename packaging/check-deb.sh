@@ -102,6 +102,9 @@ manual=$(inside zcat /usr/share/man/man1/filarix-panel.1.gz | tr -d '\134') # it
 for option in $(inside filarix-panel --help | grep -o '^ .*' | grep -oE '(^|[ ,])--[a-z-]+'); do
     [[ $manual == *"$option"* ]] || fail "the manual page lacks $option"
 done
+inside filarix-panel --tour /root/tour --language de --programs /root/desk >/dev/null 2>"$scratch/tour.log" \
+    || fail "filarix-panel --tour --language de"
+grep -q 'for de is not installed' "$scratch/tour.log" || fail "German without libfilarixmodule-l10n"
 for way in cmake pkgconfig qmake; do
     inside "/root/$way/host" || fail "the $way host"
 done
@@ -109,6 +112,17 @@ done
 step "all packages, and none"
 mapfile -t names < <(sed -n 's/^Package: //p' "$debian/packages/Packages" | grep -v -- -dbgsym | sort -u)
 apt_install --no-install-recommends "${names[@]}"
+for language in de it tr zh_CN; do
+    inside test -e "/usr/share/qt5/translations/filarix_$language.qm" || fail "no filarix_$language.qm"
+done
+rm -r "$debian/root/tour"
+inside filarix-panel --tour /root/tour --language de --programs /root/desk >"$scratch/tour.log" 2>&1 \
+    || { tail -n 20 "$scratch/tour.log" >&2; fail "filarix-panel --tour --language de"; }
+if grep 'not installed' "$scratch/tour.log"; then
+    fail "the panel program does not find its translations"
+fi
+missing=$(inside ldd "$libdir/qt5/plugins/designer/libfilarixmoduledesigner.so" | grep -E 'not found|Filarix|HMIDevice' || true)
+[ -z "$missing" ] || fail "the Designer plugin asks for: $missing"
 inside apt-get -qq -o Dpkg::Use-Pty=0 purge --yes "${names[@]}" >"$scratch/apt.log" 2>&1 \
     || { tail -n 20 "$scratch/apt.log" >&2; fail "purge"; }
 left=$(find "$debian"/{etc,opt,srv,usr} -iname '*filarix*' -o -iname '*hmidevice*')
