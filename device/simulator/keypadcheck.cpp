@@ -25,6 +25,16 @@ bool isBetween(double value, double bottom, double top)
     return value >= bottom && value <= top;
 }
 
+/// A number on a keypad has a point, in every country; a validator of numbers reads the point of
+/// its own, and some take ours for the sign between thousands.
+QString asTheValidatorReads(const QString &text, const QValidator *validator)
+{
+    const bool isOfNumbers = qobject_cast<const QIntValidator *>(validator)
+                             || qobject_cast<const QDoubleValidator *>(validator);
+    QString read = text;
+    return isOfNumbers ? read.replace(QLatin1Char('.'), validator->locale().decimalPoint()) : read;
+}
+
 } // namespace
 
 QString KeypadCheck::refusal(const QValidator *validator, const QString &text)
@@ -33,7 +43,7 @@ QString KeypadCheck::refusal(const QValidator *validator, const QString &text)
         return QString();
 
     // A validator may correct its arguments. The operator's text stays as typed.
-    QString checked = text;
+    QString checked = asTheValidatorReads(text, validator);
     int cursor = checked.length();
     const QValidator::State state = validator->validate(checked, cursor);
     if (state == QValidator::Acceptable)

@@ -33,6 +33,8 @@ private Q_SLOTS:
 
     void validatorDecidesAndAWordSaysWhy_data();
     void validatorDecidesAndAWordSaysWhy();
+    void pointIsAPointInEveryCountry_data();
+    void pointIsAPointInEveryCountry();
     void addressIsTyped();
     void validatorSeesLettersToo();
     void withoutValidatorOnlyNumbersAreTyped();
@@ -250,6 +252,49 @@ void TestNumericKeypad::validatorDecidesAndAWordSaysWhy()
         QCOMPARE(value(pad())->text(), text);
         QCOMPARE(line(pad(), "reason"), reason);
         QCOMPARE(key(pad(), "ok")->isEnabled(), reason.isEmpty());
+    });
+}
+
+void TestNumericKeypad::pointIsAPointInEveryCountry_data()
+{
+    QTest::addColumn<QLocale>("country");
+    QTest::newRow("none") << QLocale::c();
+    QTest::newRow("China") << QLocale(QLocale::Chinese);
+    QTest::newRow("France") << QLocale(QLocale::French);
+    QTest::newRow("Germany") << QLocale(QLocale::German);
+    QTest::newRow("Turkey") << QLocale(QLocale::Turkish);
+    QTest::newRow("United States") << QLocale(QLocale::English, QLocale::UnitedStates);
+}
+
+void TestNumericKeypad::pointIsAPointInEveryCountry()
+{
+    QFETCH(QLocale, country);
+    Caller caller;
+    QDoubleValidator length(0, 10, 2, nullptr);
+    length.setLocale(country);
+    pad()->setObject(&caller);
+    pad()->setValidator(&length);
+    const int result = runPad([] {
+        click(pad(), "1 . 2 3 4");
+        QCOMPARE(line(pad(), "reason"), QString("Too many decimals"));
+        click(pad(), "clear 1 . 2");
+        QCOMPARE(line(pad(), "reason"), QString(""));
+        click(pad(), "clear");
+        QTest::keyClicks(value(pad()), QLatin1String("2,5"));
+        QCOMPARE(line(pad(), "reason"), QString(""));
+        click(pad(), "ok");
+    });
+    QCOMPARE(result, 1);
+    QCOMPARE(caller.text(), QString("2.5"));
+
+    QIntValidator count(1, 5000, nullptr);
+    count.setLocale(country);
+    pad()->setValidator(&count);
+    runPad([] {
+        click(pad(), "1 . 2 3 4");
+        QCOMPARE(line(pad(), "reason"), QString("Not a whole number"));
+        click(pad(), "clear 1 2 3 4");
+        QVERIFY(key(pad(), "ok")->isEnabled());
     });
 }
 
