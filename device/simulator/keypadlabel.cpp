@@ -9,6 +9,7 @@
 namespace {
 
 const int smallestText = 9;
+const int smallestLine = 11;
 
 QFont sized(int pixels, bool bold)
 {
@@ -67,7 +68,11 @@ void KeypadLabel::paintEvent(QPaintEvent *)
 
 void KeypadLabel::paintElided(QPainter *painter)
 {
-    painter->setFont(lineFont(height()));
+    // Smaller letters first: the end of a limit is as much of it as its beginning.
+    QFont font = lineFont(height());
+    while (font.pixelSize() > smallestLine && QFontMetrics(font).width(m_text) + 2 > width())
+        font.setPixelSize(font.pixelSize() - 1);
+    painter->setFont(font);
     const QString shown = painter->fontMetrics().elidedText(m_text, Qt::ElideRight, width());
     painter->drawText(rect(), m_alignment, shown);
 }

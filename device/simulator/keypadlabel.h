@@ -14,7 +14,8 @@ class KeypadLabel : public QWidget
     Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
-    /// What to do with a text that is too long: cut its end off, or break it into lines.
+    /// What to do with a text that is too long even in smaller letters: cut its end off, or break
+    /// it into lines.
     enum Overflow { Elide, Wrap };
 
     KeypadLabel(const QString &objectName, Overflow overflow, QWidget *parent);
