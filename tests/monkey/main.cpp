@@ -69,6 +69,11 @@ int main(int argc, char **argv)
     const int shape = int(plan.seed % (sizeof shapes / sizeof shapes[0]));
     if (!arguments.contains("--size"))
         arguments << "--size" << shapes[shape][0] << "--rotation" << shapes[shape][1];
+    const char *const languages[] = {"en", "de", "zh_CN", "it", "tr"};
+    if (!arguments.contains("--language"))
+        arguments << "--language" << languages[plan.seed % 5];
+    if (!arguments.contains("--look"))
+        arguments << "--look" << (plan.seed % 2 ? "light" : "dark");
     if (!arguments.contains("--stick"))
         arguments << "--stick"
                   << "/mnt/Storage.stick";
