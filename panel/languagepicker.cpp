@@ -49,6 +49,7 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
                                         isDark ? tr("Light colours") : tr("Dark colours"));
     look->setObjectName(QLatin1String("look"));
     look->setMinimumSize(kKey);
+    look->setAutoDefault(false);
     connect(look, &QPushButton::clicked, this, [this] {
         reject();
         Q_EMIT lookWanted();
