@@ -21,6 +21,8 @@
 namespace {
 
 const int kWidePanel = 800;
+const int kNarrowPanel = 400;
+const int kNarrowPixels = 12;
 const int kAroundRows = 64;
 
 struct Connection
@@ -74,6 +76,14 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     header->setSectionResizeMode(2, QHeaderView::Fixed);
     m_table->setColumnWidth(1, Look::kTouch);
     m_table->setColumnWidth(2, 2 * Look::kTouch);
+    // A narrow panel has room for the names and the addresses, in smaller letters.
+    if (QGuiApplication::primaryScreen()->availableSize().width() < kNarrowPanel) {
+        m_table->hideColumn(1);
+        m_table->hideColumn(2);
+        QFont font = m_table->font();
+        font.setPixelSize(kNarrowPixels);
+        m_table->setFont(font);
+    }
 
     PanelKey *editKey = new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey),
                                      [] { return tr("Edit the addresses"); });

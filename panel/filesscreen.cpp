@@ -11,17 +11,26 @@
 #include "pathpicker.h"
 #include "samples.h"
 #include "stick.h"
+#include "touchblock.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
 
 // What the import manager lets in altogether.
 const qint64 kProgramSpace = 31457280;
+const int kWideFrom = 400;
+const int kNarrowPixels = 12;
+
+bool isNarrow()
+{
+    return QGuiApplication::primaryScreen()->availableSize().width() < kWideFrom;
+}
 
 PanelKey *darkKey(Glyphs::Glyph glyph, const std::function<QString()> &text)
 {
@@ -50,6 +59,11 @@ FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
     m_grid->setContentsMargins(12, 6, 6, 6);
     m_grid->setRowStretch(m_grid->rowCount(), 1);
     m_grid->setColumnStretch(0, 1);
+    // Keys of one width, where that leaves the texts room.
+    if (!isNarrow()) {
+        m_grid->setColumnMinimumWidth(1, 2 * Look::kTouch);
+        m_grid->setColumnMinimumWidth(2, 2 * Look::kTouch);
+    }
     setLayout(m_grid);
 
     connect(m_plugKey, &PanelKey::clicked, this, &FilesScreen::plug);
@@ -77,17 +91,24 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     new LiveText(name, heading);
     QFont font = name->font();
     font.setBold(true);
+    if (isNarrow())
+        font.setPixelSize(kNarrowPixels);
     name->setFont(font);
     ElidedLabel *state = new ElidedLabel;
-    QVBoxLayout *texts = new QVBoxLayout;
+    // The end of a path may not fit; a touch tells it in full.
+    TouchBlock *block = new TouchBlock;
+    QVBoxLayout *texts = new QVBoxLayout(block);
+    texts->setContentsMargins(0, 0, 0, 0);
     texts->setSpacing(0);
     texts->addStretch();
     texts->addWidget(name);
     texts->addWidget(state);
     texts->addStretch();
-    m_grid->addLayout(texts, row, 0);
+    m_grid->addWidget(block, row, 0);
+    state->setObjectName(QLatin1String("fileState"));
+    connect(block, &TouchBlock::touched, this, [this, state] { Q_EMIT told(state->text(), Info); });
     for (int i = 0; i < keys.size(); ++i) {
-        keys.at(i)->setMinimumWidth(2 * Look::kTouch);
+        keys.at(i)->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         // A line with one key has it at the edge, under the last of two.
         m_grid->addWidget(keys.at(i), row, keys.size() == 1 ? 2 : 1 + i);
     }
@@ -153,7 +174,7 @@ void FilesScreen::showState()
     m_plugKey->setEnabled(!present);
     m_pullKey->setEnabled(present);
     const QString what =
-        m_stick->isSimulated() ? tr("simulated by %1").arg(m_stick->folder()) : Stick::mountPoint();
+        m_stick->isSimulated() ? tr("simulated: %1").arg(m_stick->folder()) : Stick::mountPoint();
     const int onStick = QDir(Stick::mountPoint()).entryList(QDir::Files).size();
     m_stickState->setText(present ? tr("In. Files: %1, ").arg(onStick) + what : tr("Out. ") + what);
 

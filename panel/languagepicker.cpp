@@ -7,12 +7,17 @@
 #include "look.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 
 namespace {
 
 const int kColumns = 2;
-const QSize kKey(180, Look::kTouch + 10);
+const int kKeyWidth = 180;
+const int kKeyHeight = Look::kTouch + 10;
+// The dialog's margins and the spaces between the keys.
+const int kAround = 40;
 
 } // namespace
 
@@ -21,12 +26,14 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
     setTitle(tr("Language"));
     QGridLayout *grid = new QGridLayout(this);
     grid->setSpacing(8);
+    const int room = QGuiApplication::primaryScreen()->availableSize().width() - kAround;
+    const QSize keySize(qMin(kKeyWidth, room / kColumns), kKeyHeight);
     const QList<Languages::Language> languages = Languages::all();
     for (int i = 0; i < languages.size(); ++i) {
         const QString code = languages.at(i).code;
         QPushButton *key = new QPushButton(languages.at(i).name);
         key->setObjectName(QLatin1String("language_") + code);
-        key->setMinimumSize(kKey);
+        key->setMinimumSize(keySize);
         key->setCheckable(true);
         key->setChecked(code == current);
         key->setAutoDefault(false);
@@ -39,7 +46,7 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
             key->setFocus();
     }
     QPushButton *cancel = new QPushButton(tr("Cancel"));
-    cancel->setMinimumSize(kKey);
+    cancel->setMinimumSize(keySize);
     cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     grid->addWidget(cancel, languages.size() / kColumns, languages.size() % kColumns);
@@ -48,7 +55,7 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
     QPushButton *look = new QPushButton(Glyphs::icon(Glyphs::Style, Glyphs::OnPaper),
                                         isDark ? tr("Light colours") : tr("Dark colours"));
     look->setObjectName(QLatin1String("look"));
-    look->setMinimumSize(kKey);
+    look->setMinimumSize(keySize);
     look->setAutoDefault(false);
     connect(look, &QPushButton::clicked, this, [this] {
         reject();

@@ -68,7 +68,7 @@ QString hex(QRgb color)
 
 QString stripSheet()
 {
-    return QString::fromLatin1("#strip { background: %1; }"
+    return QString::fromLatin1("#strip, #menu { background: %1; }"
                                "QLabel, ElidedLabel { color: %2; background: transparent; }"
                                "PanelKey { color: %2; background: %3; border: 0;"
                                "  border-radius: 6px; padding: 1px; }"

@@ -11,6 +11,7 @@
 #include "panelkey.h"
 #include "settings.h"
 #include "statusstrip.h"
+#include "touchblock.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -102,12 +103,13 @@ QWidget *PanelWindow::makeTopStrip()
     m_title->setObjectName(QLatin1String("title"));
     m_status->setObjectName(QLatin1String("status"));
 
-    QWidget *titleBlock = new QWidget;
+    TouchBlock *titleBlock = new TouchBlock;
     titleBlock->setObjectName(QLatin1String("titleBlock"));
     titleBlock->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    titleBlock->installEventFilter(this);
+    connect(titleBlock, &TouchBlock::touched, this, &PanelWindow::showInFull);
     QVBoxLayout *titles = new QVBoxLayout(titleBlock);
-    titles->setContentsMargins(6, 0, 6, 0);
+    const int side = m_shape == Small ? 3 : 6;
+    titles->setContentsMargins(side, 0, side, 0);
     titles->setSpacing(0);
     titles->addWidget(m_title);
     if (hasMenu()) {
@@ -243,7 +245,7 @@ void PanelWindow::addTab(PanelKey *tab)
 void PanelWindow::makeMenu()
 {
     m_menu = new QWidget(this);
-    m_menu->setObjectName(QLatin1String("strip"));
+    m_menu->setObjectName(QLatin1String("menu"));
     m_menu->setAttribute(Qt::WA_StyledBackground);
     Look::dress(m_menu, Look::Strip);
     m_tabs->setContentsMargins(4, 4, 4, 6);
@@ -302,18 +304,13 @@ void PanelWindow::tell(const QString &text, PanelScreen::Tone tone)
 
 void PanelWindow::showInFull()
 {
+    // Work that goes on keeps the message bar, and its key.
+    if (!currentScreen() || m_messages->isWorking())
+        return;
     QStringList lines{currentScreen()->title()};
     if (!m_message.isEmpty())
         lines.append(m_message);
     m_messages->tell(lines.join(QLatin1Char('\n')), PanelScreen::Info);
-}
-
-bool PanelWindow::eventFilter(QObject *watched, QEvent *event)
-{
-    // Work that goes on keeps the message bar, and its key.
-    if (event->type() == QEvent::MouseButtonRelease && currentScreen() && !m_messages->isWorking())
-        showInFull();
-    return QWidget::eventFilter(watched, event);
 }
 
 void PanelWindow::refreshStatus()

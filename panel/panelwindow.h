@@ -60,7 +60,6 @@ public:
     StatusStrip *status() const { return m_status; }
 
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     /// The operator closed the program and no screen objected.

@@ -16,7 +16,7 @@ namespace {
 const int kFontPixels = 12;
 const int kGlyph = 14;
 const int kGlyphGap = 3;
-const int kItemGap = 9;
+const int kItemGap = 7;
 const int kSecondMs = 1000;
 const qint64 kMegabyte = 1024 * 1024;
 const qint64 kLowBytes = 30 * kMegabyte;
@@ -191,7 +191,7 @@ void StatusStrip::showStorage()
     const qint64 megabytes = m_devices.freeBytes / kMegabyte;
     const QString room = megabytes < 1000 ? tr("%1 MB").arg(megabytes)
                                           : tr("%1 GB").arg(double(megabytes) / 1024, 0, 'f',
-                                                            megabytes < 100 * 1024 ? 1 : 0);
+                                                            megabytes < 10 * 1024 ? 1 : 0);
     const QString name = tr("Storage");
     switch (storage()) {
     case StorageUnknown:

@@ -21,6 +21,16 @@ namespace {
 
 const int kKeyColumns = 2;
 const int kKeysInALine = 9;
+// A panel narrower than a line of them.
+const int kNarrow = 400;
+const int kKeysInAShortLine = 5;
+
+int keyColumns(int width)
+{
+    if (width < kNarrow)
+        return kKeysInAShortLine;
+    return width < 760 ? kKeysInALine : kKeyColumns;
+}
 
 QIcon libraryIcon(const char *name)
 {
@@ -31,8 +41,7 @@ QIcon libraryIcon(const char *name)
 
 TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
                          QWidget *parent)
-    : ListScreen(surface, TaughtProgram::titleRow(),
-                 surface.width() < 760 ? kKeysInALine : kKeyColumns, parent)
+    : ListScreen(surface, TaughtProgram::titleRow(), keyColumns(surface.width()), parent)
     , m_folder(folder)
     , m_file(QDir(folder).filePath(QLatin1String("program.teach")))
     , m_machine(machine)

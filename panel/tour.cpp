@@ -29,8 +29,7 @@
 
 namespace {
 
-// Long enough for what a step started to be laid out and painted.
-const int kTickMs = 120;
+const int kMostPages = 8;
 
 void tap(QWidget *target)
 {
@@ -66,6 +65,20 @@ QToolButton *toolButton(const QWidget *among, const QString &text)
     return nullptr;
 }
 
+// Whether there was a bar to turn.
+bool turnBars(const QWidget *among)
+{
+    QList<QToolButton *> keys;
+    const QList<QToolButton *> buttons = among->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (says(button, QLatin1String("More")) && button->isVisible())
+            keys.append(button);
+    }
+    for (QToolButton *key : qAsConst(keys))
+        tap(key);
+    return !keys.isEmpty();
+}
+
 QWidget *topLevel(const char *className)
 {
     const QWidgetList topLevels = QApplication::topLevelWidgets();
@@ -81,7 +94,7 @@ QWidget *topLevel(const char *className)
 Tour::Tour(PanelWindow *panel, const QString &folder, QObject *parent)
     : QObject(parent), m_panel(panel), m_folder(folder)
 {
-    if (!QDir().mkpath(folder))
+    if (!folder.isEmpty() && !QDir().mkpath(folder))
         m_error = tr("The folder %1 cannot be made.").arg(folder);
     connect(&m_timer, &QTimer::timeout, this, &Tour::next);
 }
@@ -254,9 +267,10 @@ void Tour::visitLanguages()
     closeDialog();
 }
 
-void Tour::start()
+void Tour::start(int tickMs)
 {
-    m_timer.start(kTickMs);
+    // Long enough for what a step started to be laid out and painted.
+    m_timer.start(tickMs);
 }
 
 void Tour::then(const Step &step)
@@ -293,6 +307,11 @@ void Tour::press(const std::function<QWidget *()> &target)
 
 void Tour::pressTool(QWidget *among, const QString &text)
 {
+    // On the page of a divided bar on which it is.
+    int turns = 0;
+    waitUntil([among, text, turns]() mutable {
+        return toolButton(among, text) || ++turns > kMostPages || !turnBars(among);
+    });
     press([among, text] { return toolButton(among, text); });
 }
 
@@ -345,10 +364,7 @@ void Tour::pressCell(ListScreen *screen, int row, const char *className, int nth
 // A bar that the panel is wide enough for has no key to turn it.
 void Tour::turnBar(QWidget *window)
 {
-    then([window] {
-        if (QToolButton *more = toolButton(window, QLatin1String("More")))
-            tap(more);
-    });
+    then([window] { turnBars(window); });
 }
 
 void Tour::closeDialog()
@@ -382,6 +398,9 @@ void Tour::next()
 // The panel with whatever stands over it, as the operator sees it.
 void Tour::save(const QString &name)
 {
+    Q_EMIT arrived(name);
+    if (m_folder.isEmpty())
+        return;
     QPixmap picture = m_panel->grab();
     QPainter painter(&picture);
     const QPoint origin = m_panel->mapToGlobal(QPoint(0, 0));

@@ -28,7 +28,7 @@ class Tour : public QObject
     Q_OBJECT
 
 public:
-    /// Pictures go to \a folder, which is made if it is missing.
+    /// Pictures go to \a folder, which is made if it is missing. None are made for an empty one.
     Tour(PanelWindow *panel, const QString &folder, QObject *parent = nullptr);
 
     /// The stops at each screen, in the order of the calls.
@@ -40,11 +40,14 @@ public:
     void visitFilesScreen(FilesScreen *screen);
     void visitLanguages();
 
-    void start();
+    /// \a tickMs is the time that each step has.
+    void start(int tickMs = 120);
     /// What went wrong; empty when every step found what it touches and every picture was written.
     QString error() const { return m_error; }
 
 Q_SIGNALS:
+    /// What there is to see at the stop \a name is on the screen.
+    void arrived(const QString &name);
     void finished();
 
 private:

@@ -114,10 +114,6 @@
         <translation>Pfad wählen</translation>
     </message>
     <message>
-        <source>simulated by %1</source>
-        <translation>nachgestellt durch %1</translation>
-    </message>
-    <message>
         <source>In. Files: %1, </source>
         <translation>Steckt. Dateien: %1, </translation>
     </message>
@@ -144,6 +140,10 @@
     <message>
         <source>None picked yet</source>
         <translation>Noch keiner gewählt</translation>
+    </message>
+    <message>
+        <source>simulated: %1</source>
+        <translation>Ersatz: %1</translation>
     </message>
 </context>
 <context>

@@ -95,11 +95,11 @@
     </message>
     <message>
         <source>in</source>
-        <translation>inserita</translation>
+        <translation>sì</translation>
     </message>
     <message>
         <source>out</source>
-        <translation>assente</translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>The stick is in; all file names are safe.</source>
@@ -112,10 +112,6 @@
     <message>
         <source>Pick a path</source>
         <translation>Scegli un percorso</translation>
-    </message>
-    <message>
-        <source>simulated by %1</source>
-        <translation>simulata da %1</translation>
     </message>
     <message>
         <source>In. Files: %1, </source>
@@ -144,6 +140,10 @@
     <message>
         <source>None picked yet</source>
         <translation>Nessuno scelto</translation>
+    </message>
+    <message>
+        <source>simulated: %1</source>
+        <translation>simulata: %1</translation>
     </message>
 </context>
 <context>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>away</source>
-        <translation>assente</translation>
+        <translation>manca</translation>
     </message>
 </context>
 <context>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>away</source>
-        <translation>assente</translation>
+        <translation>manca</translation>
     </message>
     <message>
         <source>PLC: does not answer</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>in</source>
-        <translation>inserita</translation>
+        <translation>sì</translation>
     </message>
     <message>
         <source>Stick: in</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>out</source>
-        <translation>assente</translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>Stick: out</source>

@@ -114,10 +114,6 @@
         <translation>Yol seç</translation>
     </message>
     <message>
-        <source>simulated by %1</source>
-        <translation>benzetim: %1</translation>
-    </message>
-    <message>
         <source>In. Files: %1, </source>
         <translation>Takılı. Dosya: %1, </translation>
     </message>
@@ -144,6 +140,10 @@
     <message>
         <source>None picked yet</source>
         <translation>Henüz seçilmedi</translation>
+    </message>
+    <message>
+        <source>simulated: %1</source>
+        <translation>taklit: %1</translation>
     </message>
 </context>
 <context>

@@ -114,10 +114,6 @@
         <translation>选择路径</translation>
     </message>
     <message>
-        <source>simulated by %1</source>
-        <translation>由 %1 模拟</translation>
-    </message>
-    <message>
         <source>In. Files: %1, </source>
         <translation>已插入。文件: %1, </translation>
     </message>
@@ -144,6 +140,10 @@
     <message>
         <source>None picked yet</source>
         <translation>尚未选择</translation>
+    </message>
+    <message>
+        <source>simulated: %1</source>
+        <translation>模拟:%1</translation>
     </message>
 </context>
 <context>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Port</source>
-        <translation>Porta</translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>CPU Addr</source>

@@ -7,6 +7,7 @@
 #include "modaldriver.h"
 #include "panelkey.h"
 #include "stick.h"
+#include "touchblock.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void arrivingStickIsCheckedOnce();
     void stickThatCannotBePluggedIsTold();
     void pickedPathIsShown();
+    void stateIsToldInFullByATouch();
     void cancelledPickKeepsThePath();
     void importKeyAsksTheHost();
     void panelsOwnStickHasNoKeys();
@@ -150,6 +152,26 @@ void TestFilesScreen::pickedPathIsShown()
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(screen.pickedPath(), programDir() + "/coil.cnc");
     QVERIFY(shows(screen, programDir() + "/coil.cnc"));
+}
+
+void TestFilesScreen::stateIsToldInFullByATouch()
+{
+    Stick stick(m_folder);
+    FilesScreen screen(&stick);
+    screen.resize(300, 220);
+    screen.show();
+    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    const QList<TouchBlock *> blocks = screen.findChildren<TouchBlock *>();
+    QCOMPARE(blocks.size(), 4);
+    for (TouchBlock *block : blocks) {
+        QVERIFY(block->height() >= 34);
+        QTest::mouseClick(block->findChild<QLabel *>("fileState"), Qt::LeftButton);
+        QCOMPARE(told.takeLast().at(0).toString(), block->findChild<QLabel *>("fileState")->text());
+    }
+    // A finger that slides off changes its mind.
+    QTest::mousePress(blocks.first(), Qt::LeftButton);
+    QTest::mouseRelease(blocks.first(), Qt::LeftButton, Qt::NoModifier, QPoint(-9, 0));
+    QVERIFY(told.isEmpty());
 }
 
 void TestFilesScreen::cancelledPickKeepsThePath()

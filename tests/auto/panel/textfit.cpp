@@ -1,0 +1,448 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "textfit.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitterHandle>
+#include <QStyle>
+#include <QStyleOption>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+/// 9 mm at 96 dpi.
+const int kThumb = 34;
+const int kNarrow = 440;
+const int kAnyWidth = QWIDGETSIZE_MAX;
+
+struct Exception
+{
+    enum Kind { Text, Place, Size };
+
+    Kind kind;
+    const char *name;   ///< Class or object name of the widget or of one around it.
+    const char *reason; ///< For whoever wonders.
+    int narrowerThan;   ///< On screens of less width alone.
+};
+
+const Exception exceptionTable[] = {
+    {Exception::Text, "title", "the name of a program; a touch tells it in full", kAnyWidth},
+    {Exception::Text, "lastMessage", "was shown in full; a touch on the title shows it again",
+     kAnyWidth},
+    {Exception::Text, "fileState", "ends in a path; a touch tells it in full", kAnyWidth},
+    {Exception::Text, "oldValue", "the value of before stands in the field in full", kAnyWidth},
+    {Exception::Place, "DataEditor", "the cells share their border lines, by the library's design",
+     kAnyWidth},
+    {Exception::Place, "messageBar", "lies over the screens while there is something to say",
+     kAnyWidth},
+    {Exception::Place, "shade", "lies over everything while a dialog waits", kAnyWidth},
+    {Exception::Place, "menu", "lies over the screens while the operator chooses", kAnyWidth},
+    // The library lays its parts out for 440 pixels and more.
+    {Exception::Text, "WMMainWindow", "the read-out beside the name has a fixed order and font",
+     kNarrow},
+    {Exception::Text, "WCopyDialog", "its widths are fixed", kNarrow},
+    {Exception::Text, "WFileDialog", "its font and its keys are fixed", kNarrow},
+    {Exception::Text, "WFindDialog", "fields and keys side by side", kNarrow},
+    {Exception::Place, "WGCodeEditer", "the scroll bar's fixed length", kNarrow},
+    {Exception::Text, "MJLine", "cells are shares of the width", kNarrow},
+    {Exception::Text, "DataEditor", "cells are shares of the width", kNarrow},
+    {Exception::Text, "ConnEditor", "cells and keys are shares of the width", kNarrow},
+    {Exception::Text, "ImportManage", "three columns side by side", kNarrow},
+    {Exception::Text, "FileDialog", "keys are shares of the width", kNarrow},
+    {Exception::Size, "FileDialog", "keys are shares of the width", kNarrow},
+    {Exception::Text, "QMessageBox", "three answers side by side", kNarrow},
+};
+
+int screenWidth = 0;
+
+bool isExcepted(Exception::Kind kind, const QWidget *widget)
+{
+    for (const QWidget *around = widget; around; around = around->parentWidget()) {
+        for (const Exception &exception : exceptionTable) {
+            if (exception.kind == kind && screenWidth < exception.narrowerThan
+                && (around->objectName() == QLatin1String(exception.name)
+                    || around->inherits(exception.name)))
+                return true;
+        }
+    }
+    return false;
+}
+
+QString nameOf(const QWidget *widget)
+{
+    QString name = QLatin1String(widget->metaObject()->className());
+    if (!widget->objectName().isEmpty())
+        name += QLatin1Char(' ') + widget->objectName();
+    for (const QWidget *around = widget->parentWidget(); around; around = around->parentWidget()) {
+        const QString className = QLatin1String(around->metaObject()->className());
+        if (!className.startsWith(QLatin1Char('Q')) || around->isWindow())
+            return name + QLatin1String(" in ") + className;
+    }
+    return name;
+}
+
+QString sizes(const QSize &needed, const QSize &given)
+{
+    return QString::fromLatin1("needs %1x%2, has %3x%4")
+        .arg(needed.width())
+        .arg(needed.height())
+        .arg(given.width())
+        .arg(given.height());
+}
+
+/// Whether the pixels of a text of \a needed pixels are all within \a given.
+QString missing(const QString &text, const QSize &needed, const QSize &given)
+{
+    if (needed.width() <= given.width() && needed.height() <= given.height())
+        return QString();
+    return QString::fromLatin1("\"%1\" %2").arg(text, sizes(needed, given));
+}
+
+QSize sizeOf(const QFontMetrics &metrics, const QString &text, int flags = 0)
+{
+    // What is drawn of one line; its leading may be cut.
+    QSize size = metrics.size(flags, text);
+    size.setHeight(size.height() - metrics.height() + metrics.ascent() + metrics.descent());
+    return size;
+}
+
+QSize wrappedSize(const QFontMetrics &metrics, const QString &text, int width)
+{
+    return metrics.boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, text).size();
+}
+
+QString faultOfLabel(const QLabel *label)
+{
+    const QString text = label->text();
+    if (text.isEmpty() || label->pixmap())
+        return QString();
+    if (label->textFormat() != Qt::PlainText && Qt::mightBeRichText(text))
+        return missing(text, label->sizeHint(), label->size());
+    const int margin = 2 * label->margin();
+    QSize given = label->contentsRect().size() - QSize(margin, margin);
+    if (label->indent() > 0)
+        given.rwidth() -= label->indent();
+    const QFontMetrics metrics = label->fontMetrics();
+    const QSize needed = label->wordWrap() ? wrappedSize(metrics, text, given.width())
+                                           : sizeOf(metrics, text, Qt::TextShowMnemonic);
+    return missing(text, needed, given);
+}
+
+QString faultOfToolButton(const QToolButton *button)
+{
+    const Qt::ToolButtonStyle style = button->toolButtonStyle();
+    if (button->text().isEmpty() || style == Qt::ToolButtonIconOnly)
+        return QString();
+    QSize needed = sizeOf(button->fontMetrics(), button->text(), Qt::TextShowMnemonic);
+    if (style == Qt::ToolButtonTextUnderIcon)
+        needed.rheight() += button->iconSize().height();
+    else if (style == Qt::ToolButtonTextBesideIcon)
+        needed.rwidth() += button->iconSize().width();
+    // A frame of a pixel around it.
+    return missing(button->text(), needed, button->size() - QSize(2, 2));
+}
+
+QString faultOfPushButton(const QPushButton *button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    QSize needed = sizeOf(button->fontMetrics(), button->text(), Qt::TextShowMnemonic);
+    if (!button->icon().isNull())
+        needed.rwidth() += button->iconSize().width() + 4;
+    const QRect room =
+        button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
+    return missing(button->text(), needed, room.size());
+}
+
+QString faultOfCheckBox(const QCheckBox *box)
+{
+    QStyleOptionButton option;
+    option.initFrom(box);
+    option.text = box->text();
+    const QRect room = box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box);
+    return missing(box->text(), sizeOf(box->fontMetrics(), box->text(), Qt::TextShowMnemonic),
+                   room.size());
+}
+
+// The keypads' parts make their letters smaller until they fit, but not smaller than that.
+QFont smallestKeypadFont()
+{
+    QFont font = QApplication::font();
+    font.setBold(true);
+    font.setPixelSize(10);
+    return font;
+}
+
+QString faultOfKeypadKey(const QAbstractButton *key)
+{
+    // These have drawings.
+    static const char *const drawn[] = {"key_back", "key_left", "key_right", "key_space",
+                                        "key_shift"};
+    for (const char *name : drawn) {
+        if (key->objectName() == QLatin1String(name))
+            return QString();
+    }
+    return missing(key->text(), sizeOf(QFontMetrics(smallestKeypadFont()), key->text()),
+                   key->size() - QSize(6, 4));
+}
+
+QString faultOfKeypadLabel(const QWidget *label)
+{
+    const QString text = label->property("text").toString();
+    const QFontMetrics metrics(smallestKeypadFont());
+    const bool isWrapped = label->objectName() == QLatin1String("reason");
+    return missing(text,
+                   isWrapped ? wrappedSize(metrics, text, label->width()) : sizeOf(metrics, text),
+                   label->size());
+}
+
+QString faultOfHeader(const QHeaderView *header)
+{
+    const int margin = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    QStringList faults;
+    for (int i = 0; i < header->count(); ++i) {
+        const QString text = header->model()->headerData(i, header->orientation()).toString();
+        const bool isLying = header->orientation() == Qt::Horizontal;
+        const QSize given(isLying ? header->sectionSize(i) : header->width(),
+                          isLying ? header->height() : header->sectionSize(i));
+        if (!header->isSectionHidden(i))
+            faults.append(
+                missing(text, sizeOf(header->fontMetrics(), text), given - QSize(margin, 0)));
+    }
+    faults.removeAll(QString());
+    return faults.join(QLatin1String("; "));
+}
+
+QString faultOfItems(const QAbstractItemView *view)
+{
+    const int margin =
+        2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1);
+    const QAbstractItemModel *model = view->model();
+    QStringList faults;
+    for (int row = 0; model && row < model->rowCount(view->rootIndex()); ++row) {
+        for (int column = 0; column < model->columnCount(view->rootIndex()); ++column) {
+            const QModelIndex index = model->index(row, column, view->rootIndex());
+            QRect place = view->visualRect(index);
+            const QString text = index.data().toString();
+            if (text.isEmpty() || !view->viewport()->rect().intersects(place))
+                continue;
+            if (!index.data(Qt::DecorationRole).isNull())
+                place.setLeft(place.left() + view->iconSize().width() + 4);
+            const QSize given(place.width() - margin, place.height());
+            QFont font = view->font();
+            const QVariant own = index.data(Qt::FontRole);
+            if (own.isValid())
+                font = own.value<QFont>().resolve(font);
+            const QFontMetrics metrics(font);
+            const bool fitsInALine = sizeOf(metrics, text).width() <= given.width();
+            faults.append(missing(text,
+                                  fitsInALine ? sizeOf(metrics, text)
+                                              : wrappedSize(metrics, text, given.width()),
+                                  given));
+        }
+    }
+    faults.removeAll(QString());
+    return faults.join(QLatin1String("; "));
+}
+
+QString faultOfLineEdit(const QLineEdit *edit)
+{
+    QStyleOptionFrame option;
+    option.initFrom(edit);
+    option.lineWidth = edit->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, edit);
+    // Two pixels on either side are the toolkit's own.
+    const QSize given =
+        edit->style()->subElementRect(QStyle::SE_LineEditContents, &option, edit).size()
+        - QSize(4, 0);
+    const QFontMetrics metrics = edit->fontMetrics();
+    if (edit->text().isEmpty())
+        return missing(edit->placeholderText(), sizeOf(metrics, edit->placeholderText()), given);
+    // Who types sees the place of the cursor. A cell of a list is read as it stands.
+    if (!edit->inherits("ComboLineEdit"))
+        return QString();
+    return missing(edit->text(), sizeOf(metrics, edit->text()), given);
+}
+
+QString faultOfText(QWidget *widget)
+{
+    if (const QLabel *label = qobject_cast<QLabel *>(widget))
+        return faultOfLabel(label);
+    if (const QToolButton *button = qobject_cast<QToolButton *>(widget))
+        return faultOfToolButton(button);
+    if (const QPushButton *button = qobject_cast<QPushButton *>(widget))
+        return faultOfPushButton(button);
+    if (const QCheckBox *box = qobject_cast<QCheckBox *>(widget))
+        return faultOfCheckBox(box);
+    if (const QHeaderView *header = qobject_cast<QHeaderView *>(widget))
+        return faultOfHeader(header);
+    if (const QAbstractItemView *view = qobject_cast<QAbstractItemView *>(widget))
+        return faultOfItems(view);
+    if (const QLineEdit *edit = qobject_cast<QLineEdit *>(widget))
+        return faultOfLineEdit(edit);
+    if (widget->inherits("KeypadLabel"))
+        return faultOfKeypadLabel(widget);
+    if (const QAbstractButton *button = qobject_cast<QAbstractButton *>(widget)) {
+        if (button->inherits("KeyButton"))
+            return faultOfKeypadKey(button);
+        return button->text().isEmpty() ? QString() : QLatin1String("nobody measures it");
+    }
+    // A progress bar shows none here, and the editor scrolls.
+    if (const QProgressBar *bar = qobject_cast<QProgressBar *>(widget))
+        return bar->isTextVisible() ? QLatin1String("nobody measures it") : QString();
+    for (const char *property : {"text", "title", "currentText"}) {
+        if (widget->metaObject()->indexOfProperty(property) >= 0 && !widget->isWindow()
+            && !widget->inherits("WMMainWindow") && !qobject_cast<QPlainTextEdit *>(widget))
+            return QLatin1String("nobody measures it");
+    }
+    return QString();
+}
+
+bool scrolls(const QWidget *widget)
+{
+    return widget && widget->objectName() == QLatin1String("qt_scrollarea_viewport");
+}
+
+QString faultOfPlace(const QWidget *widget)
+{
+    const QWidget *parent = widget->parentWidget();
+    if (scrolls(parent) || parent->rect().contains(widget->geometry()))
+        return QString();
+    return QString::fromLatin1("at %1,%2 %3x%4 goes beyond %5 of %6x%7")
+        .arg(widget->x())
+        .arg(widget->y())
+        .arg(widget->width())
+        .arg(widget->height())
+        .arg(QLatin1String(parent->metaObject()->className()))
+        .arg(parent->width())
+        .arg(parent->height());
+}
+
+QStringList overlaps(const QWidget *parent)
+{
+    QWidgetList children;
+    for (QObject *child : parent->children()) {
+        QWidget *widget = qobject_cast<QWidget *>(child);
+        if (widget && widget->isVisible() && !widget->isWindow() && !widget->size().isEmpty()
+            && !qobject_cast<QSplitterHandle *>(widget) && !isExcepted(Exception::Place, widget))
+            children.append(widget);
+    }
+    QStringList faults;
+    for (int i = 0; i < children.size(); ++i) {
+        for (int j = i + 1; j < children.size(); ++j) {
+            const QRect common = children.at(i)->geometry() & children.at(j)->geometry();
+            if (!common.isEmpty())
+                faults.append(QString::fromLatin1("%1 and %2 overlap by %3x%4")
+                                  .arg(nameOf(children.at(i)), nameOf(children.at(j)))
+                                  .arg(common.width())
+                                  .arg(common.height()));
+        }
+    }
+    return faults;
+}
+
+QString faultOfKey(const QWidget *widget)
+{
+    if (!qobject_cast<const QAbstractButton *>(widget) || widget->width() <= 0)
+        return QString();
+    if (widget->width() >= kThumb && widget->height() >= kThumb)
+        return QString();
+    return QString::fromLatin1("%1x%2 is too small for a thumb")
+        .arg(widget->width())
+        .arg(widget->height());
+}
+
+} // namespace
+
+QStringList TextFit::faults(const QRect &screen)
+{
+    screenWidth = screen.width();
+    QStringList faults;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (!window->isVisible() || window->size().isEmpty())
+            continue;
+        if (!screen.contains(window->geometry()) && !isExcepted(Exception::Place, window))
+            faults.append(nameOf(window) + QLatin1String(": leaves the screen"));
+        QWidgetList all = window->findChildren<QWidget *>();
+        all.prepend(window);
+        for (QWidget *widget : qAsConst(all)) {
+            // What is scrolled or folded out of sight is not there.
+            if (!widget->isVisible() || widget->visibleRegion().isEmpty())
+                continue;
+            const auto note = [&](const QString &fault) {
+                if (!fault.isEmpty())
+                    faults.append(nameOf(widget) + QLatin1String(": ") + fault);
+            };
+            if (!isExcepted(Exception::Text, widget))
+                note(faultOfText(widget));
+            if (!widget->isWindow() && !isExcepted(Exception::Place, widget))
+                note(faultOfPlace(widget));
+            if (!isExcepted(Exception::Size, widget))
+                note(faultOfKey(widget));
+            if (!isExcepted(Exception::Place, widget))
+                faults.append(overlaps(widget));
+        }
+    }
+    faults.removeDuplicates();
+    return faults;
+}
+
+QStringList TextFit::exceptions()
+{
+    QStringList lines;
+    for (const Exception &exception : exceptionTable)
+        lines.append(QString::fromLatin1("%1: %2").arg(QLatin1String(exception.name),
+                                                       QLatin1String(exception.reason)));
+    return lines;
+}
+
+LongestTranslator::LongestTranslator(const QString &folder, QObject *parent) : QTranslator(parent)
+{
+    for (const char *language : {"de", "it", "tr", "zh_CN"}) {
+        for (const char *name : {"filarix", "filarix-panel", "hmidevice-sim", "qtbase"}) {
+            QTranslator *translator = new QTranslator(this);
+            const QString file =
+                QString::fromLatin1("%1_%2").arg(QLatin1String(name), QLatin1String(language));
+            const bool isToolkit = !qstrcmp(name, "qtbase");
+            const bool isLoaded = translator->load(
+                file, isToolkit ? QLibraryInfo::location(QLibraryInfo::TranslationsPath) : folder);
+            m_isComplete = m_isComplete && (isLoaded || isToolkit);
+            m_translators.append(translator);
+        }
+    }
+}
+
+QString LongestTranslator::translate(const char *context, const char *source,
+                                     const char *disambiguation, int n) const
+{
+    const QByteArray key =
+        QByteArray(context) + '|' + source + '|' + disambiguation + '|' + QByteArray::number(n);
+    const QHash<QByteArray, QString>::const_iterator known = m_known.constFind(key);
+    if (known != m_known.constEnd())
+        return *known;
+    const QFontMetrics metrics(QApplication::font());
+    QString longest;
+    int width = -1;
+    for (const QTranslator *translator : m_translators) {
+        const QString text = translator->translate(context, source, disambiguation, n);
+        if (!text.isEmpty() && metrics.horizontalAdvance(text) > width) {
+            longest = text;
+            width = metrics.horizontalAdvance(text);
+        }
+    }
+    m_known.insert(key, longest);
+    return longest;
+}
