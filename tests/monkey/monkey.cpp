@@ -167,6 +167,7 @@ void Monkey::act()
         if (!m_panel)
             return;
         connect(m_panel, &QObject::destroyed, this, [this] { m_panel = nullptr; });
+        writePrograms();
     }
     QAbstractEventDispatcher::instance()->wakeUp();
     if (!Hand::isIdle())
@@ -181,6 +182,19 @@ void Monkey::act()
         choose();
     else
         leave();
+}
+
+/// Beside the samples some that load in pieces, so that a load is often what an open leads to.
+void Monkey::writePrograms()
+{
+    for (int lines : {700, 1500, 3000, 6000}) {
+        QByteArray program;
+        for (int i = 0; i < lines; ++i)
+            program += "N" + QByteArray::number(i) + " G01 X" + QByteArray::number(i % 90) + "\n";
+        FilarixTest::writeFile(FilarixTest::programDir() + QLatin1String("/a")
+                                   + QString::number(lines) + QLatin1String(".cnc"),
+                               program);
+    }
 }
 
 bool Monkey::isOver() const

@@ -54,6 +54,7 @@ private:
     QWidget *front() const;
 
     void act();
+    static void writePrograms();
     void choose();
     void then(const Step &step);
     void wait(int turns);
