@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TURNEDPLATFORM_H
+#define TURNEDPLATFORM_H
+
+#include <QObject>
+#include <QRegion>
+
+#include <functional>
+
+#include <qpa/qplatformintegration.h>
+#include <qpa/qplatformnativeinterface.h>
+
+class GlassScreen;
+
+/// The platform of the windows behind a PanelGlass.
+///
+/// It stands before the platform that the program runs on, from construction to destruction. All
+/// windows but the glass are made here, on a screen that is the toolkit's primary one meanwhile:
+/// the toolkit's own compositor, which stacks, activates and paints them into one picture. What is
+/// not about windows, and the glass itself, stays with the platform that was there before.
+class TurnedPlatform : public QObject, public QPlatformIntegration
+{
+    Q_OBJECT
+
+public:
+    /// The screen has the size \a surface and lies at 0,0.
+    TurnedPlatform(const QSize &surface, QWindow *glass);
+    ~TurnedPlatform() override;
+
+    QRect surface() const;
+    /// Up to date; upright.
+    const QImage &picture() const;
+    /// Called with what changed on the surface since the last call.
+    void onRedraw(const std::function<void(const QRegion &)> &redrawn);
+    /// The topmost window that can be active, or nullptr.
+    QWindow *topWindow() const;
+    /// Whether the pointer has to be in the picture, as the display is this program's alone.
+    bool drawsPointer() const { return m_drawsPointer; }
+
+    bool hasCapability(Capability capability) const override;
+    QPlatformWindow *createPlatformWindow(QWindow *window) const override;
+    QPlatformBackingStore *createPlatformBackingStore(QWindow *window) const override;
+    Qt::WindowState defaultWindowState(Qt::WindowFlags flags) const override;
+    QPlatformNativeInterface *nativeInterface() const override;
+
+    QPlatformPixmap *createPlatformPixmap(QPlatformPixmap::PixelType type) const override;
+    QAbstractEventDispatcher *createEventDispatcher() const override;
+    QPlatformFontDatabase *fontDatabase() const override;
+    QPlatformClipboard *clipboard() const override;
+    QPlatformInputContext *inputContext() const override;
+    QPlatformAccessibility *accessibility() const override;
+    QPlatformServices *services() const override;
+    QVariant styleHint(StyleHint hint) const override;
+    Qt::KeyboardModifiers queryKeyboardModifiers() const override;
+    QList<int> possibleKeys(const QKeyEvent *event) const override;
+    QStringList themeNames() const override;
+    QPlatformTheme *createPlatformTheme(const QString &name) const override;
+    void sync() override;
+    void beep() const override;
+
+private:
+    void standBefore();
+
+    QPlatformIntegration *const m_native;
+    QWindow *const m_glass;
+    const bool m_drawsPointer;
+    GlassScreen *const m_screen;
+    mutable QPlatformNativeInterface m_noNativeInterface;
+};
+
+#endif // TURNEDPLATFORM_H
