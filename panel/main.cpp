@@ -11,6 +11,7 @@
 #include "look.h"
 #include "machinedata.h"
 #include "options.h"
+#include "panelglass.h"
 #include "panelstyle.h"
 #include "panelsurface.h"
 #include "panelwindow.h"
@@ -32,6 +33,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 namespace {
 
@@ -78,9 +80,9 @@ void setUpLook(Look::Style style)
 
 QSize surfaceSize(const Options &options)
 {
-    if (options.size.isValid() || PanelSurface::isDesktop())
+    if (PanelSurface::isDesktop())
         return options.surfaceSize();
-    return QGuiApplication::primaryScreen()->size();
+    return options.surfaceOn(QGuiApplication::primaryScreen()->size());
 }
 
 /// Where the build has them, and where they are installed; from the program's own folder.
@@ -131,7 +133,12 @@ int runPanel(const Options &options)
                                                        : languages.preferred();
     if (!languages.use(wanted))
         std::fprintf(stderr, "The translation for %s is not installed.\n", qPrintable(wanted));
-    PanelWindow panel(surfaceSize(options));
+    const QSize surface = surfaceSize(options);
+    std::unique_ptr<PanelGlass> glass;
+    // The tour's pictures are those of a display, with all that stands on it.
+    if (options.turn != 0 || isTour)
+        glass.reset(new PanelGlass(surface, options.turn));
+    PanelWindow panel(surface);
     new PanelSurface(&panel, options.touch);
     new FieldKeypad(&panel);
     new DialogKeeper(&panel);
@@ -167,11 +174,14 @@ int runPanel(const Options &options)
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
     TerminationSignals signals;
     QObject::connect(&signals, &TerminationSignals::received, qApp, &QApplication::quit);
-    panel.show();
+    if (glass)
+        glass->present(&panel);
+    else
+        panel.show();
 
     if (!isTour)
         return QApplication::exec();
-    Tour tour(&panel, options.tourDir);
+    Tour tour(&panel, options.tourDir, glass.get());
     tour.visitProgramScreen(programs);
     tour.visitTeachScreen(teach);
     tour.visitVariablesScreen(variables);

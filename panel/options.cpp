@@ -61,13 +61,20 @@ Options Options::parse(const QStringList &arguments)
     const QCommandLineOption rotation(
         QLatin1String("rotation"),
         QLatin1String("How the panel is mounted: 0, 90, 180 or 270. At 90 and 270 it stands "
-                      "upright and the program screen has two tool bars. The turning of the "
-                      "picture itself is the display's work."),
+                      "upright and the program screen has two tool bars. The picture itself is "
+                      "turned by the display, or by --rotate."),
+        QLatin1String("degrees"), QLatin1String("0"));
+    const QCommandLineOption rotate(
+        QLatin1String("rotate"),
+        QLatin1String("Turn all that the program shows, dialogs and keypads too, clockwise by 0, "
+                      "90, 180 or 270, and touches with it. For a display that is mounted turned "
+                      "and can't do so itself."),
         QLatin1String("degrees"), QLatin1String("0"));
     const QCommandLineOption size(
         QLatin1String("size"),
-        QLatin1String("Surface in pixels as the operator sees it, 480x272 or more. Without it a "
-                      "desktop shows 800x480, upright 480x800, and a panel its whole screen."),
+        QLatin1String("Surface in pixels as the operator sees it, 480x272 or more: with --rotate "
+                      "90 and 480x800 the window is 800x480. Without it a desktop shows 800x480, "
+                      "upright 480x800, and a panel its whole screen."),
         QLatin1String("WxH"));
     const QCommandLineOption noTouch(
         QLatin1String("no-touch"),
@@ -107,7 +114,8 @@ Options Options::parse(const QStringList &arguments)
                             "chose, else the system's; in a tour English.")
             .arg(codes.join(QLatin1String(", "))),
         QLatin1String("code"));
-    parser.addOptions({rotation, size, noTouch, look, language, programs, plc, stick, tour});
+    parser.addOptions(
+        {rotation, rotate, size, noTouch, look, language, programs, plc, stick, tour});
 
     if (!parser.parse(arguments))
         return refusal(parser.errorText());
@@ -129,6 +137,11 @@ Options Options::parse(const QStringList &arguments)
     if (!readRotation(parser.value(rotation), &options.rotation))
         return refusal(QString::fromLatin1("The rotation \"%1\" is none of 0, 90, 180, 270.")
                            .arg(parser.value(rotation)));
+    if (!readRotation(parser.value(rotate), &options.turn))
+        return refusal(
+            QString::fromLatin1("The picture can be turned by 0, 90, 180 or 270 degrees, not by "
+                                "\"%1\".")
+                .arg(parser.value(rotate)));
     if (parser.isSet(size) && !readSize(parser.value(size), &options.size))
         return refusal(QString::fromLatin1("The size \"%1\" is not of the form 800x480, or below "
                                            "480x272.")
@@ -173,4 +186,11 @@ QSize Options::surfaceSize() const
     if (size.isValid())
         return size;
     return rotation % 180 == 90 ? QSize(480, 800) : QSize(800, 480);
+}
+
+QSize Options::surfaceOn(const QSize &display) const
+{
+    if (size.isValid())
+        return size;
+    return turn % 180 == 90 ? display.transposed() : display;
 }

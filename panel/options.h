@@ -22,6 +22,8 @@ struct Options
 
     /// 0, 90, 180 or 270: how the panel is mounted.
     int rotation = 0;
+    /// 0, 90, 180 or 270, clockwise: how far the picture is turned on the display.
+    int turn = 0;
     /// Surface in pixels as the operator sees it; invalid when it was not given.
     QSize size;
     bool touch = true;
@@ -47,6 +49,8 @@ struct Options
     QString home() const;
     /// `size`, or the usual surface for the rotation: 800 by 480, upright 480 by 800.
     QSize surfaceSize() const;
+    /// `size`, or what a display of that size has room for when the picture is turned.
+    QSize surfaceOn(const QSize &display) const;
 };
 
 #endif // OPTIONS_H

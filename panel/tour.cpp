@@ -6,6 +6,7 @@
 #include "connectionsscreen.h"
 #include "filesscreen.h"
 #include "messagebar.h"
+#include "panelglass.h"
 #include "panelkey.h"
 #include "panelwindow.h"
 #include "plctransfer.h"
@@ -22,7 +23,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QToolButton>
@@ -91,8 +91,8 @@ QWidget *topLevel(const char *className)
 
 } // namespace
 
-Tour::Tour(PanelWindow *panel, const QString &folder, QObject *parent)
-    : QObject(parent), m_panel(panel), m_folder(folder)
+Tour::Tour(PanelWindow *panel, const QString &folder, const PanelGlass *glass, QObject *parent)
+    : QObject(parent), m_panel(panel), m_glass(glass), m_folder(folder)
 {
     if (!folder.isEmpty() && !QDir().mkpath(folder))
         m_error = tr("The folder %1 cannot be made.").arg(folder);
@@ -395,29 +395,15 @@ void Tour::next()
     m_lastStep();
 }
 
-// The panel with whatever stands over it, as the operator sees it.
 void Tour::save(const QString &name)
 {
     Q_EMIT arrived(name);
-    if (m_folder.isEmpty())
+    if (m_folder.isEmpty() || !m_glass)
         return;
-    QPixmap picture = m_panel->grab();
-    QPainter painter(&picture);
-    const QPoint origin = m_panel->mapToGlobal(QPoint(0, 0));
-    QWidgetList above;
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (QWidget *widget : topLevels) {
-        if (widget->isVisible() && widget != m_panel && widget != QApplication::activeModalWidget())
-            above.append(widget);
-    }
-    if (QApplication::activeModalWidget())
-        above.append(QApplication::activeModalWidget());
-    for (QWidget *widget : qAsConst(above))
-        painter.drawPixmap(widget->mapToGlobal(QPoint(0, 0)) - origin, widget->grab());
-    painter.end();
-
+    // Where the event loop has to wait, nothing else has painted the panel.
+    m_panel->repaint();
     const QString file = QDir(m_folder).filePath(
         QString::fromLatin1("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));
-    if (!picture.save(file))
+    if (!m_glass->picture().save(file))
         fail(tr("The picture %1 cannot be written.").arg(file));
 }

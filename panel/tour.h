@@ -11,6 +11,7 @@
 
 #include <functional>
 
+class PanelGlass;
 class PanelWindow;
 class ConnectionsScreen;
 class FilesScreen;
@@ -28,8 +29,10 @@ class Tour : public QObject
     Q_OBJECT
 
 public:
-    /// Pictures go to \a folder, which is made if it is missing. None are made for an empty one.
-    Tour(PanelWindow *panel, const QString &folder, QObject *parent = nullptr);
+    /// Pictures are what \a glass shows, and go to \a folder, which is made if it is missing.
+    /// Without the two none are made.
+    Tour(PanelWindow *panel, const QString &folder = QString(), const PanelGlass *glass = nullptr,
+         QObject *parent = nullptr);
 
     /// The stops at each screen, in the order of the calls.
     void visitProgramScreen(ProgramScreen *screen);
@@ -70,6 +73,7 @@ private:
     void save(const QString &name);
 
     PanelWindow *m_panel;
+    const PanelGlass *m_glass;
     const QString m_folder;
     QList<Step> m_steps;
     Step m_lastStep;

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void programDirectory();
     void surface_data();
     void surface();
+    void surfaceOnADisplay_data();
+    void surfaceOnADisplay();
     void refused_data();
     void refused();
     void helpTellsEveryOption();
@@ -32,6 +34,7 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
     const Options options = parse(QStringList());
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 0);
+    QCOMPARE(options.turn, 0);
     QVERIFY(!options.size.isValid());
     QVERIFY(options.touch);
     QCOMPARE(options.look, QString());
@@ -44,11 +47,12 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
 void TestOptions::allOptionsAreRead()
 {
     const Options options =
-        parse({"--rotation", "270", "--size", "480x800", "--no-touch", "--look", "dark",
-               "--programs", "/srv/hmi/cnc", "--plc=/srv/plc", "--stick", "/srv/stick", "--tour",
-               "pictures", "--language", "zh_CN"});
+        parse({"--rotation", "270", "--rotate", "90", "--size", "480x800", "--no-touch", "--look",
+               "dark", "--programs", "/srv/hmi/cnc", "--plc=/srv/plc", "--stick", "/srv/stick",
+               "--tour", "pictures", "--language", "zh_CN"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
+    QCOMPARE(options.turn, 90);
     QCOMPARE(options.size, QSize(480, 800));
     QVERIFY(!options.touch);
     QCOMPARE(options.look, QString("dark"));
@@ -112,6 +116,27 @@ void TestOptions::surface()
     QTEST(options.surfaceSize(), "size");
 }
 
+void TestOptions::surfaceOnADisplay_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("the display") << QStringList() << QSize(800, 480);
+    QTest::newRow("mounted upright, turned by the display")
+        << QStringList{"--rotation", "90"} << QSize(800, 480);
+    QTest::newRow("turned") << QStringList{"--rotate", "90"} << QSize(480, 800);
+    QTest::newRow("turned the other way") << QStringList{"--rotate", "270"} << QSize(480, 800);
+    QTest::newRow("upside down") << QStringList{"--rotate", "180"} << QSize(800, 480);
+    QTest::newRow("given") << QStringList{"--rotate", "90", "--size", "480x640"} << QSize(480, 640);
+}
+
+void TestOptions::surfaceOnADisplay()
+{
+    QFETCH(QStringList, arguments);
+    const Options options = parse(arguments);
+    QCOMPARE(options.outcome, Options::Run);
+    QTEST(options.surfaceOn(QSize(800, 480)), "size");
+}
+
 void TestOptions::refused_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -120,6 +145,8 @@ void TestOptions::refused_data()
     QTest::newRow("rotation beyond") << QStringList{"--rotation", "360"} << "360";
     QTest::newRow("rotation negative") << QStringList{"--rotation=-90"} << "-90";
     QTest::newRow("rotation no number") << QStringList{"--rotation", "up"} << "up";
+    QTest::newRow("turned between") << QStringList{"--rotate", "45"} << "45";
+    QTest::newRow("turned beyond") << QStringList{"--rotate", "360"} << "360";
     QTest::newRow("size without a height") << QStringList{"--size", "800"} << "800";
     QTest::newRow("size negative") << QStringList{"--size", "-1x480"} << "-1x480";
     QTest::newRow("size too small") << QStringList{"--size", "320x240"} << "320x240";
@@ -147,8 +174,8 @@ void TestOptions::helpTellsEveryOption()
 {
     const Options options = parse({"--help"});
     QCOMPARE(options.outcome, Options::ShowText);
-    for (const char *option :
-         {"--rotation", "--size", "--no-touch", "--programs", "--plc", "--stick", "--tour"})
+    for (const char *option : {"--rotation", "--rotate", "--size", "--no-touch", "--programs",
+                               "--plc", "--stick", "--tour"})
         QVERIFY2(options.text.contains(option), option);
     QVERIFY(options.text.contains("DIR/cnc"));
 }

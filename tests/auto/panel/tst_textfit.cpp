@@ -161,7 +161,7 @@ void TestTextFit::everyTextFits()
     panel.status()->showDevices(widestState());
     panel.show();
 
-    Tour tour(&panel, QString());
+    Tour tour(&panel);
     tour.visitProgramScreen(programs);
     tour.visitTeachScreen(teach);
     tour.visitVariablesScreen(variables);
