@@ -17,6 +17,13 @@ namespace {
 
 const QSize kRoomyDialog(640, 440);
 
+// The toolkit leaves room for a window manager's frame, and without one a dialog that did not
+// choose its place stands above the middle.
+bool isMisplaced(const QDialog *dialog)
+{
+    return !dialog->testAttribute(Qt::WA_Moved) && dialog->frameGeometry() == dialog->geometry();
+}
+
 } // namespace
 
 DialogKeeper::DialogKeeper(QObject *parent) : QObject(parent)
@@ -53,6 +60,8 @@ void DialogKeeper::fit(QDialog *dialog)
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));
     if (dialog->inherits("ImportManage")) {
         place.setSize(kRoomyDialog.boundedTo(panel.size()).expandedTo(place.size()));
+        place.moveCenter(panel.center());
+    } else if (isMisplaced(dialog)) {
         place.moveCenter(panel.center());
     }
     place.moveRight(qMin(place.right(), panel.right()));

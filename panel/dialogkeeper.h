@@ -9,8 +9,9 @@
 class QDialog;
 
 /// Keeps dialogs on the panel and apart from it: each gets an edge, as a panel has no window
-/// manager to draw one, one that is larger than the panel is made to fit when it is shown, and the
-/// import manager, whose own size leaves a file name no room, gets most of the panel.
+/// manager to draw one, one that is larger than the panel is made to fit when it is shown, one that
+/// the toolkit places stands in the middle, and the import manager, whose own size leaves a file
+/// name no room, gets most of the panel.
 class DialogKeeper : public QObject
 {
     Q_OBJECT

@@ -3,6 +3,7 @@
 
 #include "dialogkeeper.h"
 #include "filarixtest.h"
+#include "panelglass.h"
 #include "panelsurface.h"
 
 #include <QDialog>
@@ -14,6 +15,7 @@ class TestDialogKeeper : public FilarixTest
 private Q_SLOTS:
     void dialogLargerThanThePanelIsMadeToFit();
     void dialogBesideThePanelIsMovedOntoIt();
+    void dialogThatTheToolkitPlacesStandsInTheMiddle();
     void dialogHasAnEdge();
 };
 
@@ -46,6 +48,25 @@ void TestDialogKeeper::dialogBesideThePanelIsMovedOntoIt()
     QCOMPARE(dialog.size(), QSize(200, 100));
     QCOMPARE(dialog.geometry().right(), screen.right());
     QCOMPARE(dialog.geometry().top(), screen.top());
+}
+
+// On a display that has no window manager.
+void TestDialogKeeper::dialogThatTheToolkitPlacesStandsInTheMiddle()
+{
+    PanelGlass glass(QSize(480, 272), 0);
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    glass.present(&panel);
+    DialogKeeper keeper(nullptr);
+    QDialog dialog(&panel);
+    dialog.resize(200, 100);
+    dialog.show();
+    QTRY_COMPARE(dialog.geometry(), QRect(140, 86, 200, 100));
+    QDialog placed(&panel);
+    placed.setGeometry(10, 20, 200, 100);
+    placed.show();
+    QCoreApplication::processEvents();
+    QCOMPARE(placed.geometry(), QRect(10, 20, 200, 100));
 }
 
 void TestDialogKeeper::dialogHasAnEdge()
