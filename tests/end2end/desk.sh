@@ -14,6 +14,9 @@ desk_panel=$1
 desk_locator=$2
 desk_map=/tmp/widgets
 desk_pids=()
+# How far the panel turns its picture, and the size of that picture before it is turned.
+desk_turn=0
+desk_size=
 
 desk_fail() {
     echo "FAILED: $*" >&2
@@ -45,10 +48,16 @@ desk_until() {
 
 # desk_start WIDTHxHEIGHT [PANEL OPTION ...]
 desk_start() {
-    local size=$1
+    local size=$1 screen=$1 i
     shift
+    desk_size=$size
+    for ((i = 1; i < $#; ++i)); do
+        [ "${!i}" != --rotate ] || desk_turn=${*:i+1:1}
+    done
+    # A turned window has a frame, and its place is asked for: it has to be on the screen as a whole.
+    [ "$desk_turn" = 0 ] || screen=1000x1000
     export DISPLAY=:99 QT_QPA_PLATFORM=xcb
-    Xvfb :99 -screen 0 "${size}x24" -nolisten tcp -noreset >/tmp/xvfb.log 2>&1 &
+    Xvfb :99 -screen 0 "${screen}x24" -nolisten tcp -noreset >/tmp/xvfb.log 2>&1 &
     desk_pids+=($!)
     desk_until 20 xdpyinfo >/dev/null 2>&1 || desk_fail "no X server: $(cat /tmp/xvfb.log)"
     openbox --sm-disable >/tmp/openbox.log 2>&1 &
@@ -83,8 +92,23 @@ desk_named() {
         END { exit !found }' "$desk_map"
 }
 
+desk_glass() {
+    xdotool search --onlyvisible --name 'Winding panel' | tail -n 1
+}
+
+desk_has_ended() { ! kill -0 "${desk_pids[-1]}" 2>/dev/null; }
+
+# desk_click_at X Y: on the screen, or, when the picture is turned, on what the operator sees there.
 desk_click_at() {
-    xdotool mousemove "$1" "$2" click 1
+    local x=$1 y=$2 right bottom
+    right=$((${desk_size%x*} - 1 - x))
+    bottom=$((${desk_size#*x} - 1 - y))
+    case "$desk_turn" in
+        0) xdotool mousemove "$x" "$y" click 1 ;;
+        90) xdotool mousemove --window "$(desk_glass)" "$bottom" "$x" click 1 ;;
+        180) xdotool mousemove --window "$(desk_glass)" "$right" "$bottom" click 1 ;;
+        270) xdotool mousemove --window "$(desk_glass)" "$y" "$right" click 1 ;;
+    esac
 }
 
 # touch_text TEXT [WINDOW TITLE [N]]: waits for the widget and clicks on its middle.
