@@ -140,8 +140,9 @@ void StatusStrip::noteProgress(int percent)
 
 void StatusStrip::noteEnd(bool failed)
 {
+    // One that was refused before it began says nothing of the PLC.
+    m_hasFailed = failed && m_percent >= 0;
     m_percent = -1;
-    m_hasFailed = failed;
     showPlc();
 }
 

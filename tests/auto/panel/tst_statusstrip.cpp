@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QHBoxLayout>
+#include <QSignalSpy>
 #include <QTime>
 
 class TestStatusStrip : public FilarixTest
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void plcComesAndGoes();
     void transferIsShown();
     void failedTransferStaysToBeSeen();
+    void refusedTransferIsNoFailureOfThePlc();
     void stickComesAndGoes();
     void storage_data();
     void storage();
@@ -102,8 +104,11 @@ void TestStatusStrip::failedTransferStaysToBeSeen()
     StatusStrip strip(false);
     strip.follow(&transfer);
     strip.showDevices(devices(true, false, 0));
-    transfer.start(programDir() + "/none.cnc");
+    writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
+    connect(&transfer, &PlcTransfer::progress, &transfer, &PlcTransfer::stop);
+    transfer.start(programDir() + "/long.cnc");
     QTRY_COMPARE(strip.plc(), StatusStrip::PlcFailed);
+    disconnect(&transfer, &PlcTransfer::progress, &transfer, &PlcTransfer::stop);
     QCOMPARE(item(strip, "plcState")->text(), QString("failed"));
     QCOMPARE(item(strip, "plcState")->tone(), StatusItem::Alarm);
     strip.showDevices(devices(true, true, 0));
@@ -111,6 +116,20 @@ void TestStatusStrip::failedTransferStaysToBeSeen()
     writeFile(programDir() + "/a.cnc", "G01\n");
     transfer.start(programDir() + "/a.cnc");
     QTRY_COMPARE(strip.plc(), StatusStrip::PlcReady);
+}
+
+void TestStatusStrip::refusedTransferIsNoFailureOfThePlc()
+{
+    const QString plc = home() + "/plc";
+    QDir().mkpath(plc);
+    PlcTransfer transfer(plc);
+    StatusStrip strip(true);
+    strip.follow(&transfer);
+    strip.showDevices(devices(true, false, 0));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/none.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QCOMPARE(strip.plc(), StatusStrip::PlcReady);
 }
 
 void TestStatusStrip::stickComesAndGoes()
