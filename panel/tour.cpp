@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -30,6 +31,7 @@
 namespace {
 
 const int kMostPages = 8;
+const int kPatienceMs = 60000;
 
 void tap(QWidget *target)
 {
@@ -113,6 +115,8 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
         dialog->findChild<QLineEdit *>()->setText(QLatin1String("stator-coil.cnc"));
         return static_cast<QWidget *>(dialog->findChild<QPushButton *>());
     });
+    // A program of this length comes in pieces, between which the steps go on.
+    waitUntil([screen] { return screen->title() == QLatin1String("stator-coil.cnc"); });
     then([screen] {
         QTextCursor cursor(screen->editor()->document()->findBlockByNumber(24));
         screen->editor()->setTextCursor(cursor);
@@ -280,9 +284,15 @@ void Tour::then(const Step &step)
 
 void Tour::waitUntil(const std::function<bool()> &condition)
 {
-    then([this, condition] {
-        if (!condition())
-            m_steps.prepend(m_lastStep);
+    QElapsedTimer time;
+    then([this, condition, time]() mutable {
+        if (!time.isValid())
+            time.start();
+        if (condition())
+            return;
+        if (time.elapsed() > kPatienceMs)
+            return fail(tr("What step %1 waits for does not come.").arg(m_step));
+        m_steps.prepend(m_lastStep);
     });
 }
 

@@ -678,6 +678,10 @@
         <source>The picture %1 cannot be written.</source>
         <translation>Das Bild %1 lässt sich nicht schreiben.</translation>
     </message>
+    <message>
+        <source>What step %1 waits for does not come.</source>
+        <translation>Worauf Schritt %1 wartet, kommt nicht.</translation>
+    </message>
 </context>
 <context>
     <name>VariablesScreen</name>

@@ -678,6 +678,10 @@
         <source>The picture %1 cannot be written.</source>
         <translation>Impossibile scrivere l&apos;immagine %1.</translation>
     </message>
+    <message>
+        <source>What step %1 waits for does not come.</source>
+        <translation>Ciò che il passo %1 attende non arriva.</translation>
+    </message>
 </context>
 <context>
     <name>VariablesScreen</name>

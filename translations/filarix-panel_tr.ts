@@ -678,6 +678,10 @@
         <source>The picture %1 cannot be written.</source>
         <translation>%1 resmi yazılamıyor.</translation>
     </message>
+    <message>
+        <source>What step %1 waits for does not come.</source>
+        <translation>%1. adımın beklediği gelmiyor.</translation>
+    </message>
 </context>
 <context>
     <name>VariablesScreen</name>

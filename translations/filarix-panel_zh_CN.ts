@@ -678,6 +678,10 @@
         <source>The picture %1 cannot be written.</source>
         <translation>无法写入图片 %1。</translation>
     </message>
+    <message>
+        <source>What step %1 waits for does not come.</source>
+        <translation>步骤 %1 等待的内容没有出现。</translation>
+    </message>
 </context>
 <context>
     <name>VariablesScreen</name>
