@@ -26,10 +26,17 @@ namespace {
 const qint64 kProgramSpace = 31457280;
 const int kWideFrom = 400;
 const int kNarrowPixels = 12;
+// Farther away, a key is no longer seen to belong to its line.
+const int kReach = 800;
+
+int panelWidth()
+{
+    return QGuiApplication::primaryScreen()->availableSize().width();
+}
 
 bool isNarrow()
 {
-    return QGuiApplication::primaryScreen()->availableSize().width() < kWideFrom;
+    return panelWidth() < kWideFrom;
 }
 
 PanelKey *darkKey(Glyphs::Glyph glyph, const std::function<QString()> &text)
@@ -64,6 +71,7 @@ FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
         m_grid->setColumnMinimumWidth(1, 2 * Look::kTouch);
         m_grid->setColumnMinimumWidth(2, 2 * Look::kTouch);
     }
+    m_grid->setColumnMinimumWidth(3, qMax(0, panelWidth() - kReach));
     setLayout(m_grid);
 
     connect(m_plugKey, &PanelKey::clicked, this, &FilesScreen::plug);

@@ -22,6 +22,7 @@ const int kTitledWidth = 480;
 const int kKeyPanelWidth = 3 * Look::kTouch;
 const int kKeyGap = 4;
 const int kLargeIcon = 36;
+const int kKeyStretch = 1000;
 
 TListWidget *makeList(QStringList title)
 {
@@ -91,7 +92,13 @@ PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &
     key->setMaximumHeight(2 * Look::kTouch);
     if (m_keysBeside)
         key->setIconSize(QSize(kLargeIcon, kLargeIcon));
-    m_keyGrid->addWidget(key, m_keyCount / m_keyColumns, m_keyCount % m_keyColumns);
+    const int line = m_keyCount / m_keyColumns;
+    m_keyGrid->addWidget(key, line, m_keyCount % m_keyColumns);
+    if (m_keysBeside) {
+        // What is left when the keys are as high as they get lies below them, not between.
+        m_keyGrid->setRowStretch(line, kKeyStretch);
+        m_keyGrid->setRowStretch(line + 1, 1);
+    }
     ++m_keyCount;
     return key;
 }

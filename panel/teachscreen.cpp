@@ -20,6 +20,9 @@
 namespace {
 
 const int kKeyColumns = 2;
+// A panel with room for a line of the four that page beside the list.
+const int kRoomy = 1000;
+const int kRoomyKeyColumns = 4;
 const int kKeysInALine = 9;
 // A panel narrower than a line of them.
 const int kNarrow = 400;
@@ -29,7 +32,9 @@ int keyColumns(int width)
 {
     if (width < kNarrow)
         return kKeysInAShortLine;
-    return width < 760 ? kKeysInALine : kKeyColumns;
+    if (width < 760)
+        return kKeysInALine;
+    return width < kRoomy ? kKeyColumns : kRoomyKeyColumns;
 }
 
 QIcon libraryIcon(const char *name)
