@@ -3,6 +3,8 @@
 
 #include "hand.h"
 
+#include "panelglass.h"
+
 #include <QApplication>
 #include <QTouchDevice>
 #include <QWidget>
@@ -39,6 +41,31 @@ Wsi::TouchPoint touchPoint(int id, const QPoint &point, Qt::TouchPointState stat
     return touch;
 }
 
+/// The window that the platform knows when the whole panel is turned: all input is reported there.
+PanelGlass *glass()
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *window : windows) {
+        if (PanelGlass *found = qobject_cast<PanelGlass *>(window))
+            return found;
+    }
+    return nullptr;
+}
+
+/// Where the platform sees a point of the surface.
+QPoint onDisplay(const QPoint &point)
+{
+    const PanelGlass *turned = glass();
+    return turned ? turned->mapToGlobal(turned->toGlass(point).toPoint()) : point;
+}
+
+/// The window that the platform reports something about \a window as.
+QWindow *platformWindow(const QWidget *window)
+{
+    QWindow *turned = glass();
+    return turned ? turned : window->windowHandle();
+}
+
 } // namespace
 
 void Hand::press(const QPoint &point, Tool tool)
@@ -48,15 +75,15 @@ void Hand::press(const QPoint &point, Tool tool)
         return;
     if (!QApplication::activeModalWidget())
         activate(window);
-    m_target = window->windowHandle();
-    m_point = point;
+    m_target = platformWindow(window);
+    m_point = onDisplay(point);
     m_tool = tool;
     report(QEvent::MouseButtonPress, Qt::TouchPointPressed);
 }
 
 void Hand::move(const QPoint &point)
 {
-    m_point = point;
+    m_point = onDisplay(point);
     report(QEvent::MouseMove, Qt::TouchPointMoved);
 }
 
@@ -95,19 +122,26 @@ void Hand::wheel(const QPoint &point, int delta)
 void Hand::key(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString &text,
                bool isRepeat)
 {
-    if (QWindow *window = QGuiApplication::focusWindow())
+    QWindow *turned = glass();
+    if (QWindow *window = turned ? turned : QGuiApplication::focusWindow())
         Wsi::handleKeyEvent(window, type, key, modifiers, text, isRepeat);
+}
+
+bool Hand::isTurned()
+{
+    return glass();
 }
 
 void Hand::close(QWidget *window)
 {
-    if (window->windowHandle())
-        Wsi::handleCloseEvent(window->windowHandle());
+    if (QWindow *target = platformWindow(window))
+        Wsi::handleCloseEvent(target);
 }
 
 bool Hand::activate(QWidget *window)
 {
-    if (window->windowType() == Qt::Popup || !window->windowHandle()
+    // The glass sees to that itself.
+    if (glass() || window->windowType() == Qt::Popup || !window->windowHandle()
         || window->windowHandle() == QGuiApplication::focusWindow())
         return false;
     Wsi::handleWindowActivated(window->windowHandle(), Qt::ActiveWindowFocusReason);

@@ -32,7 +32,9 @@ public:
     /// Goes where the keyboard focus is.
     static void key(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
                     const QString &text, bool isRepeat = false);
-    /// What the window manager's close button does.
+    /// Whether the panel turns all that it shows.
+    static bool isTurned();
+    /// What the window manager's close button does. A turned panel has but one, the panel's.
     static void close(QWidget *window);
     /// What a window manager does on its own: gives a window the keyboard. False if it has it.
     static bool activate(QWidget *window);

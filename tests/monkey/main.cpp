@@ -69,6 +69,8 @@ int main(int argc, char **argv)
     const int shape = int(plan.seed % (sizeof shapes / sizeof shapes[0]));
     if (!arguments.contains("--size"))
         arguments << "--size" << shapes[shape][0] << "--rotation" << shapes[shape][1];
+    if (!arguments.contains("--rotate"))
+        arguments << "--rotate" << QByteArray::number(plan.seed % 4 * 90);
     const char *const languages[] = {"en", "de", "zh_CN", "it", "tr"};
     if (!arguments.contains("--language"))
         arguments << "--language" << languages[plan.seed % 5];

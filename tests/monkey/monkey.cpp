@@ -222,8 +222,8 @@ void Monkey::choose()
         Hand::wheel(randomPoint(), chance(50) ? 120 : -120);
     else if (dice < 98)
         changeStick();
-    else if (QWidget *modal = QApplication::activeModalWidget())
-        Hand::close(modal);
+    else if (QApplication::activeModalWidget() && !Hand::isTurned())
+        Hand::close(QApplication::activeModalWidget());
 }
 
 void Monkey::then(const Step &step)
