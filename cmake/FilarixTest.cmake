@@ -18,14 +18,16 @@ function(filarix_set_timeout name seconds)
 endfunction()
 
 # filarix_add_test(NAME tst_x SOURCES tst_x.cpp [LIBRARIES ...] [TIMEOUT seconds] [NO_LIBRARY]
-#                  [NO_ACCESS_CONTROL])
+#                  [NO_ACCESS_CONTROL] [FAST])
 #
 # One QtTest program, run in a mount namespace of its own with a private home, "/mnt/Storage",
 # "/tmp" and "/usr/share/qt". It links the library's object code and the recording device library;
 # with NO_LIBRARY just what LIBRARIES names. With NO_ACCESS_CONTROL the program may look at what a
-# class keeps to itself.
+# class keeps to itself. FAST tests are those that ./test passes under the sanitizers, too: where
+# memory is handed around most, in programs that are built and run in seconds.
+add_custom_target(filarix-fast-tests)
 function(filarix_add_test)
-  cmake_parse_arguments(arg "NO_LIBRARY;NO_ACCESS_CONTROL" "NAME;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(arg "NO_LIBRARY;NO_ACCESS_CONTROL;FAST" "NAME;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
@@ -43,4 +45,8 @@ function(filarix_add_test)
   add_test(NAME ${arg_NAME}
     COMMAND ${FILARIX_TEST_LAUNCHER} $<TARGET_FILE:${arg_NAME}>)
   filarix_set_timeout(${arg_NAME} ${arg_TIMEOUT})
+  if(arg_FAST)
+    set_property(TEST ${arg_NAME} APPEND PROPERTY LABELS fast)
+    add_dependencies(filarix-fast-tests ${arg_NAME})
+  endif()
 endfunction()

@@ -14,6 +14,7 @@
 # FILARIX_SANDBOX_SCREEN, for example 480x272, is the size of the screen; without it there is
 # Qt's offscreen one.
 set -euo pipefail
+leaks=$(dirname "$(readlink -f "$0")")/leaks.supp
 
 if ! command -v bwrap >/dev/null; then
     echo "sandbox: bwrap (package bubblewrap) is missing" >&2
@@ -42,6 +43,12 @@ args+=(
     --dir /tmp/home
     --perms 0700 --dir /tmp/runtime
     --perms 1777 --dir /tmp/.X11-unix
+)
+# For programs that are built with the sanitizers.
+args+=(
+    --ro-bind "$leaks" /run/leaks.supp
+    --setenv LSAN_OPTIONS suppressions=/run/leaks.supp:print_suppressions=0
+    --setenv UBSAN_OPTIONS print_stacktrace=1
 )
 # The build tree may lie below a folder that was just replaced.
 program=$(readlink -f "$1")

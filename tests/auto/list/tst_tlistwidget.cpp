@@ -549,9 +549,9 @@ void TestTListWidget::shortListWithTitleIgnoresPaging()
     QCOMPARE(program.page(), numbers(1, 5));
     void (TListWidget::*const commands[])() = {&TListWidget::home, &TListWidget::end,
                                                &TListWidget::prevPage, &TListWidget::nextPage};
-    for (int k = 0; k < 4; ++k) {
+    for (void (TListWidget::*const command)() : commands) {
         program.smear(3);
-        (program.get()->*commands[k])();
+        (program.get()->*command)();
         QVERIFY(program.isSmeared(3));
         QCOMPARE(program.startLine(), 1);
     }
