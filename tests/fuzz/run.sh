@@ -14,7 +14,11 @@ cd "$here/../.."
 
 seconds=${1:-30}
 [ $# -eq 0 ] || shift
-[ $# -gt 0 ] || set -- connections dataeditor keypad linefilter names preproccess readgcode rows
+if [ $# -eq 0 ]; then
+    for folder in "$here"/corpus/*/; do
+        set -- "$@" "$(basename "$folder")"
+    done
+fi
 
 cmake --preset fuzz
 cmake --build --preset fuzz --parallel "$(nproc)"
@@ -23,13 +27,13 @@ build=$PWD/build/fuzz/tests/fuzz
 mkdir -p "$work"
 
 # Leaks are looked for by ./test --sanitize.
-export ASAN_OPTIONS=detect_leaks=0:detect_odr_violation=0
+export ASAN_OPTIONS=detect_leaks=0:detect_odr_violation=0:malloc_context_size=6
 
 try() {
     local name=$1
     mkdir -p "$work/$name"
     FILARIX_SANDBOX_WRITABLE=$work/$name "$here/../support/sandbox.sh" "$build/fuzz-$name" \
-        -max_total_time="$seconds" -timeout=25 -rss_limit_mb=2048 -max_len=2048 \
+        -max_total_time="$seconds" -timeout=25 -rss_limit_mb=2048 -max_len=1024 -len_control=0 \
         -detect_leaks=0 -print_final_stats=1 -artifact_prefix="$work/$name/finding-" \
         "$work/$name" "$here/corpus/$name" >"$work/$name.log" 2>&1
 }
