@@ -94,9 +94,14 @@ DeviceWatch::DeviceWatch(const Look &look, QObject *parent)
 DeviceWatch::~DeviceWatch()
 {
     m_looker->stop();
-    // One that a device keeps waiting is left to end with the program.
-    if (m_looker->wait(kPartingMs))
+    if (m_looker->wait(kPartingMs)) {
         delete m_looker;
+        return;
+    }
+    // One that a device keeps waiting goes when it is let go, or ends with the program.
+    connect(m_looker, &QThread::finished, m_looker, &QObject::deleteLater);
+    if (m_looker->isFinished())
+        m_looker->deleteLater();
 }
 
 DeviceState DeviceWatch::lookAt(const QString &plcDir, const QString &programDir)

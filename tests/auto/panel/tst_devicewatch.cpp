@@ -131,7 +131,12 @@ void TestDeviceWatch::deviceThatKeepsItWaitingStopsNothing()
     parting.start();
     watch.reset();
     QVERIFY(parting.elapsed() < 4000);
+
+    // And nothing is left behind once the device answers.
+    const QWeakPointer<QSemaphore> heldByTheLook = gate;
     gate->release(1);
+    gate.clear();
+    QTRY_VERIFY(heldByTheLook.isNull());
 }
 
 FILARIX_TEST_MAIN(TestDeviceWatch)
