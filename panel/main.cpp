@@ -143,7 +143,7 @@ int runPanel(const Options &options)
     new FieldKeypad(&panel);
     new DialogKeeper(&panel);
     MachineData machine;
-    ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, &machine);
+    ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, ownDir, &machine);
     panel.addScreen(
         programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
     TeachScreen *teach = new TeachScreen(panel.size(), ownDir, &machine);

@@ -57,7 +57,7 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
         makeMenu();
 
     m_messages = new MessageBar(m_stack);
-    connect(m_messages, &MessageBar::stopped, this, [this] { currentScreen()->stopWork(); });
+    connect(m_messages, &MessageBar::stopped, this, [this] { m_working->stopWork(); });
 
     // Over everything while a dialog waits for its answer, so that the dialog stands out.
     m_shade = new QWidget(this);
@@ -184,7 +184,10 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
 
     connect(screen, &PanelScreen::titleChanged, this, &PanelWindow::showTitle);
     connect(screen, &PanelScreen::told, this, &PanelWindow::tell);
-    connect(screen, &PanelScreen::worked, m_messages, &MessageBar::showWork);
+    connect(screen, &PanelScreen::worked, this, [this, screen](const QString &text, int percent) {
+        m_working = screen;
+        m_messages->showWork(text, percent);
+    });
     screen->refreshStatus();
     if (index == 0)
         showScreen(0);

@@ -96,6 +96,8 @@ private:
 
     const Shape m_shape;
     QList<Entry> m_entries;
+    /// Whose work the message bar shows; the operator may look at another screen meanwhile.
+    PanelScreen *m_working = nullptr;
     QStackedWidget *m_stack;
     QWidget *m_menu = nullptr;
     QGridLayout *m_tabs;

@@ -4,159 +4,217 @@
 #include "plctransfer.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
-#include <cstring>
 
 const int PlcTransfer::kPiece;
 const qint64 PlcTransfer::kLargestProgram;
 
+/// The transfer itself, in the thread.
+class PlcTransfer::Task : public FileTask
+{
+public:
+    Task(const QString &programPath, const QString &copyPath, const QString &dropDir)
+        : m_program(programPath)
+        , m_source(copyPath.isEmpty() ? programPath : copyPath)
+        , m_dropDir(dropDir)
+        , m_targetPath(QDir(dropDir).filePath(m_program.fileName()))
+    {}
+
+    bool step() override;
+    int percent() const override;
+    void close() override;
+
+    QString error() const { return m_error; }
+    QString targetPath() const { return m_targetPath; }
+    qint64 size() const { return m_size; }
+    /// The program has taken its name in the PLC's folder.
+    bool hasArrived() const { return m_stage >= OpeningArrived; }
+
+private:
+    enum Stage { Opening, Sending, Committing, OpeningArrived, Comparing };
+
+    bool open();
+    bool sendPiece();
+    bool commit();
+    bool openArrived();
+    bool comparePiece();
+    bool fail(const QString &error);
+
+    const QFileInfo m_program;
+    QFile m_source;
+    const QString m_dropDir;
+    const QString m_targetPath;
+    QScopedPointer<QSaveFile> m_target;
+    QFile m_arrived;
+    Stage m_stage = Opening;
+    qint64 m_size = 0;
+    qint64 m_position = 0;
+    QString m_error;
+};
+
+bool PlcTransfer::Task::step()
+{
+    switch (m_stage) {
+    case Opening:
+        return open();
+    case Sending:
+        return sendPiece();
+    case Committing:
+        return commit();
+    case OpeningArrived:
+        return openArrived();
+    case Comparing:
+        return comparePiece();
+    }
+    return false;
+}
+
+bool PlcTransfer::Task::open()
+{
+    if (m_program.filePath().isEmpty())
+        return fail(tr("There is no program to download yet. Save it under a name first."));
+    const QString name = m_program.fileName();
+    const QFileInfo source(m_source.fileName());
+    if (!source.exists())
+        return fail(
+            tr("The program %1 is gone from the panel. Save it again, then download.").arg(name));
+    if (!source.isFile())
+        return fail(tr("%1 is not a program file.").arg(name));
+    if (!QFileInfo(m_dropDir).isDir())
+        return fail(tr("The PLC does not answer: there is no folder %1.").arg(m_dropDir));
+    if (QFileInfo(m_dropDir).canonicalFilePath() == QFileInfo(m_program.path()).canonicalFilePath())
+        return fail(tr("The PLC folder is the program directory itself. Choose another one."));
+    if (source.size() > kLargestProgram)
+        return fail(tr("The program %1 is larger than the PLC takes (%2 MB).")
+                        .arg(name)
+                        .arg(kLargestProgram / (1024 * 1024)));
+    if (!m_source.open(QIODevice::ReadOnly))
+        return fail(tr("The program %1 cannot be read: %2.").arg(name, m_source.errorString()));
+    m_size = m_source.size();
+    m_target.reset(new QSaveFile(m_targetPath));
+    if (!m_target->open(QIODevice::WriteOnly))
+        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
+    m_stage = Sending;
+    return true;
+}
+
+bool PlcTransfer::Task::sendPiece()
+{
+    const QByteArray piece = m_source.read(std::min<qint64>(kPiece, m_size - m_position));
+    if (piece.isEmpty() && m_position < m_size)
+        return fail(tr("The program %1 cannot be read: %2.")
+                        .arg(m_program.fileName(), m_source.errorString()));
+    if (m_target->write(piece) != piece.size())
+        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
+    m_position += piece.size();
+    if (m_position == m_size)
+        m_stage = Committing;
+    return true;
+}
+
+bool PlcTransfer::Task::commit()
+{
+    if (!m_target->commit())
+        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
+    m_position = 0;
+    m_stage = OpeningArrived;
+    return true;
+}
+
+bool PlcTransfer::Task::openArrived()
+{
+    m_arrived.setFileName(m_targetPath);
+    if (!m_arrived.open(QIODevice::ReadOnly) || !m_source.seek(0))
+        return fail(
+            tr("What arrived in the PLC cannot be read back: %1.").arg(m_arrived.errorString()));
+    m_stage = Comparing;
+    return true;
+}
+
+bool PlcTransfer::Task::comparePiece()
+{
+    // At the end of the program one more read has to find the end of the file.
+    const QByteArray piece = m_arrived.read(kPiece);
+    const QByteArray sent = m_source.read(std::min<qint64>(kPiece, m_size - m_position));
+    if (piece != sent) {
+        m_arrived.close();
+        QFile::remove(m_targetPath);
+        return fail(tr("What arrived in the PLC differs from what was sent. It was taken out "
+                       "again; download once more."));
+    }
+    m_position += piece.size();
+    return !piece.isEmpty();
+}
+
+// Both stages count alike.
+int PlcTransfer::Task::percent() const
+{
+    const double part = m_size == 0 ? 1.0 : double(m_position) / m_size;
+    return int((hasArrived() ? 50 : 0) + part * 50);
+}
+
+void PlcTransfer::Task::close()
+{
+    m_source.close();
+    m_arrived.close();
+    m_target.reset();
+}
+
+bool PlcTransfer::Task::fail(const QString &error)
+{
+    m_error = error;
+    return false;
+}
+
 PlcTransfer::PlcTransfer(const QString &dropDir, QObject *parent)
     : QObject(parent), m_dropDir(dropDir)
 {
-    connect(&m_timer, &QTimer::timeout, this, &PlcTransfer::step);
+    connect(&m_work, &FileWork::progressed, this, &PlcTransfer::progress);
+    connect(&m_work, &FileWork::ended, this, &PlcTransfer::end);
+    connect(&m_work, &FileWork::stopped, this, &PlcTransfer::endStopped);
+    connect(&m_work, &FileWork::stalled, this, &PlcTransfer::endStalled);
 }
 
 PlcTransfer::~PlcTransfer() = default;
 
-void PlcTransfer::start(const QString &programPath)
+void PlcTransfer::start(const QString &programPath, const QString &copyPath)
 {
     if (isRunning())
         return;
-    m_programPath = programPath;
-    m_stage = Opening;
-    m_timer.start(0);
+    m_task = std::make_shared<Task>(programPath, copyPath, m_dropDir);
+    m_work.start(m_task);
 }
 
 void PlcTransfer::stop()
 {
-    if (isRunning())
-        fail(tr("The download was stopped. The PLC keeps what it had."));
-}
-
-void PlcTransfer::step()
-{
-    switch (m_stage) {
-    case Idle:
-        break;
-    case Opening:
-        open();
-        break;
-    case Sending:
-        sendPiece();
-        break;
-    case Comparing:
-        comparePiece();
-        break;
-    }
-}
-
-void PlcTransfer::open()
-{
-    if (m_programPath.isEmpty())
-        return fail(tr("There is no program to download yet. Save it under a name first."));
-    const QFileInfo program(m_programPath);
-    if (!program.exists())
-        return fail(tr("The program %1 is gone from the panel. Save it again, then download.")
-                        .arg(program.fileName()));
-    if (!program.isFile())
-        return fail(tr("%1 is not a program file.").arg(program.fileName()));
-    if (!QFileInfo(m_dropDir).isDir())
-        return fail(tr("The PLC does not answer: there is no folder %1.").arg(m_dropDir));
-    if (QFileInfo(m_dropDir).canonicalFilePath() == QFileInfo(program.path()).canonicalFilePath())
-        return fail(tr("The PLC folder is the program directory itself. Choose another one."));
-    if (program.size() > kLargestProgram)
-        return fail(tr("The program %1 is larger than the PLC takes (%2 MB).")
-                        .arg(program.fileName())
-                        .arg(kLargestProgram / (1024 * 1024)));
-
-    QFile source(m_programPath);
-    if (source.open(QIODevice::ReadOnly))
-        m_program = source.readAll();
-    if (source.error() != QFileDevice::NoError)
-        return fail(
-            tr("The program %1 cannot be read: %2.").arg(program.fileName(), source.errorString()));
-    m_target.reset(new QSaveFile(targetPath()));
-    if (!m_target->open(QIODevice::WriteOnly))
-        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
-    m_stage = Sending;
-    report();
-}
-
-// Whoever listens to the progress may stop the transfer: report() comes last everywhere.
-void PlcTransfer::sendPiece()
-{
-    const int length = std::min(kPiece, m_program.size() - m_position);
-    if (m_target->write(m_program.constData() + m_position, length) != length)
-        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
-    m_position += length;
-    if (m_position == m_program.size())
-        return openArrived();
-    report();
-}
-
-void PlcTransfer::openArrived()
-{
-    if (!m_target->commit())
-        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
-    m_arrived.setFileName(targetPath());
-    if (!m_arrived.open(QIODevice::ReadOnly))
-        return fail(
-            tr("What arrived in the PLC cannot be read back: %1.").arg(m_arrived.errorString()));
-    m_position = 0;
-    m_stage = Comparing;
-    report();
-}
-
-void PlcTransfer::comparePiece()
-{
-    const QByteArray piece = m_arrived.read(kPiece);
-    const int length = std::min(kPiece, m_program.size() - m_position);
-    // At the end of the program one more read has to find the end of the file.
-    const bool equal =
-        piece.size() == length
-        && std::memcmp(piece.constData(), m_program.constData() + m_position, size_t(length)) == 0;
-    if (!equal) {
-        m_arrived.close();
-        QFile::remove(targetPath());
-        return fail(tr("What arrived in the PLC differs from what was sent. It was taken out "
-                       "again; download once more."));
-    }
-    m_position += length;
-    if (length > 0)
-        return report();
-
-    const QString target = targetPath();
-    const qint64 bytes = m_program.size();
-    end();
-    Q_EMIT finished(target, bytes);
-}
-
-// Both stages count alike.
-void PlcTransfer::report()
-{
-    const double part = m_program.isEmpty() ? 1.0 : double(m_position) / m_program.size();
-    Q_EMIT progress(int((m_stage == Comparing ? 50 : 0) + part * 50));
+    m_work.stop();
 }
 
 void PlcTransfer::end()
 {
-    m_timer.stop();
-    m_stage = Idle;
-    m_arrived.close();
-    m_target.reset();
-    m_program = QByteArray();
-    m_position = 0;
+    const std::shared_ptr<Task> task = std::move(m_task);
+    if (task->error().isEmpty())
+        Q_EMIT finished(task->targetPath(), task->size());
+    else
+        Q_EMIT failed(task->error());
 }
 
-void PlcTransfer::fail(const QString &reason)
+void PlcTransfer::endStopped()
 {
-    end();
-    Q_EMIT failed(reason);
+    const bool hasArrived = m_task->hasArrived();
+    m_task.reset();
+    Q_EMIT failed(hasArrived ? tr("The download was stopped before the program in the PLC was "
+                                  "compared. Download it once more.")
+                             : tr("The download was stopped. The PLC keeps what it had."));
 }
 
-QString PlcTransfer::targetPath() const
+void PlcTransfer::endStalled()
 {
-    return QDir(m_dropDir).filePath(QFileInfo(m_programPath).fileName());
+    m_task.reset();
+    Q_EMIT failed(tr("The PLC stopped answering in the middle of the download. Check the PLC and "
+                     "its cable, then download once more."));
 }

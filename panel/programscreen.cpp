@@ -4,6 +4,7 @@
 #include "programscreen.h"
 
 #include "barpager.h"
+#include "downloadquestion.h"
 #include "look.h"
 #include "machinedata.h"
 #include "panelkey.h"
@@ -24,6 +25,9 @@
 #include <QWindow>
 
 namespace {
+
+// Work that takes less is over before anybody has read that it is done.
+const int kPatienceMs = 300;
 
 QString findDialogText(const char *source)
 {
@@ -64,13 +68,14 @@ WMMainWindow *makeWindow(QWidget *parent, int rotation, QSet<QToolButton *> *spa
 
 } // namespace
 
-ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineData *machine,
-                             QWidget *parent)
+ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString &ownDir,
+                             const MachineData *machine, QWidget *parent)
     : PanelScreen(parent)
     , m_machine(machine)
     , m_window(makeWindow(this, rotation, &m_spareButtons))
     , m_editor(m_window->findChild<WGCodeEditer *>())
     , m_transfer(new PlcTransfer(plcDir, this))
+    , m_snapshot(new ProgramSnapshot(ownDir + QLatin1String("/outgoing"), this))
 {
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -92,15 +97,15 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const MachineD
 
     connect(m_window, &WMMainWindow::signal_download, this, &ProgramScreen::startDownload);
     connect(m_window, &WMMainWindow::signal_copyFromTag, this, &ProgramScreen::insertTaughtPoint);
-    connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showProgress);
-    connect(m_transfer, &PlcTransfer::finished, this, [this](const QString &target, qint64 bytes) {
-        endDownload(tr("%1 is in the PLC: %2 bytes, compared.")
-                        .arg(QFileInfo(target).fileName())
-                        .arg(bytes),
-                    Good);
-    });
+    connect(m_snapshot, &ProgramSnapshot::progress, this, &ProgramScreen::showCopying);
+    connect(m_snapshot, &ProgramSnapshot::taken, this, &ProgramScreen::askForDownload);
+    connect(m_snapshot, &ProgramSnapshot::failed, this,
+            [this](const QString &reason) { endDownload(reason, Warning); });
+    connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showSending);
+    connect(m_transfer, &PlcTransfer::finished, m_snapshot, &ProgramSnapshot::compare);
     connect(m_transfer, &PlcTransfer::failed, this,
             [this](const QString &reason) { endDownload(reason, Warning); });
+    connect(m_snapshot, &ProgramSnapshot::compared, this, &ProgramScreen::endSent);
 }
 
 ProgramScreen::~ProgramScreen()
@@ -139,7 +144,7 @@ QList<PanelKey *> ProgramScreen::keys()
 
 bool ProgramScreen::mayClose()
 {
-    if (m_transfer->isRunning()) {
+    if (m_window->isDownloading()) {
         Q_EMIT told(tr("A download is running. Let it end, or stop it first."), Warning);
         return false;
     }
@@ -181,28 +186,63 @@ void ProgramScreen::retranslate()
 
 void ProgramScreen::stopWork()
 {
+    m_snapshot->stop();
     m_transfer->stop();
 }
 
 void ProgramScreen::startDownload(const QString &path)
 {
-    m_sending = QFileInfo(path).fileName();
     m_window->setDownloading(true);
-    m_transfer->start(path);
+    m_copyingFor.start();
+    m_snapshot->take(path);
 }
 
-void ProgramScreen::showProgress(int percent)
+void ProgramScreen::askForDownload()
 {
-    Q_EMIT worked(tr("%1 goes to the PLC: %2 %").arg(m_sending).arg(percent), percent);
-    refreshStatus();
+    DownloadQuestion question(m_snapshot->facts());
+    if (question.exec() != QDialog::Accepted)
+        return endDownload(tr("Nothing was sent. The PLC keeps what it had."), Info);
+    m_transfer->start(m_snapshot->programPath(), m_snapshot->copyPath());
 }
 
-// Every way out of a transfer comes through here, so the window's key is always given back.
+// Most programs are copied in the twinkling of an eye.
+void ProgramScreen::showCopying(int percent)
+{
+    if (m_copyingFor.elapsed() >= kPatienceMs)
+        Q_EMIT worked(tr("The program is made ready: %1 %").arg(percent), percent);
+}
+
+void ProgramScreen::showSending(int percent)
+{
+    Q_EMIT worked(tr("%1 goes to the PLC: %2 %").arg(m_snapshot->facts().name).arg(percent),
+                  percent);
+}
+
+void ProgramScreen::endSent(ProgramSnapshot::Verdict verdict)
+{
+    const ProgramFacts facts = m_snapshot->facts();
+    switch (verdict) {
+    case ProgramSnapshot::Same:
+        return endDownload(
+            tr("%1 is in the PLC: %2 bytes, compared.").arg(facts.name).arg(facts.bytes), Good);
+    case ProgramSnapshot::Changed:
+        return endDownload(tr("%1 is in the PLC as it was shown, %2. On the panel it has changed "
+                              "since then: download it again to send the new one.")
+                               .arg(facts.name, facts.checksum()),
+                           Warning);
+    case ProgramSnapshot::Gone:
+        return endDownload(tr("%1 is in the PLC as it was shown, %2. On the panel it is gone.")
+                               .arg(facts.name, facts.checksum()),
+                           Warning);
+    }
+}
+
+// Every way out of a download comes through here, so the window's key is always given back.
 void ProgramScreen::endDownload(const QString &text, Tone tone)
 {
+    m_snapshot->drop();
     m_window->setDownloading(false);
     Q_EMIT told(text, tone);
-    refreshStatus();
 }
 
 void ProgramScreen::insertTaughtPoint()
@@ -236,12 +276,4 @@ void ProgramScreen::find()
         dialog->move(corner.x() - dialog->width(), corner.y() - dialog->height());
         dialog->raise();
     }
-}
-
-void ProgramScreen::refreshStatus()
-{
-    const bool reachable = QFileInfo(m_transfer->dropDir()).isDir();
-    Q_EMIT statusChanged(tr("PLC"), m_transfer->isRunning() ? tr("busy")
-                                    : reachable             ? tr("ready")
-                                                            : tr("away"));
 }

@@ -5,7 +5,9 @@
 #define PROGRAMSCREEN_H
 
 #include "panelscreen.h"
+#include "programsnapshot.h"
 
+#include <QElapsedTimer>
 #include <QSet>
 
 class MachineData;
@@ -18,26 +20,31 @@ class WMMainWindow;
 ///
 /// The host's part is the download, the line that Tag copies, the modified mark, and keys for what
 /// no bar of the window holds.
+///
+/// A download goes in three steps, each beside the event loop: a private copy of the program is
+/// taken, the operator is asked whether it is the right one, and the copy is sent. In the end the
+/// operator is told if the program itself has become another one meanwhile.
 class ProgramScreen : public PanelScreen
 {
     Q_OBJECT
 
 public:
-    /// Programs go to the folder \a plcDir. \a machine must outlive the screen.
-    ProgramScreen(int rotation, const QString &plcDir, const MachineData *machine,
-                  QWidget *parent = nullptr);
+    /// Programs go to the folder \a plcDir; their copies wait below \a ownDir, the host's own.
+    /// \a machine must outlive the screen.
+    ProgramScreen(int rotation, const QString &plcDir, const QString &ownDir,
+                  const MachineData *machine, QWidget *parent = nullptr);
     ~ProgramScreen() override;
 
     QString title() const override;
     bool hasChanges() const override;
     QList<PanelKey *> keys() override;
     bool mayClose() override;
-    void refreshStatus() override;
 
     /// The library's window.
     WMMainWindow *programWindow() const { return m_window; }
     WGCodeEditer *editor() const { return m_editor; }
     PlcTransfer *transfer() const { return m_transfer; }
+    ProgramSnapshot *snapshot() const { return m_snapshot; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -49,7 +56,10 @@ protected:
 
 private:
     void startDownload(const QString &path);
-    void showProgress(int percent);
+    void askForDownload();
+    void showCopying(int percent);
+    void showSending(int percent);
+    void endSent(ProgramSnapshot::Verdict verdict);
     void endDownload(const QString &text, Tone tone);
     void insertTaughtPoint();
     void find();
@@ -59,7 +69,8 @@ private:
     WMMainWindow *m_window;
     WGCodeEditer *m_editor;
     PlcTransfer *m_transfer;
-    QString m_sending;
+    ProgramSnapshot *m_snapshot;
+    QElapsedTimer m_copyingFor;
 };
 
 #endif // PROGRAMSCREEN_H

@@ -165,7 +165,15 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
         Q_EMIT screen->programWindow()->signal_download(Samples::programDir()
                                                         + QLatin1String("/endurance-run.cnc"));
     });
-    waitUntil([screen] { return !screen->transfer()->isRunning(); });
+    waitUntil([] { return topLevel("DownloadQuestion") != nullptr; });
+    picture(QLatin1String("download-question"));
+    press([] {
+        QWidget *question = topLevel("DownloadQuestion");
+        return static_cast<QWidget *>(
+            question ? question->findChild<QPushButton *>(QLatin1String("send")) : nullptr);
+    });
+    then([] {});
+    waitUntil([window] { return !window->isDownloading(); });
     picture(QLatin1String("download-done"));
     then([window] { Q_EMIT window->signal_download(QString()); });
     picture(QLatin1String("download-refused"));

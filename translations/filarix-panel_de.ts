@@ -52,6 +52,37 @@
     </message>
 </context>
 <context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Download</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>Dieses Programm zur SPS senden?</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Prüfsumme</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -299,6 +330,14 @@
         <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
         <translation>In der SPS ist etwas anderes angekommen als gesendet. Es wurde wieder entfernt; bitte erneut senden.</translation>
     </message>
+    <message>
+        <source>The download was stopped before the program in the PLC was compared. Download it once more.</source>
+        <translation>Vor dem Vergleich mit der SPS gestoppt. Das Programm erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
+        <translation>Die SPS antwortet mitten im Senden nicht mehr. SPS und Kabel prüfen, dann erneut senden.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -347,20 +386,55 @@
         <translation>Punkt %1 „%2“ eingefügt: %3</translation>
     </message>
     <message>
-        <source>PLC</source>
-        <translation>SPS</translation>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>Nichts gesendet. Die SPS behält ihr bisheriges Programm.</translation>
     </message>
     <message>
-        <source>busy</source>
-        <translation>belegt</translation>
+        <source>The program is made ready: %1 %</source>
+        <translation>Das Programm wird vorbereitet: %1 %</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>bereit</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel hat es sich seither geändert: erneut senden, um das neue zu senden.</translation>
     </message>
     <message>
-        <source>away</source>
-        <translation>fehlt</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel ist es nicht mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramSnapshot</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be held for the download: %2.</source>
+        <translation>Das Programm %1 lässt sich nicht zum Senden bereitlegen: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is being written. Download it when that is over.</source>
+        <translation>Das Programm %1 wird gerade geschrieben. Danach senden.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr. Panel aus- und einschalten, dann erneut senden.</translation>
     </message>
 </context>
 <context>

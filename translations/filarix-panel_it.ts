@@ -52,6 +52,37 @@
     </message>
 </context>
 <context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Download</source>
+        <translation>Invio</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>Inviare questo programma al PLC?</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Checksum</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Invia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -299,6 +330,14 @@
         <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
         <translation>Quanto arrivato al PLC è diverso da quanto inviato. È stato tolto; inviare di nuovo.</translation>
     </message>
+    <message>
+        <source>The download was stopped before the program in the PLC was compared. Download it once more.</source>
+        <translation>Invio interrotto prima del confronto nel PLC. Inviare di nuovo il programma.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
+        <translation>Il PLC non risponde più durante l&apos;invio. Controllare il PLC e il cavo, poi inviare di nuovo.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -347,20 +386,55 @@
         <translation>Inserito il punto %1 &quot;%2&quot;: %3</translation>
     </message>
     <message>
-        <source>PLC</source>
-        <translation>PLC</translation>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>Nulla è stato inviato. Il PLC conserva ciò che aveva.</translation>
     </message>
     <message>
-        <source>busy</source>
-        <translation>occupato</translation>
+        <source>The program is made ready: %1 %</source>
+        <translation>Preparazione del programma: %1 %</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>pronto</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 è nel PLC come mostrato, %2. Sul pannello è cambiato da allora: inviarlo di nuovo per inviare il nuovo.</translation>
     </message>
     <message>
-        <source>away</source>
-        <translation>manca</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 è nel PLC come mostrato, %2. Sul pannello non c&apos;è più.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramSnapshot</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il programma %1: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be held for the download: %2.</source>
+        <translation>Impossibile tenere pronto il programma %1 per l&apos;invio: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is being written. Download it when that is over.</source>
+        <translation>Il programma %1 è in fase di scrittura. Inviarlo quando è finita.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
+        <translation>La memoria del pannello non risponde più. Spegnere e riaccendere il pannello, poi inviare di nuovo.</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,37 @@
     </message>
 </context>
 <context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Download</source>
+        <translation>Yükleme</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>Bu program PLC&apos;ye yüklensin mi?</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Satırlar</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Sağlama</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Yükle</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -299,6 +330,14 @@
         <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
         <translation>PLC&apos;ye ulaşan, gönderilenden farklı. Geri alındı; yeniden yükleyin.</translation>
     </message>
+    <message>
+        <source>The download was stopped before the program in the PLC was compared. Download it once more.</source>
+        <translation>Yükleme, PLC&apos;deki program karşılaştırılmadan durduruldu. Yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
+        <translation>PLC yükleme sırasında yanıt vermeyi kesti. PLC&apos;yi ve kablosunu denetleyip yeniden yükleyin.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -347,20 +386,55 @@
         <translation>%1 &quot;%2&quot; noktası eklendi: %3</translation>
     </message>
     <message>
-        <source>PLC</source>
-        <translation>PLC</translation>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>Hiçbir şey yüklenmedi. PLC eski içeriğini korur.</translation>
     </message>
     <message>
-        <source>busy</source>
-        <translation>meşgul</translation>
+        <source>The program is made ready: %1 %</source>
+        <translation>Program hazırlanıyor: %1 %</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>hazır</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde o zamandan beri değişti: yenisi için yeniden yükleyin.</translation>
     </message>
     <message>
-        <source>away</source>
-        <translation>yok</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde artık yok.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramSnapshot</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Henüz yüklenecek program yok. Önce bir adla kaydedin.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>%1 programı panelde yok. Yeniden kaydedip yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 bir program dosyası değil.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>%1 programı okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be held for the download: %2.</source>
+        <translation>%1 programı yükleme için hazır tutulamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is being written. Download it when that is over.</source>
+        <translation>%1 programı şu anda yazılıyor. Bitince yükleyin.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
+        <translation>Panelin belleği yanıt vermiyor. Paneli kapatıp açın, sonra yeniden yükleyin.</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,37 @@
     </message>
 </context>
 <context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>将此程序下载到 PLC?</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>行数</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>校验码</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -299,6 +330,14 @@
         <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
         <translation>PLC 收到的内容与发送的不同, 已被移除; 请重新下载。</translation>
     </message>
+    <message>
+        <source>The download was stopped before the program in the PLC was compared. Download it once more.</source>
+        <translation>下载在校验之前停止。请重新下载。</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
+        <translation>下载途中 PLC 停止响应。请检查 PLC 和电缆, 然后重新下载。</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -347,20 +386,55 @@
         <translation>已插入点 %1“%2”: %3</translation>
     </message>
     <message>
-        <source>PLC</source>
-        <translation>PLC</translation>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>未下载。PLC 保持原有内容。</translation>
     </message>
     <message>
-        <source>busy</source>
-        <translation>忙</translation>
+        <source>The program is made ready: %1 %</source>
+        <translation>正在准备程序: %1 %</translation>
     </message>
     <message>
-        <source>ready</source>
-        <translation>就绪</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 已按显示的内容下载到 PLC, %2。面板上的程序此后已更改: 如需新程序请重新下载。</translation>
     </message>
     <message>
-        <source>away</source>
-        <translation>离线</translation>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 已按显示的内容下载到 PLC, %2。面板上已没有此程序。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramSnapshot</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>还没有可下载的程序。请先命名保存。</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>面板上已没有程序 %1。请重新保存后下载。</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 不是程序文件。</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>无法读取程序 %1: %2。</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be held for the download: %2.</source>
+        <translation>无法为下载准备程序 %1: %2。</translation>
+    </message>
+    <message>
+        <source>The program %1 is being written. Download it when that is over.</source>
+        <translation>程序 %1 正在写入。请稍后下载。</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>下载已停止。PLC 保持原有内容。</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
+        <translation>面板存储器停止响应。请关闭面板后重新打开, 再重新下载。</translation>
     </message>
 </context>
 <context>

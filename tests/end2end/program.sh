@@ -5,8 +5,8 @@
 # program.sh PANEL LOCATOR
 #
 # The first minutes of an operator: open a long program, go up and down, insert a line, write it on the
-# keypad, save it under a new name, and send it to the PLC. Then the stored file and the PLC's are
-# compared byte by byte with what they have to hold.
+# keypad, save it under a new name, and send it to the PLC after a look at its checksum. Then the stored
+# file and the PLC's are compared byte by byte with what they have to hold.
 # shellcheck source-path=SCRIPTDIR source=desk.sh
 source "$(dirname "$(readlink -f "$0")")/desk.sh"
 
@@ -68,6 +68,12 @@ desk_until 20 test -s "$programs/rotor" || desk_fail "nothing was saved"
 expect_same /tmp/expected "$programs/rotor" "the saved program"
 
 touch_text "D/L"
+# The question shows what a PC says of the file.
+checksum=$(sha256sum /tmp/expected | tr a-f A-F | cut -c1-8)
+expect_text "${checksum:0:4} ${checksum:4:4}" Download
+desk_picture program-question.png
+touch_text Send Download
+expect_gone Send Download
 desk_until 30 test -s "$plc/rotor" || desk_fail "nothing arrived at the PLC"
 desk_until 30 cmp -s /tmp/expected "$plc/rotor" || true
 expect_same /tmp/expected "$plc/rotor" "the program in the PLC"

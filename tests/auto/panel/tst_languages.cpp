@@ -72,7 +72,8 @@ struct Panel
     explicit Panel(const QSize &size, Languages *languages) : stick(QString()), window(size)
     {
         const QString ownDir = FilarixTest::home() + QLatin1String("/hmi");
-        program = new ProgramScreen(0, FilarixTest::home() + QLatin1String("/plc"), &machine);
+        program =
+            new ProgramScreen(0, FilarixTest::home() + QLatin1String("/plc"), ownDir, &machine);
         window.addScreen(
             program, [] { return PanelWindow::tr("Program"); }, QIcon());
         window.addScreen(

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void lookIsChangedByTouchAndKept_data();
     void lookIsChangedByTouchAndKept();
     void messagesAndProgressOfAScreenAreShown();
+    void stopReachesTheScreenThatWorks();
     void panelIsShadedWhileADialogWaits();
     void closingAsksEveryScreen();
 };
@@ -283,6 +284,20 @@ void TestPanelWindow::messagesAndProgressOfAScreenAreShown()
     Q_EMIT screen->told("arrived", PanelScreen::Good);
     QCOMPARE(panel.messageBar()->text(), QString("arrived"));
     QVERIFY(label(panel, "lastMessage").endsWith("arrived"));
+}
+
+void TestPanelWindow::stopReachesTheScreenThatWorks()
+{
+    PanelWindow panel(QSize(800, 480));
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    Q_EMIT screens.at(0)->worked("on its way", 30);
+    // The operator looks at something else meanwhile.
+    panel.showScreen(4);
+    QTest::mouseClick(panel.messageBar()->findChild<PanelKey *>(), Qt::LeftButton);
+    QCOMPARE(screens.at(0)->m_stops, 1);
+    QCOMPARE(screens.at(4)->m_stops, 0);
 }
 
 void TestPanelWindow::panelIsShadedWhileADialogWaits()

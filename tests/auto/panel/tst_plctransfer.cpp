@@ -7,6 +7,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSignalSpy>
+#include <QTimer>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestPlcTransfer : public FilarixTest
 {
@@ -24,10 +29,12 @@ private Q_SLOTS:
     void folderThatTakesNothing();
     void folderThatIsTheProgramDirectory();
     void programTooLarge();
-    void programSavedAgainMeanwhileArrivesAsItWas();
+    void copyIsSentUnderTheNameOfTheProgram();
     void arrivalThatDiffersIsTakenOut_data();
     void arrivalThatDiffersIsTakenOut();
     void stopKeepsWhatThePlcHad();
+    void stopAfterTheArrivalTellsThatNothingWasCompared();
+    void stalledTransferFails();
     void secondStartWhileRunningDoesNothing();
     void oneTransferAfterAnother();
 
@@ -167,8 +174,10 @@ void TestPlcTransfer::failures()
     QVERIFY(!transfer.isRunning());
     const QString reason = failures.at(0).at(0).toString();
     QVERIFY2(reason.contains(word), qPrintable(reason));
-    QTest::qWait(20);
-    QCOMPARE(failures.size(), 1);
+    // One for each start, and none that comes late.
+    transfer.start(program.isEmpty() ? QString() : home() + '/' + program);
+    QTRY_VERIFY(!transfer.isRunning());
+    QCOMPARE(failures.size(), 2);
     QCOMPARE(ends.size(), 0);
     QVERIFY(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
@@ -206,17 +215,16 @@ void TestPlcTransfer::programTooLarge()
     QVERIFY(failures.at(0).at(0).toString().contains("64 MB"));
 }
 
-void TestPlcTransfer::programSavedAgainMeanwhileArrivesAsItWas()
+void TestPlcTransfer::copyIsSentUnderTheNameOfTheProgram()
 {
-    const QByteArray bytes = longProgram();
-    writeFile(programDir() + "/coil.cnc", bytes);
+    writeFile(programDir() + "/coil.cnc", "another\n");
+    writeFile(home() + "/hmi/copy", longProgram());
     PlcTransfer transfer(m_plc);
     QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
-    connect(&transfer, &PlcTransfer::progress,
-            [&](int) { writeFile(programDir() + "/coil.cnc", "another\n"); });
-    transfer.start(programDir() + "/coil.cnc");
+    transfer.start(programDir() + "/coil.cnc", home() + "/hmi/copy");
     QTRY_COMPARE(ends.size(), 1);
-    QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
+    QCOMPARE(ends.at(0).at(0).toString(), m_plc + "/coil.cnc");
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), longProgram());
 }
 
 void TestPlcTransfer::arrivalThatDiffersIsTakenOut_data()
@@ -260,16 +268,76 @@ void TestPlcTransfer::stopKeepsWhatThePlcHad()
     PlcTransfer transfer(m_plc);
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     connect(&transfer, &PlcTransfer::progress, [&](int percent) {
-        if (percent >= 20)
+        if (percent >= 20 && percent < 50)
             transfer.stop();
     });
     transfer.start(programDir() + "/coil.cnc");
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(!transfer.isRunning());
-    QTest::qWait(20);
+    QVERIFY(failures.at(0).at(0).toString().contains("keeps what it had"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
+    // What was sent by then goes in the thread.
+    QTRY_COMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
+
+    // Nothing of it comes late.
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    writeFile(programDir() + "/short.cnc", "G01\n");
+    transfer.start(programDir() + "/short.cnc");
+    QTRY_COMPARE(ends.size(), 1);
     QCOMPARE(failures.size(), 1);
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
-    QCOMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestPlcTransfer::stopAfterTheArrivalTellsThatNothingWasCompared()
+{
+    writeFile(m_plc + "/coil.cnc", "before\n");
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    PlcTransfer transfer(m_plc);
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    connect(&transfer, &PlcTransfer::progress, [&](int percent) {
+        if (percent >= 60)
+            transfer.stop();
+    });
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(failures.at(0).at(0).toString().contains("compared"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), longProgram());
+}
+
+void TestPlcTransfer::stalledTransferFails()
+{
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    PlcTransfer transfer(m_plc);
+    transfer.setStallTime(200);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    // A folder that hangs when what arrived is opened: nobody writes into the pipe.
+    const QString target = m_plc + "/coil.cnc";
+    const QByteArray pipe = QFile::encodeName(target);
+    bool hangs = false;
+    connect(&transfer, &PlcTransfer::progress, [&](int) {
+        if (!hangs && QFileInfo(target).isFile())
+            hangs = QFile::remove(target) && ::mkfifo(pipe.constData(), 0600) == 0;
+    });
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(hangs);
+    QVERIFY(!transfer.isRunning());
+    QVERIFY(failures.at(0).at(0).toString().contains("Check the PLC"));
+
+    // The next one is not held up by the one that still hangs.
+    writeFile(programDir() + "/next.cnc", "G01\n");
+    transfer.start(programDir() + "/next.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(failures.size(), 1);
+
+    // What hangs comes back, and nobody hears of it.
+    const int writer = ::open(pipe.constData(), O_WRONLY | O_NONBLOCK);
+    QVERIFY(writer >= 0);
+    ::close(writer);
+    transfer.start(programDir() + "/next.cnc");
+    QTRY_COMPARE(ends.size(), 2);
+    QCOMPARE(failures.size(), 1);
 }
 
 void TestPlcTransfer::secondStartWhileRunningDoesNothing()
@@ -281,8 +349,9 @@ void TestPlcTransfer::secondStartWhileRunningDoesNothing()
     transfer.start(programDir() + "/a.cnc");
     transfer.start(programDir() + "/b.cnc");
     QTRY_COMPARE(ends.size(), 1);
-    QTest::qWait(20);
-    QCOMPARE(ends.size(), 1);
+    QVERIFY(!transfer.isRunning());
+    transfer.start(programDir() + "/a.cnc");
+    QTRY_COMPARE(ends.size(), 2);
     QVERIFY(!QFileInfo(m_plc + "/b.cnc").exists());
 }
 

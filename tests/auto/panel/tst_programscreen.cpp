@@ -8,14 +8,21 @@
 #include "panelkey.h"
 #include "plctransfer.h"
 #include "programscreen.h"
+#include "programsnapshot.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QWindow>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestProgramScreen : public FilarixTest
 {
@@ -28,6 +35,11 @@ private Q_SLOTS:
     void failedDownloadGivesTheKeyBack_data();
     void failedDownloadGivesTheKeyBack();
     void stoppedDownloadGivesTheKeyBack();
+    void questionShowsWhatIsOnTheDisk();
+    void refusedDownloadSendsNothing();
+    void whatWasShownIsSent_data();
+    void whatWasShownIsSent();
+    void stalledDownloadGivesTheKeyBack();
     void modifiedMarkFollowsTheDocument();
     void tagInsertsWhatIsNotInForce();
     void tagTellsWhenNothingIsLeft();
@@ -36,7 +48,6 @@ private Q_SLOTS:
     void closingWithChangesAsks_data();
     void closingWithChangesAsks();
     void closingDuringADownloadIsRefused();
-    void stateOfThePlcIsTold();
 
 private:
     QToolButton *button(const QString &text) const;
@@ -56,7 +67,7 @@ void TestProgramScreen::init()
     m_plc = home() + "/plc";
     QVERIFY(QDir().mkpath(m_plc));
     m_machine = new MachineData;
-    m_screen = new ProgramScreen(90, m_plc, m_machine);
+    m_screen = new ProgramScreen(90, m_plc, home() + "/hmi", m_machine);
     m_keys = m_screen->keys();
     for (PanelKey *key : m_keys)
         key->setParent(m_screen);
@@ -95,6 +106,14 @@ PanelKey *TestProgramScreen::key(const QString &text) const
     return nullptr;
 }
 
+// What the operator answers to the question before a download.
+static void answer(ModalDriver *driver, const char *key)
+{
+    driver->then([key](QWidget *dialog) {
+        QTest::mouseClick(dialog->findChild<QPushButton *>(key), Qt::LeftButton);
+    });
+}
+
 void TestProgramScreen::downloadIsBracketedAndTold()
 {
     const QByteArray bytes = QByteArray("G01 X1\n").repeated(10000);
@@ -102,10 +121,13 @@ void TestProgramScreen::downloadIsBracketedAndTold()
     WMMainWindow *window = m_screen->programWindow();
     QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
     QSignalSpy worked(m_screen, SIGNAL(worked(QString, int)));
+    ModalDriver driver;
+    answer(&driver, "send");
     Q_EMIT window->signal_download(programDir() + "/coil.cnc");
     QVERIFY(window->isDownloading());
     QVERIFY(!button("D/L")->isEnabled());
     QTRY_VERIFY(!window->isDownloading());
+    QVERIFY2(driver.finished(), driver.report());
     QVERIFY(button("D/L")->isEnabled());
     QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
     QVERIFY(worked.size() > 5);
@@ -139,10 +161,116 @@ void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
     WMMainWindow *window = m_screen->programWindow();
     QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
     connect(m_screen, &PanelScreen::worked, m_screen, &PanelScreen::stopWork);
+    ModalDriver driver;
+    answer(&driver, "send");
     Q_EMIT window->signal_download(programDir() + "/coil.cnc");
     QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
     QVERIFY(!window->isDownloading());
     QVERIFY(!QFileInfo(m_plc + "/coil.cnc").exists());
+    QVERIFY(!QFileInfo(m_screen->snapshot()->copyPath()).exists());
+}
+
+void TestProgramScreen::questionShowsWhatIsOnTheDisk()
+{
+    // Lines that the editor would drop count, too: they are sent.
+    writeFile(programDir() + "/coil.cnc", "; head\nG01 X1\n");
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QStringList shown;
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        for (const char *name : {"name", "lines", "checksum"})
+            shown.append(dialog->findChild<QLabel *>(name)->text());
+        dialog->close();
+    });
+    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    // printf '; head\nG01 X1\n' | sha256sum
+    QCOMPARE(shown, QStringList() << "coil.cnc"
+                                  << "3"
+                                  << "909D 1E88");
+}
+
+void TestProgramScreen::refusedDownloadSendsNothing()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    ModalDriver driver;
+    answer(&driver, "cancel");
+    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(told.at(0).at(0).toString().contains("Nothing was sent"));
+    QVERIFY(button("D/L")->isEnabled());
+    QVERIFY(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QVERIFY(!QFileInfo(m_screen->snapshot()->copyPath()).exists());
+}
+
+void TestProgramScreen::whatWasShownIsSent_data()
+{
+    QTest::addColumn<bool>("duringTheQuestion");
+    QTest::addColumn<bool>("isRemoved");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("saved again during the question") << true << false << "has changed";
+    QTest::newRow("removed during the question") << true << true << "is gone";
+    QTest::newRow("saved again during the transfer") << false << false << "has changed";
+    QTest::newRow("removed during the transfer") << false << true << "is gone";
+}
+
+void TestProgramScreen::whatWasShownIsSent()
+{
+    QFETCH(bool, duringTheQuestion);
+    QFETCH(bool, isRemoved);
+    QFETCH(QString, word);
+    const QString path = programDir() + "/coil.cnc";
+    const QByteArray bytes = QByteArray("G01 X1\n").repeated(20000);
+    writeFile(path, bytes);
+    const auto touch = [&] {
+        if (isRemoved)
+            QFile::remove(path);
+        else
+            writeFile(path, "another\n");
+    };
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    if (!duringTheQuestion)
+        connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, touch);
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        if (duringTheQuestion)
+            touch();
+        QTest::mouseClick(dialog->findChild<QPushButton *>("send"), Qt::LeftButton);
+    });
+    Q_EMIT m_screen->programWindow()->signal_download(path);
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
+    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QVERIFY2(told.at(0).at(0).toString().contains(word), qPrintable(told.at(0).at(0).toString()));
+    QVERIFY(button("D/L")->isEnabled());
+}
+
+void TestProgramScreen::stalledDownloadGivesTheKeyBack()
+{
+    // A PLC whose folder hangs when what arrived is opened: nobody writes into the pipe.
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    const QString target = m_plc + "/coil.cnc";
+    const QByteArray pipe = QFile::encodeName(target);
+    m_screen->transfer()->setStallTime(200);
+    connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, [&](int) {
+        if (QFileInfo(target).isFile() && QFile::remove(target))
+            ::mkfifo(pipe.constData(), 0600);
+    });
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    ModalDriver driver;
+    answer(&driver, "send");
+    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(button("D/L")->isEnabled());
+    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QVERIFY(told.at(0).at(0).toString().contains("Check the PLC"));
+    ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK));
 }
 
 void TestProgramScreen::modifiedMarkFollowsTheDocument()
@@ -233,20 +361,19 @@ void TestProgramScreen::closingWithChangesAsks()
 void TestProgramScreen::closingDuringADownloadIsRefused()
 {
     writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        QVERIFY(!m_screen->mayClose());
+        QTest::mouseClick(dialog->findChild<QPushButton *>("send"), Qt::LeftButton);
+        QVERIFY(!m_screen->mayClose());
+    });
     Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
     QVERIFY(!m_screen->mayClose());
-    QTRY_VERIFY(!m_screen->transfer()->isRunning());
+    QTRY_VERIFY(button("D/L")->isEnabled());
+    QVERIFY2(driver.finished(), driver.report());
     QVERIFY(m_screen->mayClose());
-}
-
-void TestProgramScreen::stateOfThePlcIsTold()
-{
-    QSignalSpy states(m_screen, SIGNAL(statusChanged(QString, QString)));
-    m_screen->refreshStatus();
-    QCOMPARE(states.takeLast().at(1).toString(), QString("ready"));
-    QVERIFY(QDir().rmdir(m_plc));
-    m_screen->refreshStatus();
-    QCOMPARE(states.takeLast().at(1).toString(), QString("away"));
+    QCOMPARE(told.last().at(1).value<PanelScreen::Tone>(), PanelScreen::Good);
 }
 
 FILARIX_TEST_MAIN(TestProgramScreen)

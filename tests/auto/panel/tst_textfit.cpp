@@ -138,7 +138,8 @@ void TestTextFit::everyTextFits()
     FieldKeypad fieldKeypad(&panel);
     DialogKeeper keeper(&panel);
     const bool isUpright = size.width() < size.height();
-    ProgramScreen *programs = new ProgramScreen(isUpright ? 90 : 0, home() + "/plc", &machine);
+    ProgramScreen *programs =
+        new ProgramScreen(isUpright ? 90 : 0, home() + "/plc", home() + "/hmi", &machine);
     panel.addScreen(
         programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
     TeachScreen *teach = new TeachScreen(size, home() + "/hmi", &machine);

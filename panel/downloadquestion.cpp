@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "downloadquestion.h"
+
+#include "look.h"
+#include "programsnapshot.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QScreen>
+
+namespace {
+
+const int kValuePixels = 24;
+const int kSmallestPixels = 14;
+const int kTitlePixels = 17;
+const int kMargin = 14;
+const int kGap = 14;
+const QSize kRoomy(520, 280);
+
+QFont sized(QFont font, int pixels)
+{
+    font.setPixelSize(pixels);
+    font.setBold(true);
+    return font;
+}
+
+// As large as the text has room for. Two names may differ at the end alone, so what does not fit at
+// all loses its middle.
+void showValue(QLabel *label, const QString &text, int room)
+{
+    int pixels = kValuePixels;
+    while (pixels > kSmallestPixels
+           && QFontMetrics(sized(label->font(), pixels)).horizontalAdvance(text) > room)
+        --pixels;
+    label->setFont(sized(label->font(), pixels));
+    label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideMiddle, room));
+}
+
+} // namespace
+
+DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, QWidget *parent) : Dialog(parent)
+{
+    setTitle(tr("Download"));
+    QGridLayout *grid = new QGridLayout(this);
+    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    grid->setHorizontalSpacing(kGap);
+    QLabel *heading = new QLabel(tr("Send this program to the PLC?"));
+    heading->setFont(sized(heading->font(), kTitlePixels));
+    heading->setWordWrap(true);
+    grid->addWidget(heading, 0, 0, 1, 2);
+
+    const QLocale locale;
+    const struct
+    {
+        const char *objectName;
+        QString heading;
+        QString value;
+    } lines[] = {
+        {"name", tr("Program"), facts.name.simplified()},
+        {"lines", tr("Lines"), locale.toString(facts.lines)},
+        {"checksum", tr("Checksum"), facts.checksum()},
+    };
+    const QSize panel = QGuiApplication::primaryScreen()->availableSize();
+    const QSize size = kRoomy.boundedTo(panel - QSize(8, 8));
+    int room = size.width() - 2 * kMargin - kGap;
+    for (const auto &line : lines)
+        room = qMin(room, size.width() - 2 * kMargin - kGap
+                              - fontMetrics().horizontalAdvance(line.heading) - 4);
+    for (const auto &line : lines) {
+        const int row = grid->rowCount();
+        QLabel *value = new QLabel;
+        value->setObjectName(QLatin1String(line.objectName));
+        value->setTextFormat(Qt::PlainText);
+        showValue(value, line.value, room);
+        grid->addWidget(new QLabel(line.heading), row, 0);
+        grid->addWidget(value, row, 1);
+    }
+    grid->setColumnStretch(1, 1);
+
+    QPushButton *send = new QPushButton(tr("Send"));
+    send->setObjectName(QLatin1String("send"));
+    QPushButton *cancel = new QPushButton(tr("Cancel"));
+    cancel->setObjectName(QLatin1String("cancel"));
+    // A press on Return that was meant for something else must not move the machine.
+    send->setAutoDefault(false);
+    cancel->setDefault(true);
+    QHBoxLayout *keys = new QHBoxLayout;
+    keys->setSpacing(kGap);
+    for (QPushButton *key : {cancel, send}) {
+        key->setFont(sized(key->font(), kTitlePixels));
+        key->setMinimumHeight(Look::kTouch + 8);
+        keys->addWidget(key, 1);
+    }
+    grid->setRowStretch(grid->rowCount(), 1);
+    grid->addLayout(keys, grid->rowCount(), 0, 1, 2);
+    connect(send, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    resize(size);
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filestamp.h"
+
+#include <QDateTime>
+#include <QFile>
+
+#include <sys/stat.h>
+
+namespace {
+
+const qint64 kNsPerSecond = 1000000000;
+const qint64 kNsPerMs = 1000000;
+
+FileStamp stamp(int result, const struct stat &info)
+{
+    FileStamp stamp;
+    if (result != 0 || !S_ISREG(info.st_mode))
+        return stamp;
+    stamp.size = info.st_size;
+    stamp.inode = qint64(info.st_ino);
+    stamp.modified = info.st_mtim.tv_sec * kNsPerSecond + info.st_mtim.tv_nsec;
+    stamp.changed = info.st_ctim.tv_sec * kNsPerSecond + info.st_ctim.tv_nsec;
+    return stamp;
+}
+
+} // namespace
+
+FileStamp FileStamp::of(const QString &path)
+{
+    struct stat info = {};
+    const int result = ::stat(QFile::encodeName(path).constData(), &info);
+    return stamp(result, info);
+}
+
+FileStamp FileStamp::of(const QFile &openFile)
+{
+    struct stat info = {};
+    const int result = ::fstat(openFile.handle(), &info);
+    return stamp(result, info);
+}
+
+qint64 FileStamp::age() const
+{
+    return QDateTime::currentMSecsSinceEpoch() - modified / kNsPerMs;
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filethread.h"
+
+#include <QMutex>
+#include <QMutexLocker>
+#include <QThread>
+
+namespace {
+
+const int kPatienceMs = 1000;
+
+} // namespace
+
+/// Where answers go; nowhere once the owner is gone, while its last piece of work may still run.
+struct FileThread::Link
+{
+    QMutex mutex;
+    FileThread *owner;
+};
+
+FileThread::FileThread()
+    : m_link(std::make_shared<Link>()), m_thread(new QThread), m_worker(new QObject)
+{
+    m_link->owner = this;
+    m_worker->moveToThread(m_thread);
+    connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+    m_thread->start();
+}
+
+FileThread::~FileThread()
+{
+    {
+        const QMutexLocker lock(&m_link->mutex);
+        m_link->owner = nullptr;
+    }
+    m_thread->quit();
+    if (m_thread->wait(m_givenUp ? 0 : kPatienceMs))
+        delete m_thread;
+    else
+        // To end a thread in the middle of a system call would take the program with it.
+        connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+}
+
+void FileThread::post(const Work &work, const Work &answer)
+{
+    const std::shared_ptr<Link> link = m_link;
+    const auto run = [link, work, answer] {
+        work();
+        const QMutexLocker lock(&link->mutex);
+        if (link->owner)
+            QMetaObject::invokeMethod(link->owner, answer, Qt::QueuedConnection);
+    };
+    QMetaObject::invokeMethod(m_worker, run, Qt::QueuedConnection);
+}

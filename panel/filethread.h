@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FILETHREAD_H
+#define FILETHREAD_H
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QThread;
+
+/// A thread for work on files: a slow disk, or a PLC that hangs, never stops the screen.
+///
+///     m_thread.post([job] { job->copyPiece(); }, [this] { showProgress(); });
+class FileThread : public QObject
+{
+    Q_OBJECT
+
+public:
+    typedef std::function<void()> Work;
+
+    FileThread();
+    /// The piece of work in hand ends, those behind it are dropped, and so is every answer. One
+    /// that hangs is left behind with its thread, at once after giveUp() and else after a second.
+    ~FileThread() override;
+
+    /// Runs \a work in the thread, behind what was posted before, and then \a answer from the event
+    /// loop of this object's thread. What the work uses must belong to it: the object that posted
+    /// it may be gone by then.
+    void post(const Work &work, const Work &answer);
+    /// Nobody waits for the work in hand any more.
+    void giveUp() { m_givenUp = true; }
+
+private:
+    struct Link;
+
+    std::shared_ptr<Link> m_link;
+    QThread *m_thread;
+    QObject *m_worker;
+    bool m_givenUp = false;
+};
+
+#endif // FILETHREAD_H

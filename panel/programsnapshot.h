@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROGRAMSNAPSHOT_H
+#define PROGRAMSNAPSHOT_H
+
+#include "filework.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// What an operator can tell a program by.
+struct ProgramFacts
+{
+    QString name;
+    qint64 bytes = 0;
+    /// As the editor's read-out counts: one more than there are line ends, and so 1 for no text.
+    qint64 lines = 1;
+    /// SHA-256 of the bytes.
+    QByteArray hash;
+
+    /// The first eight digits of the hash in groups of four: "3F2A 91C0". Short enough to be
+    /// compared by eye, and the same as `sha256sum` shows on any PC; by accident two programs share
+    /// them once in four thousand million.
+    QString checksum() const { return checksum(hash); }
+    static QString checksum(const QByteArray &hash);
+};
+
+/// A private copy of one program, so that what is sent is what the operator was shown.
+///
+/// Each take() ends in exactly one taken() or failed(), each compare() in one compared(), never
+/// before the call has returned.
+class ProgramSnapshot : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Verdict {
+        Same,    ///< The program is what the copy is.
+        Changed, ///< It holds something else by now.
+        Gone     ///< It cannot be read any more.
+    };
+    Q_ENUM(Verdict)
+
+    /// Bytes that move in one step.
+    static const int kPiece = 64 * 1024;
+
+    /// \a folder, made if it is missing, is the snapshot's own; what another run left there goes.
+    explicit ProgramSnapshot(const QString &folder, QObject *parent = nullptr);
+    /// Takes the copy away.
+    ~ProgramSnapshot() override;
+
+    bool isRunning() const { return m_work.isRunning(); }
+    /// Copies the program at \a path; empty when it was never saved. Does nothing while work runs.
+    void take(const QString &path);
+    /// Whether the program still is what was taken. Does nothing while work runs.
+    void compare();
+    /// Gives up a take(), which then fails.
+    void stop();
+    /// Takes the copy away.
+    void drop();
+
+    /// Path of the program that was taken, and of its copy.
+    QString programPath() const { return m_path; }
+    QString copyPath() const { return m_copyPath; }
+    ProgramFacts facts() const { return m_facts; }
+
+    void setStallTime(int ms) { m_work.setStallTime(ms); }
+
+Q_SIGNALS:
+    void progress(int percent);
+    void taken();
+    /// \a reason is a sentence for the operator.
+    void failed(const QString &reason);
+    void compared(ProgramSnapshot::Verdict verdict);
+
+private:
+    class Task;
+
+    void begin(const QString &copyPath);
+    void end();
+    void giveUp(const QString &reason);
+
+    const QString m_copyPath;
+    QString m_path;
+    ProgramFacts m_facts;
+    FileWork m_work;
+    std::shared_ptr<Task> m_task;
+    bool m_comparing = false;
+};
+
+#endif // PROGRAMSNAPSHOT_H

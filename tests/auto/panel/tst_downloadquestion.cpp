@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "downloadquestion.h"
+#include "filarixtest.h"
+#include "panelstyle.h"
+#include "programsnapshot.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+
+class TestDownloadQuestion : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void showsWhatAProgramIsToldBy();
+    void keysAnswer_data();
+    void keysAnswer();
+    void returnDoesNotSend();
+    void longNamesAreToldApartByTheirEnds();
+    void keysAreForThumbs();
+};
+
+static ProgramFacts facts(const QString &name = "coil.cnc")
+{
+    ProgramFacts facts;
+    facts.name = name;
+    facts.lines = 20000;
+    facts.hash = QByteArray::fromHex("3f2a91c0ffff");
+    return facts;
+}
+
+static QString text(const DownloadQuestion &question, const char *name)
+{
+    return question.findChild<QLabel *>(name)->text();
+}
+
+void TestDownloadQuestion::initTestCase()
+{
+    QApplication::setStyle(new PanelStyle);
+}
+
+void TestDownloadQuestion::showsWhatAProgramIsToldBy()
+{
+    const DownloadQuestion question(facts());
+    QCOMPARE(text(question, "name"), QString("coil.cnc"));
+    QCOMPARE(text(question, "lines"), QLocale().toString(20000));
+    QCOMPARE(text(question, "checksum"), QString("3F2A 91C0"));
+}
+
+void TestDownloadQuestion::keysAnswer_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("result");
+    QTest::newRow("send") << "send" << int(QDialog::Accepted);
+    QTest::newRow("cancel") << "cancel" << int(QDialog::Rejected);
+}
+
+void TestDownloadQuestion::keysAnswer()
+{
+    QFETCH(QString, key);
+    DownloadQuestion question(facts());
+    question.show();
+    QTest::mouseClick(question.findChild<QPushButton *>(key), Qt::LeftButton);
+    QVERIFY(!question.isVisible());
+    QTEST(question.result(), "result");
+}
+
+void TestDownloadQuestion::returnDoesNotSend()
+{
+    DownloadQuestion question(facts());
+    question.show();
+    QTest::keyClick(&question, Qt::Key_Return);
+    QCOMPARE(question.result(), int(QDialog::Rejected));
+}
+
+void TestDownloadQuestion::longNamesAreToldApartByTheirEnds()
+{
+    const QString name = QString("a").repeated(120);
+    const DownloadQuestion first(facts(name + "-1.cnc"));
+    const DownloadQuestion second(facts(name + "-2.cnc"));
+    QVERIFY(text(first, "name").endsWith("-1.cnc"));
+    QVERIFY(text(second, "name").endsWith("-2.cnc"));
+    QVERIFY(first.sizeHint().width() <= QGuiApplication::primaryScreen()->size().width());
+}
+
+void TestDownloadQuestion::keysAreForThumbs()
+{
+    DownloadQuestion question(facts());
+    // As small as on the smallest panel.
+    question.resize(472, 264);
+    question.show();
+    QVERIFY(TestCompat::waitForExposed(&question));
+    QCOMPARE(question.size(), QSize(472, 264));
+    const QList<QPushButton *> keys = question.findChildren<QPushButton *>();
+    QCOMPARE(keys.size(), 2);
+    for (QPushButton *key : keys) {
+        QVERIFY(key->height() >= 34 && key->width() >= 100);
+        QVERIFY(question.rect().contains(key->geometry()));
+    }
+    const QList<QLabel *> labels = question.findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+        QVERIFY2(label->height() >= label->fontMetrics().height(), qPrintable(label->text()));
+    }
+}
+
+FILARIX_TEST_MAIN(TestDownloadQuestion)
+#include "tst_downloadquestion.moc"

@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "filework.h"
+
+#include <QElapsedTimer>
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QThread>
+
+/// What a task did, alive as long as anybody asks.
+struct Record
+{
+    QAtomicInt steps;
+    QAtomicInt closes;
+    QAtomicInt inMainThread;
+    /// A step that this bars hangs.
+    QSemaphore gate;
+};
+
+class CountingTask : public FileTask
+{
+public:
+    CountingTask(int steps, const std::shared_ptr<Record> &record, bool isGated = false)
+        : m_steps(steps), m_isGated(isGated), m_record(record)
+    {}
+
+    bool step() override
+    {
+        if (QThread::currentThread() == QCoreApplication::instance()->thread())
+            m_record->inMainThread.ref();
+        m_record->steps.ref();
+        if (m_isGated)
+            m_record->gate.acquire();
+        return ++m_done < m_steps;
+    }
+    int percent() const override { return 100 * m_done / m_steps; }
+    void close() override { m_record->closes.ref(); }
+
+private:
+    const int m_steps;
+    const bool m_isGated;
+    const std::shared_ptr<Record> m_record;
+    int m_done = 0;
+};
+
+class TestFileWork : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stepsRunOneAfterAnotherInAThread();
+    void stopLetsNoOtherStepBegin();
+    void secondStartWhileRunningDoesNothing();
+    void stepThatHangsIsGivenUp();
+    void destructionDropsTheAnswer();
+    void destructionDoesNotWaitForWhatWasGivenUp();
+};
+
+void TestFileWork::stepsRunOneAfterAnotherInAThread()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    FileWork work;
+    QSignalSpy progress(&work, SIGNAL(progressed(int)));
+    QSignalSpy ends(&work, SIGNAL(ended()));
+    work.start(std::make_shared<CountingTask>(4, record));
+    QVERIFY(work.isRunning());
+    QTRY_COMPARE(ends.size(), 1);
+    QVERIFY(!work.isRunning());
+    QCOMPARE(record->steps.load(), 4);
+    QCOMPARE(record->closes.load(), 1);
+    QCOMPARE(record->inMainThread.load(), 0);
+    QCOMPARE(progress.size(), 3);
+    QCOMPARE(progress.last().at(0).toInt(), 75);
+}
+
+void TestFileWork::stopLetsNoOtherStepBegin()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    FileWork work;
+    QSignalSpy ends(&work, SIGNAL(ended()));
+    QSignalSpy stops(&work, SIGNAL(stopped()));
+    connect(&work, &FileWork::progressed, &work, &FileWork::stop);
+    work.start(std::make_shared<CountingTask>(1000, record));
+    QTRY_COMPARE(stops.size(), 1);
+    QVERIFY(!work.isRunning());
+    QTRY_COMPARE(record->closes.load(), 1);
+    QCOMPARE(record->steps.load(), 1);
+    // Stopping what does not run does not reach the next one.
+    work.stop();
+    work.start(std::make_shared<CountingTask>(1, record));
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(stops.size(), 1);
+}
+
+void TestFileWork::secondStartWhileRunningDoesNothing()
+{
+    const std::shared_ptr<Record> first = std::make_shared<Record>();
+    const std::shared_ptr<Record> second = std::make_shared<Record>();
+    FileWork work;
+    QSignalSpy ends(&work, SIGNAL(ended()));
+    work.start(std::make_shared<CountingTask>(3, first));
+    work.start(std::make_shared<CountingTask>(3, second));
+    QTRY_COMPARE(ends.size(), 1);
+    QVERIFY(!work.isRunning());
+    QCOMPARE(first->steps.load(), 3);
+    QCOMPARE(second->steps.load(), 0);
+}
+
+void TestFileWork::stepThatHangsIsGivenUp()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    FileWork work;
+    work.setStallTime(50);
+    QSignalSpy ends(&work, SIGNAL(ended()));
+    QSignalSpy stalls(&work, SIGNAL(stalled()));
+    work.start(std::make_shared<CountingTask>(5, record, true));
+    QTRY_COMPARE(stalls.size(), 1);
+    QVERIFY(!work.isRunning());
+
+    // The next task has a thread of its own.
+    work.setStallTime(FileWork::kStallMs);
+    const std::shared_ptr<Record> next = std::make_shared<Record>();
+    work.start(std::make_shared<CountingTask>(2, next));
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(record->steps.load(), 1);
+
+    // The step comes back in the end: no other follows it, and the task goes.
+    record->gate.release(5);
+    QTRY_COMPARE(long(record.use_count()), 1L);
+    QCOMPARE(record->steps.load(), 1);
+    QCOMPARE(ends.size(), 1);
+    QCOMPARE(stalls.size(), 1);
+}
+
+void TestFileWork::destructionDropsTheAnswer()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    {
+        FileWork work;
+        work.start(std::make_shared<CountingTask>(1000, record));
+        QTRY_VERIFY(record->steps.load() > 0);
+    }
+    QTRY_COMPARE(long(record.use_count()), 1L);
+    const int steps = record->steps.load();
+    QCoreApplication::processEvents();
+    QCOMPARE(record->steps.load(), steps);
+}
+
+void TestFileWork::destructionDoesNotWaitForWhatWasGivenUp()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    QElapsedTimer timer;
+    {
+        FileWork work;
+        work.setStallTime(50);
+        QSignalSpy stalls(&work, SIGNAL(stalled()));
+        work.start(std::make_shared<CountingTask>(5, record, true));
+        QTRY_COMPARE(stalls.size(), 1);
+        timer.start();
+    }
+    // The patience with work that is still hoped for is a second.
+    QVERIFY2(timer.elapsed() < 900, qPrintable(QString::number(timer.elapsed())));
+    record->gate.release();
+    QTRY_COMPARE(long(record.use_count()), 1L);
+}
+
+FILARIX_TEST_MAIN(TestFileWork)
+#include "tst_filework.moc"
