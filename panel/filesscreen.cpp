@@ -4,11 +4,13 @@
 #include "filesscreen.h"
 
 #include "elidedlabel.h"
+#include "historydialog.h"
 #include "importguard.h"
 #include "livetext.h"
 #include "look.h"
 #include "panelkey.h"
 #include "pathpicker.h"
+#include "programhistory.h"
 #include "samples.h"
 #include "stick.h"
 #include "touchblock.h"
@@ -46,14 +48,16 @@ PanelKey *darkKey(Glyphs::Glyph glyph, const std::function<QString()> &text)
 
 } // namespace
 
-FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
+FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent)
     : PanelScreen(parent)
     , m_stick(stick)
+    , m_history(history)
     , m_guard(new ImportGuard(Samples::programDir(), Stick::mountPoint(), this))
     , m_grid(new QGridLayout)
     , m_plugKey(darkKey(Glyphs::Plug, [] { return tr("Plug"); }))
     , m_pullKey(darkKey(Glyphs::Pull, [] { return tr("Pull"); }))
     , m_renameKey(darkKey(Glyphs::Rename, [] { return tr("Rename"); }))
+    , m_historyKey(darkKey(Glyphs::History, [] { return tr("History"); }))
 {
     Look::dress(this, Look::KeyPanel);
     PanelKey *importKey =
@@ -61,7 +65,7 @@ FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
     PanelKey *pickKey = darkKey(Glyphs::Files, [] { return tr("Pick"); });
     m_stickState = addLine([] { return tr("Stick"); }, {m_plugKey, m_pullKey});
     m_nameState = addLine([] { return tr("Names"); }, {m_renameKey});
-    m_storageState = addLine([] { return tr("Programs"); }, {importKey});
+    m_storageState = addLine([] { return tr("Programs"); }, {m_historyKey, importKey});
     m_pathState = addLine([] { return tr("Path"); }, {pickKey});
     m_grid->setContentsMargins(12, 6, 6, 6);
     m_grid->setRowStretch(m_grid->rowCount(), 1);
@@ -79,6 +83,13 @@ FilesScreen::FilesScreen(Stick *stick, QWidget *parent)
     connect(m_renameKey, &PanelKey::clicked, this, &FilesScreen::rename);
     connect(importKey, &PanelKey::clicked, this, &FilesScreen::importWanted);
     connect(pickKey, &PanelKey::clicked, this, &FilesScreen::pick);
+    connect(m_historyKey, &PanelKey::clicked, this, &FilesScreen::showHistory);
+    connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::showState);
+    connect(m_history, &ProgramHistory::worked, this, &FilesScreen::worked);
+    connect(m_history, &ProgramHistory::told, this, [this](const QString &text, bool isGood) {
+        Q_EMIT told(text, isGood ? Good : Warning);
+        showState();
+    });
     connect(m_guard, &ImportGuard::told, this, [this](const QString &text, bool isSettled) {
         Q_EMIT told(text, isSettled ? Good : Warning);
         showState();
@@ -174,8 +185,21 @@ void FilesScreen::pick()
     showState();
 }
 
+void FilesScreen::showHistory()
+{
+    HistoryDialog dialog(m_history->versions());
+    if (dialog.exec() == QDialog::Accepted)
+        m_history->restore(dialog.version());
+}
+
+void FilesScreen::stopWork()
+{
+    m_history->stopRestoring();
+}
+
 void FilesScreen::showState()
 {
+    m_historyKey->setEnabled(!m_history->versions().isEmpty());
     const bool present = m_stick->isPresent();
     m_plugKey->setVisible(m_stick->isSimulated());
     m_pullKey->setVisible(m_stick->isSimulated());

@@ -10,17 +10,19 @@
 
 class ElidedLabel;
 class ImportGuard;
+class ProgramHistory;
 class QGridLayout;
 class Stick;
 
-/// Where files are: the stick, the program directory, and a path picked with the library's browser.
+/// Where files are: the stick, the program directory with its history, and a path picked with the
+/// library's browser.
 class FilesScreen : public PanelScreen
 {
     Q_OBJECT
 
 public:
-    /// \a stick must outlive the screen.
-    explicit FilesScreen(Stick *stick, QWidget *parent = nullptr);
+    /// \a stick and \a history must outlive the screen.
+    FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent = nullptr);
 
     QString title() const override;
     /// Also sees a stick come and go: when one comes, its names are checked.
@@ -33,6 +35,11 @@ public:
     /// What the keys Plug and Pull do.
     void plug();
     void pull();
+    /// What the key History does.
+    void showHistory();
+
+public Q_SLOTS:
+    void stopWork() override;
 
 Q_SIGNALS:
     /// The operator wants the import manager.
@@ -48,6 +55,7 @@ private:
     void showState();
 
     Stick *m_stick;
+    ProgramHistory *m_history;
     ImportGuard *m_guard;
     QGridLayout *m_grid;
     ElidedLabel *m_stickState;
@@ -57,6 +65,7 @@ private:
     PanelKey *m_plugKey;
     PanelKey *m_pullKey;
     PanelKey *m_renameKey;
+    PanelKey *m_historyKey;
     QString m_pickedPath;
     bool m_wasPresent = false;
 };

@@ -135,6 +135,11 @@ QPainterPath shape(Glyphs::Glyph glyph)
         path.addEllipse(QPointF(12, 12), 4, 9);
         path.addPath(lines({{{3.5, 9}, {20.5, 9}}, {{3.5, 15}, {20.5, 15}}}));
         break;
+    case Glyphs::History:
+        path.arcMoveTo(QRectF(4, 4, 16, 16), 180);
+        path.arcTo(QRectF(4, 4, 16, 16), 180, -320);
+        path.addPath(lines({{{1, 8.5}, {4, 12.5}, {8, 9.5}}, {{12, 7.5}, {12, 12.5}, {16, 14.5}}}));
+        break;
     case Glyphs::Close:
         path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
         break;

@@ -38,7 +38,8 @@ enum Glyph {
     Stick,
     Storage,
     Style,
-    Language
+    Language,
+    History
 };
 
 /// What an icon stands on.

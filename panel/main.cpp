@@ -7,6 +7,7 @@
 #include "fieldkeypad.h"
 #include "filesscreen.h"
 #include "glyphs.h"
+#include "historyguard.h"
 #include "languages.h"
 #include "look.h"
 #include "machinedata.h"
@@ -15,6 +16,7 @@
 #include "panelstyle.h"
 #include "panelsurface.h"
 #include "panelwindow.h"
+#include "programhistory.h"
 #include "programscreen.h"
 #include "samples.h"
 #include "settings.h"
@@ -143,7 +145,11 @@ int runPanel(const Options &options)
     new FieldKeypad(&panel);
     new DialogKeeper(&panel);
     MachineData machine;
+    ProgramHistory history(Samples::programDir(), ownDir + QLatin1String("/history"));
+    HistoryGuard historyGuard(&history);
     ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, ownDir, &machine);
+    // A save shows in the title or in its mark.
+    QObject::connect(programs, &PanelScreen::titleChanged, &history, &ProgramHistory::scan);
     panel.addScreen(
         programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
     TeachScreen *teach = new TeachScreen(panel.size(), ownDir, &machine);
@@ -157,7 +163,9 @@ int runPanel(const Options &options)
     panel.addScreen(
         connections, [] { return PanelWindow::tr("Connections"); },
         Glyphs::icon(Glyphs::Connections));
-    FilesScreen *files = new FilesScreen(&stick);
+    FilesScreen *files = new FilesScreen(&stick, &history);
+    QObject::connect(&historyGuard, &HistoryGuard::told, files,
+                     [files](const QString &text) { Q_EMIT files->told(text, PanelScreen::Info); });
     panel.addScreen(
         files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
     QObject::connect(files, &FilesScreen::importWanted, programs->programWindow(), [programs] {

@@ -25,6 +25,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTextBlock>
 #include <QToolButton>
 
@@ -256,6 +257,13 @@ void Tour::visitFilesScreen(FilesScreen *screen)
     picture(QLatin1String("stick-names"));
     pressKey(screen, QLatin1String("I/E"));
     picture(QLatin1String("import-export"));
+    closeDialog();
+    pressKey(screen, QLatin1String("History"));
+    then([] {
+        if (QWidget *dialog = topLevel("HistoryDialog"))
+            dialog->findChild<QTableWidget *>()->selectRow(0);
+    });
+    picture(QLatin1String("history"));
     closeDialog();
     pressKey(screen, QLatin1String("Pick"));
     picture(QLatin1String("pick-path"));

@@ -176,6 +176,75 @@
         <source>simulated: %1</source>
         <translation>Ersatz: %1</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Gesichert am</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Prüfsumme</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Only this</source>
+        <translation>Nur dieses</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryGuard</name>
+    <message>
+        <source>One moment: the history still takes in the programs. Touch once more.</source>
+        <translation>Einen Moment: Der Verlauf sichert noch die Programme. Noch einmal tippen.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The history has no place: the folder %1 cannot be made.</source>
+        <translation>Kein Platz für den Verlauf: Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for the history.</source>
+        <translation>%1 ist zu groß für den Verlauf.</translation>
+    </message>
+    <message>
+        <source>The history cannot read %1: %2.</source>
+        <translation>Der Verlauf kann %1 nicht lesen: %2.</translation>
+    </message>
+    <message>
+        <source>The history cannot keep %1: %2.</source>
+        <translation>Der Verlauf kann %1 nicht sichern: %2.</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -337,6 +406,53 @@
     <message>
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>Die SPS antwortet mitten im Senden nicht mehr. SPS und Kabel prüfen, dann erneut senden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramHistory</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is not in the history any more.</source>
+        <translation>Diese Fassung von %1 ist nicht mehr im Verlauf.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
+        <translation>Diese Fassung von %1 ist beschädigt und wurde nicht zurückgeholt. Die davor versuchen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced in the program directory.</source>
+        <translation>%1 lässt sich im Programmverzeichnis nicht ersetzen.</translation>
+    </message>
+    <message>
+        <source>%1 is brought back: %2 %</source>
+        <translation>%1 wird zurückgeholt: %2 %</translation>
+    </message>
+    <message>
+        <source>Stopped. %1 is as it was.</source>
+        <translation>Gestoppt. %1 ist unverändert.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering; %1 was not brought back.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr; %1 wurde nicht zurückgeholt.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr: Der Verlauf sichert nichts mehr. Das Panel aus- und einschalten.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back.</source>
+        <translation>%1 wurde nicht zurückgeholt.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: what it is now cannot be kept in the history first.</source>
+        <translation>%1 wurde nicht zurückgeholt: Der jetzige Stand lässt sich nicht vorher sichern.</translation>
+    </message>
+    <message>
+        <source>%1 is back as of %2. Open it to see it.</source>
+        <translation>%1 ist zurück, Stand %2. Zum Ansehen öffnen.</translation>
     </message>
 </context>
 <context>

@@ -176,6 +176,75 @@
         <source>simulated: %1</source>
         <translation>simulata: %1</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>Storico</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>History</source>
+        <translation>Storico</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Salvato il</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Checksum</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dim.</translation>
+    </message>
+    <message>
+        <source>Only this</source>
+        <translation>Solo questo</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryGuard</name>
+    <message>
+        <source>One moment: the history still takes in the programs. Touch once more.</source>
+        <translation>Un momento: lo storico sta ancora salvando i programmi. Toccare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The history has no place: the folder %1 cannot be made.</source>
+        <translation>Nessun posto per lo storico: impossibile creare la cartella %1.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for the history.</source>
+        <translation>%1 è troppo grande per lo storico.</translation>
+    </message>
+    <message>
+        <source>The history cannot read %1: %2.</source>
+        <translation>Lo storico non può leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>The history cannot keep %1: %2.</source>
+        <translation>Lo storico non può salvare %1: %2.</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -337,6 +406,53 @@
     <message>
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>Il PLC non risponde più durante l&apos;invio. Controllare il PLC e il cavo, poi inviare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramHistory</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossibile scrivere %1: %2.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is not in the history any more.</source>
+        <translation>Questa versione di %1 non è più nello storico.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
+        <translation>Questa versione di %1 è danneggiata e non è stata ripristinata. Provare la precedente.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced in the program directory.</source>
+        <translation>Impossibile sostituire %1 nella cartella dei programmi.</translation>
+    </message>
+    <message>
+        <source>%1 is brought back: %2 %</source>
+        <translation>Ripristino di %1: %2 %</translation>
+    </message>
+    <message>
+        <source>Stopped. %1 is as it was.</source>
+        <translation>Interrotto. %1 è come prima.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering; %1 was not brought back.</source>
+        <translation>La memoria del pannello non risponde più; %1 non è stato ripristinato.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
+        <translation>La memoria del pannello non risponde più: lo storico non salva più nulla. Spegnere e riaccendere il pannello.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back.</source>
+        <translation>%1 non è stato ripristinato.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: what it is now cannot be kept in the history first.</source>
+        <translation>%1 non è stato ripristinato: lo stato attuale non può essere salvato prima.</translation>
+    </message>
+    <message>
+        <source>%1 is back as of %2. Open it to see it.</source>
+        <translation>%1 è ripristinato al %2. Aprirlo per vederlo.</translation>
     </message>
 </context>
 <context>

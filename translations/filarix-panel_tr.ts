@@ -176,6 +176,75 @@
         <source>simulated: %1</source>
         <translation>taklit: %1</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Saklandı</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Sağlama</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Only this</source>
+        <translation>Yalnız bu</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryGuard</name>
+    <message>
+        <source>One moment: the history still takes in the programs. Touch once more.</source>
+        <translation>Bir dakika: geçmiş programları hâlâ saklıyor. Yeniden dokunun.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The history has no place: the folder %1 cannot be made.</source>
+        <translation>Geçmişe yer yok: %1 klasörü oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for the history.</source>
+        <translation>%1 geçmiş için çok büyük.</translation>
+    </message>
+    <message>
+        <source>The history cannot read %1: %2.</source>
+        <translation>Geçmiş %1 dosyasını okuyamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The history cannot keep %1: %2.</source>
+        <translation>Geçmiş %1 dosyasını saklayamıyor: %2.</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -337,6 +406,53 @@
     <message>
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>PLC yükleme sırasında yanıt vermeyi kesti. PLC&apos;yi ve kablosunu denetleyip yeniden yükleyin.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramHistory</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 yazılamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is not in the history any more.</source>
+        <translation>%1 programının bu sürümü artık geçmişte yok.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
+        <translation>%1 programının bu sürümü bozuk, geri alınmadı. Bir öncekini deneyin.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced in the program directory.</source>
+        <translation>%1 program klasöründe değiştirilemiyor.</translation>
+    </message>
+    <message>
+        <source>%1 is brought back: %2 %</source>
+        <translation>%1 geri alınıyor: %2 %</translation>
+    </message>
+    <message>
+        <source>Stopped. %1 is as it was.</source>
+        <translation>Durduruldu. %1 eskisi gibi.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering; %1 was not brought back.</source>
+        <translation>Panelin belleği yanıt vermiyor; %1 geri alınmadı.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
+        <translation>Panelin belleği yanıt vermiyor: geçmişe artık bir şey yazılmıyor. Paneli kapatıp açın.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back.</source>
+        <translation>%1 geri alınmadı.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: what it is now cannot be kept in the history first.</source>
+        <translation>%1 geri alınmadı: şimdiki hâli önce geçmişe saklanamıyor.</translation>
+    </message>
+    <message>
+        <source>%1 is back as of %2. Open it to see it.</source>
+        <translation>%1 geri alındı, %2 tarihli. Görmek için açın.</translation>
     </message>
 </context>
 <context>

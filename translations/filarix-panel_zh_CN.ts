@@ -176,6 +176,75 @@
         <source>simulated: %1</source>
         <translation>模拟:%1</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>历史</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>History</source>
+        <translation>历史</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>保存时间</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>校验码</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Only this</source>
+        <translation>仅此程序</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryGuard</name>
+    <message>
+        <source>One moment: the history still takes in the programs. Touch once more.</source>
+        <translation>请稍候: 历史正在保存程序。请再按一次。</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The history has no place: the folder %1 cannot be made.</source>
+        <translation>无法保存历史: 不能建立文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is too large for the history.</source>
+        <translation>%1 太大, 无法存入历史。</translation>
+    </message>
+    <message>
+        <source>The history cannot read %1: %2.</source>
+        <translation>历史无法读取 %1: %2。</translation>
+    </message>
+    <message>
+        <source>The history cannot keep %1: %2.</source>
+        <translation>历史无法保存 %1: %2。</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -337,6 +406,53 @@
     <message>
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>下载途中 PLC 停止响应。请检查 PLC 和电缆, 然后重新下载。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramHistory</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1: %2。</translation>
+    </message>
+    <message>
+        <source>This version of %1 is not in the history any more.</source>
+        <translation>历史中已没有 %1 的这个版本。</translation>
+    </message>
+    <message>
+        <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
+        <translation>%1 的这个版本已损坏, 未恢复。请试前一个版本。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be replaced in the program directory.</source>
+        <translation>无法替换程序目录中的 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is brought back: %2 %</source>
+        <translation>正在恢复 %1: %2 %</translation>
+    </message>
+    <message>
+        <source>Stopped. %1 is as it was.</source>
+        <translation>已停止。%1 保持不变。</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering; %1 was not brought back.</source>
+        <translation>面板存储器停止响应; %1 未恢复。</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
+        <translation>面板存储器停止响应: 历史不再保存。请关闭面板后重新打开。</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back.</source>
+        <translation>%1 未恢复。</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: what it is now cannot be kept in the history first.</source>
+        <translation>%1 未恢复: 无法先保存其现有内容。</translation>
+    </message>
+    <message>
+        <source>%1 is back as of %2. Open it to see it.</source>
+        <translation>%1 已恢复到 %2 的版本。打开即可查看。</translation>
     </message>
 </context>
 <context>

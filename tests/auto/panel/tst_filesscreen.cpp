@@ -6,13 +6,17 @@
 #include "importguard.h"
 #include "modaldriver.h"
 #include "panelkey.h"
+#include "programhistory.h"
 #include "stick.h"
 #include "touchblock.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPushButton>
+#include <QScopedPointer>
 #include <QSignalSpy>
+#include <QTableWidget>
 
 class TestFilesScreen : public FilarixTest
 {
@@ -29,6 +33,8 @@ private Q_SLOTS:
     void cancelledPickKeepsThePath();
     void importKeyAsksTheHost();
     void panelsOwnStickHasNoKeys();
+    void historyKeyBringsBackARemovedProgram();
+    void closedHistoryBringsNothingBack();
     void fits_data();
     void fits();
 
@@ -37,6 +43,7 @@ private:
     static bool shows(const FilesScreen &screen, const QString &text);
 
     QString m_folder;
+    QScopedPointer<ProgramHistory> m_history;
 };
 
 void TestFilesScreen::init()
@@ -47,10 +54,12 @@ void TestFilesScreen::init()
     m_folder = "/mnt/Storage.stick";
     QDir().mkpath(m_folder);
     QDir().mkdir(Stick::mountPoint());
+    m_history.reset(new ProgramHistory(programDir(), home() + "/hmi/history"));
 }
 
 void TestFilesScreen::cleanup()
 {
+    m_history.reset();
     emptyFolder(m_folder);
     QFile::remove(Stick::marker());
     QDir().mkdir(Stick::mountPoint());
@@ -82,7 +91,7 @@ void TestFilesScreen::keysPlugAndPullTheStick()
 {
     writeFile(m_folder + "/coil.cnc", "G01\n");
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     QSignalSpy states(&screen, SIGNAL(statusChanged(QString, QString)));
     QVERIFY(!key(screen, "Pull")->isEnabled());
@@ -101,7 +110,7 @@ void TestFilesScreen::arrivingStickIsCheckedOnce()
 {
     writeFile(m_folder + "/a b.cnc", "G01\n");
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     ModalDriver driver;
     driver.press(QMessageBox::No);
@@ -123,7 +132,7 @@ void TestFilesScreen::stickThatCannotBePluggedIsTold()
 {
     writeFile("/mnt/Storage/real.cnc", "G01\n");
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
@@ -136,7 +145,7 @@ void TestFilesScreen::pickedPathIsShown()
 {
     writeFile(programDir() + "/coil.cnc", "G01\n");
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     ModalDriver driver;
     driver.then([](QWidget *dialog) {
@@ -157,7 +166,7 @@ void TestFilesScreen::pickedPathIsShown()
 void TestFilesScreen::stateIsToldInFullByATouch()
 {
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.resize(300, 220);
     screen.show();
     QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
@@ -177,7 +186,7 @@ void TestFilesScreen::stateIsToldInFullByATouch()
 void TestFilesScreen::cancelledPickKeepsThePath()
 {
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     ModalDriver driver;
     driver.reject();
@@ -189,7 +198,7 @@ void TestFilesScreen::cancelledPickKeepsThePath()
 void TestFilesScreen::importKeyAsksTheHost()
 {
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     QSignalSpy wanted(&screen, SIGNAL(importWanted()));
     QTest::mouseClick(key(screen, "I/E"), Qt::LeftButton);
@@ -199,10 +208,54 @@ void TestFilesScreen::importKeyAsksTheHost()
 void TestFilesScreen::panelsOwnStickHasNoKeys()
 {
     Stick stick;
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.show();
     QVERIFY(!key(screen, "Plug")->isVisible());
     QVERIFY(!key(screen, "Pull")->isVisible());
+}
+
+void TestFilesScreen::historyKeyBringsBackARemovedProgram()
+{
+    const QString path = programDir() + "/coil.cnc";
+    Stick stick(m_folder);
+    FilesScreen screen(&stick, m_history.data());
+    screen.show();
+    QVERIFY(!key(screen, "History")->isEnabled());
+    writeFile(path, "G01\n");
+    QTRY_VERIFY(key(screen, "History")->isEnabled());
+    QVERIFY(QFile::remove(path));
+    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        dialog->findChild<QTableWidget *>()->selectRow(0);
+        QTest::mouseClick(dialog->findChild<QPushButton *>("restore"), Qt::LeftButton);
+    });
+    QTest::mouseClick(key(screen, "History"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Good);
+    QCOMPARE(readFile(path), QByteArray("G01\n"));
+}
+
+void TestFilesScreen::closedHistoryBringsNothingBack()
+{
+    const QString path = programDir() + "/coil.cnc";
+    Stick stick(m_folder);
+    FilesScreen screen(&stick, m_history.data());
+    screen.show();
+    writeFile(path, "G01\n");
+    QTRY_VERIFY(key(screen, "History")->isEnabled());
+    QVERIFY(QFile::remove(path));
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        dialog->findChild<QTableWidget *>()->selectRow(0);
+        QTest::mouseClick(dialog->findChild<QPushButton *>("close"), Qt::LeftButton);
+    });
+    QTest::mouseClick(key(screen, "History"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    m_history->scan();
+    QTRY_VERIFY(m_history->isSettled());
+    QVERIFY(!QFileInfo(path).exists());
 }
 
 void TestFilesScreen::fits_data()
@@ -217,7 +270,7 @@ void TestFilesScreen::fits()
 {
     QFETCH(QSize, size);
     Stick stick(m_folder);
-    FilesScreen screen(&stick);
+    FilesScreen screen(&stick, m_history.data());
     screen.resize(size);
     screen.show();
     QVERIFY(TestCompat::waitForExposed(&screen));

@@ -12,6 +12,7 @@
 #include "modaldriver.h"
 #include "panelkey.h"
 #include "panelwindow.h"
+#include "programhistory.h"
 #include "programscreen.h"
 #include "settings.h"
 #include "stick.h"
@@ -69,7 +70,10 @@ QString textsThatDoNotFit(const QWidget *window)
 /// The panel with all its screens, as the program has it.
 struct Panel
 {
-    explicit Panel(const QSize &size, Languages *languages) : stick(QString()), window(size)
+    explicit Panel(const QSize &size, Languages *languages)
+        : stick(QString())
+        , history(FilarixTest::programDir(), FilarixTest::home() + QLatin1String("/hmi/history"))
+        , window(size)
     {
         const QString ownDir = FilarixTest::home() + QLatin1String("/hmi");
         program =
@@ -86,7 +90,7 @@ struct Panel
             new ConnectionsScreen(ownDir + QLatin1String("/connections.ini")),
             [] { return PanelWindow::tr("Connections"); }, QIcon());
         window.addScreen(
-            new FilesScreen(&stick), [] { return PanelWindow::tr("Files"); }, QIcon());
+            new FilesScreen(&stick, &history), [] { return PanelWindow::tr("Files"); }, QIcon());
         window.setLanguages(languages);
         window.show();
         QCoreApplication::processEvents();
@@ -121,6 +125,7 @@ struct Panel
     }
 
     Stick stick;
+    ProgramHistory history;
     MachineData machine;
     PanelWindow window;
     ProgramScreen *program;

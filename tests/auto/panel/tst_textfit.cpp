@@ -14,6 +14,7 @@
 #include "panelstyle.h"
 #include "panelsurface.h"
 #include "panelwindow.h"
+#include "programhistory.h"
 #include "programscreen.h"
 #include "samples.h"
 #include "settings.h"
@@ -152,7 +153,8 @@ void TestTextFit::everyTextFits()
     panel.addScreen(
         connections, [] { return PanelWindow::tr("Connections"); },
         Glyphs::icon(Glyphs::Connections));
-    FilesScreen *files = new FilesScreen(&stick);
+    ProgramHistory history(programDir(), home() + "/hmi/history");
+    FilesScreen *files = new FilesScreen(&stick, &history);
     panel.addScreen(
         files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
     connect(files, &FilesScreen::importWanted, programs->programWindow(),

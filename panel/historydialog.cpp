@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "historydialog.h"
+
+#include "look.h"
+#include "programhistory.h"
+#include "programsnapshot.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+const QSize kRoomy(720, 560);
+const int kColumns = 4;
+const int kWideFrom = 600;
+const int kNarrowBelow = 400;
+
+QHBoxLayout *addKeyRow(QVBoxLayout *column)
+{
+    QHBoxLayout *row = new QHBoxLayout;
+    row->setSpacing(6);
+    column->addLayout(row);
+    return row;
+}
+
+// A word takes twice the room of an arrow.
+QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
+{
+    QPushButton *key = new QPushButton(text);
+    key->setObjectName(QLatin1String(objectName));
+    key->setAutoDefault(false);
+    key->setMinimumWidth(Look::kTouch);
+    row->addWidget(key, text.size() == 1 ? 1 : 2);
+    return key;
+}
+
+} // namespace
+
+HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *parent)
+    : Dialog(parent), m_all(versions), m_table(new QTableWidget(0, kColumns))
+{
+    std::reverse(m_all.begin(), m_all.end());
+    setTitle(tr("History"));
+    m_table->setHorizontalHeaderLabels({tr("Program"), tr("Kept on"), tr("Checksum"), tr("Size")});
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    m_table->setShowGrid(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
+    // Two names may differ at the end alone.
+    m_table->setTextElideMode(Qt::ElideMiddle);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(Look::kTouch);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    const QFontMetrics metrics(m_table->font());
+    m_table->setColumnWidth(1, metrics.horizontalAdvance(QLatin1String("0000-00-00 00:00")) + 14);
+    m_table->setColumnWidth(2, metrics.horizontalAdvance(QLatin1String("DDDD DDDD")) + 14);
+    m_table->setColumnWidth(3, metrics.horizontalAdvance(QLatin1String("00000 KB")) + 14);
+
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->setSpacing(6);
+    column->addWidget(m_table, 1);
+    const QSize panel = QGuiApplication::primaryScreen()->availableSize();
+    QHBoxLayout *keys = addKeyRow(column);
+    m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
+    m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
+    m_onlyKey = addKey(keys, tr("Only this"), "only");
+    if (panel.width() < kNarrowBelow)
+        keys = addKeyRow(column);
+    m_restoreKey = addKey(keys, tr("Bring back"), "restore");
+    QPushButton *closeKey = addKey(keys, tr("Close"), "close");
+    m_onlyKey->setCheckable(true);
+
+    connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
+    connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
+    connect(m_onlyKey, &QPushButton::clicked, this, [this](bool isOn) {
+        m_only = isOn ? version().name : QString();
+        fill();
+    });
+    connect(m_restoreKey, &QPushButton::clicked, this, &QDialog::accept);
+    connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryDialog::showState);
+    connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &HistoryDialog::showState);
+    connect(m_table->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            &HistoryDialog::showState);
+    fill();
+    resize(kRoomy.boundedTo(panel - QSize(8, 8)));
+}
+
+ProgramVersion HistoryDialog::version() const
+{
+    const QList<QTableWidgetItem *> chosen = m_table->selectedItems();
+    return chosen.isEmpty() ? ProgramVersion() : m_shown.at(chosen.first()->row());
+}
+
+void HistoryDialog::resizeEvent(QResizeEvent *event)
+{
+    // The name comes first.
+    m_table->setColumnHidden(2, width() < kWideFrom);
+    m_table->setColumnHidden(3, width() < kNarrowBelow);
+    Dialog::resizeEvent(event);
+}
+
+void HistoryDialog::fill()
+{
+    const qint64 chosen = version().number;
+    m_shown.clear();
+    for (const ProgramVersion &version : qAsConst(m_all)) {
+        if (m_only.isEmpty() || version.name == m_only)
+            m_shown.append(version);
+    }
+    m_table->clearContents();
+    m_table->setRowCount(m_shown.size());
+    int row = 0;
+    for (const ProgramVersion &version : qAsConst(m_shown)) {
+        QTableWidgetItem *size =
+            new QTableWidgetItem(tr("%1 KB").arg((version.bytes + 1023) / 1024));
+        size->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        m_table->setItem(row, 0, new QTableWidgetItem(version.name.simplified()));
+        m_table->setItem(row, 1, new QTableWidgetItem(ProgramHistory::shownDate(version)));
+        m_table->setItem(row, 2, new QTableWidgetItem(ProgramFacts::checksum(version.hash)));
+        m_table->setItem(row, 3, size);
+        if (version.number == chosen)
+            m_table->selectRow(row);
+        ++row;
+    }
+    showState();
+}
+
+void HistoryDialog::turn(int pages)
+{
+    QScrollBar *bar = m_table->verticalScrollBar();
+    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - 1));
+}
+
+void HistoryDialog::showState()
+{
+    const bool isChosen = !m_table->selectedItems().isEmpty();
+    m_restoreKey->setEnabled(isChosen);
+    m_onlyKey->setEnabled(isChosen || m_onlyKey->isChecked());
+    const QScrollBar *bar = m_table->verticalScrollBar();
+    m_backKey->setEnabled(bar->value() > bar->minimum());
+    m_forthKey->setEnabled(bar->value() < bar->maximum());
+}

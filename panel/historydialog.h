@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef HISTORYDIALOG_H
+#define HISTORYDIALOG_H
+
+#include "dialog.h"
+#include "historystore.h"
+
+class QPushButton;
+class QTableWidget;
+
+/// Lets the operator choose a version of a program to be brought back: the newest on top, a page at
+/// a time, all of them or those of one name.
+class HistoryDialog : public Dialog
+{
+    Q_OBJECT
+
+public:
+    /// \a versions are in order, oldest first.
+    explicit HistoryDialog(const QList<ProgramVersion> &versions, QWidget *parent = nullptr);
+
+    /// The version that was chosen; its number is 0 while none is.
+    ProgramVersion version() const;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void fill();
+    void turn(int pages);
+    void showState();
+
+    QList<ProgramVersion> m_all;
+    QList<ProgramVersion> m_shown;
+    QTableWidget *m_table;
+    QPushButton *m_onlyKey;
+    QPushButton *m_backKey;
+    QPushButton *m_forthKey;
+    QPushButton *m_restoreKey;
+    QString m_only;
+};
+
+#endif // HISTORYDIALOG_H

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "historystore.h"
+
+#include "durably.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegExp>
+#include <QSaveFile>
+#include <QSet>
+#include <QUrl>
+
+#include <algorithm>
+
+const int HistoryStore::kRestMs;
+
+namespace {
+
+const char kFormat[] = "filarix-history 1";
+const char kSuffix[] = ".version";
+const char kDateFormat[] = "yyyy-MM-ddTHH:mm:ss.zzzZ";
+const int kNumberDigits = 10;
+// More than any head has: a name of 255 bytes takes three times as many when it is escaped.
+const int kLongestLine = 1024;
+
+QByteArray head(const ProgramVersion &version)
+{
+    return QByteArray(kFormat) + "\nname " + QUrl::toPercentEncoding(version.name) + "\nstored "
+           + version.stored.toString(QLatin1String(kDateFormat)).toLatin1() + "\nbytes "
+           + QByteArray::number(version.bytes) + "\nsha256 " + version.hash.toHex() + "\n\n";
+}
+
+// The value of the next line of a head; null when that is not the line of \a key.
+QByteArray value(QFile *file, const char *key)
+{
+    const QByteArray line = file->readLine(kLongestLine);
+    const QByteArray start = QByteArray(key) + ' ';
+    if (!line.startsWith(start) || !line.endsWith('\n'))
+        return QByteArray();
+    return line.mid(start.size(), line.size() - start.size() - 1);
+}
+
+bool read(ProgramVersion *version)
+{
+    QFile file(version->path);
+    if (!file.open(QIODevice::ReadOnly)
+        || file.readLine(kLongestLine) != QByteArray(kFormat) + '\n')
+        return false;
+    version->name = QUrl::fromPercentEncoding(value(&file, "name"));
+    version->stored = QDateTime::fromString(QString::fromLatin1(value(&file, "stored")),
+                                            QLatin1String(kDateFormat));
+    version->stored.setTimeSpec(Qt::UTC);
+    version->bytes = value(&file, "bytes").toLongLong();
+    version->hash = QByteArray::fromHex(value(&file, "sha256"));
+    const bool ends = file.readLine(kLongestLine) == "\n";
+    version->offset = file.pos();
+    return ends && !version->name.isEmpty() && !version->name.contains(QLatin1Char('/'))
+           && version->hash.size() == 32 && file.size() == version->offset + version->bytes;
+}
+
+} // namespace
+
+HistoryStore::HistoryStore(const QString &folder, const Limits &limits)
+    : m_folder(folder), m_limits(limits)
+{}
+
+bool HistoryStore::open(QString *error)
+{
+    QDir folder(m_folder);
+    if (!folder.mkpath(QLatin1String("."))) {
+        *error = tr("The history has no place: the folder %1 cannot be made.").arg(m_folder);
+        return false;
+    }
+    const QRegExp ours(
+        QString::fromLatin1("(\\d{%1,18})\\.version(\\.\\w{6})?").arg(kNumberDigits));
+    m_versions.clear();
+    m_bytes = 0;
+    m_lastNumber = 0;
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QString &name : names) {
+        if (!ours.exactMatch(name))
+            continue;
+        ProgramVersion version;
+        version.number = ours.cap(1).toLongLong();
+        version.path = folder.filePath(name);
+        m_lastNumber = std::max(m_lastNumber, version.number);
+        if (!ours.cap(2).isEmpty())
+            folder.remove(name);
+        else if (read(&version))
+            m_versions.append(version);
+    }
+    std::sort(m_versions.begin(), m_versions.end(),
+              [](const ProgramVersion &a, const ProgramVersion &b) { return a.number < b.number; });
+    for (const ProgramVersion &version : qAsConst(m_versions))
+        m_bytes += version.bytes;
+    trim();
+    m_isOpen = true;
+    return true;
+}
+
+HistoryStore::Outcome HistoryStore::store(const QString &path, QString *error)
+{
+    ProgramVersion version;
+    version.name = QFileInfo(path).fileName();
+    const FileStamp before = FileStamp::of(path);
+    if (before.isValid()
+        && (m_seen.value(version.name) == before || m_tooLarge.value(version.name) == before))
+        return Known;
+    if (before.age() >= 0 && before.age() < kRestMs)
+        return Restless;
+    // A program that fills half of the room would push out all others.
+    if (before.size > m_limits.bytes / 2) {
+        m_tooLarge.insert(version.name, before);
+        *error = tr("%1 is too large for the history.").arg(version.name);
+        return Failed;
+    }
+    QFile file(path);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (!file.isOpen() || file.error() != QFileDevice::NoError) {
+        *error = tr("The history cannot read %1: %2.").arg(version.name, file.errorString());
+        return Failed;
+    }
+    if (FileStamp::of(file) != before || FileStamp::of(path) != before)
+        return Restless;
+    file.close();
+
+    version.hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    const ProgramVersion *last = newest(version.name);
+    const bool isKnown = last && last->hash == version.hash;
+    if (!isKnown) {
+        version.number = m_lastNumber + 1;
+        version.stored = QDateTime::currentDateTimeUtc();
+        version.bytes = bytes.size();
+        version.path = pathOf(version.number);
+        if (!write(version, bytes, error))
+            return Failed;
+        m_lastNumber = version.number;
+        version.offset = head(version).size();
+        m_versions.append(version);
+        m_bytes += version.bytes;
+        trim();
+    }
+    m_seen.insert(version.name, before);
+    return isKnown ? Known : Stored;
+}
+
+bool HistoryStore::holds(const QString &path) const
+{
+    const FileStamp stamp = FileStamp::of(path);
+    return !stamp.isValid() || m_seen.value(QFileInfo(path).fileName()) == stamp;
+}
+
+QString HistoryStore::pathOf(qint64 number) const
+{
+    return QDir(m_folder).filePath(
+        QString::fromLatin1("%1").arg(number, kNumberDigits, 10, QLatin1Char('0'))
+        + QLatin1String(kSuffix));
+}
+
+bool HistoryStore::write(const ProgramVersion &version, const QByteArray &bytes, QString *error)
+{
+    // Forces what it wrote to the disk before it renames.
+    QSaveFile file(version.path);
+    if (file.open(QIODevice::WriteOnly) && file.write(head(version)) >= 0
+        && file.write(bytes) == bytes.size() && file.commit() && Durably::syncFolder(m_folder))
+        return true;
+    *error = tr("The history cannot keep %1: %2.").arg(version.name, file.errorString());
+    return false;
+}
+
+const ProgramVersion *HistoryStore::newest(const QString &name) const
+{
+    for (int i = m_versions.size() - 1; i >= 0; --i) {
+        if (m_versions.at(i).name == name)
+            return &m_versions.at(i);
+    }
+    return nullptr;
+}
+
+void HistoryStore::trim()
+{
+    while (m_versions.size() > m_limits.versions || m_bytes > m_limits.bytes) {
+        const int index = firstToGo(m_bytes > m_limits.bytes);
+        if (index < 0)
+            return;
+        const ProgramVersion version = m_versions.takeAt(index);
+        m_bytes -= version.bytes;
+        QFile::remove(version.path);
+    }
+}
+
+// The oldest that is not the newest of its name; only too many bytes make one of those go.
+int HistoryStore::firstToGo(bool overBytes) const
+{
+    QHash<QString, int> newestOf;
+    for (int i = 0; i < m_versions.size(); ++i)
+        newestOf.insert(m_versions.at(i).name, i);
+    for (int i = 0; i < m_versions.size(); ++i) {
+        if (newestOf.value(m_versions.at(i).name) != i)
+            return i;
+    }
+    // Never the one that came last: it was taken in because it is wanted.
+    return overBytes && m_versions.size() > 1 ? 0 : -1;
+}

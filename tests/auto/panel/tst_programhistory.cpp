@@ -1,0 +1,339 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "programhistory.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QScopedPointer>
+#include <QSignalSpy>
+
+#include <csignal>
+#include <fcntl.h>
+
+class TestProgramHistory : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void programsOfTheStartAreKept();
+    void savesAreKept();
+    void whatIsNoProgramIsNotKept();
+    void overwrittenVersionComesBack();
+    void removedProgramComesBack();
+    void restoreKeepsWhatIsThereFirst();
+    void restoreThatCannotKeepWhatIsThereIsRefused();
+    void longRestoreTellsItsProgressAndStops();
+    void damagedVersionIsNotBroughtBack();
+    void versionThatWentMeanwhileIsTold();
+    void restoreIntoAFolderThatTakesNothing();
+    void halfRestoredFileOfAKilledProgramGoes();
+    void historyThatCannotBeKeptIsToldOnce();
+    void storageThatHangsIsTold();
+    void settledOnlyWhenAllIsKept();
+
+private:
+    void start(const HistoryStore::Limits &limits = HistoryStore::Limits());
+    bool isKept(int versions);
+    QByteArray lastContent() const;
+    ProgramVersion versionOf(const QByteArray &bytes) const;
+    QString lastTold() const;
+
+    QString m_folder;
+    QString m_path;
+    QScopedPointer<ProgramHistory> m_history;
+    QScopedPointer<QSignalSpy> m_told;
+};
+
+static QByteArray contentOf(const ProgramVersion &version)
+{
+    QFile file(version.path);
+    return file.open(QIODevice::ReadOnly) && file.seek(version.offset) ? file.readAll()
+                                                                       : QByteArray();
+}
+
+void TestProgramHistory::init()
+{
+    FilarixTest::init();
+    m_folder = home() + "/hmi/history";
+    m_path = programDir() + "/coil.cnc";
+}
+
+void TestProgramHistory::cleanup()
+{
+    m_told.reset();
+    m_history.reset();
+    FilarixTest::cleanup();
+}
+
+void TestProgramHistory::start(const HistoryStore::Limits &limits)
+{
+    m_history.reset(new ProgramHistory(programDir(), m_folder, limits));
+    m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, bool))));
+}
+
+// Everything is kept, and that makes so many versions.
+bool TestProgramHistory::isKept(int versions)
+{
+    m_history->scan();
+    return QTest::qWaitFor([this] { return m_history->isSettled(); })
+           && m_history->versions().size() == versions;
+}
+
+QByteArray TestProgramHistory::lastContent() const
+{
+    return contentOf(m_history->versions().last());
+}
+
+ProgramVersion TestProgramHistory::versionOf(const QByteArray &bytes) const
+{
+    const QList<ProgramVersion> versions = m_history->versions();
+    for (const ProgramVersion &version : versions) {
+        if (contentOf(version) == bytes)
+            return version;
+    }
+    return ProgramVersion();
+}
+
+QString TestProgramHistory::lastTold() const
+{
+    return m_told->isEmpty() ? QString() : m_told->last().at(0).toString();
+}
+
+void TestProgramHistory::programsOfTheStartAreKept()
+{
+    writeFile(m_path, "one\n");
+    writeFile(programDir() + "/other.cnc", "two\n");
+    start();
+    QVERIFY(!m_history->isSettled());
+    QTRY_VERIFY(m_history->isSettled());
+    QCOMPARE(m_history->versions().size(), 2);
+    // At the next start they are known.
+    start();
+    QTRY_VERIFY(m_history->isSettled());
+    QCOMPARE(m_history->versions().size(), 2);
+    QCOMPARE(m_told->size(), 0);
+}
+
+void TestProgramHistory::savesAreKept()
+{
+    start();
+    // Nobody says that something changed: the history looks by itself.
+    for (const char *bytes : {"one\n", "two\n"}) {
+        writeFile(m_path, bytes);
+        QTRY_VERIFY(!m_history->versions().isEmpty() && lastContent() == bytes);
+    }
+    QCOMPARE(m_history->versions().size(), 2);
+}
+
+void TestProgramHistory::whatIsNoProgramIsNotKept()
+{
+    writeFile(programDir() + "/.hidden", "x");
+    writeFile(programDir() + "/folder/coil.cnc", "x");
+    writeFile(home() + "/elsewhere.cnc", "x");
+    QVERIFY(QFile::link(home() + "/elsewhere.cnc", programDir() + "/link.cnc"));
+    start();
+    QVERIFY(isKept(0));
+}
+
+void TestProgramHistory::overwrittenVersionComesBack()
+{
+    writeFile(m_path, "the good one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "saved over it\n");
+    QVERIFY(isKept(2));
+    m_history->restore(versionOf("the good one\n"));
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(m_told->first().at(1).toBool());
+    QVERIFY(lastTold().contains("coil.cnc is back"));
+    QCOMPARE(readFile(m_path), QByteArray("the good one\n"));
+    // Any save made the file as readable as this one.
+    writeFile(programDir() + "/usual.cnc", "x");
+    QCOMPARE(QFile::permissions(m_path), QFile::permissions(programDir() + "/usual.cnc"));
+    QVERIFY(QFile::remove(programDir() + "/usual.cnc"));
+    // The one saved over it can be had again, too.
+    m_history->restore(versionOf("saved over it\n"));
+    QTRY_COMPARE(m_told->size(), 2);
+    QCOMPARE(readFile(m_path), QByteArray("saved over it\n"));
+}
+
+void TestProgramHistory::removedProgramComesBack()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    QVERIFY(QFile::remove(m_path));
+    QVERIFY(isKept(1));
+    // And the directory with it.
+    QVERIFY(QDir().rmdir(programDir()));
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
+    QCOMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestProgramHistory::restoreKeepsWhatIsThereFirst()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    // Saved a moment ago, and nobody has looked since.
+    writeFile(m_path, "two\n");
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
+    QCOMPARE(versionOf("two\n").name, QString("coil.cnc"));
+}
+
+void TestProgramHistory::restoreThatCannotKeepWhatIsThereIsRefused()
+{
+    HistoryStore::Limits limits;
+    limits.bytes = 1000;
+    writeFile(m_path, "one\n");
+    start(limits);
+    QVERIFY(isKept(1));
+    const QByteArray large(501, 'x');
+    writeFile(m_path, large);
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 2);
+    QVERIFY(m_told->first().at(0).toString().contains("too large"));
+    QVERIFY(lastTold().contains("not brought back"));
+    QVERIFY(!m_told->last().at(1).toBool());
+    QCOMPARE(readFile(m_path), large);
+}
+
+void TestProgramHistory::longRestoreTellsItsProgressAndStops()
+{
+    const QByteArray bytes = QByteArray("G01 X1.5 Y-2\n").repeated(100000);
+    writeFile(m_path, bytes);
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "saved over it\n");
+    QVERIFY(isKept(2));
+    QSignalSpy worked(m_history.data(), SIGNAL(worked(QString, int)));
+    const ProgramVersion version = m_history->versions().first();
+    m_history->restore(version);
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(worked.size() > 10);
+    QCOMPARE(worked.last().at(1).toInt(), 100);
+    QCOMPARE(readFile(m_path), bytes);
+
+    writeFile(m_path, "saved over it again\n");
+    connect(m_history.data(), &ProgramHistory::worked, m_history.data(),
+            &ProgramHistory::stopRestoring);
+    m_history->restore(version);
+    QTRY_COMPARE(m_told->size(), 2);
+    QVERIFY(lastTold().contains("Stopped"));
+    QCOMPARE(readFile(m_path), QByteArray("saved over it again\n"));
+    QTRY_COMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestProgramHistory::damagedVersionIsNotBroughtBack()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    const ProgramVersion version = m_history->versions().first();
+    writeFile(version.path, readFile(version.path).replace("one", "ono"));
+    m_history->restore(version);
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(lastTold().contains("damaged"));
+    QCOMPARE(readFile(m_path), QByteArray("two\n"));
+    QCOMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void TestProgramHistory::versionThatWentMeanwhileIsTold()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    const ProgramVersion version = m_history->versions().first();
+    QVERIFY(QFile::remove(version.path));
+    m_history->restore(version);
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(lastTold().contains("not in the history any more"));
+    // The next one is not held up by it.
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    m_history->restore(m_history->versions().last());
+    QTRY_COMPARE(m_told->size(), 2);
+    QVERIFY(m_told->last().at(1).toBool());
+}
+
+void TestProgramHistory::restoreIntoAFolderThatTakesNothing()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    const QFileDevice::Permissions usual = QFile::permissions(programDir());
+    QVERIFY(QFile::setPermissions(programDir(), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(lastTold().contains("cannot be written"));
+    QVERIFY(QFile::setPermissions(programDir(), usual));
+}
+
+void TestProgramHistory::halfRestoredFileOfAKilledProgramGoes()
+{
+    writeFile(programDir() + "/.filarix-restored.aBc123", "half");
+    writeFile(programDir() + "/.filarix-restored", "whole, but without its name");
+    start();
+    QVERIFY(isKept(0));
+    QVERIFY(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+void TestProgramHistory::historyThatCannotBeKeptIsToldOnce()
+{
+    writeFile(home() + "/hmi", "a file where the folder should be");
+    writeFile(m_path, "one\n");
+    start();
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(lastTold().contains(m_folder));
+    QVERIFY(!m_told->first().at(1).toBool());
+    QVERIFY(isKept(0));
+    QCOMPARE(m_told->size(), 1);
+    // It goes on by itself once it can.
+    QVERIFY(QFile::remove(home() + "/hmi"));
+    QTRY_COMPARE(m_history->versions().size(), 1);
+}
+
+void TestProgramHistory::storageThatHangsIsTold()
+{
+    writeFile(m_path, "one\n");
+    // A program that hangs when it is opened: the system waits until the lease is given back.
+    std::signal(SIGIO, SIG_IGN);
+    QFile leased(m_path);
+    QVERIFY(leased.open(QIODevice::ReadWrite));
+    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+    m_history.reset(new ProgramHistory(programDir(), m_folder));
+    m_history->setStallTime(200);
+    m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, bool))));
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(lastTold().contains("stopped answering"));
+    // Nobody is kept from working by it.
+    QVERIFY(m_history->isSettled());
+    m_history->scan();
+    QVERIFY(m_history->isSettled());
+    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_UNLCK), 0);
+}
+
+void TestProgramHistory::settledOnlyWhenAllIsKept()
+{
+    start();
+    QTRY_VERIFY(m_history->isSettled());
+    for (int i = 0; i < 20; ++i)
+        writeFile(programDir() + QString("/%1.cnc").arg(i), QByteArray(10000, 'x'));
+    m_history->scan();
+    QVERIFY(!m_history->isSettled());
+    QTRY_VERIFY(m_history->isSettled());
+    QCOMPARE(m_history->versions().size(), 20);
+}
+
+FILARIX_TEST_MAIN(TestProgramHistory)
+#include "tst_programhistory.moc"
