@@ -25,6 +25,7 @@ desk_picture transfer-files.png
 
 # From the screen where operators miss a program; the files have the same key.
 touch_text Program
+expect_gone Pull
 touch_text I/E
 expect_text Quit
 desk_picture transfer-start.png
