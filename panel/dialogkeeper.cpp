@@ -4,6 +4,7 @@
 #include "dialogkeeper.h"
 
 #include "look.h"
+#include "panelsurface.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -21,7 +22,7 @@ const QSize kRoomyDialog(640, 440);
 // choose its place stands above the middle.
 bool isMisplaced(const QDialog *dialog)
 {
-    return !dialog->testAttribute(Qt::WA_Moved) && dialog->frameGeometry() == dialog->geometry();
+    return !dialog->testAttribute(Qt::WA_Moved) && !PanelSurface::hasWindowManager();
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// The toolkit's private headers use the keywords.
+#undef QT_NO_KEYWORDS
+
 #include "panelsurface.h"
 
 #include <QEvent>
@@ -10,6 +13,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformintegration.h>
 #include <qpa/qwindowsysteminterface.h>
 
 const int SurfaceLoan::kTallPanel;
@@ -49,6 +54,12 @@ bool PanelSurface::isDesktop()
     const QString platform = QGuiApplication::platformName();
     return platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"))
            || platform == QLatin1String("offscreen");
+}
+
+bool PanelSurface::hasWindowManager()
+{
+    return QGuiApplicationPrivate::platformIntegration()->hasCapability(
+        QPlatformIntegration::WindowManagement);
 }
 
 void PanelSurface::announce()

@@ -28,6 +28,9 @@ public:
 
     /// Whether the platform shows windows on a desktop, rather than one program on a screen.
     static bool isDesktop();
+    /// Whether something places and frames the windows: a desktop does, a display that is the
+    /// program's alone does not, nor does a PanelGlass.
+    static bool hasWindowManager();
 
 private:
     void announce();

@@ -267,7 +267,9 @@ void TestPanelGlass::surfaceIsTheScreen()
         QCOMPARE(QApplication::desktop()->screenGeometry(-1), surface);
         QCOMPARE(panel.screen.geometry(), surface);
         QCOMPARE(qApp->property("hmiScreen").toRect(), surface);
+        QVERIFY(!PanelSurface::hasWindowManager());
     }
+    QVERIFY(PanelSurface::hasWindowManager());
     QCOMPARE(QGuiApplication::primaryScreen()->geometry(), before);
     QCOMPARE(QGuiApplication::screens().size(), screens);
 }
