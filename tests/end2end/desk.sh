@@ -111,13 +111,23 @@ desk_click_at() {
     esac
 }
 
+# desk_settled desk_place|desk_named ARGUMENT...: the place, once it stays where it is: a window that has
+# just come up, or a row that opens, still moves.
+desk_settled() {
+    local place before=none
+    while place=$("$@") && [ "$place" != "$before" ]; do
+        before=$place
+        sleep 0.15
+    done
+    echo "$place"
+}
+
 # touch_text TEXT [WINDOW TITLE [N]]: waits for the widget and clicks on its middle.
 touch_text() {
     local place
     desk_until 20 desk_place "$@" >/dev/null || desk_fail "nothing reads \"$1\" ${2:+in \"$2\"}"
-    # A window that has just come up may still move.
-    sleep 0.15
-    place=$(desk_place "$@") || desk_fail "\"$1\" went away"
+    place=$(desk_settled desk_place "$@")
+    [ -n "$place" ] || desk_fail "\"$1\" went away"
     # shellcheck disable=SC2086
     desk_click_at $place
 }
@@ -126,8 +136,8 @@ touch_text() {
 touch_named() {
     local place
     desk_until 20 desk_named "$@" >/dev/null || desk_fail "nothing is named \"$1\" ${2-}"
-    sleep 0.15
-    place=$(desk_named "$@") || desk_fail "\"$1\" went away"
+    place=$(desk_settled desk_named "$@")
+    [ -n "$place" ] || desk_fail "\"$1\" went away"
     # shellcheck disable=SC2086
     desk_click_at $place
 }

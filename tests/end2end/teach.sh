@@ -19,6 +19,7 @@ touch_text Store
 desk_until 20 test -s "$program" || desk_fail "nothing was stored"
 cp "$program" /tmp/original
 # The message lies over the first row for a while.
+expect_text "program.teach stored, instructions: 72."
 expect_gone "program.teach stored, instructions: 72."
 desk_picture teach-closed.png
 
