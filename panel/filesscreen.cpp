@@ -136,10 +136,27 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
 
 void FilesScreen::refreshStatus()
 {
+    if (isVisible())
+        showState();
+}
+
+void FilesScreen::showEvent(QShowEvent *event)
+{
+    showState();
+    PanelScreen::showEvent(event);
+}
+
+void FilesScreen::showDevices(const DeviceState &state)
+{
+    if (state.isKnown && state.stickIn != m_wasPresent)
+        lookAtStick();
+}
+
+void FilesScreen::lookAtStick()
+{
     const bool present = m_stick->isPresent();
     const bool arrived = present && !m_wasPresent;
     m_wasPresent = present;
-    Q_EMIT statusChanged(tr("Stick"), present ? tr("in") : tr("out"));
     showState();
     // A box over another dialog would come as a surprise; the guard asks at the next press anyway.
     if (arrived && !QApplication::activeModalWidget()) {
@@ -160,13 +177,15 @@ void FilesScreen::plug()
     QString error;
     if (!m_stick->plug(&error))
         Q_EMIT told(error, Warning);
-    refreshStatus();
+    Q_EMIT stickMoved();
+    lookAtStick();
 }
 
 void FilesScreen::pull()
 {
     m_stick->pull();
-    refreshStatus();
+    Q_EMIT stickMoved();
+    lookAtStick();
     Q_EMIT told(tr("The stick is out."), Info);
 }
 

@@ -4,6 +4,7 @@
 #ifndef FILESSCREEN_H
 #define FILESSCREEN_H
 
+#include "devicewatch.h"
 #include "panelscreen.h"
 
 #include <functional>
@@ -25,7 +26,7 @@ public:
     FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent = nullptr);
 
     QString title() const override;
-    /// Also sees a stick come and go: when one comes, its names are checked.
+    /// The folders are looked at while the screen is up, and no longer.
     void refreshStatus() override;
 
     ImportGuard *guard() const { return m_guard; }
@@ -40,18 +41,24 @@ public:
 
 public Q_SLOTS:
     void stopWork() override;
+    /// Takes note of a stick that has come or gone: when one comes, its names are checked.
+    void showDevices(const DeviceState &state);
 
 Q_SIGNALS:
     /// The operator wants the import manager.
     void importWanted();
+    /// The keys have plugged or pulled the stick.
+    void stickMoved();
 
 protected:
     void retranslate() override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     ElidedLabel *addLine(const std::function<QString()> &heading, const QList<PanelKey *> &keys);
     void rename();
     void pick();
+    void lookAtStick();
     void showState();
 
     Stick *m_stick;

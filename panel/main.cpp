@@ -176,7 +176,8 @@ int runPanel(const Options &options)
     const QString programDir = Samples::programDir();
     DeviceWatch watch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); });
     QObject::connect(&watch, &DeviceWatch::changed, panel.status(), &StatusStrip::showDevices);
-    QObject::connect(files, &PanelScreen::statusChanged, &watch, &DeviceWatch::lookNow);
+    QObject::connect(&watch, &DeviceWatch::changed, files, &FilesScreen::showDevices);
+    QObject::connect(files, &FilesScreen::stickMoved, &watch, &DeviceWatch::lookNow);
     panel.status()->follow(programs->transfer());
     // Not by the last window: the find dialog may be open, and it has no parent.
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);

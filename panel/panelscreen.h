@@ -34,7 +34,7 @@ public:
     virtual QList<PanelKey *> keys() { return QList<PanelKey *>(); }
     /// Asks what has to be asked before the program ends; false keeps it open.
     virtual bool mayClose() { return true; }
-    /// Looks at the devices and emits statusChanged(); the shell calls it every few seconds.
+    /// Looks whether what it shows is still so; the shell calls it every few seconds.
     virtual void refreshStatus() {}
 
 Q_SIGNALS:
@@ -43,8 +43,6 @@ Q_SIGNALS:
     void told(const QString &text, PanelScreen::Tone tone);
     /// Long work goes on: \a percent of it is done. The shell offers a Stop key.
     void worked(const QString &text, int percent);
-    /// The state of a device, for the status line: "PLC ready".
-    void statusChanged(const QString &device, const QString &state);
 
 public Q_SLOTS:
     /// The operator pressed Stop.

@@ -125,14 +125,6 @@
         <translation>Dateien und Stick</translation>
     </message>
     <message>
-        <source>in</source>
-        <translation>steckt</translation>
-    </message>
-    <message>
-        <source>out</source>
-        <translation>fehlt</translation>
-    </message>
-    <message>
         <source>The stick is in; all file names are safe.</source>
         <translation>Der Stick steckt; alle Dateinamen sind sicher.</translation>
     </message>

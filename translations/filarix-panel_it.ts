@@ -125,14 +125,6 @@
         <translation>File e chiavetta</translation>
     </message>
     <message>
-        <source>in</source>
-        <translation>sì</translation>
-    </message>
-    <message>
-        <source>out</source>
-        <translation>no</translation>
-    </message>
-    <message>
         <source>The stick is in; all file names are safe.</source>
         <translation>Chiavetta inserita; tutti i nomi dei file sono sicuri.</translation>
     </message>

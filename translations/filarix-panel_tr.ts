@@ -125,14 +125,6 @@
         <translation>Dosyalar ve bellek</translation>
     </message>
     <message>
-        <source>in</source>
-        <translation>takılı</translation>
-    </message>
-    <message>
-        <source>out</source>
-        <translation>yok</translation>
-    </message>
-    <message>
         <source>The stick is in; all file names are safe.</source>
         <translation>Bellek takıldı; tüm dosya adları güvenli.</translation>
     </message>

@@ -125,14 +125,6 @@
         <translation>文件和 U 盘</translation>
     </message>
     <message>
-        <source>in</source>
-        <translation>已插入</translation>
-    </message>
-    <message>
-        <source>out</source>
-        <translation>未插入</translation>
-    </message>
-    <message>
         <source>The stick is in; all file names are safe.</source>
         <translation>U 盘已插入; 所有文件名都安全。</translation>
     </message>

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void cleanup();
     void keysPlugAndPullTheStick();
     void arrivingStickIsCheckedOnce();
+    void stickOfTheSystemIsSeenToComeAndGo();
     void stickThatCannotBePluggedIsTold();
     void pickedPathIsShown();
     void stateIsToldInFullByATouch();
@@ -93,16 +94,16 @@ void TestFilesScreen::keysPlugAndPullTheStick()
     Stick stick(m_folder);
     FilesScreen screen(&stick, m_history.data());
     screen.show();
-    QSignalSpy states(&screen, SIGNAL(statusChanged(QString, QString)));
+    QSignalSpy moves(&screen, SIGNAL(stickMoved()));
     QVERIFY(!key(screen, "Pull")->isEnabled());
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
     QVERIFY(stick.isPresent());
-    QCOMPARE(states.last().at(1).toString(), QString("in"));
+    QCOMPARE(moves.size(), 1);
     QVERIFY(!key(screen, "Plug")->isEnabled());
     QVERIFY(shows(screen, "In. Files: 1"));
     QTest::mouseClick(key(screen, "Pull"), Qt::LeftButton);
     QVERIFY(!stick.isPresent());
-    QCOMPARE(states.last().at(1).toString(), QString("out"));
+    QCOMPARE(moves.size(), 2);
     QVERIFY(shows(screen, "Out"));
 }
 
@@ -118,7 +119,7 @@ void TestFilesScreen::arrivingStickIsCheckedOnce()
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(driver.boxes().last().text.contains("a b.cnc"));
     QVERIFY(shows(screen, "not safe: 1"));
-    screen.refreshStatus();
+    screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
     QVERIFY2(driver.finished(), driver.report());
 
     driver.press(QMessageBox::Yes);
@@ -126,6 +127,25 @@ void TestFilesScreen::arrivingStickIsCheckedOnce()
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList("a_b.cnc"));
     QVERIFY(!key(screen, "Rename")->isEnabled());
+}
+
+void TestFilesScreen::stickOfTheSystemIsSeenToComeAndGo()
+{
+    Stick stick;
+    FilesScreen screen(&stick, m_history.data());
+    screen.show();
+    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    writeFile(Stick::marker(), "in");
+    // What is not known yet is no change.
+    screen.showDevices(DeviceState());
+    QCOMPARE(told.size(), 0);
+    screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
+    QCOMPARE(told.size(), 1);
+    QVERIFY(shows(screen, "In. Files: 0"));
+    QFile::remove(Stick::marker());
+    screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
+    QVERIFY(shows(screen, "Out"));
+    QCOMPARE(told.size(), 1);
 }
 
 void TestFilesScreen::stickThatCannotBePluggedIsTold()
