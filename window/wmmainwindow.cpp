@@ -195,8 +195,7 @@ QString WMMainWindow::getEffectiveString(QString line)
 
     QStringList names;
     QList<double> values;
-    const bool hasPairs = splitString(words, names, values);
-    if (names.size() != values.size() || !hasPairs)
+    if (!splitString(words, names, values))
         return kept;
     if (start >= names.size())
         return QString();
