@@ -16,6 +16,7 @@ private Q_SLOTS:
     void theSheetGoesByTheArgument_data();
     void theSheetGoesByTheArgument();
     void theHintGoesByTheCurrentOrientation();
+    void theHintOfNeitherOrientationIsTheToolkits();
     void aScrollAreaTurnsIt();
 };
 
@@ -71,6 +72,17 @@ void TestScrollBar::theHintGoesByTheCurrentOrientation()
     QCOMPARE(bar.sizeHint(), QSize(69, 30));
     bar.setOrientation(Qt::Vertical);
     QCOMPARE(bar.sizeHint(), QSize(30, 69));
+}
+
+void TestScrollBar::theHintOfNeitherOrientationIsTheToolkits()
+{
+    ScrollBar bar(Qt::Orientation(0), nullptr);
+    QScrollBar plain;
+    bar.setOrientation(Qt::Orientation(0));
+    plain.setOrientation(Qt::Orientation(0));
+    QCOMPARE(bar.sizeHint(), plain.sizeHint());
+    QVERIFY(bar.sizeHint() != QSize(30, 69));
+    QVERIFY(bar.sizeHint() != QSize(69, 30));
 }
 
 void TestScrollBar::aScrollAreaTurnsIt()

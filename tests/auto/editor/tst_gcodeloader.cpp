@@ -10,8 +10,10 @@
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <QTimer>
 
 #include <functional>
@@ -206,6 +208,7 @@ private Q_SLOTS:
     void eventsAreServedAfterEachPiece_data();
     void eventsAreServedAfterEachPiece();
     void windowStaysUsableBetweenThePieces();
+    void wrappedProgramIsLaidOutForItsWidth();
     void updatesComeBack_data();
     void updatesComeBack();
     void updatesHeldByTheParentComeBack();
@@ -531,6 +534,27 @@ void TestGCodeLoader::windowStaysUsableBetweenThePieces()
     QVERIFY(entered);
     QCOMPARE(blocks(editor), blocks(plain));
     QVERIFY(editor.updatesEnabled());
+}
+
+void TestGCodeLoader::wrappedProgramIsLaidOutForItsWidth()
+{
+    // The gutter gets wider as the program goes in: each line has to be broken anew.
+    const QString line = QLatin1String("G01 X100 Y200 Z300 U400 V500 W600 F7000 S8000 T9 M10");
+    const QStringList lines = QStringList(QVector<QString>(1200, line).toList());
+    WGCodeEditer editor(nullptr);
+    editor.setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    editor.setWordWrapMode(QTextOption::WordWrap);
+    editor.resize(300, 300);
+    editor.show();
+    QVERIFY(TestCompat::waitForExposed(&editor));
+    const int width = editor.lineNumberAreaWidth();
+    editor.readGCode(lines.join(QLatin1String("\n")));
+    QVERIFY(editor.lineNumberAreaWidth() > width);
+    QCOMPARE(editor.blockCount(), 1200);
+    QCOMPARE(editor.horizontalScrollBar()->maximum(), 0);
+    const QTextBlock first = editor.document()->firstBlock();
+    QVERIFY(first.layout()->lineCount() > 1);
+    QVERIFY(first.layout()->lineAt(0).naturalTextWidth() <= editor.viewport()->width());
 }
 
 void TestGCodeLoader::updatesComeBack_data()

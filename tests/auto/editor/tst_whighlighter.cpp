@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "blockformatter_p.h"
 #include "filarixtest.h"
 #include "whighlighter.h"
 
@@ -24,6 +25,11 @@ private Q_SLOTS:
     void aFormatSetsItsForegroundAlone();
     void anEmptyBlockHasNoFormats();
     void anEditColoursItsBlockAnew();
+    void anEditThatChangesTheRuleAloneChangesTheColour();
+    void textThatIsNotWhatWasExpectedIsReadBack_data();
+    void textThatIsNotWhatWasExpectedIsReadBack();
+    void aChangeBehindTheEndColoursNothing();
+    void aHighlighterThatDoesNotListenIsLeftAlone();
     void marksAreNotDrawn();
     void aHostsHighlighterUsesAMarkUp();
     void outsideOfHighlightingAMarkDrawsNothing();
@@ -298,6 +304,61 @@ void TestWHighlighter::anEditColoursItsBlockAnew()
     cursor.deleteChar();
     QCOMPARE(colours(document.firstBlock()), QString::fromLatin1("---aaaa"));
     QCOMPARE(colours(document.lastBlock()), QString::fromLatin1("gg"));
+}
+
+void TestWHighlighter::anEditThatChangesTheRuleAloneChangesTheColour()
+{
+    QTextDocument document;
+    new BlockFormatter(newHighlighter(&document));
+    document.setPlainText(QLatin1String("G01"));
+    QCOMPARE(colours(document.firstBlock()), QString::fromLatin1("ggg"));
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor);
+    cursor.insertText(QLatin1String("M"));
+    QCOMPARE(colours(document.firstBlock()), QString::fromLatin1("mmm"));
+}
+
+void TestWHighlighter::textThatIsNotWhatWasExpectedIsReadBack_data()
+{
+    QTest::addColumn<QString>("expectedText");
+    QTest::newRow("as expected") << "X1 G01\nM3";
+    QTest::newRow("too short") << "X1";
+    QTest::newRow("too short in its second line") << "X1 G01\nM";
+    QTest::newRow("too long") << "X1 G01 F1\nM3";
+    QTest::newRow("one line in place of two") << "X1 G01 M3";
+    QTest::newRow("nothing") << "";
+}
+
+void TestWHighlighter::textThatIsNotWhatWasExpectedIsReadBack()
+{
+    QFETCH(QString, expectedText);
+    QTextDocument document;
+    BlockFormatter *formatter = new BlockFormatter(newHighlighter(&document));
+    formatter->expect(expectedText, 0);
+    QTextCursor(&document).insertText(QLatin1String("X1 G01\nM3"));
+    QCOMPARE(colours(document.firstBlock()), QString::fromLatin1("aa-ggg"));
+    QCOMPARE(colours(document.lastBlock()), QString::fromLatin1("mm"));
+}
+
+void TestWHighlighter::aChangeBehindTheEndColoursNothing()
+{
+    QTextDocument document;
+    BlockFormatter *formatter = new BlockFormatter(newHighlighter(&document));
+    document.setPlainText(QLatin1String("G01"));
+    document.firstBlock().layout()->clearAdditionalFormats();
+    QVERIFY(QMetaObject::invokeMethod(formatter, "formatChange", Q_ARG(int, 4), Q_ARG(int, 0),
+                                      Q_ARG(int, 0)));
+    QCOMPARE(colours(document.firstBlock()), QString::fromLatin1("---"));
+}
+
+void TestWHighlighter::aHighlighterThatDoesNotListenIsLeftAlone()
+{
+    QTextDocument document;
+    WHighlighter *highlighter = newHighlighter(&document);
+    QVERIFY(disconnect(&document, SIGNAL(contentsChange(int, int, int)), highlighter, nullptr));
+    new BlockFormatter(highlighter);
+    document.setPlainText(QLatin1String("G01"));
+    QCOMPARE(colours(document.firstBlock()), QString::fromLatin1("---"));
 }
 
 void TestWHighlighter::marksAreNotDrawn()

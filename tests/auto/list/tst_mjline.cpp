@@ -124,6 +124,7 @@ private Q_SLOTS:
     void answerWithoutAColonIsStoredWhole();
     void lastPartOfAnAnswerIsTheValue();
     void callWithoutASenderChangesNoValue();
+    void senderOfAnotherRowChangesNoValue();
 };
 
 namespace {
@@ -1019,6 +1020,20 @@ void TestMJLine::lastPartOfAnAnswerIsTheValue()
     QMetaObject::invokeMethod(line.view.detail(6), "changed", Q_ARG(QString, "a:b:c"));
     QCOMPARE(line.getV().first(), QString("c"));
     QCOMPARE(line.view.detailText(6), QString("a:b:c"));
+}
+
+void TestMJLine::senderOfAnotherRowChangesNoValue()
+{
+    for (int open = 0; open < 2; ++open) {
+        Line line;
+        if (open)
+            line.on_expand();
+        ComboLineEdit other(nullptr);
+        connect(&other, SIGNAL(changed(QString)), &line, SLOT(on_vars1_change(QString)));
+        QVERIFY(QMetaObject::invokeMethod(&other, "changed", Q_ARG(QString, "Z:50")));
+        QCOMPARE(line.listener.take(), QStringList() << "changed 7");
+        QCOMPARE(line.GetLineList(), sample());
+    }
 }
 
 void TestMJLine::callWithoutASenderChangesNoValue()

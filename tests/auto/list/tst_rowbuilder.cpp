@@ -30,6 +30,7 @@ private Q_SLOTS:
     void everyFaultIsFoundAtItsPlace_data();
     void everyFaultIsFoundAtItsPlace();
     void everyFaultHasItsOwnWords();
+    void problemsAreEqualInAllThree();
     void colonInADetailCutsItAtTheNextEdit();
     void instructionNamedLikeATableIsHidden();
     void titleStandsAboveItsColumns();
@@ -306,6 +307,17 @@ void TestRowBuilder::everyFaultHasItsOwnWords()
         QVERIFY(!seen.contains(text));
         seen << text;
     }
+    // A fault of a later version.
+    QCOMPARE(describe(Problem(12, 4, Fault(SharedCell + 1))), QString("row 12, position 4: "));
+}
+
+void TestRowBuilder::problemsAreEqualInAllThree()
+{
+    const Problem problem(12, 4, ColonInField);
+    QVERIFY(problem == Problem(12, 4, ColonInField));
+    QVERIFY(!(problem == Problem(13, 4, ColonInField)));
+    QVERIFY(!(problem == Problem(12, 5, ColonInField)));
+    QVERIFY(!(problem == Problem(12, 4, AttMissing)));
 }
 
 void TestRowBuilder::colonInADetailCutsItAtTheNextEdit()

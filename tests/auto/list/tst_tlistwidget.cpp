@@ -266,6 +266,7 @@ private Q_SLOTS:
     void listMayChangeWhileAKeypadIsOpen();
 
     void rowsOfUnknownKindHaveNoWidget();
+    void emptiedRowKeepsWhatItsWidgetShows();
     void titleOfUnknownKindIsNoTitle();
     void shortRows_data();
     void shortRows();
@@ -1677,6 +1678,18 @@ void TestTListWidget::listMayChangeWhileAKeypadIsOpen()
 }
 
 // A host's errors
+
+void TestTListWidget::emptiedRowKeepsWhatItsWidgetShows()
+{
+    Program program(false, 3);
+    const QString before = RowView::text(RowView(program.line(1)).cell(RowView::Ins));
+    QStringList empty;
+    program->setContent(1, empty);
+    program->setCurIndex(2, true);
+    QCOMPARE(program->getContent(1), QStringList());
+    QCOMPARE(RowView::text(RowView(program.line(1)).cell(RowView::Ins)), before);
+    QVERIFY(!program.line(1)->isHidden());
+}
 
 void TestTListWidget::rowsOfUnknownKindHaveNoWidget()
 {

@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QTextBlock>
+#include <QTextTable>
 
 #include <random>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void comparesWithTheNearestLine_data();
     void comparesWithTheNearestLine();
     void blocksThatAreNoSingleLine();
+    void tablesAndFramesEndALine();
     void sameAsThePlainStepsOnRandomDocuments();
     void sameAsThePlainStepsOnLongDocuments();
     void everyLineAboveIsRead();
@@ -419,6 +421,31 @@ private:
 };
 
 } // namespace
+
+void TestEffectiveFilter::tablesAndFramesEndALine()
+{
+    // Only a host that fills the document itself has them; far above the cursor, where the text is
+    // read as a whole.
+    Desk desk;
+    QTextCursor cursor(desk.editor->document());
+    cursor.insertText(QLatin1String("X1"));
+    cursor.insertTable(1, 2)->cellAt(0, 1).firstCursorPosition().insertText(QLatin1String("Y2"));
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertFrame(QTextFrameFormat())->firstCursorPosition().insertText(QLatin1String("Z3"));
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(QLatin1String("U4") + QString(600, QLatin1Char('\n')));
+    const int last = desk.editor->document()->lineCount() - 1;
+    const QStringList words = QStringList() << "X1"
+                                            << "Y2"
+                                            << "Z3"
+                                            << "U4";
+    Q_FOREACH (const QString &word, words) {
+        const QString name = word.left(1);
+        const double value = word.mid(1).toInt();
+        QVERIFY2(desk.window.compareString(last, name, value), qPrintable(word));
+        QVERIFY2(!desk.window.compareString(last, name, value + 1), qPrintable(word));
+    }
+}
 
 void TestEffectiveFilter::sameAsThePlainStepsOnRandomDocuments()
 {
