@@ -36,11 +36,15 @@ FileThread::~FileThread()
         m_link->owner = nullptr;
     }
     m_thread->quit();
-    if (m_thread->wait(m_givenUp ? 0 : kPatienceMs))
+    if (m_thread->wait(m_givenUp ? 0 : kPatienceMs)) {
         delete m_thread;
-    else
-        // To end a thread in the middle of a system call would take the program with it.
-        connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+        return;
+    }
+    // To end a thread in the middle of a system call would take the program with it. It goes when
+    // it is let go, or ends with the program.
+    connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+    if (m_thread->isFinished())
+        m_thread->deleteLater();
 }
 
 void FileThread::post(const Work &work, const Work &answer)
