@@ -81,4 +81,11 @@ function(filarix_target_defaults target)
       -fsanitize=${FILARIX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(${target} PRIVATE -fsanitize=${FILARIX_SANITIZE})
   endif()
+  if(FILARIX_COVERAGE)
+    # Only what a test can take shall count as a branch: the library throws nothing and has one
+    # thread, and at C++17 Q_FOREACH no longer hides the condition that a break leaves it by.
+    target_compile_options(${target} PRIVATE --coverage -fno-exceptions -fno-threadsafe-statics)
+    target_link_options(${target} PRIVATE --coverage)
+    set_target_properties(${target} PROPERTIES CXX_STANDARD 17)
+  endif()
 endfunction()

@@ -1,0 +1,106 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+"""branches.py REPORT PAGE [--update]
+
+Compares gcovr's JSON report with docs/coverage.md. A branch that no test takes has to be named there
+with its reason, and what is named there has to be untaken; everything else is printed, and the status
+is 1. With --update the table of figures on the page is written anew; reasons are for people to write.
+"""
+
+import collections
+import json
+import os
+import re
+import sys
+
+ENTRY = re.compile(r"^- `(?P<file>[^`]+)`, `(?P<function>[^`]+)`: `(?P<text>[^`]+)`, "
+                   r"(?P<untaken>\d+) of (?P<all>\d+):\s+(?P<reason>[^\s-])", re.MULTILINE)
+BEGIN, END = "<!-- figures -->", "<!-- end of figures -->"
+
+
+def short(function):
+    """The name alone: "WAQP::getCncDir" for "WAQP::getCncDir()"."""
+    return re.sub(r"\(.*", "", function.replace("(anonymous namespace)::", ""))
+
+
+def function_at(functions, line):
+    before = [f for f in functions if f["lineno"] <= line]
+    return short(max(before, key=lambda f: f["lineno"])["name"]) if before else "-"
+
+
+def read_report(path):
+    """The figures of each file, and how often each line with untaken branches is there."""
+    figures, untaken = {}, collections.Counter()
+    with open(path, encoding="utf-8") as report:
+        files = json.load(report)["files"]
+    for file in files:
+        with open(file["file"], encoding="utf-8") as source:
+            text = source.read().splitlines()
+        taken = total = 0
+        for line in file["lines"]:
+            counts = [branch["count"] for branch in line["branches"]]
+            taken += sum(count > 0 for count in counts)
+            total += len(counts)
+            if 0 in counts:
+                untaken[file["file"],
+                        function_at(file["functions"], line["line_number"]),
+                        text[line["line_number"] - 1].strip(),
+                        counts.count(0), len(counts)] += 1
+        if total:
+            figures[file["file"]] = taken, total
+    return figures, untaken
+
+
+def read_page(page):
+    named = collections.Counter(
+        (entry["file"], entry["function"], entry["text"], int(entry["untaken"]), int(entry["all"]))
+        for entry in ENTRY.finditer(page))
+    if sum(named.values()) != len(re.findall(r"^- `", page, re.MULTILINE)):
+        sys.exit("docs/coverage.md: an entry of the list is malformed or has no reason")
+    return named
+
+
+def row(name, taken, total):
+    return f"| {name} | {total} | {taken} | {100 * taken / total:.1f} % |"
+
+
+def table(figures):
+    rows = ["| | Branches | Taken | |", "|---|--:|--:|--:|"]
+    folders = collections.defaultdict(list)
+    for file in sorted(figures):
+        folders[os.path.dirname(file)].append(file)
+    for folder, files in folders.items():
+        rows.append(row(f"**{folder}/**", *map(sum, zip(*(figures[file] for file in files)))))
+        rows += [row(os.path.basename(file), *figures[file]) for file in files]
+    rows.append(row("**all**", *map(sum, zip(*figures.values()))))
+    return "\n".join(rows)
+
+
+def show(title, entries):
+    if entries:
+        print(title)
+    for (file, function, text, untaken, total), times in sorted(entries.items()):
+        for _ in range(times):
+            print(f"- `{file}`, `{function}`: `{text}`, {untaken} of {total}:")
+
+
+def main():
+    report, path = sys.argv[1:3]
+    with open(path, encoding="utf-8") as file:
+        page = file.read()
+    figures, untaken = read_report(report)
+    named = read_page(page)
+    if sys.argv[3:] == ["--update"]:
+        before, rest = page.split(BEGIN)
+        after = rest.split(END)[1]
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(f"{before}{BEGIN}\n{table(figures)}\n{END}{after}")
+    print(table(figures))
+    show(f"Untaken, and not in {path}:", untaken - named)
+    show(f"In {path}, but taken or gone:", named - untaken)
+    return 0 if untaken == named else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
