@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTextDocument>
@@ -192,6 +193,8 @@ private Q_SLOTS:
     void removeAsksFirst();
     void removeOfAnotherFileLeavesTheDocument();
     void removeOfTheOpenFileEmptiesTheWindow();
+    void windowMayGoDuringTheQuestionAboutAFile_data();
+    void windowMayGoDuringTheQuestionAboutAFile();
     void failedRemovalOfTheOpenFileEmptiesTheWindowToo();
     void failedRemovalOfAnotherFileSaysNothing();
 
@@ -870,6 +873,37 @@ void TestFileCommands::removeOfAnotherFileLeavesTheDocument()
                 "Success to remove file.", QMessageBox::Yes, QMessageBox::NoButton);
     QVERIFY(State(window) == before);
     QCOMPARE(QDir(programDir()).entryList(QDir::Files), QStringList() << "a.cnc");
+}
+
+void TestFileCommands::windowMayGoDuringTheQuestionAboutAFile_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    QTest::addColumn<QByteArray>("title");
+    QTest::addColumn<bool>("stays");
+    QTest::newRow("open again") << QByteArray("open") << QByteArray("Open file") << true;
+    QTest::newRow("remove") << QByteArray("remove") << QByteArray("Remove file") << false;
+}
+
+void TestFileCommands::windowMayGoDuringTheQuestionAboutAFile()
+{
+    QFETCH(QByteArray, command);
+    QFETCH(QByteArray, title);
+    QFETCH(bool, stays);
+    const QString path = writeProgram(QLatin1String("a.cnc"));
+    QPointer<OpenWindow> window(new OpenWindow);
+    window->loadFile(path);
+    Operator person;
+    person.pick(title.constData(), QLatin1String("a.cnc"));
+    person.then([&window](QWidget *question) {
+        delete window;
+        qobject_cast<QMessageBox *>(question)->button(QMessageBox::Yes)->click();
+    });
+    if (!stays)
+        person.press(QMessageBox::Yes);
+    QVERIFY(QMetaObject::invokeMethod(window, command.constData()));
+    VERIFY_DONE(person);
+    QVERIFY(!window);
+    QCOMPARE(QFile::exists(path), stays);
 }
 
 void TestFileCommands::removeOfTheOpenFileEmptiesTheWindow()

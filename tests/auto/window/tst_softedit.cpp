@@ -4,10 +4,12 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "modaldriver.h"
+#include "openwindow.h"
 #include "strictmessages.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
+#include <QPointer>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QToolButton>
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void anEmptyLineGivesAnEmptyTextAndHint();
     void withoutATouchScreenNothingHappens();
     void withoutAKeypadNothingHappens();
+    void windowMayGoWhileTheKeypadIsOpen();
     void theLineIsReadEvenWithoutATouchScreen();
     void theResultIsNotClearedBeforehand();
     void eachUseSetsTheKeypadUpInFull();
@@ -165,6 +168,16 @@ void TestSoftEdit::withoutATouchScreenNothingHappens()
     QCOMPARE(DeviceLog::calls(), QStringList(QLatin1String("HMIDeviceInfo.isTouchScreen")));
     QCOMPARE(desk.text(), QString::fromLatin1(program));
     QVERIFY(!desk.modified());
+}
+
+void TestSoftEdit::windowMayGoWhileTheKeypadIsOpen()
+{
+    QPointer<OpenWindow> window(new OpenWindow);
+    window->type(QLatin1String("G01 X1"));
+    DeviceLog::acceptWith(QLatin1String("G02"));
+    window->deleteLater(); // before the answer: the keypad's event loop is the next one
+    QVERIFY(QMetaObject::invokeMethod(window, "softEditGcode"));
+    QVERIFY(!window);
 }
 
 void TestSoftEdit::withoutAKeypadNothingHappens()
