@@ -44,7 +44,7 @@ public:
     void visitLanguages();
 
     /// \a tickMs is the time that each step has.
-    void start(int tickMs = 120);
+    void start(int tickMs = 60);
     /// What went wrong; empty when every step found what it touches and every picture was written.
     QString error() const { return m_error; }
 
