@@ -72,6 +72,7 @@ private:
     void leave();
     bool leaveDialog();
     void checkScreens();
+    void checkGrabs();
     void checkTyping();
     void closePanel();
     void fail(const QString &fault);
