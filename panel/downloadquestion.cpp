@@ -9,7 +9,6 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QScreen>
 
@@ -54,7 +53,6 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, QWidget *parent) :
     heading->setWordWrap(true);
     grid->addWidget(heading, 0, 0, 1, 2);
 
-    const QLocale locale;
     const struct
     {
         const char *objectName;
@@ -62,7 +60,7 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, QWidget *parent) :
         QString value;
     } lines[] = {
         {"name", tr("Program"), facts.name.simplified()},
-        {"lines", tr("Lines"), locale.toString(facts.lines)},
+        {"lines", tr("Lines"), QString::number(facts.lines)},
         {"checksum", tr("Checksum"), facts.checksum()},
     };
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
