@@ -9,11 +9,7 @@
 #include <QFileInfo>
 
 #include <csignal>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -405,23 +401,19 @@ static QByteArrayList reportsUntilTheKill(const QString &folder, const QString &
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0)
         return QByteArrayList();
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
-    QByteArray arguments[] = {"saver", "--save-for-ever", folder.toUtf8(), path.toUtf8()};
-    char *argv[] = {arguments[0].data(), arguments[1].data(), arguments[2].data(),
-                    arguments[3].data(), nullptr};
-    pid_t child = 0;
-    const int failure = ::posix_spawn(&child, "/proc/self/exe", &actions, nullptr, argv, environ);
-    posix_spawn_file_actions_destroy(&actions);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::_exit(saveForEver(folder, path));
+    }
     ::close(ends[1]);
     QByteArray all;
     char buffer[4096];
     ssize_t count = 0;
-    while (failure == 0 && all.count('\n') < reports
+    while (child > 0 && all.count('\n') < reports
            && (count = ::read(ends[0], buffer, sizeof buffer)) > 0)
         all.append(buffer, int(count));
-    if (failure == 0) {
+    if (child > 0) {
         ::usleep(microseconds);
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
@@ -466,14 +458,5 @@ void TestHistoryStore::killLosesNoVersionThatWasReported()
     QVERIFY(reported.size() < 400);
 }
 
-int main(int argc, char **argv)
-{
-    // Before there is an application: the saver is a process of its own, to be killed.
-    if (argc == 4 && !std::strcmp(argv[1], "--save-for-ever"))
-        return saveForEver(QString::fromUtf8(argv[2]), QString::fromUtf8(argv[3]));
-    QApplication application(argc, argv);
-    TestHistoryStore test;
-    return filarixTestMain(&test, argc, argv);
-}
-
+FILARIX_TEST_MAIN(TestHistoryStore)
 #include "tst_historystore.moc"
