@@ -122,10 +122,13 @@ void TestUnloading::libraryComesAndGoes()
         useToolkit();
     }
     munmap(barred, size_t(pageSize));
+    // With each function that the library has called at the exit the sanitizer's runtime has one of
+    // its own called, and those never go.
     if (isSanitized())
         return;
     const qint64 growth = used() - usedBefore;
-    QVERIFY2(growth < 24 * (rounds - warmUp),
+    // Not even the smallest block in each round.
+    QVERIFY2(growth < qMin(1024, 16 * (rounds - warmUp)),
              qPrintable(QString::fromLatin1("%1 bytes").arg(growth)));
 }
 
