@@ -18,6 +18,8 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <cstdio>
+
 namespace {
 
 QString textOf(const QWidget *widget)
@@ -105,13 +107,14 @@ private Q_SLOTS:
         if (text == m_last)
             return;
         m_last = text;
-        // Renamed into place, so that a reader never sees half of it.
+        // Put in the place of the old one, so that a reader never sees half of it, nor nothing at
+        // all: QFile::rename() would have the old one removed first.
         QFile file(m_path + QLatin1String(".new"));
         if (file.open(QIODevice::WriteOnly)) {
             file.write(text.toUtf8());
             file.close();
-            QFile::remove(m_path);
-            file.rename(m_path);
+            std::rename(QFile::encodeName(file.fileName()).constData(),
+                        QFile::encodeName(m_path).constData());
         }
     }
 

@@ -25,7 +25,7 @@ desk_picture transfer-files.png
 
 # From the screen where operators miss a program; the files have the same key.
 touch_text Program
-expect_gone Pull
+expect_text Find
 touch_text I/E
 expect_text Quit
 desk_picture transfer-start.png
@@ -66,6 +66,7 @@ touch_text Quit
 expect_gone Quit
 
 touch_text Files
+expect_text Pick
 touch_text I/E
 expect_text Quit
 touch_text Quit
