@@ -17,6 +17,8 @@ desk_pids=()
 # How far the panel turns its picture, and the size of that picture before it is turned.
 desk_turn=0
 desk_size=
+# The X server's number of the window that shows it.
+desk_glass=
 
 desk_fail() {
     echo "FAILED: $*" >&2
@@ -67,6 +69,7 @@ desk_start() {
         "$desk_panel" --size "$size" "$@" >/tmp/panel.log 2>&1 &
     desk_pids+=($!)
     desk_until 30 test -s "$desk_map" || desk_fail "the panel shows nothing"
+    desk_until 30 desk_find_glass || desk_fail "the panel has no window"
 }
 
 desk_has_window_manager() {
@@ -92,8 +95,9 @@ desk_named() {
         END { exit !found }' "$desk_map"
 }
 
-desk_glass() {
-    xdotool search --onlyvisible --name 'Winding panel' | tail -n 1
+desk_find_glass() {
+    desk_glass=$(xdotool search --onlyvisible --name 'Winding panel' 2>/dev/null | tail -n 1)
+    [ -n "$desk_glass" ]
 }
 
 desk_has_ended() { ! kill -0 "${desk_pids[-1]}" 2>/dev/null; }
@@ -105,22 +109,28 @@ desk_click_at() {
     bottom=$((${desk_size#*x} - 1 - y))
     case "$desk_turn" in
         0) xdotool mousemove "$x" "$y" click 1 ;;
-        90) xdotool mousemove --window "$(desk_glass)" "$bottom" "$x" click 1 ;;
-        180) xdotool mousemove --window "$(desk_glass)" "$right" "$bottom" click 1 ;;
-        270) xdotool mousemove --window "$(desk_glass)" "$y" "$right" click 1 ;;
+        90) xdotool mousemove --window "$desk_glass" "$bottom" "$x" click 1 ;;
+        180) xdotool mousemove --window "$desk_glass" "$right" "$bottom" click 1 ;;
+        270) xdotool mousemove --window "$desk_glass" "$y" "$right" click 1 ;;
     esac
 }
 
-# desk_settled desk_place|desk_named ARGUMENT...: the place, once it stays where it is: a window that has
-# just come up, or a row that opens, still moves.
+# desk_settled desk_place|desk_named ARGUMENT...: the place, once two maps have it in the same place: a
+# window that has just come up, or a row that opens, still moves, and a busy program is late with its
+# maps.
 desk_settled() {
-    local place before=none
+    local place before=none map
     while place=$("$@") && [ "$place" != "$before" ]; do
         before=$place
-        sleep 0.15
+        map=$(desk_map_time)
+        sleep 0.1
+        desk_until 20 desk_has_map_since "$map" || break
     done
     echo "$place"
 }
+
+desk_map_time() { stat -c %y "$desk_map"; }
+desk_has_map_since() { [ "$(desk_map_time)" != "$1" ]; }
 
 # touch_text TEXT [WINDOW TITLE [N]]: waits for the widget and clicks on its middle.
 touch_text() {
@@ -140,6 +150,17 @@ touch_named() {
     [ -n "$place" ] || desk_fail "\"$1\" went away"
     # shellcheck disable=SC2086
     desk_click_at $place
+}
+
+# touch_save TITLE: stores the program that the title names. On a busy machine the history of programs
+# may still have to take in what the file holds; the panel then asks for another touch.
+touch_save() {
+    local tries
+    for tries in 1 2 3 4 5; do
+        touch_text Save
+        ! desk_until 4 desk_hides "$1*" || return 0
+    done
+    desk_fail "\"$1\" was not saved by $tries touches"
 }
 
 # type_keys TEXT: on the keypad that is open, key by key.

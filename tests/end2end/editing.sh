@@ -68,7 +68,7 @@ touch_text Paste
 expect_text $((speed_line + 7))
 desk_picture editing-pasted.png
 
-touch_text Save
+touch_save test-coil.cnc
 sed -e '4s/.*/G21 X0.5/' -e "${speed_line}s/.*/S450/" /tmp/original >/tmp/edited
 {
     head -n $((speed_line + 3)) /tmp/edited

@@ -4,8 +4,9 @@
 // Loaded into an unchanged program by LD_PRELOAD, it writes where the widgets are that a person
 // could touch, so that a script can send real clicks of the X server there. It touches nothing.
 //
-// The file named by FILARIX_LOCATOR holds one line a widget, topmost window last:
-// window title, class, object name, text, enabled (1 or 0), and x y of the centre on the screen.
+// The file named by FILARIX_LOCATOR is written anew all the time. It holds one line a widget,
+// topmost window last: window title, class, object name, text, enabled (1 or 0), and x y of the
+// centre on the screen.
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -104,9 +105,6 @@ private Q_SLOTS:
             }
         }
         out.flush();
-        if (text == m_last)
-            return;
-        m_last = text;
         // Put in the place of the old one, so that a reader never sees half of it, nor nothing at
         // all: QFile::rename() would have the old one removed first.
         QFile file(m_path + QLatin1String(".new"));
@@ -120,7 +118,6 @@ private Q_SLOTS:
 
 private:
     QString m_path;
-    QString m_last;
     QTimer m_timer;
 };
 

@@ -14,7 +14,7 @@ programs=$HOME/cnc
 
 desk_start 480x800 --rotation 90 --rotate 90
 expect_text Open
-geometry=$(xdotool getwindowgeometry "$(desk_glass)")
+geometry=$(xdotool getwindowgeometry "$desk_glass")
 [[ "$geometry" == *"Geometry: 800x480"* ]] || desk_fail "the window is not turned: $geometry"
 desk_picture rotated.png
 
@@ -32,7 +32,7 @@ xdotool key period key 5
 desk_picture rotated-keypad.png
 touch_named key_ok
 expect_gone Cancel
-touch_text Save
+touch_save test-coil.cnc
 desk_until 20 grep -q '^G01 X7.5$' "$programs/test-coil.cnc" || desk_fail "the line was not saved"
 
 # The find dialog stands beside the main window, which can be used meanwhile.
