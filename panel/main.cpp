@@ -32,12 +32,17 @@
 #include <QDir>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstring>
 #include <memory>
 
+#include <malloc.h>
+
 namespace {
+
+const int kTidyMs = 60 * 1000;
 
 bool hasArgument(int argc, char **argv, std::initializer_list<const char *> names)
 {
@@ -183,6 +188,11 @@ int runPanel(const Options &options)
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
     TerminationSignals signals;
     QObject::connect(&signals, &TerminationSignals::received, qApp, &QApplication::quit);
+    // A panel is on for months: what dialogs and long programs left as gaps in the heap goes back
+    // to the system, in a millisecond at most.
+    QTimer tidying;
+    QObject::connect(&tidying, &QTimer::timeout, qApp, [] { malloc_trim(0); });
+    tidying.start(kTidyMs);
     if (glass)
         glass->present(&panel);
     else

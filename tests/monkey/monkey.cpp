@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QTextBlock>
 
+#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -59,6 +60,13 @@ double residentMegabytes()
     const QList<QByteArray> pages =
         FilarixTest::readFile(QLatin1String("/proc/self/statm")).split(' ');
     return pages.value(1).toLongLong() * double(sysconf(_SC_PAGESIZE)) / (1024 * 1024);
+}
+
+// Of what is resident, what the program still has a use for; the rest are the gaps between.
+double usedMegabytes()
+{
+    const struct mallinfo2 heap = mallinfo2();
+    return double(heap.uordblks + heap.hblkhd) / (1024 * 1024);
 }
 
 QWidgetList visibleChildren(const QWidget *parent)
@@ -347,8 +355,9 @@ void Monkey::noteMemory()
         return;
     m_nextNote += byTime ? int(kNoteEveryMs) : qMax(1, m_plan.actions / kNotes);
     const WGCodeEditer *editor = m_panel->findChild<WGCodeEditer *>();
-    std::printf("%6lld s  %8d actions  %7.1f MB resident  %7d lines  %5d widgets\n",
-                m_clock.elapsed() / 1000, m_actions, residentMegabytes(),
+    std::printf("%6lld s  %8d actions  %7.1f MB resident  %6.1f MB of heap in use  %7d lines  %5d "
+                "widgets\n",
+                m_clock.elapsed() / 1000, m_actions, residentMegabytes(), usedMegabytes(),
                 editor ? editor->blockCount() : 0, QApplication::allWidgets().size());
     std::fflush(stdout);
 }
