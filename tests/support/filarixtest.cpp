@@ -99,11 +99,20 @@ void FilarixTest::allowTopLevel(QWidget *widget)
     m_allowed.append(widget);
 }
 
+// Hidden, it is a leak that the leak sanitizer does not see: the toolkit's style sheets hold on to
+// it. The keypads, dialogs without a class name of their own, stay for good.
+bool FilarixTest::isLost(const QWidget *widget) const
+{
+    return !widget->parent() && !m_before.contains(const_cast<QWidget *>(widget))
+           && qstrcmp(widget->metaObject()->className(), "QDialog") != 0;
+}
+
 void FilarixTest::init()
 {
     emptyFolder(home());
     StrictMessages::install();
     StrictMessages::reset();
+    m_before = QApplication::topLevelWidgets();
 }
 
 void FilarixTest::cleanup()
@@ -112,11 +121,11 @@ void FilarixTest::cleanup()
     deleteUnplacedButtons();
     QStringList stray;
     Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && !m_allowed.contains(widget))
+        if (!m_allowed.contains(widget) && (widget->isVisible() || isLost(widget)))
             stray.append(QLatin1String(widget->metaObject()->className()));
     }
     QVERIFY2(stray.isEmpty(),
-             qPrintable(QLatin1String("left on the screen: ") + stray.join(QLatin1String(", "))));
+             qPrintable(QLatin1String("left behind: ") + stray.join(QLatin1String(", "))));
     const QStringList unexpected = StrictMessages::unexpected();
     QVERIFY2(unexpected.isEmpty(), qPrintable(QLatin1String("unexpected warnings: ")
                                               + unexpected.join(QLatin1String(" | "))));

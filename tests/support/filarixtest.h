@@ -12,7 +12,8 @@
 #include <QTest>
 
 /// Base of every test object. Each test starts with an empty home and with no settings, and ends
-/// without an unexpected warning of the toolkit and without a stray top-level widget.
+/// without an unexpected warning of the toolkit and without a stray top-level widget, seen or
+/// hidden.
 ///
 /// A test class that needs its own init() or cleanup() calls these from it.
 class FilarixTest : public QObject
@@ -50,7 +51,11 @@ protected Q_SLOTS:
     void cleanup();
 
 private:
+    bool isLost(const QWidget *widget) const;
+
     QList<QWidget *> m_allowed;
+    /// The top-level widgets that were there when the test began.
+    QList<QWidget *> m_before;
 };
 
 /// Runs the test object \a test; 98 when it is not in the sandbox.

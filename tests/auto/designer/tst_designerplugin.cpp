@@ -15,6 +15,7 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerWidgetDataBaseInterface>
 #include <QtDesigner/QFormBuilder>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
@@ -111,7 +112,7 @@ protected:
     }
 };
 
-/// Qt Designer without its windows. The caller owns it.
+/// Qt Designer without its windows. The caller owns it, and its property editor.
 QDesignerFormEditorInterface *makeDesigner()
 {
     QDesignerComponents::initializeResources();
@@ -275,6 +276,7 @@ void TestDesignerPlugin::aFormIsBuiltSavedAndReloaded()
 void TestDesignerPlugin::designerSavesWhatItLoads()
 {
     const QScopedPointer<QDesignerFormEditorInterface> core(makeDesigner());
+    const QScopedPointer<QObject> propertyEditor(core->propertyEditor());
     for (const auto &widget : widgets) {
         const int index = core->widgetDataBase()->indexOfClassName(QLatin1String(widget.name));
         QVERIFY2(index >= 0, widget.name);
@@ -308,6 +310,7 @@ void TestDesignerPlugin::designerSavesWhatItLoads()
 void TestDesignerPlugin::designerShowsExamples()
 {
     const QScopedPointer<QDesignerFormEditorInterface> core(makeDesigner());
+    const QScopedPointer<QObject> propertyEditor(core->propertyEditor());
     QDesignerCustomWidgetInterface *factory = customWidget(QLatin1String("TListWidget"));
     QVERIFY(factory->isInitialized());
     const QScopedPointer<QWidget> list(factory->createWidget(nullptr));
