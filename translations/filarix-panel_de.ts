@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>New program</source>
-        <translation>Neues Programm</translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>Find</source>

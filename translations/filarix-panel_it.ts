@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>New program</source>
-        <translation>Nuovo programma</translation>
+        <translation>Senza nome</translation>
     </message>
     <message>
         <source>Find</source>

@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>New program</source>
-        <translation>Yeni program</translation>
+        <translation>Adsız</translation>
     </message>
     <message>
         <source>Find</source>
