@@ -409,6 +409,13 @@ bool Monkey::leaveDialog()
     return true;
 }
 
+// A stick that the panel has only noticed now brings a question about its names; what it kept from
+// an answer is tried again once it is left.
+bool Monkey::isInterrupted()
+{
+    return QApplication::activeModalWidget();
+}
+
 // One screen after the other comes up at a touch of its tab.
 void Monkey::checkScreens()
 {
@@ -430,7 +437,9 @@ void Monkey::checkScreens()
     tap(tab);
     wait(5);
     then([this, tab] {
-        if (!tab->isChecked())
+        if (isInterrupted())
+            --m_checkedScreens;
+        else if (!tab->isChecked())
             fail(QLatin1String("no answer from the tab ") + tab->text());
     });
 }
@@ -458,7 +467,9 @@ void Monkey::checkTyping()
     typeKey(Qt::Key_G, Qt::NoModifier, QLatin1String("G"));
     wait(5);
     then([this, editor, revision] {
-        if (editor->document()->revision() == revision)
+        if (isInterrupted())
+            --m_triesToClose;
+        else if (editor->document()->revision() == revision)
             fail(QLatin1String("no answer from the editor"));
     });
 }

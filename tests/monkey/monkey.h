@@ -71,6 +71,7 @@ private:
     bool isOver() const;
     void leave();
     bool leaveDialog();
+    static bool isInterrupted();
     void checkScreens();
     void checkGrabs();
     void checkTyping();
