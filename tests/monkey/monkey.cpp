@@ -4,6 +4,7 @@
 #include "monkey.h"
 
 #include "filarixtest.h"
+#include "heap.h"
 #include "messagebar.h"
 #include "panelkey.h"
 #include "panelwindow.h"
@@ -16,7 +17,6 @@
 #include <QMessageBox>
 #include <QTextBlock>
 
-#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -60,13 +60,6 @@ double residentMegabytes()
     const QList<QByteArray> pages =
         FilarixTest::readFile(QLatin1String("/proc/self/statm")).split(' ');
     return pages.value(1).toLongLong() * double(sysconf(_SC_PAGESIZE)) / (1024 * 1024);
-}
-
-// Of what is resident, what the program still has a use for; the rest are the gaps between.
-double usedMegabytes()
-{
-    const struct mallinfo2 heap = mallinfo2();
-    return double(heap.uordblks + heap.hblkhd) / (1024 * 1024);
 }
 
 QWidgetList visibleChildren(const QWidget *parent)
@@ -357,8 +350,9 @@ void Monkey::noteMemory()
     const WGCodeEditer *editor = m_panel->findChild<WGCodeEditer *>();
     std::printf("%6lld s  %8d actions  %7.1f MB resident  %6.1f MB of heap in use  %7d lines  %5d "
                 "widgets\n",
-                m_clock.elapsed() / 1000, m_actions, residentMegabytes(), usedMegabytes(),
-                editor ? editor->blockCount() : 0, QApplication::allWidgets().size());
+                m_clock.elapsed() / 1000, m_actions, residentMegabytes(),
+                double(Heap::used()) / (1024 * 1024), editor ? editor->blockCount() : 0,
+                QApplication::allWidgets().size());
     std::fflush(stdout);
 }
 

@@ -185,7 +185,7 @@ qint64 TestMemory::used()
         return -1;
     StrictMessages::reset();
     StrictMessages::expect(QLatin1String("Parentheses expected, slot ImportManage::slot_checkUSB"));
-    return Heap::used();
+    return Heap::settled();
 }
 
 void TestMemory::whatGoesLeavesNothing_data()

@@ -65,7 +65,7 @@ qint64 used()
         return -1;
     StrictMessages::reset();
     StrictMessages::expect(QLatin1String("Parentheses expected, slot ImportManage::slot_checkUSB"));
-    return Heap::used();
+    return Heap::settled();
 }
 
 } // namespace
@@ -109,7 +109,7 @@ void TestUnloading::libraryComesAndGoes()
         const Use use = reinterpret_cast<Use>(dlsym(desk, "useDesk"));
         QVERIFY(use);
         use(round % 5 == 0);
-        Heap::used();
+        Heap::settled();
         QCOMPARE(widgets(), QStringList());
 
         QCOMPARE(dlclose(desk), 0);

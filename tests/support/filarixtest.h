@@ -40,7 +40,7 @@ public:
     static int scaled(int full, int least = 1);
     /// A limit of time, longer by the same factor.
     static int patience(int milliseconds);
-    /// Under the sanitizers, memory and the count of its blocks say nothing about the library.
+    /// Whether the sanitizers are built in, whose runtime keeps freed memory and adds its own.
     static bool isSanitized();
 
     /// A widget that is meant to outlive the test.

@@ -23,19 +23,24 @@ inline void keepNoPixmaps()
     QPixmapCache::setCacheLimit(0);
 }
 
-/// The bytes in use, after everything has gone that waits for its deletion. To the byte only
-/// without the threads' caches, whose free blocks count as used: the tests are started with
-/// GLIBC_TUNABLES=glibc.malloc.tcache_count=0.
+/// The bytes in use. To the byte only without the threads' caches, whose free blocks count as used:
+/// the tests that measure are started with GLIBC_TUNABLES=glibc.malloc.tcache_count=0.
 inline qint64 used()
 {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::sendPostedEvents();
 #if defined(__SANITIZE_ADDRESS__)
     return qint64(__sanitizer_get_current_allocated_bytes());
 #else
     const struct mallinfo2 heap = mallinfo2();
     return qint64(heap.uordblks + heap.hblkhd);
 #endif
+}
+
+/// The same after everything has gone that waits for its deletion.
+inline qint64 settled()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::sendPostedEvents();
+    return used();
 }
 
 } // namespace Heap
