@@ -160,7 +160,7 @@ void ConnectionsScreen::edit()
         return;
     if (!QFileInfo(m_filePath).isWritable()) {
         Q_EMIT told(tr("The addresses are not stored: %1 cannot be written.").arg(m_filePath),
-                    Warning);
+                    Message::Warning);
         return;
     }
     QStringList changes;
@@ -171,7 +171,7 @@ void ConnectionsScreen::edit()
     }
     Q_EMIT told(changes.isEmpty() ? tr("No address was changed.")
                                   : tr("Stored: %1.").arg(changes.join(QLatin1String(", "))),
-                Good);
+                Message::Information);
 }
 
 void ConnectionsScreen::showConnections()

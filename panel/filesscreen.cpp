@@ -87,11 +87,11 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent)
     connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::showState);
     connect(m_history, &ProgramHistory::worked, this, &FilesScreen::worked);
     connect(m_history, &ProgramHistory::told, this, [this](const QString &text, bool isGood) {
-        Q_EMIT told(text, isGood ? Good : Warning);
+        Q_EMIT told(text, isGood ? Message::Information : Message::Warning);
         showState();
     });
     connect(m_guard, &ImportGuard::told, this, [this](const QString &text, bool isSettled) {
-        Q_EMIT told(text, isSettled ? Good : Warning);
+        Q_EMIT told(text, isSettled ? Message::Information : Message::Warning);
         showState();
     });
     showState();
@@ -125,7 +125,8 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     texts->addStretch();
     m_grid->addWidget(block, row, 0);
     state->setObjectName(QLatin1String("fileState"));
-    connect(block, &TouchBlock::touched, this, [this, state] { Q_EMIT told(state->text(), Info); });
+    connect(block, &TouchBlock::touched, this,
+            [this, state] { Q_EMIT told(state->text(), Message::Information); });
     for (int i = 0; i < keys.size(); ++i) {
         keys.at(i)->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         // A line with one key has it at the edge, under the last of two.
@@ -161,7 +162,7 @@ void FilesScreen::lookAtStick()
     // A box over another dialog would come as a surprise; the guard asks at the next press anyway.
     if (arrived && !QApplication::activeModalWidget()) {
         if (m_guard->unsafeFiles().isEmpty())
-            Q_EMIT told(tr("The stick is in; all file names are safe."), Good);
+            Q_EMIT told(tr("The stick is in; all file names are safe."), Message::Information);
         else
             m_guard->settle();
     }
@@ -176,7 +177,7 @@ void FilesScreen::plug()
 {
     QString error;
     if (!m_stick->plug(&error))
-        Q_EMIT told(error, Warning);
+        Q_EMIT told(error, Message::Warning);
     Q_EMIT stickMoved();
     lookAtStick();
 }
@@ -186,7 +187,7 @@ void FilesScreen::pull()
     m_stick->pull();
     Q_EMIT stickMoved();
     lookAtStick();
-    Q_EMIT told(tr("The stick is out."), Info);
+    Q_EMIT told(tr("The stick is out."), Message::Information);
 }
 
 void FilesScreen::rename()

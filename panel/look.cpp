@@ -52,8 +52,9 @@ const Colors colorTable[] = {
 
 const QRgb kAccent = 0xff1a6fd0;
 const QRgb kAccentPressed = 0xff0d4d99;
-const QRgb kAlert = 0xffb92525;
-const QRgb kGood = 0xff23753a;
+const QRgb kInformation = 0xff23753a;
+const QRgb kWarning = 0xff8a5a00;
+const QRgb kAlarm = 0xffb92525;
 const QRgb kWhite = 0xffffffff;
 
 const Colors &colors()
@@ -95,11 +96,11 @@ QString keyPanelSheet()
 QString messageSheet()
 {
     return QString::fromLatin1("#messageBar { border: 1px solid %1; border-radius: 8px; }"
-                               "#messageBar[tone=\"info\"] { background: %2; }"
-                               "#messageBar[tone=\"good\"] { background: %3; }"
-                               "#messageBar[tone=\"warning\"] { background: %4; }"
+                               "#messageBar[tone=\"information\"] { background: %2; }"
+                               "#messageBar[tone=\"warning\"] { background: %3; }"
+                               "#messageBar[tone=\"alarm\"] { background: %4; }"
                                "QLabel { color: %1; background: transparent; }")
-               .arg(hex(kWhite), hex(colors().strip), hex(kGood), hex(kAlert))
+               .arg(hex(kWhite), hex(kInformation), hex(kWarning), hex(kAlarm))
            + stripSheet();
 }
 

@@ -31,7 +31,7 @@ enum Style { Light, Dark };
 enum Dress {
     Strip,    ///< A dark strip that holds PanelKeys and labels.
     KeyPanel, ///< PanelKeys beside a screen's content.
-    Message   ///< The message bar, by its property "tone": "info", "good", "warning".
+    Message   ///< The message bar, by its property "tone": "information", "warning", "alarm".
 };
 
 /// The style in use; light until another one is chosen.

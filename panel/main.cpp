@@ -169,8 +169,9 @@ int runPanel(const Options &options)
         connections, [] { return PanelWindow::tr("Connections"); },
         Glyphs::icon(Glyphs::Connections));
     FilesScreen *files = new FilesScreen(&stick, &history);
-    QObject::connect(&historyGuard, &HistoryGuard::told, files,
-                     [files](const QString &text) { Q_EMIT files->told(text, PanelScreen::Info); });
+    QObject::connect(&historyGuard, &HistoryGuard::told, files, [files](const QString &text) {
+        Q_EMIT files->told(text, Message::Information);
+    });
     panel.addScreen(
         files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
     QObject::connect(files, &FilesScreen::importWanted, programs->programWindow(), [programs] {

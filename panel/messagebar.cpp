@@ -49,7 +49,7 @@ MessageBar::MessageBar(QWidget *parent)
     hide();
 }
 
-void MessageBar::tell(const QString &text, PanelScreen::Tone tone)
+void MessageBar::tell(const QString &text, Message::Tone tone)
 {
     m_working = false;
     m_text->setText(text);
@@ -58,7 +58,7 @@ void MessageBar::tell(const QString &text, PanelScreen::Tone tone)
     m_key->setText(QString());
     m_key->setToolButtonStyle(Qt::ToolButtonIconOnly);
     setTone(tone);
-    if (tone == PanelScreen::Warning)
+    if (tone != Message::Information)
         m_timer.stop();
     else
         m_timer.start(kPassingMs);
@@ -75,7 +75,7 @@ void MessageBar::showWork(const QString &text, int percent)
     m_key->setIcon(QIcon());
     m_key->setText(tr("Stop"));
     m_key->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    setTone(PanelScreen::Info);
+    setTone(Message::Information);
     place();
     // Some work keeps the event loop waiting.
     repaint();
@@ -93,11 +93,11 @@ bool MessageBar::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
-void MessageBar::setTone(PanelScreen::Tone tone)
+void MessageBar::setTone(Message::Tone tone)
 {
-    const char *name = tone == PanelScreen::Warning ? "warning"
-                       : tone == PanelScreen::Good  ? "good"
-                                                    : "info";
+    const char *name = tone == Message::Alarm     ? "alarm"
+                       : tone == Message::Warning ? "warning"
+                                                  : "information";
     setProperty("tone", QString::fromLatin1(name));
     // A sheet looks at properties when it is set.
     style()->unpolish(this);

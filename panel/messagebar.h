@@ -24,7 +24,7 @@ public:
     /// Lies over \a parent.
     explicit MessageBar(QWidget *parent);
 
-    void tell(const QString &text, PanelScreen::Tone tone);
+    void tell(const QString &text, Message::Tone tone);
     void showWork(const QString &text, int percent);
     QString text() const;
     /// Whether showWork() came last.
@@ -36,7 +36,7 @@ Q_SIGNALS:
     void stopped();
 
 private:
-    void setTone(PanelScreen::Tone tone);
+    void setTone(Message::Tone tone);
     void place();
     void press();
 

@@ -4,6 +4,8 @@
 #ifndef PANELSCREEN_H
 #define PANELSCREEN_H
 
+#include "message.h"
+
 #include <QEvent>
 #include <QList>
 #include <QWidget>
@@ -16,14 +18,6 @@ class PanelScreen : public QWidget
     Q_OBJECT
 
 public:
-    enum Tone {
-        Info,   ///< Passes by itself.
-        Good,   ///< Passes by itself.
-        Warning ///< Stays until the operator has closed it.
-    };
-
-    Q_ENUM(Tone)
-
     using QWidget::QWidget;
 
     /// What the operator works on: the name of a program, say.
@@ -40,7 +34,9 @@ public:
 Q_SIGNALS:
     /// title() or hasChanges() gives something else now.
     void titleChanged();
-    void told(const QString &text, PanelScreen::Tone tone);
+    void told(const QString &text, Message::Tone tone, const QString &cause = QString());
+    /// What messages of this cause were about is over.
+    void causeEnded(const QString &cause);
     /// Long work goes on: \a percent of it is done. The shell offers a Stop key.
     void worked(const QString &text, int percent);
 

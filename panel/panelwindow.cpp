@@ -212,7 +212,7 @@ void PanelWindow::chooseLanguage()
     if (picker.exec() != QDialog::Accepted)
         return;
     if (!m_languages->choose(picker.code()))
-        tell(tr("The translation is not installed."), PanelScreen::Warning);
+        tell(tr("The translation is not installed."), Message::Warning);
 }
 
 void PanelWindow::changeLook()
@@ -233,7 +233,7 @@ void PanelWindow::tellTrouble()
 {
     const QString trouble = m_settings->takeTrouble();
     if (!trouble.isEmpty())
-        tell(trouble, PanelScreen::Warning);
+        tell(trouble, Message::Warning);
 }
 
 // Those of a menu go on in a second line where the first is full.
@@ -297,7 +297,7 @@ void PanelWindow::showTitle()
     setWindowModified(screen->hasChanges());
 }
 
-void PanelWindow::tell(const QString &text, PanelScreen::Tone tone)
+void PanelWindow::tell(const QString &text, Message::Tone tone)
 {
     m_messages->tell(text, tone);
     m_message = QTime::currentTime().toString(QLatin1String("HH:mm  ")) + text;
@@ -313,7 +313,7 @@ void PanelWindow::showInFull()
     QStringList lines{currentScreen()->title()};
     if (!m_message.isEmpty())
         lines.append(m_message);
-    m_messages->tell(lines.join(QLatin1Char('\n')), PanelScreen::Info);
+    m_messages->tell(lines.join(QLatin1Char('\n')), Message::Information);
 }
 
 void PanelWindow::refreshStatus()

@@ -92,7 +92,7 @@ private:
     void showTitle();
     void showInFull();
     void refreshStatus();
-    void tell(const QString &text, PanelScreen::Tone tone);
+    void tell(const QString &text, Message::Tone tone);
 
     const Shape m_shape;
     QList<Entry> m_entries;

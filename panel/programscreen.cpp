@@ -100,11 +100,11 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_snapshot, &ProgramSnapshot::progress, this, &ProgramScreen::showCopying);
     connect(m_snapshot, &ProgramSnapshot::taken, this, &ProgramScreen::askForDownload);
     connect(m_snapshot, &ProgramSnapshot::failed, this,
-            [this](const QString &reason) { endDownload(reason, Warning); });
+            [this](const QString &reason) { endDownload(reason, Message::Warning); });
     connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showSending);
     connect(m_transfer, &PlcTransfer::finished, m_snapshot, &ProgramSnapshot::compare);
     connect(m_transfer, &PlcTransfer::failed, this,
-            [this](const QString &reason) { endDownload(reason, Warning); });
+            [this](const QString &reason) { endDownload(reason, Message::Warning); });
     connect(m_snapshot, &ProgramSnapshot::compared, this, &ProgramScreen::endSent);
 }
 
@@ -145,7 +145,7 @@ QList<PanelKey *> ProgramScreen::keys()
 bool ProgramScreen::mayClose()
 {
     if (m_window->isDownloading()) {
-        Q_EMIT told(tr("A download is running. Let it end, or stop it first."), Warning);
+        Q_EMIT told(tr("A download is running. Let it end, or stop it first."), Message::Warning);
         return false;
     }
     if (!hasChanges())
@@ -201,7 +201,8 @@ void ProgramScreen::askForDownload()
 {
     DownloadQuestion question(m_snapshot->facts());
     if (question.exec() != QDialog::Accepted)
-        return endDownload(tr("Nothing was sent. The PLC keeps what it had."), Info);
+        return endDownload(tr("Nothing was sent. The PLC keeps what it had."),
+                           Message::Information);
     m_transfer->start(m_snapshot->programPath(), m_snapshot->copyPath());
 }
 
@@ -224,21 +225,22 @@ void ProgramScreen::endSent(ProgramSnapshot::Verdict verdict)
     switch (verdict) {
     case ProgramSnapshot::Same:
         return endDownload(
-            tr("%1 is in the PLC: %2 bytes, compared.").arg(facts.name).arg(facts.bytes), Good);
+            tr("%1 is in the PLC: %2 bytes, compared.").arg(facts.name).arg(facts.bytes),
+            Message::Information);
     case ProgramSnapshot::Changed:
         return endDownload(tr("%1 is in the PLC as it was shown, %2. On the panel it has changed "
                               "since then: download it again to send the new one.")
                                .arg(facts.name, facts.checksum()),
-                           Warning);
+                           Message::Warning);
     case ProgramSnapshot::Gone:
         return endDownload(tr("%1 is in the PLC as it was shown, %2. On the panel it is gone.")
                                .arg(facts.name, facts.checksum()),
-                           Warning);
+                           Message::Warning);
     }
 }
 
 // Every way out of a download comes through here, so the window's key is always given back.
-void ProgramScreen::endDownload(const QString &text, Tone tone)
+void ProgramScreen::endDownload(const QString &text, Message::Tone tone)
 {
     m_snapshot->drop();
     m_window->setDownloading(false);
@@ -253,12 +255,12 @@ void ProgramScreen::insertTaughtPoint()
         Q_EMIT told(tr("The machine already stands as point %1 \"%2\" wants it: nothing to insert.")
                         .arg(m_machine->currentPoint())
                         .arg(name),
-                    Info);
+                    Message::Information);
         return;
     }
     m_window->insertLine(line);
     Q_EMIT told(tr("Point %1 \"%2\" inserted: %3").arg(m_machine->currentPoint()).arg(name, line),
-                Good);
+                Message::Information);
 }
 
 void ProgramScreen::find()

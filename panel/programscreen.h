@@ -60,7 +60,7 @@ private:
     void showCopying(int percent);
     void showSending(int percent);
     void endSent(ProgramSnapshot::Verdict verdict);
-    void endDownload(const QString &text, Tone tone);
+    void endDownload(const QString &text, Message::Tone tone);
     void insertTaughtPoint();
     void find();
 

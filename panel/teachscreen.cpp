@@ -134,14 +134,15 @@ bool TeachScreen::load(const QString &path)
     QList<QStringList> rows;
     QString error;
     if (!TaughtProgram::load(path, &rows, &error)) {
-        Q_EMIT told(error, Warning);
+        Q_EMIT told(error, Message::Warning);
         return false;
     }
     m_file = path;
     m_selectKey->setChecked(false);
     setRows(rows);
     markStored();
-    Q_EMIT told(tr("%1 loaded, instructions: %2.").arg(title()).arg(rows.size()), Good);
+    Q_EMIT told(tr("%1 loaded, instructions: %2.").arg(title()).arg(rows.size()),
+                Message::Information);
     return true;
 }
 
@@ -150,11 +151,12 @@ bool TeachScreen::store()
     QDir().mkpath(m_folder);
     QString error;
     if (!TaughtProgram::store(m_file, rows(), &error)) {
-        Q_EMIT told(error, Warning);
+        Q_EMIT told(error, Message::Warning);
         return false;
     }
     markStored();
-    Q_EMIT told(tr("%1 stored, instructions: %2.").arg(title()).arg(m_stored.size()), Good);
+    Q_EMIT told(tr("%1 stored, instructions: %2.").arg(title()).arg(m_stored.size()),
+                Message::Information);
     return true;
 }
 
@@ -177,7 +179,8 @@ void TeachScreen::clear()
         return;
     m_selectKey->setChecked(false);
     list()->clear();
-    Q_EMIT told(tr("Instructions removed: %1. Load brings the stored ones back.").arg(count), Info);
+    Q_EMIT told(tr("Instructions removed: %1. Load brings the stored ones back.").arg(count),
+                Message::Information);
     refreshStatus();
 }
 
@@ -206,7 +209,7 @@ void TeachScreen::removeChosen()
     const int from = qMax(firstRow(), qMin(current, other));
     const int to = qMin(list()->count() - 1, qMax(current, other));
     if (from > to) {
-        Q_EMIT told(tr("There is no instruction to delete."), Info);
+        Q_EMIT told(tr("There is no instruction to delete."), Message::Information);
         return;
     }
     m_selectKey->setChecked(false);
@@ -240,7 +243,7 @@ void TeachScreen::choosePoint(int row)
                     .arg(picker.number())
                     .arg(point.name)
                     .arg(count),
-                Good);
+                Message::Information);
 }
 
 void TeachScreen::chooseSpeed(int row)
@@ -266,7 +269,7 @@ void TeachScreen::chooseSpeed(int row)
                     .arg(picker.number())
                     .arg(speed.name)
                     .arg(count),
-                Good);
+                Message::Information);
 }
 
 // What the program screen's Tag copies is the point of the instruction that was touched last.

@@ -81,7 +81,7 @@ bool VariablesScreen::mayClose()
 void VariablesScreen::refreshStatus()
 {
     if (!m_loadError.isEmpty()) {
-        Q_EMIT told(m_loadError, Warning);
+        Q_EMIT told(m_loadError, Message::Warning);
         m_loadError.clear();
     }
     const bool changed = rows() != m_stored;
@@ -96,12 +96,12 @@ bool VariablesScreen::store()
     QDir().mkpath(QFileInfo(m_file).path());
     QString error;
     if (!RowFile::write(m_file, QLatin1String("Machine variables"), rows(), &error)) {
-        Q_EMIT told(error, Warning);
+        Q_EMIT told(error, Message::Warning);
         return false;
     }
     m_stored = rows();
     refreshStatus();
-    Q_EMIT told(tr("Variables stored: %1.").arg(m_stored.size()), Good);
+    Q_EMIT told(tr("Variables stored: %1.").arg(m_stored.size()), Message::Information);
     return true;
 }
 

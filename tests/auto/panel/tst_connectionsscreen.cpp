@@ -32,7 +32,7 @@ void TestConnectionsScreen::init()
 {
     FilarixTest::init();
     DeviceLog::reset();
-    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     m_file = home() + "/hmi/connections.ini";
 }
 
@@ -58,7 +58,7 @@ void TestConnectionsScreen::changedAddressIsStoredAndTold()
 {
     ConnectionsScreen screen(m_file);
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     DeviceLog::acceptWith("10.0.0.7");
     driver.then([](QWidget *dialog) {
@@ -79,7 +79,7 @@ void TestConnectionsScreen::cancelledEditorChangesNothing()
 {
     ConnectionsScreen screen(m_file);
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     const QString before = screen.addresses().at(1).second;
     ModalDriver driver;
     driver.reject();

@@ -50,7 +50,7 @@ private:
 void TestFilesScreen::init()
 {
     FilarixTest::init();
-    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     programDir();
     m_folder = "/mnt/Storage.stick";
     QDir().mkpath(m_folder);
@@ -134,7 +134,7 @@ void TestFilesScreen::stickOfTheSystemIsSeenToComeAndGo()
     Stick stick;
     FilesScreen screen(&stick, m_history.data());
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     writeFile(Stick::marker(), "in");
     // What is not known yet is no change.
     screen.showDevices(DeviceState());
@@ -154,10 +154,10 @@ void TestFilesScreen::stickThatCannotBePluggedIsTold()
     Stick stick(m_folder);
     FilesScreen screen(&stick, m_history.data());
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
     QCOMPARE(told.size(), 1);
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QVERIFY(key(screen, "Plug")->isEnabled());
 }
 
@@ -189,7 +189,7 @@ void TestFilesScreen::stateIsToldInFullByATouch()
     FilesScreen screen(&stick, m_history.data());
     screen.resize(300, 220);
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     const QList<TouchBlock *> blocks = screen.findChildren<TouchBlock *>();
     QCOMPARE(blocks.size(), 4);
     for (TouchBlock *block : blocks) {
@@ -244,7 +244,7 @@ void TestFilesScreen::historyKeyBringsBackARemovedProgram()
     writeFile(path, "G01\n");
     QTRY_VERIFY(key(screen, "History")->isEnabled());
     QVERIFY(QFile::remove(path));
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     driver.then([](QWidget *dialog) {
         dialog->findChild<QTableWidget *>()->selectRow(0);
@@ -253,7 +253,7 @@ void TestFilesScreen::historyKeyBringsBackARemovedProgram()
     QTest::mouseClick(key(screen, "History"), Qt::LeftButton);
     QVERIFY2(driver.finished(), driver.report());
     QTRY_COMPARE(told.size(), 1);
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Good);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Information);
     QCOMPARE(readFile(path), QByteArray("G01\n"));
 }
 

@@ -163,19 +163,19 @@ void TestLook::keysAreReadable()
 void TestLook::messagesAreReadable_data()
 {
     QTest::addColumn<Look::Style>("style");
-    QTest::addColumn<PanelScreen::Tone>("tone");
+    QTest::addColumn<Message::Tone>("tone");
     for (Look::Style style : {Look::Light, Look::Dark}) {
         const QByteArray name = Look::name(style).toLatin1();
-        QTest::newRow((name + " info").constData()) << style << PanelScreen::Info;
-        QTest::newRow((name + " good").constData()) << style << PanelScreen::Good;
-        QTest::newRow((name + " warning").constData()) << style << PanelScreen::Warning;
+        QTest::newRow((name + " information").constData()) << style << Message::Information;
+        QTest::newRow((name + " warning").constData()) << style << Message::Warning;
+        QTest::newRow((name + " alarm").constData()) << style << Message::Alarm;
     }
 }
 
 void TestLook::messagesAreReadable()
 {
     QFETCH(Look::Style, style);
-    QFETCH(PanelScreen::Tone, tone);
+    QFETCH(Message::Tone, tone);
     Look::use(style);
     QWidget screen;
     screen.resize(480, 200);

@@ -26,7 +26,7 @@ void TestMessageBar::warningStaysUntilItIsClosed()
     screen.resize(480, 200);
     MessageBar bar(&screen);
     screen.show();
-    bar.tell("The PLC does not answer.", PanelScreen::Warning);
+    bar.tell("The PLC does not answer.", Message::Warning);
     QCOMPARE(bar.text(), QString("The PLC does not answer."));
     QVERIFY(!bar.findChild<QTimer *>() || !bar.findChild<QTimer *>()->isActive());
     QSignalSpy stops(&bar, SIGNAL(stopped()));
@@ -42,7 +42,7 @@ void TestMessageBar::informationPassesByItself()
     screen.resize(480, 200);
     MessageBar bar(&screen);
     screen.show();
-    bar.tell("Nothing to insert.", PanelScreen::Info);
+    bar.tell("Nothing to insert.", Message::Information);
     QVERIFY(bar.isVisible());
     QTRY_VERIFY_WITH_TIMEOUT(bar.isHidden(), 10000);
 }
@@ -67,9 +67,9 @@ void TestMessageBar::longTextIsShownWhole()
     screen.resize(480, 200);
     MessageBar bar(&screen);
     screen.show();
-    bar.tell("short", PanelScreen::Warning);
+    bar.tell("short", Message::Warning);
     const int low = bar.height();
-    bar.tell(QString("a long sentence ").repeated(15), PanelScreen::Warning);
+    bar.tell(QString("a long sentence ").repeated(15), Message::Warning);
     QVERIFY(bar.height() > low);
     QVERIFY(screen.rect().contains(bar.geometry()));
     screen.resize(700, 200);

@@ -193,7 +193,7 @@ void TestPanelWindow::statusIsInViewOnEveryScreen()
         panel.showScreen(i);
         screens.at(i)->m_title = QString(200, 'w');
         Q_EMIT screens.at(i)->titleChanged();
-        Q_EMIT screens.at(i)->told(QString(200, 'w'), PanelScreen::Info);
+        Q_EMIT screens.at(i)->told(QString(200, 'w'), Message::Information);
         QCoreApplication::processEvents();
         const QList<QLabel *> words = panel.status()->findChildren<QLabel *>();
         QCOMPARE(words.size(), 4);
@@ -223,7 +223,7 @@ void TestPanelWindow::titleTellsInFullWhenTouched()
     QVERIFY(block->height() >= 34);
     QTest::mouseClick(block, Qt::LeftButton);
     QCOMPARE(panel.messageBar()->text(), screen->m_title);
-    Q_EMIT screen->told("The stick is full.", PanelScreen::Warning);
+    Q_EMIT screen->told("The stick is full.", Message::Warning);
     panel.messageBar()->hide();
     QTest::mouseClick(block, Qt::LeftButton);
     QVERIFY(panel.messageBar()->text().startsWith(screen->m_title));
@@ -281,7 +281,7 @@ void TestPanelWindow::messagesAndProgressOfAScreenAreShown()
     QCOMPARE(panel.messageBar()->text(), QString("on its way"));
     QTest::mouseClick(panel.messageBar()->findChild<PanelKey *>(), Qt::LeftButton);
     QCOMPARE(screen->m_stops, 1);
-    Q_EMIT screen->told("arrived", PanelScreen::Good);
+    Q_EMIT screen->told("arrived", Message::Information);
     QCOMPARE(panel.messageBar()->text(), QString("arrived"));
     QVERIFY(label(panel, "lastMessage").endsWith("arrived"));
 }

@@ -63,7 +63,7 @@ void TestProgramScreen::init()
 {
     FilarixTest::init();
     DeviceLog::reset();
-    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     m_plc = home() + "/plc";
     QVERIFY(QDir().mkpath(m_plc));
     m_machine = new MachineData;
@@ -119,7 +119,7 @@ void TestProgramScreen::downloadIsBracketedAndTold()
     const QByteArray bytes = QByteArray("G01 X1\n").repeated(10000);
     writeFile(programDir() + "/coil.cnc", bytes);
     WMMainWindow *window = m_screen->programWindow();
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     QSignalSpy worked(m_screen, SIGNAL(worked(QString, int)));
     ModalDriver driver;
     answer(&driver, "send");
@@ -147,19 +147,19 @@ void TestProgramScreen::failedDownloadGivesTheKeyBack()
 {
     QFETCH(QString, program);
     WMMainWindow *window = m_screen->programWindow();
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     Q_EMIT window->signal_download(program);
     QTRY_COMPARE(told.size(), 1);
     QVERIFY(!window->isDownloading());
     QVERIFY(button("D/L")->isEnabled());
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
 }
 
 void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
 {
     writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
     WMMainWindow *window = m_screen->programWindow();
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     connect(m_screen, &PanelScreen::worked, m_screen, &PanelScreen::stopWork);
     ModalDriver driver;
     answer(&driver, "send");
@@ -175,7 +175,7 @@ void TestProgramScreen::questionShowsWhatIsOnTheDisk()
 {
     // Lines that the editor would drop count, too: they are sent.
     writeFile(programDir() + "/coil.cnc", "; head\nG01 X1\n");
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     QStringList shown;
     ModalDriver driver;
     driver.then([&](QWidget *dialog) {
@@ -195,7 +195,7 @@ void TestProgramScreen::questionShowsWhatIsOnTheDisk()
 void TestProgramScreen::refusedDownloadSendsNothing()
 {
     writeFile(programDir() + "/coil.cnc", "G01\n");
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     answer(&driver, "cancel");
     Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
@@ -232,7 +232,7 @@ void TestProgramScreen::whatWasShownIsSent()
         else
             writeFile(path, "another\n");
     };
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     if (!duringTheQuestion)
         connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, touch);
     ModalDriver driver;
@@ -245,7 +245,7 @@ void TestProgramScreen::whatWasShownIsSent()
     QTRY_COMPARE(told.size(), 1);
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QVERIFY2(told.at(0).at(0).toString().contains(word), qPrintable(told.at(0).at(0).toString()));
     QVERIFY(button("D/L")->isEnabled());
 }
@@ -261,14 +261,14 @@ void TestProgramScreen::stalledDownloadGivesTheKeyBack()
         if (QFileInfo(target).isFile() && QFile::remove(target))
             ::mkfifo(pipe.constData(), 0600);
     });
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     answer(&driver, "send");
     Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
     QTRY_COMPARE(told.size(), 1);
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(button("D/L")->isEnabled());
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QVERIFY(told.at(0).at(0).toString().contains("Check the PLC"));
     ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK));
 }
@@ -288,7 +288,7 @@ void TestProgramScreen::tagInsertsWhatIsNotInForce()
 {
     m_screen->editor()->setPlainText("G00 X-6 Y14 Z0 U0 V0 W0\n");
     m_machine->setCurrentPoint(2);
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     QTest::mouseClick(button("Tag"), Qt::LeftButton);
     QCOMPARE(m_screen->editor()->getLineText(1), QString("G01 U1.5 F120"));
     QCOMPARE(told.size(), 1);
@@ -299,7 +299,7 @@ void TestProgramScreen::tagTellsWhenNothingIsLeft()
 {
     const QString program = m_machine->lineToCurrentPoint();
     m_screen->editor()->setPlainText(program);
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     QTest::mouseClick(button("Tag"), Qt::LeftButton);
     QCOMPARE(m_screen->editor()->toPlainText(), program);
     QCOMPARE(told.size(), 1);
@@ -361,7 +361,7 @@ void TestProgramScreen::closingWithChangesAsks()
 void TestProgramScreen::closingDuringADownloadIsRefused()
 {
     writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     driver.then([&](QWidget *dialog) {
         QVERIFY(!m_screen->mayClose());
@@ -373,7 +373,7 @@ void TestProgramScreen::closingDuringADownloadIsRefused()
     QTRY_VERIFY(button("D/L")->isEnabled());
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(m_screen->mayClose());
-    QCOMPARE(told.last().at(1).value<PanelScreen::Tone>(), PanelScreen::Good);
+    QCOMPARE(told.last().at(1).value<Message::Tone>(), Message::Information);
 }
 
 FILARIX_TEST_MAIN(TestProgramScreen)

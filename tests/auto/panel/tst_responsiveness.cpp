@@ -120,7 +120,7 @@ void TestResponsiveness::initTestCase()
 void TestResponsiveness::init()
 {
     FilarixTest::init();
-    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     m_path = programDir() + "/endurance-run.cnc";
     QVERIFY(Samples::install(programDir()).contains("endurance-run.cnc"));
     QVERIFY(QDir(programDir()).remove("stator-coil.cnc"));
@@ -208,7 +208,7 @@ void TestResponsiveness::downloadIsCopiedAskedAndSent()
     QVERIFY(QDir().mkpath(plc));
     MachineData machine;
     ProgramScreen screen(0, plc, home() + "/hmi", &machine);
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     driver.then([](QWidget *dialog) { dialog->findChild<QPushButton *>("send")->click(); });
     {
@@ -218,7 +218,7 @@ void TestResponsiveness::downloadIsCopiedAskedAndSent()
         judge(watch);
     }
     QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Good);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Information);
     QCOMPARE(readFile(plc + "/endurance-run.cnc"), readFile(m_path));
 }
 

@@ -57,7 +57,7 @@ void TestTeachScreen::init()
 {
     FilarixTest::init();
     DeviceLog::reset();
-    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     m_machine = new MachineData;
     m_screen = new TeachScreen(QSize(480, 800), home() + "/teach", m_machine);
     m_keys = m_screen->keys();
@@ -252,7 +252,7 @@ void TestTeachScreen::insertAndDeleteInAnEmptyList()
 {
     m_list->setCurIndex(20, false);
     m_list->clear();
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     QTest::mouseClick(key("Delete"), Qt::LeftButton);
     QCOMPARE(m_list->count(), 1);
     QCOMPARE(told.size(), 1);
@@ -402,11 +402,11 @@ void TestTeachScreen::brokenFileLeavesTheScreenAsItIs()
 {
     const int before = m_list->count();
     writeFile(home() + "/broken.teach", "G01 X10\n");
-    QSignalSpy told(m_screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     QVERIFY(!m_screen->load(home() + "/broken.teach"));
     QCOMPARE(m_list->count(), before);
     QCOMPARE(told.size(), 1);
-    QCOMPARE(told.at(0).at(1).value<PanelScreen::Tone>(), PanelScreen::Warning);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QCOMPARE(m_screen->title(), QString("program.teach"));
 }
 

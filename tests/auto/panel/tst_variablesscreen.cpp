@@ -30,7 +30,7 @@ void TestVariablesScreen::init()
 {
     FilarixTest::init();
     DeviceLog::reset();
-    qRegisterMetaType<PanelScreen::Tone>("PanelScreen::Tone");
+    qRegisterMetaType<Message::Tone>("Message::Tone");
 }
 
 void TestVariablesScreen::everyVariableHasItsRow()
@@ -100,7 +100,7 @@ void TestVariablesScreen::brokenFileIsToldAndTheDefaultsStay()
 {
     writeFile(home() + "/teach/variables.txt", QByteArray("DataEditor\0\xff", 12));
     VariablesScreen screen(QSize(480, 800), home() + "/teach");
-    QSignalSpy told(&screen, SIGNAL(told(QString, PanelScreen::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
     screen.refreshStatus();
     screen.refreshStatus();
     QCOMPARE(told.size(), 1);

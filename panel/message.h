@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef MESSAGE_H
+#define MESSAGE_H
+
+#include <QDateTime>
+#include <QMetaType>
+#include <QString>
+
+/// What the operator is told.
+///
+/// Whoever has something to say has a signal
+///
+///     void told(const QString &text, Message::Tone tone, const QString &cause = QString());
+///
+/// and, where a message has a cause that can end, a signal
+///
+///     void causeEnded(const QString &cause);
+struct Message
+{
+    Q_GADGET
+
+public:
+    /// How urgent it is. The one scale for messages, states and questions.
+    enum Tone {
+        Information, ///< Went as wanted, or is good to know. Passes by itself.
+        Warning,     ///< The operator should see to it. Stays until it is closed or its cause ends.
+        Alarm        ///< A program may be lost, or work stands still. Stays likewise.
+    };
+    Q_ENUM(Tone)
+
+    /// A sentence or two: what happened, what it means, what to do.
+    QString text;
+    Tone tone = Information;
+    /// What the message is about, for the program alone: "plc", "storage". The next message of the
+    /// same cause takes its place, and it goes when the cause ends. Empty: it stands for itself.
+    QString cause;
+    /// When it was told, in the panel's time.
+    QDateTime time;
+};
+
+Q_DECLARE_METATYPE(Message)
+
+#endif // MESSAGE_H
