@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "clickgate.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QPointer>
+#include <QTimer>
+
+// A button says released() right before clicked(), whatever pressed it, but also when a finger
+// slides off or the focus goes, with no click behind it. So its signals are blocked from released()
+// on, and the group, whose signals they are not, tells whether there was a click.
+ClickGate::ClickGate(QAbstractButton *button) : QObject(button), m_clicks(new QButtonGroup(this))
+{
+    m_clicks->setExclusive(false);
+    m_clicks->addButton(button);
+    connect(button, &QAbstractButton::released, this, &ClickGate::shut);
+    connect(m_clicks, QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked), this,
+            &ClickGate::note);
+}
+
+QAbstractButton *ClickGate::button() const
+{
+    return static_cast<QAbstractButton *>(parent());
+}
+
+void ClickGate::shut()
+{
+    if (m_isPassing || !m_hold) {
+        // For this one click. Its listeners may run an event loop in which there are others.
+        m_isPassing = false;
+        return;
+    }
+    button()->blockSignals(true);
+    QTimer::singleShot(0, this, [this] { button()->blockSignals(false); });
+}
+
+void ClickGate::note()
+{
+    if (!button()->signalsBlocked()) {
+        m_hasPassed = true;
+        return;
+    }
+    button()->blockSignals(false);
+    if (m_isHolding)
+        return;
+    m_isHolding = true;
+    // The button is done with the press by then, and what holds the click may wait in dialogs.
+    QTimer::singleShot(0, this, [this] {
+        if (m_isHolding)
+            m_hold();
+    });
+}
+
+void ClickGate::pass()
+{
+    if (m_isHolding)
+        QTimer::singleShot(0, this, &ClickGate::click);
+}
+
+void ClickGate::drop()
+{
+    m_isHolding = false;
+}
+
+void ClickGate::click()
+{
+    if (!m_isHolding)
+        return;
+    m_isHolding = false;
+    m_isPassing = true;
+    m_hasPassed = false;
+    const QPointer<ClickGate> guard(this);
+    button()->click();
+    if (!guard)
+        return;
+    m_isPassing = false;
+    if (m_hasPassed)
+        Q_EMIT passed();
+}
