@@ -12,6 +12,10 @@ set -euo pipefail
 
 desk_panel=$1
 desk_locator=$2
+# Stands before the system's calls on files, for the scripts that ask for it; see filewatch.cpp.
+# shellcheck disable=SC2034
+desk_filewatch=${3:-}
+desk_preload=
 desk_map=/tmp/widgets
 desk_pids=()
 # How far the panel turns its picture, and the size of that picture before it is turned.
@@ -65,7 +69,7 @@ desk_start() {
     openbox --sm-disable >/tmp/openbox.log 2>&1 &
     desk_pids+=($!)
     desk_until 20 desk_has_window_manager || desk_fail "no window manager: $(cat /tmp/openbox.log)"
-    FILARIX_LOCATOR=$desk_map LD_PRELOAD=$desk_locator \
+    FILARIX_LOCATOR=$desk_map LD_PRELOAD=$desk_locator$desk_preload \
         "$desk_panel" --size "$size" "$@" >/tmp/panel.log 2>&1 &
     desk_pids+=($!)
     desk_until 30 test -s "$desk_map" || desk_fail "the panel shows nothing"
