@@ -181,8 +181,7 @@ WATCHED(int, mkdir, (const char *path, mode_t mode), (path, mode), path)
 WATCHED(int, rmdir, (const char *path), (path), path)
 WATCHED(int, unlink, (const char *path), (path), path)
 WATCHED(int, rename, (const char *path, const char *target), (path, target), path)
-WATCHED(int, renameat2,
-        (int from, const char *path, int to, const char *target, unsigned flags),
+WATCHED(int, renameat2, (int from, const char *path, int to, const char *target, unsigned flags),
         (from, path, to, target, flags), path)
 WATCHED(int, link, (const char *path, const char *target), (path, target), target)
 WATCHED(int, linkat, (int from, const char *path, int to, const char *target, int flags),

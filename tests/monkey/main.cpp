@@ -95,6 +95,7 @@ int main(int argc, char **argv)
     const int status = panelMain(int(panelArguments.size()) - 1, panelArguments.data());
     alarm(0);
     monkey = nullptr;
+    atWork.checkPrograms();
 
     std::printf("monkey: %s\n", qPrintable(atWork.report()));
     for (const QString &fault : atWork.faults())

@@ -114,14 +114,24 @@ QStringList Monkey::faults() const
     return all;
 }
 
+void Monkey::checkPrograms()
+{
+    m_witness.look(FilarixTest::programDir());
+    const QStringList lost = m_witness.lost(FilarixTest::programDir(),
+                                            FilarixTest::home() + QLatin1String("/hmi/history"));
+    for (const QString &program : lost)
+        fail(program);
+}
+
 QString Monkey::report() const
 {
     QStringList seen;
     for (auto dialog = m_dialogs.begin(); dialog != m_dialogs.end(); ++dialog)
         seen.append(QString::fromLatin1("%1 %2").arg(dialog.value(), 6).arg(dialog.key()));
-    return QString::fromLatin1("%1 actions in %2 s, dialogs:\n%3")
+    return QString::fromLatin1("%1 actions in %2 s, %3 different programs stored, dialogs:\n%4")
         .arg(m_actions)
         .arg(m_clock.elapsed() / 1000)
+        .arg(m_witness.count())
         .arg(seen.join(QLatin1Char('\n')));
 }
 
@@ -174,6 +184,7 @@ void Monkey::act()
     if (!Hand::isIdle())
         return;
     alarm(kHangSeconds);
+    m_witness.look(FilarixTest::programDir());
     noteDialog();
     if (Hand::activate(front()))
         return;
@@ -222,7 +233,7 @@ void Monkey::choose()
     else if (dice < 97)
         Hand::wheel(randomPoint(), chance(50) ? 120 : -120);
     else if (dice < 98)
-        changeStick();
+        chance(50) ? changeStick() : bringProgram();
     else if (QApplication::activeModalWidget() && !Hand::isTurned())
         Hand::close(QApplication::activeModalWidget());
 }
@@ -329,6 +340,16 @@ void Monkey::changeStick()
     QDir().rmdir(Stick::mountPoint());
     QFile::link(folder, Stick::mountPoint());
     FilarixTest::writeFile(Stick::marker(), QByteArray());
+}
+
+// Somebody else brings a program, over the network, say: what the panel then covers or removes has
+// to be in the history, however soon that is.
+void Monkey::bringProgram()
+{
+    const QString path =
+        FilarixTest::programDir() + QString::fromLatin1("/brought-%1.cnc").arg(random(4));
+    if (!QFileInfo(path).exists())
+        FilarixTest::writeFile(path, "G01 X" + QByteArray::number(m_actions) + "\n");
 }
 
 void Monkey::noteDialog()

@@ -5,6 +5,7 @@
 #define MONKEY_H
 
 #include "hand.h"
+#include "witness.h"
 
 #include <QElapsedTimer>
 #include <QMap>
@@ -42,6 +43,9 @@ public:
     void start();
     /// What is wrong, one thing a line; empty when nothing is.
     QStringList faults() const;
+    /// To be called once the panel has ended: a program that was stored and is nowhere any more is
+    /// a fault.
+    void checkPrograms();
     /// Which dialogs it was in, and how often.
     QString report() const;
 
@@ -65,6 +69,7 @@ private:
     void chooseKey();
     void typeKey(int key, Qt::KeyboardModifiers modifiers, const QString &text);
     void changeStick();
+    void bringProgram();
     void noteDialog();
     void noteMemory();
 
@@ -94,6 +99,7 @@ private:
     QPointer<QWidget> m_dialog;
     QMap<QString, int> m_dialogs;
     QStringList m_faults;
+    Witness m_witness;
 };
 
 #endif // MONKEY_H
