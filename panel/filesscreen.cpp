@@ -86,10 +86,9 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent)
     connect(m_historyKey, &PanelKey::clicked, this, &FilesScreen::showHistory);
     connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::showState);
     connect(m_history, &ProgramHistory::worked, this, &FilesScreen::worked);
-    connect(m_history, &ProgramHistory::told, this, [this](const QString &text, bool isGood) {
-        Q_EMIT told(text, isGood ? Message::Information : Message::Warning);
-        showState();
-    });
+    connect(m_history, &ProgramHistory::told, this, &FilesScreen::told);
+    connect(m_history, &ProgramHistory::told, this, &FilesScreen::showState);
+    connect(m_history, &ProgramHistory::causeEnded, this, &FilesScreen::causeEnded);
     connect(m_guard, &ImportGuard::told, this, [this](const QString &text, bool isSettled) {
         Q_EMIT told(text, isSettled ? Message::Information : Message::Warning);
         showState();

@@ -3,41 +3,41 @@
 
 #include "historystore.h"
 
-#include "durably.h"
+#include "durablefile.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutexLocker>
 #include <QRegExp>
-#include <QSaveFile>
 #include <QSet>
 #include <QUrl>
 
 #include <algorithm>
 
-const int HistoryStore::kRestMs;
+const int HistoryStore::restMs;
 
 namespace {
 
-const char kFormat[] = "filarix-history 1";
-const char kSuffix[] = ".version";
-const char kDateFormat[] = "yyyy-MM-ddTHH:mm:ss.zzzZ";
-const int kNumberDigits = 10;
+const char formatLine[] = "filarix-history 1";
+const char versionSuffix[] = ".version";
+const char dateFormat[] = "yyyy-MM-ddTHH:mm:ss.zzzZ";
+const int numberDigits = 10;
 // More than any head has: a name of 255 bytes takes three times as many when it is escaped.
-const int kLongestLine = 1024;
+const int longestLine = 1024;
 
 QByteArray head(const ProgramVersion &version)
 {
-    return QByteArray(kFormat) + "\nname " + QUrl::toPercentEncoding(version.name) + "\nstored "
-           + version.stored.toString(QLatin1String(kDateFormat)).toLatin1() + "\nbytes "
+    return QByteArray(formatLine) + "\nname " + QUrl::toPercentEncoding(version.name) + "\nstored "
+           + version.stored.toString(QLatin1String(dateFormat)).toLatin1() + "\nbytes "
            + QByteArray::number(version.bytes) + "\nsha256 " + version.hash.toHex() + "\n\n";
 }
 
 // The value of the next line of a head; null when that is not the line of \a key.
 QByteArray value(QFile *file, const char *key)
 {
-    const QByteArray line = file->readLine(kLongestLine);
+    const QByteArray line = file->readLine(longestLine);
     const QByteArray start = QByteArray(key) + ' ';
     if (!line.startsWith(start) || !line.endsWith('\n'))
         return QByteArray();
@@ -48,15 +48,15 @@ bool read(ProgramVersion *version)
 {
     QFile file(version->path);
     if (!file.open(QIODevice::ReadOnly)
-        || file.readLine(kLongestLine) != QByteArray(kFormat) + '\n')
+        || file.readLine(longestLine) != QByteArray(formatLine) + '\n')
         return false;
     version->name = QUrl::fromPercentEncoding(value(&file, "name"));
     version->stored = QDateTime::fromString(QString::fromLatin1(value(&file, "stored")),
-                                            QLatin1String(kDateFormat));
+                                            QLatin1String(dateFormat));
     version->stored.setTimeSpec(Qt::UTC);
     version->bytes = value(&file, "bytes").toLongLong();
     version->hash = QByteArray::fromHex(value(&file, "sha256"));
-    const bool ends = file.readLine(kLongestLine) == "\n";
+    const bool ends = file.readLine(longestLine) == "\n";
     version->offset = file.pos();
     return ends && !version->name.isEmpty() && !version->name.contains(QLatin1Char('/'))
            && version->hash.size() == 32 && file.size() == version->offset + version->bytes;
@@ -68,20 +68,34 @@ HistoryStore::HistoryStore(const QString &folder, const Limits &limits)
     : m_folder(folder), m_limits(limits)
 {}
 
+bool HistoryStore::isOpen() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_isOpen;
+}
+
+QList<ProgramVersion> HistoryStore::versions() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_versions;
+}
+
 bool HistoryStore::open(QString *error)
 {
+    const QMutexLocker lock(&m_mutex);
     QDir folder(m_folder);
     if (!folder.mkpath(QLatin1String("."))) {
         *error = tr("The history has no place: the folder %1 cannot be made.").arg(m_folder);
         return false;
     }
-    const QRegExp ours(
-        QString::fromLatin1("(\\d{%1,18})\\.version(\\.\\w{6})?").arg(kNumberDigits));
+    const QRegExp ours(QString::fromLatin1("(\\d{%1,18})\\.version(\\.\\w{6})?").arg(numberDigits));
     m_versions.clear();
     m_bytes = 0;
     m_lastNumber = 0;
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString &name : names) {
+        if (DurableFile::isTemporary(name))
+            folder.remove(name);
         if (!ours.exactMatch(name))
             continue;
         ProgramVersion version;
@@ -104,17 +118,16 @@ bool HistoryStore::open(QString *error)
 
 HistoryStore::Outcome HistoryStore::store(const QString &path, QString *error)
 {
+    const QMutexLocker lock(&m_mutex);
     ProgramVersion version;
     version.name = QFileInfo(path).fileName();
     const FileStamp before = FileStamp::of(path);
-    if (before.isValid()
-        && (m_seen.value(version.name) == before || m_tooLarge.value(version.name) == before))
+    if (before.isValid() && m_seen.value(version.name) == before)
         return Known;
-    if (before.age() >= 0 && before.age() < kRestMs)
+    if (before.age() >= 0 && before.age() < restMs)
         return Restless;
     // A program that fills half of the room would push out all others.
     if (before.size > m_limits.bytes / 2) {
-        m_tooLarge.insert(version.name, before);
         *error = tr("%1 is too large for the history.").arg(version.name);
         return Failed;
     }
@@ -152,6 +165,7 @@ HistoryStore::Outcome HistoryStore::store(const QString &path, QString *error)
 
 bool HistoryStore::holds(const QString &path) const
 {
+    const QMutexLocker lock(&m_mutex);
     const FileStamp stamp = FileStamp::of(path);
     return !stamp.isValid() || m_seen.value(QFileInfo(path).fileName()) == stamp;
 }
@@ -159,16 +173,14 @@ bool HistoryStore::holds(const QString &path) const
 QString HistoryStore::pathOf(qint64 number) const
 {
     return QDir(m_folder).filePath(
-        QString::fromLatin1("%1").arg(number, kNumberDigits, 10, QLatin1Char('0'))
-        + QLatin1String(kSuffix));
+        QString::fromLatin1("%1").arg(number, numberDigits, 10, QLatin1Char('0'))
+        + QLatin1String(versionSuffix));
 }
 
 bool HistoryStore::write(const ProgramVersion &version, const QByteArray &bytes, QString *error)
 {
-    // Forces what it wrote to the disk before it renames.
-    QSaveFile file(version.path);
-    if (file.open(QIODevice::WriteOnly) && file.write(head(version)) >= 0
-        && file.write(bytes) == bytes.size() && file.commit() && Durably::syncFolder(m_folder))
+    DurableFile file(version.path);
+    if (file.open() && file.write(head(version)) && file.write(bytes) && file.commit())
         return true;
     *error = tr("The history cannot keep %1: %2.").arg(version.name, file.errorString());
     return false;

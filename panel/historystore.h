@@ -11,6 +11,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QList>
+#include <QMutex>
 #include <QString>
 
 /// One version of one program, as the history keeps it.
@@ -38,7 +39,7 @@ struct ProgramVersion
 /// What goes when there is too much: the oldest, but of each program the newest stays as long as
 /// the newest ones alone are within the bytes.
 ///
-/// It needs no event loop, and takes one caller at a time.
+/// It needs no event loop. Threads may share it: a second caller waits for the first one.
 class HistoryStore
 {
     Q_DECLARE_TR_FUNCTIONS(HistoryStore)
@@ -56,18 +57,18 @@ public:
         Stored,   ///< The file holds a version that is new, and it is kept now.
         Known,    ///< The newest version of that name is what the file holds.
         Restless, ///< The file was written just now or while it was read; it may not be complete.
-        Failed
+        Failed    ///< The error says why. The next call tries again.
     };
 
     /// A file counts as complete when it has not been written for this long.
-    static const int kRestMs = 100;
+    static const int restMs = 100;
 
     HistoryStore(const QString &folder, const Limits &limits);
 
     /// Makes the folder, finds the versions and sweeps out what a killed program left. False with
     /// \a error when there is no such folder to be had.
     bool open(QString *error);
-    bool isOpen() const { return m_isOpen; }
+    bool isOpen() const;
 
     /// Takes in the file at \a path, under its name, if that holds something new.
     Outcome store(const QString &path, QString *error);
@@ -77,7 +78,7 @@ public:
     bool holds(const QString &path) const;
 
     /// Oldest first.
-    QList<ProgramVersion> versions() const { return m_versions; }
+    QList<ProgramVersion> versions() const;
 
 private:
     QString pathOf(qint64 number) const;
@@ -88,12 +89,11 @@ private:
 
     const QString m_folder;
     const Limits m_limits;
+    mutable QMutex m_mutex;
     bool m_isOpen = false;
     QList<ProgramVersion> m_versions;
     /// Each program's file as it was when its version was known to be kept.
     QHash<QString, FileStamp> m_seen;
-    /// The same of files that are too large.
-    QHash<QString, FileStamp> m_tooLarge;
     qint64 m_lastNumber = 0;
     qint64 m_bytes = 0;
 };

@@ -6,9 +6,13 @@
 
 #include "filework.h"
 #include "historystore.h"
+#include "message.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
+
+#include <functional>
 
 /// Keeps what the programs were: each version that stands in the program directory goes into a
 /// HistoryStore, and can be brought back.
@@ -16,8 +20,11 @@
 /// It looks at the directory's sizes and times every second, and at once when scan() is called, and
 /// reads what changed. All of that happens in a thread.
 ///
+/// Whoever is about to write over a program, or to take one away, waits for the history first:
+///
 ///     ProgramHistory history("/home/hmi/cnc", "/home/hmi/hmi/history");
 ///     connect(&history, &ProgramHistory::told, ...);
+///     history.whenSettled(this, [this] { writeTheFile(); });
 class ProgramHistory : public QObject
 {
     Q_OBJECT
@@ -34,6 +41,13 @@ public:
     /// Whether everything that stood in the program directory at the last scan() is kept by now, or
     /// was told to be impossible. Also when that takes longer than anybody waits.
     bool isSettled() const;
+    /// Looks now, and calls \a then from the event loop once everything that stood in the program
+    /// directory at this call is kept, or was told to be impossible. Also when that takes longer
+    /// than anybody waits, and at once when the storage is lost: isKept() tells. Never before this
+    /// has returned, and not at all once \a context is gone.
+    void whenSettled(QObject *context, const std::function<void()> &then);
+    /// Whether the program \a name was kept as it stood at the last look, or was not there.
+    bool isKept(const QString &name) const;
 
     /// Oldest first, as of the last look.
     QList<ProgramVersion> versions() const { return m_versions; }
@@ -45,12 +59,15 @@ public:
     void restore(const ProgramVersion &version);
     void stopRestoring();
 
-    void setStallTime(int ms) { m_scanWork.setStallTime(ms); }
+    /// Milliseconds that a step of a look or of a restore may take.
+    void setStallTime(int ms);
 
 Q_SIGNALS:
     void versionsChanged();
-    /// Something came of a restore(), or the history cannot do its work; in words.
-    void told(const QString &text, bool isGood);
+    /// Something came of a restore(), or the history cannot do its work. The causes are "history"
+    /// for the whole of it and "history:NAME" for a program that is not kept as it is.
+    void told(const QString &text, Message::Tone tone, const QString &cause = QString());
+    void causeEnded(const QString &cause);
     /// A restore() goes on: \a percent of it is done.
     void worked(const QString &text, int percent);
 
@@ -58,13 +75,26 @@ private:
     class Scan;
     class Restore;
 
+    struct Waiter
+    {
+        QPointer<QObject> context;
+        std::function<void()> then;
+        /// The first look that sees what stood there.
+        int look;
+        QElapsedTimer since;
+    };
+
     void look();
     void beginScan();
     void endScan();
     void loseScan();
+    void takeOver(const QList<ProgramVersion> &versions);
+    void tellFailures(const QHash<QString, QString> &failures);
+    void serve(int look);
+    void serveThePatient();
     void beginRestore();
     void endRestore();
-    void tellRestore(const QString &text, bool isGood);
+    void tellRestore(const QString &text, Message::Tone tone);
     void setSettled(bool isSettled);
 
     const QString m_programDir;
@@ -76,9 +106,14 @@ private:
     ProgramVersion m_wanted;
     QTimer m_pollTimer;
     QTimer m_restTimer;
+    QTimer m_patienceTimer;
     QList<ProgramVersion> m_versions;
-    QString m_lastError;
+    /// Why programs are not kept, by their names; by the empty one, why there is no history.
+    QHash<QString, QString> m_failures;
+    QStringList m_restless;
+    QList<Waiter> m_waiters;
     QElapsedTimer m_unsettledFor;
+    int m_looks = 0;
     bool m_isSettled = false;
     bool m_scanAgain = false;
     bool m_isRestoring = false;

@@ -3,9 +3,10 @@
 
 #include "rowfile.h"
 
+#include "durablefile.h"
+
 #include <QCoreApplication>
 #include <QFile>
-#include <QSaveFile>
 #include <QTextCodec>
 
 namespace {
@@ -53,14 +54,12 @@ QString line(const QStringList &row)
 bool RowFile::write(const QString &path, const QString &comment, const QList<QStringList> &rows,
                     QString *error)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write("# " + comment.toUtf8() + '\n');
-        for (const QStringList &row : rows)
-            file.write(line(row).toUtf8() + '\n');
-        if (file.commit())
-            return true;
-    }
+    QByteArray text = "# " + comment.toUtf8() + '\n';
+    for (const QStringList &row : rows)
+        text += line(row).toUtf8() + '\n';
+    DurableFile file(path);
+    if (file.open() && file.write(text) && file.commit())
+        return true;
     *error = tr("%1 cannot be written: %2.").arg(path, file.errorString());
     return false;
 }
@@ -73,6 +72,10 @@ bool RowFile::read(const QString &path, QList<QStringList> *rows, QString *error
         return false;
     }
     const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        *error = tr("%1 cannot be read: %2.").arg(path, file.errorString());
+        return false;
+    }
     QTextCodec::ConverterState state;
     const QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);

@@ -34,6 +34,12 @@ private Q_SLOTS:
     void historyThatCannotBeKeptIsToldOnce();
     void storageThatHangsIsTold();
     void settledOnlyWhenAllIsKept();
+    void waiterIsCalledWhenAllOfThatMomentIsKept();
+    void waiterIsCalledWhenAProgramCannotBeKept();
+    void waiterIsCalledWhenTheStorageIsLost();
+    void waiterThatIsGoneIsNotCalled();
+    void causeEndsWhenTheProgramIsKeptOrGone_data();
+    void causeEndsWhenTheProgramIsKeptOrGone();
 
 private:
     void start(const HistoryStore::Limits &limits = HistoryStore::Limits());
@@ -41,6 +47,7 @@ private:
     QByteArray lastContent() const;
     ProgramVersion versionOf(const QByteArray &bytes) const;
     QString lastTold() const;
+    Message::Tone lastTone() const;
 
     QString m_folder;
     QString m_path;
@@ -58,6 +65,7 @@ static QByteArray contentOf(const ProgramVersion &version)
 void TestProgramHistory::init()
 {
     FilarixTest::init();
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     m_folder = home() + "/hmi/history";
     m_path = programDir() + "/coil.cnc";
 }
@@ -72,7 +80,7 @@ void TestProgramHistory::cleanup()
 void TestProgramHistory::start(const HistoryStore::Limits &limits)
 {
     m_history.reset(new ProgramHistory(programDir(), m_folder, limits));
-    m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, bool))));
+    m_told.reset(new QSignalSpy(m_history.data(), &ProgramHistory::told));
 }
 
 // Everything is kept, and that makes so many versions.
@@ -101,6 +109,11 @@ ProgramVersion TestProgramHistory::versionOf(const QByteArray &bytes) const
 QString TestProgramHistory::lastTold() const
 {
     return m_told->isEmpty() ? QString() : m_told->last().at(0).toString();
+}
+
+Message::Tone TestProgramHistory::lastTone() const
+{
+    return m_told->last().at(1).value<Message::Tone>();
 }
 
 void TestProgramHistory::programsOfTheStartAreKept()
@@ -148,7 +161,7 @@ void TestProgramHistory::overwrittenVersionComesBack()
     QVERIFY(isKept(2));
     m_history->restore(versionOf("the good one\n"));
     QTRY_COMPARE(m_told->size(), 1);
-    QVERIFY(m_told->first().at(1).toBool());
+    QCOMPARE(lastTone(), Message::Information);
     QVERIFY(lastTold().contains("coil.cnc is back"));
     QCOMPARE(readFile(m_path), QByteArray("the good one\n"));
     // Any save made the file as readable as this one.
@@ -201,8 +214,10 @@ void TestProgramHistory::restoreThatCannotKeepWhatIsThereIsRefused()
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 2);
     QVERIFY(m_told->first().at(0).toString().contains("too large"));
+    QCOMPARE(m_told->first().at(1).value<Message::Tone>(), Message::Alarm);
+    QCOMPARE(m_told->first().at(2).toString(), QString("history:coil.cnc"));
     QVERIFY(lastTold().contains("not brought back"));
-    QVERIFY(!m_told->last().at(1).toBool());
+    QCOMPARE(lastTone(), Message::Warning);
     QCOMPARE(readFile(m_path), large);
 }
 
@@ -263,7 +278,7 @@ void TestProgramHistory::versionThatWentMeanwhileIsTold()
     QVERIFY(isKept(2));
     m_history->restore(m_history->versions().last());
     QTRY_COMPARE(m_told->size(), 2);
-    QVERIFY(m_told->last().at(1).toBool());
+    QCOMPARE(lastTone(), Message::Information);
 }
 
 void TestProgramHistory::restoreIntoAFolderThatTakesNothing()
@@ -295,7 +310,8 @@ void TestProgramHistory::historyThatCannotBeKeptIsToldOnce()
     start();
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains(m_folder));
-    QVERIFY(!m_told->first().at(1).toBool());
+    QCOMPARE(lastTone(), Message::Alarm);
+    QCOMPARE(m_told->first().at(2).toString(), QString("history"));
     QVERIFY(isKept(0));
     QCOMPARE(m_told->size(), 1);
     // It goes on by itself once it can.
@@ -313,7 +329,7 @@ void TestProgramHistory::storageThatHangsIsTold()
     QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
     m_history.reset(new ProgramHistory(programDir(), m_folder));
     m_history->setStallTime(200);
-    m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, bool))));
+    m_told.reset(new QSignalSpy(m_history.data(), &ProgramHistory::told));
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains("stopped answering"));
     // Nobody is kept from working by it.
@@ -333,6 +349,111 @@ void TestProgramHistory::settledOnlyWhenAllIsKept()
     QVERIFY(!m_history->isSettled());
     QTRY_VERIFY(m_history->isSettled());
     QCOMPARE(m_history->versions().size(), 20);
+}
+
+void TestProgramHistory::waiterIsCalledWhenAllOfThatMomentIsKept()
+{
+    start();
+    QTRY_VERIFY(m_history->isSettled());
+    // In the middle of a look that has listed the directory already, too.
+    for (int i = 0; i < 8; ++i) {
+        const QByteArray bytes = QByteArray::number(i);
+        m_history->scan();
+        writeFile(m_path, bytes);
+        int calls = 0;
+        QByteArray kept;
+        m_history->whenSettled(this, [&] {
+            ++calls;
+            kept = lastContent();
+        });
+        QCOMPARE(calls, 0);
+        QTRY_COMPARE(calls, 1);
+        QCOMPARE(kept, bytes);
+        QVERIFY(m_history->isKept("coil.cnc"));
+    }
+}
+
+void TestProgramHistory::waiterIsCalledWhenAProgramCannotBeKept()
+{
+    HistoryStore::Limits limits;
+    limits.bytes = 1000;
+    start(limits);
+    writeFile(m_path, QByteArray(501, 'x'));
+    writeFile(programDir() + "/small.cnc", "one\n");
+    bool isTold = false;
+    bool isKept = true;
+    int calls = 0;
+    m_history->whenSettled(this, [&] {
+        ++calls;
+        isTold = m_told->size() == 1;
+        isKept = m_history->isKept("coil.cnc");
+    });
+    QTRY_COMPARE(calls, 1);
+    QVERIFY(isTold);
+    QVERIFY(!isKept);
+    QVERIFY(m_history->isKept("small.cnc"));
+    QVERIFY(m_history->isKept("never-there.cnc"));
+}
+
+void TestProgramHistory::waiterIsCalledWhenTheStorageIsLost()
+{
+    writeFile(m_path, "one\n");
+    std::signal(SIGIO, SIG_IGN);
+    QFile leased(m_path);
+    QVERIFY(leased.open(QIODevice::ReadWrite));
+    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+    m_history.reset(new ProgramHistory(programDir(), m_folder));
+    m_history->setStallTime(200);
+    int calls = 0;
+    m_history->whenSettled(this, [&] { ++calls; });
+    QTRY_COMPARE(calls, 1);
+    QVERIFY(!m_history->isKept("coil.cnc"));
+    m_history->whenSettled(this, [&] { ++calls; });
+    QCOMPARE(calls, 1);
+    QTRY_COMPARE(calls, 2);
+    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_UNLCK), 0);
+}
+
+void TestProgramHistory::waiterThatIsGoneIsNotCalled()
+{
+    start();
+    int gone = 0;
+    int calls = 0;
+    QScopedPointer<QObject> context(new QObject);
+    m_history->whenSettled(context.data(), [&] { ++gone; });
+    m_history->whenSettled(this, [&] { ++calls; });
+    context.reset();
+    QTRY_COMPARE(calls, 1);
+    QCOMPARE(gone, 0);
+}
+
+void TestProgramHistory::causeEndsWhenTheProgramIsKeptOrGone_data()
+{
+    QTest::addColumn<QByteArray>("later");
+    QTest::newRow("kept") << QByteArray("short");
+    QTest::newRow("gone") << QByteArray();
+}
+
+void TestProgramHistory::causeEndsWhenTheProgramIsKeptOrGone()
+{
+    QFETCH(QByteArray, later);
+    HistoryStore::Limits limits;
+    limits.bytes = 1000;
+    writeFile(m_path, QByteArray(501, 'x'));
+    start(limits);
+    QSignalSpy ends(m_history.data(), &ProgramHistory::causeEnded);
+    QVERIFY(isKept(0));
+    QVERIFY(isKept(0));
+    QCOMPARE(m_told->size(), 1);
+    QCOMPARE(ends.size(), 0);
+    if (later.isNull())
+        QVERIFY(QFile::remove(m_path));
+    else
+        writeFile(m_path, later);
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(ends.first().first().toString(), QString("history:coil.cnc"));
+    QCOMPARE(m_told->size(), 1);
+    QVERIFY(m_history->isKept("coil.cnc"));
 }
 
 FILARIX_TEST_MAIN(TestProgramHistory)

@@ -191,14 +191,15 @@ void TestResponsiveness::historyBringsBack()
         if (each.name == "endurance-run.cnc")
             version = each;
     }
-    QSignalSpy told(&history, SIGNAL(told(QString, bool)));
+    qRegisterMetaType<Message::Tone>("Message::Tone");
+    QSignalSpy told(&history, &ProgramHistory::told);
     {
         LoopWatch watch;
         history.restore(version);
         QTRY_COMPARE(told.size(), 1);
         judge(watch);
     }
-    QVERIFY(told.at(0).at(1).toBool());
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Information);
     QCOMPARE(readFile(m_path), bytes);
 }
 
