@@ -12,12 +12,14 @@
 #include "look.h"
 #include "machinedata.h"
 #include "options.h"
+#include "orderlyend.h"
 #include "panelglass.h"
 #include "panelstyle.h"
 #include "panelsurface.h"
 #include "panelwindow.h"
 #include "programhistory.h"
 #include "programscreen.h"
+#include "questionkeeper.h"
 #include "samples.h"
 #include "settings.h"
 #include "statusstrip.h"
@@ -149,6 +151,7 @@ int runPanel(const Options &options)
     new PanelSurface(&panel, options.touch);
     new FieldKeypad(&panel);
     new DialogKeeper(&panel);
+    const QuestionKeeper questionKeeper;
     MachineData machine;
     ProgramHistory history(Samples::programDir(), ownDir + QLatin1String("/history"));
     HistoryGuard historyGuard(&history);
@@ -188,7 +191,8 @@ int runPanel(const Options &options)
     // Not by the last window: the find dialog may be open, and it has no parent.
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
     TerminationSignals signals;
-    QObject::connect(&signals, &TerminationSignals::received, qApp, &QApplication::quit);
+    OrderlyEnd orderlyEnd;
+    QObject::connect(&signals, &TerminationSignals::received, &orderlyEnd, &OrderlyEnd::end);
     // A panel is on for months: what dialogs and long programs left as gaps in the heap goes back
     // to the system, in a millisecond at most.
     QTimer tidying;

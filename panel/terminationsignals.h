@@ -6,8 +6,8 @@
 
 #include <QObject>
 
-/// Ends the application in order when the system asks for it by SIGINT, SIGTERM or SIGHUP, so that
-/// a simulated stick is pulled and the window's settings are stored. One for each program.
+/// Tells when the system asks by SIGINT, SIGTERM or SIGHUP that the program end. OrderlyEnd does
+/// that. One for each program.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

@@ -54,21 +54,42 @@ desk_until() {
 
 # desk_start WIDTHxHEIGHT [PANEL OPTION ...]
 desk_start() {
-    local size=$1 screen=$1 i
-    shift
-    desk_size=$size
-    for ((i = 1; i < $#; ++i)); do
+    desk_lay_out "$@"
+    desk_open_display
+    desk_open_window_manager
+    desk_run "$@"
+}
+
+# What the options mean for a click.
+desk_lay_out() {
+    local i
+    desk_size=$1
+    for ((i = 2; i < $#; ++i)); do
         [ "${!i}" != --rotate ] || desk_turn=${*:i+1:1}
     done
+}
+
+desk_open_display() {
+    local screen=$desk_size
     # A turned window has a frame, and its place is asked for: it has to be on the screen as a whole.
     [ "$desk_turn" = 0 ] || screen=1000x1000
     export DISPLAY=:99 QT_QPA_PLATFORM=xcb
     Xvfb :99 -screen 0 "${screen}x24" -nolisten tcp -noreset >/tmp/xvfb.log 2>&1 &
     desk_pids+=($!)
     desk_until 20 xdpyinfo >/dev/null 2>&1 || desk_fail "no X server: $(cat /tmp/xvfb.log)"
+}
+
+desk_open_window_manager() {
     openbox --sm-disable >/tmp/openbox.log 2>&1 &
     desk_pids+=($!)
     desk_until 20 desk_has_window_manager || desk_fail "no window manager: $(cat /tmp/openbox.log)"
+}
+
+# desk_run WIDTHxHEIGHT [PANEL OPTION ...]: the panel on the display that is there.
+desk_run() {
+    local size=$1
+    shift
+    rm -f "$desk_map"
     FILARIX_LOCATOR=$desk_map LD_PRELOAD=$desk_locator$desk_preload \
         "$desk_panel" --size "$size" "$@" >/tmp/panel.log 2>&1 &
     desk_pids+=($!)
