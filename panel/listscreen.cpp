@@ -3,6 +3,7 @@
 
 #include "listscreen.h"
 
+#include "livetext.h"
 #include "look.h"
 #include "panelkey.h"
 #include "panelsurface.h"
@@ -10,6 +11,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -40,6 +42,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     , m_list(makeList(title))
     , m_area(new QScrollArea)
     , m_keyGrid(new QGridLayout)
+    , m_notice(new QLabel(m_area->viewport()))
 {
     // An open row can push the foot of the page out of sight: the area moves, but shows no bars,
     // for the list has pages.
@@ -52,6 +55,10 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     if (m_firstRow == 0)
         m_list->setSize(m_list->size());
     m_area->setWidget(m_list);
+    // Over the list, which takes no touch meanwhile.
+    new LiveText(m_notice, [] { return tr("Loading ..."); });
+    m_notice->setAlignment(Qt::AlignCenter);
+    m_notice->hide();
     connect(m_list, &TListWidget::clicked, this,
             [this](int row) { QTimer::singleShot(0, this, [this, row] { keepRowInView(row); }); });
 
@@ -100,7 +107,26 @@ PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &
         m_keyGrid->setRowStretch(line + 1, 1);
     }
     ++m_keyCount;
+    return whenLoaded(key);
+}
+
+PanelKey *ListScreen::whenLoaded(PanelKey *key)
+{
+    m_loadKeys.append(key);
+    key->setEnabled(!m_isLoading);
     return key;
+}
+
+void ListScreen::setLoading(bool isLoading)
+{
+    m_isLoading = isLoading;
+    for (const QPointer<PanelKey> &key : qAsConst(m_loadKeys)) {
+        if (key)
+            key->setEnabled(!isLoading);
+    }
+    m_notice->setGeometry(m_area->viewport()->rect());
+    m_notice->setVisible(isLoading);
+    m_notice->raise();
 }
 
 void ListScreen::addPagingKeys()
@@ -138,8 +164,10 @@ QList<QStringList> ListScreen::rows() const
 
 bool ListScreen::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_area->viewport() && event->type() == QEvent::Resize)
+    if (watched == m_area->viewport() && event->type() == QEvent::Resize) {
         fitPage();
+        m_notice->resize(m_area->viewport()->size());
+    }
     return PanelScreen::eventFilter(watched, event);
 }
 

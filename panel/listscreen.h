@@ -8,10 +8,12 @@
 
 #include <functional>
 
+#include <QPointer>
 #include <QSize>
 #include <QStringList>
 
 class QGridLayout;
+class QLabel;
 class QScrollArea;
 class TListWidget;
 
@@ -24,6 +26,9 @@ class ListScreen : public PanelScreen
 public:
     TListWidget *list() const { return m_list; }
 
+    /// Whether the rows are still to come. No key does anything until they are there.
+    bool isLoading() const { return m_isLoading; }
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
@@ -33,6 +38,9 @@ protected:
 
     /// Appends a key to the panel.
     PanelKey *addKey(const QIcon &icon, const std::function<QString()> &text);
+    /// A key of the shell's strip that is off as well until the rows are there.
+    PanelKey *whenLoaded(PanelKey *key);
+    void setLoading(bool isLoading);
     /// Appends the four keys that turn pages.
     void addPagingKeys();
     /// Fills the list, the first row under the title becoming current, and shows its first page.
@@ -53,7 +61,10 @@ private:
     TListWidget *m_list;
     QScrollArea *m_area;
     QGridLayout *m_keyGrid;
+    QLabel *m_notice;
+    QList<QPointer<PanelKey>> m_loadKeys;
     int m_keyCount = 0;
+    bool m_isLoading = false;
 };
 
 #endif // LISTSCREEN_H

@@ -51,14 +51,19 @@ QString line(const QStringList &row)
 
 } // namespace
 
+QByteArray RowFile::bytes(const QString &comment, const QList<QStringList> &rows)
+{
+    QByteArray bytes = "# " + comment.toUtf8() + '\n';
+    for (const QStringList &row : rows)
+        bytes += line(row).toUtf8() + '\n';
+    return bytes;
+}
+
 bool RowFile::write(const QString &path, const QString &comment, const QList<QStringList> &rows,
                     QString *error)
 {
-    QByteArray text = "# " + comment.toUtf8() + '\n';
-    for (const QStringList &row : rows)
-        text += line(row).toUtf8() + '\n';
     DurableFile file(path);
-    if (file.open() && file.write(text) && file.commit())
+    if (file.open() && file.write(bytes(comment, rows)) && file.commit())
         return true;
     *error = tr("%1 cannot be written: %2.").arg(path, file.errorString());
     return false;

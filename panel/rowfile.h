@@ -4,6 +4,7 @@
 #ifndef ROWFILE_H
 #define ROWFILE_H
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -13,6 +14,8 @@
 /// as it was. Lines that are empty or begin with "#" are left out on reading. UTF-8.
 namespace RowFile {
 
+/// What write() writes.
+QByteArray bytes(const QString &comment, const QList<QStringList> &rows);
 /// Writes the rows under \a comment. The file is replaced as a whole or stays as it was. On
 /// failure \a error says why in words.
 bool write(const QString &path, const QString &comment, const QList<QStringList> &rows,

@@ -37,6 +37,10 @@ int keyColumns(int width)
     return width < kRoomy ? kKeyColumns : kRoomyKeyColumns;
 }
 
+// What messages are about.
+const QLatin1String ownFile("teach");
+const QLatin1String storage("storage");
+
 QIcon libraryIcon(const char *name)
 {
     return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
@@ -50,6 +54,7 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     , m_folder(folder)
     , m_file(QDir(folder).filePath(QLatin1String("program.teach")))
     , m_machine(machine)
+    , m_keeper(QLatin1String("Taught program"), &TaughtProgram::load)
 {
     addPagingKeys();
     connect(addKey(libraryIcon("insert"), [] { return tr("Joint"); }), &PanelKey::clicked, this,
@@ -72,15 +77,39 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     connect(list(), &TListWidget::clicked, this, &TeachScreen::followRow);
     connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);
     connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
-    connect(list(), &TListWidget::sg_item_deleted, this,
-            [this](int percent) { Q_EMIT worked(tr("Clearing: %1 %").arg(percent), percent); });
+    connect(list(), &TListWidget::sg_item_deleted, this, &TeachScreen::showClearing);
 
-    QList<QStringList> rows;
-    QString error;
-    if (!QFileInfo(m_file).exists() || !TaughtProgram::load(m_file, &rows, &error))
-        rows = TaughtProgram::sample(*m_machine);
-    setRows(rows);
-    markStored();
+    setLoading(true);
+    loadFirst();
+}
+
+// Rows that make way for those of a file are nothing to tell of.
+void TeachScreen::showClearing(int percent)
+{
+    if (!isLoading())
+        Q_EMIT worked(tr("Clearing: %1 %").arg(percent), percent);
+}
+
+void TeachScreen::loadFirst()
+{
+    m_keeper.load(m_file, [this](const RowKeeper::Loaded &loaded) { showFirst(loaded); });
+}
+
+// A program that nobody can read is not taken for one that isn't there: in the place of the sample
+// there are no rows, and what stands in the file stays until the operator stores.
+void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
+{
+    const bool isNew = loaded.state == RowKeeper::Loaded::Missing;
+    setRows(isNew ? TaughtProgram::sample(*m_machine) : loaded.rows);
+    setLoading(false);
+    markStored(rows());
+    if (loaded.state == RowKeeper::Loaded::Broken)
+        Q_EMIT told(loaded.error + QLatin1Char(' ')
+                        + tr("The list is empty. Store first puts that file aside."),
+                    Message::Alarm, ownFile);
+    else if (loaded.state == RowKeeper::Loaded::Stalled)
+        Q_EMIT told(loaded.error + QLatin1Char(' ') + tr("The list is empty. Try Load."),
+                    Message::Alarm, storage);
 }
 
 // The list never fills its title row again; its cells are those of the row without the two words
@@ -112,7 +141,7 @@ QList<PanelKey *> TeachScreen::keys()
     connect(loadKey, &PanelKey::clicked, this, &TeachScreen::askAndLoad);
     connect(storeKey, &PanelKey::clicked, this, &TeachScreen::store);
     connect(clearKey, &PanelKey::clicked, this, &TeachScreen::clear);
-    return {loadKey, storeKey, clearKey};
+    return {whenLoaded(loadKey), whenLoaded(storeKey), whenLoaded(clearKey)};
 }
 
 bool TeachScreen::mayClose()
@@ -129,35 +158,60 @@ void TeachScreen::refreshStatus()
     Q_EMIT titleChanged();
 }
 
-bool TeachScreen::load(const QString &path)
+void TeachScreen::load(const QString &path)
 {
-    QList<QStringList> rows;
-    QString error;
-    if (!TaughtProgram::load(path, &rows, &error)) {
-        Q_EMIT told(error, Message::Warning);
-        return false;
-    }
-    m_file = path;
-    m_selectKey->setChecked(false);
-    setRows(rows);
-    markStored();
-    Q_EMIT told(tr("%1 loaded, instructions: %2.").arg(title()).arg(rows.size()),
-                Message::Information);
-    return true;
+    if (m_keeper.isBusy())
+        return;
+    setLoading(true);
+    m_keeper.load(path, [this, path](const RowKeeper::Loaded &loaded) { showRead(path, loaded); });
 }
 
-bool TeachScreen::store()
+void TeachScreen::showRead(const QString &path, const RowKeeper::Loaded &loaded)
 {
-    QDir().mkpath(m_folder);
-    QString error;
-    if (!TaughtProgram::store(m_file, rows(), &error)) {
-        Q_EMIT told(error, Message::Warning);
-        return false;
-    }
-    markStored();
-    Q_EMIT told(tr("%1 stored, instructions: %2.").arg(title()).arg(m_stored.size()),
-                Message::Information);
-    return true;
+    const bool isRead = loaded.state == RowKeeper::Loaded::Read;
+    if (isRead)
+        showProgram(path, loaded.rows);
+    setLoading(false);
+    if (isRead)
+        Q_EMIT told(tr("%1 loaded, instructions: %2.").arg(title()).arg(loaded.rows.size()),
+                    Message::Information);
+    else if (loaded.state == RowKeeper::Loaded::Missing)
+        Q_EMIT told(tr("%1 is not there.").arg(path), Message::Warning);
+    else
+        Q_EMIT told(loaded.error, Message::Warning);
+}
+
+void TeachScreen::showProgram(const QString &path, const QList<QStringList> &program)
+{
+    m_file = path;
+    m_selectKey->setChecked(false);
+    setRows(program);
+    markStored(rows());
+    Q_EMIT causeEnded(ownFile);
+}
+
+void TeachScreen::store()
+{
+    if (m_keeper.isBusy())
+        return;
+    const QList<QStringList> taught = rows();
+    m_keeper.store(m_file, taught,
+                   [this, taught](const RowKeeper::Stored &stored) { noteStored(taught, stored); });
+}
+
+// The operator may have changed a row since.
+void TeachScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored)
+{
+    if (!stored.isStored)
+        return Q_EMIT told(stored.error, Message::Alarm, storage);
+    markStored(rows);
+    Q_EMIT causeEnded(storage);
+    Q_EMIT causeEnded(ownFile);
+    QString text = tr("%1 stored, instructions: %2.").arg(title()).arg(rows.size());
+    if (!stored.asidePath.isEmpty())
+        text += QLatin1Char(' ')
+                + tr("What stood there is %1 now.").arg(QFileInfo(stored.asidePath).fileName());
+    Q_EMIT told(text, Message::Information);
 }
 
 void TeachScreen::askAndLoad()
@@ -278,9 +332,9 @@ void TeachScreen::followRow(int row)
     m_machine->setCurrentPoint(list()->getJposIndex(row));
 }
 
-void TeachScreen::markStored()
+void TeachScreen::markStored(const QList<QStringList> &rows)
 {
-    m_stored = rows();
+    m_stored = rows;
     refreshStatus();
     Q_EMIT titleChanged();
 }
@@ -290,8 +344,18 @@ bool TeachScreen::mayLoseChanges(const QString &question)
     refreshStatus();
     if (!m_changed)
         return true;
+    // While the answer is stored the operator may ask for the end once more.
+    if (m_isAsking)
+        return false;
+    m_isAsking = true;
     const int answer =
         QMessageBox::warning(nullptr, tr("Taught program"), question,
                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && store());
+    if (answer == QMessageBox::Save) {
+        m_keeper.wait();
+        store();
+        m_keeper.wait();
+    }
+    m_isAsking = false;
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !m_changed);
 }

@@ -5,6 +5,7 @@
 #define TEACHSCREEN_H
 
 #include "listscreen.h"
+#include "rowkeeper.h"
 
 class MachineData;
 
@@ -15,8 +16,8 @@ class TeachScreen : public ListScreen
     Q_OBJECT
 
 public:
-    /// The program is kept in the folder \a folder, which is made when it is stored. \a machine
-    /// must outlive the screen.
+    /// Shows the program that is kept in \a folder as soon as it is read, and a sample where there
+    /// is none. The folder is made when a program is stored. \a machine must outlive the screen.
     TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
                 QWidget *parent = nullptr);
 
@@ -28,14 +29,24 @@ public:
     void refreshStatus() override;
 
     QString filePath() const;
-    /// Reads the program of that path; the screen keeps what it shows if that fails.
-    bool load(const QString &path);
-    bool store();
+    /// Reads the program of that path beside the event loop; the screen keeps what it shows if that
+    /// fails.
+    void load(const QString &path);
+    /// Writes the program beside the event loop; ends in told().
+    void store();
+    /// Milliseconds after which a file counts as one that does not answer.
+    void setStallTime(int ms) { m_keeper.setStallTime(ms); }
 
 protected:
     void retranslate() override;
 
 private:
+    void showClearing(int percent);
+    void loadFirst();
+    void showFirst(const RowKeeper::Loaded &loaded);
+    void showRead(const QString &path, const RowKeeper::Loaded &loaded);
+    void showProgram(const QString &path, const QList<QStringList> &program);
+    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
     void askAndLoad();
     void clear();
     void insertMovement(const QString &kind);
@@ -44,15 +55,17 @@ private:
     void choosePoint(int row);
     void chooseSpeed(int row);
     void followRow(int row);
-    void markStored();
+    void markStored(const QList<QStringList> &rows);
     bool mayLoseChanges(const QString &question);
 
     const QString m_folder;
     QString m_file;
     MachineData *m_machine;
     PanelKey *m_selectKey;
+    RowKeeper m_keeper;
     QList<QStringList> m_stored;
     bool m_changed = false;
+    bool m_isAsking = false;
 };
 
 #endif // TEACHSCREEN_H

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QMessageBox>
 
 namespace {
@@ -43,14 +44,27 @@ QList<QStringList> defaults()
     return rows;
 }
 
+QList<QStringList> emptied(QList<QStringList> rows)
+{
+    for (QStringList &row : rows)
+        row[kValue].clear();
+    return rows;
+}
+
+// What messages are about.
+const QLatin1String ownFile("variables");
+const QLatin1String storage("storage");
+
 } // namespace
 
 VariablesScreen::VariablesScreen(const QSize &surface, const QString &folder, QWidget *parent)
     : ListScreen(surface, QStringList(), surface.width() < 760 ? 4 : 1, parent)
     , m_file(QDir(folder).filePath(QLatin1String("variables.txt")))
+    , m_keeper(QLatin1String("Machine variables"), &RowFile::read)
 {
     addPagingKeys();
-    load();
+    setLoading(true);
+    m_keeper.load(m_file, [this](const RowKeeper::Loaded &loaded) { showRead(loaded); });
 }
 
 QString VariablesScreen::title() const
@@ -62,7 +76,7 @@ QList<PanelKey *> VariablesScreen::keys()
 {
     PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), [] { return tr("Store"); });
     connect(storeKey, &PanelKey::clicked, this, &VariablesScreen::store);
-    return {storeKey};
+    return {whenLoaded(storeKey)};
 }
 
 bool VariablesScreen::mayClose()
@@ -70,20 +84,26 @@ bool VariablesScreen::mayClose()
     refreshStatus();
     if (!m_changed)
         return true;
+    // While the answer is stored the operator may ask for the end once more.
+    if (m_isAsking)
+        return false;
+    m_isAsking = true;
     const int answer =
         QMessageBox::warning(nullptr, title(),
                              tr("The variables have changes that are not "
                                 "stored."),
                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && store());
+    if (answer == QMessageBox::Save) {
+        m_keeper.wait();
+        store();
+        m_keeper.wait();
+    }
+    m_isAsking = false;
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !m_changed);
 }
 
 void VariablesScreen::refreshStatus()
 {
-    if (!m_loadError.isEmpty()) {
-        Q_EMIT told(m_loadError, Message::Warning);
-        m_loadError.clear();
-    }
     const bool changed = rows() != m_stored;
     if (changed == m_changed)
         return;
@@ -91,18 +111,29 @@ void VariablesScreen::refreshStatus()
     Q_EMIT titleChanged();
 }
 
-bool VariablesScreen::store()
+void VariablesScreen::store()
 {
-    QDir().mkpath(QFileInfo(m_file).path());
-    QString error;
-    if (!RowFile::write(m_file, QLatin1String("Machine variables"), rows(), &error)) {
-        Q_EMIT told(error, Message::Warning);
-        return false;
-    }
-    m_stored = rows();
+    if (m_keeper.isBusy())
+        return;
+    const QList<QStringList> values = rows();
+    m_keeper.store(m_file, values + m_foreign,
+                   [this, values](const RowKeeper::Stored &stored) { noteStored(values, stored); });
+}
+
+// The operator may have changed a value since.
+void VariablesScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored)
+{
+    if (!stored.isStored)
+        return Q_EMIT told(stored.error, Message::Alarm, storage);
+    m_stored = rows;
     refreshStatus();
-    Q_EMIT told(tr("Variables stored: %1.").arg(m_stored.size()), Message::Information);
-    return true;
+    Q_EMIT causeEnded(storage);
+    Q_EMIT causeEnded(ownFile);
+    QString text = tr("Variables stored: %1.").arg(rows.size());
+    if (!stored.asidePath.isEmpty())
+        text += QLatin1Char(' ')
+                + tr("What stood there is %1 now.").arg(QFileInfo(stored.asidePath).fileName());
+    Q_EMIT told(text, Message::Information);
 }
 
 QString VariablesScreen::value(const QString &name) const
@@ -115,20 +146,34 @@ QString VariablesScreen::value(const QString &name) const
     return QString();
 }
 
-// The machine decides which variables there are; the file gives their values.
-void VariablesScreen::load()
+// The machine decides which variables there are; the file gives their values. Where it can't, there
+// are none: nobody shall take the values of a new machine for those of this one.
+void VariablesScreen::showRead(const RowKeeper::Loaded &loaded)
 {
-    QList<QStringList> read;
-    if (QFileInfo(m_file).exists())
-        RowFile::read(m_file, &read, &m_loadError);
-    QList<QStringList> all = defaults();
+    const bool isKnown =
+        loaded.state == RowKeeper::Loaded::Missing || loaded.state == RowKeeper::Loaded::Read;
+    QList<QStringList> all = isKnown ? defaults() : emptied(defaults());
+    QHash<QString, int> places;
     for (int i = 0; i < all.size(); ++i) {
         all[i][1] = QString::fromLatin1("N%1").arg(i);
-        for (const QStringList &row : qAsConst(read)) {
-            if (row.size() == kStrings && row.at(kName) == all.at(i).at(kName))
-                all[i][kValue] = row.at(kValue);
-        }
+        places.insert(all.at(i).at(kName), i);
+    }
+    for (const QStringList &row : loaded.rows) {
+        const int place = row.size() == kStrings ? places.value(row.at(kName), -1) : -1;
+        if (place < 0)
+            m_foreign.append(row);
+        else
+            all[place][kValue] = row.at(kValue);
     }
     setRows(all);
+    setLoading(false);
     m_stored = rows();
+    if (loaded.state == RowKeeper::Loaded::Broken)
+        Q_EMIT told(loaded.error + QLatin1Char(' ')
+                        + tr("The values are empty. Store first puts that file aside."),
+                    Message::Alarm, ownFile);
+    else if (loaded.state == RowKeeper::Loaded::Stalled)
+        Q_EMIT told(loaded.error + QLatin1Char(' ')
+                        + tr("The values are empty. Switch the panel off and on."),
+                    Message::Alarm, storage);
 }

@@ -5,6 +5,7 @@
 #define VARIABLESSCREEN_H
 
 #include "listscreen.h"
+#include "rowkeeper.h"
 
 /// The machine's variables: a list of plain data rows, each a number, a name and a value, kept in
 /// a text file of the host.
@@ -13,7 +14,8 @@ class VariablesScreen : public ListScreen
     Q_OBJECT
 
 public:
-    /// The values are kept in "variables.txt" in \a folder, which is made when they are stored.
+    /// Shows the values that are kept in "variables.txt" in \a folder as soon as they are read. The
+    /// folder is made when they are stored.
     VariablesScreen(const QSize &surface, const QString &folder, QWidget *parent = nullptr);
 
     QString title() const override;
@@ -22,17 +24,24 @@ public:
     bool mayClose() override;
     void refreshStatus() override;
 
-    bool store();
+    /// Writes the values beside the event loop; ends in told().
+    void store();
     /// The value of a variable as text; null for a name that isn't there.
     QString value(const QString &name) const;
+    /// Milliseconds after which a file counts as one that does not answer.
+    void setStallTime(int ms) { m_keeper.setStallTime(ms); }
 
 private:
-    void load();
+    void showRead(const RowKeeper::Loaded &loaded);
+    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
 
     const QString m_file;
+    RowKeeper m_keeper;
     QList<QStringList> m_stored;
+    /// Rows of the file for which the machine has no variable: they are stored with the others.
+    QList<QStringList> m_foreign;
     bool m_changed = false;
-    QString m_loadError;
+    bool m_isAsking = false;
 };
 
 #endif // VARIABLESSCREEN_H

@@ -80,20 +80,25 @@ struct Panel
             new ProgramScreen(0, FilarixTest::home() + QLatin1String("/plc"), ownDir, &machine);
         window.addScreen(
             program, [] { return PanelWindow::tr("Program"); }, QIcon());
+        TeachScreen *teach = new TeachScreen(size, ownDir, &machine);
         window.addScreen(
-            new TeachScreen(size, ownDir, &machine), [] { return PanelWindow::tr("Teach"); },
-            QIcon());
+            teach, [] { return PanelWindow::tr("Teach"); }, QIcon());
+        VariablesScreen *variables = new VariablesScreen(size, ownDir);
         window.addScreen(
-            new VariablesScreen(size, ownDir), [] { return PanelWindow::tr("Variables"); },
-            QIcon());
+            variables, [] { return PanelWindow::tr("Variables"); }, QIcon());
+        ConnectionsScreen *connections =
+            new ConnectionsScreen(ownDir + QLatin1String("/connections.ini"));
         window.addScreen(
-            new ConnectionsScreen(ownDir + QLatin1String("/connections.ini")),
-            [] { return PanelWindow::tr("Connections"); }, QIcon());
+            connections, [] { return PanelWindow::tr("Connections"); }, QIcon());
         window.addScreen(
             new FilesScreen(&stick, &history), [] { return PanelWindow::tr("Files"); }, QIcon());
         window.setLanguages(languages);
         window.show();
-        QCoreApplication::processEvents();
+        // With all that their files hold.
+        const bool areFilled = QTest::qWaitFor([=] {
+            return !teach->isLoading() && !variables->isLoading() && !connections->isBusy();
+        });
+        QVERIFY(areFilled);
     }
 
     /// A row has cells for another kind of row, which it hides.

@@ -4,6 +4,7 @@
 #include "combolineedit.h"
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "heldfile.h"
 #include "label.h"
 #include "machinedata.h"
 #include "modaldriver.h"
@@ -13,6 +14,9 @@
 #include "teachscreen.h"
 #include "tlistwidget.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTableWidget>
 
@@ -39,6 +43,12 @@ private Q_SLOTS:
     void editOnTheKeypadIsStoredAndLoaded();
     void loadKeyPicksAFile();
     void brokenFileLeavesTheScreenAsItIs();
+    void missingFileShowsTheSample();
+    void unreadableProgramIsToldAndPutAside_data();
+    void unreadableProgramIsToldAndPutAside();
+    void storeThatFailsIsAnAlarm();
+    void screenIsUpWhileItsFileHangs();
+    void storeAtTheEndWaitsForTheDisk();
     void closingWithChangesAsks();
 
 private:
@@ -67,6 +77,7 @@ void TestTeachScreen::init()
     m_screen->show();
     QVERIFY(TestCompat::waitForExposed(m_screen));
     m_list = m_screen->list();
+    QTRY_VERIFY(!m_screen->isLoading());
 }
 
 void TestTeachScreen::cleanup()
@@ -139,6 +150,7 @@ void TestTeachScreen::fits()
     teach.resize(screen);
     teach.show();
     QVERIFY(TestCompat::waitForExposed(&teach));
+    QTRY_VERIFY(!teach.isLoading());
     QCOMPARE(teach.size(), screen);
 
     const QWidgetList all = teach.findChildren<QWidget *>();
@@ -252,7 +264,7 @@ void TestTeachScreen::insertAndDeleteInAnEmptyList()
 {
     m_list->setCurIndex(20, false);
     m_list->clear();
-    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
     QTest::mouseClick(key("Delete"), Qt::LeftButton);
     QCOMPARE(m_list->count(), 1);
     QCOMPARE(told.size(), 1);
@@ -355,17 +367,19 @@ void TestTeachScreen::editOnTheKeypadIsStoredAndLoaded()
     m_screen->refreshStatus();
     QVERIFY(m_screen->hasChanges());
     QTest::mouseClick(key("Store"), Qt::LeftButton);
-    QVERIFY(!m_screen->hasChanges());
+    QTRY_VERIFY(!m_screen->hasChanges());
 
     m_list->setCurIndex(1, false);
     QTest::mouseClick(key("Delete"), Qt::LeftButton);
     QVERIFY(m_list->getContent(1).at(8) != "12.5");
-    QVERIFY(m_screen->load(m_screen->filePath()));
+    m_screen->load(m_screen->filePath());
+    QTRY_VERIFY(!m_screen->isLoading());
     QCOMPARE(m_list->getContent(1).at(8), QString("12.5"));
     QVERIFY(!m_screen->hasChanges());
 
     // The next start of the program shows what was stored.
     TeachScreen next(QSize(480, 800), home() + "/teach", m_machine);
+    QTRY_VERIFY(!next.isLoading());
     QCOMPARE(next.list()->getContent(1), m_list->getContent(1));
     QCOMPARE(next.list()->count(), m_list->count());
 }
@@ -393,7 +407,7 @@ void TestTeachScreen::loadKeyPicksAFile()
     });
     QTest::mouseClick(key("Load"), Qt::LeftButton);
     QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(m_screen->title(), QString("other.teach"));
+    QTRY_COMPARE(m_screen->title(), QString("other.teach"));
     QCOMPARE(m_screen->list()->count(), 2);
     QCOMPARE(m_list->getContent(1), rows.first());
 }
@@ -402,12 +416,157 @@ void TestTeachScreen::brokenFileLeavesTheScreenAsItIs()
 {
     const int before = m_list->count();
     writeFile(home() + "/broken.teach", "G01 X10\n");
-    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
-    QVERIFY(!m_screen->load(home() + "/broken.teach"));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    m_screen->load(home() + "/broken.teach");
+    QTRY_COMPARE(told.size(), 1);
     QCOMPARE(m_list->count(), before);
-    QCOMPARE(told.size(), 1);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QCOMPARE(m_screen->title(), QString("program.teach"));
+}
+
+void TestTeachScreen::missingFileShowsTheSample()
+{
+    QCOMPARE(m_list->count() - 1, TaughtProgram::sample(*m_machine).size());
+    QVERIFY(!m_screen->hasChanges());
+}
+
+void TestTeachScreen::unreadableProgramIsToldAndPutAside_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isForbidden");
+    QTest::newRow("no instructions") << QByteArray("G01 X10\n") << false;
+    QTest::newRow("no text") << QByteArray("MJ\0\xff", 4) << false;
+    QTest::newRow("no rights") << QByteArray("# Taught program\nOth\t1\t\tOth\tM05\n") << true;
+}
+
+void TestTeachScreen::unreadableProgramIsToldAndPutAside()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, isForbidden);
+    const QString path = home() + "/broken/program.teach";
+    writeFile(path, bytes);
+    if (isForbidden)
+        QFile::setPermissions(path, QFileDevice::Permissions());
+    TeachScreen screen(QSize(480, 800), home() + "/broken", m_machine);
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QSignalSpy ended(&screen, SIGNAL(causeEnded(QString)));
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(told.at(0).at(0).toString().contains(path), qPrintable(told.at(0).at(0).toString()));
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    const QString cause = told.at(0).at(2).toString();
+    QVERIFY(!cause.isEmpty());
+    // No sample, which would look as if that were the program.
+    QCOMPARE(screen.list()->count(), 1);
+    QVERIFY(!screen.hasChanges());
+    QCOMPARE(QDir(home() + "/broken").entryList(QDir::Files), QStringList("program.teach"));
+
+    QStringList row = TaughtProgram::command("M05");
+    screen.list()->insertWidget(1, row, true, false);
+    screen.store();
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.at(1).at(1).value<Message::Tone>(), Message::Information);
+    QVERIFY(told.at(1).at(0).toString().contains("program.teach.broken"));
+    QVERIFY(ended.contains(QVariantList{cause}));
+    QFile::setPermissions(path + ".broken", QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    QCOMPARE(readFile(path + ".broken"), bytes);
+    QVERIFY(readFile(path).contains("M05"));
+}
+
+void TestTeachScreen::storeThatFailsIsAnAlarm()
+{
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    writeFile(home() + "/teach", "a file where the folder should be");
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTest::mouseClick(key("Store"), Qt::LeftButton);
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY2(told.at(0).at(0).toString().contains("Not a directory"),
+             qPrintable(told.at(0).at(0).toString()));
+    QVERIFY(m_screen->hasChanges());
+    // Once there is a place, the trouble is over.
+    QSignalSpy ended(m_screen, SIGNAL(causeEnded(QString)));
+    QVERIFY(QFile::remove(home() + "/teach"));
+    QTest::mouseClick(key("Store"), Qt::LeftButton);
+    QTRY_VERIFY(!m_screen->hasChanges());
+    QVERIFY(ended.contains(QVariantList{told.at(0).at(2)}));
+}
+
+void TestTeachScreen::screenIsUpWhileItsFileHangs()
+{
+    const QString path = home() + "/hung/program.teach";
+    const QByteArray program = "# Taught program\nOth\t1\t\tOth\tM05\n";
+    writeFile(path, program);
+    HeldFile held(path);
+    QVERIFY(held.isHeld());
+    QElapsedTimer start;
+    start.start();
+    TeachScreen screen(QSize(480, 800), home() + "/hung", m_machine);
+    screen.setStallTime(500);
+    const QList<PanelKey *> keys = screen.keys();
+    for (PanelKey *key : keys)
+        key->setParent(&screen);
+    screen.resize(480, 640);
+    screen.show();
+    QVERIFY(TestCompat::waitForExposed(&screen));
+    QVERIFY(start.elapsed() < patience(2000));
+    LoopPulse pulse;
+    QVERIFY(screen.isLoading());
+    const QList<PanelKey *> all = screen.findChildren<PanelKey *>();
+    for (PanelKey *key : all)
+        QVERIFY2(!key->isEnabled(), qPrintable(key->text()));
+    const auto notice = [&screen] {
+        const QList<QLabel *> labels = screen.findChildren<QLabel *>();
+        for (QLabel *label : labels) {
+            if (label->text() == "Loading ..." && label->isVisible())
+                return true;
+        }
+        return false;
+    };
+    QVERIFY(notice());
+
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY(!screen.isLoading());
+    QVERIFY(!notice());
+    for (PanelKey *key : all)
+        QVERIFY2(key->isEnabled(), qPrintable(key->text()));
+    QCOMPARE(screen.list()->count(), 1);
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+
+    // The program that nobody has seen is not covered once the disk answers.
+    held.letGo();
+    screen.store();
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.at(1).at(1).value<Message::Tone>(), Message::Information);
+    QCOMPARE(readFile(path + ".broken"), program);
+}
+
+void TestTeachScreen::storeAtTheEndWaitsForTheDisk()
+{
+    const QString path = m_screen->filePath();
+    QSignalSpy stored(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    m_screen->store();
+    QTRY_COMPARE(stored.size(), 1);
+    const QByteArray before = readFile(path);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    HeldFile held(path);
+    QVERIFY(held.isHeld());
+    m_screen->setStallTime(300);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    LoopPulse pulse;
+    ModalDriver driver;
+    driver.press(QMessageBox::Save);
+    QVERIFY(!m_screen->mayClose());
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+    held.letGo();
+    QCOMPARE(readFile(path), before);
+    driver.press(QMessageBox::Save);
+    QVERIFY(m_screen->mayClose());
+    QVERIFY(readFile(path) != before);
 }
 
 void TestTeachScreen::closingWithChangesAsks()

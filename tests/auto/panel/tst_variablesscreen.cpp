@@ -4,6 +4,7 @@
 #include "combolineedit.h"
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "heldfile.h"
 #include "modaldriver.h"
 #include "tlistwidget.h"
 #include "variablesscreen.h"
@@ -21,8 +22,10 @@ private Q_SLOTS:
     void namesFitTheirCells_data();
     void namesFitTheirCells();
     void changedValueIsStoredAndLoaded();
-    void brokenFileIsToldAndTheDefaultsStay();
+    void brokenFileIsToldAndPutAside();
     void fileMayNameOtherVariables();
+    void screenIsUpWhileItsFileHangs();
+    void failedStoreIsAnAlarm();
     void closingWithChangesAsks();
 };
 
@@ -36,6 +39,7 @@ void TestVariablesScreen::init()
 void TestVariablesScreen::everyVariableHasItsRow()
 {
     VariablesScreen screen(QSize(800, 480), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
     QVERIFY(screen.list()->count() >= 20);
     for (int row = 0; row < screen.list()->count(); ++row) {
         QCOMPARE(screen.list()->typeAt(row), QString("DataEditor"));
@@ -58,6 +62,7 @@ void TestVariablesScreen::namesFitTheirCells()
 {
     QFETCH(QSize, panel);
     VariablesScreen screen(panel, home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
     screen.resize(panel - QSize(0, 60));
     screen.show();
     QVERIFY(TestCompat::waitForExposed(&screen));
@@ -79,6 +84,7 @@ void TestVariablesScreen::namesFitTheirCells()
 void TestVariablesScreen::changedValueIsStoredAndLoaded()
 {
     VariablesScreen screen(QSize(480, 800), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
     screen.resize(480, 640);
     screen.show();
     QVERIFY(TestCompat::waitForExposed(&screen));
@@ -87,38 +93,98 @@ void TestVariablesScreen::changedValueIsStoredAndLoaded()
     QCOMPARE(screen.value("Wire"), QString("0.35 mm"));
     screen.refreshStatus();
     QVERIFY(screen.hasChanges());
-    QVERIFY(screen.store());
-    QVERIFY(!screen.hasChanges());
+    screen.store();
+    QTRY_VERIFY(!screen.hasChanges());
 
     VariablesScreen next(QSize(480, 800), home() + "/teach");
+    QTRY_VERIFY(!next.isLoading());
     QCOMPARE(next.value("Wire"), QString("0.35 mm"));
     QCOMPARE(next.value("Window"), QString("36.0 mm"));
     QVERIFY(!next.hasChanges());
 }
 
-void TestVariablesScreen::brokenFileIsToldAndTheDefaultsStay()
+// The values of a new machine would look as if they were this one's.
+void TestVariablesScreen::brokenFileIsToldAndPutAside()
 {
-    writeFile(home() + "/teach/variables.txt", QByteArray("DataEditor\0\xff", 12));
+    const QString path = home() + "/teach/variables.txt";
+    const QByteArray bytes("DataEditor\0\xff", 12);
+    writeFile(path, bytes);
     VariablesScreen screen(QSize(480, 800), home() + "/teach");
-    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
-    screen.refreshStatus();
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY(told.at(0).at(0).toString().contains("variables.txt"));
     screen.refreshStatus();
     QCOMPARE(told.size(), 1);
-    QCOMPARE(screen.value("Layers"), QString("28"));
+    QVERIFY(!screen.hasChanges());
+    QCOMPARE(screen.value("Layers"), QString());
+    QVERIFY(screen.list()->count() >= 20);
+    QCOMPARE(readFile(path), bytes);
+
+    QSignalSpy ended(&screen, SIGNAL(causeEnded(QString)));
+    screen.store();
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.at(1).at(1).value<Message::Tone>(), Message::Information);
+    QVERIFY(told.at(1).at(0).toString().contains("variables.txt.broken"));
+    QVERIFY(ended.contains(QVariantList{told.at(0).at(2)}));
+    QCOMPARE(readFile(path + ".broken"), bytes);
 }
 
 void TestVariablesScreen::fileMayNameOtherVariables()
 {
-    writeFile(home() + "/teach/variables.txt",
-              "DataEditor\tN9\t\tLayers\t30\nDataEditor\tN1\t\tUnknown\t5\nshort\n");
+    const QString path = home() + "/teach/variables.txt";
+    writeFile(path, "DataEditor\tN9\t\tLayers\t30\nDataEditor\tN1\t\tUnknown\t5\nshort\n");
     VariablesScreen screen(QSize(480, 800), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
     QCOMPARE(screen.value("Layers"), QString("30"));
     QVERIFY(screen.value("Unknown").isNull());
+    // What the machine has no variable for is kept for the one that has.
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    screen.store();
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(readFile(path).contains("\nDataEditor\tN1\t\tUnknown\t5\nshort\n"));
+}
+
+void TestVariablesScreen::screenIsUpWhileItsFileHangs()
+{
+    const QString path = home() + "/teach/variables.txt";
+    const QByteArray bytes = "DataEditor\tN9\t\tLayers\t30\n";
+    writeFile(path, bytes);
+    HeldFile held(path);
+    QVERIFY(held.isHeld());
+    VariablesScreen screen(QSize(480, 800), home() + "/teach");
+    screen.setStallTime(300);
+    screen.show();
+    LoopPulse pulse;
+    QVERIFY(screen.isLoading());
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY(!screen.isLoading());
+    QCOMPARE(screen.value("Layers"), QString());
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+    held.letGo();
+    screen.store();
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(readFile(path + ".broken"), bytes);
+}
+
+void TestVariablesScreen::failedStoreIsAnAlarm()
+{
+    VariablesScreen screen(QSize(480, 800), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
+    writeFile(home() + "/teach", "a file where the folder should be");
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    screen.store();
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY(told.at(0).at(0).toString().contains("Not a directory"));
 }
 
 void TestVariablesScreen::closingWithChangesAsks()
 {
     VariablesScreen screen(QSize(480, 800), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
     QVERIFY(screen.mayClose());
     QStringList row = screen.list()->getContent(0);
     row[4] = "1.00 mm";

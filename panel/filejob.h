@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FILEJOB_H
+#define FILEJOB_H
+
+#include "filework.h"
+
+#include <functional>
+
+/// One short piece of work on files at a time, beside the event loop.
+///
+///     const std::shared_ptr<Rows> rows = std::make_shared<Rows>();
+///     m_job.run([rows, path] { rows->read(path); }, [this, rows] { show(*rows); },
+///               [this] { tellThatStorageHangs(); });
+class FileJob : public QObject
+{
+    Q_OBJECT
+
+public:
+    typedef std::function<void()> Work;
+
+    explicit FileJob(QObject *parent = nullptr);
+
+    bool isRunning() const { return m_work.isRunning(); }
+    /// Runs \a work in a thread, and then \a done from the event loop. \a stalled runs in its place
+    /// when the work does not return in time; nobody waits for it any more then. \a work has to own
+    /// what it uses. Does nothing while other work runs.
+    void run(const Work &work, const Work &done, const Work &stalled);
+    /// Runs the event loop until the work has ended or is given up.
+    void wait();
+    void setStallTime(int ms) { m_work.setStallTime(ms); }
+
+Q_SIGNALS:
+    /// What followed the work is done, too.
+    void finished();
+
+private:
+    void finish(const Work &answer);
+
+    FileWork m_work;
+    Work m_done;
+    Work m_stalled;
+};
+
+#endif // FILEJOB_H

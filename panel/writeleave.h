@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef WRITELEAVE_H
+#define WRITELEAVE_H
+
+#include <atomic>
+
+/// Decides between a write in a thread and whoever has stopped waiting for it: of take() and
+/// withdraw() the first one wins. So what was reported as not stored stays so.
+class WriteLeave
+{
+public:
+    /// The write may replace the file, and nobody can keep it from that any more.
+    bool take() { return change(Taken); }
+    /// The write will replace nothing.
+    bool withdraw() { return change(Withdrawn); }
+
+private:
+    enum State { Open, Taken, Withdrawn };
+
+    bool change(State state)
+    {
+        State open = Open;
+        return m_state.compare_exchange_strong(open, state);
+    }
+
+    std::atomic<State> m_state{Open};
+};
+
+#endif // WRITELEAVE_H
