@@ -4,18 +4,22 @@
 #include "connectionsscreen.h"
 
 #include "conneditor.h"
+#include "dataeditor.h"
+#include "listwidget.h"
 #include "look.h"
 #include "panelkey.h"
 #include "panelsurface.h"
+#include "writeleave.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QGuiApplication>
+#include <QHash>
 #include <QHeaderView>
 #include <QScopedPointer>
 #include <QScreen>
-#include <QSettings>
+#include <QScrollArea>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,42 +29,60 @@ const int kNarrowPanel = 400;
 const int kNarrowPixels = 12;
 const int kAroundRows = 64;
 
-struct Connection
-{
-    const char *name;
-    int cid;
-    int baud;
-    int addr;
-    int com;
-    const char *address;
-};
+// What messages are about.
+const QLatin1String ownFile("connections");
+const QLatin1String storage("storage");
 
-// The first is local: its name is its address, too.
-const Connection kConnections[] = {
-    {"192.168.1.10:502", 1, 0, 1, 0, ""},
-    {"Spindle drive", 2, 187600, 2, 1, "192.168.1.21"},
-    {"Wire guide", 3, 187500, 3, 2, "192.168.1.22"},
-    {"Tension unit", 4, 19200, 4, 3, "192.168.1.23:4001"},
-    {"Camera", 5, 0, 5, 4, ""},
-};
-
-QString key(int number, const char *suffix)
+// Connections of one name share an address: the last one's.
+QStringList shownAddresses(const ConnEditor &editor, const ConnectionFile::Contents &contents)
 {
-    return QString::fromLatin1("Connect %1%2").arg(number).arg(QLatin1String(suffix));
-}
-
-QString addressKey(const QString &name)
-{
-    return name + QLatin1String("new IP");
+    const ListWidget *list =
+        static_cast<const ListWidget *>(editor.findChild<QScrollArea *>()->widget());
+    QHash<QString, QString> byName;
+    for (int i = 1; i < list->count() && i <= contents.connections.size(); ++i)
+        byName.insert(contents.connections.at(i - 1).name,
+                      static_cast<DataEditor *>(list->itemAt(i))->getData().last());
+    QStringList addresses;
+    for (const ConnectionFile::Connection &connection : contents.connections)
+        addresses.append(byName.value(connection.name));
+    return addresses;
 }
 
 } // namespace
 
+/// What the library's dialog works on. Its memory of a file goes by the path: so that is a new one
+/// each time.
+struct ConnectionsScreen::Copy
+{
+    QTemporaryDir folder;
+    ConnectionFile::Contents before;
+
+    QString path() const { return folder.filePath(QLatin1String("connections.ini")); }
+
+    bool fill()
+    {
+        QFile file(path());
+        return folder.isValid() && file.open(QIODevice::WriteOnly)
+               && file.write(before.bytes) == before.bytes.size() && file.flush();
+    }
+
+    QByteArray bytes() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// In the thread, which the destructor isn't.
+    void remove()
+    {
+        folder.setAutoRemove(false);
+        folder.remove();
+    }
+};
+
 ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     : PanelScreen(parent), m_filePath(filePath), m_table(new QTableWidget(0, 4))
 {
-    if (!QFileInfo(filePath).exists())
-        makeFile();
     Look::dress(this, Look::KeyPanel);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -85,16 +107,18 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
         m_table->setFont(font);
     }
 
-    PanelKey *editKey = new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey),
-                                     [] { return tr("Edit the addresses"); });
-    editKey->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(editKey, &PanelKey::clicked, this, &ConnectionsScreen::edit);
+    m_editKey = new PanelKey(Glyphs::icon(Glyphs::Edit, Glyphs::OnKey),
+                             [] { return tr("Edit the addresses"); });
+    m_editKey->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(m_editKey, &PanelKey::clicked, this, &ConnectionsScreen::beginEdit);
+    connect(&m_job, &FileJob::finished, this, &ConnectionsScreen::showConnections);
 
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 4, 4);
     column->setSpacing(4);
     column->addWidget(m_table, 1);
-    column->addWidget(editKey);
+    column->addWidget(m_editKey);
+    read();
     retranslate();
 }
 
@@ -111,38 +135,77 @@ QString ConnectionsScreen::title() const
 
 QList<QPair<QString, QString>> ConnectionsScreen::addresses() const
 {
-    QSettings file(m_filePath, QSettings::IniFormat);
     QList<QPair<QString, QString>> all;
-    const int count = file.value(QLatin1String("connect count"), 0).toInt();
-    for (int i = 0; i < count; ++i) {
-        const QString name = file.value(key(i, "")).toString();
-        all.append(qMakePair(name, file.value(addressKey(name)).toString()));
-    }
+    for (const ConnectionFile::Connection &connection : m_contents.connections)
+        all.append(qMakePair(connection.name, connection.address));
     return all;
 }
 
-void ConnectionsScreen::makeFile()
+void ConnectionsScreen::run(const FileJob::Work &work, const FileJob::Work &done,
+                            const FileJob::Work &stalled)
 {
-    QDir().mkpath(QFileInfo(m_filePath).path());
-    QSettings file(m_filePath, QSettings::IniFormat);
-    int count = 0;
-    for (const Connection &connection : kConnections) {
-        const QString name = QLatin1String(connection.name);
-        file.setValue(key(count, ""), name);
-        file.setValue(key(count, " cid"), connection.cid);
-        file.setValue(key(count, " baud"), connection.baud);
-        file.setValue(key(count, " addr"), connection.addr);
-        file.setValue(key(count, " com"), connection.com);
-        if (*connection.address)
-            file.setValue(addressKey(name), QLatin1String(connection.address));
-        ++count;
-    }
-    file.setValue(QLatin1String("connect count"), count);
+    m_job.run(work, done, stalled);
+    showConnections();
 }
 
-void ConnectionsScreen::edit()
+void ConnectionsScreen::read()
 {
-    const QList<QPair<QString, QString>> before = addresses();
+    const std::shared_ptr<ConnectionFile::Contents> contents =
+        std::make_shared<ConnectionFile::Contents>();
+    const QString path = m_filePath;
+    run([contents, path] { *contents = ConnectionFile::read(path); },
+        [this, contents] { take(*contents); }, [this] { tellStall(); });
+}
+
+void ConnectionsScreen::take(const ConnectionFile::Contents &contents)
+{
+    m_contents = contents;
+    if (!contents.error.isEmpty())
+        Q_EMIT told(contents.error, Message::Alarm, ownFile);
+    else if (contents.count > ConnectionFile::mostConnections)
+        Q_EMIT told(tr("%1 says that it holds %2 connections. The first %3 are shown.")
+                        .arg(m_filePath)
+                        .arg(contents.count)
+                        .arg(ConnectionFile::mostConnections),
+                    Message::Warning, ownFile);
+    else
+        Q_EMIT causeEnded(ownFile);
+}
+
+void ConnectionsScreen::tellStall()
+{
+    Q_EMIT told(tr("%1 cannot be read: the panel's storage does not answer.").arg(m_filePath),
+                Message::Alarm, storage);
+}
+
+// The file may have changed since the screen was filled.
+void ConnectionsScreen::beginEdit()
+{
+    if (isBusy())
+        return;
+    const std::shared_ptr<Copy> copy = std::make_shared<Copy>();
+    const std::shared_ptr<bool> isFilled = std::make_shared<bool>(false);
+    const QString path = m_filePath;
+    run(
+        [copy, isFilled, path] {
+            copy->before = ConnectionFile::read(path);
+            *isFilled = copy->before.error.isEmpty() && copy->fill();
+        },
+        [this, copy, isFilled] {
+            take(copy->before);
+            if (*isFilled)
+                edit(copy);
+            else if (copy->before.error.isEmpty())
+                Q_EMIT told(tr("The addresses cannot be edited: the panel's temporary storage is "
+                               "full."),
+                            Message::Alarm, storage);
+        },
+        [this] { tellStall(); });
+}
+
+void ConnectionsScreen::edit(const std::shared_ptr<Copy> &copy)
+{
+    showConnections();
     QScopedPointer<ConnEditor> editor;
     {
         // The rows are as wide as the dialog, and lie in an area with margins and a scroll bar: on
@@ -150,25 +213,57 @@ void ConnectionsScreen::edit()
         const int panel = QGuiApplication::primaryScreen()->availableSize().width();
         const SurfaceLoan tall(SurfaceLoan::kTallPanel,
                                panel < kWidePanel ? panel - kAroundRows : panel);
-        editor.reset(new ConnEditor(m_filePath, nullptr));
+        editor.reset(new ConnEditor(copy->path(), nullptr));
         editor->init_list();
         editor->setFixedWidth(qMin(editor->width() + kAroundRows, panel));
     }
-    const bool accepted = editor->exec() == QDialog::Accepted;
-    showConnections();
-    if (!accepted)
-        return;
-    if (!QFileInfo(m_filePath).isWritable()) {
-        Q_EMIT told(tr("The addresses are not stored: %1 cannot be written.").arg(m_filePath),
-                    Message::Warning);
-        return;
-    }
+    if (editor->exec() == QDialog::Accepted)
+        store(copy, shownAddresses(*editor, copy->before));
+    else
+        run([copy] { copy->remove(); }, [] {}, [] {});
+}
+
+void ConnectionsScreen::store(const std::shared_ptr<Copy> &copy, const QStringList &wanted)
+{
+    const std::shared_ptr<WriteLeave> leave = std::make_shared<WriteLeave>();
+    const std::shared_ptr<QString> error = std::make_shared<QString>();
+    const std::shared_ptr<ConnectionFile::Contents> contents =
+        std::make_shared<ConnectionFile::Contents>();
+    const QString path = m_filePath;
+    run(
+        [=] {
+            *error = ConnectionFile::store(path, copy->before.bytes, copy->bytes(), wanted,
+                                           [leave] { return leave->take(); });
+            copy->remove();
+            *contents = ConnectionFile::read(path);
+        },
+        [=] {
+            const QList<QPair<QString, QString>> before = addresses();
+            take(*contents);
+            tellStored(before, *error);
+        },
+        [=] {
+            Q_EMIT told(leave->withdraw()
+                            ? tr("The addresses are not stored: the panel's storage does not "
+                                 "answer.")
+                            : tr("The panel's storage does not answer: nobody knows whether the "
+                                 "addresses are stored."),
+                        Message::Alarm, storage);
+        });
+}
+
+void ConnectionsScreen::tellStored(const QList<QPair<QString, QString>> &before,
+                                   const QString &error)
+{
+    if (!error.isEmpty())
+        return Q_EMIT told(error, Message::Alarm, storage);
     QStringList changes;
     const QList<QPair<QString, QString>> after = addresses();
     for (int i = 0; i < after.size() && i < before.size(); ++i) {
         if (after.at(i).second != before.at(i).second)
             changes.append(after.at(i).first + QLatin1String(": ") + after.at(i).second);
     }
+    Q_EMIT causeEnded(storage);
     Q_EMIT told(changes.isEmpty() ? tr("No address was changed.")
                                   : tr("Stored: %1.").arg(changes.join(QLatin1String(", "))),
                 Message::Information);
@@ -176,13 +271,15 @@ void ConnectionsScreen::edit()
 
 void ConnectionsScreen::showConnections()
 {
-    QSettings file(m_filePath, QSettings::IniFormat);
-    const QList<QPair<QString, QString>> all = addresses();
-    m_table->setRowCount(all.size());
+    m_editKey->setEnabled(!isBusy());
+    const bool isLoading = isBusy() && m_contents.connections.isEmpty();
+    const QList<ConnectionFile::Connection> &all = m_contents.connections;
+    m_table->setRowCount(isLoading ? 1 : all.size());
+    if (isLoading)
+        m_table->setItem(0, 0, new QTableWidgetItem(tr("Loading ...")));
     for (int i = 0; i < all.size(); ++i) {
-        const QString address = all.at(i).second;
-        const QStringList cells{all.at(i).first, file.value(key(i, " cid"), 0).toString(),
-                                file.value(key(i, " baud"), 0).toString(),
+        const QString address = all.at(i).address;
+        const QStringList cells{all.at(i).name, all.at(i).cid, all.at(i).baud,
                                 address.isEmpty() ? tr("not set yet") : address};
         for (int column = 0; column < cells.size(); ++column)
             m_table->setItem(i, column, new QTableWidgetItem(cells.at(column)));

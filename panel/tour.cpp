@@ -227,6 +227,7 @@ void Tour::visitConnectionsScreen(ConnectionsScreen *screen)
     showScreen(3);
     picture(QLatin1String("connections"));
     pressKey(screen, QLatin1String("Edit the addresses"));
+    waitUntil([] { return topLevel("ConnEditor") != nullptr; });
     picture(QLatin1String("connect-table"));
     press([] {
         QWidget *dialog = topLevel("ConnEditor");

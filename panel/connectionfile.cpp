@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "connectionfile.h"
+
+#include "durablefile.h"
+#include "filestamp.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
+
+namespace {
+
+// A thousand connections take a tenth of it.
+const qint64 largestFile = 4 * 1024 * 1024;
+
+struct Typical
+{
+    const char *name;
+    int cid;
+    int baud;
+    int addr;
+    int com;
+    const char *address;
+};
+
+// The first is local: its name is its address, too.
+const Typical typicalConnections[] = {
+    {"192.168.1.10:502", 1, 0, 1, 0, ""},
+    {"Spindle drive", 2, 187600, 2, 1, "192.168.1.21"},
+    {"Wire guide", 3, 187500, 3, 2, "192.168.1.22"},
+    {"Tension unit", 4, 19200, 4, 3, "192.168.1.23:4001"},
+    {"Camera", 5, 0, 5, 4, ""},
+};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ConnectionFile", text);
+}
+
+QString key(int number, const char *suffix)
+{
+    return QString::fromLatin1("Connect %1%2").arg(number).arg(QLatin1String(suffix));
+}
+
+QString addressKey(const QString &name)
+{
+    return name + QLatin1String("new IP");
+}
+
+/// A file under a name that was never there before, so that nobody remembers what it held.
+class PrivateFile
+{
+public:
+    QString path() const { return m_folder.filePath(QLatin1String("connections.ini")); }
+
+    bool write(const QByteArray &bytes)
+    {
+        QFile file(path());
+        return m_folder.isValid() && file.open(QIODevice::WriteOnly)
+               && file.write(bytes) == bytes.size() && file.flush();
+    }
+
+    QByteArray bytes() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void fill(QSettings *file)
+{
+    int count = 0;
+    for (const Typical &typical : typicalConnections) {
+        const QString name = QLatin1String(typical.name);
+        file->setValue(key(count, ""), name);
+        file->setValue(key(count, " cid"), typical.cid);
+        file->setValue(key(count, " baud"), typical.baud);
+        file->setValue(key(count, " addr"), typical.addr);
+        file->setValue(key(count, " com"), typical.com);
+        if (*typical.address)
+            file->setValue(addressKey(name), QLatin1String(typical.address));
+        ++count;
+    }
+    file->setValue(QLatin1String("connect count"), count);
+    file->sync();
+}
+
+QByteArray typicalBytes()
+{
+    const PrivateFile made;
+    QSettings file(made.path(), QSettings::IniFormat);
+    fill(&file);
+    return made.bytes();
+}
+
+// To open a pipe would wait for somebody to write into it.
+bool readBytes(const QString &path, QByteArray *bytes, QString *error)
+{
+    const FileStamp stamp = FileStamp::of(path);
+    if (!stamp.isValid() || stamp.size > largestFile) {
+        *error =
+            stamp.isValid() ? tr("%1 is too large.").arg(path) : tr("%1 is not a file.").arg(path);
+        return false;
+    }
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        *bytes = file.readAll();
+    if (file.error() == QFileDevice::NoError)
+        return true;
+    *error = tr("%1 cannot be read: %2.").arg(path, file.errorString());
+    return false;
+}
+
+bool parse(ConnectionFile::Contents *contents)
+{
+    PrivateFile copy;
+    if (!copy.write(contents->bytes)) {
+        contents->error = tr("The connections cannot be read: the panel's temporary storage is "
+                             "full.");
+        return false;
+    }
+    const QSettings file(copy.path(), QSettings::IniFormat);
+    contents->count = file.value(QLatin1String("connect count"), 0).toInt();
+    for (int i = 0; i < qMin(contents->count, ConnectionFile::mostConnections); ++i) {
+        ConnectionFile::Connection connection;
+        connection.name = file.value(key(i, "")).toString();
+        connection.cid = file.value(key(i, " cid"), 0).toString();
+        connection.baud = file.value(key(i, " baud"), 0).toString();
+        connection.address = file.value(addressKey(connection.name)).toString();
+        contents->connections.append(connection);
+    }
+    return true;
+}
+
+QStringList addressesOf(const ConnectionFile::Contents &contents)
+{
+    QStringList addresses;
+    for (const ConnectionFile::Connection &connection : contents.connections)
+        addresses.append(connection.address);
+    return addresses;
+}
+
+QString notStored(const QString &reason)
+{
+    return tr("The addresses are not stored: %1.").arg(reason);
+}
+
+} // namespace
+
+ConnectionFile::Contents ConnectionFile::read(const QString &path)
+{
+    Contents contents;
+    const QFileInfo file(path);
+    contents.isThere = file.exists() || file.isSymLink();
+    if (!contents.isThere) {
+        QDir().mkpath(file.path());
+        DurableFile made(path);
+        contents.isThere = made.open() && made.write(typicalBytes()) && made.commit();
+        if (!contents.isThere) {
+            contents.error = tr("%1 cannot be made: %2.").arg(path, made.errorString());
+            return contents;
+        }
+    }
+    if (readBytes(path, &contents.bytes, &contents.error))
+        parse(&contents);
+    return contents;
+}
+
+QString ConnectionFile::store(const QString &path, const QByteArray &before,
+                              const QByteArray &bytes, const QStringList &wanted,
+                              const std::function<bool()> &mayReplace)
+{
+    // The editor's own write may have failed, too.
+    Contents edited;
+    edited.bytes = bytes;
+    if (!parse(&edited) || addressesOf(edited) != wanted)
+        return notStored(tr("the panel's temporary storage is full"));
+    DurableFile file(path);
+    if (!file.open() || !file.write(bytes))
+        return notStored(file.errorString());
+    bool isOthers = false;
+    const auto isStillOurs = [&] {
+        QString error;
+        QByteArray now;
+        isOthers = !readBytes(path, &now, &error) || now != before;
+        return !isOthers && mayReplace();
+    };
+    if (!file.commit(isStillOurs))
+        return notStored(isOthers ? tr("the file was changed meanwhile. Edit them once more")
+                                  : file.errorString());
+    const Contents stored = read(path);
+    if (stored.bytes == bytes && addressesOf(stored) == wanted)
+        return QString();
+    return notStored(tr("the disk holds something else"));
+}

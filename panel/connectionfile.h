@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef CONNECTIONFILE_H
+#define CONNECTIONFILE_H
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+/// The machine's connections as the bytes of their file hold them.
+///
+/// The toolkit's settings answer by path from a memory of their own, which is ahead of the disk
+/// when that is full. So each look goes through a private copy of what was read from the disk. All
+/// of these functions may wait for the disk.
+namespace ConnectionFile {
+
+struct Connection
+{
+    QString name;
+    QString cid;
+    QString baud;
+    /// Empty where none is stored yet.
+    QString address;
+};
+
+struct Contents
+{
+    bool isThere = false;
+    QByteArray bytes;
+    QList<Connection> connections;
+    /// How many the file says there are. No more than mostConnections are read.
+    int count = 0;
+    /// Why nothing could be read, in words; empty when it was.
+    QString error;
+};
+
+/// As many as the library's table shows.
+const int mostConnections = 1000;
+
+/// What the file holds. A missing one is made first, with the connections of a typical winding
+/// machine.
+Contents read(const QString &path);
+/// Writes the bytes that were edited in the place of \a before, and reads them back; the reason in
+/// words when the file does not hold \a wanted then, connection by connection. Nothing is replaced
+/// when somebody else has changed the file since, or when \a mayReplace says no.
+QString store(const QString &path, const QByteArray &before, const QByteArray &bytes,
+              const QStringList &wanted, const std::function<bool()> &mayReplace);
+
+} // namespace ConnectionFile
+
+#endif // CONNECTIONFILE_H
