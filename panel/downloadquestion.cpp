@@ -42,7 +42,8 @@ void showValue(QLabel *label, const QString &text, int room)
 
 } // namespace
 
-DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, QWidget *parent) : Dialog(parent)
+DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines, QWidget *parent)
+    : Dialog(parent)
 {
     setTitle(tr("Download"));
     QGridLayout *grid = new QGridLayout(this);
@@ -60,7 +61,10 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, QWidget *parent) :
         QString value;
     } lines[] = {
         {"name", tr("Program"), facts.name.simplified()},
-        {"lines", tr("Lines"), QString::number(facts.lines)},
+        {"lines", tr("Lines"),
+         shownLines < 0 || shownLines == facts.lines
+             ? QString::number(facts.lines)
+             : tr("%1 in the file, %2 shown").arg(facts.lines).arg(shownLines)},
         {"checksum", tr("Checksum"), facts.checksum()},
     };
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();

@@ -15,7 +15,10 @@ class DownloadQuestion : public Dialog
     Q_OBJECT
 
 public:
-    explicit DownloadQuestion(const ProgramFacts &facts, QWidget *parent = nullptr);
+    /// \a shownLines are in the editor; -1 when the program isn't there. Both numbers are shown
+    /// when they differ.
+    explicit DownloadQuestion(const ProgramFacts &facts, qint64 shownLines = -1,
+                              QWidget *parent = nullptr);
 };
 
 #endif // DOWNLOADQUESTION_H

@@ -5,20 +5,14 @@
 
 #include "importmanage.h"
 #include "programhistory.h"
-#include "wmmainwindow.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QMessageBox>
-#include <QToolButton>
 
 namespace {
-
-// The library's texts; not written into tr(), which would have them translated once more for us.
-const char kSave[] = "Save";
-const char kSaveAs[] = "Save as";
-const char kRemove[] = "Remove file";
 
 bool isPress(QEvent::Type type)
 {
@@ -49,27 +43,10 @@ bool HistoryGuard::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
-// The commands of the library that write over a program or take it away.
+// The program window's own commands are the ProgramGuard's.
 bool HistoryGuard::losesAVersion(const QAbstractButton *button)
 {
-    QWidget *window = button->window();
-    if (QMessageBox *box = qobject_cast<QMessageBox *>(window)) {
-        QAbstractButton *pressed = const_cast<QAbstractButton *>(button);
-        switch (box->standardButton(pressed)) {
-        case QMessageBox::Save:
-            return true;
-        case QMessageBox::Yes:
-            return qobject_cast<ImportManage *>(box->parentWidget())
-                   || box->windowTitle() == WMMainWindow::tr(kRemove);
-        default:
-            return false;
-        }
-    }
-    if (window->inherits("WFileDialog"))
-        return window->windowTitle() == WMMainWindow::tr(kSaveAs);
-    const QToolButton *key = qobject_cast<const QToolButton *>(button);
-    const WMMainWindow *program = nullptr;
-    for (const QObject *above = key; above && !program; above = above->parent())
-        program = qobject_cast<const WMMainWindow *>(above);
-    return program && key->text() == WMMainWindow::tr(kSave);
+    QMessageBox *box = qobject_cast<QMessageBox *>(button->window());
+    return box && qobject_cast<ImportManage *>(box->parentWidget())
+           && box->standardButton(const_cast<QAbstractButton *>(button)) == QMessageBox::Yes;
 }

@@ -156,6 +156,7 @@ int runPanel(const Options &options)
     ProgramHistory history(Samples::programDir(), ownDir + QLatin1String("/history"));
     HistoryGuard historyGuard(&history);
     ProgramScreen *programs = new ProgramScreen(options.rotation, plcDir, ownDir, &machine);
+    programs->setHistory(&history);
     // A save shows in the title or in its mark.
     QObject::connect(programs, &PanelScreen::titleChanged, &history, &ProgramHistory::scan);
     panel.addScreen(

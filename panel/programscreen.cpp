@@ -9,16 +9,24 @@
 #include "machinedata.h"
 #include "panelkey.h"
 #include "plctransfer.h"
+#include "programguard.h"
+#include "programhistory.h"
+#include "questiondialog.h"
+#include "samples.h"
+#include "stateline.h"
+#include "stick.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTextDocument>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -28,6 +36,9 @@ namespace {
 
 // Work that takes less is over before anybody has read that it is done.
 const int kPatienceMs = 300;
+// Longer than a healthy disk takes for the largest program.
+const int closingPatienceMs = 5000;
+const int closingTickMs = 50;
 
 QString findDialogText(const char *source)
 {
@@ -76,10 +87,15 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     , m_editor(m_window->findChild<WGCodeEditer *>())
     , m_transfer(new PlcTransfer(plcDir, this))
     , m_snapshot(new ProgramSnapshot(ownDir + QLatin1String("/outgoing"), this))
+    , m_questioner(new DialogQuestioner)
+    , m_guard(new ProgramGuard(m_window, Samples::programDir(), m_questioner.data(), this))
+    , m_stateLine(new StateLine)
 {
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_window);
+    layout->setSpacing(0);
+    layout->addWidget(m_stateLine);
+    layout->addWidget(m_window, 1);
     Look::keepLight(m_editor);
     // The line is marked already, in the colour of before.
     QMetaObject::invokeMethod(m_editor, "highlightCurrentLine");
@@ -106,12 +122,39 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_transfer, &PlcTransfer::failed, this,
             [this](const QString &reason) { endDownload(reason, Message::Warning); });
     connect(m_snapshot, &ProgramSnapshot::compared, this, &ProgramScreen::endSent);
+
+    m_guard->setOtherPlace([] { return Stick::isPresent() ? Stick::mountPoint() : QString(); });
+    connect(m_guard, &ProgramGuard::told, this, &ProgramScreen::told);
+    connect(m_guard, &ProgramGuard::causeEnded, this, &ProgramScreen::causeEnded);
+    connect(m_guard, &ProgramGuard::stateChanged, this, &ProgramScreen::showState);
+    connect(m_stateLine, &StateLine::touched, this, [this] {
+        const ProgramState state = m_guard->state();
+        Q_EMIT told(state.line(), state.tone(), QLatin1String("program state"));
+    });
 }
 
 ProgramScreen::~ProgramScreen()
 {
+    // Its documents and buttons are the window's.
+    delete m_guard;
     delete m_window;
     qDeleteAll(m_spareButtons);
+}
+
+void ProgramScreen::setHistory(ProgramHistory *history)
+{
+    m_guard->setHistory([history](const QString &, const ProgramKeeper::Kept &kept) {
+        history->scan();
+        QTimer *poll = new QTimer(history);
+        QObject::connect(poll, &QTimer::timeout, history, [history, poll, kept] {
+            if (!history->isSettled())
+                return;
+            poll->stop();
+            poll->deleteLater();
+            kept(QString());
+        });
+        poll->start(10);
+    });
 }
 
 QString ProgramScreen::title() const
@@ -148,6 +191,8 @@ bool ProgramScreen::mayClose()
         Q_EMIT told(tr("A download is running. Let it end, or stop it first."), Message::Warning);
         return false;
     }
+    if (!waitForGuard())
+        return false;
     if (!hasChanges())
         return true;
     const int answer = QMessageBox::warning(
@@ -155,10 +200,47 @@ bool ProgramScreen::mayClose()
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     if (answer == QMessageBox::Discard)
         return true;
-    bool saved = false;
-    if (answer == QMessageBox::Save)
-        QMetaObject::invokeMethod(m_window, "save", Q_RETURN_ARG(bool, saved));
-    return saved;
+    return answer == QMessageBox::Save && save();
+}
+
+// By the key, so that it is asked and compared as any other save.
+bool ProgramScreen::save()
+{
+    bool isStored = false;
+    QEventLoop loop;
+    connect(m_guard, &ProgramGuard::saveEnded, &loop, [&](bool isGood) {
+        isStored = isGood;
+        loop.quit();
+    });
+    m_guard->save();
+    loop.exec();
+    return isStored && !hasChanges();
+}
+
+// A save that was not compared yet may turn out to be none.
+bool ProgramScreen::waitForGuard()
+{
+    QElapsedTimer time;
+    time.start();
+    QTimer tick;
+    QEventLoop loop;
+    connect(&tick, &QTimer::timeout, &loop, [&] {
+        if (!m_guard->isBusy() || time.hasExpired(closingPatienceMs))
+            loop.quit();
+    });
+    tick.start(closingTickMs);
+    if (m_guard->isBusy())
+        loop.exec();
+    if (!m_guard->isBusy())
+        return true;
+    Q_EMIT told(tr("The program is still being loaded or saved. Close the panel after that."),
+                Message::Warning, QLatin1String("program busy"));
+    return false;
+}
+
+void ProgramScreen::showState()
+{
+    m_stateLine->show(m_guard->state().line(), m_guard->state().tone());
 }
 
 bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
@@ -172,6 +254,7 @@ bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
 // The library makes its find dialog once, in the language of that moment.
 void ProgramScreen::retranslate()
 {
+    showState();
     const QWidgetList topLevels = QApplication::topLevelWidgets();
     for (QWidget *dialog : topLevels) {
         if (!dialog->inherits("WFindDialog"))
@@ -192,6 +275,8 @@ void ProgramScreen::stopWork()
 
 void ProgramScreen::startDownload(const QString &path)
 {
+    if (!m_guard->mayDownload(path))
+        return;
     m_window->setDownloading(true);
     m_copyingFor.start();
     m_snapshot->take(path);
@@ -199,7 +284,8 @@ void ProgramScreen::startDownload(const QString &path)
 
 void ProgramScreen::askForDownload()
 {
-    DownloadQuestion question(m_snapshot->facts());
+    const bool isShown = m_snapshot->programPath() == m_window->getCurrentFile();
+    DownloadQuestion question(m_snapshot->facts(), isShown ? m_editor->blockCount() : -1);
     if (question.exec() != QDialog::Accepted)
         return endDownload(tr("Nothing was sent. The PLC keeps what it had."),
                            Message::Information);

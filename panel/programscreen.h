@@ -8,18 +8,23 @@
 #include "programsnapshot.h"
 
 #include <QElapsedTimer>
+#include <QScopedPointer>
 #include <QSet>
 
 class MachineData;
 class PlcTransfer;
+class ProgramGuard;
+class ProgramHistory;
+class Questioner;
+class StateLine;
 class QToolButton;
 class WGCodeEditer;
 class WMMainWindow;
 
 /// The G-code screen: the library's window as a host uses it.
 ///
-/// The host's part is the download, the line that Tag copies, the modified mark, and keys for what
-/// no bar of the window holds.
+/// The host's part is the download, the line that Tag copies, the modified mark, keys for what no
+/// bar of the window holds, and a ProgramGuard, whose word on the program stays in view above it.
 ///
 /// A download goes in three steps, each beside the event loop: a private copy of the program is
 /// taken, the operator is asked whether it is the right one, and the copy is sent. In the end the
@@ -35,6 +40,9 @@ public:
                   const MachineData *machine, QWidget *parent = nullptr);
     ~ProgramScreen() override;
 
+    /// What a save replaces is kept there first. \a history must outlive the screen.
+    void setHistory(ProgramHistory *history);
+
     QString title() const override;
     bool hasChanges() const override;
     QList<PanelKey *> keys() override;
@@ -45,6 +53,7 @@ public:
     WGCodeEditer *editor() const { return m_editor; }
     PlcTransfer *transfer() const { return m_transfer; }
     ProgramSnapshot *snapshot() const { return m_snapshot; }
+    ProgramGuard *guard() const { return m_guard; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -63,6 +72,9 @@ private:
     void endDownload(const QString &text, Message::Tone tone);
     void insertTaughtPoint();
     void find();
+    void showState();
+    bool save();
+    bool waitForGuard();
 
     const MachineData *m_machine;
     QSet<QToolButton *> m_spareButtons;
@@ -70,6 +82,9 @@ private:
     WGCodeEditer *m_editor;
     PlcTransfer *m_transfer;
     ProgramSnapshot *m_snapshot;
+    const QScopedPointer<Questioner> m_questioner;
+    ProgramGuard *m_guard;
+    StateLine *m_stateLine;
     QElapsedTimer m_copyingFor;
 };
 

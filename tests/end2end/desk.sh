@@ -177,15 +177,10 @@ touch_named() {
     desk_click_at $place
 }
 
-# touch_save TITLE: stores the program that the title names. On a busy machine the history of programs
-# may still have to take in what the file holds; the panel then asks for another touch.
+# touch_save TITLE: stores the program that the title names.
 touch_save() {
-    local tries
-    for tries in 1 2 3 4 5; do
-        touch_text Save
-        ! desk_until 4 desk_hides "$1*" || return 0
-    done
-    desk_fail "\"$1\" was not saved by $tries touches"
+    touch_text Save
+    expect_gone "$1*"
 }
 
 # type_keys TEXT: on the keypad that is open, key by key.

@@ -57,15 +57,19 @@ desk_picture program-name.png
 touch_named key_ok
 expect_text rotor "Save as"
 touch_text OK "Save as"
+# A name without a suffix gets one proposed; a second touch takes it.
+expect_text rotor.cnc "Save as"
+desk_picture program-suffix.png
+touch_text OK "Save as"
 expect_gone OK "Save as"
-desk_until 20 test -s "$programs/rotor" || desk_fail "nothing was saved"
+desk_until 20 test -s "$programs/rotor.cnc" || desk_fail "nothing was saved"
 
 {
     head -n "$row" /tmp/read
     echo "G01 X12.5"
     tail -n +$((row + 1)) /tmp/read
 } | head -c -1 >/tmp/expected
-expect_same /tmp/expected "$programs/rotor" "the saved program"
+expect_same /tmp/expected "$programs/rotor.cnc" "the saved program"
 
 touch_text "D/L"
 # The question shows what a PC says of the file.
@@ -74,9 +78,9 @@ expect_text "${checksum:0:4} ${checksum:4:4}" Download
 desk_picture program-question.png
 touch_text Send Download
 expect_gone Send Download
-desk_until 30 test -s "$plc/rotor" || desk_fail "nothing arrived at the PLC"
-desk_until 30 cmp -s /tmp/expected "$plc/rotor" || true
-expect_same /tmp/expected "$plc/rotor" "the program in the PLC"
+desk_until 30 test -s "$plc/rotor.cnc" || desk_fail "nothing arrived at the PLC"
+desk_until 30 cmp -s /tmp/expected "$plc/rotor.cnc" || true
+expect_same /tmp/expected "$plc/rotor.cnc" "the program in the PLC"
 desk_picture program-sent.png
 
 echo "1 passed, 0 failed"

@@ -8,7 +8,6 @@
 #include "messagebox.h"
 #include "modaldriver.h"
 #include "programhistory.h"
-#include "wmmainwindow.h"
 
 #include <QDialog>
 #include <QPushButton>
@@ -30,7 +29,6 @@ private Q_SLOTS:
     void touchThatLosesAVersionWaits();
     void otherTouchesGoThrough_data();
     void otherTouchesGoThrough();
-    void saveOfTheWindowWaits();
 
 private:
     void unsettle();
@@ -90,19 +88,11 @@ void TestHistoryGuard::touchThatLosesAVersionWaits_data()
 {
     QTest::addColumn<Ask>("ask");
     QTest::addColumn<int>("answer");
-    QTest::newRow("remove") << Ask([] {
-        return int(QMessageBox::question(nullptr, WMMainWindow::tr("Remove file"), "Remove a?",
-                                         QMessageBox::Yes | QMessageBox::No));
-    }) << int(QMessageBox::Yes);
     QTest::newRow("cover or delete in the manager") << Ask([] {
         ImportManage manager(nullptr);
         return MessageBox::warning(&manager, "Hmi Delete", "Are you sure to delete a?",
                                    QMessageBox::Yes | QMessageBox::No, QMessageBox::NoButton);
     }) << int(QMessageBox::Yes);
-    QTest::newRow("unsaved changes") << Ask([] {
-        return int(QMessageBox::warning(nullptr, "Application", "Do you want to save?",
-                                        QMessageBox::Save | QMessageBox::Discard));
-    }) << int(QMessageBox::Save);
 }
 
 void TestHistoryGuard::touchThatLosesAVersionWaits()
@@ -134,7 +124,6 @@ void TestHistoryGuard::otherTouchesGoThrough_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<int>("answer");
-    QTest::newRow("no") << WMMainWindow::tr("Remove file") << int(QMessageBox::No);
     QTest::newRow("another question") << "Rename" << int(QMessageBox::Yes);
 }
 
@@ -152,49 +141,6 @@ void TestHistoryGuard::otherTouchesGoThrough()
              answer);
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(m_told->size(), 0);
-}
-
-void TestHistoryGuard::saveOfTheWindowWaits()
-{
-    WMMainWindow window(nullptr, 0);
-    QMetaObject::invokeMethod(&window, "newFile");
-    window.insertLine("G01");
-    QToolButton *save = nullptr;
-    QToolButton *saveAs = nullptr;
-    const QList<QToolButton *> buttons = window.findChildren<QToolButton *>();
-    for (QToolButton *button : buttons) {
-        if (button->text() == "Save")
-            save = button;
-        if (button->text() == "SaveAs" || button->text() == "Save As"
-            || button->text() == "Save as")
-            saveAs = button;
-    }
-    QVERIFY(save);
-    QVERIFY(saveAs);
-
-    // Without a name, Save asks for one.
-    unsettle();
-    ModalDriver driver;
-    QTest::mouseClick(save, Qt::LeftButton);
-    QCOMPARE(m_told->size(), 1);
-    QTRY_VERIFY(m_history->isSettled());
-    driver.then([this](QWidget *dialog) {
-        unsettle();
-        QPushButton *ok = dialog->findChildren<QPushButton *>().first();
-        QTest::mouseClick(ok, Qt::LeftButton);
-        QVERIFY(dialog->isVisible());
-        QTRY_VERIFY(m_history->isSettled());
-        static_cast<QDialog *>(dialog)->reject();
-    });
-    QTest::mouseClick(save, Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(m_told->size(), 2);
-    // That one's dialog does the waiting.
-    unsettle();
-    driver.reject();
-    QTest::mouseClick(saveAs, Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(m_told->size(), 2);
 }
 
 FILARIX_TEST_MAIN(TestHistoryGuard)

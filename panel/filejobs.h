@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FILEJOBS_H
+#define FILEJOBS_H
+
+#include "filework.h"
+
+#include <QQueue>
+
+#include <functional>
+
+/// Runs FileTasks one after the other beside the event loop.
+class FileJobs : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a hasEnded is false when the task stalled: then nobody may touch the task any more.
+    typedef std::function<void(bool hasEnded)> Answer;
+
+    explicit FileJobs(QObject *parent = nullptr);
+
+    bool isRunning() const { return m_work.isRunning(); }
+    /// \a answer comes from the event loop, once.
+    void run(const std::shared_ptr<FileTask> &task, const Answer &answer);
+    void setStallTime(int ms) { m_work.setStallTime(ms); }
+
+private:
+    struct Job
+    {
+        std::shared_ptr<FileTask> task;
+        Answer answer;
+    };
+
+    void begin();
+    void end(bool hasEnded);
+
+    FileWork m_work;
+    QQueue<Job> m_jobs;
+};
+
+#endif // FILEJOBS_H

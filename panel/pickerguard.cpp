@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "pickerguard.h"
+
+#include "clickgate.h"
+#include "programname.h"
+
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+
+namespace {
+
+const int hintPixels = 15;
+
+} // namespace
+
+PickerGuard::PickerGuard(QDialog *dialog)
+    : QObject(dialog)
+    , m_field(dialog->findChild<QLineEdit *>())
+    , m_gate(new ClickGate(dialog->findChild<QPushButton *>()))
+    , m_hint(new QLabel)
+{
+    m_hint->setObjectName(QLatin1String("hint"));
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    QFont font = m_hint->font();
+    font.setPixelSize(hintPixels);
+    font.setBold(true);
+    m_hint->setFont(font);
+    m_hint->hide();
+    // The first row of the dialog's grid stays empty otherwise.
+    if (QGridLayout *grid = qobject_cast<QGridLayout *>(dialog->layout()))
+        grid->addWidget(m_hint, 0, 0);
+    else
+        m_hint->setParent(dialog);
+    m_gate->onClick([this] { check(); });
+}
+
+void PickerGuard::proposeForSaving(const QString &name)
+{
+    m_isForSaving = true;
+    // The dialog proposes its first file when it handles the showing, which is still to come.
+    QTimer::singleShot(0, this, [this, name] {
+        m_field->setText(name);
+        m_field->selectAll();
+    });
+}
+
+QStringList PickerGuard::listedNames() const
+{
+    QStringList names;
+    const QTableWidget *table = parent()->findChild<QTableWidget *>();
+    for (int row = 0; table && row < table->rowCount(); ++row)
+        names.append(table->item(row, 0)->text());
+    return names;
+}
+
+void PickerGuard::pass()
+{
+    m_gate->pass();
+}
+
+void PickerGuard::drop(const QString &reason)
+{
+    m_gate->drop();
+    if (!reason.isEmpty())
+        say(reason);
+}
+
+void PickerGuard::check()
+{
+    const QString name = m_field->text();
+    const QString complaint = ProgramName::complaint(name);
+    if (!complaint.isEmpty())
+        return drop(complaint);
+    if (wantsSuffix(name)) {
+        m_bareName = name;
+        m_field->setText(name + ProgramName::suffix());
+        return drop(tr("%1 is added to the name. Press OK to take it, or take it away again.")
+                        .arg(ProgramName::suffix()));
+    }
+    m_hint->hide();
+    m_hold(name);
+}
+
+// Not a second time for a name that the operator wants as it is, nor for a program that has it.
+bool PickerGuard::wantsSuffix(const QString &name) const
+{
+    return m_isForSaving && ProgramName::isBare(name) && name != m_bareName
+           && !listedNames().contains(name);
+}
+
+void PickerGuard::say(const QString &text)
+{
+    m_hint->setText(text);
+    m_hint->show();
+    Q_EMIT told(text);
+}

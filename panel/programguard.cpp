@@ -1,0 +1,502 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "programguard.h"
+
+#include "clickgate.h"
+#include "pickerguard.h"
+#include "programcomparison.h"
+#include "programname.h"
+#include "programtext.h"
+#include "questioner.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSignalBlocker>
+#include <QTextDocument>
+#include <QTimer>
+
+namespace {
+
+/// Of messages about how the program stands to its file.
+const char stateCause[] = "program state";
+/// Of messages about a command that was refused.
+const char refusedCause[] = "program refused";
+
+QString nameOf(const QString &path)
+{
+    return QFileInfo(path).fileName();
+}
+
+// The document takes the number of steps that can be undone for its mark of being clean, and keeps
+// that number when the steps go: as many new ones would look like no change at all.
+void forgetUndo(QTextDocument *document)
+{
+    document->clearUndoRedoStacks();
+    const QSignalBlocker blocker(document);
+    const bool isModified = document->isModified();
+    document->setModified(!isModified);
+    document->setModified(isModified);
+}
+
+} // namespace
+
+ProgramGuard::ProgramGuard(WMMainWindow *window, const QString &programDir, Questioner *questioner,
+                           QObject *parent)
+    : QObject(parent)
+    , m_programDir(programDir)
+    , m_window(window)
+    , m_editor(window->findChild<WGCodeEditer *>())
+    , m_questioner(questioner)
+    , m_commands(window)
+    , m_keeper(questioner)
+    , m_check(m_editor->document(), &m_jobs, questioner)
+{
+    m_commands.onCommand([this](Command command) { hold(command); });
+    connect(&m_commands, &WindowCommands::done, this, &ProgramGuard::end);
+    connect(&m_commands, &WindowCommands::lost, this, [this] { finishSave(false); });
+    connect(&m_keeper, &ProgramKeeper::told, this, &ProgramGuard::told);
+    connect(&m_keeper, &ProgramKeeper::causeEnded, this, &ProgramGuard::causeEnded);
+    connect(&m_check, &StoreCheck::missed, this, &ProgramGuard::tellMissed);
+    connect(&m_check, &StoreCheck::ended, this, &ProgramGuard::tellStored);
+    connect(&m_dialogs, &WindowDialogs::pickerShown, this, &ProgramGuard::guardPicker);
+    connect(&m_dialogs, &WindowDialogs::saveQuestionShown, this, &ProgramGuard::guardSaveQuestion);
+    connect(&m_dialogs, &WindowDialogs::removeQuestionShown, this,
+            &ProgramGuard::guardRemoveQuestion);
+    connect(&m_dialogs, &WindowDialogs::reloadQuestionShown, this, [this](QMessageBox *box) {
+        connect(box, &QDialog::finished, this,
+                [this](int answer) { m_isReloadRefused = answer != QMessageBox::Yes; });
+    });
+    connect(&m_dialogs, &WindowDialogs::failed, this, [this] { m_hasFailed = true; });
+    connect(&m_dialogs, &WindowDialogs::loadAborted, this, [this] { m_wasAborted = true; });
+    connect(&m_dialogs, &WindowDialogs::removed, this, [this] { m_wasRemoved = true; });
+}
+
+ProgramGuard::~ProgramGuard() = default;
+
+QString ProgramGuard::programPath(const QString &name) const
+{
+    return m_programDir + QLatin1Char('/') + name;
+}
+
+QString ProgramGuard::text() const
+{
+    return m_editor->toPlainText();
+}
+
+bool ProgramGuard::isBusy() const
+{
+    return m_commands.isBusy() || m_isHoldingSave || m_jobs.isRunning() || m_check.isRunning();
+}
+
+void ProgramGuard::setState(const ProgramState &state)
+{
+    m_state = state;
+    Q_EMIT causeEnded(QLatin1String(refusedCause));
+    if (m_state.kind == ProgramState::Plain)
+        Q_EMIT causeEnded(QLatin1String(stateCause));
+    Q_EMIT stateChanged();
+}
+
+// While a program is loaded the event loop serves the whole screen.
+void ProgramGuard::hold(Command command)
+{
+    if (m_commands.running() != WindowCommands::None)
+        return refuse(command, tr("A program is being loaded. Wait until all of it is here."));
+    if (isBusy()) {
+        m_waiting.append(command);
+        return;
+    }
+    switch (command) {
+    case WindowCommands::Save:
+        return holdSave();
+    case WindowCommands::Download:
+        return mayDownload(m_window->getCurrentFile()) ? pass(command) : m_commands.drop(command);
+    default:
+        return pass(command);
+    }
+}
+
+void ProgramGuard::refuse(Command command, const QString &reason)
+{
+    m_commands.drop(command);
+    Q_EMIT told(reason, Message::Warning, QLatin1String(refusedCause));
+    if (command == WindowCommands::Save)
+        finishSave(false);
+}
+
+void ProgramGuard::pass(Command command)
+{
+    m_picked.clear();
+    m_hasFailed = false;
+    m_wasAborted = false;
+    m_isReloadRefused = false;
+    m_isRemovalPassed = false;
+    m_wasRemoved = false;
+    m_wantsSave = false;
+    m_commands.pass(command);
+}
+
+void ProgramGuard::end(Command command)
+{
+    m_isHoldingSave = false;
+    if (m_wantsSave) {
+        m_wantsSave = false;
+        m_afterSave = command;
+        m_commands.press(WindowCommands::Save);
+        return;
+    }
+    switch (command) {
+    case WindowCommands::Open:
+        endOpen();
+        break;
+    case WindowCommands::Save:
+    case WindowCommands::SaveAs:
+        endSave();
+        break;
+    case WindowCommands::Remove:
+        endRemove();
+        break;
+    default:
+        break;
+    }
+    // Of a document without a file nothing is left out.
+    if (m_window->getCurrentFile().isEmpty())
+        setState(ProgramState());
+    goOn();
+}
+
+// Commands that came while something was being looked at, one at a time.
+void ProgramGuard::goOn()
+{
+    if (!m_waiting.isEmpty() && !isBusy())
+        hold(m_waiting.takeFirst());
+}
+
+bool ProgramGuard::mayDownload(const QString &path)
+{
+    if (path != m_window->getCurrentFile())
+        return true;
+    if (!m_state.refusesDownload() && !isLoading())
+        return true;
+    Q_EMIT told(isLoading() ? tr("A program is being loaded. Wait until all of it is here.")
+                            : m_state.refusal(),
+                Message::Warning, QLatin1String(refusedCause));
+    return false;
+}
+
+// Opening
+
+void ProgramGuard::endOpen()
+{
+    if (m_picked.isEmpty() || m_isReloadRefused)
+        return;
+    forgetUndo(m_editor->document());
+    const QString path = m_window->getCurrentFile();
+    // The library leaves an empty editor under the name of before.
+    m_wasAborted |= m_hasFailed;
+    if (!path.isEmpty())
+        compare();
+}
+
+void ProgramGuard::compare()
+{
+    const QString path = m_window->getCurrentFile();
+    const bool wasAborted = m_wasAborted;
+    const std::shared_ptr<ProgramComparison> comparison =
+        std::make_shared<ProgramComparison>(path, text());
+    m_jobs.run(comparison, [this, path, comparison, wasAborted](bool hasEnded) {
+        // What stalled may not be looked at any more.
+        judge(path, hasEnded ? comparison : std::make_shared<ProgramComparison>(path, QString()),
+              wasAborted);
+        goOn();
+    });
+}
+
+void ProgramGuard::judge(const QString &path, const std::shared_ptr<ProgramComparison> &comparison,
+                         bool wasAborted)
+{
+    ProgramState state;
+    state.name = nameOf(path);
+    state.fileLines = comparison->fileLines();
+    state.shownLines = comparison->shownLines();
+    switch (comparison->verdict()) {
+    case ProgramComparison::Same:
+        break;
+    case ProgramComparison::Cleaned:
+        state.kind = ProgramState::Cleaned;
+        break;
+    case ProgramComparison::Incomplete:
+        state.kind = ProgramState::Incomplete;
+        break;
+    case ProgramComparison::Different:
+        state.kind = wasAborted ? ProgramState::Incomplete : ProgramState::Different;
+        break;
+    case ProgramComparison::Unreadable:
+        state.kind = wasAborted ? ProgramState::Incomplete : ProgramState::Different;
+        state.reason = comparison->error().isEmpty() ? tr("the panel's storage does not answer")
+                                                     : comparison->error();
+        break;
+    }
+    setState(state);
+    if (state.kind == ProgramState::Incomplete)
+        Q_EMIT told(state.refusal(), state.tone(), QLatin1String(stateCause));
+    // The state itself stays in view.
+    else if (state.kind != ProgramState::Plain)
+        Q_EMIT told(state.line(), Message::Information, QLatin1String(stateCause));
+}
+
+// Saving
+
+void ProgramGuard::save()
+{
+    m_commands.press(WindowCommands::Save);
+}
+
+void ProgramGuard::holdSave()
+{
+    if (m_state.refusesSave())
+        return refuse(WindowCommands::Save, m_state.refusal());
+    m_target = m_window->getCurrentFile();
+    if (m_target.isEmpty())
+        return pass(WindowCommands::Save);
+    m_isHoldingSave = true;
+    if (m_state.asksBeforeSave() && !mayReplaceOwnFile())
+        return;
+    if (m_state.kind == ProgramState::NotStored) {
+        // What the library left of the file is replaced only by a whole one.
+        m_commands.drop(WindowCommands::Save);
+        return m_check.write(m_target, text());
+    }
+    m_keeper.keep(m_target, [this](bool mayWrite) {
+        if (mayWrite)
+            return pass(WindowCommands::Save);
+        m_commands.drop(WindowCommands::Save);
+        finishSave(false);
+    });
+}
+
+bool ProgramGuard::mayReplaceOwnFile()
+{
+    const int answer = m_questioner->ask(
+        {tr("Save"),
+         m_state.saveQuestion(),
+         {tr("Cancel"),
+          m_state.kind == ProgramState::Cleaned ? tr("Save without them") : tr("Save as shown"),
+          tr("Other name")}});
+    if (answer == 1) {
+        m_state.isAgreed = true;
+        return true;
+    }
+    m_commands.drop(WindowCommands::Save);
+    if (answer == 2)
+        m_commands.press(WindowCommands::SaveAs);
+    finishSave(false);
+    return false;
+}
+
+void ProgramGuard::endSave()
+{
+    const QString path = m_window->getCurrentFile();
+    // A picker that was cancelled, or a file that the library itself says it can't write.
+    if (m_target.isEmpty() || m_hasFailed || path != m_target) {
+        finishSave(false);
+        return;
+    }
+    m_check.check(path, text());
+}
+
+void ProgramGuard::tellMissed()
+{
+    ProgramState state;
+    state.kind = ProgramState::NotStored;
+    state.name = nameOf(m_check.path());
+    state.reason = m_check.reason();
+    setState(state);
+    Q_EMIT told(tr("%1 is not stored: %2. Do not switch off: the whole program is only in the "
+                   "editor.")
+                    .arg(state.name, state.reason),
+                Message::Alarm, QLatin1String(stateCause));
+}
+
+void ProgramGuard::tellStored(StoreCheck::Outcome outcome)
+{
+    const QString name = nameOf(m_check.path());
+    if (outcome == StoreCheck::Stored) {
+        ProgramState state;
+        state.name = name;
+        if (!m_check.isFaithful())
+            state.kind = ProgramState::Different;
+        state.shownLines = state.fileLines = ProgramText::lines(m_check.text());
+        setState(state);
+        Q_EMIT told(tr("%1 saved, %2 lines.").arg(name).arg(state.shownLines),
+                    Message::Information);
+        if (!m_check.isFaithful())
+            Q_EMIT told(
+                tr("%1 has characters that the file cannot hold; they were replaced.").arg(name),
+                Message::Warning, QLatin1String(stateCause));
+    } else if (outcome == StoreCheck::StoredElsewhere) {
+        Q_EMIT told(tr("%1 is on the stick as %2. On the panel it is not stored: %3.")
+                        .arg(name, nameOf(m_check.otherPath()), m_check.reason()),
+                    Message::Warning, QLatin1String(stateCause));
+    }
+    finishSave(outcome == StoreCheck::Stored);
+}
+
+// A command that waits for the save is given again: the library finds nothing to ask about now.
+void ProgramGuard::finishSave(bool isStored)
+{
+    const Command next = m_afterSave;
+    m_afterSave = WindowCommands::None;
+    m_target.clear();
+    m_isHoldingSave = false;
+    if (isStored && next != WindowCommands::None)
+        m_commands.press(next);
+    Q_EMIT saveEnded(isStored);
+    QTimer::singleShot(0, this, &ProgramGuard::goOn);
+}
+
+// The library's dialogs
+
+void ProgramGuard::guardPicker(QDialog *dialog, WindowDialogs::Picker picker)
+{
+    // Shown once more, it has its guard already.
+    if (dialog->findChild<PickerGuard *>())
+        return;
+    PickerGuard *guard = new PickerGuard(dialog);
+    connect(guard, &PickerGuard::told, this,
+            [this](const QString &text) { Q_EMIT told(text, Message::Information); });
+    const QPointer<PickerGuard> link(guard);
+    if (picker != WindowDialogs::SavePicker) {
+        guard->onName([this, link](const QString &name) {
+            m_picked = name;
+            link->pass();
+        });
+        return;
+    }
+    m_target.clear();
+    guard->proposeForSaving(proposal(guard));
+    guard->onName([this, link](const QString &name) { holdTarget(link, name); });
+}
+
+QString ProgramGuard::proposal(const PickerGuard *picker) const
+{
+    const QString own = nameOf(m_window->getCurrentFile());
+    if (own.isEmpty())
+        return ProgramName::freeOne(ProgramName::first(), picker->listedNames());
+    if (m_state.kind == ProgramState::Incomplete)
+        return ProgramName::freeOne(ProgramName::ofPart(own), picker->listedNames());
+    return own;
+}
+
+void ProgramGuard::holdTarget(const QPointer<PickerGuard> &picker, const QString &name)
+{
+    const std::shared_ptr<ProgramOnDisk> there = std::make_shared<ProgramOnDisk>(programPath(name));
+    m_jobs.run(there, [this, picker, name, there](bool hasEnded) {
+        if (!picker)
+            return;
+        if (!hasEnded)
+            return picker->drop(tr("The panel's storage does not answer."));
+        askForTarget(picker, name, *there);
+    });
+}
+
+void ProgramGuard::askForTarget(const QPointer<PickerGuard> &picker, const QString &name,
+                                const ProgramOnDisk &there)
+{
+    if (there.kind() == ProgramOnDisk::NoFile)
+        return picker->drop(tr("%1 is not a program file. Take another name.").arg(name));
+    const bool mayWrite = there.kind() == ProgramOnDisk::Missing || mayCover(name, there);
+    if (!picker)
+        return;
+    if (!mayWrite)
+        return picker->drop();
+    m_keeper.keep(programPath(name), [this, picker, name](bool mayWrite) {
+        if (!picker)
+            return;
+        if (!mayWrite)
+            return picker->drop();
+        m_target = programPath(name);
+        picker->pass();
+    });
+}
+
+bool ProgramGuard::mayCover(const QString &name, const ProgramOnDisk &there)
+{
+    const bool isOwn = programPath(name) == m_window->getCurrentFile();
+    if (isOwn && (m_state.kind == ProgramState::Plain || m_state.kind == ProgramState::NotStored))
+        return true;
+    return m_questioner->ask(
+               {tr("Save as"),
+                tr("%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?")
+                    .arg(name)
+                    .arg(there.lines())
+                    .arg(there.written().toString(QLatin1String("yyyy-MM-dd HH:mm")))
+                    .arg(m_editor->document()->blockCount()),
+                {tr("Cancel"), tr("Write over it")}})
+           == 1;
+}
+
+// Saved before the library goes on and clears the editor: it could not tell whether all went well.
+void ProgramGuard::guardSaveQuestion(QMessageBox *box)
+{
+    ClickGate *gate = new ClickGate(box->button(QMessageBox::Save));
+    gate->onClick([this, gate, box] {
+        gate->drop();
+        m_wantsSave = true;
+        box->button(QMessageBox::Cancel)->click();
+        // A command that came by no key ends without a word.
+        QTimer::singleShot(0, this, [this] {
+            if (m_wantsSave && m_commands.running() == WindowCommands::None) {
+                m_wantsSave = false;
+                m_commands.press(WindowCommands::Save);
+            }
+        });
+    });
+}
+
+void ProgramGuard::guardRemoveQuestion(QMessageBox *box)
+{
+    const QString name = m_picked;
+    const QPointer<ClickGate> gate(new ClickGate(box->button(QMessageBox::Yes)));
+    gate->onClick([this, gate, name] {
+        if (!mayDropChanges(name)) {
+            if (gate)
+                gate->drop();
+            return;
+        }
+        m_keeper.keep(programPath(name), [this, gate](bool mayWrite) {
+            if (!gate)
+                return;
+            m_isRemovalPassed = mayWrite;
+            if (mayWrite)
+                gate->pass();
+            else
+                gate->drop();
+        });
+    });
+}
+
+bool ProgramGuard::mayDropChanges(const QString &name)
+{
+    if (programPath(name) != m_window->getCurrentFile() || !m_editor->document()->isModified())
+        return true;
+    return m_questioner->ask({tr("Remove"),
+                              tr("%1 is open, with changes that are not saved. They are lost with "
+                                 "it.")
+                                  .arg(name),
+                              {tr("Cancel"), tr("Remove it")}})
+           == 1;
+}
+
+void ProgramGuard::endRemove()
+{
+    if (m_isRemovalPassed && !m_wasRemoved)
+        Q_EMIT told(tr("%1 could not be removed: it is still there.").arg(m_picked),
+                    Message::Warning);
+}

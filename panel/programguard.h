@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROGRAMGUARD_H
+#define PROGRAMGUARD_H
+
+#include "filejobs.h"
+#include "message.h"
+#include "programkeeper.h"
+#include "programondisk.h"
+#include "programstate.h"
+#include "storecheck.h"
+#include "windowcommands.h"
+#include "windowdialogs.h"
+
+#include <QObject>
+#include <QPointer>
+
+class PickerGuard;
+class ProgramComparison;
+class QMessageBox;
+class QPlainTextEdit;
+class Questioner;
+class WMMainWindow;
+
+/// Shields an operator from what the library's program window loses without a word.
+///
+/// It knows how what is shown stands to the file, compares both after each opening and each save,
+/// holds back what would lose something until the operator has said so, and has what a save
+/// replaces kept before. No file is touched in the thread that calls it.
+///
+///     ProgramGuard guard(window, "/home/hmi/cnc", &questioner);
+///     guard.setHistory(...);
+///     connect(&guard, &ProgramGuard::told, ...);
+class ProgramGuard : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Of a window that was made just now. \a programDir is where the library keeps its programs.
+    /// \a questioner must outlive the guard.
+    ProgramGuard(WMMainWindow *window, const QString &programDir, Questioner *questioner,
+                 QObject *parent = nullptr);
+    ~ProgramGuard() override;
+
+    /// Before a write, what stands there is kept by \a history.
+    void setHistory(const ProgramKeeper::History &history) { m_keeper.setHistory(history); }
+    /// See StoreCheck::setOtherPlace().
+    void setOtherPlace(const std::function<QString()> &folder) { m_check.setOtherPlace(folder); }
+    void setStallTime(int ms) { m_jobs.setStallTime(ms); }
+
+    const ProgramState &state() const { return m_state; }
+    /// A command is under way, or what came of it is still being looked at.
+    bool isBusy() const;
+    /// A program is being loaded.
+    bool isLoading() const { return m_commands.running() == WindowCommands::Open; }
+    /// Whether the program at \a path may be sent; tells why not.
+    bool mayDownload(const QString &path);
+    /// Saves as the Save key does, with all questions. Ends in one saveEnded().
+    void save();
+
+Q_SIGNALS:
+    void told(const QString &text, Message::Tone tone, const QString &cause = QString());
+    void causeEnded(const QString &cause);
+    /// state() gives something else now.
+    void stateChanged();
+    /// A save came to its end, given up or not.
+    void saveEnded(bool isStored);
+
+private:
+    typedef WindowCommands::Command Command;
+
+    void hold(Command command);
+    void refuse(Command command, const QString &reason);
+    void pass(Command command);
+    void holdSave();
+    bool mayReplaceOwnFile();
+    void end(Command command);
+    void goOn();
+    void setState(const ProgramState &state);
+    QString text() const;
+    QString programPath(const QString &name) const;
+
+    void endOpen();
+    void compare();
+    void judge(const QString &path, const std::shared_ptr<ProgramComparison> &comparison,
+               bool wasAborted);
+
+    void endSave();
+    void tellStored(StoreCheck::Outcome outcome);
+    void tellMissed();
+    void finishSave(bool isStored);
+
+    void guardPicker(QDialog *dialog, WindowDialogs::Picker picker);
+    QString proposal(const PickerGuard *picker) const;
+    void holdTarget(const QPointer<PickerGuard> &picker, const QString &name);
+    void askForTarget(const QPointer<PickerGuard> &picker, const QString &name,
+                      const ProgramOnDisk &there);
+    bool mayCover(const QString &name, const ProgramOnDisk &there);
+    void guardSaveQuestion(QMessageBox *box);
+    void guardRemoveQuestion(QMessageBox *box);
+    bool mayDropChanges(const QString &name);
+    void endRemove();
+
+    const QString m_programDir;
+    WMMainWindow *m_window;
+    QPlainTextEdit *m_editor;
+    Questioner *m_questioner;
+    WindowCommands m_commands;
+    WindowDialogs m_dialogs;
+    FileJobs m_jobs;
+    ProgramKeeper m_keeper;
+    StoreCheck m_check;
+    ProgramState m_state;
+    QList<Command> m_waiting;
+    /// Bare name that a picker took for the command that runs.
+    QString m_picked;
+    /// Where the command that runs writes.
+    QString m_target;
+    bool m_isHoldingSave = false;
+    bool m_hasFailed = false;
+    bool m_wasAborted = false;
+    bool m_isReloadRefused = false;
+    bool m_isRemovalPassed = false;
+    bool m_wasRemoved = false;
+    /// Changes are to be saved before this command; then it comes once more.
+    bool m_wantsSave = false;
+    Command m_afterSave = WindowCommands::None;
+};
+
+#endif // PROGRAMGUARD_H

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROGRAMONDISK_H
+#define PROGRAMONDISK_H
+
+#include "filework.h"
+
+#include <QDateTime>
+#include <QString>
+
+/// What an operator tells a stored program by, before another one is written over it.
+class ProgramOnDisk : public FileTask
+{
+public:
+    enum Kind { Missing, File, NoFile };
+
+    explicit ProgramOnDisk(const QString &path) : m_path(path) {}
+
+    bool step() override;
+
+    /// NoFile: a folder, a link, a device.
+    Kind kind() const { return m_kind; }
+    /// As the editor counts; 0 when the file can't be read.
+    qint64 lines() const { return m_lines; }
+    QDateTime written() const { return m_written; }
+
+private:
+    const QString m_path;
+    Kind m_kind = Missing;
+    qint64 m_lines = 0;
+    QDateTime m_written;
+};
+
+#endif // PROGRAMONDISK_H

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROGRAMREADBACK_H
+#define PROGRAMREADBACK_H
+
+#include "filework.h"
+
+#include <QString>
+
+/// Finds out whether a program that was just saved is on the disk: forces the file there, reads it
+/// back, and compares the bytes with those of the document's text.
+class ProgramReadback : public FileTask
+{
+public:
+    ProgramReadback(const QString &path, const QString &text);
+
+    bool step() override;
+
+    bool isStored() const { return m_isStored; }
+    /// Why not, in the system's words; empty when the system has none.
+    QString reason() const { return m_reason; }
+    /// Whether the encoding of the files has all characters of the text.
+    bool isFaithful() const { return m_isFaithful; }
+
+private:
+    bool readsBack(const QByteArray &bytes);
+    void probe(const QByteArray &bytes);
+
+    const QString m_path;
+    const QString m_text;
+    bool m_isStored = false;
+    bool m_isFaithful = true;
+    QString m_reason;
+};
+
+#endif // PROGRAMREADBACK_H

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "programwrite.h"
+
+#include "durablefile.h"
+#include "programname.h"
+#include "programtext.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+ProgramWrite::ProgramWrite(const QString &path, const QString &text, Place place)
+    : m_path(path), m_text(text), m_place(place)
+{}
+
+bool ProgramWrite::step()
+{
+    if (m_place == BesideAll) {
+        const QDir folder = QFileInfo(m_path).dir();
+        const QStringList taken = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
+        m_path = folder.filePath(ProgramName::freeOne(QFileInfo(m_path).fileName(), taken));
+    }
+    DurableFile file(m_path);
+    m_isStored = file.open() && file.write(ProgramText::encoded(m_text))
+                 && file.commit([this] { return !m_isAbandoned; });
+    m_reason = file.errorString();
+    return false;
+}

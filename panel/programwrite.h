@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROGRAMWRITE_H
+#define PROGRAMWRITE_H
+
+#include "filework.h"
+
+#include <QString>
+
+#include <atomic>
+
+/// Writes a program as a whole: what stood at its path is replaced only by all of it.
+class ProgramWrite : public FileTask
+{
+public:
+    enum Place {
+        Exactly,  ///< At the path, over what is there.
+        BesideAll ///< In the path's folder under a name that is free.
+    };
+
+    ProgramWrite(const QString &path, const QString &text, Place place = Exactly);
+
+    bool step() override;
+
+    /// From now on nothing is replaced any more. May be called from any thread, at any time.
+    void abandon() { m_isAbandoned = true; }
+
+    bool isStored() const { return m_isStored; }
+    QString reason() const { return m_reason; }
+    QString path() const { return m_path; }
+
+private:
+    QString m_path;
+    const QString m_text;
+    const Place m_place;
+    std::atomic<bool> m_isAbandoned{false};
+    bool m_isStored = false;
+    QString m_reason;
+};
+
+#endif // PROGRAMWRITE_H

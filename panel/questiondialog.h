@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef QUESTIONDIALOG_H
+#define QUESTIONDIALOG_H
+
+#include "dialog.h"
+#include "questioner.h"
+
+/// A question with keys for gloves: side by side, or one below the other on a narrow panel.
+///
+/// Return presses the harmless key, and closing the dialog means it.
+class QuestionDialog : public Dialog
+{
+    Q_OBJECT
+
+public:
+    explicit QuestionDialog(const Question &question, QWidget *parent = nullptr);
+
+    /// The number of the answer.
+    int answer() const { return m_answer; }
+
+private:
+    int m_answer = 0;
+};
+
+/// Asks by QuestionDialogs.
+class DialogQuestioner : public Questioner
+{
+public:
+    int ask(const Question &question) override;
+};
+
+#endif // QUESTIONDIALOG_H

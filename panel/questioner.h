@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef QUESTIONER_H
+#define QUESTIONER_H
+
+#include <QString>
+#include <QStringList>
+
+/// A question to the operator, with its answers in words.
+struct Question
+{
+    QString title;
+    /// What is at stake, in a sentence or two.
+    QString text;
+    /// The first is the harmless one: nothing is done, written or lost.
+    QStringList answers;
+};
+
+/// Asks the operator. A host that has dialogs of its own implements this one function.
+class Questioner
+{
+public:
+    Questioner() = default;
+    virtual ~Questioner() = default;
+
+    /// The number of the answer, from 0. A question that is closed in any other way, by a signal to
+    /// the program, say, is answered by 0. May run an event loop.
+    virtual int ask(const Question &question) = 0;
+
+private:
+    Q_DISABLE_COPY(Questioner)
+};
+
+#endif // QUESTIONER_H

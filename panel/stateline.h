@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef STATELINE_H
+#define STATELINE_H
+
+#include "message.h"
+#include "touchblock.h"
+
+class ElidedLabel;
+
+/// One line that stays in view for as long as something is to be kept in mind; a touch asks for it
+/// in full. Hidden while there is nothing.
+class StateLine : public TouchBlock
+{
+    Q_OBJECT
+
+public:
+    explicit StateLine(QWidget *parent = nullptr);
+
+    QString text() const;
+    void show(const QString &text, Message::Tone tone);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void colour();
+
+    ElidedLabel *m_label;
+    Message::Tone m_tone = Message::Information;
+};
+
+#endif // STATELINE_H

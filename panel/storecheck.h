@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef STORECHECK_H
+#define STORECHECK_H
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+class FileJobs;
+class Questioner;
+class QTextDocument;
+
+/// Follows up one save of a document until it is on the disk, or the operator lets it be: reads it
+/// back, and offers to write it again or elsewhere when it isn't there.
+///
+/// A document whose save failed is modified again.
+class StoreCheck : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Outcome {
+        Stored,
+        StoredElsewhere, ///< Beside the failed one: see otherPath().
+        NotStored
+    };
+
+    /// All of them must outlive the check.
+    StoreCheck(QTextDocument *document, FileJobs *jobs, Questioner *questioner,
+               QObject *parent = nullptr);
+
+    /// \a folder gives a folder on another disk to save to, or nothing; it is called in a thread.
+    void setOtherPlace(const std::function<QString()> &folder) { m_otherPlace = folder; }
+
+    bool isRunning() const { return m_isRunning; }
+    /// The library has just written \a text there.
+    void check(const QString &path, const QString &text);
+    /// Writes \a text there once more, by the safe way.
+    void write(const QString &path, const QString &text);
+
+    QString path() const { return m_path; }
+    QString text() const { return m_text; }
+    /// Whether the files' encoding has all characters of the text.
+    bool isFaithful() const { return m_isFaithful; }
+    /// Why it is not stored, in the system's words.
+    QString reason() const { return m_reason; }
+    QString otherPath() const { return m_otherPath; }
+
+Q_SIGNALS:
+    /// The bytes on the disk are not those of the document. The question comes next.
+    void missed();
+    void ended(StoreCheck::Outcome outcome);
+
+private:
+    void begin(const QString &path, const QString &text);
+    void miss(const QString &reason);
+    void lookForOtherPlace();
+    void ask(const QString &otherFolder);
+    void writeAgain();
+    void writeElsewhere(const QString &folder);
+    void end(Outcome outcome);
+
+    QTextDocument *m_document;
+    FileJobs *m_jobs;
+    Questioner *m_questioner;
+    std::function<QString()> m_otherPlace;
+    QString m_path;
+    QString m_text;
+    int m_revision = 0;
+    bool m_isRunning = false;
+    bool m_isFaithful = true;
+    QString m_reason;
+    QString m_otherPath;
+};
+
+#endif // STORECHECK_H

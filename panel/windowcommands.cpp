@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "windowcommands.h"
+
+#include "clickgate.h"
+#include "wmmainwindow.h"
+
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+const char removeToolTip[] = "Remove G File!";
+
+WindowCommands::Command commandOf(const QString &toolTip)
+{
+    static const struct
+    {
+        const char *toolTip;
+        WindowCommands::Command command;
+    } table[] = {
+        {"New G File!", WindowCommands::New},
+        {"Open G File!", WindowCommands::Open},
+        {removeToolTip, WindowCommands::Remove},
+        {"Save G File!", WindowCommands::Save},
+        {"Save As G File!", WindowCommands::SaveAs},
+        {"Download G File To PLC!", WindowCommands::Download},
+    };
+    for (const auto &row : table) {
+        if (toolTip == QLatin1String(row.toolTip))
+            return row.command;
+    }
+    // The one that the library translates.
+    return toolTip == WMMainWindow::tr(removeToolTip) ? WindowCommands::Remove
+                                                      : WindowCommands::None;
+}
+
+} // namespace
+
+WindowCommands::WindowCommands(WMMainWindow *window, QObject *parent) : QObject(parent)
+{
+    const QList<QToolButton *> buttons = window->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        const Command command = commandOf(button->toolTip());
+        if (command == None)
+            continue;
+        ClickGate *gate = new ClickGate(button);
+        m_gates.insert(command, gate);
+        gate->onClick([this, command] { m_hold(command); });
+        connect(gate, &ClickGate::passed, this, [this, command] { end(command); });
+        // Said right before the click, which the library hears first.
+        connect(button, &QToolButton::released, this, [this, command] { begin(command); });
+    }
+}
+
+void WindowCommands::pass(Command command)
+{
+    m_passing = command;
+    m_gates.value(command)->pass();
+    // Behind the click.
+    QTimer::singleShot(0, this, [this, command] {
+        if (m_passing != command)
+            return;
+        m_passing = None;
+        Q_EMIT lost(command);
+    });
+}
+
+void WindowCommands::drop(Command command)
+{
+    m_gates.value(command)->drop();
+}
+
+void WindowCommands::press(Command command)
+{
+    m_gates.value(command)->button()->click();
+}
+
+void WindowCommands::begin(Command command)
+{
+    if (m_passing != command || m_gates.value(command)->isHolding())
+        return;
+    m_passing = None;
+    m_running = command;
+}
+
+void WindowCommands::end(Command command)
+{
+    m_running = None;
+    Q_EMIT done(command);
+}

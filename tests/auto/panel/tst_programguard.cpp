@@ -1,0 +1,853 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "devicelog.h"
+#include "filarixtest.h"
+#include "modaldriver.h"
+#include "programguard.h"
+#include "scriptquestioner.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QScopedPointer>
+#include <QSignalSpy>
+#include <QTextDocument>
+#include <QTimer>
+#include <QToolButton>
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// A file may not grow any more, as on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_old);
+        const rlimit small = {bytes, m_old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { end(); }
+    void end() { ::setrlimit(RLIMIT_FSIZE, &m_old); }
+
+private:
+    rlimit m_old;
+};
+
+QByteArray numbered(int lines, const QByteArray &end = "\n")
+{
+    QByteArray bytes;
+    for (int i = 1; i <= lines; ++i)
+        bytes += "G01 X" + QByteArray::number(i) + end;
+    return bytes;
+}
+
+} // namespace
+
+class TestProgramGuard : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void openingEndsWithNothingToUndo_data();
+    void openingEndsWithNothingToUndo();
+    void manyEditsAfterOpeningStayChanges();
+    void openingTellsWhatIsLeftOut_data();
+    void openingTellsWhatIsLeftOut();
+    void firstSaveOverACleanedProgramAsks_data();
+    void firstSaveOverACleanedProgramAsks();
+    void otherNameLeavesTheCleanedFileAlone();
+    void partOfAProgramIsNeverSavedNorSent();
+    void partGetsANameOfItsOwn();
+    void screenIsHeldWhileAProgramIsLoaded();
+    void failedOpeningIsNoLeaveToEmptyTheFile();
+
+    void successIsToldAfterReadingBack();
+    void writeErrorIsToldAndTheDocumentIsModifiedAgain_data();
+    void writeErrorIsToldAndTheDocumentIsModifiedAgain();
+    void tryingAgainStoresAllOfIt();
+    void savingElsewhereLeavesTheDocumentModified();
+    void newCommandWaitsForAStoredSave_data();
+    void newCommandWaitsForAStoredSave();
+    void refusedFileIsTheLibrarysToTell();
+
+    void savingANewProgramProposesAFreeName();
+    void savingAsProposesTheOwnName();
+    void bareNameGetsASuffixProposed();
+    void coveringAnotherProgramAsks_data();
+    void coveringAnotherProgramAsks();
+    void namesThatLeadElsewhereAreRefused_data();
+    void namesThatLeadElsewhereAreRefused();
+
+    void everyWayToAWriteWaitsForTheHistory_data();
+    void everyWayToAWriteWaitsForTheHistory();
+    void whatTheHistoryCannotKeepIsAskedAbout_data();
+    void whatTheHistoryCannotKeepIsAskedAbout();
+    void removingWithUnsavedChangesAsks();
+    void failedRemovalIsTold();
+
+private:
+    QToolButton *button(const QString &text) const;
+    void press(const QString &text) { button(text)->click(); }
+    void open(const QString &name);
+    static void pick(QWidget *dialog, const QString &name);
+    static QString hint(QWidget *dialog) { return dialog->findChild<QLabel *>("hint")->text(); }
+    static void giveUp(QWidget *dialog) { static_cast<QDialog *>(dialog)->reject(); }
+    QTextDocument *document() const { return m_window->findChild<WGCodeEditer *>()->document(); }
+    QString path(const QString &name) const { return programDir() + '/' + name; }
+    bool wasTold(const QString &part, Message::Tone tone) const;
+
+    QScopedPointer<WMMainWindow> m_window;
+    QScopedPointer<ScriptQuestioner> m_questioner;
+    QScopedPointer<ProgramGuard> m_guard;
+    QScopedPointer<QSignalSpy> m_told;
+};
+
+void TestProgramGuard::init()
+{
+    FilarixTest::init();
+    DeviceLog::reset();
+    qRegisterMetaType<Message::Tone>("Message::Tone");
+    programDir();
+    m_window.reset(new WMMainWindow(nullptr, 0));
+    m_questioner.reset(new ScriptQuestioner);
+    m_guard.reset(new ProgramGuard(m_window.data(), programDir(), m_questioner.data()));
+    m_told.reset(new QSignalSpy(m_guard.data(), SIGNAL(told(QString, Message::Tone, QString))));
+    m_window->show();
+}
+
+void TestProgramGuard::cleanup()
+{
+    m_told.reset();
+    m_guard.reset();
+    m_window.reset();
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        // The window leaves the buttons that no bar takes to nobody.
+        if (qobject_cast<QToolButton *>(widget))
+            delete widget;
+    }
+    FilarixTest::cleanup();
+}
+
+QToolButton *TestProgramGuard::button(const QString &text) const
+{
+    const QList<QToolButton *> buttons = m_window->findChildren<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (button->text() == text)
+            return button;
+    }
+    return nullptr;
+}
+
+void TestProgramGuard::pick(QWidget *dialog, const QString &name)
+{
+    dialog->findChild<QLineEdit *>()->setText(name);
+    dialog->findChildren<QPushButton *>().first()->click();
+}
+
+void TestProgramGuard::open(const QString &name)
+{
+    ModalDriver driver;
+    driver.then([name](QWidget *dialog) { pick(dialog, name); });
+    press("Open");
+    QTRY_COMPARE(m_window->getCurrentFile(), path(name));
+    QTRY_VERIFY(!m_guard->isBusy());
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+bool TestProgramGuard::wasTold(const QString &part, Message::Tone tone) const
+{
+    for (const QList<QVariant> &message : *m_told) {
+        if (message.at(0).toString().contains(part) && message.at(1).value<Message::Tone>() == tone)
+            return true;
+    }
+    return false;
+}
+
+void TestProgramGuard::openingEndsWithNothingToUndo_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::newRow("short") << 20;
+    QTest::newRow("long") << 620;
+}
+
+// 501 lines became 491, and the next save stored that.
+void TestProgramGuard::openingEndsWithNothingToUndo()
+{
+    QFETCH(int, lines);
+    writeFile(path("coil.cnc"), numbered(lines));
+    open("coil.cnc");
+    const QString shown = document()->toPlainText();
+    QVERIFY(!document()->isUndoAvailable());
+    QVERIFY(!document()->isModified());
+    document()->undo();
+    QCOMPARE(document()->toPlainText(), shown);
+    m_window->insertLine("G99");
+    document()->undo();
+    document()->undo();
+    QCOMPARE(document()->toPlainText(), shown);
+    QVERIFY(!document()->isModified());
+}
+
+// The loader's 50 steps are gone; 50 steps of the operator must not count as none.
+void TestProgramGuard::manyEditsAfterOpeningStayChanges()
+{
+    writeFile(path("coil.cnc"), numbered(620));
+    open("coil.cnc");
+    for (int i = 0; i < 120; ++i) {
+        m_window->insertLine("G99");
+        QVERIFY2(document()->isModified(), qPrintable(QString::number(i)));
+    }
+}
+
+void TestProgramGuard::openingTellsWhatIsLeftOut_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("short") << QByteArray("; head\n\nG01\n") << int(ProgramState::Plain)
+                           << QString();
+    QTest::newRow("long and clean") << numbered(700) << int(ProgramState::Plain) << QString();
+    QTest::newRow("long with comments")
+        << QByteArray("; head\n\n") + numbered(600, " ; tail\n") << int(ProgramState::Cleaned)
+        << "603 lines in the file, 600 shown: comments and empty lines are left out";
+    QTest::newRow("characters that are shown as others")
+        << QByteArray("G01\xc2\xa0X1\n") << int(ProgramState::Different)
+        << "Not as in the file: it has characters that cannot be shown, or has changed";
+}
+
+void TestProgramGuard::openingTellsWhatIsLeftOut()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, kind);
+    QFETCH(QString, line);
+    writeFile(path("coil.cnc"), bytes);
+    open("coil.cnc");
+    QCOMPARE(int(m_guard->state().kind), kind);
+    QCOMPARE(m_guard->state().line(), line);
+}
+
+void TestProgramGuard::firstSaveOverACleanedProgramAsks_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isWritten");
+    QTest::newRow("cancel") << 0 << false;
+    QTest::newRow("without them") << 1 << true;
+}
+
+void TestProgramGuard::firstSaveOverACleanedProgramAsks()
+{
+    QFETCH(int, answer);
+    QFETCH(bool, isWritten);
+    const QByteArray bytes = numbered(600, " ; tail\n");
+    writeFile(path("coil.cnc"), bytes);
+    open("coil.cnc");
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    m_questioner->answers = {answer};
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(ended.at(0).at(0).toBool(), isWritten);
+    QCOMPARE(m_questioner->asked.size(), 1);
+    QVERIFY(m_questioner->asked.at(0).text.contains("600 are shown"));
+    QCOMPARE(readFile(path("coil.cnc")) == bytes, !isWritten);
+    QCOMPARE(int(m_guard->state().kind),
+             int(isWritten ? ProgramState::Plain : ProgramState::Cleaned));
+    if (!isWritten)
+        return;
+    // Not again.
+    press("Save");
+    QTRY_COMPARE(ended.size(), 2);
+    QCOMPARE(m_questioner->asked.size(), 1);
+}
+
+void TestProgramGuard::otherNameLeavesTheCleanedFileAlone()
+{
+    const QByteArray bytes = numbered(600, " ; tail\n");
+    writeFile(path("coil.cnc"), bytes);
+    open("coil.cnc");
+    m_questioner->answers = {2};
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { pick(dialog, "other.cnc"); });
+    press("Save");
+    QTRY_VERIFY(wasTold("other.cnc saved, 600 lines.", Message::Information));
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(readFile(path("coil.cnc")), bytes);
+    QCOMPARE(readFile(path("other.cnc")).count('\n'), 599);
+}
+
+// 799,944 lines became 175,989.
+void TestProgramGuard::partOfAProgramIsNeverSavedNorSent()
+{
+    const QByteArray bytes = numbered(1000);
+    writeFile(path("coil.cnc"), bytes);
+    open("coil.cnc");
+    // What an abort leaves: whole pieces of the front part, and a clean document.
+    WGCodeEditer *editor = m_window->findChild<WGCodeEditer *>();
+    QMetaObject::Connection abort =
+        connect(editor, &QPlainTextEdit::blockCountChanged, this, [this](int count) {
+            const QWidgetList topLevels = QApplication::topLevelWidgets();
+            for (QWidget *widget : topLevels) {
+                QProgressDialog *progress = qobject_cast<QProgressDialog *>(widget);
+                if (progress && count > 100)
+                    progress->cancel();
+            }
+        });
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+    driver.press(QMessageBox::Yes);
+    press("Open");
+    QTRY_COMPARE(int(m_guard->state().kind), int(ProgramState::Incomplete));
+    disconnect(abort);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(document()->blockCount() < 500);
+    QVERIFY(!document()->isUndoAvailable());
+    QVERIFY(m_guard->state().line().startsWith("Incomplete: 1001 lines in the file"));
+
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    QSignalSpy sent(m_window.data(), SIGNAL(signal_download(QString)));
+    m_window->insertLine("G99");
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(wasTold("Only a part of coil.cnc is here", Message::Warning));
+    m_told->clear();
+    press("D/L");
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(wasTold("Only a part of coil.cnc is here", Message::Warning));
+    QVERIFY(!m_guard->mayDownload(path("coil.cnc")));
+    // Nor by the Save of a question.
+    driver.press(QMessageBox::Save);
+    press("New");
+    QTRY_COMPARE(ended.size(), 2);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(sent.size(), 0);
+    QCOMPARE(readFile(path("coil.cnc")), bytes);
+    QCOMPARE(m_window->getCurrentFile(), path("coil.cnc"));
+
+    // Opened anew it is whole.
+    document()->setModified(false);
+    driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+    driver.press(QMessageBox::Yes);
+    press("Open");
+    QTRY_COMPARE(int(m_guard->state().kind), int(ProgramState::Plain));
+    QCOMPARE(document()->blockCount(), 1000);
+}
+
+void TestProgramGuard::partGetsANameOfItsOwn()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    writeFile(path("coil-part.cnc"), "G02\n");
+    open("coil.cnc");
+    // The file has grown meanwhile, the reading of it fails.
+    QFile::remove(path("coil.cnc"));
+    ::mkdir(QFile::encodeName(path("coil.cnc")), 0700);
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    press("Open");
+    QTRY_COMPARE(int(m_guard->state().kind), int(ProgramState::Incomplete));
+    QVERIFY2(driver.finished(), driver.report());
+    ::rmdir(QFile::encodeName(path("coil.cnc")));
+    writeFile(path("coil.cnc"), "G01\n");
+    QString proposed;
+    driver.then([&](QWidget *dialog) {
+        QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("coil-part_2.cnc"));
+        // The whole file is covered by the part only if the operator says so.
+        pick(dialog, "coil.cnc");
+        QTRY_COMPARE(m_questioner->asked.size(), 1);
+        giveUp(dialog);
+    });
+    press("SaveAs");
+    QTRY_VERIFY(!m_guard->isBusy());
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(readFile(path("coil.cnc")), QByteArray("G01\n"));
+}
+
+void TestProgramGuard::screenIsHeldWhileAProgramIsLoaded()
+{
+    const QByteArray bytes = numbered(1000);
+    writeFile(path("coil.cnc"), bytes);
+    bool isPressed = false;
+    QSignalSpy sent(m_window.data(), SIGNAL(signal_download(QString)));
+    connect(m_window->findChild<WGCodeEditer *>(), &QPlainTextEdit::blockCountChanged, this,
+            [&](int count) {
+                if (isPressed || count < 100)
+                    return;
+                isPressed = true;
+                for (const char *key : {"New", "Open", "RM", "Save", "SaveAs", "D/L"})
+                    press(key);
+            });
+    open("coil.cnc");
+    QVERIFY(isPressed);
+    QCOMPARE(m_told->size(), 6);
+    QVERIFY(wasTold("is being loaded", Message::Warning));
+    QCOMPARE(sent.size(), 0);
+    QCOMPARE(document()->blockCount(), 1000);
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::Plain));
+    QCOMPARE(readFile(path("coil.cnc")), bytes);
+}
+
+// The library leaves an empty editor under the old name.
+void TestProgramGuard::failedOpeningIsNoLeaveToEmptyTheFile()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    writeFile(path("locked.cnc"), "G02\n");
+    ::chmod(QFile::encodeName(path("locked.cnc")), 0);
+    open("coil.cnc");
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { pick(dialog, "locked.cnc"); });
+    driver.press(QMessageBox::Ok);
+    press("Open");
+    QTRY_COMPARE(int(m_guard->state().kind), int(ProgramState::Incomplete));
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_window->getCurrentFile(), path("coil.cnc"));
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(readFile(path("coil.cnc")), QByteArray("G01\n"));
+}
+
+void TestProgramGuard::successIsToldAfterReadingBack()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    press("Save");
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(wasTold("coil.cnc saved, 3 lines.", Message::Information));
+    QVERIFY(!document()->isModified());
+    QVERIFY(m_questioner->asked.isEmpty());
+}
+
+void TestProgramGuard::writeErrorIsToldAndTheDocumentIsModifiedAgain_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("save") << "Save";
+    QTest::newRow("save as") << "SaveAs";
+}
+
+void TestProgramGuard::writeErrorIsToldAndTheDocumentIsModifiedAgain()
+{
+    QFETCH(QString, command);
+    writeFile(path("coil.cnc"), numbered(2000));
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    {
+        const FullDisk full(8192);
+        ModalDriver driver;
+        if (command == "SaveAs")
+            driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+        press(command);
+        QTRY_COMPARE(ended.size(), 1);
+    }
+    QVERIFY(!ended.at(0).at(0).toBool());
+    QVERIFY(document()->isModified());
+    QVERIFY(wasTold("coil.cnc is not stored: File too large.", Message::Alarm));
+    QVERIFY(!wasTold("saved", Message::Information));
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::NotStored));
+    QCOMPARE(m_questioner->asked.size(), 1);
+    QCOMPARE(m_questioner->asked.at(0).answers.size(), 2);
+    // What the disk holds is not for the machine.
+    QVERIFY(!m_guard->mayDownload(path("coil.cnc")));
+}
+
+void TestProgramGuard::tryingAgainStoresAllOfIt()
+{
+    writeFile(path("coil.cnc"), numbered(2000));
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    FullDisk full(8192);
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    // On the full disk, what is left of the file is not written to once more.
+    press("Save");
+    QTRY_COMPARE(ended.size(), 2);
+    full.end();
+    m_told->clear();
+    press("Save");
+    QTRY_COMPARE(ended.size(), 3);
+    QVERIFY(ended.at(2).at(0).toBool());
+    QCOMPARE(QString::fromUtf8(readFile(path("coil.cnc"))), document()->toPlainText());
+    QVERIFY(!document()->isModified());
+    QVERIFY(wasTold("coil.cnc saved, 2001 lines.", Message::Information));
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::Plain));
+}
+
+void TestProgramGuard::savingElsewhereLeavesTheDocumentModified()
+{
+    // A folder takes the file's place after the library wrote it: the panel's own place is lost.
+    const QString stick = home() + "/stick";
+    QVERIFY(QDir().mkpath(stick));
+    writeFile(stick + "/coil.cnc", "another\n");
+    m_guard->setOtherPlace([stick] { return stick; });
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    connect(document(), &QTextDocument::modificationChanged, this, [this](bool isModified) {
+        if (isModified)
+            return;
+        QFile::remove(path("coil.cnc"));
+    });
+    m_questioner->answers = {2};
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(!ended.at(0).at(0).toBool());
+    QCOMPARE(m_questioner->asked.at(0).answers.size(), 3);
+    QCOMPARE(readFile(stick + "/coil.cnc"), QByteArray("another\n"));
+    QCOMPARE(QString::fromUtf8(readFile(stick + "/coil_2.cnc")), document()->toPlainText());
+    QVERIFY(document()->isModified());
+    QVERIFY(wasTold("coil.cnc is on the stick as coil_2.cnc.", Message::Warning));
+}
+
+void TestProgramGuard::newCommandWaitsForAStoredSave_data()
+{
+    QTest::addColumn<bool>("isFull");
+    QTest::newRow("stored") << false;
+    QTest::newRow("full disk") << true;
+}
+
+// The library would clear the editor before anybody knew that the file holds nothing.
+void TestProgramGuard::newCommandWaitsForAStoredSave()
+{
+    QFETCH(bool, isFull);
+    writeFile(path("coil.cnc"), numbered(2000));
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    const QString text = document()->toPlainText();
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    FullDisk full(isFull ? 8192 : RLIM_INFINITY);
+    ModalDriver driver;
+    driver.press(QMessageBox::Save);
+    press("New");
+    QTRY_COMPARE(ended.size(), 1);
+    QTRY_VERIFY(!m_guard->isBusy());
+    QVERIFY2(driver.finished(), driver.report());
+    if (isFull) {
+        QCOMPARE(document()->toPlainText(), text);
+        QVERIFY(document()->isModified());
+    } else {
+        QTRY_VERIFY(m_window->getCurrentFile().isEmpty());
+        QVERIFY(document()->isEmpty());
+        QCOMPARE(QString::fromUtf8(readFile(path("coil.cnc"))), text);
+    }
+}
+
+void TestProgramGuard::refusedFileIsTheLibrarysToTell()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    ::chmod(QFile::encodeName(path("coil.cnc")), 0400);
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok);
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(document()->isModified());
+    QCOMPARE(m_told->size(), 0);
+}
+
+// The first program of the list was proposed: New, Edit, Save, OK covered it.
+void TestProgramGuard::savingANewProgramProposesAFreeName()
+{
+    writeFile(path("coil5.cnc"), "G01\n");
+    writeFile(path("Program.cnc"), "G01\n");
+    m_window->insertLine("G99");
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("program_2.cnc"));
+        dialog->findChildren<QPushButton *>().first()->click();
+    });
+    press("Save");
+    QTRY_VERIFY(wasTold("program_2.cnc saved, 1 lines.", Message::Information));
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(readFile(path("program_2.cnc")), QByteArray("G99"));
+    QVERIFY(m_questioner->asked.isEmpty());
+}
+
+void TestProgramGuard::savingAsProposesTheOwnName()
+{
+    writeFile(path("a.cnc"), "G01\n");
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("coil.cnc"));
+        dialog->findChildren<QPushButton *>().first()->click();
+    });
+    press("SaveAs");
+    QTRY_VERIFY(wasTold("coil.cnc saved, 2 lines.", Message::Information));
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(m_questioner->asked.isEmpty());
+}
+
+void TestProgramGuard::bareNameGetsASuffixProposed()
+{
+    m_window->insertLine("G99");
+    ModalDriver driver;
+    driver.then([this](QWidget *dialog) {
+        QLineEdit *field = dialog->findChild<QLineEdit *>();
+        pick(dialog, "rotor");
+        QTRY_COMPARE(field->text(), QString("rotor.cnc"));
+        QVERIFY(dialog->isVisible());
+        QVERIFY(hint(dialog).contains(".cnc is added"));
+        // Taken away again, it is let be.
+        pick(dialog, "rotor");
+        QTRY_VERIFY(!dialog->isVisible());
+    });
+    press("SaveAs");
+    QTRY_VERIFY(wasTold("rotor saved", Message::Information));
+    QVERIFY2(driver.finished(), driver.report());
+    driver.then([this](QWidget *dialog) {
+        pick(dialog, "stator");
+        QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("stator.cnc"));
+        QTest::keyClick(dialog->findChild<QLineEdit *>(), Qt::Key_Return);
+    });
+    press("SaveAs");
+    QTRY_VERIFY(wasTold("stator.cnc saved", Message::Information));
+    QCOMPARE(QDir(programDir()).entryList(QDir::Files), QStringList() << "rotor"
+                                                                      << "stator.cnc");
+}
+
+void TestProgramGuard::coveringAnotherProgramAsks_data()
+{
+    QTest::addColumn<bool>("byReturn");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("touch, cancel") << false << 0;
+    QTest::newRow("Return, cancel") << true << 0;
+    QTest::newRow("touch, write") << false << 1;
+    QTest::newRow("Return, write") << true << 1;
+}
+
+void TestProgramGuard::coveringAnotherProgramAsks()
+{
+    QFETCH(bool, byReturn);
+    QFETCH(int, answer);
+    writeFile(path("coil5.cnc"), "G01\nG02\n");
+    m_window->insertLine("G99");
+    m_questioner->answers = {answer};
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        QLineEdit *field = dialog->findChild<QLineEdit *>();
+        QTRY_COMPARE(field->text(), QString("program.cnc"));
+        field->setText("coil5.cnc");
+        if (byReturn)
+            QTest::keyClick(field, Qt::Key_Return);
+        else
+            dialog->findChildren<QPushButton *>().first()->click();
+        QTRY_COMPARE(m_questioner->asked.size(), 1);
+        if (answer == 0) {
+            QTRY_VERIFY(!m_guard->state().refusesSave());
+            QVERIFY(dialog->isVisible());
+            giveUp(dialog);
+        }
+    });
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    const QString text = m_questioner->asked.at(0).text;
+    QVERIFY2(text.contains("3 lines") && text.contains("1 lines")
+                 && text.contains(QDate::currentDate().toString("yyyy-MM-dd")),
+             qPrintable(text));
+    QCOMPARE(readFile(path("coil5.cnc")), QByteArray(answer ? "G99" : "G01\nG02\n"));
+}
+
+void TestProgramGuard::namesThatLeadElsewhereAreRefused_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("word");
+    for (const char *command : {"SaveAs", "Open", "RM"}) {
+        const QString row = QString(command) + ": ";
+        QTest::newRow(qPrintable(row + "path")) << command << "../hmi/program.teach"
+                                                << "holds no \"/\"";
+        QTest::newRow(qPrintable(row + "folder above")) << command << ".."
+                                                        << "dot";
+        QTest::newRow(qPrintable(row + "hidden")) << command << ".coil.cnc"
+                                                  << "dot";
+        QTest::newRow(qPrintable(row + "blanks")) << command << "  "
+                                                  << "Give the program a name";
+    }
+    QTest::newRow("SaveAs: link") << "SaveAs"
+                                  << "link.cnc"
+                                  << "not a program file";
+    QTest::newRow("SaveAs: folder") << "SaveAs"
+                                    << "folder.cnc"
+                                    << "not a program file";
+}
+
+// Save As to "../hmi/program.teach" covered the taught program.
+void TestProgramGuard::namesThatLeadElsewhereAreRefused()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, name);
+    QFETCH(QString, word);
+    QVERIFY(QDir().mkpath(home() + "/hmi"));
+    writeFile(home() + "/hmi/program.teach", "taught\n");
+    QVERIFY(QFile::link(home() + "/hmi/program.teach", path("link.cnc")));
+    QVERIFY(QDir().mkpath(path("folder.cnc")));
+    m_window->insertLine("G99");
+    document()->setModified(false);
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        pick(dialog, name);
+        QTRY_VERIFY2(hint(dialog).contains(word), qPrintable(hint(dialog)));
+        QVERIFY(dialog->isVisible());
+        giveUp(dialog);
+    });
+    press(command);
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(!m_guard->isBusy());
+    QCOMPARE(readFile(home() + "/hmi/program.teach"), QByteArray("taught\n"));
+    QCOMPARE(document()->toPlainText(), QString("G99"));
+}
+
+void TestProgramGuard::everyWayToAWriteWaitsForTheHistory_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char *way :
+         {"save", "touch in Save as", "Return in Save as", "save first", "remove"})
+        QTest::newRow(way) << way;
+}
+
+void TestProgramGuard::everyWayToAWriteWaitsForTheHistory()
+{
+    QFETCH(QString, way);
+    const QByteArray bytes = "G01\n";
+    writeFile(path("coil.cnc"), bytes);
+    open("coil.cnc");
+    QList<ProgramKeeper::Kept> waiting;
+    QStringList paths;
+    m_guard->setHistory([&](const QString &path, const ProgramKeeper::Kept &kept) {
+        paths.append(path);
+        waiting.append(kept);
+    });
+    const auto seeThatItWaits = [&] {
+        QTRY_COMPARE(waiting.size(), 1);
+        QCOMPARE(paths, QStringList() << path("coil.cnc"));
+        // Told only to those who had to wait.
+        QVERIFY(!wasTold("One moment", Message::Information));
+        QTRY_VERIFY(wasTold("One moment", Message::Information));
+        QCOMPARE(readFile(path("coil.cnc")), bytes);
+        waiting.takeFirst()(QString());
+    };
+    m_window->insertLine("G99");
+    m_questioner->answers = {1};
+    ModalDriver driver;
+    if (way == "save") {
+        press("Save");
+        seeThatItWaits();
+    } else if (way == "save first") {
+        driver.press(QMessageBox::Save);
+        press("New");
+        seeThatItWaits();
+    } else if (way == "remove") {
+        driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+        driver.then([&](QWidget *box) {
+            static_cast<QMessageBox *>(box)->button(QMessageBox::Yes)->click();
+            seeThatItWaits();
+        });
+        driver.press(QMessageBox::Yes);
+        press("RM");
+    } else {
+        driver.then([&](QWidget *dialog) {
+            QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("coil.cnc"));
+            if (way.startsWith("Return"))
+                QTest::keyClick(dialog->findChild<QLineEdit *>(), Qt::Key_Return);
+            else
+                dialog->findChildren<QPushButton *>().first()->click();
+            seeThatItWaits();
+        });
+        press("SaveAs");
+    }
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(readFile(path("coil.cnc")) != bytes);
+    QTRY_VERIFY(!m_guard->isBusy());
+    QCOMPARE(wasTold("coil.cnc saved", Message::Information), way != "remove");
+    QCOMPARE(QFileInfo(path("coil.cnc")).exists(), way != "remove");
+}
+
+void TestProgramGuard::whatTheHistoryCannotKeepIsAskedAbout_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("cancel") << 0;
+    QTest::newRow("write") << 1;
+}
+
+void TestProgramGuard::whatTheHistoryCannotKeepIsAskedAbout()
+{
+    QFETCH(int, answer);
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_guard->setHistory([](const QString &, const ProgramKeeper::Kept &kept) {
+        QTimer::singleShot(0, [kept] { kept("It is too large."); });
+    });
+    m_window->insertLine("G99");
+    m_questioner->answers = {answer};
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(m_questioner->asked.size(), 1);
+    QVERIFY(m_questioner->asked.at(0).text.contains("It is too large."));
+    QCOMPARE(readFile(path("coil.cnc")) == "G01\n", answer == 0);
+    QCOMPARE(document()->isModified(), answer == 0);
+}
+
+void TestProgramGuard::removingWithUnsavedChangesAsks()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+    driver.then([this](QWidget *box) {
+        static_cast<QMessageBox *>(box)->button(QMessageBox::Yes)->click();
+        QTRY_COMPARE(m_questioner->asked.size(), 1);
+        static_cast<QMessageBox *>(box)->button(QMessageBox::No)->click();
+    });
+    press("RM");
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(!m_guard->isBusy());
+    QVERIFY(QFileInfo(path("coil.cnc")).exists());
+    QVERIFY(document()->toPlainText().contains("G99"));
+}
+
+void TestProgramGuard::failedRemovalIsTold()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    ::chmod(QFile::encodeName(programDir()), 0500);
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
+    driver.press(QMessageBox::Yes);
+    press("RM");
+    QTRY_VERIFY(wasTold("coil.cnc could not be removed", Message::Warning));
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    ::chmod(QFile::encodeName(programDir()), 0700);
+    QVERIFY(QFileInfo(path("coil.cnc")).exists());
+}
+
+FILARIX_TEST_MAIN(TestProgramGuard)
+#include "tst_programguard.moc"
