@@ -65,9 +65,10 @@ DurableFile::~DurableFile()
     cancel();
 }
 
-bool DurableFile::open()
+bool DurableFile::open(const QString &model)
 {
     m_error = 0;
+    m_hasReplaced = false;
     for (int i = 0; i < mostTries && m_handle < 0; ++i) {
         m_temporaryPath = temporaryPathFor(m_path);
         m_handle = ::open(encoded(m_temporaryPath).constData(),
@@ -78,7 +79,7 @@ bool DurableFile::open()
     if (m_handle < 0)
         return fail();
     struct stat old = {};
-    if (::stat(encoded(m_path).constData(), &old) != 0)
+    if (::stat(encoded(model.isEmpty() ? m_path : model).constData(), &old) != 0)
         return true;
     // The owner first: a change of it takes rights away.
     const bool isOwned = ::fchown(m_handle, old.st_uid, old.st_gid) == 0;
@@ -119,6 +120,7 @@ bool DurableFile::commit(const std::function<bool()> &mayReplace)
     if (std::rename(encoded(m_temporaryPath).constData(), encoded(m_path).constData()) != 0)
         return fail();
     m_temporaryPath.clear();
+    m_hasReplaced = true;
     return syncFolder(QFileInfo(m_path).path()) || fail();
 }
 

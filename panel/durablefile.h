@@ -25,8 +25,9 @@ public:
     /// What was not committed goes.
     ~DurableFile();
 
-    /// Makes the new file beside the path, hidden.
-    bool open();
+    /// Makes the new file beside the path, hidden. It gets the permissions and the owner of
+    /// \a model, if that is there; without a model, of what stands at the path.
+    bool open(const QString &model = QString());
     bool isOpen() const { return m_handle >= 0; }
     bool write(const QByteArray &bytes);
     /// Forces the bytes to the disk, asks \a mayReplace, the last that can prevent it, and gives
@@ -34,6 +35,9 @@ public:
     bool commit(const std::function<bool()> &mayReplace = std::function<bool()>());
     /// Drops the new file.
     void cancel();
+    /// Whether the new file has its name; also when it is not certain that the disk has, and
+    /// commit() failed for that.
+    bool hasReplaced() const { return m_hasReplaced; }
 
     /// The path that is written to.
     QString path() const { return m_path; }
@@ -59,6 +63,7 @@ private:
     QString m_temporaryPath;
     int m_handle = -1;
     int m_error = 0;
+    bool m_hasReplaced = false;
 };
 
 #endif // DURABLEFILE_H

@@ -9,13 +9,20 @@
 
 namespace {
 
-const int kPatienceMs = 1000;
+// What a step takes on storage that answers. More would be a wait for storage that hangs.
+const int partingMs = 100;
 
 } // namespace
 
 /// Where answers go; nowhere once the owner is gone, while its last piece of work may still run.
 struct FileThread::Link
 {
+    bool hasOwner()
+    {
+        const QMutexLocker lock(&mutex);
+        return owner;
+    }
+
     QMutex mutex;
     FileThread *owner;
 };
@@ -35,8 +42,19 @@ FileThread::~FileThread()
         const QMutexLocker lock(&m_link->mutex);
         m_link->owner = nullptr;
     }
-    m_thread->quit();
-    if (m_thread->wait(m_givenUp ? 0 : kPatienceMs)) {
+    // Behind the piece in hand: the loop would end without what was posted.
+    QThread *thread = m_thread;
+    const Work last = m_last;
+    m_last = Work();
+    QMetaObject::invokeMethod(
+        m_worker,
+        [thread, last] {
+            if (last)
+                last();
+            thread->quit();
+        },
+        Qt::QueuedConnection);
+    if (m_thread->wait(m_givenUp ? 0 : partingMs)) {
         delete m_thread;
         return;
     }
@@ -51,6 +69,8 @@ void FileThread::post(const Work &work, const Work &answer)
 {
     const std::shared_ptr<Link> link = m_link;
     const auto run = [link, work, answer] {
+        if (!link->hasOwner())
+            return;
         work();
         const QMutexLocker lock(&link->mutex);
         if (link->owner)

@@ -23,13 +23,15 @@ public:
 
     FileThread();
     /// The piece of work in hand ends, those behind it are dropped, and so is every answer. One
-    /// that hangs is left behind with its thread, at once after giveUp() and else after a second.
+    /// that hangs is left behind with its thread, at once after giveUp() and else after a moment.
     ~FileThread() override;
 
     /// Runs \a work in the thread, behind what was posted before, and then \a answer from the event
     /// loop of this object's thread. What the work uses must belong to it: the object that posted
     /// it may be gone by then.
     void post(const Work &work, const Work &answer);
+    /// What the thread does at its end, whatever else is dropped: to close what is open.
+    void setLast(const Work &last) { m_last = last; }
     /// Nobody waits for the work in hand any more.
     void giveUp() { m_givenUp = true; }
 
@@ -39,6 +41,7 @@ private:
     std::shared_ptr<Link> m_link;
     QThread *m_thread;
     QObject *m_worker;
+    Work m_last;
     bool m_givenUp = false;
 };
 

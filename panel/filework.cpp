@@ -3,16 +3,36 @@
 
 #include "filework.h"
 
-const int FileWork::kStallMs;
+const int FileWork::stallMs;
+
+void FileTask::giveUp()
+{
+    m_isUncertain = m_state.fetch_or(GivenUp) & Changing;
+}
+
+bool FileTask::beginChange()
+{
+    int idle = Idle;
+    return m_state.compare_exchange_strong(idle, Changing);
+}
+
+void FileTask::endChange()
+{
+    m_state.fetch_and(~Changing);
+}
 
 FileWork::FileWork(QObject *parent) : QObject(parent)
 {
     m_stall.setSingleShot(true);
-    m_stall.setInterval(kStallMs);
+    m_stall.setInterval(stallMs);
     connect(&m_stall, &QTimer::timeout, this, &FileWork::giveUp);
 }
 
-FileWork::~FileWork() = default;
+FileWork::~FileWork()
+{
+    if (isRunning())
+        abandon();
+}
 
 void FileWork::start(const std::shared_ptr<FileTask> &task)
 {
@@ -71,8 +91,19 @@ void FileWork::close()
 
 void FileWork::giveUp()
 {
+    abandon();
     m_thread->giveUp();
     m_thread.reset();
-    m_task.reset();
     Q_EMIT stalled();
+}
+
+// The task lets go of its files in the thread, when the step in hand has come back.
+void FileWork::abandon()
+{
+    const std::shared_ptr<FileTask> task = m_task;
+    m_task.reset();
+    task->giveUp();
+    if (task->isUncertain())
+        m_uncertain = task;
+    m_thread->setLast([task] { task->close(); });
 }

@@ -9,10 +9,20 @@
 #include <QScopedPointer>
 #include <QTimer>
 
+#include <atomic>
+
 /// Long work on files, cut into steps.
 ///
 /// All of it runs in a FileThread, one step at a time; between two steps nothing does, so whoever
 /// started the work may read it then.
+///
+/// A task that is given up, because a step hangs, changes nothing from then on, however late the
+/// step comes back. For that it asks before whatever others can see, right before it does so:
+///
+///     if (!beginChange())
+///         return false;
+///     rename(...);
+///     endChange();
 class FileTask
 {
 public:
@@ -23,11 +33,29 @@ public:
     virtual bool step() = 0;
     /// How much is done, 0 to 100.
     virtual int percent() const { return 0; }
-    /// Lets go of all files: the work ended, or will not go on.
+    /// Lets go of all files: the work ended, or will not go on. In the thread, maybe repeatedly.
     virtual void close() {}
 
+    /// Takes the right to change anything away, for ever; never waits.
+    void giveUp();
+    bool isGivenUp() const { return m_state & GivenUp; }
+    /// Whether a change was being made when the task was given up: it may happen, or not.
+    bool isUncertain() const { return m_isUncertain; }
+    /// Whether a change is being made at this moment.
+    bool isChanging() const { return m_state & Changing; }
+
+protected:
+    /// In the thread: whether something may be changed now. Then endChange() has to follow.
+    bool beginChange();
+    void endChange();
+
 private:
+    enum State { Idle = 0, Changing = 1, GivenUp = 2 };
+
     Q_DISABLE_COPY(FileTask)
+
+    std::atomic<int> m_state{Idle};
+    bool m_isUncertain = false;
 };
 
 /// Runs one FileTask at a time beside the event loop, tells how far it is, and can stop it.
@@ -40,7 +68,7 @@ class FileWork : public QObject
 
 public:
     /// Milliseconds that one step may take before the work counts as stalled.
-    static const int kStallMs = 15000;
+    static const int stallMs = 15000;
 
     explicit FileWork(QObject *parent = nullptr);
     ~FileWork() override;
@@ -51,6 +79,9 @@ public:
     /// Lets the step in hand end, and no other begin.
     void stop();
     void setStallTime(int ms) { m_stall.setInterval(ms); }
+    /// Whether a task that was given up still makes a change: who starts the next one now cannot
+    /// know what there will be in the end.
+    bool hasChangeUnderWay() const { return m_uncertain && m_uncertain->isChanging(); }
 
 Q_SIGNALS:
     void progressed(int percent);
@@ -58,7 +89,8 @@ Q_SIGNALS:
     void ended();
     /// stop() came before that.
     void stopped();
-    /// A step did not return in time. It was given up: nobody may touch the task any more.
+    /// A step did not return in time. It was given up: of the task, nobody may touch any more what
+    /// the thread may.
     void stalled();
 
 private:
@@ -67,10 +99,12 @@ private:
     void post();
     void answer(Step step);
     void giveUp();
+    void abandon();
     void close();
 
     QScopedPointer<FileThread> m_thread;
     std::shared_ptr<FileTask> m_task;
+    std::shared_ptr<FileTask> m_uncertain;
     QTimer m_stall;
     bool m_stopping = false;
 };

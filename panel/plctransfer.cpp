@@ -3,25 +3,38 @@
 
 #include "plctransfer.h"
 
+#include "durablefile.h"
+#include "filestamp.h"
+
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
 const int PlcTransfer::kPiece;
 const qint64 PlcTransfer::kLargestProgram;
 
+namespace {
+
+// No download lasts so long: what is older was left behind by a panel that was switched off.
+const qint64 leftBehindMs = 24 * 60 * 60 * 1000;
+
+} // namespace
+
 /// The transfer itself, in the thread.
 class PlcTransfer::Task : public FileTask
 {
 public:
-    Task(const QString &programPath, const QString &copyPath, const QString &dropDir)
+    Task(const QString &programPath, const QString &copyPath, const QString &dropDir,
+         const QByteArray &hash)
         : m_program(programPath)
+        , m_name(m_program.fileName())
         , m_source(copyPath.isEmpty() ? programPath : copyPath)
         , m_dropDir(dropDir)
-        , m_targetPath(QDir(dropDir).filePath(m_program.fileName()))
+        , m_targetPath(QDir(dropDir).filePath(m_name))
+        , m_shownHash(hash)
     {}
 
     bool step() override;
@@ -32,25 +45,37 @@ public:
     QString targetPath() const { return m_targetPath; }
     qint64 size() const { return m_size; }
     /// The program has taken its name in the PLC's folder.
-    bool hasArrived() const { return m_stage >= OpeningArrived; }
+    bool hasArrived() const { return m_hasArrived; }
+    QString name() const { return m_name; }
+    /// Lets the task end with that error, before it began.
+    void refuse(const QString &error) { m_error = error; }
 
 private:
     enum Stage { Opening, Sending, Committing, OpeningArrived, Comparing };
 
     bool open();
+    void sweep();
     bool sendPiece();
     bool commit();
     bool openArrived();
     bool comparePiece();
+    bool takeOut();
     bool fail(const QString &error);
 
     const QFileInfo m_program;
+    const QString m_name;
     QFile m_source;
     const QString m_dropDir;
     const QString m_targetPath;
-    QScopedPointer<QSaveFile> m_target;
+    const QByteArray m_shownHash;
+    QCryptographicHash m_hash{QCryptographicHash::Sha256};
+    QScopedPointer<DurableFile> m_target;
     QFile m_arrived;
+    /// Of what was sent, under whatever name.
+    qint64 m_ownInode = 0;
     Stage m_stage = Opening;
+    /// Read by whoever gave the task up.
+    std::atomic<bool> m_hasArrived{false};
     qint64 m_size = 0;
     qint64 m_position = 0;
     QString m_error;
@@ -58,6 +83,8 @@ private:
 
 bool PlcTransfer::Task::step()
 {
+    if (!m_error.isEmpty())
+        return false;
     switch (m_stage) {
     case Opening:
         return open();
@@ -95,11 +122,28 @@ bool PlcTransfer::Task::open()
     if (!m_source.open(QIODevice::ReadOnly))
         return fail(tr("The program %1 cannot be read: %2.").arg(name, m_source.errorString()));
     m_size = m_source.size();
-    m_target.reset(new QSaveFile(m_targetPath));
-    if (!m_target->open(QIODevice::WriteOnly))
+    sweep();
+    m_target.reset(new DurableFile(m_targetPath));
+    if (!m_target->open())
         return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
     m_stage = Sending;
     return true;
+}
+
+// What a panel that was switched off has left there, and nothing that is somebody else's.
+void PlcTransfer::Task::sweep()
+{
+    const QDir folder(m_dropDir);
+    const QStringList names = folder.entryList(QDir::Files | QDir::NoSymLinks | QDir::Hidden);
+    for (const QString &name : names) {
+        const QString path = folder.filePath(name);
+        if (!DurableFile::isTemporary(name) || FileStamp::of(path).age() < leftBehindMs)
+            continue;
+        if (!beginChange())
+            return;
+        QFile::remove(path);
+        endChange();
+    }
 }
 
 bool PlcTransfer::Task::sendPiece()
@@ -108,7 +152,8 @@ bool PlcTransfer::Task::sendPiece()
     if (piece.isEmpty() && m_position < m_size)
         return fail(tr("The program %1 cannot be read: %2.")
                         .arg(m_program.fileName(), m_source.errorString()));
-    if (m_target->write(piece) != piece.size())
+    m_hash.addData(piece);
+    if (!m_target->write(piece))
         return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
     m_position += piece.size();
     if (m_position == m_size)
@@ -118,7 +163,21 @@ bool PlcTransfer::Task::sendPiece()
 
 bool PlcTransfer::Task::commit()
 {
-    if (!m_target->commit())
+    if (!m_shownHash.isEmpty() && m_hash.result() != m_shownHash)
+        return fail(tr("The copy of %1 has changed since it was shown, and was not sent. Download "
+                       "once more.")
+                        .arg(name()));
+    bool mayReplace = false;
+    m_ownInode = FileStamp::of(m_target->temporaryPath()).inode;
+    const bool isDone = m_target->commit([&] { return mayReplace = beginChange(); });
+    m_hasArrived = m_target->hasReplaced();
+    if (mayReplace)
+        endChange();
+    if (!isDone && m_hasArrived)
+        return fail(tr("%1 is in the PLC, but the PLC does not say that it is stored: %2. Download "
+                       "once more.")
+                        .arg(name(), m_target->errorString()));
+    if (!isDone)
         return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
     m_position = 0;
     m_stage = OpeningArrived;
@@ -140,14 +199,26 @@ bool PlcTransfer::Task::comparePiece()
     // At the end of the program one more read has to find the end of the file.
     const QByteArray piece = m_arrived.read(kPiece);
     const QByteArray sent = m_source.read(std::min<qint64>(kPiece, m_size - m_position));
-    if (piece != sent) {
-        m_arrived.close();
-        QFile::remove(m_targetPath);
-        return fail(tr("What arrived in the PLC differs from what was sent. It was taken out "
-                       "again; download once more."));
-    }
+    if (piece != sent)
+        return takeOut();
     m_position += piece.size();
     return !piece.isEmpty();
+}
+
+// Only what was sent: in a folder that others write to, the name may have passed on.
+bool PlcTransfer::Task::takeOut()
+{
+    m_arrived.close();
+    if (FileStamp::of(m_targetPath).inode == m_ownInode && beginChange()) {
+        const bool isOut = QFile::remove(m_targetPath);
+        endChange();
+        if (isOut)
+            return fail(tr("What arrived in the PLC differs from what was sent. It was taken out "
+                           "again; download once more."));
+    }
+    return fail(tr("What is in the PLC as %1 differs from what was sent. Do not run it; download "
+                   "once more.")
+                    .arg(name()));
 }
 
 // Both stages count alike.
@@ -181,11 +252,15 @@ PlcTransfer::PlcTransfer(const QString &dropDir, QObject *parent)
 
 PlcTransfer::~PlcTransfer() = default;
 
-void PlcTransfer::start(const QString &programPath, const QString &copyPath)
+void PlcTransfer::start(const QString &programPath, const QString &copyPath, const QByteArray &hash)
 {
     if (isRunning())
         return;
-    m_task = std::make_shared<Task>(programPath, copyPath, m_dropDir);
+    m_task = std::make_shared<Task>(programPath, copyPath, m_dropDir, hash);
+    // It could take its name back from what is sent now, long after that was compared.
+    if (m_work.hasChangeUnderWay())
+        m_task->refuse(tr("The PLC has not said yet what became of the last download. Wait for it, "
+                          "or switch the PLC off and on, then download once more."));
     m_work.start(m_task);
 }
 
@@ -207,14 +282,23 @@ void PlcTransfer::endStopped()
 {
     const bool hasArrived = m_task->hasArrived();
     m_task.reset();
-    Q_EMIT failed(hasArrived ? tr("The download was stopped before the program in the PLC was "
-                                  "compared. Download it once more.")
-                             : tr("The download was stopped. The PLC keeps what it had."));
+    Q_EMIT stopped(hasArrived ? tr("The download was stopped before the program in the PLC was "
+                                   "compared. Download it once more.")
+                              : tr("The download was stopped. The PLC keeps what it had."));
 }
 
 void PlcTransfer::endStalled()
 {
-    m_task.reset();
-    Q_EMIT failed(tr("The PLC stopped answering in the middle of the download. Check the PLC and "
-                     "its cable, then download once more."));
+    const std::shared_ptr<Task> task = std::move(m_task);
+    if (task->isUncertain())
+        Q_EMIT failed(tr("The PLC stopped answering while it took %1: which of the two it holds is "
+                         "not known. Check the PLC, then download once more.")
+                          .arg(task->name()));
+    else if (task->hasArrived())
+        Q_EMIT failed(tr("%1 is in the PLC, but the PLC stopped answering before it was compared. "
+                         "Check the PLC, then download once more.")
+                          .arg(task->name()));
+    else
+        Q_EMIT failed(tr("The PLC stopped answering in the middle of the download. Check the PLC "
+                         "and its cable, then download once more."));
 }

@@ -12,7 +12,12 @@
 /// program takes its name in the folder only once it is complete, and is then read back and
 /// compared byte by byte with what was sent.
 ///
-/// Each start() ends in exactly one finished() or failed(), never before start() has returned.
+/// A transfer that hangs is given up, and changes nothing from then on. If it hangs in the middle
+/// of the one step that gives the program its name, the operator is told that nobody knows, and no
+/// other begins before that step has come back.
+///
+/// Each start() ends in exactly one finished(), stopped() or failed(), never before start() has
+/// returned.
 ///
 ///     PlcTransfer transfer("/srv/plc");
 ///     connect(&transfer, &PlcTransfer::failed, ...);
@@ -35,13 +40,15 @@ public:
     bool isRunning() const { return m_work.isRunning(); }
 
     /// Starts to send the file at \a programPath; empty when the program was never saved. With
-    /// \a copyPath that file is sent, under the program's name. Does nothing while a transfer runs.
-    void start(const QString &programPath, const QString &copyPath = QString());
-    /// Gives up a running transfer, which then fails; what the PLC had before stays, unless the
-    /// program stands there already.
+    /// \a copyPath that file is sent, under the program's name. With \a hash, the SHA-256 of what
+    /// the operator was shown, nothing else is sent. Does nothing while a transfer runs.
+    void start(const QString &programPath, const QString &copyPath = QString(),
+               const QByteArray &hash = QByteArray());
+    /// Ends a running transfer; what the PLC had before stays, unless the program stands there
+    /// already.
     void stop();
 
-    /// Milliseconds without progress after which a transfer fails; FileWork::kStallMs at first.
+    /// Milliseconds without progress after which a transfer fails; FileWork::stallMs at first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
 Q_SIGNALS:
@@ -49,6 +56,8 @@ Q_SIGNALS:
     void progress(int percent);
     /// All \a bytes stand in the file \a target and equal what was sent.
     void finished(const QString &target, qint64 bytes);
+    /// stop() came before the end. \a text says what the PLC has now.
+    void stopped(const QString &text);
     /// \a reason is a sentence for the operator, and says what to do.
     void failed(const QString &reason);
 

@@ -117,10 +117,14 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_snapshot, &ProgramSnapshot::taken, this, &ProgramScreen::askForDownload);
     connect(m_snapshot, &ProgramSnapshot::failed, this,
             [this](const QString &reason) { endDownload(reason, Message::Warning); });
+    connect(m_snapshot, &ProgramSnapshot::stopped, this,
+            [this](const QString &text) { endDownload(text, Message::Information); });
     connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showSending);
     connect(m_transfer, &PlcTransfer::finished, m_snapshot, &ProgramSnapshot::compare);
     connect(m_transfer, &PlcTransfer::failed, this,
             [this](const QString &reason) { endDownload(reason, Message::Warning); });
+    connect(m_transfer, &PlcTransfer::stopped, this,
+            [this](const QString &text) { endDownload(text, Message::Information); });
     connect(m_snapshot, &ProgramSnapshot::compared, this, &ProgramScreen::endSent);
 
     m_guard->setOtherPlace([] { return Stick::isPresent() ? Stick::mountPoint() : QString(); });
@@ -289,7 +293,7 @@ void ProgramScreen::askForDownload()
     if (question.exec() != QDialog::Accepted)
         return endDownload(tr("Nothing was sent. The PLC keeps what it had."),
                            Message::Information);
-    m_transfer->start(m_snapshot->programPath(), m_snapshot->copyPath());
+    m_transfer->start(m_snapshot->programPath(), m_snapshot->copyPath(), m_snapshot->facts().hash);
 }
 
 // Most programs are copied in the twinkling of an eye.

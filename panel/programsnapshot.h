@@ -28,8 +28,11 @@ struct ProgramFacts
 
 /// A private copy of one program, so that what is sent is what the operator was shown.
 ///
-/// Each take() ends in exactly one taken() or failed(), each compare() in one compared(), never
-/// before the call has returned.
+/// Each copy has a name of its own and is locked for as long as it is wanted: several panels may
+/// share the folder. All work on files is done in threads.
+///
+/// Each take() ends in exactly one taken(), stopped() or failed(), each compare() in one
+/// compared(), never before the call has returned.
 class ProgramSnapshot : public QObject
 {
     Q_OBJECT
@@ -45,7 +48,8 @@ public:
     /// Bytes that move in one step.
     static const int kPiece = 64 * 1024;
 
-    /// \a folder, made if it is missing, is the snapshot's own; what another run left there goes.
+    /// \a folder, made if it is missing, is for copies alone; what a panel left there that runs no
+    /// more goes.
     explicit ProgramSnapshot(const QString &folder, QObject *parent = nullptr);
     /// Takes the copy away.
     ~ProgramSnapshot() override;
@@ -55,14 +59,15 @@ public:
     void take(const QString &path);
     /// Whether the program still is what was taken. Does nothing while work runs.
     void compare();
-    /// Gives up a take(), which then fails.
+    /// Ends a take().
     void stop();
     /// Takes the copy away.
     void drop();
 
-    /// Path of the program that was taken, and of its copy.
+    /// Path of the program that was taken.
     QString programPath() const { return m_path; }
-    QString copyPath() const { return m_copyPath; }
+    /// Path of its copy; empty when there is none.
+    QString copyPath() const;
     ProgramFacts facts() const { return m_facts; }
 
     void setStallTime(int ms) { m_work.setStallTime(ms); }
@@ -70,20 +75,26 @@ public:
 Q_SIGNALS:
     void progress(int percent);
     void taken();
+    /// stop() came before that. \a text is a sentence for the operator.
+    void stopped(const QString &text);
     /// \a reason is a sentence for the operator.
     void failed(const QString &reason);
     void compared(ProgramSnapshot::Verdict verdict);
 
 private:
+    class Copy;
     class Task;
 
-    void begin(const QString &copyPath);
+    void begin(const std::shared_ptr<Copy> &copy);
     void end();
-    void giveUp(const QString &reason);
+    void endStopped();
+    void endStalled();
 
-    const QString m_copyPath;
+    const QString m_folder;
     QString m_path;
     ProgramFacts m_facts;
+    std::shared_ptr<Copy> m_copy;
+    FileThread m_keeper;
     FileWork m_work;
     std::shared_ptr<Task> m_task;
     bool m_comparing = false;

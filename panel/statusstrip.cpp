@@ -95,6 +95,7 @@ void StatusStrip::follow(const PlcTransfer *transfer)
     connect(transfer, &PlcTransfer::progress, this, &StatusStrip::noteProgress);
     connect(transfer, &PlcTransfer::finished, this, [this] { noteEnd(false); });
     connect(transfer, &PlcTransfer::failed, this, [this] { noteEnd(true); });
+    connect(transfer, &PlcTransfer::stopped, this, &StatusStrip::noteStop);
 }
 
 StatusStrip::Plc StatusStrip::plc() const
@@ -134,7 +135,6 @@ void StatusStrip::changeEvent(QEvent *event)
 void StatusStrip::noteProgress(int percent)
 {
     m_percent = percent;
-    m_hasFailed = false;
     showPlc();
 }
 
@@ -142,6 +142,13 @@ void StatusStrip::noteEnd(bool failed)
 {
     // One that was refused before it began says nothing of the PLC.
     m_hasFailed = failed && m_percent >= 0;
+    m_percent = -1;
+    showPlc();
+}
+
+// What the operator stopped says nothing of the PLC either.
+void StatusStrip::noteStop()
+{
     m_percent = -1;
     showPlc();
 }

@@ -66,6 +66,7 @@ protected:
 private:
     void noteProgress(int percent);
     void noteEnd(bool failed);
+    void noteStop();
     void showAll();
     void showPlc();
     void showStick();

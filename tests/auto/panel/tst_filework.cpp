@@ -17,7 +17,15 @@ struct Record
     QAtomicInt inMainThread;
     /// A step that this bars hangs.
     QSemaphore gate;
+    /// What the task was told when it asked whether it may change something.
+    QAtomicInt mayChange{-1};
+    QAtomicInt closedInMainThread;
 };
+
+static bool isMainThread()
+{
+    return QThread::currentThread() == QCoreApplication::instance()->thread();
+}
 
 class CountingTask : public FileTask
 {
@@ -28,7 +36,7 @@ public:
 
     bool step() override
     {
-        if (QThread::currentThread() == QCoreApplication::instance()->thread())
+        if (isMainThread())
             m_record->inMainThread.ref();
         m_record->steps.ref();
         if (m_isGated)
@@ -36,13 +44,48 @@ public:
         return ++m_done < m_steps;
     }
     int percent() const override { return 100 * m_done / m_steps; }
-    void close() override { m_record->closes.ref(); }
+    void close() override
+    {
+        m_record->closes.ref();
+        if (isMainThread())
+            m_record->closedInMainThread.ref();
+    }
 
 private:
     const int m_steps;
     const bool m_isGated;
     const std::shared_ptr<Record> m_record;
     int m_done = 0;
+};
+
+/// Hangs before it asks whether it may change something, or in the middle of the change.
+class ChangingTask : public FileTask
+{
+public:
+    enum Place { Before, Within };
+
+    ChangingTask(Place place, const std::shared_ptr<Record> &record)
+        : m_place(place), m_record(record)
+    {}
+
+    bool step() override
+    {
+        m_record->steps.ref();
+        if (m_place == Before)
+            m_record->gate.acquire();
+        const bool mayChange = beginChange();
+        m_record->mayChange.store(mayChange);
+        if (m_place == Within)
+            m_record->gate.acquire();
+        if (mayChange)
+            endChange();
+        return true;
+    }
+    void close() override { m_record->closes.ref(); }
+
+private:
+    const Place m_place;
+    const std::shared_ptr<Record> m_record;
 };
 
 class TestFileWork : public FilarixTest
@@ -56,6 +99,11 @@ private Q_SLOTS:
     void stepThatHangsIsGivenUp();
     void destructionDropsTheAnswer();
     void destructionDoesNotWaitForWhatWasGivenUp();
+    void destructionDoesNotWaitForAStepThatHangs();
+    void taskThatWasGivenUpChangesNothing_data();
+    void taskThatWasGivenUpChangesNothing();
+    void changeThatHangsIsUncertain();
+    void changesFollowOneAnother();
 };
 
 void TestFileWork::stepsRunOneAfterAnotherInAThread()
@@ -120,7 +168,7 @@ void TestFileWork::stepThatHangsIsGivenUp()
     QVERIFY(!work.isRunning());
 
     // The next task has a thread of its own.
-    work.setStallTime(FileWork::kStallMs);
+    work.setStallTime(FileWork::stallMs);
     const std::shared_ptr<Record> next = std::make_shared<Record>();
     work.start(std::make_shared<CountingTask>(2, next));
     QTRY_COMPARE(ends.size(), 1);
@@ -164,6 +212,95 @@ void TestFileWork::destructionDoesNotWaitForWhatWasGivenUp()
     QVERIFY2(timer.elapsed() < 900, qPrintable(QString::number(timer.elapsed())));
     record->gate.release();
     QTRY_COMPARE(long(record.use_count()), 1L);
+}
+
+void TestFileWork::destructionDoesNotWaitForAStepThatHangs()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    QElapsedTimer timer;
+    {
+        FileWork work;
+        work.start(std::make_shared<CountingTask>(5, record, true));
+        QTRY_COMPARE(record->steps.load(), 1);
+        timer.start();
+    }
+    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    // Its files are closed when the step comes back, and not by us.
+    QCOMPARE(record->closes.load(), 0);
+    record->gate.release();
+    QTRY_COMPARE(long(record.use_count()), 1L);
+    QCOMPARE(record->closes.load(), 1);
+    QCOMPARE(record->closedInMainThread.load(), 0);
+}
+
+void TestFileWork::taskThatWasGivenUpChangesNothing_data()
+{
+    QTest::addColumn<bool>("isDestroyed");
+    QTest::newRow("it stalled") << false;
+    QTest::newRow("whoever wanted it is gone") << true;
+}
+
+void TestFileWork::taskThatWasGivenUpChangesNothing()
+{
+    QFETCH(bool, isDestroyed);
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    QScopedPointer<FileWork> work(new FileWork);
+    QSignalSpy stalls(work.data(), SIGNAL(stalled()));
+    work->setStallTime(isDestroyed ? FileWork::stallMs : 50);
+    const std::shared_ptr<FileTask> task =
+        std::make_shared<ChangingTask>(ChangingTask::Before, record);
+    work->start(task);
+    QTRY_COMPARE(record->steps.load(), 1);
+    if (isDestroyed)
+        work.reset();
+    else
+        QTRY_COMPARE(stalls.size(), 1);
+    QVERIFY(task->isGivenUp());
+    QVERIFY(!task->isUncertain());
+    QVERIFY(isDestroyed || !work->hasChangeUnderWay());
+    record->gate.release();
+    QTRY_COMPARE(record->closes.load(), 1);
+    QCOMPARE(record->mayChange.load(), 0);
+}
+
+void TestFileWork::changeThatHangsIsUncertain()
+{
+    const std::shared_ptr<Record> record = std::make_shared<Record>();
+    FileWork work;
+    work.setStallTime(50);
+    QSignalSpy stalls(&work, SIGNAL(stalled()));
+    const std::shared_ptr<FileTask> task =
+        std::make_shared<ChangingTask>(ChangingTask::Within, record);
+    work.start(task);
+    QTRY_COMPARE(stalls.size(), 1);
+    QCOMPARE(record->mayChange.load(), 1);
+    QVERIFY(task->isUncertain());
+    QVERIFY(work.hasChangeUnderWay());
+    // And known again to whoever asks once it has come back.
+    record->gate.release();
+    QTRY_VERIFY(!work.hasChangeUnderWay());
+    QTRY_COMPARE(record->closes.load(), 1);
+}
+
+void TestFileWork::changesFollowOneAnother()
+{
+    class Open : public FileTask
+    {
+    public:
+        bool step() override { return false; }
+        using FileTask::beginChange;
+        using FileTask::endChange;
+    };
+    Open task;
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(task.beginChange());
+        QVERIFY(task.isChanging());
+        task.endChange();
+        QVERIFY(!task.isChanging());
+    }
+    task.giveUp();
+    QVERIFY(!task.beginChange());
+    QVERIFY(!task.isUncertain());
 }
 
 FILARIX_TEST_MAIN(TestFileWork)

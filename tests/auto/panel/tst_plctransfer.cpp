@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "filecalls.h"
 #include "plctransfer.h"
 
+#include <QCryptographicHash>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -19,6 +23,7 @@ class TestPlcTransfer : public FilarixTest
 
 private Q_SLOTS:
     void init();
+    void cleanup();
     void programArrivesByteForByte_data();
     void programArrivesByteForByte();
     void progressRisesTo100();
@@ -35,6 +40,13 @@ private Q_SLOTS:
     void stopKeepsWhatThePlcHad();
     void stopAfterTheArrivalTellsThatNothingWasCompared();
     void stalledTransferFails();
+    void arrivalOfAnotherIsNotTakenOut();
+    void copyThatChangedIsNotSent();
+    void stalledSyncRenamesNothing();
+    void renameThatHangsIsToldAsNotKnown();
+    void destructionLetsNothingBeRenamed();
+    void nobodyWaitsForAFolderThatHangs();
+    void whatAKilledPanelLeftGoesAfterADay();
     void secondStartWhileRunningDoesNothing();
     void oneTransferAfterAnother();
 
@@ -57,6 +69,50 @@ void TestPlcTransfer::init()
     QVERIFY(QDir().mkpath(m_plc));
     programDir();
 }
+
+void TestPlcTransfer::cleanup()
+{
+    FileCalls::reset();
+    FilarixTest::cleanup();
+}
+
+static void setAge(const QString &path, qint64 seconds)
+{
+    const time_t then = ::time(nullptr) - time_t(seconds);
+    const struct timespec times[2] = {{then, 0}, {then, 0}};
+    QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
+}
+
+/// Lets the first file that is forced to the disk in a folder hang until it is let go.
+class Hanging
+{
+public:
+    explicit Hanging(const QString &folder)
+        : m_folder(QFile::encodeName(folder)), m_gate(std::make_shared<QSemaphore>())
+    {}
+    ~Hanging() { release(); }
+
+    bool holds(const QByteArray &path)
+    {
+        if (!path.startsWith(m_folder + '/') || !m_hasHung.testAndSetOrdered(0, 1))
+            return false;
+        const std::shared_ptr<QSemaphore> gate = m_gate;
+        gate->acquire();
+        return true;
+    }
+    bool isHanging() const { return m_hasHung.load() && !m_isReleased; }
+    void release()
+    {
+        m_isReleased = true;
+        m_gate->release();
+    }
+
+private:
+    const QByteArray m_folder;
+    const std::shared_ptr<QSemaphore> m_gate;
+    QAtomicInt m_hasHung;
+    bool m_isReleased = false;
+};
 
 void TestPlcTransfer::programArrivesByteForByte_data()
 {
@@ -267,14 +323,16 @@ void TestPlcTransfer::stopKeepsWhatThePlcHad()
     writeFile(programDir() + "/coil.cnc", longProgram());
     PlcTransfer transfer(m_plc);
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    QSignalSpy stops(&transfer, SIGNAL(stopped(QString)));
     connect(&transfer, &PlcTransfer::progress, [&](int percent) {
         if (percent >= 20 && percent < 50)
             transfer.stop();
     });
     transfer.start(programDir() + "/coil.cnc");
-    QTRY_COMPARE(failures.size(), 1);
+    QTRY_COMPARE(stops.size(), 1);
+    QCOMPARE(failures.size(), 0);
     QVERIFY(!transfer.isRunning());
-    QVERIFY(failures.at(0).at(0).toString().contains("keeps what it had"));
+    QVERIFY(stops.at(0).at(0).toString().contains("keeps what it had"));
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
     // What was sent by then goes in the thread.
     QTRY_COMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
@@ -284,7 +342,8 @@ void TestPlcTransfer::stopKeepsWhatThePlcHad()
     writeFile(programDir() + "/short.cnc", "G01\n");
     transfer.start(programDir() + "/short.cnc");
     QTRY_COMPARE(ends.size(), 1);
-    QCOMPARE(failures.size(), 1);
+    QCOMPARE(stops.size(), 1);
+    QCOMPARE(failures.size(), 0);
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
 }
 
@@ -294,13 +353,15 @@ void TestPlcTransfer::stopAfterTheArrivalTellsThatNothingWasCompared()
     writeFile(programDir() + "/coil.cnc", longProgram());
     PlcTransfer transfer(m_plc);
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    QSignalSpy stops(&transfer, SIGNAL(stopped(QString)));
     connect(&transfer, &PlcTransfer::progress, [&](int percent) {
         if (percent >= 60)
             transfer.stop();
     });
     transfer.start(programDir() + "/coil.cnc");
-    QTRY_COMPARE(failures.size(), 1);
-    QVERIFY(failures.at(0).at(0).toString().contains("compared"));
+    QTRY_COMPARE(stops.size(), 1);
+    QCOMPARE(failures.size(), 0);
+    QVERIFY(stops.at(0).at(0).toString().contains("compared"));
     QCOMPARE(readFile(m_plc + "/coil.cnc"), longProgram());
 }
 
@@ -338,6 +399,173 @@ void TestPlcTransfer::stalledTransferFails()
     transfer.start(programDir() + "/next.cnc");
     QTRY_COMPARE(ends.size(), 2);
     QCOMPARE(failures.size(), 1);
+}
+
+void TestPlcTransfer::arrivalOfAnotherIsNotTakenOut()
+{
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    PlcTransfer transfer(m_plc);
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    const QString target = m_plc + "/coil.cnc";
+    bool isReplaced = false;
+    connect(&transfer, &PlcTransfer::progress, [&](int) {
+        if (isReplaced || !QFileInfo(target).exists())
+            return;
+        writeFile(m_plc + "/theirs", "of another panel\n");
+        isReplaced = ::rename(QFile::encodeName(m_plc + "/theirs").constData(),
+                              QFile::encodeName(target).constData())
+                     == 0;
+    });
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(isReplaced);
+    QVERIFY2(failures.at(0).at(0).toString().contains("Do not run it"),
+             qPrintable(failures.at(0).at(0).toString()));
+    QCOMPARE(readFile(target), QByteArray("of another panel\n"));
+}
+
+void TestPlcTransfer::copyThatChangedIsNotSent()
+{
+    const QByteArray shown = longProgram();
+    const QByteArray hash = QCryptographicHash::hash(shown, QCryptographicHash::Sha256);
+    writeFile(m_plc + "/coil.cnc", "before\n");
+    writeFile(programDir() + "/coil.cnc", shown);
+    writeFile(home() + "/hmi/copy", QByteArray(shown).replace(shown.size() - 1, 1, "?"));
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc", home() + "/hmi/copy", hash);
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY2(failures.at(0).at(0).toString().contains("has changed since it was shown"),
+             qPrintable(failures.at(0).at(0).toString()));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
+    QCOMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
+
+    writeFile(home() + "/hmi/copy", shown);
+    transfer.start(programDir() + "/coil.cnc", home() + "/hmi/copy", hash);
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), shown);
+}
+
+void TestPlcTransfer::stalledSyncRenamesNothing()
+{
+    writeFile(m_plc + "/coil.cnc", "before\n");
+    writeFile(programDir() + "/coil.cnc", "the old one\n");
+    Hanging hanging(m_plc);
+    FileCalls::beforeSync = [&](const QByteArray &path) { hanging.holds(path); };
+    PlcTransfer transfer(m_plc);
+    transfer.setStallTime(200);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(hanging.isHanging());
+    QVERIFY(failures.at(0).at(0).toString().contains("in the middle of the download"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
+
+    transfer.setStallTime(FileWork::stallMs);
+    writeFile(programDir() + "/coil.cnc", "the new one\n");
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("the new one\n"));
+
+    // The first one's bytes reach the disk after all: it takes away what it had made, no more.
+    hanging.release();
+    QTRY_COMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden), QStringList("coil.cnc"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("the new one\n"));
+    QCOMPARE(failures.size(), 1);
+}
+
+void TestPlcTransfer::renameThatHangsIsToldAsNotKnown()
+{
+    writeFile(m_plc + "/coil.cnc", "before\n");
+    writeFile(programDir() + "/coil.cnc", "the old one\n");
+    Hanging hanging(m_plc);
+    FileCalls::beforeRename = [&](const QByteArray &from, const QByteArray &) {
+        hanging.holds(from);
+        return 0;
+    };
+    PlcTransfer transfer(m_plc);
+    transfer.setStallTime(200);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY2(failures.at(0).at(0).toString().contains("is not known"),
+             qPrintable(failures.at(0).at(0).toString()));
+
+    // What is compared now could be covered a moment later: nothing is sent.
+    writeFile(programDir() + "/coil.cnc", "the new one\n");
+    transfer.start(programDir() + "/coil.cnc");
+    QCOMPARE(failures.size(), 1);
+    QTRY_COMPARE(failures.size(), 2);
+    QVERIFY(failures.at(1).at(0).toString().contains("has not said yet"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
+
+    hanging.release();
+    QTRY_COMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("the old one\n"));
+    transfer.setStallTime(FileWork::stallMs);
+    // It has its name a moment before the thread says so.
+    const auto isSentInTheEnd = [&] {
+        transfer.start(programDir() + "/coil.cnc");
+        return ends.size() > 0;
+    };
+    QVERIFY2(QTest::qWaitFor(isSentInTheEnd), qPrintable(failures.last().at(0).toString()));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("the new one\n"));
+}
+
+void TestPlcTransfer::destructionLetsNothingBeRenamed()
+{
+    writeFile(m_plc + "/coil.cnc", "before\n");
+    writeFile(programDir() + "/coil.cnc", "the new one\n");
+    Hanging hanging(m_plc);
+    FileCalls::beforeSync = [&](const QByteArray &path) { hanging.holds(path); };
+    {
+        PlcTransfer transfer(m_plc);
+        transfer.start(programDir() + "/coil.cnc");
+        QTRY_VERIFY(hanging.isHanging());
+    }
+    hanging.release();
+    QTRY_COMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden), QStringList("coil.cnc"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
+}
+
+void TestPlcTransfer::nobodyWaitsForAFolderThatHangs()
+{
+    writeFile(programDir() + "/coil.cnc", longProgram());
+    Hanging hanging(m_plc);
+    FileCalls::beforeSync = [&](const QByteArray &path) { hanging.holds(path); };
+    QScopedPointer<PlcTransfer> transfer(new PlcTransfer(m_plc));
+    transfer->start(programDir() + "/coil.cnc");
+    QTRY_VERIFY(hanging.isHanging());
+    QElapsedTimer timer;
+    timer.start();
+    transfer->stop();
+    transfer->start(programDir() + "/coil.cnc");
+    PlcTransfer other(m_plc);
+    transfer.reset();
+    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    hanging.release();
+    QTRY_VERIFY(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+void TestPlcTransfer::whatAKilledPanelLeftGoesAfterADay()
+{
+    const QStringList kept{".filarix-b.cnc.abcdef012345", ".filarix-other", ".hidden.abcdef012345"};
+    for (const QString &name : kept)
+        writeFile(m_plc + '/' + name, "half");
+    writeFile(m_plc + "/.filarix-a.cnc.abcdef012345", "half");
+    setAge(m_plc + "/.filarix-a.cnc.abcdef012345", 25 * 3600);
+    setAge(m_plc + "/.filarix-b.cnc.abcdef012345", 23 * 3600);
+    setAge(m_plc + "/.filarix-other", 25 * 3600);
+    setAge(m_plc + "/.hidden.abcdef012345", 25 * 3600);
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    PlcTransfer transfer(m_plc);
+    QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
+    transfer.start(programDir() + "/coil.cnc");
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden, QDir::Name), QStringList(kept)
+                                                                                << "coil.cnc");
 }
 
 void TestPlcTransfer::secondStartWhileRunningDoesNothing()

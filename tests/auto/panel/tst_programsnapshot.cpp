@@ -6,11 +6,14 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QScopedPointer>
 #include <QSignalSpy>
 
+#include <csignal>
 #include <fcntl.h>
-#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 class TestProgramSnapshot : public FilarixTest
@@ -29,12 +32,16 @@ private Q_SLOTS:
     void programThatIsAlwaysWrittenFails();
     void failures_data();
     void failures();
-    void stopFails();
+    void stopIsNoFailure();
     void storageThatHangsFails();
     void copyGoes();
     void copyOfAnotherRunGoes();
+    void copyOfAnotherPanelStays();
+    void nobodyWaitsForStorageThatHangs();
 
 private:
+    QStringList copies() const;
+
     QString m_folder;
     QString m_path;
 };
@@ -50,6 +57,11 @@ void TestProgramSnapshot::init()
     qRegisterMetaType<ProgramSnapshot::Verdict>("ProgramSnapshot::Verdict");
     m_folder = home() + "/hmi/outgoing";
     m_path = programDir() + "/coil.cnc";
+}
+
+QStringList TestProgramSnapshot::copies() const
+{
+    return QDir(m_folder).entryList(QDir::Files | QDir::Hidden);
 }
 
 void TestProgramSnapshot::factsAndCopy_data()
@@ -192,36 +204,57 @@ void TestProgramSnapshot::failures()
     QVERIFY(!snapshot.isRunning());
 }
 
-void TestProgramSnapshot::stopFails()
+void TestProgramSnapshot::stopIsNoFailure()
 {
     writeFile(m_path, longProgram());
     ProgramSnapshot snapshot(m_folder);
     QSignalSpy taken(&snapshot, SIGNAL(taken()));
     QSignalSpy failures(&snapshot, SIGNAL(failed(QString)));
+    QSignalSpy stops(&snapshot, SIGNAL(stopped(QString)));
     connect(&snapshot, &ProgramSnapshot::progress, &snapshot, &ProgramSnapshot::stop);
     snapshot.take(m_path);
-    QTRY_COMPARE(failures.size(), 1);
+    QTRY_COMPARE(stops.size(), 1);
     QCOMPARE(taken.size(), 0);
-    QVERIFY(failures.at(0).at(0).toString().contains("stopped"));
+    QCOMPARE(failures.size(), 0);
+    QVERIFY(stops.at(0).at(0).toString().contains("stopped"));
+    QTRY_VERIFY(copies().isEmpty());
+}
+
+// A program that hangs when it is opened: the system waits until the lease is given back.
+static volatile std::sig_atomic_t leaseIsWanted = 0;
+
+static bool lease(QFile *file)
+{
+    leaseIsWanted = 0;
+    std::signal(SIGIO, [](int) { leaseIsWanted = 1; });
+    return file->open(QIODevice::ReadWrite) && ::fcntl(file->handle(), F_SETLEASE, F_WRLCK) == 0;
+}
+
+static bool release(QFile *file)
+{
+    return ::fcntl(file->handle(), F_SETLEASE, F_UNLCK) == 0;
 }
 
 void TestProgramSnapshot::storageThatHangsFails()
 {
-    // The copy's place hangs when it is opened: nobody reads from the pipe.
     writeFile(m_path, "G01\n");
+    QFile leased(m_path);
+    QVERIFY(lease(&leased));
     ProgramSnapshot snapshot(m_folder);
     snapshot.setStallTime(100);
-    QVERIFY(QDir().mkpath(m_folder));
-    const QByteArray pipe = QFile::encodeName(snapshot.copyPath());
-    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
     QSignalSpy failures(&snapshot, SIGNAL(failed(QString)));
+    QSignalSpy taken(&snapshot, SIGNAL(taken()));
     snapshot.take(m_path);
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(!snapshot.isRunning());
     QVERIFY(failures.at(0).at(0).toString().contains("storage stopped answering"));
-    const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
-    QVERIFY(reader >= 0);
-    ::close(reader);
+    QVERIFY(release(&leased));
+    // What hung leaves nothing behind, and does not come in the way of the next one.
+    snapshot.setStallTime(FileWork::stallMs);
+    snapshot.take(m_path);
+    QTRY_COMPARE(taken.size(), 1);
+    QTRY_COMPARE(copies().size(), 1);
+    QCOMPARE(readFile(snapshot.copyPath()), QByteArray("G01\n"));
 }
 
 void TestProgramSnapshot::copyGoes()
@@ -232,19 +265,98 @@ void TestProgramSnapshot::copyGoes()
         QSignalSpy taken(&snapshot, SIGNAL(taken()));
         snapshot.take(m_path);
         QTRY_COMPARE(taken.size(), 1);
+        QCOMPARE(copies().size(), 1);
         snapshot.drop();
-        QVERIFY(QDir(m_folder).entryList(QDir::Files | QDir::Hidden).isEmpty());
+        QVERIFY(snapshot.copyPath().isEmpty());
+        QTRY_VERIFY(copies().isEmpty());
         snapshot.take(m_path);
         QTRY_COMPARE(taken.size(), 2);
+        // Another one in its place.
+        snapshot.take(m_path);
+        QTRY_COMPARE(taken.size(), 3);
+        QTRY_COMPARE(copies().size(), 1);
     }
-    QVERIFY(QDir(m_folder).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QTRY_VERIFY(copies().isEmpty());
 }
 
 void TestProgramSnapshot::copyOfAnotherRunGoes()
 {
     writeFile(m_folder + "/program", "of a run that was killed\n");
+    writeFile(m_folder + "/program-0123456789abcdef", "of another one\n");
+    writeFile(m_folder + "/notes.txt", "by hand\n");
     ProgramSnapshot snapshot(m_folder);
-    QVERIFY(QDir(m_folder).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QTRY_COMPARE(copies(), QStringList("notes.txt"));
+}
+
+/// A panel that takes a copy, reports where that is, and runs until it is killed.
+static int panelWithACopy(const QString &folder, const QString &program)
+{
+    ProgramSnapshot snapshot(folder);
+    bool isTaken = false;
+    QObject::connect(&snapshot, &ProgramSnapshot::taken, [&] { isTaken = true; });
+    snapshot.take(program);
+    if (!QTest::qWaitFor([&] { return isTaken; }))
+        return 1;
+    const QByteArray report = QFile::encodeName(snapshot.copyPath()) + '\n';
+    if (::write(STDOUT_FILENO, report.constData(), size_t(report.size())) != report.size())
+        return 2;
+    for (;;)
+        ::pause();
+}
+
+void TestProgramSnapshot::copyOfAnotherPanelStays()
+{
+    writeFile(m_path, "shown on the first panel\n");
+    int ends[2];
+    QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::_exit(panelWithACopy(m_folder, m_path));
+    }
+    QVERIFY(child > 0);
+    ::close(ends[1]);
+    QByteArray copy;
+    char letter = 0;
+    while (::read(ends[0], &letter, 1) == 1 && letter != '\n')
+        copy += letter;
+    ::close(ends[0]);
+    QVERIFY(!copy.isEmpty());
+    {
+        ProgramSnapshot second(m_folder);
+        QSignalSpy taken(&second, SIGNAL(taken()));
+        writeFile(m_path, "another one\n");
+        second.take(m_path);
+        QTRY_COMPARE(taken.size(), 1);
+        QCOMPARE(copies().size(), 2);
+        second.drop();
+        QTRY_COMPARE(copies().size(), 1);
+    }
+    QCOMPARE(readFile(QFile::decodeName(copy)), QByteArray("shown on the first panel\n"));
+    QCOMPARE(::kill(child, SIGKILL), 0);
+    QCOMPARE(::waitpid(child, nullptr, 0), child);
+    // Nobody holds it any more.
+    QCOMPARE(copies().size(), 1);
+    ProgramSnapshot third(m_folder);
+    QTRY_VERIFY(copies().isEmpty());
+}
+
+void TestProgramSnapshot::nobodyWaitsForStorageThatHangs()
+{
+    writeFile(m_path, "G01\n");
+    QFile leased(m_path);
+    QVERIFY(lease(&leased));
+    QElapsedTimer timer;
+    QScopedPointer<ProgramSnapshot> snapshot(new ProgramSnapshot(m_folder));
+    snapshot->take(m_path);
+    QTRY_VERIFY(leaseIsWanted);
+    timer.start();
+    snapshot->stop();
+    snapshot->drop();
+    const ProgramSnapshot other(m_folder);
+    snapshot.reset();
+    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(release(&leased));
 }
 
 FILARIX_TEST_MAIN(TestProgramSnapshot)

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void plcComesAndGoes();
     void transferIsShown();
     void failedTransferStaysToBeSeen();
+    void stoppedTransferIsNoFailureOfThePlc();
     void refusedTransferIsNoFailureOfThePlc();
     void stickComesAndGoes();
     void storage_data();
@@ -105,17 +106,48 @@ void TestStatusStrip::failedTransferStaysToBeSeen()
     strip.follow(&transfer);
     strip.showDevices(devices(true, false, 0));
     writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
-    connect(&transfer, &PlcTransfer::progress, &transfer, &PlcTransfer::stop);
+    // What was sent is gone when it shall be read back.
+    const QMetaObject::Connection spoiling = connect(&transfer, &PlcTransfer::progress, this,
+                                                     [plc] { QFile::remove(plc + "/long.cnc"); });
     transfer.start(programDir() + "/long.cnc");
     QTRY_COMPARE(strip.plc(), StatusStrip::PlcFailed);
-    disconnect(&transfer, &PlcTransfer::progress, &transfer, &PlcTransfer::stop);
+    disconnect(spoiling);
     QCOMPARE(item(strip, "plcState")->text(), QString("failed"));
     QCOMPARE(item(strip, "plcState")->tone(), StatusItem::Alarm);
     strip.showDevices(devices(true, true, 0));
     QCOMPARE(strip.plc(), StatusStrip::PlcFailed);
+    // Nor is it forgotten for one that the operator stops.
+    QSignalSpy stops(&transfer, SIGNAL(stopped(QString)));
+    connect(&transfer, &PlcTransfer::progress, &transfer, &PlcTransfer::stop);
+    transfer.start(programDir() + "/long.cnc");
+    QTRY_COMPARE(stops.size(), 1);
+    QCOMPARE(strip.plc(), StatusStrip::PlcFailed);
+    disconnect(&transfer, &PlcTransfer::progress, &transfer, &PlcTransfer::stop);
     writeFile(programDir() + "/a.cnc", "G01\n");
     transfer.start(programDir() + "/a.cnc");
     QTRY_COMPARE(strip.plc(), StatusStrip::PlcReady);
+}
+
+void TestStatusStrip::stoppedTransferIsNoFailureOfThePlc()
+{
+    const QString plc = home() + "/plc";
+    QDir().mkpath(plc);
+    PlcTransfer transfer(plc);
+    StatusStrip strip(false);
+    strip.follow(&transfer);
+    strip.showDevices(devices(true, false, 0));
+    writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
+    bool wasSending = false;
+    connect(&transfer, &PlcTransfer::progress, &transfer, [&] {
+        wasSending = strip.plc() == StatusStrip::PlcSending;
+        transfer.stop();
+    });
+    QSignalSpy stops(&transfer, SIGNAL(stopped(QString)));
+    transfer.start(programDir() + "/long.cnc");
+    QTRY_COMPARE(stops.size(), 1);
+    QVERIFY(wasSending);
+    QCOMPARE(strip.plc(), StatusStrip::PlcReady);
+    QCOMPARE(item(strip, "plcState")->text(), QString("ready"));
 }
 
 void TestStatusStrip::refusedTransferIsNoFailureOfThePlc()
