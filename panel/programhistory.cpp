@@ -8,8 +8,16 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QRandomGenerator>
+#include <QThread>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -17,8 +25,67 @@ const int pollMs = 1000;
 const int pieceBytes = 64 * 1024;
 // Longer than it takes to keep all programs that a panel has room for, on a slow card.
 const int patienceMs = 20000;
-// Hidden, and so no program to anybody who lists the directory.
+// How long a program may be written to before a restore gives way to its writer.
+const int writerMs = 3000;
+// What is younger may be in the making.
+const int leftBehindMs = 60000;
+// Begins the names of folders in the program directory. Hidden, and so no program to anybody who
+// lists the directory.
 const char halfRestored[] = ".filarix-restored";
+
+enum Swap {
+    NotSwapped, ///< The reason is in errno.
+    Swapped,    ///< Each has the other's name.
+    Replaced    ///< There is one file now.
+};
+
+QByteArray encoded(const QString &path)
+{
+    return QFile::encodeName(path);
+}
+
+// Systems and file systems that cannot do it say so.
+bool renameWith(const QString &from, const QString &to, unsigned flags)
+{
+#ifdef RENAME_EXCHANGE
+    return ::renameat2(AT_FDCWD, encoded(from).constData(), AT_FDCWD, encoded(to).constData(),
+                       flags)
+           == 0;
+#else
+    Q_UNUSED(from)
+    Q_UNUSED(to)
+    Q_UNUSED(flags)
+    errno = ENOSYS;
+    return false;
+#endif
+}
+
+/// Gives the file \a from the name \a to. What had that name stays in hand where the system and
+/// its file system can do that.
+Swap swapNames(const QString &from, const QString &to)
+{
+    // The numbers are the system's, which not every C library names.
+    const unsigned noReplace = 1;
+    const unsigned exchange = 2;
+    if (renameWith(from, to, exchange))
+        return Swapped;
+    if (errno == ENOENT && renameWith(from, to, noReplace))
+        return Replaced;
+    if (errno != EINVAL && errno != ENOSYS)
+        return NotSwapped;
+    return std::rename(encoded(from).constData(), encoded(to).constData()) == 0 ? Replaced
+                                                                                : NotSwapped;
+}
+
+QString randomName()
+{
+    return QString::number(QRandomGenerator::system()->generate64(), 16);
+}
+
+QString errnoText()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
 
 QString causeOf(const QString &name)
 {
@@ -47,6 +114,7 @@ public:
 private:
     bool begin();
     bool openStore();
+    void sweep(const QString &folder);
     bool end();
 
     const QDir m_programDir;
@@ -67,17 +135,39 @@ bool ProgramHistory::Scan::begin()
 
 bool ProgramHistory::Scan::openStore()
 {
-    // Of a restore that was killed.
-    QDir folder(m_programDir);
-    const QStringList halves = folder.entryList({QLatin1String(halfRestored) + QLatin1Char('*')},
-                                                QDir::Files | QDir::Hidden);
-    for (const QString &half : halves)
-        folder.remove(half);
     QString error;
-    if (m_store->open(&error))
-        return true;
-    m_failures.insert(QString(), error);
-    return false;
+    if (!m_store->open(&error)) {
+        m_failures.insert(QString(), error);
+        return false;
+    }
+    // What a panel that was killed has left: a file half written, or a restore's folder.
+    QDir dir(m_programDir);
+    const QStringList names = dir.entryList(QDir::Files | QDir::NoSymLinks | QDir::Hidden);
+    for (const QString &name : names) {
+        const bool isHalf = DurableFile::isTemporary(name)
+                            && FileStamp::of(dir.filePath(name)).age() > leftBehindMs;
+        if (isHalf || name.startsWith(QLatin1String(halfRestored)))
+            dir.remove(name);
+    }
+    const QStringList folders = m_programDir.entryList(
+        {QLatin1String(halfRestored) + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden);
+    for (const QString &folder : folders)
+        sweep(m_programDir.filePath(folder));
+    return true;
+}
+
+// There may be the one file of a version that a save has put there in the last moment.
+void ProgramHistory::Scan::sweep(const QString &folder)
+{
+    QDir dir(folder);
+    const QStringList names = dir.entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : names) {
+        QString error;
+        if (DurableFile::isTemporary(name)
+            || m_store->store(dir.filePath(name), &error) <= HistoryStore::Known)
+            dir.remove(name);
+    }
+    QDir().rmdir(folder);
 }
 
 bool ProgramHistory::Scan::step()
@@ -111,11 +201,22 @@ bool ProgramHistory::Scan::end()
 }
 
 /// Writes one version into the program directory, a piece a step.
+///
+/// It is written in a folder of its own there, and then changes places with the program. What stood
+/// in that place is looked at after that: it goes once the history holds it, and else comes back.
 class ProgramHistory::Restore : public FileTask
 {
 public:
-    Restore(const ProgramVersion &version, const QString &programDir)
-        : m_version(version), m_programDir(programDir), m_source(version.path)
+    Restore(const ProgramVersion &version, const QString &programDir,
+            const std::shared_ptr<HistoryStore> &store)
+        : m_version(version)
+        , m_programDir(programDir)
+        , m_targetPath(m_programDir.filePath(version.name))
+        , m_folder(
+              m_programDir.filePath(QLatin1String(halfRestored) + QLatin1Char('-') + randomName()))
+        , m_halfPath(m_folder + QLatin1Char('/') + version.name)
+        , m_store(store)
+        , m_source(version.path)
     {}
 
     bool step() override;
@@ -123,25 +224,58 @@ public:
     void close() override;
 
     QString error() const { return m_error; }
+    /// Whether the program may be another one now; for whoever gave the task up, too.
+    bool hasReplaced() const { return m_hasReplaced; }
 
 private:
     bool open();
+    bool writePiece();
     bool finish();
+    bool replace();
+    bool settle();
+    bool putBack();
+    bool isKept(const QString &path) const;
     bool fail(const QString &error);
 
     const ProgramVersion m_version;
     const QDir m_programDir;
+    const QString m_targetPath;
+    const QString m_folder;
+    const QString m_halfPath;
+    const std::shared_ptr<HistoryStore> m_store;
     QFile m_source;
     QScopedPointer<DurableFile> m_half;
     QCryptographicHash m_hash{QCryptographicHash::Sha256};
     qint64 m_done = 0;
     QString m_error;
+    bool m_isReady = false;
+    /// In the folder is not what was written there, but what stood in the program's place.
+    bool m_isSwapped = false;
+    std::atomic<bool> m_hasReplaced{false};
 };
 
 bool ProgramHistory::Restore::step()
 {
-    if (!m_source.isOpen())
-        return open();
+    if (m_isReady)
+        return replace();
+    return m_source.isOpen() ? writePiece() : open();
+}
+
+bool ProgramHistory::Restore::open()
+{
+    if (!m_source.open(QIODevice::ReadOnly) || !m_source.seek(m_version.offset))
+        return fail(tr("This version of %1 is not in the history any more.").arg(m_version.name));
+    m_programDir.mkpath(QLatin1String("."));
+    if (!m_programDir.mkdir(m_folder))
+        return fail(tr("%1 cannot be written: %2.").arg(m_version.name, errnoText()));
+    m_half.reset(new DurableFile(m_halfPath));
+    if (!m_half->open(m_targetPath))
+        return fail(tr("%1 cannot be written: %2.").arg(m_version.name, m_half->errorString()));
+    return true;
+}
+
+bool ProgramHistory::Restore::writePiece()
+{
     const QByteArray piece = m_source.read(pieceBytes);
     if (piece.isEmpty())
         return finish();
@@ -152,17 +286,6 @@ bool ProgramHistory::Restore::step()
     return fail(tr("%1 cannot be written: %2.").arg(m_version.name, m_half->errorString()));
 }
 
-bool ProgramHistory::Restore::open()
-{
-    if (!m_source.open(QIODevice::ReadOnly) || !m_source.seek(m_version.offset))
-        return fail(tr("This version of %1 is not in the history any more.").arg(m_version.name));
-    m_programDir.mkpath(QLatin1String("."));
-    m_half.reset(new DurableFile(m_programDir.filePath(m_version.name)));
-    if (!m_half->open())
-        return fail(tr("%1 cannot be written: %2.").arg(m_version.name, m_half->errorString()));
-    return true;
-}
-
 bool ProgramHistory::Restore::finish()
 {
     if (m_hash.result() != m_version.hash)
@@ -171,7 +294,79 @@ bool ProgramHistory::Restore::finish()
                         .arg(m_version.name));
     if (!m_half->commit())
         return fail(tr("%1 cannot be written: %2.").arg(m_version.name, m_half->errorString()));
+    m_isReady = true;
+    return true;
+}
+
+bool ProgramHistory::Restore::replace()
+{
+    const bool isLink = QFileInfo(m_targetPath).isSymLink();
+    if (isLink || !isKept(m_targetPath))
+        return fail(tr("%1 was not brought back: what it is now cannot be kept in the history "
+                       "first.")
+                        .arg(m_version.name));
+    if (!beginChange())
+        return false;
+    // The last look. One that another name was given in between waits for the next step.
+    const bool isHeld = m_store->holds(m_targetPath);
+    const Swap swap = isHeld ? swapNames(m_halfPath, m_targetPath) : NotSwapped;
+    const bool isTaken = isHeld && swap == NotSwapped && errno == EEXIST;
+    const QString reason = errnoText();
+    m_isSwapped = swap == Swapped;
+    m_hasReplaced = swap != NotSwapped;
+    endChange();
+    if (!isHeld || isTaken)
+        return true;
+    if (!m_hasReplaced)
+        return fail(tr("%1 cannot be written: %2.").arg(m_version.name, reason));
+    if (m_isSwapped && !settle())
+        return false;
+    if (!DurableFile::syncFolder(m_programDir.path()))
+        return fail(tr("%1 is back, but it is not certain that it is stored: %2.")
+                        .arg(m_version.name, errnoText()));
     return false;
+}
+
+// A save may have come to an end in that file just before it lost its name, or go on in it.
+bool ProgramHistory::Restore::settle()
+{
+    if (!isKept(m_halfPath))
+        return putBack();
+    if (!beginChange())
+        return false;
+    m_isSwapped = !QFile::remove(m_halfPath);
+    endChange();
+    return true;
+}
+
+bool ProgramHistory::Restore::putBack()
+{
+    if (!beginChange())
+        return false;
+    const bool isBack = swapNames(m_halfPath, m_targetPath) != NotSwapped;
+    m_hasReplaced = !isBack;
+    endChange();
+    // A save may have gone into the one that was there for a moment.
+    m_isSwapped = !isBack || !isKept(m_halfPath);
+    return fail(tr("%1 was not brought back: it is being written. Try again when that is over.")
+                    .arg(m_version.name));
+}
+
+/// Whether the history holds what stands there, when nobody writes to it any more.
+bool ProgramHistory::Restore::isKept(const QString &path) const
+{
+    QElapsedTimer writing;
+    writing.start();
+    while (QFileInfo(path).exists()) {
+        QString error;
+        const HistoryStore::Outcome outcome = m_store->store(path, &error);
+        if (outcome == HistoryStore::Stored || outcome == HistoryStore::Known)
+            return true;
+        if (outcome == HistoryStore::Failed || writing.hasExpired(writerMs))
+            return false;
+        QThread::msleep(HistoryStore::restMs / 5);
+    }
+    return true;
 }
 
 int ProgramHistory::Restore::percent() const
@@ -183,6 +378,10 @@ void ProgramHistory::Restore::close()
 {
     m_source.close();
     m_half.reset();
+    // What is not ours and not kept stays; the next start takes it in.
+    if (!m_isSwapped)
+        QFile::remove(m_halfPath);
+    QDir().rmdir(m_folder);
 }
 
 bool ProgramHistory::Restore::fail(const QString &error)
@@ -206,11 +405,7 @@ ProgramHistory::ProgramHistory(const QString &programDir, const QString &folder,
     connect(&m_restoreWork, &FileWork::stopped, this, [this] {
         tellRestore(tr("Stopped. %1 is as it was.").arg(m_wanted.name), Message::Information);
     });
-    connect(&m_restoreWork, &FileWork::stalled, this, [this] {
-        tellRestore(tr("The panel's storage stopped answering; %1 was not brought back.")
-                        .arg(m_wanted.name),
-                    Message::Alarm);
-    });
+    connect(&m_restoreWork, &FileWork::stalled, this, &ProgramHistory::loseRestore);
     connect(&m_pollTimer, &QTimer::timeout, this, &ProgramHistory::look);
     m_restTimer.setSingleShot(true);
     connect(&m_restTimer, &QTimer::timeout, this, &ProgramHistory::beginScan);
@@ -397,7 +592,12 @@ void ProgramHistory::beginRestore()
                               "history first.")
                                .arg(m_wanted.name),
                            Message::Warning);
-    m_restore = std::make_shared<Restore>(m_wanted, m_programDir);
+    if (m_restoreWork.hasChangeUnderWay())
+        return tellRestore(tr("%1 was not brought back: the panel's storage has not ended the last "
+                              "restore yet. Switch the panel off and on.")
+                               .arg(m_wanted.name),
+                           Message::Warning);
+    m_restore = std::make_shared<Restore>(m_wanted, m_programDir, m_store);
     m_restoreWork.start(m_restore);
 }
 
@@ -410,6 +610,17 @@ void ProgramHistory::endRestore()
         tr("%1 is back as of %2. Open it to see it.").arg(m_wanted.name, shownDate(m_wanted)),
         Message::Information);
     scan();
+}
+
+void ProgramHistory::loseRestore()
+{
+    const bool isKnown = !m_restore->isUncertain() && !m_restore->hasReplaced();
+    tellRestore(isKnown ? tr("The panel's storage stopped answering; %1 was not brought back.")
+                              .arg(m_wanted.name)
+                        : tr("The panel's storage stopped answering while %1 was brought back: "
+                             "which version it is now is not known. Switch the panel off and on.")
+                              .arg(m_wanted.name),
+                Message::Alarm);
 }
 
 void ProgramHistory::tellRestore(const QString &text, Message::Tone tone)

@@ -54,8 +54,8 @@ public:
     /// When the version was kept, in the panel's time: "2026-11-21 13:05".
     static QString shownDate(const ProgramVersion &version);
 
-    /// Writes a version over the program of its name, whose own last version is kept before. Does
-    /// nothing while another one is brought back. Ends in told().
+    /// Writes a version over the program of its name, whose own last version is kept before, with
+    /// the permissions of that one. Does nothing while another one is brought back. Ends in told().
     void restore(const ProgramVersion &version);
     void stopRestoring();
 
@@ -94,6 +94,7 @@ private:
     void serveThePatient();
     void beginRestore();
     void endRestore();
+    void loseRestore();
     void tellRestore(const QString &text, Message::Tone tone);
     void setSettled(bool isSettled);
 

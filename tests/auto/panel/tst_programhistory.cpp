@@ -2,15 +2,22 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "filecalls.h"
 #include "programhistory.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QScopedPointer>
+#include <QSemaphore>
 #include <QSignalSpy>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
+
 #include <fcntl.h>
+#include <sys/stat.h>
 
 class TestProgramHistory : public FilarixTest
 {
@@ -38,6 +45,17 @@ private Q_SLOTS:
     void waiterIsCalledWhenAProgramCannotBeKept();
     void waiterIsCalledWhenTheStorageIsLost();
     void waiterThatIsGoneIsNotCalled();
+    void restoreKeepsThePermissions();
+    void saveRightBeforeTheRenameIsKept_data();
+    void saveRightBeforeTheRenameIsKept();
+    void saveThatGoesOnIsKept();
+    void saveWithoutEndIsLeftInPlace();
+    void programThatComesBackMeanwhileIsKept();
+    void linkIsNotReplaced();
+    void whatAKilledRestoreHeldIsTakenIn();
+    void stalledSyncBringsNothingBack();
+    void renameThatHangsIsToldAsNotKnown();
+    void nobodyWaitsForStorageThatHangs();
     void causeEndsWhenTheProgramIsKeptOrGone_data();
     void causeEndsWhenTheProgramIsKeptOrGone();
 
@@ -47,6 +65,8 @@ private:
     QByteArray lastContent() const;
     ProgramVersion versionOf(const QByteArray &bytes) const;
     QString lastTold() const;
+    QStringList hidden() const;
+    void saveInPlace(const QByteArray &bytes) const;
     Message::Tone lastTone() const;
 
     QString m_folder;
@@ -74,6 +94,7 @@ void TestProgramHistory::cleanup()
 {
     m_told.reset();
     m_history.reset();
+    FileCalls::reset();
     FilarixTest::cleanup();
 }
 
@@ -109,6 +130,23 @@ ProgramVersion TestProgramHistory::versionOf(const QByteArray &bytes) const
 QString TestProgramHistory::lastTold() const
 {
     return m_told->isEmpty() ? QString() : m_told->last().at(0).toString();
+}
+
+// What lies in the program directory beside the programs.
+QStringList TestProgramHistory::hidden() const
+{
+    QStringList names =
+        QDir(programDir())
+            .entryList(QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+    return names.filter(QRegExp("^\\."));
+}
+
+// As the library does: into the file that has the name. For any thread.
+void TestProgramHistory::saveInPlace(const QByteArray &bytes) const
+{
+    QFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qWarning("the save failed");
 }
 
 Message::Tone TestProgramHistory::lastTone() const
@@ -186,7 +224,7 @@ void TestProgramHistory::removedProgramComesBack()
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(readFile(m_path), QByteArray("one\n"));
-    QCOMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    QCOMPARE(hidden(), QStringList());
 }
 
 void TestProgramHistory::restoreKeepsWhatIsThereFirst()
@@ -244,7 +282,7 @@ void TestProgramHistory::longRestoreTellsItsProgressAndStops()
     QTRY_COMPARE(m_told->size(), 2);
     QVERIFY(lastTold().contains("Stopped"));
     QCOMPARE(readFile(m_path), QByteArray("saved over it again\n"));
-    QTRY_COMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    QTRY_COMPARE(hidden(), QStringList());
 }
 
 void TestProgramHistory::damagedVersionIsNotBroughtBack()
@@ -260,7 +298,7 @@ void TestProgramHistory::damagedVersionIsNotBroughtBack()
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains("damaged"));
     QCOMPARE(readFile(m_path), QByteArray("two\n"));
-    QCOMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    QCOMPARE(hidden(), QStringList());
 }
 
 void TestProgramHistory::versionThatWentMeanwhileIsTold()
@@ -298,9 +336,17 @@ void TestProgramHistory::halfRestoredFileOfAKilledProgramGoes()
 {
     writeFile(programDir() + "/.filarix-restored.aBc123", "half");
     writeFile(programDir() + "/.filarix-restored", "whole, but without its name");
+    const QString half = ".filarix-coil.cnc.abcdef012345";
+    writeFile(programDir() + '/' + half, "half");
+    const struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
+    ::utimensat(AT_FDCWD, QFile::encodeName(programDir() + '/' + half).constData(), times, 0);
+    writeFile(programDir() + "/.filarix-restored-12/" + half, "half");
+    // Somebody may be writing that one.
+    const QString young = ".filarix-coil.cnc.abcdef012346";
+    writeFile(programDir() + '/' + young, "half");
     start();
     QVERIFY(isKept(0));
-    QVERIFY(QDir(programDir()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QCOMPARE(hidden(), QStringList(young));
 }
 
 void TestProgramHistory::historyThatCannotBeKeptIsToldOnce()
@@ -454,6 +500,274 @@ void TestProgramHistory::causeEndsWhenTheProgramIsKeptOrGone()
     QCOMPARE(ends.first().first().toString(), QString("history:coil.cnc"));
     QCOMPARE(m_told->size(), 1);
     QVERIFY(m_history->isKept("coil.cnc"));
+}
+
+void TestProgramHistory::restoreKeepsThePermissions()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QCOMPARE(::chmod(QFile::encodeName(m_path).constData(), 0640), 0);
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
+    struct stat info = {};
+    QCOMPARE(::stat(QFile::encodeName(m_path).constData(), &info), 0);
+    QCOMPARE(int(info.st_mode & 07777), 0640);
+}
+
+void TestProgramHistory::saveRightBeforeTheRenameIsKept_data()
+{
+    QTest::addColumn<bool>("isRightBefore");
+    QTest::addColumn<bool>("canExchange");
+    QTest::newRow("after the first look") << false << true;
+    QTest::newRow("after the first look, on an old system") << false << false;
+    QTest::newRow("after the last look") << true << true;
+}
+
+void TestProgramHistory::saveRightBeforeTheRenameIsKept()
+{
+    QFETCH(bool, isRightBefore);
+    QFETCH(bool, canExchange);
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    std::atomic<int> saves{0};
+    // Of each two, the first asks for an exchange.
+    int renames = 0;
+    const auto save = [this, &saves] {
+        if (saves++ == 0)
+            saveInPlace("saved in the last moment\n");
+        QTest::qSleep(22);
+    };
+    FileCalls::beforeSync = [&](const QByteArray &path) {
+        if (!isRightBefore && path.contains(".filarix-restored"))
+            save();
+    };
+    FileCalls::beforeRename = [&](const QByteArray &, const QByteArray &to) {
+        if (to != QFile::encodeName(m_path))
+            return 0;
+        if (isRightBefore)
+            save();
+        return canExchange || ++renames % 2 == 0 ? 0 : EINVAL;
+    };
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(saves > 0);
+    QVERIFY2(lastTold().contains("is back"), qPrintable(lastTold()));
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
+    QTRY_COMPARE(versionOf("saved in the last moment\n").name, QString("coil.cnc"));
+    QTRY_COMPARE(lastContent(), QByteArray("one\n"));
+    QCOMPARE(hidden(), QStringList());
+}
+
+void TestProgramHistory::saveThatGoesOnIsKept()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    std::thread saving;
+    QByteArray saved;
+    for (int i = 0; i < 20; ++i)
+        saved += "line " + QByteArray::number(i) + '\n';
+    FileCalls::beforeRename = [&](const QByteArray &, const QByteArray &to) {
+        if (to != QFile::encodeName(m_path) || saving.joinable())
+            return 0;
+        // The file is opened under its name, and written to after it has lost that.
+        const int handle = ::open(to.constData(), O_WRONLY | O_TRUNC);
+        saving = std::thread([handle, &saved] {
+            for (const QByteArray &line : saved.split('\n').mid(0, 20)) {
+                const QByteArray bytes = line + '\n';
+                if (::write(handle, bytes.constData(), size_t(bytes.size())) < 0)
+                    qWarning("the save failed");
+                QTest::qSleep(20);
+            }
+            ::close(handle);
+        });
+        return 0;
+    };
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    saving.join();
+    QVERIFY2(lastTold().contains("is back"), qPrintable(lastTold()));
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
+    QTRY_COMPARE(versionOf(saved).name, QString("coil.cnc"));
+    QCOMPARE(hidden(), QStringList());
+}
+
+void TestProgramHistory::saveWithoutEndIsLeftInPlace()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    std::thread saving;
+    std::atomic<bool> isEnough{false};
+    FileCalls::beforeRename = [&](const QByteArray &, const QByteArray &to) {
+        if (to != QFile::encodeName(m_path) || saving.joinable())
+            return 0;
+        const int handle = ::open(to.constData(), O_WRONLY | O_TRUNC);
+        saving = std::thread([handle, &isEnough] {
+            while (!isEnough && ::write(handle, "more\n", 5) == 5)
+                QTest::qSleep(10);
+            ::close(handle);
+        });
+        return 0;
+    };
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE_WITH_TIMEOUT(m_told->size(), 1, 10000);
+    isEnough = true;
+    saving.join();
+    QVERIFY2(lastTold().contains("is being written"), qPrintable(lastTold()));
+    QCOMPARE(lastTone(), Message::Warning);
+    QVERIFY(readFile(m_path).startsWith("more\nmore\n"));
+    QCOMPARE(hidden(), QStringList());
+}
+
+void TestProgramHistory::programThatComesBackMeanwhileIsKept()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    QVERIFY(QFile::remove(m_path));
+    QVERIFY(isKept(1));
+    int calls = 0;
+    // There was nothing to exchange with, and there is something by now.
+    FileCalls::beforeRename = [&](const QByteArray &, const QByteArray &to) {
+        if (to == QFile::encodeName(m_path) && ++calls == 2)
+            saveInPlace("saved in between\n");
+        return 0;
+    };
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(calls > 2);
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
+    QTRY_COMPARE(versionOf("saved in between\n").name, QString("coil.cnc"));
+    QCOMPARE(hidden(), QStringList());
+}
+
+void TestProgramHistory::linkIsNotReplaced()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    QVERIFY(QFile::remove(m_path));
+    writeFile(home() + "/elsewhere.cnc", "theirs\n");
+    QVERIFY(QFile::link(home() + "/elsewhere.cnc", m_path));
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QVERIFY(lastTold().contains("not brought back"));
+    QVERIFY(QFileInfo(m_path).isSymLink());
+    QCOMPARE(readFile(home() + "/elsewhere.cnc"), QByteArray("theirs\n"));
+    QTRY_COMPARE(hidden(), QStringList());
+}
+
+void TestProgramHistory::whatAKilledRestoreHeldIsTakenIn()
+{
+    writeFile(m_path, "one\n");
+    const QString held = programDir() + "/.filarix-restored-1a2b/coil.cnc";
+    writeFile(held, "saved in the last moment\n");
+    const struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
+    ::utimensat(AT_FDCWD, QFile::encodeName(held).constData(), times, 0);
+    start();
+    QVERIFY(isKept(2));
+    QCOMPARE(versionOf("saved in the last moment\n").name, QString("coil.cnc"));
+    QCOMPARE(lastContent(), QByteArray("one\n"));
+    QCOMPARE(hidden(), QStringList());
+}
+
+void TestProgramHistory::stalledSyncBringsNothingBack()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    writeFile(m_path, "three\n");
+    QVERIFY(isKept(3));
+    const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
+    const std::shared_ptr<QAtomicInt> hangs = std::make_shared<QAtomicInt>();
+    FileCalls::beforeSync = [gate, hangs](const QByteArray &path) {
+        if (path.contains(".filarix-restored") && hangs->testAndSetOrdered(0, 1))
+            gate->acquire();
+    };
+    m_history->setStallTime(300);
+    m_history->restore(versionOf("one\n"));
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(lastTone(), Message::Alarm);
+    QVERIFY2(lastTold().contains("was not brought back"), qPrintable(lastTold()));
+    m_history->setStallTime(FileWork::stallMs);
+    m_history->restore(versionOf("two\n"));
+    QTRY_COMPARE(m_told->size(), 2);
+    QCOMPARE(lastTone(), Message::Information);
+    QCOMPARE(readFile(m_path), QByteArray("two\n"));
+    // The first one's bytes reach the disk after all: it takes away what it had made, no more.
+    QCOMPARE(hidden().size(), 1);
+    gate->release();
+    QTRY_COMPARE(hidden(), QStringList());
+    QCOMPARE(readFile(m_path), QByteArray("two\n"));
+}
+
+void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
+{
+    writeFile(m_path, "one\n");
+    start();
+    QVERIFY(isKept(1));
+    writeFile(m_path, "two\n");
+    QVERIFY(isKept(2));
+    const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
+    const QByteArray program = QFile::encodeName(m_path);
+    const std::shared_ptr<QAtomicInt> hangs = std::make_shared<QAtomicInt>();
+    FileCalls::beforeRename = [gate, hangs, program](const QByteArray &, const QByteArray &to) {
+        if (to == program && hangs->testAndSetOrdered(0, 1))
+            gate->acquire();
+        return 0;
+    };
+    m_history->setStallTime(300);
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(lastTone(), Message::Alarm);
+    QVERIFY2(lastTold().contains("is not known"), qPrintable(lastTold()));
+    m_history->setStallTime(FileWork::stallMs);
+    m_history->restore(m_history->versions().first());
+    QTRY_COMPARE(m_told->size(), 2);
+    QVERIFY2(lastTold().contains("has not ended the last"), qPrintable(lastTold()));
+    QCOMPARE(readFile(m_path), QByteArray("two\n"));
+    gate->release();
+    // The one of before comes to its end; what stood there is kept, wherever it is.
+    QTRY_COMPARE(readFile(m_path), QByteArray("one\n"));
+    QCOMPARE(versionOf("two\n").name, QString("coil.cnc"));
+}
+
+static volatile std::sig_atomic_t leaseIsWanted = 0;
+
+void TestProgramHistory::nobodyWaitsForStorageThatHangs()
+{
+    writeFile(m_path, "one\n");
+    leaseIsWanted = 0;
+    std::signal(SIGIO, [](int) { leaseIsWanted = 1; });
+    QFile leased(m_path);
+    QVERIFY(leased.open(QIODevice::ReadWrite));
+    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+    QElapsedTimer timer;
+    QScopedPointer<ProgramHistory> history(new ProgramHistory(programDir(), m_folder));
+    QTRY_VERIFY(leaseIsWanted);
+    timer.start();
+    history->scan();
+    history->whenSettled(this, [] {});
+    QVERIFY(!history->isSettled());
+    QVERIFY(history->versions().isEmpty());
+    history->restore(ProgramVersion());
+    history->stopRestoring();
+    history.reset();
+    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_UNLCK), 0);
 }
 
 FILARIX_TEST_MAIN(TestProgramHistory)
