@@ -4,6 +4,7 @@
 #include "elidedlabel.h"
 
 #include <QPainter>
+#include <QTextLayout>
 
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
@@ -16,10 +17,35 @@ QSize ElidedLabel::minimumSizeHint() const
     return QSize(fontMetrics().averageCharWidth() * 4, QLabel::minimumSizeHint().height());
 }
 
+void ElidedLabel::setLines(int lines)
+{
+    m_lines = lines;
+    update();
+}
+
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect area = contentsRect();
-    painter.drawText(area, int(alignment()) | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+    const QStringList lines = linesIn(area.width());
+    painter.drawText(area, int(alignment()), lines.join(QLatin1Char('\n')));
+}
+
+// The last one holds all that is left.
+QStringList ElidedLabel::linesIn(int width) const
+{
+    QString rest = text();
+    rest.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    QStringList lines;
+    while (lines.size() + 1 < m_lines && fontMetrics().horizontalAdvance(rest) > width) {
+        QTextLayout layout(rest, font());
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setLineWidth(width);
+        layout.endLayout();
+        lines.append(rest.left(line.textLength()).trimmed());
+        rest = rest.mid(line.textLength());
+    }
+    lines.append(fontMetrics().elidedText(rest, Qt::ElideRight, width));
+    return lines;
 }

@@ -6,7 +6,7 @@
 
 #include <QLabel>
 
-/// A line of text that gives way: where it doesn't fit it ends in three dots.
+/// A text that gives way: what doesn't fit into its lines ends in three dots.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -14,10 +14,18 @@ class ElidedLabel : public QLabel
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
+    /// Lines that the text may fill; one at first. Their height is to be given.
+    void setLines(int lines);
+
     QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QStringList linesIn(int width) const;
+
+    int m_lines = 1;
 };
 
 #endif // ELIDEDLABEL_H

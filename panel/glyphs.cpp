@@ -140,6 +140,28 @@ QPainterPath shape(Glyphs::Glyph glyph)
         path.arcTo(QRectF(4, 4, 16, 16), 180, -320);
         path.addPath(lines({{{1, 8.5}, {4, 12.5}, {8, 9.5}}, {{12, 7.5}, {12, 12.5}, {16, 14.5}}}));
         break;
+    case Glyphs::Inform:
+        path.addEllipse(QPointF(12, 12), 9, 9);
+        path.addPath(lines({{{12, 11}, {12, 16.5}}, {{12, 7}, {12, 7.3}}}));
+        break;
+    case Glyphs::Warn:
+        path = lines({{{12, 3}, {22, 20}, {2, 20}, {12, 3}},
+                      {{12, 9.5}, {12, 13.5}},
+                      {{12, 16.8}, {12, 17}}});
+        break;
+    case Glyphs::Alarm:
+        path = lines({{{8, 2.5},
+                       {16, 2.5},
+                       {21.5, 8},
+                       {21.5, 16},
+                       {16, 21.5},
+                       {8, 21.5},
+                       {2.5, 16},
+                       {2.5, 8},
+                       {8, 2.5}},
+                      {{12, 7}, {12, 13}},
+                      {{12, 17}, {12, 17.2}}});
+        break;
     case Glyphs::Close:
         path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
         break;

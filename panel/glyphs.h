@@ -39,7 +39,10 @@ enum Glyph {
     Storage,
     Style,
     Language,
-    History
+    History,
+    Inform,
+    Warn,
+    Alarm
 };
 
 /// What an icon stands on.

@@ -55,6 +55,9 @@ const QRgb kAccentPressed = 0xff0d4d99;
 const QRgb kInformation = 0xff23753a;
 const QRgb kWarning = 0xff8a5a00;
 const QRgb kAlarm = 0xffb92525;
+const QRgb kInformationOnStrip = 0xff7ddb98;
+const QRgb kWarningOnStrip = 0xffffc04d;
+const QRgb kAlarmOnStrip = 0xffff8a80;
 const QRgb kWhite = 0xffffffff;
 
 const Colors &colors()
@@ -93,15 +96,27 @@ QString keyPanelSheet()
              hex(kAccentPressed));
 }
 
-QString messageSheet()
+// The rules by which the frames that \a frame selects have the ground of their tone.
+QString toneRules(const QString &frame)
 {
-    return QString::fromLatin1("#messageBar { border: 1px solid %1; border-radius: 8px; }"
-                               "#messageBar[tone=\"information\"] { background: %2; }"
-                               "#messageBar[tone=\"warning\"] { background: %3; }"
-                               "#messageBar[tone=\"alarm\"] { background: %4; }"
-                               "QLabel { color: %1; background: transparent; }")
-               .arg(hex(kWhite), hex(kInformation), hex(kWarning), hex(kAlarm))
-           + stripSheet();
+    return QString::fromLatin1("%1 { border: 0; border-radius: 6px; background: transparent; }"
+                               "%1[tone=\"information\"] { background: %2; }"
+                               "%1[tone=\"warning\"] { background: %3; }"
+                               "%1[tone=\"alarm\"] { background: %4; }")
+        .arg(frame, hex(kInformation), hex(kWarning), hex(kAlarm));
+}
+
+QString messageRowSheet()
+{
+    return toneRules(QLatin1String("#messageBar")) + stripSheet();
+}
+
+QString messageListSheet()
+{
+    return toneRules(QLatin1String("#message"))
+           + QString::fromLatin1("#message QLabel { color: %1; background: transparent; }"
+                                 "#message[tone=\"none\"] QLabel { color: %2; }")
+                 .arg(hex(kWhite), hex(colors().text));
 }
 
 // The other roles go on following the application's palette, and what the widget has set itself
@@ -186,8 +201,10 @@ QString Look::sheet(Dress dress)
         return stripSheet();
     case KeyPanel:
         return keyPanelSheet();
-    case Message:
-        return messageSheet();
+    case MessageRow:
+        return messageRowSheet();
+    case MessageList:
+        return messageListSheet();
     }
     return QString();
 }
@@ -214,6 +231,20 @@ QPalette Look::palette()
     return palette;
 }
 
+QColor Look::ground(Message::Tone tone)
+{
+    return QColor(tone == Message::Alarm     ? kAlarm
+                  : tone == Message::Warning ? kWarning
+                                             : kInformation);
+}
+
+QColor Look::onStrip(Message::Tone tone)
+{
+    return QColor(tone == Message::Alarm     ? kAlarmOnStrip
+                  : tone == Message::Warning ? kWarningOnStrip
+                                             : kInformationOnStrip);
+}
+
 QColor Look::accent()
 {
     return kAccent;
@@ -222,21 +253,6 @@ QColor Look::accent()
 QColor Look::changed()
 {
     return QColor(0xff, 0xc0, 0x4d);
-}
-
-QColor Look::caution()
-{
-    return QColor(0xff, 0xc0, 0x4d);
-}
-
-QColor Look::alarm()
-{
-    return QColor(0xff, 0x8a, 0x80);
-}
-
-QColor Look::calm()
-{
-    return QColor(0x7d, 0xdb, 0x98);
 }
 
 QColor Look::edge()

@@ -4,6 +4,8 @@
 #ifndef LOOK_H
 #define LOOK_H
 
+#include "message.h"
+
 #include <QColor>
 #include <QPalette>
 #include <QString>
@@ -29,9 +31,10 @@ enum Style { Light, Dark };
 
 /// What a widget of the host can be dressed as.
 enum Dress {
-    Strip,    ///< A dark strip that holds PanelKeys and labels.
-    KeyPanel, ///< PanelKeys beside a screen's content.
-    Message   ///< The message bar, by its property "tone": "information", "warning", "alarm".
+    Strip,      ///< A dark strip that holds PanelKeys and labels.
+    KeyPanel,   ///< PanelKeys beside a screen's content.
+    MessageRow, ///< The message bar, by its property "tone"; see ToneMark::put().
+    MessageList ///< The messages of a list, the frames named "message", by the same property.
 };
 
 /// The style in use; light until another one is chosen.
@@ -57,11 +60,13 @@ QString sheet(Dress dress);
 
 QPalette palette();
 
+/// Behind white words of that tone.
+QColor ground(Message::Tone tone);
+/// A word or a drawing of that tone on a strip.
+QColor onStrip(Message::Tone tone);
+
 QColor accent();   ///< What is chosen or pressed; for white text.
 QColor changed();  ///< What is not saved; on a strip.
-QColor caution();  ///< What the operator should see to soon; on a strip.
-QColor alarm();    ///< What the operator has to see to; on a strip.
-QColor calm();     ///< What is in order; on a strip.
 QColor edge();     ///< Around a dialog.
 QColor keyText();  ///< On a key of a key panel.
 QColor keyFaint(); ///< The same while the key is disabled.

@@ -185,7 +185,7 @@ int runPanel(const Options &options)
     panel.setSettings(&settings);
     const QString programDir = Samples::programDir();
     DeviceWatch watch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); });
-    QObject::connect(&watch, &DeviceWatch::changed, panel.status(), &StatusStrip::showDevices);
+    QObject::connect(&watch, &DeviceWatch::changed, &panel, &PanelWindow::showDevices);
     QObject::connect(&watch, &DeviceWatch::changed, files, &FilesScreen::showDevices);
     QObject::connect(files, &FilesScreen::stickMoved, &watch, &DeviceWatch::lookNow);
     panel.status()->follow(programs->transfer());

@@ -3,120 +3,179 @@
 
 #include "messagebar.h"
 
+#include "elidedlabel.h"
 #include "look.h"
+#include "messagelog.h"
 #include "panelkey.h"
+#include "tonemark.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QLabel>
+#include <QMouseEvent>
 #include <QProgressBar>
-#include <QStyle>
 #include <QVBoxLayout>
-#include <QVariant>
 
 namespace {
 
-const int kPassingMs = 6000;
+const int rowPixels = 13;
+const int rowLines = 2;
+const int linePixels = 12;
+const int rowBar = 8;
+const int lineBar = 3;
+const int keyWidth = 56;
+// A thumb that is on its way to Stop must not close what says how the work ended.
+const int keyRestMs = 700;
 
 } // namespace
 
-MessageBar::MessageBar(QWidget *parent)
+MessageBar::MessageBar(MessageLog *log, Form form, QWidget *parent)
     : QFrame(parent)
-    , m_text(new QLabel)
+    , m_log(log)
+    , m_form(form)
+    , m_mark(form == Row ? new ToneMark : nullptr)
+    , m_label(new ElidedLabel)
     , m_progress(new QProgressBar)
     , m_key(new PanelKey(Glyphs::icon(Glyphs::Close), QString()))
 {
     setObjectName(QLatin1String("messageBar"));
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
+    m_label->setObjectName(QLatin1String("messageText"));
+    m_key->setObjectName(QLatin1String("messageKey"));
     m_progress->setTextVisible(false);
-    m_progress->setFixedHeight(10);
-    Look::dress(this, Look::Message);
-
-    QVBoxLayout *column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(m_text);
-    column->addWidget(m_progress);
-    QHBoxLayout *row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 4, 4);
-    row->addLayout(column, 1);
-    row->addWidget(m_key);
+    layOut();
+    Look::dress(this, Look::MessageRow);
 
     connect(m_key, &PanelKey::clicked, this, &MessageBar::press);
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &MessageBar::hide);
-    parent->installEventFilter(this);
-    hide();
+    connect(m_log, &MessageLog::changed, this, &MessageBar::refresh);
+    m_keyRest.setSingleShot(true);
+    m_keyRest.setInterval(keyRestMs);
+    connect(&m_keyRest, &QTimer::timeout, this, [this] { m_key->setEnabled(true); });
+    refresh();
 }
 
-void MessageBar::tell(const QString &text, Message::Tone tone)
+void MessageBar::layOut()
 {
-    m_working = false;
-    m_text->setText(text);
-    m_progress->hide();
-    m_key->setIcon(Glyphs::icon(Glyphs::Close));
-    m_key->setText(QString());
-    m_key->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    setTone(tone);
-    if (tone != Message::Information)
-        m_timer.stop();
-    else
-        m_timer.start(kPassingMs);
-    place();
+    QFont font = m_label->font();
+    font.setPixelSize(m_form == Row ? rowPixels : linePixels);
+    m_label->setFont(font);
+    m_label->setLines(m_form == Row ? rowLines : 1);
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    m_label->setMinimumHeight(m_label->fontMetrics().height());
+    m_progress->setFixedHeight(m_form == Row ? rowBar : lineBar);
+
+    QVBoxLayout *column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addWidget(m_label, 1);
+    column->addWidget(m_progress);
+    QHBoxLayout *row = new QHBoxLayout(this);
+    if (m_form == Line) {
+        row->setContentsMargins(3, 0, 3, 0);
+        row->addLayout(column, 1);
+        return;
+    }
+    row->setContentsMargins(6, 0, 0, 0);
+    row->addWidget(m_mark);
+    row->addLayout(column, 1);
+    row->addWidget(m_key);
+    // The text keeps its lines when the key comes and goes.
+    QSizePolicy policy = m_key->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_key->setSizePolicy(policy);
+    m_key->setMinimumWidth(keyWidth);
+    m_key->setFixedHeight(Look::kTouch);
+    // Each pixel more is taken from a row of the screens.
+    setFixedHeight(Look::kTouch);
 }
 
 void MessageBar::showWork(const QString &text, int percent)
 {
-    m_working = true;
-    m_timer.stop();
-    m_text->setText(text);
+    const bool begins = !m_isWorking;
+    m_isWorking = true;
+    m_workText = text;
     m_progress->setValue(percent);
-    m_progress->show();
-    m_key->setIcon(QIcon());
-    m_key->setText(tr("Stop"));
-    m_key->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    setTone(Message::Information);
-    place();
+    if (begins)
+        m_log->passOn();
+    refresh();
     // Some work keeps the event loop waiting.
     repaint();
 }
 
-QString MessageBar::text() const
+void MessageBar::endWork()
 {
-    return isHidden() ? QString() : m_text->text();
+    if (!m_isWorking)
+        return;
+    m_isWorking = false;
+    m_key->setDown(false);
+    m_key->setEnabled(false);
+    m_keyRest.start();
+    refresh();
 }
 
-bool MessageBar::eventFilter(QObject *watched, QEvent *event)
+void MessageBar::refresh()
 {
-    if (watched == parent() && event->type() == QEvent::Resize && !isHidden())
-        place();
-    return QFrame::eventFilter(watched, event);
+    const Message message = m_log->current();
+    const bool showsMessage = !message.text.isEmpty() && (!m_isWorking || m_log->isFresh());
+    m_text = showsMessage ? message.text : m_isWorking ? m_workText : QString();
+    m_progress->setVisible(m_isWorking);
+    showKey(!m_text.isEmpty());
+    if (m_text.isEmpty()) {
+        showNothing();
+    } else {
+        const Message::Tone tone = showsMessage ? message.tone : Message::Information;
+        m_label->setText(m_text);
+        if (m_mark)
+            m_mark->setTone(tone);
+        ToneMark::put(this, tone);
+    }
+    if (m_form == Line)
+        setVisible(!m_text.isEmpty());
+    Q_EMIT changed();
 }
 
-void MessageBar::setTone(Message::Tone tone)
+// The last message stays to be read, without the urgency that it had.
+void MessageBar::showNothing()
 {
-    const char *name = tone == Message::Alarm     ? "alarm"
-                       : tone == Message::Warning ? "warning"
-                                                  : "information";
-    setProperty("tone", QString::fromLatin1(name));
-    // A sheet looks at properties when it is set.
-    style()->unpolish(this);
-    style()->polish(this);
+    const QList<Message> messages = m_log->messages();
+    m_label->setText(messages.isEmpty() ? QString()
+                                        : messages.first().time.toString(QLatin1String("HH:mm  "))
+                                              + messages.first().text);
+    if (m_mark)
+        m_mark->clear();
+    ToneMark::putNone(this);
 }
 
-void MessageBar::place()
+void MessageBar::showKey(bool isWanted)
 {
-    const int margin = 4;
-    const int room = parentWidget()->width() - 2 * margin;
-    setGeometry(margin, margin, room, heightForWidth(room));
-    show();
-    raise();
+    m_key->setIcon(m_isWorking ? QIcon() : Glyphs::icon(Glyphs::Close));
+    m_key->setText(m_isWorking ? tr("Stop") : QString());
+    m_key->setToolButtonStyle(m_isWorking ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
+    if (m_isWorking) {
+        m_keyRest.stop();
+        m_key->setEnabled(true);
+    }
+    m_key->setVisible(isWanted);
+}
+
+void MessageBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    QFrame::changeEvent(event);
+}
+
+void MessageBar::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void MessageBar::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (rect().contains(event->pos()))
+        Q_EMIT touched();
 }
 
 void MessageBar::press()
 {
-    if (m_working)
+    if (m_isWorking)
         Q_EMIT stopped();
     else
-        hide();
+        m_log->closeCurrent();
 }

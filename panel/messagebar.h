@@ -4,47 +4,77 @@
 #ifndef MESSAGEBAR_H
 #define MESSAGEBAR_H
 
-#include "panelscreen.h"
+#include "message.h"
 
 #include <QFrame>
 #include <QTimer>
 
+class ElidedLabel;
+class MessageLog;
 class PanelKey;
-class QLabel;
 class QProgressBar;
+class ToneMark;
 
-/// What a screen has to say, across the top of the screens: a sentence, or the progress of long
-/// work with a Stop key. Hidden while there is nothing to say. Keeps its place when its parent's
-/// size changes.
+/// The place of the panel that says what the log has to say, or how long work goes on, with a key
+/// that closes the one and stops the other.
+///
+/// It has a place of its own and lies over nothing. A text that is too long for it ends in three
+/// dots, so a touch on it is to show the whole one.
+///
+///     MessageBar *bar = new MessageBar(&log, MessageBar::Row);
+///     connect(bar, &MessageBar::touched, this, &PanelWindow::showMessages);
 class MessageBar : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// Lies over \a parent.
-    explicit MessageBar(QWidget *parent);
+    enum Form {
+        Row, ///< As high as its key, also while there is nothing to say: then the last message.
+        Line ///< One line, hidden while there is nothing to say; the key is to be placed elsewhere.
+    };
 
-    void tell(const QString &text, Message::Tone tone);
+    /// \a log must outlive the bar.
+    MessageBar(MessageLog *log, Form form, QWidget *parent = nullptr);
+
+    /// Takes the place of the messages until endWork(), except for those that were just told.
     void showWork(const QString &text, int percent);
-    QString text() const;
-    /// Whether showWork() came last.
-    bool isWorking() const { return m_working && !isHidden(); }
+    void endWork();
+    bool isWorking() const { return m_isWorking; }
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    /// What it says about now; empty while it shows the last message at most.
+    QString text() const { return m_text; }
+    /// In a Line's case without a parent until it is placed.
+    PanelKey *key() const { return m_key; }
 
 Q_SIGNALS:
+    /// text() gives something else now.
+    void changed();
+    void touched();
+    /// The operator wants the work to be stopped.
     void stopped();
 
+protected:
+    void changeEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
 private:
-    void setTone(Message::Tone tone);
-    void place();
+    void layOut();
+    void refresh();
+    void showNothing();
+    void showKey(bool isWanted);
     void press();
 
-    QLabel *m_text;
+    MessageLog *m_log;
+    const Form m_form;
+    ToneMark *m_mark;
+    ElidedLabel *m_label;
     QProgressBar *m_progress;
     PanelKey *m_key;
-    QTimer m_timer;
-    bool m_working = false;
+    QTimer m_keyRest;
+    QString m_text;
+    QString m_workText;
+    bool m_isWorking = false;
 };
 
 #endif // MESSAGEBAR_H

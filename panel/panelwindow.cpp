@@ -8,6 +8,7 @@
 #include "languages.h"
 #include "look.h"
 #include "messagebar.h"
+#include "messagedialog.h"
 #include "panelkey.h"
 #include "settings.h"
 #include "statusstrip.h"
@@ -16,8 +17,8 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
-#include <QTime>
 #include <QVBoxLayout>
 
 #include <climits>
@@ -31,8 +32,10 @@ const int kTabWidth = 74;
 // Narrower ones have no room for the tabs side by side.
 const int kTabsFrom = 400;
 const int kMenuTabWidth = 76;
-const int kMessagePixels = 12;
 const int kStatusMs = 2000;
+const int messageLine = 20;
+// Each pixel more is taken from a row of the screens.
+const int stripMargin = 1;
 
 } // namespace
 
@@ -44,6 +47,7 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     , m_keys(new QHBoxLayout)
     , m_title(new ElidedLabel)
     , m_status(new StatusStrip(m_shape == Wide))
+    , m_messageBar(new MessageBar(&m_log, m_shape == Small ? MessageBar::Line : MessageBar::Row))
 {
     setFixedSize(surface);
     QVBoxLayout *column = new QVBoxLayout(this);
@@ -56,8 +60,9 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     if (hasMenu())
         makeMenu();
 
-    m_messages = new MessageBar(m_stack);
-    connect(m_messages, &MessageBar::stopped, this, [this] { m_working->stopWork(); });
+    connect(m_messageBar, &MessageBar::stopped, this, [this] { m_working->stopWork(); });
+    connect(m_messageBar, &MessageBar::touched, this, &PanelWindow::showMessages);
+    connect(&m_causes, &DeviceCauses::ended, &m_log, &MessageLog::end);
 
     // Over everything while a dialog waits for its answer, so that the dialog stands out.
     m_shade = new QWidget(this);
@@ -86,13 +91,12 @@ QWidget *PanelWindow::makeTopStrip()
     strip->setAttribute(Qt::WA_StyledBackground);
     Look::dress(strip, Look::Strip);
     QHBoxLayout *row = new QHBoxLayout(strip);
-    const int margin = m_shape == Small ? 1 : 3;
-    row->setContentsMargins(3, margin, 3, margin);
+    row->setContentsMargins(3, stripMargin, 3, stripMargin);
     row->setSpacing(4);
 
     // As high as with keys, so that the screens keep their height.
     strip->setMinimumHeight(PanelKey(Glyphs::icon(Glyphs::Menu), tr("Menu")).sizeHint().height()
-                            + 2 * margin);
+                            + 2 * stripMargin);
 
     m_tabs->setSpacing(3);
     m_keys->setSpacing(3);
@@ -106,7 +110,7 @@ QWidget *PanelWindow::makeTopStrip()
     TouchBlock *titleBlock = new TouchBlock;
     titleBlock->setObjectName(QLatin1String("titleBlock"));
     titleBlock->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    connect(titleBlock, &TouchBlock::touched, this, &PanelWindow::showInFull);
+    connect(titleBlock, &TouchBlock::touched, this, &PanelWindow::showMessages);
     QVBoxLayout *titles = new QVBoxLayout(titleBlock);
     const int side = m_shape == Small ? 3 : 6;
     titles->setContentsMargins(side, 0, side, 0);
@@ -120,9 +124,16 @@ QWidget *PanelWindow::makeTopStrip()
     } else if (m_shape == Wide) {
         row->addLayout(m_tabs);
     }
-    if (m_shape == Small)
+    if (m_shape == Small || m_shape == Upright)
         titles->addWidget(m_status);
     row->addWidget(titleBlock, 1);
+    if (m_shape == Small) {
+        titles->addWidget(m_messageBar);
+        m_messageBar->setFixedHeight(messageLine);
+        // Beside the title: what comes and goes there moves no other key.
+        row->addWidget(m_messageBar->key());
+        connect(m_messageBar, &MessageBar::changed, this, &PanelWindow::placeMessages);
+    }
     row->addLayout(m_keys);
     return strip;
 }
@@ -134,22 +145,20 @@ QWidget *PanelWindow::makeFootStrip()
     strip->setAttribute(Qt::WA_StyledBackground);
     Look::dress(strip, Look::Strip);
     QVBoxLayout *column = new QVBoxLayout(strip);
-    column->setContentsMargins(3, 2, 3, 3);
-    column->setSpacing(2);
+    column->setContentsMargins(3, 0, 3, stripMargin);
+    column->setSpacing(stripMargin);
 
-    m_lastMessage = new ElidedLabel;
-    m_lastMessage->setObjectName(QLatin1String("lastMessage"));
-    QFont font = m_lastMessage->font();
-    font.setPixelSize(kMessagePixels);
-    m_lastMessage->setFont(font);
-    // The state of the devices is always to be read; a message gives way, or has a line of its own.
-    QBoxLayout *line =
-        new QBoxLayout(m_shape == Slim ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    line->setContentsMargins(6, 0, 6, 0);
-    line->setSpacing(m_shape == Slim ? 1 : 12);
-    line->addWidget(m_lastMessage, 1);
-    line->addWidget(m_status);
+    QHBoxLayout *line = new QHBoxLayout;
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(12);
+    line->addWidget(m_messageBar, 1);
     column->addLayout(line);
+    if (m_shape == Wide) {
+        line->addWidget(m_status);
+        line->addSpacing(6);
+    } else if (m_shape == Slim) {
+        column->addWidget(m_status, 0, Qt::AlignHCenter);
+    }
     if (m_shape == Upright)
         column->addLayout(m_tabs);
     return strip;
@@ -183,10 +192,14 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     m_entries.append(entry);
 
     connect(screen, &PanelScreen::titleChanged, this, &PanelWindow::showTitle);
-    connect(screen, &PanelScreen::told, this, &PanelWindow::tell);
+    connect(screen, &PanelScreen::told, this,
+            [this, screen](const QString &text, Message::Tone tone, const QString &cause) {
+                tellOf(screen, text, tone, cause);
+            });
+    connect(screen, &PanelScreen::causeEnded, &m_log, &MessageLog::end);
     connect(screen, &PanelScreen::worked, this, [this, screen](const QString &text, int percent) {
         m_working = screen;
-        m_messages->showWork(text, percent);
+        m_messageBar->showWork(text, percent);
     });
     screen->refreshStatus();
     if (index == 0)
@@ -212,7 +225,7 @@ void PanelWindow::chooseLanguage()
     if (picker.exec() != QDialog::Accepted)
         return;
     if (!m_languages->choose(picker.code()))
-        tell(tr("The translation is not installed."), Message::Warning);
+        m_log.tell(tr("The translation is not installed."), Message::Warning);
 }
 
 void PanelWindow::changeLook()
@@ -233,7 +246,7 @@ void PanelWindow::tellTrouble()
 {
     const QString trouble = m_settings->takeTrouble();
     if (!trouble.isEmpty())
-        tell(trouble, Message::Warning);
+        m_log.tell(trouble, Message::Warning);
 }
 
 // Those of a menu go on in a second line where the first is full.
@@ -297,23 +310,32 @@ void PanelWindow::showTitle()
     setWindowModified(screen->hasChanges());
 }
 
-void PanelWindow::tell(const QString &text, Message::Tone tone)
+// What a screen says while it works is how its work has ended. It may object to the end of the
+// program, though, because it works.
+void PanelWindow::tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,
+                         const QString &cause)
 {
-    m_messages->tell(text, tone);
-    m_message = QTime::currentTime().toString(QLatin1String("HH:mm  ")) + text;
-    if (m_lastMessage)
-        m_lastMessage->setText(m_message);
+    if (screen == m_working && !m_isClosing)
+        m_messageBar->endWork();
+    m_log.tell(text, tone, cause);
 }
 
-void PanelWindow::showInFull()
+void PanelWindow::showMessages()
 {
-    // Work that goes on keeps the message bar, and its key.
-    if (!currentScreen() || m_messages->isWorking())
-        return;
-    QStringList lines{currentScreen()->title()};
-    if (!m_message.isEmpty())
-        lines.append(m_message);
-    m_messages->tell(lines.join(QLatin1Char('\n')), Message::Information);
+    MessageDialog dialog(&m_log, currentScreen() ? currentScreen()->title() : QString());
+    dialog.exec();
+}
+
+// The state of the devices gives way: on a small panel there is one line for the two.
+void PanelWindow::placeMessages()
+{
+    m_status->setVisible(m_messageBar->text().isEmpty());
+}
+
+void PanelWindow::showDevices(const DeviceState &state)
+{
+    m_status->showDevices(state);
+    m_causes.take(state);
 }
 
 void PanelWindow::refreshStatus()
@@ -344,6 +366,7 @@ void PanelWindow::changeEvent(QEvent *event)
 
 void PanelWindow::closeEvent(QCloseEvent *event)
 {
+    const QScopedValueRollback<bool> closing(m_isClosing, true);
     for (const Entry &entry : qAsConst(m_entries)) {
         if (!entry.screen->mayClose()) {
             event->ignore();

@@ -4,6 +4,8 @@
 #ifndef PANELWINDOW_H
 #define PANELWINDOW_H
 
+#include "devicecauses.h"
+#include "messagelog.h"
 #include "panelscreen.h"
 
 #include <QList>
@@ -29,7 +31,9 @@ class StatusStrip;
 /// Four shapes, by the surface: lying and wide (tabs in the top strip), upright (tabs at the foot,
 /// in reach of the thumbs), lying and small (tabs behind a Menu key, so that the screen gets every
 /// line there is), and upright and small (the same, with the state of the devices at the foot).
-/// A touch on the title shows it, and the last message, in full.
+/// Messages have a row of their own at the foot, and cover nothing. On a small panel they take the
+/// line of the devices' state while there are some. A touch on the row or on the title opens the
+/// last messages.
 ///
 ///     PanelWindow panel(QSize(800, 480));
 ///     panel.addScreen(new ProgramScreen(0, "/srv/plc", &machine), [] { return tr("Program"); },
@@ -56,10 +60,16 @@ public:
     /// \a index counts from 0 in the order of addScreen().
     void showScreen(int index);
 
-    MessageBar *messageBar() const { return m_messages; }
+    /// What the operator was told; whoever has something to say that is no screen tells it there.
+    MessageLog *messages() { return &m_log; }
+    MessageBar *messageBar() const { return m_messageBar; }
     StatusStrip *status() const { return m_status; }
 
     bool event(QEvent *event) override;
+
+public Q_SLOTS:
+    /// Shows the state of the devices, and ends the messages whose cause it shows to be over.
+    void showDevices(const DeviceState &state);
 
 Q_SIGNALS:
     /// The operator closed the program and no screen objected.
@@ -90,23 +100,26 @@ private:
     void changeLook();
     void tellTrouble();
     void showTitle();
-    void showInFull();
+    void showMessages();
+    void placeMessages();
     void refreshStatus();
-    void tell(const QString &text, Message::Tone tone);
+    void tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,
+                const QString &cause);
 
     const Shape m_shape;
     QList<Entry> m_entries;
+    MessageLog m_log;
+    DeviceCauses m_causes;
     /// Whose work the message bar shows; the operator may look at another screen meanwhile.
     PanelScreen *m_working = nullptr;
+    bool m_isClosing = false;
     QStackedWidget *m_stack;
     QWidget *m_menu = nullptr;
     QGridLayout *m_tabs;
     QHBoxLayout *m_keys;
     ElidedLabel *m_title;
-    ElidedLabel *m_lastMessage = nullptr;
-    QString m_message;
     StatusStrip *m_status;
-    MessageBar *m_messages;
+    MessageBar *m_messageBar;
     QWidget *m_shade;
     Languages *m_languages = nullptr;
     Settings *m_settings = nullptr;

@@ -56,9 +56,7 @@ void StateLine::changeEvent(QEvent *event)
 
 void StateLine::colour()
 {
-    const QString sheet =
-        QString::fromLatin1("color: %1;")
-            .arg((m_tone == Message::Alarm ? Look::alarm() : Look::caution()).name());
+    const QString sheet = QString::fromLatin1("color: %1;").arg(Look::onStrip(m_tone).name());
     if (m_label->styleSheet() != sheet)
         m_label->setStyleSheet(sheet);
 }

@@ -43,11 +43,18 @@ StatusItem::StatusItem(Glyphs::Glyph glyph, QWidget *parent) : QLabel(parent), m
     setContentsMargins(kGlyph + kGlyphGap, 0, 0, 0);
 }
 
-void StatusItem::set(const QString &word, Tone tone, const QString &meaning)
+void StatusItem::set(const QString &word, Message::Tone tone, const QString &meaning)
+{
+    setToneless(word, meaning);
+    m_tone = tone;
+    m_hasTone = true;
+}
+
+void StatusItem::setToneless(const QString &word, const QString &meaning)
 {
     setText(word);
     setAccessibleName(meaning);
-    m_tone = tone;
+    m_hasTone = false;
     update();
 }
 
@@ -55,10 +62,7 @@ void StatusItem::paintEvent(QPaintEvent *event)
 {
     QLabel::paintEvent(event);
     QPainter painter(this);
-    const QColor color = m_tone == Alarm     ? Look::alarm()
-                         : m_tone == Caution ? Look::caution()
-                         : m_tone == Calm    ? Look::calm()
-                                             : Look::stripText();
+    const QColor color = m_hasTone ? Look::onStrip(m_tone) : Look::stripText();
     Glyphs::draw(m_glyph, &painter, QRect(0, (height() - kGlyph) / 2, kGlyph, kGlyph), color);
 }
 
@@ -170,16 +174,16 @@ void StatusStrip::showPlc()
     const QString name = tr("PLC");
     switch (plc()) {
     case PlcUnknown:
-        return m_plc->set(named(name, dash()), StatusItem::Plain, tr("PLC: not known"));
+        return m_plc->setToneless(named(name, dash()), tr("PLC: not known"));
     case PlcReady:
-        return m_plc->set(named(name, tr("ready")), StatusItem::Calm, tr("PLC: ready"));
+        return m_plc->set(named(name, tr("ready")), Message::Information, tr("PLC: ready"));
     case PlcAway:
-        return m_plc->set(named(name, tr("away")), StatusItem::Alarm, tr("PLC: does not answer"));
+        return m_plc->set(named(name, tr("away")), Message::Alarm, tr("PLC: does not answer"));
     case PlcSending:
-        return m_plc->set(named(name, tr("%1 %").arg(m_percent)), StatusItem::Caution,
+        return m_plc->set(named(name, tr("%1 %").arg(m_percent)), Message::Information,
                           tr("PLC: receives a program"));
     case PlcFailed:
-        return m_plc->set(named(name, tr("failed")), StatusItem::Alarm,
+        return m_plc->set(named(name, tr("failed")), Message::Alarm,
                           tr("PLC: the last download failed"));
     }
 }
@@ -188,10 +192,10 @@ void StatusStrip::showStick()
 {
     const QString name = tr("Stick");
     if (!m_isKnown)
-        return m_stick->set(named(name, dash()), StatusItem::Plain, tr("Stick: not known"));
+        return m_stick->setToneless(named(name, dash()), tr("Stick: not known"));
     if (m_devices.stickIn)
-        return m_stick->set(named(name, tr("in")), StatusItem::Calm, tr("Stick: in"));
-    m_stick->set(named(name, tr("out")), StatusItem::Plain, tr("Stick: out"));
+        return m_stick->set(named(name, tr("in")), Message::Information, tr("Stick: in"));
+    m_stick->setToneless(named(name, tr("out")), tr("Stick: out"));
 }
 
 void StatusStrip::showStorage()
@@ -203,15 +207,15 @@ void StatusStrip::showStorage()
     const QString name = tr("Storage");
     switch (storage()) {
     case StorageUnknown:
-        return m_storage->set(named(name, dash()), StatusItem::Plain, tr("Storage: not known"));
+        return m_storage->setToneless(named(name, dash()), tr("Storage: not known"));
     case StorageAmple:
-        return m_storage->set(named(name, room), StatusItem::Calm,
+        return m_storage->set(named(name, room), Message::Information,
                               tr("Storage: %1 free").arg(room));
     case StorageLow:
-        return m_storage->set(named(name, QLatin1String("! ") + room), StatusItem::Caution,
+        return m_storage->set(named(name, QLatin1String("! ") + room), Message::Warning,
                               tr("Storage: only %1 free").arg(room));
     case StorageFull:
-        return m_storage->set(named(name, tr("full")), StatusItem::Alarm, tr("Storage: full"));
+        return m_storage->set(named(name, tr("full")), Message::Alarm, tr("Storage: full"));
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include "devicewatch.h"
 #include "glyphs.h"
+#include "message.h"
 
 #include <QLabel>
 #include <QTimer>
@@ -18,20 +19,23 @@ class StatusItem : public QLabel
     Q_OBJECT
 
 public:
-    enum Tone { Calm, Plain, Caution, Alarm };
-
     explicit StatusItem(Glyphs::Glyph glyph, QWidget *parent = nullptr);
 
     /// \a meaning says it in full, for those who hear the screen.
-    void set(const QString &word, Tone tone, const QString &meaning);
-    Tone tone() const { return m_tone; }
+    void set(const QString &word, Message::Tone tone, const QString &meaning);
+    /// The same for what is not known, or not there and need not be.
+    void setToneless(const QString &word, const QString &meaning);
+    bool hasTone() const { return m_hasTone; }
+    /// Means something only where there is one.
+    Message::Tone tone() const { return m_tone; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     const Glyphs::Glyph m_glyph;
-    Tone m_tone = Plain;
+    Message::Tone m_tone = Message::Information;
+    bool m_hasTone = false;
 };
 
 /// The state of the PLC, of the stick and of the storage, and the clock, in one line.

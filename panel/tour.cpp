@@ -5,7 +5,7 @@
 
 #include "connectionsscreen.h"
 #include "filesscreen.h"
-#include "messagebar.h"
+#include "messagelog.h"
 #include "panelglass.h"
 #include "panelkey.h"
 #include "panelwindow.h"
@@ -355,7 +355,7 @@ void Tour::openMenu()
 void Tour::showScreen(int index)
 {
     then([this, index] {
-        m_panel->messageBar()->hide();
+        m_panel->messages()->closeAll();
         m_panel->showScreen(index);
     });
     then([] {});

@@ -39,13 +39,10 @@ struct Exception
 
 const Exception exceptionTable[] = {
     {Exception::Text, "title", "the name of a program; a touch tells it in full", kAnyWidth},
-    {Exception::Text, "lastMessage", "was shown in full; a touch on the title shows it again",
-     kAnyWidth},
+    {Exception::Text, "messageText", "a touch on it shows it in full", kAnyWidth},
     {Exception::Text, "fileState", "ends in a path; a touch tells it in full", kAnyWidth},
     {Exception::Text, "oldValue", "the value of before stands in the field in full", kAnyWidth},
     {Exception::Place, "DataEditor", "the cells share their border lines, by the library's design",
-     kAnyWidth},
-    {Exception::Place, "messageBar", "lies over the screens while there is something to say",
      kAnyWidth},
     {Exception::Place, "shade", "lies over everything while a dialog waits", kAnyWidth},
     {Exception::Place, "menu", "lies over the screens while the operator chooses", kAnyWidth},

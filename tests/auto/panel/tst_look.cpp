@@ -6,8 +6,11 @@
 #include "glyphs.h"
 #include "look.h"
 #include "messagebar.h"
+#include "messagedialog.h"
+#include "messagelog.h"
 #include "panelkey.h"
 #include "panelstyle.h"
+#include "tonemark.h"
 #include "wgcodeediter.h"
 
 #include <QHBoxLayout>
@@ -31,6 +34,8 @@ private Q_SLOTS:
     void keysAreReadable();
     void messagesAreReadable_data();
     void messagesAreReadable();
+    void messagesOfTheListAreReadable_data();
+    void messagesOfTheListAreReadable();
     void stripColoursAreReadable_data();
     void stripColoursAreReadable();
     void whatIsShownFollows();
@@ -177,17 +182,52 @@ void TestLook::messagesAreReadable()
     QFETCH(Look::Style, style);
     QFETCH(Message::Tone, tone);
     Look::use(style);
-    QWidget screen;
-    screen.resize(480, 200);
-    MessageBar bar(&screen);
-    screen.show();
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.resize(480, 40);
+    bar.show();
     // The tones follow one another.
-    bar.showWork("on its way", 40);
-    bar.tell("The PLC does not answer.", tone);
+    log.tell("The storage is full.", Message::Warning);
+    log.closeAll();
+    log.tell("The PLC does not answer.", tone);
     QLabel *text = bar.findChild<QLabel *>();
     QVERIFY(Contrast::drawn(&bar, text->geometry()) >= Contrast::kText);
+    QWidget *mark = bar.findChild<ToneMark *>();
+    QVERIFY(Contrast::drawn(&bar, mark->geometry()) >= Contrast::kText);
     PanelKey *key = bar.findChild<PanelKey *>();
     QVERIFY(Contrast::drawn(&bar, key->geometry().adjusted(8, 8, -8, -8)) >= Contrast::kText);
+}
+
+void TestLook::messagesOfTheListAreReadable_data()
+{
+    messagesAreReadable_data();
+}
+
+void TestLook::messagesOfTheListAreReadable()
+{
+    QFETCH(Look::Style, style);
+    QFETCH(Message::Tone, tone);
+    Look::use(style);
+    MessageLog log;
+    // One that has ended, and one that stands.
+    log.tell("The PLC did not answer.", tone, "plc");
+    log.end("plc");
+    log.tell("The PLC does not answer.", tone);
+    MessageDialog dialog(&log, "coil.cnc");
+    dialog.show();
+    QCoreApplication::processEvents();
+    const QList<QWidget *> lines = dialog.findChildren<QWidget *>("message");
+    QCOMPARE(lines.size(), 2);
+    for (QWidget *line : lines) {
+        const QList<QLabel *> labels = line->findChildren<QLabel *>();
+        QCOMPARE(labels.size(), 2);
+        for (QLabel *label : labels) {
+            const QRect place(label->mapTo(&dialog, QPoint(0, 0)), label->size());
+            QVERIFY(Contrast::drawn(&dialog, place) >= Contrast::kText);
+        }
+        QWidget *mark = line->findChild<ToneMark *>();
+        QVERIFY(Contrast::drawn(mark, mark->rect().adjusted(3, 3, -3, -3)) >= Contrast::kText);
+    }
 }
 
 void TestLook::stripColoursAreReadable_data()
@@ -205,8 +245,9 @@ void TestLook::stripColoursAreReadable()
     Look::dress(&strip, Look::Strip);
     strip.resize(20, 20);
     const QColor ground = TestCompat::grab(&strip).toImage().pixelColor(10, 10);
-    for (const QColor &color : {Look::stripText(), Look::changed(), Look::caution(), Look::alarm(),
-                                Look::calm(), Look::stripFaint()})
+    for (const QColor &color : {Look::stripText(), Look::changed(), Look::stripFaint(),
+                                Look::onStrip(Message::Information),
+                                Look::onStrip(Message::Warning), Look::onStrip(Message::Alarm)})
         QVERIFY2(Contrast::ratio(color, ground) >= Contrast::kText, qPrintable(color.name()));
 }
 

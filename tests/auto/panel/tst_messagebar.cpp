@@ -3,77 +3,250 @@
 
 #include "filarixtest.h"
 #include "messagebar.h"
+#include "messagelog.h"
 #include "panelkey.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QProgressBar>
 #include <QSignalSpy>
-#include <QTimer>
+#include <QTranslator>
 
 class TestMessageBar : public FilarixTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void warningStaysUntilItIsClosed();
-    void informationPassesByItself();
+    void rowKeepsItsPlace();
+    void lineIsThereWhileThereIsSomethingToSay();
+    void keyClosesWhatIsSaid();
+    void informationPassesAndTheWarningIsBack();
+    void lastMessageStaysWithoutItsTone();
     void keyOfRunningWorkStopsIt();
-    void longTextIsShownWhole();
+    void messageIsReadWhileWorkRuns();
+    void workFollowsAnInformation();
+    void endOfWorkIsNotClosedByAThumbOnStop();
+    void touchOnTheTextIsTold();
+    void touchTargetIsLargeEnough();
+    void keyFollowsTheLanguage();
 };
 
-void TestMessageBar::warningStaysUntilItIsClosed()
+static QString shown(const MessageBar &bar)
 {
-    QWidget screen;
-    screen.resize(480, 200);
-    MessageBar bar(&screen);
-    screen.show();
-    bar.tell("The PLC does not answer.", Message::Warning);
-    QCOMPARE(bar.text(), QString("The PLC does not answer."));
-    QVERIFY(!bar.findChild<QTimer *>() || !bar.findChild<QTimer *>()->isActive());
+    return bar.findChild<QLabel *>("messageText")->text();
+}
+
+void TestMessageBar::rowKeepsItsPlace()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.resize(480, 40);
+    bar.show();
+    const QSize size = bar.size();
+    const QRect text = bar.findChild<QLabel *>("messageText")->geometry();
+    log.tell(QString("a long sentence ").repeated(15), Message::Alarm);
+    QCoreApplication::processEvents();
+    QVERIFY(bar.key()->isVisible());
+    QCOMPARE(bar.size(), size);
+    QCOMPARE(bar.findChild<QLabel *>("messageText")->geometry(), text);
+    bar.showWork("on its way", 3);
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.size(), size);
+    QCOMPARE(bar.findChild<QLabel *>("messageText")->width(), text.width());
+}
+
+void TestMessageBar::lineIsThereWhileThereIsSomethingToSay()
+{
+    QWidget strip;
+    MessageLog log;
+    MessageBar *bar = new MessageBar(&log, MessageBar::Line);
+    QHBoxLayout layout(&strip);
+    layout.addWidget(bar);
+    layout.addWidget(bar->key());
+    strip.show();
+    QVERIFY(bar->isHidden());
+    QVERIFY(bar->key()->isHidden());
+    log.tell("The PLC does not answer.", Message::Warning, "plc");
+    QVERIFY(bar->isVisible());
+    QVERIFY(bar->key()->isVisible());
+    QCOMPARE(shown(*bar), QString("The PLC does not answer."));
+    log.end("plc");
+    QVERIFY(bar->isHidden());
+    QVERIFY(bar->key()->isHidden());
+}
+
+void TestMessageBar::keyClosesWhatIsSaid()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
     QSignalSpy stops(&bar, SIGNAL(stopped()));
-    QTest::mouseClick(bar.findChild<PanelKey *>(), Qt::LeftButton);
-    QVERIFY(bar.isHidden());
+    QVERIFY(!bar.key()->isVisible());
+    log.tell("The PLC does not answer.", Message::Warning);
+    QCOMPARE(bar.text(), QString("The PLC does not answer."));
+    QCOMPARE(bar.property("tone").toString(), QString("warning"));
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
     QCOMPARE(bar.text(), QString());
+    QCOMPARE(log.standingCount(), 0);
+    QVERIFY(!bar.key()->isVisible());
     QCOMPARE(stops.size(), 0);
 }
 
-void TestMessageBar::informationPassesByItself()
+void TestMessageBar::informationPassesAndTheWarningIsBack()
 {
-    QWidget screen;
-    screen.resize(480, 200);
-    MessageBar bar(&screen);
-    screen.show();
-    bar.tell("Nothing to insert.", Message::Information);
-    QVERIFY(bar.isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(bar.isHidden(), 10000);
+    MessageLog log;
+    log.setPassingTime(30);
+    MessageBar bar(&log, MessageBar::Row);
+    log.tell("full", Message::Warning);
+    log.tell("stored", Message::Information);
+    QCOMPARE(bar.text(), QString("stored"));
+    QCOMPARE(bar.property("tone").toString(), QString("information"));
+    QTRY_COMPARE(bar.text(), QString("full"));
+    QCOMPARE(bar.property("tone").toString(), QString("warning"));
+}
+
+void TestMessageBar::lastMessageStaysWithoutItsTone()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    QCOMPARE(shown(bar), QString());
+    log.tell("The PLC does not answer.", Message::Alarm, "plc");
+    QCOMPARE(bar.property("tone").toString(), QString("alarm"));
+    log.end("plc");
+    QCOMPARE(bar.text(), QString());
+    QCOMPARE(bar.property("tone").toString(), QString("none"));
+    QCOMPARE(shown(bar),
+             log.messages().first().time.toString("HH:mm") + "  The PLC does not answer.");
 }
 
 void TestMessageBar::keyOfRunningWorkStopsIt()
 {
-    QWidget screen;
-    screen.resize(480, 200);
-    MessageBar bar(&screen);
-    screen.show();
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
     bar.showWork("a.cnc goes to the PLC", 40);
+    QVERIFY(bar.isWorking());
+    QCOMPARE(bar.text(), QString("a.cnc goes to the PLC"));
     QCOMPARE(bar.findChild<QProgressBar *>()->value(), 40);
+    QVERIFY(bar.findChild<QProgressBar *>()->isVisible());
     QSignalSpy stops(&bar, SIGNAL(stopped()));
-    QTest::mouseClick(bar.findChild<PanelKey *>(), Qt::LeftButton);
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
     QCOMPARE(stops.size(), 1);
-    QVERIFY(bar.isVisible());
+    QVERIFY(bar.isWorking());
+    bar.endWork();
+    QVERIFY(!bar.findChild<QProgressBar *>()->isVisible());
+    QCOMPARE(bar.text(), QString());
 }
 
-void TestMessageBar::longTextIsShownWhole()
+void TestMessageBar::messageIsReadWhileWorkRuns()
 {
-    QWidget screen;
-    screen.resize(480, 200);
-    MessageBar bar(&screen);
-    screen.show();
-    bar.tell("short", Message::Warning);
-    const int low = bar.height();
-    bar.tell(QString("a long sentence ").repeated(15), Message::Warning);
-    QVERIFY(bar.height() > low);
-    QVERIFY(screen.rect().contains(bar.geometry()));
-    screen.resize(700, 200);
-    QTRY_COMPARE(bar.width(), 692);
+    MessageLog log;
+    log.tell("full", Message::Warning);
+    log.closeCurrent();
+    log.setPassingTime(30);
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
+    bar.showWork("on its way", 40);
+    log.tell("The stick is in.", Message::Warning);
+    QCOMPARE(bar.text(), QString("The stick is in."));
+    QCOMPARE(bar.property("tone").toString(), QString("warning"));
+    QVERIFY(bar.findChild<QProgressBar *>()->isVisible());
+    QSignalSpy stops(&bar, SIGNAL(stopped()));
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
+    QCOMPARE(stops.size(), 1);
+    QTRY_COMPARE(bar.text(), QString("on its way"));
+    QVERIFY(bar.isWorking());
+    QCOMPARE(bar.property("tone").toString(), QString("information"));
+    bar.endWork();
+    QCOMPARE(bar.text(), QString("The stick is in."));
+}
+
+// Whoever starts something has read what was said before.
+void TestMessageBar::workFollowsAnInformation()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    log.tell("stored", Message::Information);
+    bar.showWork("on its way", 0);
+    QCOMPARE(bar.text(), QString("on its way"));
+    QCOMPARE(log.standingCount(), 0);
+}
+
+void TestMessageBar::endOfWorkIsNotClosedByAThumbOnStop()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
+    bar.showWork("on its way", 99);
+    QTest::mousePress(bar.key(), Qt::LeftButton);
+    bar.endWork();
+    log.tell("a.cnc is in the PLC.", Message::Warning);
+    QSignalSpy stops(&bar, SIGNAL(stopped()));
+    QTest::mouseRelease(bar.key(), Qt::LeftButton);
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
+    QCOMPARE(stops.size(), 0);
+    QCOMPARE(bar.text(), QString("a.cnc is in the PLC."));
+    QTRY_VERIFY(bar.key()->isEnabled());
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
+    QCOMPARE(bar.text(), QString());
+    // Work that begins anew can be stopped at once.
+    bar.showWork("on its way", 1);
+    bar.endWork();
+    bar.showWork("on its way", 1);
+    QVERIFY(bar.key()->isEnabled());
+}
+
+void TestMessageBar::touchOnTheTextIsTold()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.resize(480, 40);
+    bar.show();
+    QSignalSpy touches(&bar, SIGNAL(touched()));
+    QWidget *label = bar.findChild<QLabel *>("messageText");
+    QTest::mouseClick(label, Qt::LeftButton);
+    QCOMPARE(touches.size(), 1);
+    bar.showWork("on its way", 5);
+    QTest::mouseClick(label, Qt::LeftButton);
+    QCOMPARE(touches.size(), 2);
+    // A finger that has gone elsewhere touches nothing.
+    QTest::mousePress(label, Qt::LeftButton);
+    QTest::mouseRelease(label, Qt::LeftButton, Qt::NoModifier, QPoint(5, 300));
+    QCOMPARE(touches.size(), 2);
+}
+
+void TestMessageBar::touchTargetIsLargeEnough()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
+    log.tell("full", Message::Warning);
+    QVERIFY(bar.height() >= 40);
+    QVERIFY(bar.key()->height() >= 40 && bar.key()->width() >= 40);
+    bar.showWork("on its way", 5);
+    QVERIFY(bar.key()->height() >= 40 && bar.key()->width() >= 40);
+}
+
+void TestMessageBar::keyFollowsTheLanguage()
+{
+    class Translator : public QTranslator
+    {
+    public:
+        QString translate(const char *, const char *source, const char *, int) const override
+        {
+            return !qstrcmp(source, "Stop") ? "Halt" : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.showWork("on its way", 5);
+    QCOMPARE(bar.key()->text(), QString("Stop"));
+    Translator translator;
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.key()->text(), QString("Halt"));
+    QCoreApplication::removeTranslator(&translator);
 }
 
 FILARIX_TEST_MAIN(TestMessageBar)

@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStackedWidget>
 
 class FakeScreen : public PanelScreen
 {
@@ -25,12 +26,18 @@ public:
     QString title() const override { return m_title; }
     bool hasChanges() const override { return m_changed; }
     QList<PanelKey *> keys() override { return {m_key = new PanelKey("Do")}; }
-    bool mayClose() override { return m_mayClose; }
+    bool mayClose() override
+    {
+        if (!m_mayClose && !m_objection.isEmpty())
+            Q_EMIT told(m_objection, Message::Warning);
+        return m_mayClose;
+    }
     void stopWork() override { ++m_stops; }
 
     QString m_title = "coil.cnc";
     bool m_changed = false;
     bool m_mayClose = true;
+    QString m_objection;
     int m_stops = 0;
     PanelKey *m_key = nullptr;
 };
@@ -47,13 +54,22 @@ private Q_SLOTS:
     void titleCarriesTheMarkOfChanges();
     void statusIsInViewOnEveryScreen_data();
     void statusIsInViewOnEveryScreen();
-    void titleTellsInFullWhenTouched();
+    void touchShowsEverythingInFull_data();
+    void touchShowsEverythingInFull();
+    void messageCoversNothing_data();
+    void messageCoversNothing();
+    void messageSurvivesAChangeOfScreens();
+    void messageGoesWithItsCause();
+    void objectionToClosingEndsNoWork();
     void lookIsChangedByTouchAndKept_data();
     void lookIsChangedByTouchAndKept();
     void messagesAndProgressOfAScreenAreShown();
     void stopReachesTheScreenThatWorks();
     void panelIsShadedWhileADialogWaits();
     void closingAsksEveryScreen();
+
+private:
+    QMap<int, QRect> m_keyPlaces;
 };
 
 static void addScreens(PanelWindow *panel, QList<FakeScreen *> *screens)
@@ -116,8 +132,11 @@ void TestPanelWindow::touchTargets()
         QVERIFY2(needed <= key->width(), qPrintable(key->text()));
     }
     QVERIFY(visible >= 6);
-    // The screens keep what the strips leave, and that is most of the panel.
-    QVERIFY(screens.first()->height() >= size.height() - 124);
+    // The screens keep what the strips leave, and that is most of the panel: on the largest the
+    // strips hold the keys of the screen, the message with its key, and the tabs.
+    QVERIFY(screens.first()->height() >= size.height() - 136);
+    if (size == QSize(480, 272))
+        QVERIFY(screens.first()->height() >= size.height() - 49);
 }
 
 void TestPanelWindow::tabShowsItsScreenAndKeys()
@@ -193,7 +212,9 @@ void TestPanelWindow::statusIsInViewOnEveryScreen()
         panel.showScreen(i);
         screens.at(i)->m_title = QString(200, 'w');
         Q_EMIT screens.at(i)->titleChanged();
-        Q_EMIT screens.at(i)->told(QString(200, 'w'), Message::Information);
+        // On a small panel there is one line for the two.
+        if (size != QSize(480, 272))
+            Q_EMIT screens.at(i)->told(QString(200, 'w'), Message::Information);
         QCoreApplication::processEvents();
         const QList<QLabel *> words = panel.status()->findChildren<QLabel *>();
         QCOMPARE(words.size(), 4);
@@ -212,26 +233,144 @@ void TestPanelWindow::statusIsInViewOnEveryScreen()
     }
 }
 
-void TestPanelWindow::titleTellsInFullWhenTouched()
+void TestPanelWindow::touchShowsEverythingInFull_data()
 {
-    PanelWindow panel(QSize(480, 272));
+    touchTargets_data();
+}
+
+void TestPanelWindow::touchShowsEverythingInFull()
+{
+    QFETCH(QSize, size);
+    PanelWindow panel(size);
     FakeScreen *screen = new FakeScreen;
     screen->m_title = QString(60, 'w') + ".cnc";
     panel.addScreen(screen, "Program", QIcon());
     panel.show();
+    const QString text = QString("The stick is full. ").repeated(10);
+    Q_EMIT screen->told(text, Message::Warning);
+    Q_EMIT screen->worked("on its way", 30);
+    QCoreApplication::processEvents();
     QWidget *block = panel.findChild<QWidget *>("titleBlock");
     QVERIFY(block->height() >= 34);
-    QTest::mouseClick(block, Qt::LeftButton);
-    QCOMPARE(panel.messageBar()->text(), screen->m_title);
-    Q_EMIT screen->told("The stick is full.", Message::Warning);
-    panel.messageBar()->hide();
-    QTest::mouseClick(block, Qt::LeftButton);
-    QVERIFY(panel.messageBar()->text().startsWith(screen->m_title));
-    QVERIFY(panel.messageBar()->text().endsWith("The stick is full."));
-    // Running work keeps its Stop key.
+    for (QWidget *target : {block, static_cast<QWidget *>(panel.messageBar())}) {
+        ModalDriver driver;
+        driver.then([&](QWidget *dialog) {
+            const auto shown = [dialog](const char *name) {
+                return dialog->findChild<QLabel *>(name)->text().remove(QChar(0x200b));
+            };
+            QCOMPARE(shown("subject"), screen->m_title);
+            QCOMPARE(shown("text"), text);
+            dialog->close();
+        });
+        QTest::mouseClick(target, Qt::LeftButton);
+        QVERIFY2(driver.finished(), driver.report());
+    }
+    // The work goes on, and keeps its key.
+    QVERIFY(panel.messageBar()->isWorking());
+    QVERIFY(panel.messageBar()->key()->isVisible());
+}
+
+void TestPanelWindow::messageCoversNothing_data()
+{
+    touchTargets_data();
+}
+
+void TestPanelWindow::messageCoversNothing()
+{
+    QFETCH(QSize, size);
+    PanelWindow panel(size);
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    QStackedWidget *stack = panel.findChild<QStackedWidget *>();
+    const QRect content = stack->geometry();
+    for (int state = 0; state < 3; ++state) {
+        if (state == 1)
+            Q_EMIT screens.at(0)->told(QString(200, 'w'), Message::Alarm);
+        if (state == 2)
+            Q_EMIT screens.at(0)->worked(QString(200, 'w'), 40);
+        for (int i = 0; i < screens.size(); ++i) {
+            panel.showScreen(i);
+            QCoreApplication::processEvents();
+            // Nothing gives way under a thumb.
+            QCOMPARE(stack->geometry(), content);
+            const QRect keyPlace(screens.at(i)->m_key->mapTo(&panel, QPoint(0, 0)),
+                                 screens.at(i)->m_key->size());
+            QCOMPARE(panel.childAt(keyPlace.center()),
+                     static_cast<QWidget *>(screens.at(i)->m_key));
+            if (state == 0)
+                m_keyPlaces[i] = keyPlace;
+            QCOMPARE(keyPlace, m_keyPlaces[i]);
+            if (state == 0)
+                continue;
+            for (QWidget *part : {static_cast<QWidget *>(panel.messageBar()),
+                                  static_cast<QWidget *>(panel.messageBar()->key())}) {
+                QVERIFY(part->isVisible());
+                const QRect place(part->mapTo(&panel, QPoint(0, 0)), part->size());
+                QVERIFY(panel.rect().contains(place));
+                QVERIFY(!place.intersects(content));
+                QVERIFY(part->visibleRegion().boundingRect() == part->rect());
+            }
+            QVERIFY(panel.messageBar()->key()->height() >= 40);
+            // All of the content is the screen's.
+            QCOMPARE(panel.childAt(content.center()), static_cast<QWidget *>(screens.at(i)));
+            QCOMPARE(panel.childAt(content.topLeft()), static_cast<QWidget *>(screens.at(i)));
+            QCOMPARE(panel.childAt(content.bottomRight()), static_cast<QWidget *>(screens.at(i)));
+        }
+    }
+}
+
+void TestPanelWindow::messageSurvivesAChangeOfScreens()
+{
+    PanelWindow panel(QSize(480, 272));
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    Q_EMIT screens.at(0)->told("The PLC does not answer.", Message::Alarm, "plc");
+    for (int i = 4; i >= 0; --i) {
+        panel.showScreen(i);
+        QCOMPARE(panel.messageBar()->text(), QString("The PLC does not answer."));
+        QVERIFY(panel.messageBar()->isVisible());
+        QVERIFY(!panel.status()->isVisible());
+    }
+    Q_EMIT screens.at(3)->causeEnded("plc");
+    QCOMPARE(panel.messageBar()->text(), QString());
+    QVERIFY(panel.status()->isVisible());
+}
+
+void TestPanelWindow::messageGoesWithItsCause()
+{
+    PanelWindow panel(QSize(800, 480));
+    FakeScreen *screen = new FakeScreen;
+    panel.addScreen(screen, "Program", QIcon());
+    panel.show();
+    DeviceState devices;
+    devices.isKnown = true;
+    panel.showDevices(devices);
+    QCOMPARE(panel.status()->plc(), StatusStrip::PlcAway);
+    Q_EMIT screen->told("The PLC does not answer.", Message::Alarm, "plc");
+    QCOMPARE(panel.messageBar()->text(), QString("The PLC does not answer."));
+    devices.plcReachable = true;
+    panel.showDevices(devices);
+    QCOMPARE(panel.status()->plc(), StatusStrip::PlcReady);
+    QCOMPARE(panel.messageBar()->text(), QString());
+    QCOMPARE(panel.messages()->messages().size(), 1);
+}
+
+void TestPanelWindow::objectionToClosingEndsNoWork()
+{
+    PanelWindow panel(QSize(800, 480));
+    FakeScreen *screen = new FakeScreen;
+    screen->m_mayClose = false;
+    screen->m_objection = "A download is running.";
+    panel.addScreen(screen, "Program", QIcon());
+    panel.show();
     Q_EMIT screen->worked("on its way", 30);
-    QTest::mouseClick(block, Qt::LeftButton);
-    QCOMPARE(panel.messageBar()->text(), QString("on its way"));
+    QVERIFY(!panel.close());
+    QCOMPARE(panel.messageBar()->text(), QString("A download is running."));
+    QVERIFY(panel.messageBar()->isWorking());
+    QTest::mouseClick(panel.messageBar()->key(), Qt::LeftButton);
+    QCOMPARE(screen->m_stops, 1);
 }
 
 void TestPanelWindow::lookIsChangedByTouchAndKept_data()
@@ -279,11 +418,13 @@ void TestPanelWindow::messagesAndProgressOfAScreenAreShown()
     panel.show();
     Q_EMIT screen->worked("on its way", 30);
     QCOMPARE(panel.messageBar()->text(), QString("on its way"));
-    QTest::mouseClick(panel.messageBar()->findChild<PanelKey *>(), Qt::LeftButton);
+    QTest::mouseClick(panel.messageBar()->key(), Qt::LeftButton);
     QCOMPARE(screen->m_stops, 1);
     Q_EMIT screen->told("arrived", Message::Information);
     QCOMPARE(panel.messageBar()->text(), QString("arrived"));
-    QVERIFY(label(panel, "lastMessage").endsWith("arrived"));
+    QVERIFY(!panel.messageBar()->isWorking());
+    panel.messages()->closeAll();
+    QVERIFY(label(panel, "messageText").endsWith("arrived"));
 }
 
 void TestPanelWindow::stopReachesTheScreenThatWorks()
@@ -295,7 +436,7 @@ void TestPanelWindow::stopReachesTheScreenThatWorks()
     Q_EMIT screens.at(0)->worked("on its way", 30);
     // The operator looks at something else meanwhile.
     panel.showScreen(4);
-    QTest::mouseClick(panel.messageBar()->findChild<PanelKey *>(), Qt::LeftButton);
+    QTest::mouseClick(panel.messageBar()->key(), Qt::LeftButton);
     QCOMPARE(screens.at(0)->m_stops, 1);
     QCOMPARE(screens.at(4)->m_stops, 0);
 }

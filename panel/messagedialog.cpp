@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "messagedialog.h"
+
+#include "look.h"
+#include "messagelog.h"
+#include "tonemark.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+const QSize roomy(720, 560);
+const int textPixels = 14;
+const int timePixels = 12;
+// Letters of a word that fit on the narrowest panel, be they the widest.
+const int longestWord = 16;
+// Narrower ones have the time above the text.
+const int narrowBelow = 400;
+
+QLabel *makeLabel(const QString &text, int pixels)
+{
+    QLabel *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    QFont font = label->font();
+    font.setPixelSize(pixels);
+    label->setFont(font);
+    return label;
+}
+
+// A label breaks its lines between words only; the name of a file may be one word of 255 letters.
+QString breakable(const QString &text)
+{
+    QString result;
+    int run = 0;
+    for (const QChar letter : text) {
+        run = letter.isSpace() ? 0 : run + 1;
+        if (run > longestWord) {
+            result += QChar(0x200b);
+            run = 1;
+        }
+        result += letter;
+    }
+    return result;
+}
+
+QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
+{
+    QPushButton *key = new QPushButton(text);
+    key->setObjectName(QLatin1String(objectName));
+    key->setAutoDefault(false);
+    key->setMinimumSize(Look::kTouch, Look::kTouch);
+    row->addWidget(key, 1);
+    return key;
+}
+
+QSize panelSize()
+{
+    return QGuiApplication::primaryScreen()->availableSize();
+}
+
+} // namespace
+
+MessageDialog::MessageDialog(MessageLog *log, const QString &subject, QWidget *parent)
+    : Dialog(parent), m_log(log), m_area(new QScrollArea)
+{
+    setTitle(tr("Messages"));
+    m_area->setWidgetResizable(true);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    m_area->setFocusPolicy(Qt::NoFocus);
+
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->setSpacing(6);
+    if (!subject.isEmpty()) {
+        QLabel *label = makeLabel(breakable(subject), textPixels);
+        label->setObjectName(QLatin1String("subject"));
+        column->addWidget(label);
+    }
+    column->addWidget(m_area, 1);
+    QHBoxLayout *keys = new QHBoxLayout;
+    keys->setSpacing(6);
+    column->addLayout(keys);
+    m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
+    m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
+    QPushButton *closeKey = addKey(keys, tr("Close"), "close");
+
+    connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
+    connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
+    connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
+    const QScrollBar *bar = m_area->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, &MessageDialog::showState);
+    connect(bar, &QScrollBar::rangeChanged, this, &MessageDialog::showState);
+    connect(m_log, &MessageLog::changed, this, &MessageDialog::fill);
+    fill();
+    resize(roomy.boundedTo(panelSize() - QSize(8, 8)));
+}
+
+// In one form for all languages: it can be sorted, and nobody takes the month for the day.
+QString MessageDialog::shownTime(const QDateTime &time, const QDate &today)
+{
+    const char *format = time.date() == today ? "HH:mm:ss" : "yyyy-MM-dd HH:mm:ss";
+    return time.toString(QLatin1String(format));
+}
+
+QWidget *MessageDialog::makeLine(const Message &message, bool stands) const
+{
+    QFrame *line = new QFrame;
+    line->setObjectName(QLatin1String("message"));
+    if (stands)
+        ToneMark::put(line, message.tone);
+    else
+        ToneMark::putNone(line);
+    ToneMark *mark = new ToneMark;
+    mark->setTone(message.tone);
+    QLabel *time = makeLabel(shownTime(message.time, QDate::currentDate()), timePixels);
+    time->setWordWrap(false);
+    QLabel *text = makeLabel(breakable(message.text), textPixels);
+    text->setObjectName(QLatin1String("text"));
+
+    QGridLayout *grid = new QGridLayout(line);
+    grid->setContentsMargins(4, 3, 4, 3);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(1);
+    const bool isNarrow = panelSize().width() < narrowBelow;
+    grid->addWidget(mark, 0, 0, Qt::AlignTop);
+    grid->addWidget(time, 0, 1, Qt::AlignTop);
+    if (isNarrow)
+        grid->addWidget(text, 1, 0, 1, 2);
+    else
+        grid->addWidget(text, 0, 2, Qt::AlignTop);
+    grid->setColumnStretch(isNarrow ? 1 : 2, 1);
+    return line;
+}
+
+// What is read keeps its place on the screen unless something newer comes on top.
+void MessageDialog::fill()
+{
+    const int place = m_area->verticalScrollBar()->value();
+    QWidget *content = new QWidget;
+    Look::dress(content, Look::MessageList);
+    QVBoxLayout *column = new QVBoxLayout(content);
+    column->setContentsMargins(4, 4, 4, 4);
+    column->setSpacing(4);
+    const QList<Message> messages = m_log->messages();
+    for (int i = 0; i < messages.size(); ++i)
+        column->addWidget(makeLine(messages.at(i), m_log->isStanding(i)));
+    if (messages.isEmpty())
+        column->addWidget(makeLabel(tr("There was nothing to tell yet."), textPixels));
+    column->addStretch();
+    m_area->setWidget(content);
+    content->show();
+    m_area->verticalScrollBar()->setValue(place);
+    showState();
+}
+
+void MessageDialog::turn(int pages)
+{
+    QScrollBar *bar = m_area->verticalScrollBar();
+    // The last line of a page is the first of the next.
+    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - Look::kTouch));
+}
+
+void MessageDialog::showState()
+{
+    const QScrollBar *bar = m_area->verticalScrollBar();
+    m_backKey->setEnabled(bar->value() > bar->minimum());
+    m_forthKey->setEnabled(bar->value() < bar->maximum());
+}

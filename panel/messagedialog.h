@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef MESSAGEDIALOG_H
+#define MESSAGEDIALOG_H
+
+#include "dialog.h"
+#include "message.h"
+
+class MessageLog;
+class QPushButton;
+class QScrollArea;
+
+/// The last messages in full with their times, the newest on top, a page at a time. Those that
+/// stand have the ground of their tone. It follows the log while it is open.
+class MessageDialog : public Dialog
+{
+    Q_OBJECT
+
+public:
+    /// \a subject, what the operator works on, stands above them in full. \a log must outlive the
+    /// dialog.
+    MessageDialog(MessageLog *log, const QString &subject, QWidget *parent = nullptr);
+
+    /// "13:05:09", and the date before that if it is not \a today.
+    static QString shownTime(const QDateTime &time, const QDate &today);
+
+private:
+    QWidget *makeLine(const Message &message, bool stands) const;
+    void fill();
+    void turn(int pages);
+    void showState();
+
+    MessageLog *m_log;
+    QScrollArea *m_area;
+    QPushButton *m_backKey;
+    QPushButton *m_forthKey;
+};
+
+#endif // MESSAGEDIALOG_H

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "tonemark.h"
+
+#include "glyphs.h"
+#include "look.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QVariant>
+
+namespace {
+
+const int side = 22;
+const int corner = 4;
+
+Glyphs::Glyph glyphOf(Message::Tone tone)
+{
+    switch (tone) {
+    case Message::Information:
+        break;
+    case Message::Warning:
+        return Glyphs::Warn;
+    case Message::Alarm:
+        return Glyphs::Alarm;
+    }
+    return Glyphs::Inform;
+}
+
+void putName(QWidget *widget, const char *name)
+{
+    const QString wanted = QString::fromLatin1(name);
+    if (widget->property("tone").toString() == wanted)
+        return;
+    widget->setProperty("tone", wanted);
+    // A sheet looks at properties when it is set.
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+}
+
+} // namespace
+
+ToneMark::ToneMark(QWidget *parent) : QWidget(parent)
+{
+    setFixedSize(side, side);
+}
+
+void ToneMark::setTone(Message::Tone tone)
+{
+    m_isClear = false;
+    m_tone = tone;
+    update();
+}
+
+void ToneMark::clear()
+{
+    m_isClear = true;
+    update();
+}
+
+void ToneMark::put(QWidget *widget, Message::Tone tone)
+{
+    putName(widget, tone == Message::Alarm     ? "alarm"
+                    : tone == Message::Warning ? "warning"
+                                               : "information");
+}
+
+void ToneMark::putNone(QWidget *widget)
+{
+    putName(widget, "none");
+}
+
+void ToneMark::paintEvent(QPaintEvent *)
+{
+    if (m_isClear)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Look::ground(m_tone));
+    painter.drawRoundedRect(rect(), corner, corner);
+    Glyphs::draw(glyphOf(m_tone), &painter, rect().adjusted(2, 2, -2, -2), Look::stripText());
+}

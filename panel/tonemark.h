@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TONEMARK_H
+#define TONEMARK_H
+
+#include "message.h"
+
+#include <QWidget>
+
+/// The tone of a message as a drawing on the tone's colour.
+class ToneMark : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ToneMark(QWidget *parent = nullptr);
+
+    void setTone(Message::Tone tone);
+    /// Draws nothing, and keeps the place.
+    void clear();
+
+    /// Sets the property "tone" of a widget whose sheet asks for it: "information", "warning",
+    /// "alarm"; "none" for a widget that shows no tone.
+    static void put(QWidget *widget, Message::Tone tone);
+    static void putNone(QWidget *widget);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool m_isClear = true;
+    Message::Tone m_tone = Message::Information;
+};
+
+#endif // TONEMARK_H
