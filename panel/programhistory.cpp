@@ -395,6 +395,7 @@ ProgramHistory::ProgramHistory(const QString &programDir, const QString &folder,
     : QObject(parent)
     , m_programDir(programDir)
     , m_store(std::make_shared<HistoryStore>(folder, limits))
+    , m_patienceMs(patienceMs)
 {
     connect(&m_scanWork, &FileWork::ended, this, &ProgramHistory::endScan);
     connect(&m_scanWork, &FileWork::stalled, this, &ProgramHistory::loseScan);
@@ -441,7 +442,7 @@ void ProgramHistory::look()
 
 bool ProgramHistory::isSettled() const
 {
-    return m_isSettled || m_unsettledFor.hasExpired(patienceMs);
+    return m_isSettled || m_unsettledFor.hasExpired(m_patienceMs);
 }
 
 void ProgramHistory::whenSettled(QObject *context, const std::function<void()> &then)
@@ -454,13 +455,13 @@ void ProgramHistory::whenSettled(QObject *context, const std::function<void()> &
     waiter.since.start();
     m_waiters.append(waiter);
     if (!m_patienceTimer.isActive())
-        m_patienceTimer.start(patienceMs);
+        m_patienceTimer.start(m_patienceMs);
     scan();
 }
 
 bool ProgramHistory::isKept(const QString &name) const
 {
-    return !m_isLost && m_looks > 0 && !m_failures.contains(QString()) && !m_failures.contains(name)
+    return m_hasLooked && !m_isLost && !m_failures.contains(QString()) && !m_failures.contains(name)
            && !m_restless.contains(name);
 }
 
@@ -477,6 +478,7 @@ void ProgramHistory::endScan()
 {
     const std::shared_ptr<Scan> scan = std::move(m_scan);
     const int look = m_looks;
+    m_hasLooked = true;
     m_restless = scan->restless();
     tellFailures(scan->failures());
     if (!m_failures.contains(QString()))
@@ -560,13 +562,13 @@ void ProgramHistory::serve(int look)
 // In the order in which they came, and so the first is the most patient.
 void ProgramHistory::serveThePatient()
 {
-    while (!m_waiters.isEmpty() && m_waiters.first().since.hasExpired(patienceMs - 1)) {
+    while (!m_waiters.isEmpty() && m_waiters.first().since.hasExpired(m_patienceMs - 1)) {
         const Waiter waiter = m_waiters.takeFirst();
         if (waiter.context)
             QTimer::singleShot(0, waiter.context.data(), waiter.then);
     }
     if (!m_waiters.isEmpty())
-        m_patienceTimer.start(patienceMs - int(m_waiters.first().since.elapsed()));
+        m_patienceTimer.start(qMax(0, m_patienceMs - int(m_waiters.first().since.elapsed())));
 }
 
 void ProgramHistory::restore(const ProgramVersion &version)

@@ -46,7 +46,8 @@ public:
     /// than anybody waits, and at once when the storage is lost: isKept() tells. Never before this
     /// has returned, and not at all once \a context is gone.
     void whenSettled(QObject *context, const std::function<void()> &then);
-    /// Whether the program \a name was kept as it stood at the last look, or was not there.
+    /// Whether the program \a name was kept as it stood at the last look, or was not there. Nothing
+    /// is kept before the first look has ended.
     bool isKept(const QString &name) const;
 
     /// Oldest first, as of the last look.
@@ -61,6 +62,8 @@ public:
 
     /// Milliseconds that a step of a look or of a restore may take.
     void setStallTime(int ms);
+    /// Milliseconds after which everything counts as settled; 20 seconds at first.
+    void setPatience(int ms) { m_patienceMs = ms; }
 
 Q_SIGNALS:
     void versionsChanged();
@@ -114,7 +117,9 @@ private:
     QStringList m_restless;
     QList<Waiter> m_waiters;
     QElapsedTimer m_unsettledFor;
+    int m_patienceMs;
     int m_looks = 0;
+    bool m_hasLooked = false;
     bool m_isSettled = false;
     bool m_scanAgain = false;
     bool m_isRestoring = false;

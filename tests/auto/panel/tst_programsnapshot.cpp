@@ -355,7 +355,7 @@ void TestProgramSnapshot::nobodyWaitsForStorageThatHangs()
     snapshot->drop();
     const ProgramSnapshot other(m_folder);
     snapshot.reset();
-    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < patience(500), qPrintable(QString::number(timer.elapsed())));
     QVERIFY(release(&leased));
 }
 
