@@ -411,7 +411,11 @@ void ProgramGuard::askForTarget(const QPointer<PickerGuard> &picker, const QStri
 {
     if (there.kind() == ProgramOnDisk::NoFile)
         return picker->drop(tr("%1 is not a program file. Take another name.").arg(name));
-    const bool mayWrite = there.kind() == ProgramOnDisk::Missing || mayCover(name, there);
+    if (there.kind() == ProgramOnDisk::Missing) {
+        m_target = programPath(name);
+        return picker->pass();
+    }
+    const bool mayWrite = mayCover(name, there);
     if (!picker)
         return;
     if (!mayWrite)

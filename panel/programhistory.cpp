@@ -465,6 +465,14 @@ bool ProgramHistory::isKept(const QString &name) const
            && !m_restless.contains(name);
 }
 
+QString ProgramHistory::reasonNotKept(const QString &name) const
+{
+    if (isKept(name))
+        return QString();
+    const QString failure = m_failures.value(QString(), m_failures.value(name));
+    return failure.isEmpty() ? tr("The history has not taken in %1 yet.").arg(name) : failure;
+}
+
 void ProgramHistory::beginScan()
 {
     m_restTimer.stop();

@@ -49,6 +49,8 @@ public:
     /// Whether the program \a name was kept as it stood at the last look, or was not there. Nothing
     /// is kept before the first look has ended.
     bool isKept(const QString &name) const;
+    /// A sentence for the operator; empty when it isKept().
+    QString reasonNotKept(const QString &name) const;
 
     /// Oldest first, as of the last look.
     QList<ProgramVersion> versions() const { return m_versions; }

@@ -51,9 +51,7 @@ bool ProgramKeeper::ask(const QString &path, const QString &reason)
 {
     const QString name = QFileInfo(path).fileName();
     return m_questioner->ask({tr("History"),
-                              tr("%1 as it is now is not in the history: %2 Once written over, it "
-                                 "is lost.")
-                                  .arg(name, reason),
-                              {tr("Cancel"), tr("Write over it")}})
+                              tr("%1 What %2 is now would be lost.").arg(reason, name),
+                              {tr("Cancel"), tr("All the same")}})
            == 1;
 }

@@ -19,7 +19,7 @@ class ProgramKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// Told why what stands there can't be kept; with an empty reason it is, or nothing is there.
+    /// Told in a sentence why what stands there can't be kept; with an empty one it is.
     typedef std::function<void(const QString &reason)> Kept;
     /// A history's way to take in the file at \a path, and to tell when it has.
     typedef std::function<void(const QString &path, const Kept &kept)> History;

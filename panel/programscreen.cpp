@@ -147,17 +147,10 @@ ProgramScreen::~ProgramScreen()
 
 void ProgramScreen::setHistory(ProgramHistory *history)
 {
-    m_guard->setHistory([history](const QString &, const ProgramKeeper::Kept &kept) {
-        history->scan();
-        QTimer *poll = new QTimer(history);
-        QObject::connect(poll, &QTimer::timeout, history, [history, poll, kept] {
-            if (!history->isSettled())
-                return;
-            poll->stop();
-            poll->deleteLater();
-            kept(QString());
-        });
-        poll->start(10);
+    m_guard->setHistory([history](const QString &path, const ProgramKeeper::Kept &kept) {
+        const QString name = QFileInfo(path).fileName();
+        history->whenSettled(history,
+                             [history, name, kept] { kept(history->reasonNotKept(name)); });
     });
 }
 

@@ -23,7 +23,7 @@ bool ProgramWrite::step()
     }
     DurableFile file(m_path);
     m_isStored = file.open() && file.write(ProgramText::encoded(m_text))
-                 && file.commit([this] { return !m_isAbandoned; });
+                 && file.commit([this] { return m_leave.take(); });
     m_reason = file.errorString();
     return false;
 }

@@ -5,10 +5,9 @@
 #define PROGRAMWRITE_H
 
 #include "filework.h"
+#include "writeleave.h"
 
 #include <QString>
-
-#include <atomic>
 
 /// Writes a program as a whole: what stood at its path is replaced only by all of it.
 class ProgramWrite : public FileTask
@@ -23,8 +22,9 @@ public:
 
     bool step() override;
 
-    /// From now on nothing is replaced any more. May be called from any thread, at any time.
-    void abandon() { m_isAbandoned = true; }
+    /// From now on nothing is replaced any more; false when that has just been done. May be called
+    /// from any thread, at any time.
+    bool abandon() { return m_leave.withdraw(); }
 
     bool isStored() const { return m_isStored; }
     QString reason() const { return m_reason; }
@@ -34,7 +34,7 @@ private:
     QString m_path;
     const QString m_text;
     const Place m_place;
-    std::atomic<bool> m_isAbandoned{false};
+    WriteLeave m_leave;
     bool m_isStored = false;
     QString m_reason;
 };

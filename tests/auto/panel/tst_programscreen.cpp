@@ -7,6 +7,7 @@
 #include "modaldriver.h"
 #include "panelkey.h"
 #include "plctransfer.h"
+#include "programguard.h"
 #include "programscreen.h"
 #include "programsnapshot.h"
 #include "wgcodeediter.h"
@@ -15,8 +16,10 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QWindow>
 
@@ -47,11 +50,17 @@ private Q_SLOTS:
     void findKeyOpensTheDialog();
     void closingWithChangesAsks_data();
     void closingWithChangesAsks();
+    void closingWaitsForASave();
     void closingDuringADownloadIsRefused();
+    void undoKeyIsOffAfterOpening();
+    void stateStaysInView();
+    void questionShowsBothNumbers();
+    void partIsSentByNoWay();
 
 private:
     QToolButton *button(const QString &text) const;
     PanelKey *key(const QString &text) const;
+    void open(const QString &name, const QByteArray &bytes);
 
     QString m_plc;
     MachineData *m_machine = nullptr;
@@ -104,6 +113,20 @@ PanelKey *TestProgramScreen::key(const QString &text) const
             return key;
     }
     return nullptr;
+}
+
+void TestProgramScreen::open(const QString &name, const QByteArray &bytes)
+{
+    writeFile(programDir() + '/' + name, bytes);
+    ModalDriver driver;
+    driver.then([name](QWidget *dialog) {
+        dialog->findChild<QLineEdit *>()->setText(name);
+        dialog->findChildren<QPushButton *>().first()->click();
+    });
+    QTest::mouseClick(button("Open"), Qt::LeftButton);
+    QTRY_COMPARE(m_screen->programWindow()->getCurrentFile(), programDir() + '/' + name);
+    QTRY_VERIFY(!m_screen->guard()->isBusy());
+    QVERIFY2(driver.finished(), driver.report());
 }
 
 // What the operator answers to the question before a download.
@@ -356,6 +379,98 @@ void TestProgramScreen::closingWithChangesAsks()
     driver.reject();
     QVERIFY(!m_screen->mayClose());
     QVERIFY2(driver.finished(), driver.report());
+}
+
+// What the library takes for saved may be nothing at all.
+void TestProgramScreen::closingWaitsForASave()
+{
+    open("coil.cnc", "G01\n");
+    m_screen->programWindow()->insertLine("G99");
+    ModalDriver driver;
+    driver.press(QMessageBox::Save);
+    QVERIFY(m_screen->mayClose());
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(QString::fromUtf8(readFile(programDir() + "/coil.cnc")),
+             m_screen->editor()->toPlainText());
+
+    // The file is gone as soon as it is written.
+    m_screen->programWindow()->insertLine("G98");
+    connect(m_screen->editor()->document(), &QTextDocument::modificationChanged, m_screen,
+            [](bool isModified) {
+                if (!isModified)
+                    QFile::remove(programDir() + "/coil.cnc");
+            });
+    driver.press(QMessageBox::Save);
+    answer(&driver, "answer0");
+    QVERIFY(!m_screen->mayClose());
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(m_screen->hasChanges());
+}
+
+void TestProgramScreen::undoKeyIsOffAfterOpening()
+{
+    open("coil.cnc", QByteArray("G01 X1\n").repeated(600));
+    QVERIFY(!key("Undo")->isEnabled());
+    QVERIFY(!key("Redo")->isEnabled());
+    QVERIFY(!m_screen->hasChanges());
+}
+
+void TestProgramScreen::stateStaysInView()
+{
+    QLabel *line = m_screen->findChild<QLabel *>("stateLine");
+    open("coil.cnc", "G01\n");
+    QVERIFY(!line->isVisible());
+    open("long.cnc", "; head\n" + QByteArray("G01 X1\n").repeated(600));
+    QVERIFY(line->isVisible());
+    const QString text = "602 lines in the file, 600 shown: comments and empty lines are left out";
+    QCOMPARE(line->text(), text);
+    // A row of its own: nothing is covered.
+    const QRect row(line->mapTo(m_screen, QPoint()), line->size());
+    QVERIFY(row.bottom() < m_screen->programWindow()->y());
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTest::mouseClick(line, Qt::LeftButton);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(), text);
+    QTest::mouseClick(button("New"), Qt::LeftButton);
+    QTRY_VERIFY(!line->isVisible());
+}
+
+void TestProgramScreen::questionShowsBothNumbers()
+{
+    open("long.cnc", "; head\n" + QByteArray("G01 X1\n").repeated(600));
+    QString lines;
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        lines = dialog->findChild<QLabel *>("lines")->text();
+        dialog->close();
+    });
+    QTest::mouseClick(button("D/L"), Qt::LeftButton);
+    QTRY_COMPARE(lines, QString("602 in the file, 600 shown"));
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+void TestProgramScreen::partIsSentByNoWay()
+{
+    open("coil.cnc", "G01\n");
+    // The reading fails, and the editor is empty under the program's name.
+    const QString path = programDir() + "/coil.cnc";
+    QVERIFY(QFile::remove(path));
+    QVERIFY(QDir().mkpath(path));
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        dialog->findChild<QLineEdit *>()->setText("coil.cnc");
+        dialog->findChildren<QPushButton *>().first()->click();
+    });
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok);
+    QTest::mouseClick(button("Open"), Qt::LeftButton);
+    QTRY_VERIFY(m_screen->guard()->state().refusesDownload());
+    QVERIFY2(driver.finished(), driver.report());
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    Q_EMIT m_screen->programWindow()->signal_download(path);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+    QVERIFY(!m_screen->programWindow()->isDownloading());
 }
 
 void TestProgramScreen::closingDuringADownloadIsRefused()
