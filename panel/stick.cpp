@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
 
 #include <cerrno>
 #include <csignal>
@@ -24,15 +26,66 @@ QString tr(const char *text)
     return QCoreApplication::translate("Stick", text);
 }
 
+// A blank stands there as "\\040".
+QByteArray unescaped(const QByteArray &field)
+{
+    QByteArray result;
+    for (int i = 0; i < field.size(); ++i) {
+        bool isNumber = false;
+        const int number = field.at(i) == '\\' ? field.mid(i + 1, 3).toInt(&isNumber, 8) : 0;
+        result += isNumber ? char(number) : field.at(i);
+        i += isNumber ? 3 : 0;
+    }
+    return result;
+}
+
+// As the system lists them: to ask a file system itself could wait for it.
+bool isMountPoint(const QString &path)
+{
+    const int pointField = 4;
+    QFile file(QLatin1String("/proc/self/mountinfo"));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (unescaped(line.split(' ').value(pointField)) == QFile::encodeName(path))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
-Stick::Stick(const QString &folder) : m_folder(folder) {}
-
-Stick::~Stick()
+class Stick::Simulation
 {
-    pull();
-    if (m_replacedFolder)
-        QDir().mkdir(mountPoint());
+public:
+    explicit Simulation(const QString &folder) : m_folder(folder) {}
+    ~Simulation();
+
+    QString folder() const { return m_folder; }
+    bool plug(QString *error);
+    void pull();
+
+private:
+    Q_DISABLE_COPY(Simulation)
+
+    bool isBound() const;
+    static bool isMarkerAbandoned();
+    bool isLinked() const;
+    bool link(QString *error);
+    void takeOut();
+
+    const QString m_folder;
+    QMutex m_mutex;
+    bool m_replacedFolder = false;
+    bool m_madeMarker = false;
+};
+
+Stick::Stick(const QString &folder) : m_simulation(std::make_shared<Simulation>(folder)) {}
+
+QString Stick::folder() const
+{
+    return m_simulation->folder();
 }
 
 QString Stick::mountPoint()
@@ -47,15 +100,43 @@ QString Stick::marker()
 
 bool Stick::isPresent()
 {
-    return QFileInfo(marker()).exists() && QFileInfo(mountPoint()).isDir();
+    if (!QFileInfo(marker()).exists())
+        return false;
+    if (isMountPoint(mountPoint()))
+        return true;
+    const QFileInfo point(mountPoint());
+    if (!point.isSymLink() || !point.isDir())
+        return false;
+    const QString target = point.canonicalFilePath();
+    return isMountPoint(target) || target.startsWith(mountPoint());
 }
 
 bool Stick::plug(QString *error)
 {
-    if (!isSimulated()) {
-        *error = tr("The stick is the panel's own: plug it into the panel.");
-        return false;
-    }
+    if (isSimulated())
+        return m_simulation->plug(error);
+    *error = tr("The stick is the panel's own: plug it into the panel.");
+    return false;
+}
+
+void Stick::pull()
+{
+    if (isSimulated())
+        m_simulation->pull();
+}
+
+Stick::Simulation::~Simulation()
+{
+    if (m_folder.isEmpty())
+        return;
+    takeOut();
+    if (m_replacedFolder)
+        QDir().mkdir(mountPoint());
+}
+
+bool Stick::Simulation::plug(QString *error)
+{
+    const QMutexLocker locker(&m_mutex);
     // What a program that was killed has left behind is taken over.
     if (isPresent() && (isBound() || isLinked())) {
         m_madeMarker = true;
@@ -79,15 +160,19 @@ bool Stick::plug(QString *error)
                    && file.write(kMarkerText + QByteArray::number(qint64(getpid()))) > 0;
     if (!m_madeMarker) {
         *error = tr("The marker %1 cannot be made: %2.").arg(marker(), file.errorString());
-        pull();
+        takeOut();
     }
     return m_madeMarker;
 }
 
-void Stick::pull()
+void Stick::Simulation::pull()
 {
-    if (!isSimulated())
-        return;
+    const QMutexLocker locker(&m_mutex);
+    takeOut();
+}
+
+void Stick::Simulation::takeOut()
+{
     if (m_madeMarker)
         QFile::remove(marker());
     m_madeMarker = false;
@@ -95,7 +180,7 @@ void Stick::pull()
         QFile::remove(mountPoint());
 }
 
-bool Stick::isBound() const
+bool Stick::Simulation::isBound() const
 {
     struct stat point;
     struct stat folder;
@@ -105,7 +190,7 @@ bool Stick::isBound() const
 }
 
 // The marker of a program like this one that was killed. Nobody else writes such a text.
-bool Stick::isMarkerAbandoned()
+bool Stick::Simulation::isMarkerAbandoned()
 {
     QFile file(marker());
     if (!file.open(QIODevice::ReadOnly))
@@ -115,12 +200,12 @@ bool Stick::isMarkerAbandoned()
     return process > 0 && kill(process, 0) != 0 && errno == ESRCH;
 }
 
-bool Stick::isLinked() const
+bool Stick::Simulation::isLinked() const
 {
     return QFileInfo(mountPoint()).isSymLink() && QFile::symLinkTarget(mountPoint()) == m_folder;
 }
 
-bool Stick::link(QString *error)
+bool Stick::Simulation::link(QString *error)
 {
     const QFileInfo point(mountPoint());
     // The import manager looks through a link, and takes a file for the stick's only where the

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <memory>
+
 /// The USB stick, as the library's import manager looks for it: a file system at the mount point,
 /// and a marker file while it is plugged.
 ///
@@ -15,20 +17,23 @@
 /// for the stick's. Otherwise, and where the mount point can't be replaced, plug() fails and says
 /// so in words; ./run --stick starts the program where both hold. A folder that was bound to the
 /// mount point from outside stays there, and only the marker comes and goes.
+///
+/// All that follows asks for files, and belongs into a thread where a screen must not wait. A copy
+/// is the same stick, so work in a thread may own one.
 class Stick
 {
 public:
     /// \a folder stands in for the stick; an empty one leaves everything to the system.
+    /// The last copy that goes pulls it, and puts the mount point back as it was.
     explicit Stick(const QString &folder = QString());
-    /// Pulls a simulated stick and puts the mount point back as it was.
-    ~Stick();
 
     static QString mountPoint();
     static QString marker();
 
-    bool isSimulated() const { return !m_folder.isEmpty(); }
-    QString folder() const { return m_folder; }
-    /// Whether the marker and the mount point are there.
+    bool isSimulated() const { return !folder().isEmpty(); }
+    QString folder() const;
+    /// Whether the marker is there, and something at the mount point: a file system, or the folder
+    /// that stands in for one. A folder that an unmount has left there is no stick.
     static bool isPresent();
 
     /// Puts the simulated stick in; nothing to do if it is in. On failure \a error says why, and
@@ -38,16 +43,9 @@ public:
     void pull();
 
 private:
-    Q_DISABLE_COPY(Stick)
+    class Simulation;
 
-    bool isBound() const;
-    static bool isMarkerAbandoned();
-    bool isLinked() const;
-    bool link(QString *error);
-
-    const QString m_folder;
-    bool m_replacedFolder = false;
-    bool m_madeMarker = false;
+    std::shared_ptr<Simulation> m_simulation;
 };
 
 #endif // STICK_H

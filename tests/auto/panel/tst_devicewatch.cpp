@@ -48,7 +48,16 @@ void TestDeviceWatch::looksAtTheFolders()
     writeFile(Stick::marker(), "in");
     state = DeviceWatch::lookAt(plc, programDir());
     QVERIFY(state.plcReachable);
-    QVERIFY(state.stickIn);
+    // The folder alone is what an unmount leaves.
+    QVERIFY(!state.stickIn);
+    QVERIFY(QDir().rmdir(Stick::mountPoint()));
+    QDir().mkpath(Stick::mountPoint() + ".stick");
+    QVERIFY(QFile::link(Stick::mountPoint() + ".stick", Stick::mountPoint()));
+    QVERIFY(DeviceWatch::lookAt(plc, programDir()).stickIn);
+    QVERIFY(QFile::remove(Stick::marker()));
+    QVERIFY(!DeviceWatch::lookAt(plc, programDir()).stickIn);
+    QVERIFY(QFile::remove(Stick::mountPoint()));
+    QDir().mkpath(Stick::mountPoint());
 
     QDir().rmdir(plc);
     writeFile(plc, "a file is no folder");

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void markerOfARunningProgramIsRespected();
     void folderThatCannotBeMade();
     void ownStickOfThePanelIsOnlyWatched();
+    void copyIsTheSameStick();
 
 private:
     QString m_folder;
@@ -211,10 +212,40 @@ void TestStick::ownStickOfThePanelIsOnlyWatched()
     QVERIFY(!stick.isPresent());
     QString error;
     QVERIFY(!stick.plug(&error));
+    // A folder that an unmount has left is no stick, whatever the marker says: what is copied into
+    // it lands on the panel's own disk.
     writeFile("/tmp/udiskattach", "");
+    QVERIFY(!stick.isPresent());
+    // A place to which the system mounts sticks, say, with the mount point as a link to it.
+    QVERIFY(QDir().rmdir("/mnt/Storage"));
+    QVERIFY(QFile::link(home(), "/mnt/Storage"));
+    QVERIFY(!stick.isPresent());
+    QVERIFY(QFile::remove("/mnt/Storage"));
+    QVERIFY(QFile::link("/proc", "/mnt/Storage"));
     QVERIFY(stick.isPresent());
     stick.pull();
     QVERIFY(stick.isPresent());
+    QVERIFY(QFile::remove("/tmp/udiskattach"));
+    QVERIFY(!stick.isPresent());
+}
+
+void TestStick::copyIsTheSameStick()
+{
+    {
+        Stick stick(m_folder);
+        {
+            Stick copy = stick;
+            QString error;
+            QVERIFY2(copy.plug(&error), qPrintable(error));
+        }
+        QVERIFY(Stick::isPresent());
+        stick.pull();
+        QVERIFY(!Stick::isPresent());
+        QString error;
+        QVERIFY(stick.plug(&error));
+    }
+    QVERIFY(!Stick::isPresent());
+    QVERIFY(!QFileInfo("/mnt/Storage").isSymLink());
 }
 
 FILARIX_TEST_MAIN(TestStick)
