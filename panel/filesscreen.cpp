@@ -16,8 +16,6 @@
 #include "touchblock.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -30,6 +28,8 @@ const int kWideFrom = 400;
 const int kNarrowPixels = 12;
 // Farther away, a key is no longer seen to belong to its line.
 const int kReach = 800;
+// What messages are about.
+const QLatin1String stickCause("stick");
 
 int panelWidth()
 {
@@ -49,10 +49,16 @@ PanelKey *darkKey(Glyphs::Glyph glyph, const std::function<QString()> &text)
 } // namespace
 
 FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent)
+    : FilesScreen(stick, history, usualLooks(), parent)
+{}
+
+FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &looks, QWidget *parent)
     : PanelScreen(parent)
     , m_stick(stick)
     , m_history(history)
-    , m_guard(new ImportGuard(Samples::programDir(), Stick::mountPoint(), this))
+    , m_guard(new ImportGuard(Samples::programDir(), Stick::mountPoint(), history, this))
+    , m_stickWatch(new FolderWatch(looks.stick, this))
+    , m_programWatch(new FolderWatch(looks.programs, this))
     , m_grid(new QGridLayout)
     , m_plugKey(darkKey(Glyphs::Plug, [] { return tr("Plug"); }))
     , m_pullKey(darkKey(Glyphs::Pull, [] { return tr("Pull"); }))
@@ -84,16 +90,40 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent)
     connect(importKey, &PanelKey::clicked, this, &FilesScreen::importWanted);
     connect(pickKey, &PanelKey::clicked, this, &FilesScreen::pick);
     connect(m_historyKey, &PanelKey::clicked, this, &FilesScreen::showHistory);
+    connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::refreshStatus);
     connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::showState);
     connect(m_history, &ProgramHistory::worked, this, &FilesScreen::worked);
     connect(m_history, &ProgramHistory::told, this, &FilesScreen::told);
-    connect(m_history, &ProgramHistory::told, this, &FilesScreen::showState);
     connect(m_history, &ProgramHistory::causeEnded, this, &FilesScreen::causeEnded);
-    connect(m_guard, &ImportGuard::told, this, [this](const QString &text, bool isSettled) {
-        Q_EMIT told(text, isSettled ? Message::Information : Message::Warning);
-        showState();
-    });
+    connect(m_guard, &ImportGuard::told, this, &FilesScreen::told);
+    connect(m_guard, &ImportGuard::causeEnded, this, &FilesScreen::causeEnded);
+    connect(m_guard, &ImportGuard::filesChanged, this, &FilesScreen::refreshStatus);
+    connect(m_stickWatch, &FolderWatch::changed, this, &FilesScreen::showState);
+    connect(m_programWatch, &FolderWatch::changed, this, &FilesScreen::showState);
+    connect(&m_stickJob, &FileJob::finished, this, &FilesScreen::showState);
     showState();
+}
+
+FilesScreen::Looks FilesScreen::usualLooks()
+{
+    const QString programDir = Samples::programDir();
+    Looks looks;
+    looks.programs = [programDir] { return FolderWatch::lookAt(programDir); };
+    looks.stick = [] {
+        if (Stick::isPresent())
+            return FolderWatch::lookAt(Stick::mountPoint());
+        FolderState out;
+        out.isKnown = true;
+        return out;
+    };
+    return looks;
+}
+
+void FilesScreen::setPatience(int ms)
+{
+    m_stickWatch->setPatience(ms);
+    m_programWatch->setPatience(ms);
+    m_stickJob.setStallTime(ms);
 }
 
 QString FilesScreen::title() const
@@ -137,34 +167,40 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
 void FilesScreen::refreshStatus()
 {
     if (isVisible())
-        showState();
+        lookAtFolders();
 }
 
 void FilesScreen::showEvent(QShowEvent *event)
 {
-    showState();
+    lookAtFolders();
     PanelScreen::showEvent(event);
+}
+
+void FilesScreen::lookAtFolders()
+{
+    m_stickWatch->look();
+    m_programWatch->look();
 }
 
 void FilesScreen::showDevices(const DeviceState &state)
 {
-    if (state.isKnown && state.stickIn != m_wasPresent)
-        lookAtStick();
+    if (state.isKnown)
+        noteStick(state.stickIn);
 }
 
-void FilesScreen::lookAtStick()
+void FilesScreen::noteStick(bool isIn)
 {
-    const bool present = m_stick->isPresent();
-    const bool arrived = present && !m_wasPresent;
-    m_wasPresent = present;
-    showState();
+    if (isIn == m_wasPresent)
+        return;
+    m_wasPresent = isIn;
+    lookAtFolders();
+    Q_EMIT causeEnded(stickCause);
     // A box over another dialog would come as a surprise; the guard asks at the next press anyway.
-    if (arrived && !QApplication::activeModalWidget()) {
-        if (m_guard->unsafeFiles().isEmpty())
-            Q_EMIT told(tr("The stick is in; all file names are safe."), Message::Information);
-        else
-            m_guard->settle();
-    }
+    if (isIn && !QApplication::activeModalWidget())
+        m_guard->settle([this](ImportGuard::Settled settled) {
+            if (settled == ImportGuard::WereSafe)
+                Q_EMIT told(tr("The stick is in; all file names are safe."), Message::Information);
+        });
 }
 
 void FilesScreen::retranslate()
@@ -174,30 +210,47 @@ void FilesScreen::retranslate()
 
 void FilesScreen::plug()
 {
-    QString error;
-    if (!m_stick->plug(&error))
-        Q_EMIT told(error, Message::Warning);
-    Q_EMIT stickMoved();
-    lookAtStick();
+    Stick stick = *m_stick;
+    const std::shared_ptr<QString> error = std::make_shared<QString>();
+    m_stickJob.run([stick, error]() mutable { stick.plug(error.get()); },
+                   [this, error] {
+                       if (error->isEmpty())
+                           noteStick(true);
+                       else
+                           Q_EMIT told(*error, Message::Warning, stickCause);
+                       Q_EMIT stickMoved();
+                   },
+                   [this] { tellStall(); });
+    showState();
 }
 
 void FilesScreen::pull()
 {
-    m_stick->pull();
-    Q_EMIT stickMoved();
-    lookAtStick();
-    Q_EMIT told(tr("The stick is out."), Message::Information);
+    Stick stick = *m_stick;
+    m_stickJob.run([stick]() mutable { stick.pull(); },
+                   [this] {
+                       noteStick(false);
+                       Q_EMIT stickMoved();
+                       Q_EMIT told(tr("The stick is out."), Message::Information);
+                   },
+                   [this] { tellStall(); });
+    showState();
+}
+
+void FilesScreen::tellStall()
+{
+    Q_EMIT told(tr("The stick does not answer."), Message::Alarm, stickCause);
 }
 
 void FilesScreen::rename()
 {
-    m_guard->settle();
-    showState();
+    m_guard->settle([this](ImportGuard::Settled) { refreshStatus(); });
 }
 
 void FilesScreen::pick()
 {
-    const QString start = m_stick->isPresent() ? Stick::mountPoint() : Samples::programDir();
+    const QString start =
+        m_stickWatch->state().isThere ? Stick::mountPoint() : Samples::programDir();
     const QString path = PathPicker::pick(tr("Pick a path"), start);
     if (!path.isEmpty())
         m_pickedPath = path;
@@ -219,27 +272,54 @@ void FilesScreen::stopWork()
 void FilesScreen::showState()
 {
     m_historyKey->setEnabled(!m_history->versions().isEmpty());
-    const bool present = m_stick->isPresent();
+    showStick();
+    showNames();
+    showPrograms();
+    m_pathState->setText(m_pickedPath.isEmpty() ? tr("None picked yet") : m_pickedPath);
+}
+
+void FilesScreen::showStick()
+{
+    const FolderState state = m_stickWatch->state();
+    const bool isIdle = !m_stickJob.isRunning();
     m_plugKey->setVisible(m_stick->isSimulated());
     m_pullKey->setVisible(m_stick->isSimulated());
-    m_plugKey->setEnabled(!present);
-    m_pullKey->setEnabled(present);
+    m_plugKey->setEnabled(isIdle && !state.isThere);
+    m_pullKey->setEnabled(isIdle && state.isThere);
     const QString what =
         m_stick->isSimulated() ? tr("simulated: %1").arg(m_stick->folder()) : Stick::mountPoint();
-    const int onStick = QDir(Stick::mountPoint()).entryList(QDir::Files).size();
-    m_stickState->setText(present ? tr("In. Files: %1, ").arg(onStick) + what : tr("Out. ") + what);
+    if (m_stickWatch->isOverdue())
+        m_stickState->setText(tr("Does not answer. ") + what);
+    else if (!state.isKnown)
+        m_stickState->setText(tr("Loading ..."));
+    else
+        m_stickState->setText(state.isThere ? tr("In. Files: %1, ").arg(state.files) + what
+                                            : tr("Out. ") + what);
+}
 
-    const int unsafe = m_guard->unsafeFiles().size();
+void FilesScreen::showNames()
+{
+    const FolderState stick = m_stickWatch->state();
+    const FolderState programs = m_programWatch->state();
+    const int unsafe = stick.unsafeNames + programs.unsafeNames;
     m_renameKey->setEnabled(unsafe > 0);
-    m_nameState->setText(unsafe == 0 ? tr("All are safe for the transfer")
-                                     : tr("Names that are not safe: %1").arg(unsafe));
+    if (!stick.isKnown || !programs.isKnown)
+        m_nameState->setText(tr("Loading ..."));
+    else
+        m_nameState->setText(unsafe == 0 ? tr("All are safe for the transfer")
+                                         : tr("Names that are not safe: %1").arg(unsafe));
+}
 
-    qint64 used = 0;
-    const QFileInfoList programs = QDir(Samples::programDir()).entryInfoList(QDir::Files);
-    for (const QFileInfo &program : programs)
-        used += program.size();
-    m_storageState->setText(
-        tr("Files: %1, ").arg(programs.size())
-        + tr("%1 KB of %2 MB").arg((used + 1023) / 1024).arg(kProgramSpace / (1024 * 1024)));
-    m_pathState->setText(m_pickedPath.isEmpty() ? tr("None picked yet") : m_pickedPath);
+void FilesScreen::showPrograms()
+{
+    const FolderState state = m_programWatch->state();
+    if (m_programWatch->isOverdue())
+        m_storageState->setText(tr("The panel's storage does not answer."));
+    else if (!state.isKnown)
+        m_storageState->setText(tr("Loading ..."));
+    else
+        m_storageState->setText(tr("Files: %1, ").arg(state.files)
+                                + tr("%1 KB of %2 MB")
+                                      .arg((state.bytes + 1023) / 1024)
+                                      .arg(kProgramSpace / (1024 * 1024)));
 }

@@ -5,6 +5,8 @@
 #define FILESSCREEN_H
 
 #include "devicewatch.h"
+#include "filejob.h"
+#include "folderwatch.h"
 #include "panelscreen.h"
 
 #include <functional>
@@ -22,16 +24,32 @@ class FilesScreen : public PanelScreen
     Q_OBJECT
 
 public:
+    /// How the screen looks at the two folders, in threads.
+    struct Looks
+    {
+        FolderWatch::Look stick;
+        FolderWatch::Look programs;
+    };
+
     /// \a stick and \a history must outlive the screen.
     FilesScreen(Stick *stick, ProgramHistory *history, QWidget *parent = nullptr);
+    FilesScreen(Stick *stick, ProgramHistory *history, const Looks &looks,
+                QWidget *parent = nullptr);
+
+    /// At the stick and the program directory themselves.
+    static Looks usualLooks();
 
     QString title() const override;
-    /// The folders are looked at while the screen is up, and no longer.
+    /// The folders are looked at while the screen is up, and no longer; beside the event loop, as
+    /// everything that asks for files here.
     void refreshStatus() override;
 
     ImportGuard *guard() const { return m_guard; }
     /// The path that was picked last; empty when none was.
     QString pickedPath() const { return m_pickedPath; }
+
+    /// Milliseconds after which a folder that has not answered is shown as one that does not.
+    void setPatience(int ms);
 
     /// What the keys Plug and Pull do.
     void plug();
@@ -58,12 +76,20 @@ private:
     ElidedLabel *addLine(const std::function<QString()> &heading, const QList<PanelKey *> &keys);
     void rename();
     void pick();
-    void lookAtStick();
+    void lookAtFolders();
+    void noteStick(bool isIn);
+    void tellStall();
     void showState();
+    void showStick();
+    void showNames();
+    void showPrograms();
 
     Stick *m_stick;
     ProgramHistory *m_history;
     ImportGuard *m_guard;
+    FolderWatch *m_stickWatch;
+    FolderWatch *m_programWatch;
+    FileJob m_stickJob;
     QGridLayout *m_grid;
     ElidedLabel *m_stickState;
     ElidedLabel *m_nameState;

@@ -3,125 +3,170 @@
 
 #include "importguard.h"
 
+#include "clickgate.h"
 #include "importmanage.h"
+#include "programhistory.h"
+#include "stick.h"
 #include "sticknames.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegExp>
+#include <QTimer>
 
 namespace {
 
 // As many as a message box on the smallest panel has lines for.
-const int kNamesShown = 3;
-// The library's text; not written into tr(), which would have it translated once more for us.
-const char kManagerQuit[] = "Quit";
+const int namesShown = 3;
+// Longer, and an operator wonders whether the key was hit.
+const int momentMs = 300;
+const QLatin1String ownQuestion("importGuardQuestion");
+// What messages are about.
+const QLatin1String stickCause("stick");
 
-QPushButton *defaultButton(const QWidget *manager)
+// The library's texts; not written into tr(), which would have them translated once more for us.
+const struct
 {
-    const QList<QPushButton *> buttons = manager->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->isDefault())
-            return button;
+    const char *text;
+    TransferReport::Command command;
+} keys[] = {
+    {">>", TransferReport::CopyToStick},
+    {"<<", TransferReport::CopyToPanel},
+    {">Del", TransferReport::DeleteFromPanel},
+    {"Del<", TransferReport::DeleteFromStick},
+};
+
+struct Unsafe
+{
+    QString folder;
+    QString name;
+    QString safeName;
+};
+
+QList<Unsafe> unsafeIn(const QString &folder)
+{
+    QList<Unsafe> files;
+    QStringList taken;
+    const QStringList names = StickNames::unsafeIn(folder);
+    if (!names.isEmpty())
+        taken = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
+    for (const QString &name : names) {
+        files.append({folder, name, StickNames::proposal(name, taken)});
+        taken.append(files.last().safeName);
     }
-    return nullptr;
+    return files;
 }
 
-/// The button that an event of one of the manager's widgets presses, if any: Return presses one
-/// from wherever it is, and Escape and the arrows press none.
-QPushButton *pressedButton(QWidget *widget, const QEvent *event)
-{
-    QPushButton *button = qobject_cast<QPushButton *>(widget);
-    if (event->type() != QEvent::KeyPress)
-        return button;
-    switch (static_cast<const QKeyEvent *>(event)->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return button ? button : defaultButton(widget->window());
-    case Qt::Key_Space:
-    case Qt::Key_Select:
-        return button;
-    default:
-        return nullptr;
-    }
-}
-
-bool isPress(QEvent::Type type)
-{
-    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick
-           || type == QEvent::KeyPress || type == QEvent::Shortcut;
-}
-
-QString proposalFor(const QFileInfo &file)
-{
-    const QStringList taken = file.dir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    return StickNames::proposal(file.fileName(), taken);
-}
-
-QString question(const QStringList &files)
+QString question(const QList<Unsafe> &files)
 {
     QStringList lines;
-    for (const QString &path : files.mid(0, kNamesShown)) {
-        const QFileInfo file(path);
+    for (const Unsafe &file : files.mid(0, namesShown)) {
         // A name may hold anything, line ends too.
-        QString name = file.fileName().simplified();
+        QString name = file.name.simplified();
         if (name.size() > 24)
             name = name.left(21) + QLatin1String("...");
-        lines.append(name + QString::fromUtf8(" \u2192 ") + proposalFor(file));
+        lines.append(name + QString::fromUtf8(" \u2192 ") + file.safeName);
     }
-    if (files.size() > kNamesShown)
-        lines.append(ImportGuard::tr("and %1 more").arg(files.size() - kNamesShown));
+    if (files.size() > namesShown)
+        lines.append(ImportGuard::tr("and %1 more").arg(files.size() - namesShown));
     return ImportGuard::tr("The transfer would not take these file names for what they are. "
                            "Rename?")
            + QLatin1String("\n\n") + lines.join(QLatin1Char('\n'));
 }
 
+QString chosenName(const QListView *view)
+{
+    return view->currentIndex().data().toString();
+}
+
+// The programs' view comes first.
+QString chosenName(const ImportManage *manager, TransferReport::Command command)
+{
+    const bool isPanels =
+        command == TransferReport::CopyToStick || command == TransferReport::DeleteFromPanel;
+    return chosenName(manager->findChildren<QListView *>().at(isPanels ? 0 : 1));
+}
+
+bool choosesUnsafeName(const ImportManage *manager)
+{
+    const QList<QListView *> views = manager->findChildren<QListView *>();
+    for (const QListView *view : views) {
+        const QString name = chosenName(view);
+        if (!name.isEmpty() && !StickNames::isSafe(name))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
-ImportGuard::ImportGuard(const QString &programDir, const QString &stickDir, QObject *parent)
-    : QObject(parent), m_programDir(programDir), m_stickDir(stickDir)
+/// What the folders hold at a press.
+struct ImportGuard::Look
+{
+    bool isStickIn = false;
+    QList<Unsafe> unsafe;
+};
+
+ImportGuard::ImportGuard(const QString &programDir, const QString &stickDir,
+                         ProgramHistory *history, QObject *parent)
+    : QObject(parent), m_programDir(programDir), m_stickDir(stickDir), m_history(history)
 {
     qApp->installEventFilter(this);
 }
 
-QStringList ImportGuard::unsafeFiles() const
+bool ImportGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    QStringList files;
-    for (const QString &folder : {m_programDir, m_stickDir}) {
-        const QStringList names = StickNames::unsafeIn(folder);
-        for (const QString &name : names)
-            files.append(folder + QLatin1Char('/') + name);
-    }
-    return files;
+    if (event->type() != QEvent::Show)
+        return false;
+    if (ImportManage *manager = qobject_cast<ImportManage *>(watched))
+        watch(manager);
+    else if (QMessageBox *box = qobject_cast<QMessageBox *>(watched))
+        watch(box);
+    return false;
 }
 
-bool ImportGuard::settle()
+bool ImportGuard::isBusy() const
 {
-    const QStringList files = unsafeFiles();
-    if (files.isEmpty())
-        return true;
-    QMessageBox box(QMessageBox::Warning, tr("File names"), question(files),
-                    QMessageBox::Yes | QMessageBox::No, QApplication::activeModalWidget());
-    box.setTextFormat(Qt::PlainText);
-    if (box.exec() != QMessageBox::Yes) {
-        Q_EMIT told(tr("Not renamed. Import and export stay closed until the names are safe."),
-                    false);
-        return false;
+    return isBusyBeside(Gate());
+}
+
+// A gate that asks holds already.
+bool ImportGuard::isBusyBeside(const Gate &gate) const
+{
+    return m_job.isRunning() || m_isAsking || (m_held && m_held != gate && m_held->isHolding());
+}
+
+void ImportGuard::watch(ImportManage *manager)
+{
+    const QList<QPushButton *> buttons = manager->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->findChild<ClickGate *>())
+            continue;
+        for (const auto &key : keys) {
+            if (button->text() != ImportManage::tr(key.text))
+                continue;
+            const Gate gate = new ClickGate(button);
+            const TransferReport::Command command = key.command;
+            gate->onClick([this, gate, manager, command] { press(gate, manager, command); });
+            connect(gate, &ClickGate::passed, this, &ImportGuard::report);
+        }
     }
-    const int failed = renameAll(files);
-    if (failed > 0)
-        Q_EMIT told(
-            tr("Files that could not be renamed: %1. Is the stick write-protected?").arg(failed),
-            false);
-    else
-        Q_EMIT told(tr("Files renamed: %1.").arg(files.size()), true);
-    return unsafeFiles().isEmpty();
+}
+
+// A manager's question whether to cover or to delete.
+void ImportGuard::watch(QMessageBox *box)
+{
+    QAbstractButton *yes = box->button(QMessageBox::Yes);
+    if (!yes || !qobject_cast<ImportManage *>(box->parentWidget())
+        || box->objectName() == ownQuestion || yes->findChild<ClickGate *>())
+        return;
+    const Gate gate = new ClickGate(yes);
+    gate->onClick([this, gate] { confirm(gate); });
 }
 
 // The path of the program directory becomes part of the command lines as it is, too.
@@ -130,52 +175,260 @@ bool ImportGuard::isProgramDirSafe() const
     return QRegExp(QLatin1String("[A-Za-z0-9_./+-]+")).exactMatch(m_programDir);
 }
 
-bool ImportGuard::eventFilter(QObject *watched, QEvent *event)
+void ImportGuard::press(const Gate &gate, ImportManage *manager, TransferReport::Command command)
 {
-    if (!isPress(event->type()))
-        return false;
-    QWidget *widget = qobject_cast<QWidget *>(watched);
-    ImportManage *manager = widget ? qobject_cast<ImportManage *>(widget->window()) : nullptr;
-    const QPushButton *button = manager ? pressedButton(widget, event) : nullptr;
-    if (!button || button->text() == ImportManage::tr(kManagerQuit))
-        return false;
+    if (isBusyBeside(gate))
+        return drop(gate);
     if (!isProgramDirSafe()) {
         Q_EMIT told(tr("No transfer: the path %1 holds characters that the transfer would not take "
                        "for what they are.")
                         .arg(m_programDir),
-                    false);
-        return true;
+                    Message::Warning, stickCause);
+        return drop(gate);
     }
-    if (!unsafeFiles().isEmpty()) {
-        settle();
-        manager->init();
-        return true;
-    }
-    if (choosesUnsafeName(manager)) {
-        manager->init();
-        return true;
-    }
-    return false;
+    m_manager = manager;
+    m_report = std::make_shared<TransferReport>(command, m_programDir, m_stickDir,
+                                                chosenName(manager, command));
+    hold(gate);
 }
 
-bool ImportGuard::choosesUnsafeName(const ImportManage *manager) const
+void ImportGuard::confirm(const Gate &gate)
 {
-    const QList<QListView *> views = manager->findChildren<QListView *>();
-    for (const QListView *view : views) {
-        const QModelIndex chosen = view->currentIndex();
-        if (chosen.isValid() && !StickNames::isSafe(chosen.data().toString()))
-            return true;
-    }
-    return false;
+    if (isBusyBeside(gate) || !m_report)
+        return drop(gate);
+    hold(gate);
 }
 
-int ImportGuard::renameAll(const QStringList &files)
+void ImportGuard::hold(const Gate &gate)
 {
-    int failed = 0;
-    for (const QString &path : files) {
-        const QFileInfo file(path);
-        if (!StickNames::rename(file.path(), file.fileName(), proposalFor(file)))
-            ++failed;
+    m_held = gate;
+    QTimer::singleShot(momentMs, gate, [this, gate] {
+        if (gate->isHolding() && !m_isAsking)
+            Q_EMIT told(tr("One moment: the panel looks at the programs and the stick."),
+                        Message::Information, stickCause);
+    });
+    look([this, gate](const Look &look) { judge(gate, look); },
+         [this, gate] {
+             tellStall();
+             drop(gate);
+         });
+}
+
+void ImportGuard::drop(const Gate &gate)
+{
+    if (gate)
+        gate->drop();
+}
+
+void ImportGuard::look(const std::function<void(const Look &)> &then, const FileJob::Work &stalled)
+{
+    const std::shared_ptr<Look> look = std::make_shared<Look>();
+    const std::shared_ptr<TransferReport> report = m_report;
+    const QString programDir = m_programDir;
+    const QString stickDir = m_stickDir;
+    m_job.run(
+        [=] {
+            look->isStickIn = Stick::isPresent();
+            look->unsafe = unsafeIn(programDir);
+            if (look->isStickIn)
+                look->unsafe += unsafeIn(stickDir);
+            if (report)
+                report->lookBefore();
+        },
+        [look, then] { then(*look); }, stalled);
+}
+
+void ImportGuard::judge(const Gate &gate, const Look &look)
+{
+    if (!gate || !m_manager)
+        return;
+    if (!look.isStickIn && m_report->needsStick()) {
+        Q_EMIT told(tr("No stick is in: nothing was copied or deleted."), Message::Warning,
+                    stickCause);
+        m_manager->init();
+        return drop(gate);
     }
-    return failed;
+    judgeNames(gate, look);
+}
+
+void ImportGuard::judgeNames(const Gate &gate, const Look &look)
+{
+    if (!look.unsafe.isEmpty()) {
+        ask(look, [this](Settled) {
+            if (m_manager)
+                m_manager->init();
+        });
+        return drop(gate);
+    }
+    // The operator may have chosen something else meanwhile.
+    if (choosesUnsafeName(m_manager)
+        || chosenName(m_manager, m_report->command()) != m_report->name()) {
+        m_manager->init();
+        return drop(gate);
+    }
+    waitForHistory(gate);
+}
+
+void ImportGuard::waitForHistory(const Gate &gate)
+{
+    if (!m_history || !m_report->changesPrograms())
+        return gate->pass();
+    m_history->whenSettled(gate, [this, gate] { passUnlessLost(gate); });
+}
+
+// The first press of two opens the question whether to cover or to delete.
+void ImportGuard::passUnlessLost(const Gate &gate)
+{
+    const bool isFirst = qobject_cast<ImportManage *>(gate->button()->window());
+    const bool mayPass =
+        isFirst || m_history->isKept(m_report->name()) || mayLose(m_report->name());
+    if (!gate)
+        return;
+    if (mayPass)
+        gate->pass();
+    else
+        gate->drop();
+}
+
+bool ImportGuard::mayLose(const QString &name)
+{
+    QMessageBox box(
+        QMessageBox::Warning, tr("History"),
+        tr("%1 is not in the history and cannot be brought back. Go on all the same?").arg(name),
+        QMessageBox::Yes | QMessageBox::Cancel, QApplication::activeModalWidget());
+    box.setObjectName(ownQuestion);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    m_isAsking = true;
+    const bool isConfirmed = box.exec() == QMessageBox::Yes;
+    m_isAsking = false;
+    return isConfirmed;
+}
+
+void ImportGuard::settle(const std::function<void(Settled)> &then)
+{
+    if (isBusy())
+        return;
+    m_report.reset();
+    look(
+        [this, then](const Look &look) {
+            if (look.unsafe.isEmpty())
+                then(WereSafe);
+            else
+                ask(look, then);
+        },
+        [this, then] {
+            tellStall();
+            then(NotSettled);
+        });
+}
+
+void ImportGuard::ask(const Look &look, const std::function<void(Settled)> &then)
+{
+    QMessageBox box(QMessageBox::Warning, tr("File names"), question(look.unsafe),
+                    QMessageBox::Yes | QMessageBox::No, QApplication::activeModalWidget());
+    box.setObjectName(ownQuestion);
+    box.setTextFormat(Qt::PlainText);
+    const QPointer<ImportGuard> guard(this);
+    m_isAsking = true;
+    const bool isConfirmed = box.exec() == QMessageBox::Yes;
+    if (!guard)
+        return;
+    m_isAsking = false;
+    if (isConfirmed)
+        return renameAll(look, then);
+    Q_EMIT told(tr("Not renamed. Import and export stay closed until the names are safe."),
+                Message::Warning, stickCause);
+    then(NotSettled);
+}
+
+void ImportGuard::renameAll(const Look &look, const std::function<void(Settled)> &then)
+{
+    const QList<Unsafe> files = look.unsafe;
+    const std::shared_ptr<int> failed = std::make_shared<int>(0);
+    m_job.run(
+        [files, failed] {
+            for (const Unsafe &file : files) {
+                if (!StickNames::rename(file.folder, file.name, file.safeName))
+                    ++*failed;
+            }
+        },
+        [this, files, failed, then] {
+            if (*failed > 0) {
+                Q_EMIT told(tr("Files that could not be renamed: %1. Is the stick write-protected?")
+                                .arg(*failed),
+                            Message::Warning, stickCause);
+            } else {
+                Q_EMIT causeEnded(stickCause);
+                Q_EMIT told(tr("Files renamed: %1.").arg(files.size()), Message::Information);
+            }
+            Q_EMIT filesChanged();
+            then(*failed > 0 ? NotSettled : Renamed);
+        },
+        [this, then] {
+            tellStall();
+            then(NotSettled);
+        });
+}
+
+void ImportGuard::tellStall()
+{
+    Q_EMIT told(tr("The stick does not answer: nothing was copied, deleted or renamed. Pull it and "
+                   "plug it in again."),
+                Message::Alarm, stickCause);
+}
+
+void ImportGuard::report()
+{
+    const std::shared_ptr<TransferReport> report = std::move(m_report);
+    m_report.reset();
+    if (!report || report->name().isEmpty())
+        return;
+    const std::shared_ptr<TransferReport::Outcome> outcome =
+        std::make_shared<TransferReport::Outcome>(TransferReport::Nothing);
+    m_reports.post([report, outcome] { *outcome = report->judge(); },
+                   [this, report, outcome] { tellOutcome(*report, *outcome); });
+}
+
+void ImportGuard::tellOutcome(const TransferReport &report, TransferReport::Outcome outcome)
+{
+    const bool isToStick = report.needsStick() && !report.changesPrograms();
+    const QString name = report.name();
+    const auto good = [this](const QString &text) {
+        Q_EMIT causeEnded(stickCause);
+        Q_EMIT told(text, Message::Information);
+        Q_EMIT filesChanged();
+    };
+    const auto bad = [this](const QString &text, Message::Tone tone) {
+        Q_EMIT told(text, tone, stickCause);
+        Q_EMIT filesChanged();
+    };
+    switch (outcome) {
+    case TransferReport::Nothing:
+        break;
+    case TransferReport::Copied:
+        good(isToStick ? tr("%1 is copied to the stick, and compared.").arg(name)
+                       : tr("%1 is copied to the panel, and compared.").arg(name));
+        break;
+    case TransferReport::Deleted:
+        good(isToStick ? tr("%1 is deleted from the stick.").arg(name)
+                       : tr("%1 is deleted from the panel.").arg(name));
+        break;
+    case TransferReport::NotCopied:
+        bad(tr("%1 was not copied.").arg(name), Message::Warning);
+        break;
+    case TransferReport::Lost:
+        bad(isToStick ? tr("%1 was not copied, and the one on the stick is gone.").arg(name)
+                      : tr("%1 was not copied, and the panel's own is gone: bring it back from the "
+                           "history.")
+                            .arg(name),
+            Message::Alarm);
+        break;
+    case TransferReport::Different:
+        bad(tr("The copy of %1 is not what was to be copied. Is there space left? Copy it once "
+               "more.")
+                .arg(name),
+            Message::Alarm);
+        break;
+    }
 }

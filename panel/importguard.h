@@ -4,44 +4,96 @@
 #ifndef IMPORTGUARD_H
 #define IMPORTGUARD_H
 
+#include "filejob.h"
+#include "message.h"
+#include "transferreport.h"
+
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
+class ClickGate;
 class ImportManage;
+class ProgramHistory;
+class QMessageBox;
 
 /// Stands between the operator and the import manager's commands, which hand file names to the
-/// shell as they are.
+/// shell as they are, and write and delete without a look at what gets lost.
 ///
-/// Each press on a transfer key of a manager is let through only while every name in both folders
-/// is safe and so are the chosen ones, which may be names of a stick that has gone. Otherwise the
-/// operator is asked whether to rename them, and the manager shows its folders anew.
+/// Each press on a transfer key of a manager waits, while the panel goes on, until both folders
+/// were looked at: every name there has to be safe, and so have the chosen ones, which may be names
+/// of a stick that has gone. Where names are not, the operator is asked whether to rename them.
+/// Without a stick there are no transfers. Before a program is covered or deleted, the history
+/// takes it in; a program that it can't keep goes only after a question. What a command has come to
+/// is told.
 class ImportGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches the application from now on.
-    ImportGuard(const QString &programDir, const QString &stickDir, QObject *parent = nullptr);
+    enum Settled {
+        /// All names were safe.
+        WereSafe,
+        Renamed,
+        /// Names are left that are not safe, or nobody knows.
+        NotSettled
+    };
 
-    /// Paths of the files in both folders whose names are not safe.
-    QStringList unsafeFiles() const;
-    /// Asks whether to rename the unsafe files, if there are any, and does it on Yes. Whether none
-    /// is left.
-    bool settle();
+    /// Watches the application from now on. \a history must outlive the guard, if there is one.
+    ImportGuard(const QString &programDir, const QString &stickDir,
+                ProgramHistory *history = nullptr, QObject *parent = nullptr);
+
+    /// Looks for unsafe names, asks whether to rename them, if there are any, and does it on Yes.
+    /// Ends in \a then, from the event loop. Does nothing while the guard is busy.
+    void settle(const std::function<void(Settled)> &then = [](Settled) {});
+    /// A press waits, or a question.
+    bool isBusy() const;
+    /// Milliseconds after which the stick counts as one that does not answer.
+    void setStallTime(int ms) { m_job.setStallTime(ms); }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// What came of a question, in words; \a isSettled tells whether all names are safe now.
-    void told(const QString &text, bool isSettled);
+    void told(const QString &text, Message::Tone tone, const QString &cause = QString());
+    void causeEnded(const QString &cause);
+    /// Names were changed, or a command of a manager has ended.
+    void filesChanged();
 
 private:
+    struct Look;
+
+    typedef QPointer<ClickGate> Gate;
+
+    bool isBusyBeside(const Gate &gate) const;
+    void watch(ImportManage *manager);
+    void watch(QMessageBox *box);
+    void press(const Gate &gate, ImportManage *manager, TransferReport::Command command);
+    void confirm(const Gate &gate);
+    void hold(const Gate &gate);
+    void drop(const Gate &gate);
+    void look(const std::function<void(const Look &)> &then, const FileJob::Work &stalled);
+    void judge(const Gate &gate, const Look &look);
+    void judgeNames(const Gate &gate, const Look &look);
+    void waitForHistory(const Gate &gate);
+    void passUnlessLost(const Gate &gate);
+    bool mayLose(const QString &name);
+    void ask(const Look &look, const std::function<void(Settled)> &then);
+    void renameAll(const Look &look, const std::function<void(Settled)> &then);
+    void report();
+    void tellOutcome(const TransferReport &report, TransferReport::Outcome outcome);
+    void tellStall();
     bool isProgramDirSafe() const;
-    bool choosesUnsafeName(const ImportManage *manager) const;
-    int renameAll(const QStringList &files);
 
     const QString m_programDir;
     const QString m_stickDir;
+    ProgramHistory *m_history;
+    FileJob m_job;
+    FileThread m_reports;
+    /// The command that was chosen last, and what it found.
+    std::shared_ptr<TransferReport> m_report;
+    QPointer<ImportManage> m_manager;
+    Gate m_held;
+    bool m_isAsking = false;
 };
 
 #endif // IMPORTGUARD_H

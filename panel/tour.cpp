@@ -5,6 +5,7 @@
 
 #include "connectionsscreen.h"
 #include "filesscreen.h"
+#include "importguard.h"
 #include "messagelog.h"
 #include "panelglass.h"
 #include "panelkey.h"
@@ -249,12 +250,14 @@ void Tour::visitFilesScreen(FilesScreen *screen)
     showScreen(4);
     picture(QLatin1String("files"));
     then([screen] { QTimer::singleShot(0, screen, [screen] { screen->plug(); }); });
+    waitUntil([] { return qobject_cast<QMessageBox *>(QApplication::activeModalWidget()); });
     picture(QLatin1String("stick-plugged"));
     then([] {
         QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (box)
             box->button(QMessageBox::Yes)->click();
     });
+    waitUntil([screen] { return !screen->guard()->isBusy(); });
     picture(QLatin1String("stick-names"));
     pressKey(screen, QLatin1String("I/E"));
     picture(QLatin1String("import-export"));

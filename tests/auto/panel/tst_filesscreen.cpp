@@ -3,6 +3,7 @@
 
 #include "filarixtest.h"
 #include "filesscreen.h"
+#include "heldfile.h"
 #include "importguard.h"
 #include "modaldriver.h"
 #include "panelkey.h"
@@ -15,8 +16,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedPointer>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QThread>
 
 class TestFilesScreen : public FilarixTest
 {
@@ -36,6 +39,8 @@ private Q_SLOTS:
     void panelsOwnStickHasNoKeys();
     void historyKeyBringsBackARemovedProgram();
     void closedHistoryBringsNothingBack();
+    void foldersAreLookedAtWhileTheScreenIsUp();
+    void stickThatHangsStopsNothing();
     void fits_data();
     void fits();
 
@@ -63,6 +68,8 @@ void TestFilesScreen::cleanup()
     m_history.reset();
     emptyFolder(m_folder);
     QFile::remove(Stick::marker());
+    if (QFileInfo(Stick::mountPoint()).isSymLink())
+        QFile::remove(Stick::mountPoint());
     QDir().mkdir(Stick::mountPoint());
     emptyFolder(Stick::mountPoint());
     FilarixTest::cleanup();
@@ -97,14 +104,15 @@ void TestFilesScreen::keysPlugAndPullTheStick()
     QSignalSpy moves(&screen, SIGNAL(stickMoved()));
     QVERIFY(!key(screen, "Pull")->isEnabled());
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
+    QTRY_COMPARE(moves.size(), 1);
     QVERIFY(stick.isPresent());
-    QCOMPARE(moves.size(), 1);
+    QTRY_VERIFY(shows(screen, "In. Files: 1"));
     QVERIFY(!key(screen, "Plug")->isEnabled());
-    QVERIFY(shows(screen, "In. Files: 1"));
+    QTRY_VERIFY(!screen.guard()->isBusy());
     QTest::mouseClick(key(screen, "Pull"), Qt::LeftButton);
+    QTRY_COMPARE(moves.size(), 2);
     QVERIFY(!stick.isPresent());
-    QCOMPARE(moves.size(), 2);
-    QVERIFY(shows(screen, "Out"));
+    QTRY_VERIFY(shows(screen, "Out"));
 }
 
 void TestFilesScreen::arrivingStickIsCheckedOnce()
@@ -116,17 +124,18 @@ void TestFilesScreen::arrivingStickIsCheckedOnce()
     ModalDriver driver;
     driver.press(QMessageBox::No);
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY2(driver.finished(), driver.report());
     QVERIFY(driver.boxes().last().text.contains("a b.cnc"));
-    QVERIFY(shows(screen, "not safe: 1"));
+    QTRY_VERIFY(shows(screen, "not safe: 1"));
     screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
+    QTRY_VERIFY(!screen.guard()->isBusy());
     QVERIFY2(driver.finished(), driver.report());
 
     driver.press(QMessageBox::Yes);
     QTest::mouseClick(key(screen, "Rename"), Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList("a_b.cnc"));
-    QVERIFY(!key(screen, "Rename")->isEnabled());
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(QDir(m_folder).entryList(QDir::Files), QStringList("a_b.cnc"));
+    QTRY_VERIFY(!key(screen, "Rename")->isEnabled());
 }
 
 void TestFilesScreen::stickOfTheSystemIsSeenToComeAndGo()
@@ -134,17 +143,19 @@ void TestFilesScreen::stickOfTheSystemIsSeenToComeAndGo()
     Stick stick;
     FilesScreen screen(&stick, m_history.data());
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QVERIFY(QDir().rmdir(Stick::mountPoint()));
+    QVERIFY(QFile::link(m_folder, Stick::mountPoint()));
     writeFile(Stick::marker(), "in");
     // What is not known yet is no change.
     screen.showDevices(DeviceState());
     QCOMPARE(told.size(), 0);
     screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
-    QCOMPARE(told.size(), 1);
-    QVERIFY(shows(screen, "In. Files: 0"));
+    QTRY_COMPARE(told.size(), 1);
+    QTRY_VERIFY(shows(screen, "In. Files: 0"));
     QFile::remove(Stick::marker());
     screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
-    QVERIFY(shows(screen, "Out"));
+    QTRY_VERIFY(shows(screen, "Out"));
     QCOMPARE(told.size(), 1);
 }
 
@@ -154,11 +165,11 @@ void TestFilesScreen::stickThatCannotBePluggedIsTold()
     Stick stick(m_folder);
     FilesScreen screen(&stick, m_history.data());
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
-    QCOMPARE(told.size(), 1);
+    QTRY_COMPARE(told.size(), 1);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
-    QVERIFY(key(screen, "Plug")->isEnabled());
+    QTRY_VERIFY(key(screen, "Plug")->isEnabled());
 }
 
 void TestFilesScreen::pickedPathIsShown()
@@ -189,7 +200,7 @@ void TestFilesScreen::stateIsToldInFullByATouch()
     FilesScreen screen(&stick, m_history.data());
     screen.resize(300, 220);
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
     const QList<TouchBlock *> blocks = screen.findChildren<TouchBlock *>();
     QCOMPARE(blocks.size(), 4);
     for (TouchBlock *block : blocks) {
@@ -244,7 +255,7 @@ void TestFilesScreen::historyKeyBringsBackARemovedProgram()
     writeFile(path, "G01\n");
     QTRY_VERIFY(key(screen, "History")->isEnabled());
     QVERIFY(QFile::remove(path));
-    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone)));
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
     ModalDriver driver;
     driver.then([](QWidget *dialog) {
         dialog->findChild<QTableWidget *>()->selectRow(0);
@@ -276,6 +287,75 @@ void TestFilesScreen::closedHistoryBringsNothingBack()
     m_history->scan();
     QTRY_VERIFY(m_history->isSettled());
     QVERIFY(!QFileInfo(path).exists());
+}
+
+void TestFilesScreen::foldersAreLookedAtWhileTheScreenIsUp()
+{
+    const std::shared_ptr<QAtomicInt> looks = std::make_shared<QAtomicInt>();
+    FilesScreen::Looks counted = FilesScreen::usualLooks();
+    const FolderWatch::Look usual = counted.programs;
+    counted.programs = [looks, usual] {
+        // Never in the thread of the screen.
+        if (QThread::currentThread() == qApp->thread())
+            looks->fetchAndAddOrdered(1000);
+        looks->ref();
+        return usual();
+    };
+    Stick stick(m_folder);
+    FilesScreen screen(&stick, m_history.data(), counted);
+    QSignalSpy versions(m_history.data(), SIGNAL(versionsChanged()));
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    m_history->scan();
+    QTRY_VERIFY(!versions.isEmpty());
+    screen.refreshStatus();
+    QCoreApplication::processEvents();
+    QCOMPARE(looks->loadAcquire(), 0);
+    screen.show();
+    QTRY_VERIFY(shows(screen, "Files: 1, "));
+    const int before = looks->loadAcquire();
+    QVERIFY(before >= 1 && before < 1000);
+    screen.refreshStatus();
+    QTRY_COMPARE(looks->loadAcquire(), before + 1);
+    screen.hide();
+    screen.refreshStatus();
+    versions.clear();
+    writeFile(programDir() + "/coil.cnc", "G02\n");
+    m_history->scan();
+    QTRY_VERIFY(!versions.isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(looks->loadAcquire(), before + 1);
+}
+
+void TestFilesScreen::stickThatHangsStopsNothing()
+{
+    const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
+    FilesScreen::Looks hung = FilesScreen::usualLooks();
+    hung.stick = [gate] {
+        gate->acquire();
+        FolderState state;
+        state.isKnown = true;
+        state.isThere = true;
+        state.files = 7;
+        return state;
+    };
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    Stick stick(m_folder);
+    LoopPulse pulse;
+    FilesScreen screen(&stick, m_history.data(), hung);
+    screen.setPatience(200);
+    screen.show();
+    QVERIFY(shows(screen, "Loading ..."));
+    // What can be known is shown.
+    QTRY_VERIFY(shows(screen, "Files: 1, "));
+    QTRY_VERIFY(shows(screen, "Does not answer"));
+    for (int i = 0; i < 20; ++i)
+        screen.refreshStatus();
+    screen.hide();
+    screen.show();
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+    gate->release(100);
+    QTRY_VERIFY(shows(screen, "In. Files: 7"));
+    QVERIFY(!shows(screen, "Does not answer"));
 }
 
 void TestFilesScreen::fits_data()

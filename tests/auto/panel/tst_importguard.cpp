@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "clickgate.h"
 #include "filarixtest.h"
 #include "importguard.h"
 #include "importmanage.h"
 #include "modaldriver.h"
+#include "programhistory.h"
 
 #include <QDir>
 #include <QDirModel>
@@ -31,8 +33,19 @@ private Q_SLOTS:
     void quitIsNeverHeldBack();
     void renamingThatFailsIsTold();
     void programDirectoryWithABlankIsRefused();
+    void withoutAStickNothingIsTransferred();
+    void programIsDeletedWithoutAStick();
+    void whatWasDoneIsTold();
+    void answeredNoIsNothingToTell();
+    void copyThatDoesNotFitIsAnAlarm();
+    void coverWaitsForTheHistory();
+    void programThatTheHistoryCannotKeepGoesOnlyAfterAQuestion();
+    void pressWaitsBesideTheEventLoop();
 
 private:
+    static ImportGuard::Settled settle(ImportGuard *guard);
+    static bool isIdle(const ImportGuard &guard, const ImportManage &manager);
+    static void chooseOnPanel(ImportManage *manager, const QString &name);
     static QPushButton *button(ImportManage *manager, const QString &text);
     static void chooseOnStick(ImportManage *manager, const QString &name);
     QByteArray canary() const;
@@ -41,6 +54,7 @@ private:
 void TestImportGuard::init()
 {
     FilarixTest::init();
+    qRegisterMetaType<Message::Tone>("Message::Tone");
     programDir();
     QDir().mkdir("/mnt/Storage");
     emptyFolder("/mnt/Storage");
@@ -66,6 +80,33 @@ QPushButton *TestImportGuard::button(ImportManage *manager, const QString &text)
     return nullptr;
 }
 
+ImportGuard::Settled TestImportGuard::settle(ImportGuard *guard)
+{
+    int result = -1;
+    guard->settle([&result](ImportGuard::Settled settled) { result = settled; });
+    if (!QTest::qWaitFor([&result] { return result >= 0; }))
+        qFatal("The guard does not answer.");
+    return ImportGuard::Settled(result);
+}
+
+// Whether no press of the manager's waits any more.
+bool TestImportGuard::isIdle(const ImportGuard &guard, const ImportManage &manager)
+{
+    const QList<ClickGate *> gates = manager.findChildren<ClickGate *>();
+    for (ClickGate *gate : gates) {
+        if (gate->isHolding())
+            return false;
+    }
+    return !gates.isEmpty() && !guard.isBusy();
+}
+
+void TestImportGuard::chooseOnPanel(ImportManage *manager, const QString &name)
+{
+    QListView *view = manager->findChildren<QListView *>().first();
+    view->setCurrentIndex(
+        static_cast<QDirModel *>(view->model())->index(programDir() + '/' + name));
+}
+
 void TestImportGuard::chooseOnStick(ImportManage *manager, const QString &name)
 {
     const QList<QListView *> views = manager->findChildren<QListView *>();
@@ -82,14 +123,13 @@ void TestImportGuard::safeNamesPassWithoutAQuestion()
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
     ImportGuard guard(programDir(), "/mnt/Storage");
-    QVERIFY(guard.unsafeFiles().isEmpty());
-    QVERIFY(guard.settle());
+    QCOMPARE(settle(&guard), ImportGuard::WereSafe);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
     chooseOnStick(&manager, "coil.cnc");
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QCOMPARE(readFile(programDir() + "/coil.cnc"), QByteArray("G01\n"));
+    QTRY_COMPARE(readFile(programDir() + "/coil.cnc"), QByteArray("G01\n"));
 }
 
 void TestImportGuard::hostileNamesAreRenamedAndTouchNothing_data()
@@ -112,7 +152,7 @@ void TestImportGuard::hostileNamesAreRenamedAndTouchNothing()
     writeFile("/mnt/Storage/" + name, "G01\n");
     const QStringList before = QDir(home()).entryList(QDir::AllEntries | QDir::Hidden);
     ImportGuard guard(programDir(), "/mnt/Storage");
-    QSignalSpy told(&guard, SIGNAL(told(QString, bool)));
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -121,9 +161,9 @@ void TestImportGuard::hostileNamesAreRenamedAndTouchNothing()
     ModalDriver driver;
     driver.press(QMessageBox::Yes);
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(told.size(), 1);
-    QCOMPARE(told.at(0).at(1).toBool(), true);
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Information);
     QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
     const QStringList names = QDir("/mnt/Storage").entryList(QDir::Files | QDir::Hidden);
     QCOMPARE(names.size(), 1);
@@ -132,12 +172,13 @@ void TestImportGuard::hostileNamesAreRenamedAndTouchNothing()
     // The new name goes through, there and back out.
     chooseOnStick(&manager, names.first());
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QCOMPARE(readFile(programDir() + '/' + names.first()), QByteArray("G01\n"));
+    QTRY_COMPARE(readFile(programDir() + '/' + names.first()), QByteArray("G01\n"));
+    QTRY_VERIFY(!guard.isBusy());
     chooseOnStick(&manager, names.first());
     driver.press(QMessageBox::Yes);
     QTest::mouseClick(button(&manager, "Del<"), Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
-    QVERIFY(QDir("/mnt/Storage").entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(QDir("/mnt/Storage").entryList(QDir::Files | QDir::Hidden).isEmpty());
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
     QCOMPARE(QDir(home()).entryList(QDir::AllEntries | QDir::Hidden), before);
 }
@@ -148,7 +189,7 @@ void TestImportGuard::withoutRenamingNothingIsTransferred()
     writeFile("/mnt/Storage/a b.cnc", "G01\n");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
     ImportGuard guard(programDir(), "/mnt/Storage");
-    QSignalSpy told(&guard, SIGNAL(told(QString, bool)));
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -156,8 +197,9 @@ void TestImportGuard::withoutRenamingNothingIsTransferred()
     ModalDriver driver;
     driver.press(QMessageBox::No);
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(told.at(0).at(1).toBool(), false);
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(isIdle(guard, manager));
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
     QCOMPARE(QDir("/mnt/Storage").entryList(QDir::Files).size(), 2);
 }
@@ -172,8 +214,11 @@ void TestImportGuard::chosenNameOfAStickThatHasGoneIsRefused()
     chooseOnStick(&manager, "$(rm canary)");
     // The next stick has no such file, but the manager still shows the first one's names.
     emptyFolder("/mnt/Storage");
+    manager.hide();
     ImportGuard guard(programDir(), "/mnt/Storage");
+    manager.show();
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QTRY_VERIFY(isIdle(guard, manager));
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
 }
 
@@ -189,7 +234,8 @@ void TestImportGuard::keysPressedByAKeyboardAreGuardedToo()
     ModalDriver driver;
     driver.press(QMessageBox::No);
     QTest::keyClick(button(&manager, "<<"), Qt::Key_Space);
-    QVERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(isIdle(guard, manager));
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
 }
 
@@ -210,7 +256,8 @@ void TestImportGuard::returnInAListIsGuardedToo()
     ModalDriver driver;
     driver.press(QMessageBox::No);
     QTest::keyClick(programs, Qt::Key_Return);
-    QVERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_VERIFY(isIdle(guard, manager));
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
 }
 
@@ -244,13 +291,14 @@ void TestImportGuard::programDirectoryWithABlankIsRefused()
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
     ImportGuard guard(home() + "/a b/cnc", "/mnt/Storage");
-    QSignalSpy told(&guard, SIGNAL(told(QString, bool)));
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
     chooseOnStick(&manager, "coil.cnc");
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QCOMPARE(told.size(), 1);
+    QTRY_COMPARE(told.size(), 1);
+    QTRY_VERIFY(isIdle(guard, manager));
     QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
 }
 
@@ -259,15 +307,237 @@ void TestImportGuard::renamingThatFailsIsTold()
     writeFile(programDir() + "/a b.cnc", "G01\n");
     QFile::setPermissions(programDir(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     ImportGuard guard(programDir(), "/mnt/Storage");
-    QSignalSpy told(&guard, SIGNAL(told(QString, bool)));
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ModalDriver driver;
     driver.press(QMessageBox::Yes);
-    const bool settled = guard.settle();
+    const ImportGuard::Settled settled = settle(&guard);
     QFile::setPermissions(programDir(),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     QVERIFY2(driver.finished(), driver.report());
-    QVERIFY(!settled);
-    QCOMPARE(told.at(0).at(1).toBool(), false);
+    QCOMPARE(settled, ImportGuard::NotSettled);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+}
+
+void TestImportGuard::withoutAStickNothingIsTransferred()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile("/mnt/Storage/coil.cnc", "G01\n");
+    writeFile(programDir() + "/own.cnc", "G02\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
+    for (const char *key : {">>", "<<", "Del<"}) {
+        ImportManage manager(nullptr);
+        manager.init();
+        manager.show();
+        chooseOnStick(&manager, "coil.cnc");
+        chooseOnPanel(&manager, "own.cnc");
+        // Pulled while the manager is up.
+        QFile::remove("/tmp/udiskattach");
+        QTest::mouseClick(button(&manager, key), Qt::LeftButton);
+        QTRY_COMPARE(told.size(), 1);
+        QCOMPARE(told.takeFirst().at(1).value<Message::Tone>(), Message::Warning);
+        QTRY_VERIFY(isIdle(guard, manager));
+        writeFile("/tmp/udiskattach", "");
+    }
+    QCOMPARE(QDir("/mnt/Storage").entryList(QDir::Files), QStringList("coil.cnc"));
+    QCOMPARE(QDir(programDir()).entryList(QDir::Files), QStringList("own.cnc"));
+}
+
+void TestImportGuard::programIsDeletedWithoutAStick()
+{
+    StrictMessages::expect("slot_checkUSB");
+    QFile::remove("/tmp/udiskattach");
+    writeFile(programDir() + "/own.cnc", "G02\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnPanel(&manager, "own.cnc");
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(button(&manager, ">Del"), Qt::LeftButton);
+    QTRY_VERIFY(!QFileInfo(programDir() + "/own.cnc").exists());
+    QTRY_VERIFY2(driver.finished(), driver.report());
+}
+
+void TestImportGuard::whatWasDoneIsTold()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile(programDir() + "/own.cnc", "G02\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    const auto isTold = [&](const char *words) {
+        return told.size() == 1 && told.at(0).at(1).value<Message::Tone>() == Message::Information
+               && told.at(0).at(0).toString().contains(words);
+    };
+    chooseOnPanel(&manager, "own.cnc");
+    QTest::mouseClick(button(&manager, ">>"), Qt::LeftButton);
+    QTRY_VERIFY(isTold("own.cnc is copied to the stick, and compared"));
+    QCOMPARE(readFile("/mnt/Storage/own.cnc"), QByteArray("G02\n"));
+    QTRY_VERIFY(isIdle(guard, manager));
+    told.clear();
+
+    // Over the one that is there, which differs.
+    writeFile("/mnt/Storage/own.cnc", "G0333\n");
+    chooseOnStick(&manager, "own.cnc");
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QTRY_VERIFY(isTold("own.cnc is copied to the panel, and compared"));
+    QCOMPARE(readFile(programDir() + "/own.cnc"), QByteArray("G0333\n"));
+    QTRY_VERIFY(isIdle(guard, manager));
+    told.clear();
+
+    chooseOnStick(&manager, "own.cnc");
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(button(&manager, "Del<"), Qt::LeftButton);
+    QTRY_VERIFY(isTold("own.cnc is deleted from the stick"));
+    QTRY_VERIFY(isIdle(guard, manager));
+    told.clear();
+
+    chooseOnPanel(&manager, "own.cnc");
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(button(&manager, ">Del"), Qt::LeftButton);
+    QTRY_VERIFY(isTold("own.cnc is deleted from the panel"));
+    QVERIFY(!QFileInfo(programDir() + "/own.cnc").exists());
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+void TestImportGuard::answeredNoIsNothingToTell()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile(programDir() + "/own.cnc", "G02\n");
+    writeFile("/mnt/Storage/own.cnc", "G03\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    ModalDriver driver;
+    for (const char *key : {">>", "<<", ">Del", "Del<"}) {
+        chooseOnPanel(&manager, "own.cnc");
+        chooseOnStick(&manager, "own.cnc");
+        driver.press(QMessageBox::No);
+        QTest::mouseClick(button(&manager, key), Qt::LeftButton);
+        QTRY_VERIFY2(driver.finished(), driver.report());
+        QTRY_VERIFY(isIdle(guard, manager));
+    }
+    // A word that was still to come would have come before this one.
+    QCOMPARE(settle(&guard), ImportGuard::WereSafe);
+    QCOMPARE(told.size(), 0);
+    QCOMPARE(readFile(programDir() + "/own.cnc"), QByteArray("G02\n"));
+    QCOMPARE(readFile("/mnt/Storage/own.cnc"), QByteArray("G03\n"));
+}
+
+// The stick of these tests holds a megabyte; see CMakeLists.txt.
+void TestImportGuard::copyThatDoesNotFitIsAnAlarm()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile(programDir() + "/long.cnc", QByteArray(2 * 1024 * 1024, 'G'));
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnPanel(&manager, "long.cnc");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok); // the library says that the copy failed, not what it left
+    QTest::mouseClick(button(&manager, ">>"), Qt::LeftButton);
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY(told.at(0).at(0).toString().contains("long.cnc"));
+    QCOMPARE(told.at(0).at(2).toString(), QString("stick"));
+}
+
+void TestImportGuard::coverWaitsForTheHistory()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile("/mnt/Storage/coil.cnc", "G01 from the stick\n");
+    writeFile(programDir() + "/coil.cnc", "G01 before\n");
+    ProgramHistory history(programDir(), home() + "/hmi/history");
+    QTRY_VERIFY(history.isSettled());
+    ImportGuard guard(programDir(), "/mnt/Storage", &history);
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnStick(&manager, "coil.cnc");
+    ModalDriver driver;
+    driver.then([](QWidget *box) {
+        // Saved by somebody else, while the question stands.
+        writeFile(programDir() + "/coil.cnc", "G01 saved just now\n");
+        QTest::keyClick(static_cast<QMessageBox *>(box)->button(QMessageBox::Yes), Qt::Key_Space);
+    });
+    QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QTRY_COMPARE(readFile(programDir() + "/coil.cnc"), QByteArray("G01 from the stick\n"));
+    QVERIFY2(driver.finished(), driver.report());
+    bool isKept = false;
+    const QList<ProgramVersion> versions = history.versions();
+    for (const ProgramVersion &version : versions)
+        isKept |= version.bytes == qint64(sizeof "G01 saved just now\n" - 1);
+    QVERIFY(isKept);
+}
+
+void TestImportGuard::programThatTheHistoryCannotKeepGoesOnlyAfterAQuestion()
+{
+    StrictMessages::expect("slot_checkUSB");
+    const QString path = programDir() + "/coil.cnc";
+    writeFile(path, "G01\n");
+    // Nobody can read it, so nobody can keep it; to delete it takes no more than the folder's
+    // rights.
+    QFile::setPermissions(path, QFileDevice::Permissions());
+    ProgramHistory history(programDir(), home() + "/hmi/history");
+    ImportGuard guard(programDir(), "/mnt/Storage", &history);
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    ModalDriver driver;
+    const auto yes = [](QWidget *box) {
+        QTest::mouseClick(static_cast<QMessageBox *>(box)->button(QMessageBox::Yes),
+                          Qt::LeftButton);
+    };
+    chooseOnPanel(&manager, "coil.cnc");
+    driver.then(yes);
+    driver.press(QMessageBox::Cancel);
+    // The library's own question has stayed open below ours.
+    driver.then([&](QWidget *box) {
+        QVERIFY(QFileInfo(path).exists());
+        QTRY_VERIFY(!guard.isBusy());
+        yes(box);
+    });
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(button(&manager, ">Del"), Qt::LeftButton);
+    QTRY_VERIFY(!QFileInfo(path).exists());
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(driver.boxes().size(), 2);
+    for (const ModalDriver::Box &box : driver.boxes()) {
+        QVERIFY(box.text.contains("coil.cnc is not in the history"));
+        QCOMPARE(box.defaultButton, QMessageBox::Cancel);
+    }
+}
+
+void TestImportGuard::pressWaitsBesideTheEventLoop()
+{
+    StrictMessages::expect("slot_checkUSB");
+    for (int i = 0; i < 2000; ++i)
+        writeFile(programDir() + QString("/coil-%1.cnc").arg(i), "G01\n");
+    writeFile("/mnt/Storage/a.cnc", "G01\n");
+    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnStick(&manager, "a.cnc");
+    ClickGate *gate = button(&manager, "<<")->findChild<ClickGate *>();
+    QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QVERIFY(!QFileInfo(programDir() + "/a.cnc").exists());
+    QTRY_VERIFY(gate->isHolding());
+    // A second press of an impatient finger counts for nothing.
+    QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QTRY_VERIFY(QFileInfo(programDir() + "/a.cnc").exists());
+    QTRY_VERIFY(isIdle(guard, manager));
 }
 
 FILARIX_TEST_MAIN(TestImportGuard)

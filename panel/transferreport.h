@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TRANSFERREPORT_H
+#define TRANSFERREPORT_H
+
+#include "filestamp.h"
+
+#include <QString>
+
+/// What a command of the import manager has come to, judged by what lies in the folders before and
+/// after: the manager tells nobody.
+class TransferReport
+{
+public:
+    enum Command { CopyToStick, CopyToPanel, DeleteFromPanel, DeleteFromStick };
+    enum Outcome {
+        /// Everything is as it was: the operator said no, or the manager told why not.
+        Nothing,
+        /// The copy was compared, byte by byte.
+        Copied,
+        Deleted,
+        /// There is no copy, nor was there one before.
+        NotCopied,
+        /// What was to be covered is gone, and there is no copy.
+        Lost,
+        /// The copy is not what was to be copied.
+        Different
+    };
+
+    TransferReport(Command command, const QString &programDir, const QString &stickDir,
+                   const QString &name);
+
+    Command command() const { return m_command; }
+    QString name() const { return m_name; }
+    bool needsStick() const { return m_command != DeleteFromPanel; }
+    /// Whether it may cover or take away a program of the panel.
+    bool changesPrograms() const
+    {
+        return m_command == CopyToPanel || m_command == DeleteFromPanel;
+    }
+
+    /// Takes note of what is there. May wait for the stick, as judge() may.
+    void lookBefore();
+    Outcome judge() const;
+
+private:
+    QString source() const;
+    /// What the command writes or deletes.
+    QString target() const;
+
+    Command m_command;
+    QString m_programDir;
+    QString m_stickDir;
+    QString m_name;
+    FileStamp m_before;
+};
+
+#endif // TRANSFERREPORT_H
