@@ -25,6 +25,8 @@ class ListScreen : public PanelScreen
 
 public:
     TListWidget *list() const { return m_list; }
+    /// All rows but the title.
+    QList<QStringList> rows() const;
 
     /// Whether the rows are still to come. No key does anything until they are there.
     bool isLoading() const { return m_isLoading; }
@@ -45,8 +47,6 @@ protected:
     void addPagingKeys();
     /// Fills the list, the first row under the title becoming current, and shows its first page.
     void setRows(const QList<QStringList> &rows);
-    /// All rows but the title.
-    QList<QStringList> rows() const;
     /// Rows of the list that are none of the host's: 1 with a title.
     int firstRow() const { return m_firstRow; }
 

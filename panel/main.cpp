@@ -17,6 +17,7 @@
 #include "panelstyle.h"
 #include "panelsurface.h"
 #include "panelwindow.h"
+#include "programguard.h"
 #include "programhistory.h"
 #include "programscreen.h"
 #include "questionkeeper.h"
@@ -27,7 +28,10 @@
 #include "teachscreen.h"
 #include "terminationsignals.h"
 #include "tour.h"
+#include "unsavedoffer.h"
+#include "unsavedwork.h"
 #include "variablesscreen.h"
+#include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
 #include <QApplication>
@@ -45,6 +49,7 @@
 namespace {
 
 const int kTidyMs = 60 * 1000;
+const int kFlushMs = 1000;
 
 bool hasArgument(int argc, char **argv, std::initializer_list<const char *> names)
 {
@@ -102,6 +107,23 @@ QStringList translationFolders()
         folders.append(
             QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(folder)));
     return folders;
+}
+
+/// Keeps what the operator has not saved, from now on.
+void keepUnsaved(UnsavedWork *unsaved, const UnsavedOffer::Screens &screens)
+{
+    const ProgramScreen *program = screens.program;
+    // A save is one once the guard has read it back.
+    unsaved->watchProgram(
+        program->editor()->document(), [program] { return UnsavedOffer::headOf(program); },
+        [program] { return !program->guard()->isBusy(); });
+    const TeachScreen *teach = screens.teach;
+    unsaved->watchRows(UnsavedOffer::teach(), screens.teach, [teach] {
+        KeptHead head;
+        head.path = teach->filePath();
+        return head;
+    });
+    unsaved->watchRows(UnsavedOffer::variables(), screens.variables, [] { return KeptHead(); });
 }
 
 int runPanel(const Options &options)
@@ -189,11 +211,22 @@ int runPanel(const Options &options)
     QObject::connect(&watch, &DeviceWatch::changed, files, &FilesScreen::showDevices);
     QObject::connect(files, &FilesScreen::stickMoved, &watch, &DeviceWatch::lookNow);
     panel.status()->follow(programs->transfer());
+    const QString unsavedDir = ownDir + QLatin1String("/unsaved");
+    const UnsavedOffer::Screens screens = {programs, teach, variables};
+    UnsavedWork unsaved(unsavedDir);
+    UnsavedOffer unsavedOffer(unsavedDir, screens, &unsaved);
+    QObject::connect(&unsaved, &UnsavedWork::told, programs, &PanelScreen::told);
+    QObject::connect(&unsaved, &UnsavedWork::causeEnded, programs, &PanelScreen::causeEnded);
+    QObject::connect(&unsavedOffer, &UnsavedOffer::told, programs, &PanelScreen::told);
+    // The operator was asked about each of them.
+    QObject::connect(&panel, &PanelWindow::closed, &unsaved,
+                     [&unsaved] { unsaved.giveUp(kFlushMs); });
     // Not by the last window: the find dialog may be open, and it has no parent.
     QObject::connect(&panel, &PanelWindow::closed, qApp, &QApplication::quit);
     TerminationSignals signals;
     OrderlyEnd orderlyEnd;
     QObject::connect(&signals, &TerminationSignals::received, &orderlyEnd, &OrderlyEnd::end);
+    orderlyEnd.beforeEnd([&unsaved] { unsaved.flush(kFlushMs); });
     // A panel is on for months: what dialogs and long programs left as gaps in the heap goes back
     // to the system, in a millisecond at most.
     QTimer tidying;
@@ -204,8 +237,11 @@ int runPanel(const Options &options)
     else
         panel.show();
 
-    if (!isTour)
+    if (!isTour) {
+        keepUnsaved(&unsaved, screens);
+        unsavedOffer.start();
         return QApplication::exec();
+    }
     Tour tour(&panel, options.tourDir, glass.get());
     tour.visitProgramScreen(programs);
     tour.visitTeachScreen(teach);

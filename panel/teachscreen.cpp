@@ -17,6 +17,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include <algorithm>
+
 namespace {
 
 const int kKeyColumns = 2;
@@ -212,6 +214,22 @@ void TeachScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::St
         text += QLatin1Char(' ')
                 + tr("What stood there is %1 now.").arg(QFileInfo(stored.asidePath).fileName());
     Q_EMIT told(text, Message::Information);
+}
+
+bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
+{
+    if (!std::all_of(rows.begin(), rows.end(), TaughtProgram::isValid))
+        return false;
+    if (path != m_file && QFileInfo(path).path() == QFileInfo(m_file).path()) {
+        m_file = path;
+        // What that file holds was never shown.
+        m_stored.clear();
+    }
+    m_selectKey->setChecked(false);
+    setRows(rows);
+    refreshStatus();
+    Q_EMIT titleChanged();
+    return true;
 }
 
 void TeachScreen::askAndLoad()

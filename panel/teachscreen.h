@@ -36,6 +36,9 @@ public:
     void store();
     /// Milliseconds after which a file counts as one that does not answer.
     void setStallTime(int ms) { m_keeper.setStallTime(ms); }
+    /// Shows \a rows that were not stored when the program ended, as changes to the file \a path;
+    /// false for rows that are no instructions.
+    bool bringBack(const QString &path, const QList<QStringList> &rows);
 
 protected:
     void retranslate() override;

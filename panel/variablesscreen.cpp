@@ -136,6 +136,24 @@ void VariablesScreen::noteStored(const QList<QStringList> &rows, const RowKeeper
     Q_EMIT told(text, Message::Information);
 }
 
+bool VariablesScreen::bringBack(const QList<QStringList> &rows)
+{
+    QList<QStringList> all = this->rows();
+    bool isAny = false;
+    for (QStringList &own : all) {
+        for (const QStringList &row : rows) {
+            if (row.size() != kStrings || row.at(kName) != own.value(kName))
+                continue;
+            own[kValue] = row.at(kValue);
+            isAny = true;
+        }
+    }
+    if (isAny)
+        setRows(all);
+    refreshStatus();
+    return isAny;
+}
+
 QString VariablesScreen::value(const QString &name) const
 {
     const QList<QStringList> all = rows();

@@ -26,6 +26,9 @@ public:
 
     /// Writes the values beside the event loop; ends in told().
     void store();
+    /// Shows the values in \a rows that were not stored when the program ended; false if there
+    /// are none of the machine's variables among them.
+    bool bringBack(const QList<QStringList> &rows);
     /// The value of a variable as text; null for a name that isn't there.
     QString value(const QString &name) const;
     /// Milliseconds after which a file counts as one that does not answer.

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef KEPTWORK_H
+#define KEPTWORK_H
+
+#include <QDateTime>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+/// In a text, \a removed characters at \a position gave way to \a added.
+struct TextChange
+{
+    int position = 0;
+    int removed = 0;
+    QString added;
+};
+
+/// What unsaved work belongs to, and how it stood.
+struct KeptHead
+{
+    /// The file; empty for none.
+    QString path;
+    int cursor = 0;
+    /// What the screen has to know besides, in its own words.
+    QMap<QString, QString> state;
+};
+
+inline bool operator==(const KeptHead &a, const KeptHead &b)
+{
+    return a.path == b.path && a.cursor == b.cursor && a.state == b.state;
+}
+
+/// The unsaved work of one screen.
+struct KeptWork
+{
+    /// Which screen, in a word of small letters: "program".
+    QString subject;
+    KeptHead head;
+    /// In UTC.
+    QDateTime time;
+    /// Of a program. Its lines end in "\n", the last one in nothing.
+    QString text;
+    /// Of a list.
+    QList<QStringList> rows;
+    /// Whether the file was written, came or went since the work was kept.
+    bool isFileChanged = false;
+    bool isFileThere = false;
+};
+
+#endif // KEPTWORK_H

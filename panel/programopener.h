@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROGRAMOPENER_H
+#define PROGRAMOPENER_H
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+class WGCodeEditer;
+class WMMainWindow;
+
+/// Opens a program in the library's window as its operator would, but by its path.
+///
+/// The window knows one way to a program: its own Open, which asks for a name. The opener answers
+/// that question before anybody sees it, so the window has the file, the title and the download
+/// that belong to the program.
+class ProgramOpener : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a isBusy says whether the host still has a command of the window in hand, if it ever has.
+    explicit ProgramOpener(WMMainWindow *window,
+                           const std::function<bool()> &isBusy = std::function<bool()>(),
+                           QObject *parent = nullptr);
+
+    /// Presses Open and waits, with the event loop running; whether the program at \a path is the
+    /// window's afterwards. It has to stand in the program
+    /// directory. What the window asks besides, about changes say, is the operator's to answer.
+    bool open(const QString &path);
+    /// Makes \a text the document's, in one step that Undo takes back, with the cursor at
+    /// \a cursor. The document is modified then, unless that was its text before.
+    void put(const QString &text, int cursor);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool isBusy() const;
+    void waitForEnd();
+
+    WMMainWindow *m_window;
+    std::function<bool()> m_isBusy;
+    WGCodeEditer *m_editor;
+    QString m_name;
+};
+
+#endif // PROGRAMOPENER_H

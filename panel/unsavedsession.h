@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef UNSAVEDSESSION_H
+#define UNSAVEDSESSION_H
+
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+/// The folder in which one run of the program keeps its unsaved work.
+///
+/// A lock holds it for as long as the run lasts, however that ends; a folder that nobody holds was
+/// left by a run that was killed, or whose work was to be kept. For a FileThread, not the screen's.
+class UnsavedSession
+{
+public:
+    typedef std::shared_ptr<UnsavedSession> Pointer;
+
+    /// A new one in \a folder, which is made; null, with the reason in errno, when that fails.
+    static Pointer make(const QString &folder);
+    /// Those in \a folder that nobody else holds, the newest first, and no more than an operator
+    /// would look through. They are held from now on. Empty ones are cleared away.
+    static QList<Pointer> left(const QString &folder);
+
+    /// Lets go of the folder; what is in it stays.
+    ~UnsavedSession();
+
+    QString path() const { return m_path; }
+    QString filePath(const QString &name) const;
+    /// Removes the folder with what the program keeps in such a one. What stands there besides
+    /// stays, and the folder with it.
+    bool remove();
+
+private:
+    UnsavedSession(const QString &path, int handle) : m_path(path), m_handle(handle) {}
+    Q_DISABLE_COPY(UnsavedSession)
+
+    const QString m_path;
+    const int m_handle;
+};
+
+#endif // UNSAVEDSESSION_H

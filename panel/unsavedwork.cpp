@@ -1,0 +1,331 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "unsavedwork.h"
+
+#include "documentrecorder.h"
+#include "listscreen.h"
+#include "unsavedstore.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QProgressDialog>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace {
+
+const int rowsMs = 1000;
+const int stallMs = 5000;
+const int pauseMs = 5000;
+
+QString troubleCause()
+{
+    return QLatin1String("unsaved");
+}
+
+} // namespace
+
+const int UnsavedWork::delayMs;
+
+UnsavedWork::UnsavedWork(const QString &folder, QObject *parent)
+    : QObject(parent), m_store(std::make_shared<UnsavedStore>(folder))
+{
+    m_program.name = program();
+    for (QTimer *timer : {&m_programTimer, &m_stall, &m_pause})
+        timer->setSingleShot(true);
+    m_programTimer.setInterval(delayMs);
+    m_stall.setInterval(stallMs);
+    m_pause.setInterval(pauseMs);
+    connect(&m_programTimer, &QTimer::timeout, this, &UnsavedWork::lookAtProgram);
+    connect(&m_rowsTimer, &QTimer::timeout, this, &UnsavedWork::lookAtRows);
+    connect(&m_pause, &QTimer::timeout, this, &UnsavedWork::goOn);
+    // The work in hand is not given up: two writers would get in each other's way.
+    connect(&m_stall, &QTimer::timeout, this,
+            [this] { tellTrouble(tr("the storage does not answer")); });
+}
+
+UnsavedWork::~UnsavedWork() = default;
+
+QString UnsavedWork::program()
+{
+    return QLatin1String("program");
+}
+
+void UnsavedWork::watchProgram(QTextDocument *document, const std::function<KeptHead()> &head,
+                               const std::function<bool()> &mayDrop)
+{
+    m_document = document;
+    m_program.head = head;
+    m_mayDrop = mayDrop;
+    m_recorder = new DocumentRecorder(document, this);
+    connect(m_recorder, &DocumentRecorder::changed, this, &UnsavedWork::noteProgram);
+    connect(m_recorder, &DocumentRecorder::copied, this, &UnsavedWork::keepProgram);
+    connect(document, &QTextDocument::modificationChanged, this, &UnsavedWork::noteProgram);
+    noteProgram();
+}
+
+void UnsavedWork::watchRows(const QString &subject, ListScreen *screen,
+                            const std::function<KeptHead()> &head)
+{
+    std::unique_ptr<Rows> rows(new Rows);
+    rows->name = subject;
+    rows->head = head;
+    rows->screen = screen;
+    m_rows.push_back(std::move(rows));
+    m_rowsTimer.start(rowsMs);
+}
+
+bool UnsavedWork::isSettled() const
+{
+    return !m_isWriting && !m_areRowsDue && isProgramSettled()
+           && std::all_of(m_rows.begin(), m_rows.end(),
+                          [](const std::unique_ptr<Rows> &rows) { return rows->isWritten; });
+}
+
+bool UnsavedWork::isProgramSettled() const
+{
+    return !m_recorder
+           || (!m_programTimer.isActive() && !m_isProgramDue && !m_recorder->isCopying()
+               && m_program.isWritten);
+}
+
+void UnsavedWork::keepNow()
+{
+    m_pause.stop();
+    lookAtRows();
+    if (m_programTimer.isActive() || m_isProgramDue) {
+        m_programTimer.stop();
+        lookAtProgram();
+    }
+    // From the event loop, so that whoever asked for it hears it.
+    if (isSettled())
+        QMetaObject::invokeMethod(this, &UnsavedWork::settled, Qt::QueuedConnection);
+}
+
+bool UnsavedWork::flush(int ms)
+{
+    keepNow();
+    if (m_recorder)
+        m_recorder->finishCopy();
+    if (!isSettled())
+        waitUntilSettled(ms);
+    return isSettled();
+}
+
+void UnsavedWork::waitUntilSettled(int ms)
+{
+    QEventLoop loop;
+    connect(this, &UnsavedWork::settled, &loop, &QEventLoop::quit);
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+// Behind what is being written just now, and nothing comes after.
+void UnsavedWork::giveUp(int ms)
+{
+    m_isOver = true;
+    m_programTimer.stop();
+    m_rowsTimer.stop();
+    if (m_recorder)
+        m_recorder->stop();
+    QStringList subjects{m_program.name};
+    for (const std::unique_ptr<Rows> &rows : m_rows)
+        subjects.append(rows->name);
+    const std::shared_ptr<UnsavedStore> store = m_store;
+    m_thread.post(
+        [store, subjects] {
+            for (const QString &subject : subjects)
+                store->drop(subject);
+        },
+        [this] { Q_EMIT settled(); });
+    waitUntilSettled(ms);
+}
+
+void UnsavedWork::noteProgram()
+{
+    if (!m_isOver && !m_programTimer.isActive())
+        m_programTimer.start();
+}
+
+void UnsavedWork::lookAtProgram()
+{
+    // A program that is being opened is no work of the operator's.
+    if (isLoading())
+        return noteProgram();
+    m_isProgramDue = !mayStart();
+    if (m_isProgramDue)
+        return;
+    if (m_document->isModified()) {
+        if (m_recorder->isRecording())
+            appendChanges();
+        else if (!m_recorder->isCopying())
+            m_recorder->copy();
+        return;
+    }
+    if (m_mayDrop && !m_mayDrop())
+        return noteProgram();
+    m_recorder->stop();
+    drop(&m_program);
+}
+
+void UnsavedWork::keepProgram(const QString &text)
+{
+    if (m_isWriting) {
+        // The text of later will do.
+        m_recorder->stop();
+        m_isProgramDue = true;
+        return;
+    }
+    KeptWork work;
+    work.subject = m_program.name;
+    work.head = m_program.keptHead = m_program.head();
+    work.time = QDateTime::currentDateTimeUtc();
+    work.text = text;
+    start(&m_program, true, [work](UnsavedStore *store) { return store->keep(work); });
+}
+
+void UnsavedWork::appendChanges()
+{
+    const KeptHead head = m_program.head();
+    if (!m_recorder->hasChanges() && head == m_program.keptHead)
+        return;
+    m_program.keptHead = head;
+    const QString subject = m_program.name;
+    const QList<TextChange> changes = m_recorder->takeChanges();
+    start(&m_program, true, [subject, head, changes](UnsavedStore *store) {
+        return store->append(subject, head, changes);
+    });
+}
+
+void UnsavedWork::lookAtRows()
+{
+    if (m_isOver)
+        return;
+    m_areRowsDue = false;
+    for (const std::unique_ptr<Rows> &rows : m_rows)
+        lookAt(rows.get());
+}
+
+void UnsavedWork::lookAt(Rows *rows)
+{
+    if (rows->screen->isLoading())
+        return;
+    rows->screen->refreshStatus();
+    const bool hasChanges = rows->screen->hasChanges();
+    const QList<QStringList> now = hasChanges ? rows->screen->rows() : QList<QStringList>();
+    const KeptHead head = hasChanges ? rows->head() : KeptHead();
+    const bool isKept = rows->mayBeKept && rows->isWritten;
+    if (hasChanges ? isKept && now == rows->kept && head == rows->keptHead : !rows->mayBeKept)
+        return;
+    if (!mayStart()) {
+        m_areRowsDue = true;
+        return;
+    }
+    rows->kept = now;
+    rows->keptHead = head;
+    if (!hasChanges)
+        return drop(rows);
+    KeptWork work;
+    work.subject = rows->name;
+    work.head = head;
+    work.time = QDateTime::currentDateTimeUtc();
+    work.rows = now;
+    start(rows, true, [work](UnsavedStore *store) { return store->keep(work); });
+}
+
+// The library shows no other such dialog, and it is there before it is seen.
+bool UnsavedWork::isLoading() const
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(),
+                       [](QWidget *widget) { return qobject_cast<QProgressDialog *>(widget); });
+}
+
+bool UnsavedWork::mayStart() const
+{
+    return !m_isWriting && !m_pause.isActive();
+}
+
+void UnsavedWork::start(Subject *subject, bool keeps, const Job &job)
+{
+    subject->mayBeKept = true;
+    subject->isWritten = false;
+    m_isWriting = true;
+    m_stall.start();
+    struct Result
+    {
+        bool isDone = false;
+        QString reason;
+    };
+    const std::shared_ptr<Result> result = std::make_shared<Result>();
+    const std::shared_ptr<UnsavedStore> store = m_store;
+    m_thread.post(
+        [store, job, result] {
+            result->isDone = job(store.get());
+            result->reason = store->errorString();
+        },
+        [this, subject, keeps, result] {
+            if (result->isDone)
+                subject->mayBeKept = keeps;
+            end(subject, result->isDone, result->reason);
+        });
+}
+
+void UnsavedWork::drop(Subject *subject)
+{
+    if (!subject->mayBeKept)
+        return;
+    const QString name = subject->name;
+    start(subject, false, [name](UnsavedStore *store) { return store->drop(name); });
+}
+
+void UnsavedWork::end(Subject *subject, bool isDone, const QString &reason)
+{
+    m_isWriting = false;
+    m_stall.stop();
+    if (m_isOver)
+        return;
+    subject->isWritten = isDone;
+    if (isDone) {
+        endTrouble();
+    } else {
+        if (subject == &m_program) {
+            m_recorder->stop();
+            m_isProgramDue = true;
+        }
+        if (!reason.isEmpty()) {
+            tellTrouble(reason);
+            m_pause.start();
+        }
+    }
+    goOn();
+    if (isSettled())
+        Q_EMIT settled();
+}
+
+void UnsavedWork::goOn()
+{
+    if (m_isProgramDue)
+        lookAtProgram();
+    if (m_areRowsDue)
+        lookAtRows();
+}
+
+void UnsavedWork::tellTrouble(const QString &text)
+{
+    if (m_isTroubled)
+        return;
+    m_isTroubled = true;
+    Q_EMIT told(tr("What is not saved cannot be kept for a power cut: %1. Save soon.").arg(text),
+                Message::Warning, troubleCause());
+}
+
+void UnsavedWork::endTrouble()
+{
+    if (!m_isTroubled)
+        return;
+    m_isTroubled = false;
+    Q_EMIT causeEnded(troubleCause());
+}

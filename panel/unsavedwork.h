@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef UNSAVEDWORK_H
+#define UNSAVEDWORK_H
+
+#include "filethread.h"
+#include "keptwork.h"
+#include "message.h"
+
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class DocumentRecorder;
+class ListScreen;
+class QTextDocument;
+class UnsavedStore;
+
+/// Keeps the unsaved work of all screens on the disk, at most two seconds behind the operator.
+///
+/// Nothing is written while nothing changes, and what is saved is dropped. The disk is written to
+/// beside the event loop, one thing at a time; a disk that is full or hangs is told once and holds
+/// nobody up.
+class UnsavedWork : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// From a change to the begin of its writing, in milliseconds.
+    static const int delayMs = 700;
+
+    /// Work is kept in \a folder.
+    explicit UnsavedWork(const QString &folder, QObject *parent = nullptr);
+    ~UnsavedWork() override;
+
+    /// Watches the program's text from now on. \a head says what the text belongs to; \a mayDrop,
+    /// if given, whether a text without changes is surely stored. The document must outlive this.
+    void watchProgram(QTextDocument *document, const std::function<KeptHead()> &head,
+                      const std::function<bool()> &mayDrop = std::function<bool()>());
+    /// Watches the rows of a list.
+    void watchRows(const QString &subject, ListScreen *screen,
+                   const std::function<KeptHead()> &head);
+
+    /// Whether all that is not saved is on the disk.
+    bool isSettled() const;
+    /// Begins to write what is not yet written; settled() comes when that is done.
+    void keepNow();
+    /// Writes at once what is not yet written, and waits for it, \a ms milliseconds at most.
+    bool flush(int ms);
+    /// The operator has given up all that is not saved; waits until it is gone, \a ms milliseconds
+    /// at most. Nothing is watched any more.
+    void giveUp(int ms);
+    void setDelay(int ms) { m_programTimer.setInterval(ms); }
+    /// A disk that takes longer for one thing is reported.
+    void setStallTime(int ms) { m_stall.setInterval(ms); }
+
+    /// The subject that watchProgram() is about.
+    static QString program();
+
+Q_SIGNALS:
+    /// All that was not saved is on the disk.
+    void settled();
+    void told(const QString &text, Message::Tone tone, const QString &cause);
+    void causeEnded(const QString &cause);
+
+private:
+    typedef std::function<bool(UnsavedStore *)> Job;
+
+    /// Where a subject's work stands.
+    struct Subject
+    {
+        QString name;
+        std::function<KeptHead()> head;
+        /// The head that was written last.
+        KeptHead keptHead;
+        /// There may be files of it.
+        bool mayBeKept = false;
+        /// What was to be written last is.
+        bool isWritten = true;
+    };
+
+    struct Rows : Subject
+    {
+        ListScreen *screen = nullptr;
+        QList<QStringList> kept;
+    };
+
+    void noteProgram();
+    void lookAtProgram();
+    void keepProgram(const QString &text);
+    void appendChanges();
+    void lookAtRows();
+    void lookAt(Rows *rows);
+    bool isProgramSettled() const;
+    void waitUntilSettled(int ms);
+    bool isLoading() const;
+    bool mayStart() const;
+    /// Whether the subject is kept afterwards: \a keeps.
+    void start(Subject *subject, bool keeps, const Job &job);
+    void drop(Subject *subject);
+    void end(Subject *subject, bool isDone, const QString &reason);
+    void goOn();
+    void tellTrouble(const QString &text);
+    void endTrouble();
+
+    std::shared_ptr<UnsavedStore> m_store;
+    QTextDocument *m_document = nullptr;
+    DocumentRecorder *m_recorder = nullptr;
+    Subject m_program;
+    std::function<bool()> m_mayDrop;
+    std::vector<std::unique_ptr<Rows>> m_rows;
+    QTimer m_programTimer;
+    QTimer m_rowsTimer;
+    QTimer m_stall;
+    /// After a failure the disk is left alone for a while.
+    QTimer m_pause;
+    bool m_isProgramDue = false;
+    bool m_areRowsDue = false;
+    bool m_isWriting = false;
+    bool m_isOver = false;
+    bool m_isTroubled = false;
+    /// Last, so that what runs in it ends first.
+    FileThread m_thread;
+};
+
+#endif // UNSAVEDWORK_H
