@@ -12,12 +12,10 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# tour SIZE ROTATION: walks the screens with a home of its own into $scratch/SIZE.
+# tour SIZE ROTATION: walks the screens into $scratch/SIZE.
 tour() {
-    mkdir -p "$scratch/home"
-    HOME=$scratch/home ./run --size "$1" --rotation "$2" --tour "$scratch/$1" >"$scratch/log" 2>&1 \
+    ./run --size "$1" --rotation "$2" --tour "$scratch/$1" >"$scratch/log" 2>&1 \
         || { cat "$scratch/log" >&2; exit 1; }
-    rm -rf "${scratch:?}/home"
 }
 
 # keep SIZE SCREEN: one picture of a tour, whatever its number.

@@ -95,7 +95,7 @@ inside sh -eu -c '
 step "the panel program"
 apt_install --no-install-recommends filarix-panel
 is_installed libhmidevice-sim || fail "the panel program came without keypads"
-inside filarix-panel --tour /root/tour --size 480x272 --programs /root/desk >"$scratch/tour.log" 2>&1 \
+inside filarix-panel --tour /root/tour --size 480x272 >"$scratch/tour.log" 2>&1 \
     || { tail -n 20 "$scratch/tour.log" >&2; fail "filarix-panel --tour"; }
 pictures=$(find "$debian/root/tour" -name '*.png' | wc -l)
 [ "$pictures" -ge 20 ] || fail "the tour left $pictures pictures"
@@ -104,7 +104,7 @@ manual=$(inside zcat /usr/share/man/man1/filarix-panel.1.gz | tr -d '\134') # it
 for option in $(inside filarix-panel --help | grep -o '^ .*' | grep -oE '(^|[ ,])--[a-z-]+'); do
     [[ $manual == *"$option"* ]] || fail "the manual page lacks $option"
 done
-inside filarix-panel --tour /root/tour --language de --programs /root/desk >/dev/null 2>"$scratch/tour.log" \
+inside filarix-panel --tour /root/tour --language de >/dev/null 2>"$scratch/tour.log" \
     || fail "filarix-panel --tour --language de"
 grep -q 'for de is not installed' "$scratch/tour.log" || fail "German without libfilarixmodule-l10n"
 step "the hosts, with the translations"
@@ -117,7 +117,7 @@ step "all packages, and none"
 mapfile -t names < <(sed -n 's/^Package: //p' "$debian/packages/Packages" | grep -v -- -dbgsym | sort -u)
 apt_install --no-install-recommends "${names[@]}"
 rm -r "$debian/root/tour"
-inside filarix-panel --tour /root/tour --language de --programs /root/desk >"$scratch/tour.log" 2>&1 \
+inside filarix-panel --tour /root/tour --language de >"$scratch/tour.log" 2>&1 \
     || { tail -n 20 "$scratch/tour.log" >&2; fail "filarix-panel --tour --language de"; }
 if grep 'not installed' "$scratch/tour.log"; then
     fail "the panel program does not find its translations"

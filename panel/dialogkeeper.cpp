@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -27,19 +28,23 @@ bool isMisplaced(const QDialog *dialog)
 
 } // namespace
 
-DialogKeeper::DialogKeeper(QObject *parent) : QObject(parent)
+DialogKeeper::DialogKeeper(QWidget *panel) : QObject(panel), m_panel(panel)
 {
     qApp->installEventFilter(this);
 }
 
 bool DialogKeeper::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::Paint && event->type() != QEvent::Show)
+    const QEvent::Type type = event->type();
+    if (isPressOfPanel(watched, type))
+        raiseAll();
+    if (type != QEvent::Paint && type != QEvent::Show)
         return false;
     QDialog *dialog = qobject_cast<QDialog *>(watched);
     if (!dialog || !dialog->isWindow())
         return false;
-    if (event->type() == QEvent::Show) {
+    if (type == QEvent::Show) {
+        bind(dialog);
         // The dialog places itself in its own handler, which has not run yet.
         const QPointer<QDialog> shown(dialog);
         QTimer::singleShot(0, this, [this, shown] {
@@ -53,6 +58,43 @@ bool DialogKeeper::eventFilter(QObject *watched, QEvent *event)
     painter.setPen(QPen(Look::edge(), 2));
     painter.drawRect(dialog->rect().adjusted(1, 1, -1, -1));
     return false;
+}
+
+bool DialogKeeper::isPressOfPanel(const QObject *watched, QEvent::Type type) const
+{
+    if (!m_panel || m_open.isEmpty())
+        return false;
+    if (type == QEvent::WindowActivate)
+        return watched == m_panel;
+    return (type == QEvent::MouseButtonPress || type == QEvent::TouchBegin)
+           && watched == m_panel->windowHandle();
+}
+
+// A window manager keeps the dialog above the window that it belongs to. The native window is there
+// by now and not yet shown, when it tells the manager.
+void DialogKeeper::bind(QDialog *dialog)
+{
+    if (!m_panel || !m_panel->windowHandle())
+        return;
+    m_open.removeAll(QPointer<QDialog>());
+    m_open.removeAll(dialog);
+    m_open.append(dialog);
+    QWindow *window = dialog->windowHandle();
+    if (window && !window->transientParent())
+        window->setTransientParent(m_panel->windowHandle());
+}
+
+// Where nobody manages the windows, each in its turn, so that the last one shown is on top.
+void DialogKeeper::raiseAll()
+{
+    const QList<QPointer<QDialog>> open = m_open;
+    m_open.clear();
+    for (const QPointer<QDialog> &dialog : open) {
+        if (!dialog || !dialog->isVisible())
+            continue;
+        dialog->raise();
+        m_open.append(dialog);
+    }
 }
 
 void DialogKeeper::fit(QDialog *dialog)

@@ -4,11 +4,16 @@
 #ifndef DIALOGKEEPER_H
 #define DIALOGKEEPER_H
 
+#include <QEvent>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 
 class QDialog;
+class QWidget;
 
-/// Keeps dialogs on the panel and apart from it: each gets an edge, as a panel has no window
+/// Keeps dialogs on the panel, above it and apart from it: none slips behind the panel when that is
+/// touched, with a window manager or without, each gets an edge, as a panel has no window
 /// manager to draw one, one that is larger than the panel is made to fit when it is shown, one that
 /// the toolkit places stands in the middle, and the import manager, whose own size leaves a file
 /// name no room, gets most of the panel.
@@ -17,13 +22,21 @@ class DialogKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// Watches the application from now on. The panel is the primary screen.
-    explicit DialogKeeper(QObject *parent);
+    /// Watches the application from now on. The panel is the primary screen, and \a panel, if any,
+    /// is the window that dialogs stay above.
+    explicit DialogKeeper(QWidget *panel);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void fit(QDialog *dialog);
+    void bind(QDialog *dialog);
+    void raiseAll();
+    bool isPressOfPanel(const QObject *watched, QEvent::Type type) const;
+
+    QWidget *const m_panel;
+    /// Those that are open, the last one shown at the end.
+    QList<QPointer<QDialog>> m_open;
 };
 
 #endif // DIALOGKEEPER_H

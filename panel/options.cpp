@@ -86,20 +86,25 @@ Options Options::parse(const QStringList &arguments)
         QLatin1String("style"));
     const QCommandLineOption programs(
         QLatin1String("programs"),
-        QLatin1String("Program directory. It is always named cnc: for another name DIR/cnc is "
-                      "taken. The settings and, without --plc, the PLC folder lie beside it. "
-                      "Without it: cnc in your home. Sample programs are copied into a directory "
-                      "that holds no program yet."),
+        QLatin1String(
+            "Program directory. It is always named cnc: for another name DIR/cnc is "
+            "taken. The settings and, without --plc, the PLC folder lie beside it. "
+            "Without it: cnc in your home. Sample programs are copied into a directory "
+            "that holds no program yet. One panel at a time works on it: a second one says so "
+            "and ends with status 3."),
         QLatin1String("DIR"));
     const QCommandLineOption plc(
         QLatin1String("plc"),
-        QLatin1String("Folder that stands for the PLC: D/L copies programs into it. Without it: "
-                      "plc in your home."),
+        QLatin1String("Folder that stands for the PLC: D/L copies programs into it. It is never "
+                      "made: while it is missing the PLC is away. Without it: plc in your home, "
+                      "which is made at the start."),
         QLatin1String("DIR"));
     const QCommandLineOption tour(
         QLatin1String("tour"),
         QLatin1String("Walk all screens without an operator, leave a numbered PNG of each in DIR, "
-                      "and end. Needs no display."),
+                      "and end. Needs no display. The walk has a home of its own, with a program "
+                      "directory and a PLC, that goes with it; --programs and --plc are not for "
+                      "it. In the folder of --stick it renames files whose names are not safe."),
         QLatin1String("DIR"));
     const QCommandLineOption stick(
         QLatin1String("stick"),
@@ -160,6 +165,10 @@ Options Options::parse(const QStringList &arguments)
                 QString::fromLatin1("--%1 needs a directory.").arg(folder.names().constFirst()));
     }
 
+    if (parser.isSet(tour) && (parser.isSet(programs) || parser.isSet(plc)))
+        return refusal(QLatin1String("A tour changes what it finds: it has a home of its own, and "
+                                     "takes neither --programs nor --plc."));
+
     options.look = parser.value(look);
     options.touch = !parser.isSet(noTouch);
     if (parser.isSet(programs)) {
@@ -179,6 +188,11 @@ Options Options::parse(const QStringList &arguments)
 QString Options::home() const
 {
     return programDir.isEmpty() ? QString() : QFileInfo(programDir).absolutePath();
+}
+
+QString Options::plcFolder() const
+{
+    return plcDir.isEmpty() ? QDir::home().filePath(QLatin1String("plc")) : plcDir;
 }
 
 QSize Options::surfaceSize() const

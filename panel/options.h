@@ -47,6 +47,8 @@ struct Options
     /// The home that puts the library's program directory at `programDir`; empty to keep the
     /// user's. The library has no other way to be told the directory.
     QString home() const;
+    /// `plcDir`, or the one in the home of this moment.
+    QString plcFolder() const;
     /// `size`, or the usual surface for the rotation: 800 by 480, upright 480 by 800.
     QSize surfaceSize() const;
     /// `size`, or what a display of that size has room for when the picture is turned.

@@ -3,122 +3,117 @@
 
 #include "settings.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QSettings>
+#include "settingsfile.h"
+
+const int Settings::patienceMs;
 
 namespace {
 
-// A larger file is none of ours; reading it would cost the panel its memory.
-const qint64 kLargestFile = 64 * 1024;
-const int kMostAside = 99;
-
-bool isThere(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.exists() || file.isSymLink();
-}
+const int lastPatienceMs = 1000;
 
 } // namespace
 
-Settings::Settings(const QString &path, QObject *parent) : QObject(parent), m_path(path)
+Settings::Settings(const QString &path, QObject *parent)
+    : QObject(parent), m_path(path), m_file(new SettingsFile(path)), m_isRead(path.isEmpty())
 {
-    if (!m_path.isEmpty() && isThere(m_path) && !read()) {
-        m_values.clear();
-        putAside();
-    }
+    if (m_isRead)
+        return;
+    ask([](SettingsFile *file) { file->read(); });
+    settle(patienceMs);
 }
 
-bool Settings::read()
+Settings::~Settings()
 {
-    const QFileInfo file(m_path);
-    // A directory, or a pipe that would keep us waiting.
-    if ((file.exists() && !file.isFile()) || file.size() > kLargestFile)
-        return false;
-    const QSettings ini(m_path, QSettings::IniFormat);
-    const QStringList keys = ini.allKeys();
-    for (const QString &key : keys)
-        m_values[key] = ini.value(key);
-    return ini.status() == QSettings::NoError;
+    if (!settle(lastPatienceMs))
+        m_thread.giveUp();
 }
 
-void Settings::putAside()
+void Settings::ask(const std::function<void(SettingsFile *)> &work)
 {
-    for (int i = 1; i <= kMostAside; ++i) {
-        m_asidePath = m_path + QLatin1String(".broken");
-        if (i > 1)
-            m_asidePath += QLatin1Char('.') + QString::number(i);
-        if (!isThere(m_asidePath)) {
-            if (!QDir().rename(m_path, m_asidePath))
-                break;
-            return note(PutAside);
-        }
+    const QSharedPointer<SettingsFile> file = m_file;
+    file->begin();
+    m_thread.post(
+        [file, work] {
+            work(file.data());
+            file->end();
+        },
+        [this] { takeIn(); });
+}
+
+bool Settings::settle(int ms)
+{
+    const bool isSettled = m_file->settle(ms);
+    takeIn();
+    return isSettled;
+}
+
+void Settings::takeIn()
+{
+    const SettingsFile::State state = m_file->takeState();
+    if (!state.asidePath.isEmpty())
+        m_isPutAside = true;
+    m_asidePath = state.asidePath;
+    if (state.isRead && !m_isRead) {
+        m_isRead = true;
+        m_values = state.values;
+        for (auto change = m_changes.constBegin(); change != m_changes.constEnd(); ++change)
+            m_values[change.key()] = change.value();
+        Q_EMIT arrived();
     }
-    // What it holds may be worth something to somebody.
-    m_mayStore = false;
-    note(NotPutAside);
+    if (state.trouble == SettingsFile::None)
+        return;
+    m_trouble = state.trouble;
+    Q_EMIT troubled();
 }
 
 QString Settings::choice(const QString &key, const QStringList &known)
 {
-    if (!m_values.contains(key))
+    const QString value = m_values.value(key);
+    if (value.isEmpty() && !m_values.contains(key))
         return QString();
-    const QString value = m_values.value(key).toString();
     if (known.contains(value))
         return value;
     m_values.remove(key);
-    if (m_asidePath.isEmpty())
-        putAside();
-    store();
+    if (!m_isPutAside)
+        ask([](SettingsFile *file) { file->putAside(); });
+    m_isPutAside = true;
+    store({{key, QString()}});
     return QString();
 }
 
 void Settings::setChoice(const QString &key, const QString &value)
 {
     m_values[key] = value;
-    store();
+    // Until the file has come; what it holds must not win.
+    if (!m_isRead)
+        m_changes[key] = value;
+    store({{key, value}});
 }
 
-void Settings::store()
+void Settings::store(const QMap<QString, QString> &values)
 {
-    if (m_path.isEmpty() || !m_mayStore)
-        return;
-    QDir().mkpath(QFileInfo(m_path).path());
-    QSettings ini(m_path, QSettings::IniFormat);
-    ini.clear();
-    for (auto entry = m_values.constBegin(); entry != m_values.constEnd(); ++entry)
-        ini.setValue(entry.key(), entry.value());
-    ini.sync();
-    if (ini.status() == QSettings::NoError || m_isFailureTold)
-        return;
-    m_isFailureTold = true;
-    note(NotStored);
-}
-
-void Settings::note(Trouble trouble)
-{
-    m_trouble = trouble;
-    Q_EMIT troubled();
+    if (!m_path.isEmpty())
+        ask([values](SettingsFile *file) { file->store(values); });
 }
 
 QString Settings::takeTrouble()
 {
-    const Trouble trouble = m_trouble;
-    m_trouble = None;
+    const int trouble = m_trouble;
+    m_trouble = SettingsFile::None;
     switch (trouble) {
-    case PutAside:
+    case SettingsFile::PutAside:
         return tr("The settings file had errors and is now named %1. Please look over your "
                   "settings.")
             .arg(m_asidePath);
-    case NotPutAside:
+    case SettingsFile::NotPutAside:
         return tr("The settings file %1 has errors and cannot be renamed. What you choose lasts "
                   "until the program ends.")
             .arg(m_path);
-    case NotStored:
+    case SettingsFile::NotStored:
         return tr("The settings cannot be stored in %1. What you choose lasts until the program "
                   "ends.")
             .arg(m_path);
-    case None:
+    case SettingsFile::None:
         break;
     }
     return QString();

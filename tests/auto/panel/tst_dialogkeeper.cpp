@@ -7,6 +7,7 @@
 #include "panelsurface.h"
 
 #include <QDialog>
+#include <QWindow>
 
 class TestDialogKeeper : public FilarixTest
 {
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void dialogBesideThePanelIsMovedOntoIt();
     void dialogThatTheToolkitPlacesStandsInTheMiddle();
     void dialogHasAnEdge();
+    void dialogWithoutAParentBelongsToThePanel();
+    void aTouchOfThePanelLeavesDialogsAbove();
 };
 
 void TestDialogKeeper::dialogLargerThanThePanelIsMadeToFit()
@@ -78,6 +81,45 @@ void TestDialogKeeper::dialogHasAnEdge()
     QVERIFY(image.pixelColor(0, 50).lightness() < 60);
     QVERIFY(image.pixelColor(199, 50).lightness() < 60);
     QVERIFY(image.pixelColor(100, 50).lightness() > 200);
+}
+
+void TestDialogKeeper::dialogWithoutAParentBelongsToThePanel()
+{
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    panel.show();
+    DialogKeeper *keeper = new DialogKeeper(&panel);
+    QCOMPARE(keeper->parent(), &panel);
+    QDialog dialog;
+    dialog.show();
+    QCOMPARE(dialog.windowHandle()->transientParent(), panel.windowHandle());
+    QDialog child(&dialog);
+    child.show();
+    QCOMPARE(child.windowHandle()->transientParent(), dialog.windowHandle());
+}
+
+// On a display that has no window manager.
+void TestDialogKeeper::aTouchOfThePanelLeavesDialogsAbove()
+{
+    PanelGlass glass(QSize(480, 272), 90);
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    glass.present(&panel);
+    new DialogKeeper(&panel);
+    QDialog first;
+    first.setGeometry(100, 100, 200, 100);
+    first.show();
+    QDialog second;
+    second.setGeometry(120, 120, 200, 100);
+    second.show();
+    QVERIFY(TestCompat::waitForExposed(&second));
+    const QPoint shared(150, 150);
+    QCOMPARE(QGuiApplication::topLevelAt(shared), second.windowHandle());
+    panel.raise();
+    QCOMPARE(QGuiApplication::topLevelAt(shared), panel.windowHandle());
+    QTest::mouseClick(panel.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QCOMPARE(QGuiApplication::topLevelAt(shared), second.windowHandle());
+    QCOMPARE(QGuiApplication::topLevelAt(QPoint(105, 105)), first.windowHandle());
 }
 
 FILARIX_TEST_MAIN(TestDialogKeeper)

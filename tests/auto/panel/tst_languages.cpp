@@ -258,9 +258,11 @@ void TestLanguages::theChoiceIsKept()
     QLocale::setDefault(QLocale("it_IT"));
     QCOMPARE(languages.preferred(), QString("en"));
 
+    QVERIFY(settings.settle(patience(10000)));
     writeFile(settingsFile(), "[General]\nlanguage=klingon\n");
     Settings broken(settingsFile());
     QCOMPARE(Languages(folders(), &broken).preferred(), QString("it"));
+    QVERIFY(broken.settle(patience(10000)));
     QVERIFY(!broken.takeTrouble().isEmpty());
 }
 

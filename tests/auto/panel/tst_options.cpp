@@ -13,6 +13,7 @@ class TestOptions : public FilarixTest
 private Q_SLOTS:
     void withoutOptionsThePanelRunsAsItIs();
     void allOptionsAreRead();
+    void aTourHasAHomeOfItsOwn();
     void programDirectory_data();
     void programDirectory();
     void surface_data();
@@ -49,7 +50,7 @@ void TestOptions::allOptionsAreRead()
     const Options options =
         parse({"--rotation", "270", "--rotate", "90", "--size", "480x800", "--no-touch", "--look",
                "dark", "--programs", "/srv/hmi/cnc", "--plc=/srv/plc", "--stick", "/srv/stick",
-               "--tour", "pictures", "--language", "zh_CN"});
+               "--language", "zh_CN"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.turn, 90);
@@ -59,8 +60,22 @@ void TestOptions::allOptionsAreRead()
     QCOMPARE(options.programDir, QString("/srv/hmi/cnc"));
     QCOMPARE(options.plcDir, QString("/srv/plc"));
     QCOMPARE(options.stickDir, QString("/srv/stick"));
-    QCOMPARE(options.tourDir, QDir::currentPath() + "/pictures");
+    QCOMPARE(options.plcFolder(), QString("/srv/plc"));
     QCOMPARE(options.language, QString("zh_CN"));
+}
+
+// It would change what it finds there.
+void TestOptions::aTourHasAHomeOfItsOwn()
+{
+    const Options options = parse({"--tour", "pictures", "--stick", "/srv/stick"});
+    QCOMPARE(options.outcome, Options::Run);
+    QCOMPARE(options.tourDir, QDir::currentPath() + "/pictures");
+    QCOMPARE(options.plcFolder(), QDir::homePath() + "/plc");
+    for (const char *folder : {"--programs", "--plc"}) {
+        const Options refused = parse({"--tour", "pictures", folder, "/srv"});
+        QCOMPARE(refused.outcome, Options::Refuse);
+        QVERIFY(refused.text.contains(folder));
+    }
 }
 
 void TestOptions::programDirectory_data()

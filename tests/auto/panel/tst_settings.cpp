@@ -6,12 +6,16 @@
 #include "modaldriver.h"
 #include "panelwindow.h"
 #include "settings.h"
+#include "settingsfile.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QSignalSpy>
 
+#include <csignal>
+
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -27,6 +31,12 @@ QString aside(int number = 1)
 {
     const QString first = file() + QLatin1String(".broken");
     return number == 1 ? first : first + QLatin1Char('.') + QString::number(number);
+}
+
+/// The file is written beside the event loop.
+bool settled(Settings *settings)
+{
+    return settings->settle(FilarixTest::patience(10000));
 }
 
 /// What lies beside the settings.
@@ -60,6 +70,11 @@ private Q_SLOTS:
 
     void whereNothingCanBeWrittenItIsToldOnce();
     void aBrokenFileThatCannotBeRenamedStays();
+    void ofManyChoicesTheLastStays();
+    void aFullDiskIsToldAndLosesNothing();
+    void aChoiceWinsOverTheFile();
+    void oneValueIsChangedAndTheRestStays_data();
+    void oneValueIsChangedAndTheRestStays();
     void theWindowTellsEachTroubleOnce();
 };
 
@@ -88,6 +103,7 @@ void TestSettings::aChoiceIsKept()
         settings.setChoice("shape", "round");
         QCOMPARE(settings.choice("colour", colours), QString("red"));
         settings.setChoice("colour", "green");
+        QVERIFY(settled(&settings));
         QCOMPARE(settings.takeTrouble(), QString());
     }
     Settings settings(file());
@@ -161,6 +177,7 @@ void TestSettings::aDirectoryIsPutAside()
     QVERIFY(settings.takeTrouble().contains(aside()));
     QCOMPARE(readFile(aside() + "/inside"), QByteArray("kept"));
     settings.setChoice("colour", "green");
+    QVERIFY(settled(&settings));
     QCOMPARE(settings.takeTrouble(), QString());
     QVERIFY(QFileInfo(file()).isFile());
 }
@@ -181,6 +198,7 @@ void TestSettings::anUnknownValueIsPutAsideAndTheRestKept()
         QCOMPARE(settings.takeTrouble(), QString());
         QCOMPARE(settings.choice("shape", QStringList("round")), QString("round"));
         QCOMPARE(settings.choice("colour", colours), QString());
+        QVERIFY(settled(&settings));
         QVERIFY(settings.takeTrouble().contains(aside()));
         QCOMPARE(readFile(aside()), QByteArray("[General]\ncolour=plaid\nshape=round\n"));
     }
@@ -196,9 +214,11 @@ void TestSettings::severalUnknownValuesAreOneTrouble()
     writeFile(file(), "[General]\ncolour=plaid\nshape=, ,\nsize=@Invalid()\n");
     Settings settings(file());
     QCOMPARE(settings.choice("colour", colours), QString());
+    QVERIFY(settled(&settings));
     QVERIFY(!settings.takeTrouble().isEmpty());
     QCOMPARE(settings.choice("shape", QStringList("round")), QString());
     QCOMPARE(settings.choice("size", QStringList("large")), QString());
+    QVERIFY(settled(&settings));
     QCOMPARE(settings.takeTrouble(), QString());
     QVERIFY(!files().contains("panel.ini.broken.2"));
     QVERIFY(!readFile(file()).contains("="));
@@ -223,6 +243,7 @@ void TestSettings::whereAllNamesAreTakenTheFileStays()
     Settings settings(file());
     QVERIFY(settings.takeTrouble().contains("cannot be renamed"));
     settings.setChoice("colour", "red");
+    QVERIFY(settled(&settings));
     QCOMPARE(readFile(file()), QByteArray("broken"));
     QCOMPARE(files().size(), 100);
 }
@@ -233,11 +254,13 @@ void TestSettings::whereNothingCanBeWrittenItIsToldOnce()
     Settings settings("/etc/filarix/panel.ini");
     QSignalSpy troubled(&settings, &Settings::troubled);
     settings.setChoice("colour", "red");
+    QVERIFY(settled(&settings));
     QCOMPARE(troubled.count(), 1);
     QCOMPARE(settings.takeTrouble(),
              QString("The settings cannot be stored in /etc/filarix/panel.ini. What you choose "
                      "lasts until the program ends."));
     settings.setChoice("colour", "green");
+    QVERIFY(settled(&settings));
     QCOMPARE(troubled.count(), 1);
     QCOMPARE(settings.takeTrouble(), QString());
     QCOMPARE(settings.choice("colour", colours), QString("green"));
@@ -251,8 +274,76 @@ void TestSettings::aBrokenFileThatCannotBeRenamedStays()
              QString("The settings file /etc/passwd has errors and cannot be renamed. What you "
                      "choose lasts until the program ends."));
     settings.setChoice("colour", "red");
+    QVERIFY(settled(&settings));
     QCOMPARE(settings.takeTrouble(), QString());
     QCOMPARE(settings.choice("colour", colours), QString("red"));
+}
+
+void TestSettings::ofManyChoicesTheLastStays()
+{
+    for (int i = 0; i <= 50; ++i) {
+        Settings settings(file());
+        for (const QString &colour : colours)
+            settings.setChoice("colour", colour);
+    }
+    QCOMPARE(readFile(file()), QByteArray("[General]\ncolour=green\n"));
+}
+
+void TestSettings::aFullDiskIsToldAndLosesNothing()
+{
+    const QByteArray before("[General]\ncolour=red\nshape=round\n");
+    writeFile(file(), before);
+    struct rlimit own;
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &own), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit none = own;
+    none.rlim_cur = 8;
+    Settings settings(file());
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &none), 0);
+    settings.setChoice("colour", "green");
+    const bool isSettled = settled(&settings);
+    setrlimit(RLIMIT_FSIZE, &own);
+    std::signal(SIGXFSZ, handler);
+    QVERIFY(isSettled);
+    QVERIFY(settings.takeTrouble().contains("cannot be stored"));
+    QCOMPARE(readFile(file()), before);
+    QCOMPARE(files(), QStringList("panel.ini"));
+}
+
+void TestSettings::aChoiceWinsOverTheFile()
+{
+    writeFile(file(), "[General]\ncolour=red\nshape=round\n");
+    Settings settings(file());
+    settings.setChoice("colour", "green");
+    QVERIFY(settled(&settings));
+    QCOMPARE(settings.choice("colour", colours), QString("green"));
+    QCOMPARE(settings.choice("shape", QStringList("round")), QString("round"));
+    QCOMPARE(readFile(file()), QByteArray("[General]\ncolour=green\nshape=round\n"));
+}
+
+void TestSettings::oneValueIsChangedAndTheRestStays_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("empty") << QByteArray() << "red" << QByteArray("[General]\ncolour=red\n");
+    QTest::newRow("replaced") << QByteArray("[General]\ncolour=green\na=b\n") << "red"
+                              << QByteArray("[General]\ncolour=red\na=b\n");
+    QTest::newRow("taken away") << QByteArray("[General]\ncolour=green\na=b\n") << ""
+                                << QByteArray("[General]\na=b\n");
+    QTest::newRow("without its section")
+        << QByteArray("a=b\n") << "red" << QByteArray("[General]\ncolour=red\na=b\n");
+    QTest::newRow("of another section")
+        << QByteArray("[later]\ncolour=green\n") << "red"
+        << QByteArray("[General]\ncolour=red\n[later]\ncolour=green\n");
+}
+
+void TestSettings::oneValueIsChangedAndTheRestStays()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QString, value);
+    QFETCH(QByteArray, after);
+    QCOMPARE(SettingsFile::changed(before, "colour", value), after);
 }
 
 void TestSettings::theWindowTellsEachTroubleOnce()
@@ -279,9 +370,11 @@ void TestSettings::theWindowTellsEachTroubleOnce()
     // A folder that has come in the way since.
     QVERIFY(QDir().mkpath(file()));
     settings.setChoice("colour", "red");
+    QVERIFY(settled(&settings));
     QVERIFY(window.messageBar()->text().contains("cannot be stored"));
     window.messages()->closeAll();
     settings.setChoice("colour", "green");
+    QVERIFY(settled(&settings));
     QCOMPARE(window.messageBar()->text(), QString());
 }
 

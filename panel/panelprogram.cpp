@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "panelprogram.h"
+
+#include "connectionsscreen.h"
+#include "devicewatch.h"
+#include "dialogkeeper.h"
+#include "fieldkeypad.h"
+#include "filesscreen.h"
+#include "glyphs.h"
+#include "historyguard.h"
+#include "look.h"
+#include "panelglass.h"
+#include "panelstyle.h"
+#include "panelsurface.h"
+#include "panelwindow.h"
+#include "programguard.h"
+#include "programhistory.h"
+#include "programscreen.h"
+#include "samples.h"
+#include "statusstrip.h"
+#include "teachscreen.h"
+#include "tour.h"
+#include "unsavedoffer.h"
+#include "unsavedwork.h"
+#include "variablesscreen.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QScreen>
+
+#include <cstdio>
+
+#include <malloc.h>
+
+namespace {
+
+const int tidyMs = 60 * 1000;
+const int flushMs = 1000;
+const int startPatienceMs = 300;
+const int fontPixels = 15;
+// Long enough to be read, and nobody has to answer it.
+const int occupiedMs = 6 * 1000;
+
+QSize surfaceSize(const Options &options)
+{
+    if (PanelSurface::isDesktop())
+        return options.surfaceSize();
+    return options.surfaceOn(QGuiApplication::primaryScreen()->size());
+}
+
+void setUpStyle()
+{
+    QApplication::setStyle(new PanelStyle);
+    QFont font = QApplication::font();
+    font.setPixelSize(fontPixels);
+    QApplication::setFont(font);
+}
+
+QString ownPath(const StartUp::Folders &folders, const char *name)
+{
+    return QDir(folders.own).filePath(QLatin1String(name));
+}
+
+} // namespace
+
+PanelProgram::PanelProgram(const Options &options, const QStringList &translationFolders)
+    : m_options(options)
+    , m_folders(foldersOf(options))
+    , m_startUp(m_folders)
+    // The pictures of a tour are the same wherever they are made.
+    , m_settings(isTour() ? QString() : ownPath(m_folders, "panel.ini"))
+    , m_languages(translationFolders, &m_settings)
+    , m_stick(options.stickDir)
+{
+    connect(&m_signals, &TerminationSignals::received, &m_orderlyEnd, &OrderlyEnd::end);
+}
+
+PanelProgram::~PanelProgram() = default;
+
+StartUp::Folders PanelProgram::foldersOf(const Options &options)
+{
+    StartUp::Folders folders;
+    folders.programs = Samples::programDir();
+    folders.areProgramsAskedFor = !options.programDir.isEmpty();
+    folders.own = QDir::home().filePath(QLatin1String("hmi"));
+    if (options.plcDir.isEmpty())
+        folders.plc = options.plcFolder();
+    folders.stick = options.stickDir;
+    return folders;
+}
+
+int PanelProgram::run()
+{
+    setUpStyle();
+    chooseLook();
+    chooseLanguage();
+    const StartUp::Outcome outcome = m_startUp.wait(startPatienceMs);
+    if (outcome == StartUp::Occupied || outcome == StartUp::NoProgramDir)
+        return refuse(outcome);
+    makeWindow();
+    makeScreens();
+    connectScreens();
+    watchDevices();
+    watchUnsavedWork();
+    show();
+    if (!isTour())
+        m_offer->start();
+    return isTour() ? walk() : QApplication::exec();
+}
+
+void PanelProgram::chooseLook()
+{
+    const QString wanted = m_options.look.isEmpty()
+                               ? m_settings.choice(Look::settingsKey(), Look::names())
+                               : m_options.look;
+    Look::Style style = Look::Light;
+    Look::read(wanted, &style);
+    Look::use(style);
+}
+
+void PanelProgram::chooseLanguage()
+{
+    QString wanted = m_options.language;
+    if (wanted.isEmpty())
+        wanted = isTour() ? m_languages.current() : m_languages.preferred();
+    if (!m_languages.use(wanted))
+        std::fprintf(stderr, "The translation for %s is not installed.\n", qPrintable(wanted));
+}
+
+void PanelProgram::makeWindow()
+{
+    const QSize surface = surfaceSize(m_options);
+    // The tour's pictures are those of a display, with all that stands on it.
+    if (m_options.turn != 0 || isTour())
+        m_glass.reset(new PanelGlass(surface, m_options.turn));
+    m_panel.reset(new PanelWindow(surface));
+    new PanelSurface(m_panel.get(), m_options.touch);
+    new FieldKeypad(m_panel.get());
+    new DialogKeeper(m_panel.get());
+}
+
+void PanelProgram::makeScreens()
+{
+    m_history.reset(new ProgramHistory(m_folders.programs, ownPath(m_folders, "history")));
+    m_historyGuard.reset(new HistoryGuard(m_history.get()));
+    m_programs =
+        new ProgramScreen(m_options.rotation, m_options.plcFolder(), m_folders.own, &m_machine);
+    m_programs->setHistory(m_history.get());
+    m_teach = new TeachScreen(m_panel->size(), m_folders.own, &m_machine);
+    m_variables = new VariablesScreen(m_panel->size(), m_folders.own);
+    m_connections = new ConnectionsScreen(ownPath(m_folders, "connections.ini"));
+    m_files = new FilesScreen(&m_stick, m_history.get());
+    m_panel->addScreen(
+        m_programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
+    m_panel->addScreen(
+        m_teach, [] { return PanelWindow::tr("Teach"); }, Glyphs::icon(Glyphs::Teach));
+    m_panel->addScreen(
+        m_variables, [] { return PanelWindow::tr("Variables"); }, Glyphs::icon(Glyphs::Variables));
+    m_panel->addScreen(
+        m_connections, [] { return PanelWindow::tr("Connections"); },
+        Glyphs::icon(Glyphs::Connections));
+    m_panel->addScreen(
+        m_files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
+    m_panel->setLanguages(&m_languages);
+    m_panel->setSettings(&m_settings);
+}
+
+void PanelProgram::connectScreens()
+{
+    // A save shows in the title or in its mark.
+    connect(m_programs, &PanelScreen::titleChanged, m_history.get(), &ProgramHistory::scan);
+    connect(m_historyGuard.get(), &HistoryGuard::told, m_files,
+            [this](const QString &text) { Q_EMIT m_files->told(text, Message::Information); });
+    connect(m_files, &FilesScreen::importWanted, m_programs->programWindow(),
+            [this] { QMetaObject::invokeMethod(m_programs->programWindow(), "importExport"); });
+    connect(&m_startUp, &StartUp::told, m_panel->messages(), &MessageLog::tell);
+    connect(&m_startUp, &StartUp::causeEnded, m_panel->messages(), &MessageLog::end);
+    connect(&m_startUp, &StartUp::refused, this,
+            [this](int outcome) { QApplication::exit(refuse(outcome)); });
+    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLook);
+    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLanguage);
+    // Not by the last window: the find dialog may be open, and it has no parent.
+    connect(m_panel.get(), &PanelWindow::closed, qApp, &QApplication::quit);
+}
+
+void PanelProgram::watchDevices()
+{
+    const QString plcDir = m_options.plcFolder();
+    const QString programDir = m_folders.programs;
+    m_watch.reset(
+        new DeviceWatch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); }));
+    connect(m_watch.get(), &DeviceWatch::changed, m_panel.get(), &PanelWindow::showDevices);
+    connect(m_watch.get(), &DeviceWatch::changed, m_files, &FilesScreen::showDevices);
+    connect(m_files, &FilesScreen::stickMoved, m_watch.get(), &DeviceWatch::lookNow);
+    m_panel->status()->follow(m_programs->transfer());
+}
+
+// From a signal on, what is not saved is kept; an operator who closes the panel was asked about it.
+void PanelProgram::watchUnsavedWork()
+{
+    if (isTour())
+        return;
+    const QString folder = ownPath(m_folders, "unsaved");
+    m_unsaved.reset(new UnsavedWork(folder));
+    m_offer.reset(new UnsavedOffer(folder, {m_programs, m_teach, m_variables}, m_unsaved.get()));
+    connect(m_unsaved.get(), &UnsavedWork::told, m_panel->messages(), &MessageLog::tell);
+    connect(m_unsaved.get(), &UnsavedWork::causeEnded, m_panel->messages(), &MessageLog::end);
+    connect(m_offer.get(), &UnsavedOffer::told, m_panel->messages(), &MessageLog::tell);
+    connect(m_panel.get(), &PanelWindow::closed, m_unsaved.get(),
+            [this] { m_unsaved->giveUp(flushMs); });
+    m_orderlyEnd.beforeEnd([this] { m_unsaved->flush(flushMs); });
+    // A save is one once the guard has read it back.
+    m_unsaved->watchProgram(
+        m_programs->editor()->document(), [this] { return UnsavedOffer::headOf(m_programs); },
+        [this] { return !m_programs->guard()->isBusy(); });
+    m_unsaved->watchRows(UnsavedOffer::teach(), m_teach, [this] {
+        KeptHead head;
+        head.path = m_teach->filePath();
+        return head;
+    });
+    m_unsaved->watchRows(UnsavedOffer::variables(), m_variables, [] { return KeptHead(); });
+}
+
+void PanelProgram::show()
+{
+    // A panel is on for months: what dialogs and long programs left as gaps in the heap goes back
+    // to the system, in a millisecond at most.
+    connect(&m_tidying, &QTimer::timeout, this, [] { malloc_trim(0); });
+    m_tidying.start(tidyMs);
+    if (m_glass)
+        m_glass->present(m_panel.get());
+    else
+        m_panel->show();
+}
+
+int PanelProgram::walk()
+{
+    Tour tour(m_panel.get(), m_options.tourDir, m_glass.get());
+    tour.visitProgramScreen(m_programs);
+    tour.visitTeachScreen(m_teach);
+    tour.visitVariablesScreen(m_variables);
+    tour.visitConnectionsScreen(m_connections);
+    tour.visitFilesScreen(m_files);
+    tour.visitLanguages();
+    connect(&tour, &Tour::finished, qApp, &QApplication::quit);
+    tour.start();
+    QApplication::exec();
+    if (tour.error().isEmpty())
+        return 0;
+    std::fprintf(stderr, "%s\n", qPrintable(tour.error()));
+    return TourFailed;
+}
+
+int PanelProgram::refuse(int outcome)
+{
+    if (outcome == StartUp::NoProgramDir) {
+        std::fprintf(stderr, "The program directory %s cannot be made.\n",
+                     qPrintable(m_folders.programs));
+        return NoProgramDir;
+    }
+    std::fprintf(stderr, "Another panel works on %s. This one does not start.\n",
+                 qPrintable(m_folders.programs));
+    tellOccupied();
+    return HomeOccupied;
+}
+
+// A touch ends it, and so does time: whatever started the program waits for its end.
+void PanelProgram::tellOccupied()
+{
+    QMessageBox box(QMessageBox::Warning, tr("Panel"),
+                    tr("Another panel works on the same programs. This one does not start."),
+                    QMessageBox::Ok, m_panel.get());
+    QTimer::singleShot(occupiedMs, &box, &QMessageBox::accept);
+    box.exec();
+}
