@@ -39,7 +39,8 @@ bool HistoryGuard::eventFilter(QObject *watched, QEvent *event)
     const QAbstractButton *button = qobject_cast<QAbstractButton *>(watched);
     if (!button || !losesAVersion(button) || m_history->isSettled())
         return false;
-    Q_EMIT told(tr("One moment: the history still takes in the programs. Touch once more."));
+    Q_EMIT told(tr("One moment: the history still takes in the programs. Touch once more."),
+                Message::Information);
     return true;
 }
 

@@ -4,6 +4,8 @@
 #ifndef HISTORYGUARD_H
 #define HISTORYGUARD_H
 
+#include "message.h"
+
 #include <QObject>
 
 class ProgramHistory;
@@ -27,7 +29,7 @@ public:
 
 Q_SIGNALS:
     /// A touch was held back; in words.
-    void told(const QString &text);
+    void told(const QString &text, Message::Tone tone, const QString &cause = QString());
 
 private:
     static bool losesAVersion(const QAbstractButton *button);

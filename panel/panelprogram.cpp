@@ -174,8 +174,7 @@ void PanelProgram::connectScreens()
 {
     // A save shows in the title or in its mark.
     connect(m_programs, &PanelScreen::titleChanged, m_history.get(), &ProgramHistory::scan);
-    connect(m_historyGuard.get(), &HistoryGuard::told, m_files,
-            [this](const QString &text) { Q_EMIT m_files->told(text, Message::Information); });
+    connect(m_historyGuard.get(), &HistoryGuard::told, m_panel->messages(), &MessageLog::tell);
     connect(m_files, &FilesScreen::importWanted, m_programs->programWindow(),
             [this] { QMetaObject::invokeMethod(m_programs->programWindow(), "importExport"); });
     connect(&m_startUp, &StartUp::told, m_panel->messages(), &MessageLog::tell);

@@ -28,6 +28,8 @@ public:
     virtual QList<PanelKey *> keys() { return QList<PanelKey *>(); }
     /// Asks what has to be asked before the program ends; false keeps it open.
     virtual bool mayClose() { return true; }
+    /// Whether the work that worked() told of goes on. If not, the next told() says how it ended.
+    virtual bool isWorking() const { return false; }
     /// Looks whether what it shows is still so; the shell calls it every few seconds.
     virtual void refreshStatus() {}
 

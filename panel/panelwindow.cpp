@@ -17,7 +17,6 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -310,12 +309,10 @@ void PanelWindow::showTitle()
     setWindowModified(screen->hasChanges());
 }
 
-// What a screen says while it works is how its work has ended. It may object to the end of the
-// program, though, because it works.
 void PanelWindow::tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,
                          const QString &cause)
 {
-    if (screen == m_working && !m_isClosing)
+    if (screen == m_working && !screen->isWorking())
         m_messageBar->endWork();
     m_log.tell(text, tone, cause);
 }
@@ -366,7 +363,6 @@ void PanelWindow::changeEvent(QEvent *event)
 
 void PanelWindow::closeEvent(QCloseEvent *event)
 {
-    const QScopedValueRollback<bool> closing(m_isClosing, true);
     for (const Entry &entry : qAsConst(m_entries)) {
         if (!entry.screen->mayClose()) {
             event->ignore();

@@ -112,7 +112,6 @@ private:
     DeviceCauses m_causes;
     /// Whose work the message bar shows; the operator may look at another screen meanwhile.
     PanelScreen *m_working = nullptr;
-    bool m_isClosing = false;
     QStackedWidget *m_stack;
     QWidget *m_menu = nullptr;
     QGridLayout *m_tabs;

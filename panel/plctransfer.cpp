@@ -42,6 +42,7 @@ public:
     void close() override;
 
     QString error() const { return m_error; }
+    bool isPlcAtFault() const { return m_isPlcAtFault; }
     QString targetPath() const { return m_targetPath; }
     qint64 size() const { return m_size; }
     /// The program has taken its name in the PLC's folder.
@@ -61,6 +62,7 @@ private:
     bool comparePiece();
     bool takeOut();
     bool fail(const QString &error);
+    bool failAtPlc(const QString &error);
 
     const QFileInfo m_program;
     const QString m_name;
@@ -79,6 +81,7 @@ private:
     qint64 m_size = 0;
     qint64 m_position = 0;
     QString m_error;
+    bool m_isPlcAtFault = false;
 };
 
 bool PlcTransfer::Task::step()
@@ -112,7 +115,7 @@ bool PlcTransfer::Task::open()
     if (!source.isFile())
         return fail(tr("%1 is not a program file.").arg(name));
     if (!QFileInfo(m_dropDir).isDir())
-        return fail(tr("The PLC does not answer: there is no folder %1.").arg(m_dropDir));
+        return failAtPlc(tr("The PLC does not answer: there is no folder %1.").arg(m_dropDir));
     if (QFileInfo(m_dropDir).canonicalFilePath() == QFileInfo(m_program.path()).canonicalFilePath())
         return fail(tr("The PLC folder is the program directory itself. Choose another one."));
     if (source.size() > kLargestProgram)
@@ -125,7 +128,7 @@ bool PlcTransfer::Task::open()
     sweep();
     m_target.reset(new DurableFile(m_targetPath));
     if (!m_target->open())
-        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
+        return failAtPlc(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
     m_stage = Sending;
     return true;
 }
@@ -154,7 +157,7 @@ bool PlcTransfer::Task::sendPiece()
                         .arg(m_program.fileName(), m_source.errorString()));
     m_hash.addData(piece);
     if (!m_target->write(piece))
-        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
+        return failAtPlc(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
     m_position += piece.size();
     if (m_position == m_size)
         m_stage = Committing;
@@ -174,11 +177,12 @@ bool PlcTransfer::Task::commit()
     if (mayReplace)
         endChange();
     if (!isDone && m_hasArrived)
-        return fail(tr("%1 is in the PLC, but the PLC does not say that it is stored: %2. Download "
-                       "once more.")
-                        .arg(name(), m_target->errorString()));
+        return failAtPlc(
+            tr("%1 is in the PLC, but the PLC does not say that it is stored: %2. Download "
+               "once more.")
+                .arg(name(), m_target->errorString()));
     if (!isDone)
-        return fail(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
+        return failAtPlc(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
     m_position = 0;
     m_stage = OpeningArrived;
     return true;
@@ -188,7 +192,7 @@ bool PlcTransfer::Task::openArrived()
 {
     m_arrived.setFileName(m_targetPath);
     if (!m_arrived.open(QIODevice::ReadOnly) || !m_source.seek(0))
-        return fail(
+        return failAtPlc(
             tr("What arrived in the PLC cannot be read back: %1.").arg(m_arrived.errorString()));
     m_stage = Comparing;
     return true;
@@ -213,12 +217,14 @@ bool PlcTransfer::Task::takeOut()
         const bool isOut = QFile::remove(m_targetPath);
         endChange();
         if (isOut)
-            return fail(tr("What arrived in the PLC differs from what was sent. It was taken out "
-                           "again; download once more."));
+            return failAtPlc(
+                tr("What arrived in the PLC differs from what was sent. It was taken out "
+                   "again; download once more."));
     }
-    return fail(tr("What is in the PLC as %1 differs from what was sent. Do not run it; download "
-                   "once more.")
-                    .arg(name()));
+    return failAtPlc(
+        tr("What is in the PLC as %1 differs from what was sent. Do not run it; download "
+           "once more.")
+            .arg(name()));
 }
 
 // Both stages count alike.
@@ -233,6 +239,12 @@ void PlcTransfer::Task::close()
     m_source.close();
     m_arrived.close();
     m_target.reset();
+}
+
+bool PlcTransfer::Task::failAtPlc(const QString &error)
+{
+    m_isPlcAtFault = true;
+    return fail(error);
 }
 
 bool PlcTransfer::Task::fail(const QString &error)
@@ -272,6 +284,7 @@ void PlcTransfer::stop()
 void PlcTransfer::end()
 {
     const std::shared_ptr<Task> task = std::move(m_task);
+    m_isPlcAtFault = task->isPlcAtFault();
     if (task->error().isEmpty())
         Q_EMIT finished(task->targetPath(), task->size());
     else
@@ -289,6 +302,7 @@ void PlcTransfer::endStopped()
 
 void PlcTransfer::endStalled()
 {
+    m_isPlcAtFault = true;
     const std::shared_ptr<Task> task = std::move(m_task);
     if (task->isUncertain())
         Q_EMIT failed(tr("The PLC stopped answering while it took %1: which of the two it holds is "

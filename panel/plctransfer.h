@@ -48,6 +48,9 @@ public:
     /// already.
     void stop();
 
+    /// Whether the last transfer that failed did so because of the PLC, not of the program.
+    bool isPlcAtFault() const { return m_isPlcAtFault; }
+
     /// Milliseconds without progress after which a transfer fails; FileWork::stallMs at first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
@@ -71,6 +74,7 @@ private:
     const QString m_dropDir;
     FileWork m_work;
     std::shared_ptr<Task> m_task;
+    bool m_isPlcAtFault = false;
 };
 
 #endif // PLCTRANSFER_H

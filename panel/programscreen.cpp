@@ -4,6 +4,7 @@
 #include "programscreen.h"
 
 #include "barpager.h"
+#include "devicecauses.h"
 #include "downloadquestion.h"
 #include "look.h"
 #include "machinedata.h"
@@ -121,8 +122,7 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
             [this](const QString &text) { endDownload(text, Message::Information); });
     connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showSending);
     connect(m_transfer, &PlcTransfer::finished, m_snapshot, &ProgramSnapshot::compare);
-    connect(m_transfer, &PlcTransfer::failed, this,
-            [this](const QString &reason) { endDownload(reason, Message::Warning); });
+    connect(m_transfer, &PlcTransfer::failed, this, &ProgramScreen::endFailed);
     connect(m_transfer, &PlcTransfer::stopped, this,
             [this](const QString &text) { endDownload(text, Message::Information); });
     connect(m_snapshot, &ProgramSnapshot::compared, this, &ProgramScreen::endSent);
@@ -180,6 +180,11 @@ QList<PanelKey *> ProgramScreen::keys()
     connect(m_editor, &WGCodeEditer::undoAvailable, undoKey, &PanelKey::setEnabled);
     connect(m_editor, &WGCodeEditer::redoAvailable, redoKey, &PanelKey::setEnabled);
     return {findKey, undoKey, redoKey};
+}
+
+bool ProgramScreen::isWorking() const
+{
+    return m_window->isDownloading();
 }
 
 bool ProgramScreen::mayClose()
@@ -302,8 +307,18 @@ void ProgramScreen::showSending(int percent)
                   percent);
 }
 
+void ProgramScreen::endFailed(const QString &reason)
+{
+    if (m_transfer->isPlcAtFault())
+        endDownload(reason, Message::Alarm, DeviceCauses::plc());
+    else
+        endDownload(reason, Message::Warning);
+}
+
 void ProgramScreen::endSent(ProgramSnapshot::Verdict verdict)
 {
+    // Whatever became of the program on the panel, the PLC took what it was sent.
+    Q_EMIT causeEnded(DeviceCauses::plc());
     const ProgramFacts facts = m_snapshot->facts();
     switch (verdict) {
     case ProgramSnapshot::Same:
@@ -323,11 +338,11 @@ void ProgramScreen::endSent(ProgramSnapshot::Verdict verdict)
 }
 
 // Every way out of a download comes through here, so the window's key is always given back.
-void ProgramScreen::endDownload(const QString &text, Message::Tone tone)
+void ProgramScreen::endDownload(const QString &text, Message::Tone tone, const QString &cause)
 {
     m_snapshot->drop();
     m_window->setDownloading(false);
-    Q_EMIT told(text, tone);
+    Q_EMIT told(text, tone, cause);
 }
 
 void ProgramScreen::insertTaughtPoint()

@@ -47,6 +47,7 @@ public:
     bool hasChanges() const override;
     QList<PanelKey *> keys() override;
     bool mayClose() override;
+    bool isWorking() const override;
 
     /// The library's window.
     WMMainWindow *programWindow() const { return m_window; }
@@ -69,7 +70,8 @@ private:
     void showCopying(int percent);
     void showSending(int percent);
     void endSent(ProgramSnapshot::Verdict verdict);
-    void endDownload(const QString &text, Message::Tone tone);
+    void endFailed(const QString &reason);
+    void endDownload(const QString &text, Message::Tone tone, const QString &cause = QString());
     void insertTaughtPoint();
     void find();
     void showState();

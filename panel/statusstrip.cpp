@@ -98,7 +98,8 @@ void StatusStrip::follow(const PlcTransfer *transfer)
 {
     connect(transfer, &PlcTransfer::progress, this, &StatusStrip::noteProgress);
     connect(transfer, &PlcTransfer::finished, this, [this] { noteEnd(false); });
-    connect(transfer, &PlcTransfer::failed, this, [this] { noteEnd(true); });
+    connect(transfer, &PlcTransfer::failed, this,
+            [this, transfer] { noteFailure(transfer->isPlcAtFault()); });
     connect(transfer, &PlcTransfer::stopped, this, &StatusStrip::noteStop);
 }
 
@@ -124,6 +125,10 @@ StatusStrip::Storage StatusStrip::storageOf(qint64 freeBytes)
 
 void StatusStrip::showDevices(const DeviceState &state)
 {
+    const bool wasThere = m_isKnown && m_devices.plcReachable;
+    // A PLC that comes back is as good as new.
+    if (state.isKnown && state.plcReachable && !wasThere)
+        m_hasFailed = false;
     m_devices = state;
     m_isKnown = state.isKnown;
     showAll();
@@ -144,13 +149,21 @@ void StatusStrip::noteProgress(int percent)
 
 void StatusStrip::noteEnd(bool failed)
 {
-    // One that was refused before it began says nothing of the PLC.
-    m_hasFailed = failed && m_percent >= 0;
+    m_hasFailed = failed;
     m_percent = -1;
     showPlc();
 }
 
-// What the operator stopped says nothing of the PLC either.
+// What is wrong with a program says nothing of the PLC.
+void StatusStrip::noteFailure(bool isPlcAtFault)
+{
+    if (isPlcAtFault)
+        noteEnd(true);
+    else
+        noteStop();
+}
+
+// Nor does what the operator stopped.
 void StatusStrip::noteStop()
 {
     m_percent = -1;

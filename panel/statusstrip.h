@@ -70,6 +70,7 @@ protected:
 private:
     void noteProgress(int percent);
     void noteEnd(bool failed);
+    void noteFailure(bool isPlcAtFault);
     void noteStop();
     void showAll();
     void showPlc();

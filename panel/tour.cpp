@@ -6,6 +6,7 @@
 #include "connectionsscreen.h"
 #include "filesscreen.h"
 #include "importguard.h"
+#include "messagebar.h"
 #include "messagelog.h"
 #include "panelglass.h"
 #include "panelkey.h"
@@ -179,6 +180,14 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
     picture(QLatin1String("download-done"));
     then([window] { Q_EMIT window->signal_download(QString()); });
     picture(QLatin1String("download-refused"));
+    visitMessages();
+}
+
+void Tour::visitMessages()
+{
+    press([this] { return m_panel->messageBar(); });
+    picture(QLatin1String("messages"));
+    closeDialog();
 }
 
 void Tour::visitTeachScreen(TeachScreen *screen)

@@ -56,6 +56,7 @@ Q_SIGNALS:
 private:
     typedef std::function<void()> Step;
 
+    void visitMessages();
     void then(const Step &step);
     void waitUntil(const std::function<bool()> &condition);
     void picture(const QString &name);

@@ -10,6 +10,7 @@ class TestElidedLabel : public FilarixTest
 
 private Q_SLOTS:
     void longTextGivesWay();
+    void twoLinesAreFilledBeforeTheRestGivesWay();
     void textThatFitsIsShownWhole();
 };
 
@@ -31,6 +32,24 @@ void TestElidedLabel::longTextGivesWay()
     const QString begin = QString("a long text ").repeated(20);
     QCOMPARE(picture(begin + "one", 100), picture(begin + "two", 100));
     QVERIFY(picture("xa long text", 100) != picture("a long text", 100));
+}
+
+void TestElidedLabel::twoLinesAreFilledBeforeTheRestGivesWay()
+{
+    const auto pictured = [](const QString &text, int lines) {
+        ElidedLabel label;
+        label.setLines(lines);
+        label.setText(text);
+        label.resize(100, 60);
+        return TestCompat::grab(&label).toImage();
+    };
+    const QString begin = "a text of words ";
+    QCOMPARE(pictured(begin + "one", 1), pictured(begin + "two", 1));
+    QVERIFY(pictured(begin + "one", 2) != pictured(begin + "two", 2));
+    QCOMPARE(pictured(begin.repeated(9) + "one", 2), pictured(begin.repeated(9) + "two", 2));
+    // A line feed in the name of a file makes no third line.
+    QCOMPARE(pictured("a\nb\nc\nd", 2), pictured("a b c d", 2));
+    QCOMPARE(pictured("short", 2), pictured("short", 1));
 }
 
 void TestElidedLabel::textThatFitsIsShownWhole()

@@ -45,7 +45,8 @@ void TestHistoryGuard::init()
     programDir();
     m_history.reset(new ProgramHistory(programDir(), home() + "/hmi/history"));
     m_guard.reset(new HistoryGuard(m_history.data()));
-    m_told.reset(new QSignalSpy(m_guard.data(), SIGNAL(told(QString))));
+    qRegisterMetaType<Message::Tone>();
+    m_told.reset(new QSignalSpy(m_guard.data(), SIGNAL(told(QString, Message::Tone, QString))));
     QTRY_VERIFY(m_history->isSettled());
 }
 

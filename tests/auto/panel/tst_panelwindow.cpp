@@ -32,12 +32,14 @@ public:
             Q_EMIT told(m_objection, Message::Warning);
         return m_mayClose;
     }
+    bool isWorking() const override { return m_isWorking; }
     void stopWork() override { ++m_stops; }
 
     QString m_title = "coil.cnc";
     bool m_changed = false;
     bool m_mayClose = true;
     QString m_objection;
+    bool m_isWorking = false;
     int m_stops = 0;
     PanelKey *m_key = nullptr;
 };
@@ -60,7 +62,7 @@ private Q_SLOTS:
     void messageCoversNothing();
     void messageSurvivesAChangeOfScreens();
     void messageGoesWithItsCause();
-    void objectionToClosingEndsNoWork();
+    void whatIsToldMeanwhileEndsNoWork();
     void lookIsChangedByTouchAndKept_data();
     void lookIsChangedByTouchAndKept();
     void messagesAndProgressOfAScreenAreShown();
@@ -357,7 +359,7 @@ void TestPanelWindow::messageGoesWithItsCause()
     QCOMPARE(panel.messages()->messages().size(), 1);
 }
 
-void TestPanelWindow::objectionToClosingEndsNoWork()
+void TestPanelWindow::whatIsToldMeanwhileEndsNoWork()
 {
     PanelWindow panel(QSize(800, 480));
     FakeScreen *screen = new FakeScreen;
@@ -365,12 +367,17 @@ void TestPanelWindow::objectionToClosingEndsNoWork()
     screen->m_objection = "A download is running.";
     panel.addScreen(screen, "Program", QIcon());
     panel.show();
+    screen->m_isWorking = true;
     Q_EMIT screen->worked("on its way", 30);
     QVERIFY(!panel.close());
     QCOMPARE(panel.messageBar()->text(), QString("A download is running."));
     QVERIFY(panel.messageBar()->isWorking());
     QTest::mouseClick(panel.messageBar()->key(), Qt::LeftButton);
     QCOMPARE(screen->m_stops, 1);
+    screen->m_isWorking = false;
+    Q_EMIT screen->told("It was stopped.", Message::Information);
+    QVERIFY(!panel.messageBar()->isWorking());
+    QCOMPARE(panel.messageBar()->text(), QString("It was stopped."));
 }
 
 void TestPanelWindow::lookIsChangedByTouchAndKept_data()

@@ -197,21 +197,22 @@ void TestPlcTransfer::failures_data()
     QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("word");
+    QTest::addColumn<bool>("isPlcAtFault");
     QTest::newRow("never saved") << ""
                                  << "plc"
-                                 << "Save it";
+                                 << "Save it" << false;
     QTest::newRow("gone") << "cnc/gone.cnc"
                           << "plc"
-                          << "gone.cnc";
+                          << "gone.cnc" << false;
     QTest::newRow("a directory") << "cnc"
                                  << "plc"
-                                 << "not a program";
+                                 << "not a program" << false;
     QTest::newRow("no PLC") << "cnc/coil.cnc"
                             << "nowhere"
-                            << "nowhere";
+                            << "nowhere" << true;
     QTest::newRow("PLC is a file") << "cnc/coil.cnc"
                                    << "cnc/coil.cnc"
-                                   << "does not answer";
+                                   << "does not answer" << true;
 }
 
 void TestPlcTransfer::failures()
@@ -230,6 +231,7 @@ void TestPlcTransfer::failures()
     QVERIFY(!transfer.isRunning());
     const QString reason = failures.at(0).at(0).toString();
     QVERIFY2(reason.contains(word), qPrintable(reason));
+    QTEST(transfer.isPlcAtFault(), "isPlcAtFault");
     // One for each start, and none that comes late.
     transfer.start(program.isEmpty() ? QString() : home() + '/' + program);
     QTRY_VERIFY(!transfer.isRunning());
@@ -247,6 +249,7 @@ void TestPlcTransfer::folderThatTakesNothing()
     transfer.start(programDir() + "/coil.cnc");
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(failures.at(0).at(0).toString().contains("does not take"));
+    QVERIFY(transfer.isPlcAtFault());
 }
 
 void TestPlcTransfer::folderThatIsTheProgramDirectory()
@@ -269,6 +272,7 @@ void TestPlcTransfer::programTooLarge()
     transfer.start(programDir() + "/coil.cnc");
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(failures.at(0).at(0).toString().contains("64 MB"));
+    QVERIFY(!transfer.isPlcAtFault());
 }
 
 void TestPlcTransfer::copyIsSentUnderTheNameOfTheProgram()
@@ -314,6 +318,7 @@ void TestPlcTransfer::arrivalThatDiffersIsTakenOut()
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(spoilt);
     QVERIFY(failures.at(0).at(0).toString().contains("differs"));
+    QVERIFY(transfer.isPlcAtFault());
     QVERIFY(!QFileInfo(target).exists());
 }
 
@@ -385,6 +390,7 @@ void TestPlcTransfer::stalledTransferFails()
     QVERIFY(hangs);
     QVERIFY(!transfer.isRunning());
     QVERIFY(failures.at(0).at(0).toString().contains("Check the PLC"));
+    QVERIFY(transfer.isPlcAtFault());
 
     // The next one is not held up by the one that still hangs.
     writeFile(programDir() + "/next.cnc", "G01\n");

@@ -4,6 +4,7 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "machinedata.h"
+#include "messagelog.h"
 #include "modaldriver.h"
 #include "panelkey.h"
 #include "plctransfer.h"
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void downloadIsBracketedAndTold();
     void failedDownloadGivesTheKeyBack_data();
     void failedDownloadGivesTheKeyBack();
+    void messageOfThePlcEndsWithADownload();
     void stoppedDownloadGivesTheKeyBack();
     void questionShowsWhatIsOnTheDisk();
     void refusedDownloadSendsNothing();
@@ -178,6 +180,32 @@ void TestProgramScreen::failedDownloadGivesTheKeyBack()
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
 }
 
+void TestProgramScreen::messageOfThePlcEndsWithADownload()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    MessageLog log;
+    connect(m_screen, &PanelScreen::told, &log, &MessageLog::tell);
+    connect(m_screen, &PanelScreen::causeEnded, &log, &MessageLog::end);
+    QVERIFY(QDir().rename(m_plc, m_plc + ".away"));
+    ModalDriver driver;
+    answer(&driver, "send");
+    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(log.current().cause, QString("plc"));
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(log.current().tone, Message::Alarm);
+    // What is wrong with the program says nothing of the PLC, and ends nothing.
+    Q_EMIT m_screen->programWindow()->signal_download(QString());
+    QTRY_COMPARE(log.standingCount(), 2);
+    QVERIFY(QDir().rename(m_plc + ".away", m_plc));
+    answer(&driver, "send");
+    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(log.current().tone, Message::Information);
+    QVERIFY2(driver.finished(), driver.report());
+    log.closeCurrent();
+    QCOMPARE(log.current().tone, Message::Warning);
+    QCOMPARE(log.standingCount(), 1);
+}
+
 void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
 {
     writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
@@ -291,7 +319,7 @@ void TestProgramScreen::stalledDownloadGivesTheKeyBack()
     QTRY_COMPARE(told.size(), 1);
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(button("D/L")->isEnabled());
-    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
     QVERIFY(told.at(0).at(0).toString().contains("Check the PLC"));
     ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK));
 }

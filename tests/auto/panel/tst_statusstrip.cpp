@@ -21,6 +21,7 @@ private Q_SLOTS:
     void failedTransferStaysToBeSeen();
     void stoppedTransferIsNoFailureOfThePlc();
     void refusedTransferIsNoFailureOfThePlc();
+    void failureIsOverWhenThePlcIsBack();
     void stickComesAndGoes();
     void storage_data();
     void storage();
@@ -161,6 +162,27 @@ void TestStatusStrip::refusedTransferIsNoFailureOfThePlc()
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     transfer.start(programDir() + "/none.cnc");
     QTRY_COMPARE(failures.size(), 1);
+    QCOMPARE(strip.plc(), StatusStrip::PlcReady);
+}
+
+void TestStatusStrip::failureIsOverWhenThePlcIsBack()
+{
+    PlcTransfer transfer(home() + "/nowhere");
+    StatusStrip strip(false);
+    strip.follow(&transfer);
+    strip.showDevices(devices(true, false, 0));
+    writeFile(programDir() + "/a.cnc", "G01\n");
+    // The PLC has gone, and nobody has looked since.
+    transfer.start(programDir() + "/a.cnc");
+    QTRY_COMPARE(strip.plc(), StatusStrip::PlcFailed);
+    // A program that is gone puts nothing right.
+    QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
+    transfer.start(programDir() + "/none.cnc");
+    QTRY_COMPARE(failures.size(), 1);
+    QCOMPARE(strip.plc(), StatusStrip::PlcFailed);
+    strip.showDevices(devices(false, false, 0));
+    QCOMPARE(strip.plc(), StatusStrip::PlcAway);
+    strip.showDevices(devices(true, false, 0));
     QCOMPARE(strip.plc(), StatusStrip::PlcReady);
 }
 
