@@ -154,8 +154,7 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     texts->addStretch();
     m_grid->addWidget(block, row, 0);
     state->setObjectName(QLatin1String("fileState"));
-    connect(block, &TouchBlock::touched, this,
-            [this, state] { Q_EMIT told(state->text(), Message::Information); });
+    connect(block, &TouchBlock::touched, this, [this, state] { Q_EMIT explained(state->text()); });
     for (int i = 0; i < keys.size(); ++i) {
         keys.at(i)->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         // A line with one key has it at the edge, under the last of two.

@@ -18,8 +18,8 @@ class MessageDialog : public Dialog
     Q_OBJECT
 
 public:
-    /// \a subject, what the operator works on, stands above them in full. \a log must outlive the
-    /// dialog.
+    /// \a subject, what the operator works on or touched, stands above them in full. \a log must
+    /// outlive the dialog.
     MessageDialog(MessageLog *log, const QString &subject, QWidget *parent = nullptr);
 
     /// "13:05:09", and the date before that if it is not \a today.

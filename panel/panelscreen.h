@@ -37,6 +37,8 @@ Q_SIGNALS:
     /// title() or hasChanges() gives something else now.
     void titleChanged();
     void told(const QString &text, Message::Tone tone, const QString &cause = QString());
+    /// The operator touched a text that has no room on the screen; the shell shows it in full.
+    void explained(const QString &text);
     /// What messages of this cause were about is over.
     void causeEnded(const QString &cause);
     /// Long work goes on: \a percent of it is done. The shell offers a Stop key.

@@ -196,6 +196,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
                 tellOf(screen, text, tone, cause);
             });
     connect(screen, &PanelScreen::causeEnded, &m_log, &MessageLog::end);
+    connect(screen, &PanelScreen::explained, this, &PanelWindow::showInFull);
     connect(screen, &PanelScreen::worked, this, [this, screen](const QString &text, int percent) {
         m_working = screen;
         m_messageBar->showWork(text, percent);
@@ -319,7 +320,12 @@ void PanelWindow::tellOf(const PanelScreen *screen, const QString &text, Message
 
 void PanelWindow::showMessages()
 {
-    MessageDialog dialog(&m_log, currentScreen() ? currentScreen()->title() : QString());
+    showInFull(currentScreen() ? currentScreen()->title() : QString());
+}
+
+void PanelWindow::showInFull(const QString &subject)
+{
+    MessageDialog dialog(&m_log, subject);
     dialog.exec();
 }
 

@@ -101,6 +101,7 @@ private:
     void tellTrouble();
     void showTitle();
     void showMessages();
+    void showInFull(const QString &subject);
     void placeMessages();
     void refreshStatus();
     void tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,

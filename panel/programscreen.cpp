@@ -131,10 +131,8 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_guard, &ProgramGuard::told, this, &ProgramScreen::told);
     connect(m_guard, &ProgramGuard::causeEnded, this, &ProgramScreen::causeEnded);
     connect(m_guard, &ProgramGuard::stateChanged, this, &ProgramScreen::showState);
-    connect(m_stateLine, &StateLine::touched, this, [this] {
-        const ProgramState state = m_guard->state();
-        Q_EMIT told(state.line(), state.tone(), QLatin1String("program state"));
-    });
+    connect(m_stateLine, &StateLine::touched, this,
+            [this] { Q_EMIT explained(m_guard->state().line()); });
 }
 
 ProgramScreen::~ProgramScreen()

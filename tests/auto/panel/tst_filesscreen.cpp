@@ -200,7 +200,7 @@ void TestFilesScreen::stateIsToldInFullByATouch()
     FilesScreen screen(&stick, m_history.data());
     screen.resize(300, 220);
     screen.show();
-    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QSignalSpy told(&screen, SIGNAL(explained(QString)));
     const QList<TouchBlock *> blocks = screen.findChildren<TouchBlock *>();
     QCOMPARE(blocks.size(), 4);
     for (TouchBlock *block : blocks) {

@@ -267,6 +267,14 @@ void TestPanelWindow::touchShowsEverythingInFull()
         QTest::mouseClick(target, Qt::LeftButton);
         QVERIFY2(driver.finished(), driver.report());
     }
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        QCOMPARE(dialog->findChild<QLabel *>("subject")->text(), QString("In. Files: 3"));
+        dialog->close();
+    });
+    Q_EMIT screen->explained("In. Files: 3");
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(panel.messages()->messages().size(), 1);
     // The work goes on, and keeps its key.
     QVERIFY(panel.messageBar()->isWorking());
     QVERIFY(panel.messageBar()->key()->isVisible());
