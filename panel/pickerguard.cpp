@@ -100,5 +100,4 @@ void PickerGuard::say(const QString &text)
 {
     m_hint->setText(text);
     m_hint->show();
-    Q_EMIT told(text);
 }

@@ -37,9 +37,6 @@ public:
     /// The dialog stays as it is; \a reason, if there is one, is shown in it.
     void drop(const QString &reason = QString());
 
-Q_SIGNALS:
-    void told(const QString &text);
-
 private:
     void check();
     bool wantsSuffix(const QString &name) const;

@@ -246,9 +246,8 @@ void ProgramGuard::judge(const QString &path, const std::shared_ptr<ProgramCompa
     setState(state);
     if (state.kind == ProgramState::Incomplete)
         Q_EMIT told(state.refusal(), state.tone(), QLatin1String(stateCause));
-    // The state itself stays in view.
-    else if (state.kind != ProgramState::Plain)
-        Q_EMIT told(state.line(), Message::Information, QLatin1String(stateCause));
+    else if (state.kind == ProgramState::Different)
+        Q_EMIT told(state.line(), state.tone(), QLatin1String(stateCause));
 }
 
 // Saving
@@ -369,8 +368,6 @@ void ProgramGuard::guardPicker(QDialog *dialog, WindowDialogs::Picker picker)
     if (dialog->findChild<PickerGuard *>())
         return;
     PickerGuard *guard = new PickerGuard(dialog);
-    connect(guard, &PickerGuard::told, this,
-            [this](const QString &text) { Q_EMIT told(text, Message::Information); });
     const QPointer<PickerGuard> link(guard);
     if (picker != WindowDialogs::SavePicker) {
         guard->onName([this, link](const QString &name) {

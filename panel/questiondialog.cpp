@@ -17,7 +17,7 @@ const int textPixels = 17;
 const int keyPixels = 15;
 const int margin = 12;
 const int gap = 10;
-const int keyPadding = 24;
+const int keyPadding = 16;
 const int widest = 560;
 
 QFont sized(QFont font, int pixels)

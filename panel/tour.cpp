@@ -130,6 +130,20 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
     then([window] { window->insertLine(QLatin1String("G33 X18.50 K0.50")); });
     picture(QLatin1String("program-changed"));
 
+    pressTool(window, QLatin1String("Save"));
+    picture(QLatin1String("program-first-save"));
+    closeDialog();
+    pressTool(window, QLatin1String("SaveAs"));
+    press([] {
+        QWidget *dialog = topLevel("WFileDialog");
+        if (!dialog)
+            return static_cast<QWidget *>(nullptr);
+        dialog->findChild<QLineEdit *>()->setText(QLatin1String("rotor"));
+        return static_cast<QWidget *>(dialog->findChild<QPushButton *>());
+    });
+    picture(QLatin1String("save-as"));
+    closeDialog();
+
     turnBar(window);
     then([] {});
     then([this, window] {

@@ -41,7 +41,7 @@ const Exception exceptionTable[] = {
     {Exception::Text, "title", "the name of a program; a touch tells it in full", kAnyWidth},
     {Exception::Text, "messageText", "a touch on it shows it in full", kAnyWidth},
     {Exception::Text, "fileState", "ends in a path; a touch shows it in full", kAnyWidth},
-    {Exception::Text, "stateLine", "a touch on it shows it in full", kAnyWidth},
+    {Exception::Text, "stateLine", "its numbers stand first; a touch shows it in full", kAnyWidth},
     {Exception::Text, "oldValue", "the value of before stands in the field in full", kAnyWidth},
     {Exception::Place, "DataEditor", "the cells share their border lines, by the library's design",
      kAnyWidth},
