@@ -9,7 +9,6 @@
 #include "fieldkeypad.h"
 #include "filesscreen.h"
 #include "glyphs.h"
-#include "historyguard.h"
 #include "look.h"
 #include "panelglass.h"
 #include "panelstyle.h"
@@ -147,7 +146,6 @@ void PanelProgram::makeWindow()
 void PanelProgram::makeScreens()
 {
     m_history.reset(new ProgramHistory(m_folders.programs, ownPath(m_folders, "history")));
-    m_historyGuard.reset(new HistoryGuard(m_history.get()));
     m_programs =
         new ProgramScreen(m_options.rotation, m_options.plcFolder(), m_folders.own, &m_machine);
     m_programs->setHistory(m_history.get());
@@ -174,7 +172,6 @@ void PanelProgram::connectScreens()
 {
     // A save shows in the title or in its mark.
     connect(m_programs, &PanelScreen::titleChanged, m_history.get(), &ProgramHistory::scan);
-    connect(m_historyGuard.get(), &HistoryGuard::told, m_panel->messages(), &MessageLog::tell);
     connect(m_files, &FilesScreen::importWanted, m_programs->programWindow(),
             [this] { QMetaObject::invokeMethod(m_programs->programWindow(), "importExport"); });
     connect(&m_startUp, &StartUp::told, m_panel->messages(), &MessageLog::tell);

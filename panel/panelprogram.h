@@ -22,7 +22,6 @@
 class ConnectionsScreen;
 class DeviceWatch;
 class FilesScreen;
-class HistoryGuard;
 class PanelGlass;
 class PanelScreen;
 class PanelWindow;
@@ -77,7 +76,6 @@ private:
     std::unique_ptr<PanelGlass> m_glass;
     std::unique_ptr<PanelWindow> m_panel;
     std::unique_ptr<ProgramHistory> m_history;
-    std::unique_ptr<HistoryGuard> m_historyGuard;
     std::unique_ptr<DeviceWatch> m_watch;
     // The window's own.
     ProgramScreen *m_programs = nullptr;
