@@ -63,6 +63,7 @@ void WindowCommands::pass(Command command)
         if (m_passing != command)
             return;
         m_passing = None;
+        switchOffHidden(command);
         Q_EMIT lost(command);
     });
 }
@@ -70,11 +71,22 @@ void WindowCommands::pass(Command command)
 void WindowCommands::drop(Command command)
 {
     m_gates.value(command)->drop();
+    switchOffHidden(command);
 }
 
 void WindowCommands::press(Command command)
 {
-    m_gates.value(command)->button()->click();
+    QAbstractButton *button = m_gates.value(command)->button();
+    // A bar that has no room for all of its buttons switches off those that it hides.
+    button->setEnabled(true);
+    button->click();
+}
+
+void WindowCommands::switchOffHidden(Command command)
+{
+    QAbstractButton *button = m_gates.value(command)->button();
+    if (button->isHidden())
+        button->setEnabled(false);
 }
 
 void WindowCommands::begin(Command command)
@@ -88,5 +100,6 @@ void WindowCommands::begin(Command command)
 void WindowCommands::end(Command command)
 {
     m_running = None;
+    switchOffHidden(command);
     Q_EMIT done(command);
 }

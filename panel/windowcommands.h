@@ -32,7 +32,7 @@ public:
     void onCommand(const std::function<void(Command)> &hold) { m_hold = hold; }
     void pass(Command command);
     void drop(Command command);
-    /// As if the operator pressed the command's button.
+    /// As if the operator pressed the command's button, which its bar may have hidden.
     void press(Command command);
 
     /// The command that the library carries out at the moment; it may wait in a dialog.
@@ -49,6 +49,7 @@ Q_SIGNALS:
 private:
     void begin(Command command);
     void end(Command command);
+    void switchOffHidden(Command command);
 
     std::function<void(Command)> m_hold;
     QHash<int, ClickGate *> m_gates;

@@ -20,6 +20,7 @@
 #include <QSignalSpy>
 #include <QTextDocument>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 
 #include <csignal>
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void savingElsewhereLeavesTheDocumentModified();
     void newCommandWaitsForAStoredSave_data();
     void newCommandWaitsForAStoredSave();
+    void commandThatTheBarHidesIsGivenAllTheSame();
     void refusedFileIsTheLibrarysToTell();
 
     void savingANewProgramProposesAFreeName();
@@ -551,6 +553,27 @@ void TestProgramGuard::newCommandWaitsForAStoredSave()
         QVERIFY(document()->isEmpty());
         QCOMPARE(QString::fromUtf8(readFile(path("coil.cnc"))), text);
     }
+}
+
+// On a small panel the bar shows some of its buttons only, and the others are off.
+void TestProgramGuard::commandThatTheBarHidesIsGivenAllTheSame()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
+    for (QToolBar *bar : bars) {
+        const QList<QAction *> actions = bar->actions();
+        for (QAction *action : actions)
+            action->setVisible(bar->widgetForAction(action) != button("Save"));
+    }
+    QVERIFY(!button("Save")->isEnabled());
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    m_guard->save();
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(ended.at(0).at(0).toBool());
+    QVERIFY(!button("Save")->isEnabled());
+    QCOMPARE(QString::fromUtf8(readFile(path("coil.cnc"))), document()->toPlainText());
 }
 
 void TestProgramGuard::refusedFileIsTheLibrarysToTell()
