@@ -207,6 +207,11 @@ void FilesScreen::retranslate()
     showState();
 }
 
+bool FilesScreen::mayPlug() const
+{
+    return m_stick->isSimulated();
+}
+
 void FilesScreen::plug()
 {
     Stick stick = *m_stick;

@@ -51,6 +51,8 @@ public:
     /// Milliseconds after which a folder that has not answered is shown as one that does not.
     void setPatience(int ms);
 
+    /// Whether there is a key Plug: a folder stands in for the stick.
+    bool mayPlug() const;
     /// What the keys Plug and Pull do.
     void plug();
     void pull();
