@@ -29,6 +29,7 @@ download() {
     expect_gone Send Download
 }
 
+mkdir -p "$plc"
 desk_start 800x480 --plc "$plc"
 touch_text Open
 touch_text test-coil.cnc "Open file"

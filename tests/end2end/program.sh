@@ -13,6 +13,7 @@ source "$(dirname "$(readlink -f "$0")")/desk.sh"
 programs=$HOME/cnc
 plc=$HOME/plc
 
+mkdir -p "$plc"
 desk_start 800x480 --plc "$plc"
 expect_text Open
 

@@ -22,6 +22,13 @@ refused() {
 desk_start 800x480
 first=${desk_pids[-1]}
 expect_text Open
+# What the first one writes at its start is there: the samples, their versions, the connections.
+has_settled() {
+    [ "$(find "$HOME/hmi/history" -name '*.version' | wc -l)" = 3 ] \
+        && [ -s "$HOME/hmi/connections.ini" ] \
+        && [ -z "$(find "$HOME" -name '.filarix-*')" ]
+}
+desk_until 20 has_settled || desk_fail "the first panel does not come to rest"
 before=$(find "$HOME" -type f -exec sha256sum {} + | sort)
 second
 refused
@@ -31,8 +38,9 @@ refused
 ln -s "$HOME" /tmp/other-way
 second --programs /tmp/other-way
 refused
-[ "$(find "$HOME" -type f -exec sha256sum {} + | sort)" = "$before" ] \
-    || desk_fail "the second panel changed something"
+after=$(find "$HOME" -type f -exec sha256sum {} + | sort)
+[ "$after" = "$before" ] \
+    || desk_fail "the second panel changed something: $(diff <(echo "$before") <(echo "$after"))"
 
 # On the display it says so in a box, which a touch closes.
 FILARIX_LOCATOR=/tmp/second-widgets LD_PRELOAD=$desk_locator "$desk_panel" >/tmp/second.log 2>&1 &

@@ -32,7 +32,14 @@ end_under() {
     [ ! -e /tmp/udiskattach ] || desk_fail "SIG$2 under \"$1\": the stick left its marker behind"
 }
 
-again() { desk_run 800x480 --stick "$stick"; }
+again() {
+    desk_run 800x480 --stick "$stick"
+    # What the operator had not saved waits for the next start.
+    if [ -n "$(find "$HOME/hmi/unsaved" -type f 2>/dev/null)" ]; then
+        touch_text "Keep for later"
+        expect_gone "Keep for later"
+    fi
+}
 
 to_the_manager() {
     touch_text Files

@@ -455,10 +455,10 @@ void TestProgramScreen::stateStaysInView()
     // A row of its own: nothing is covered.
     const QRect row(line->mapTo(m_screen, QPoint()), line->size());
     QVERIFY(row.bottom() < m_screen->programWindow()->y());
-    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QSignalSpy explained(m_screen, SIGNAL(explained(QString)));
     QTest::mouseClick(line, Qt::LeftButton);
-    QCOMPARE(told.size(), 1);
-    QCOMPARE(told.at(0).at(0).toString(), text);
+    QCOMPARE(explained.size(), 1);
+    QCOMPARE(explained.at(0).at(0).toString(), text);
     QTest::mouseClick(button("New"), Qt::LeftButton);
     QTRY_VERIFY(!line->isVisible());
 }
