@@ -37,10 +37,10 @@ const Typical typicalConnections[] = {
     {"Camera", 5, 0, 5, 4, ""},
 };
 
-QString tr(const char *text)
+struct Words
 {
-    return QCoreApplication::translate("ConnectionFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ConnectionFile)
+};
 
 QString key(int number, const char *suffix)
 {
@@ -106,8 +106,8 @@ bool readBytes(const QString &path, QByteArray *bytes, QString *error)
 {
     const FileStamp stamp = FileStamp::of(path);
     if (!stamp.isValid() || stamp.size > largestFile) {
-        *error =
-            stamp.isValid() ? tr("%1 is too large.").arg(path) : tr("%1 is not a file.").arg(path);
+        *error = stamp.isValid() ? Words::tr("%1 is too large.").arg(path)
+                                 : Words::tr("%1 is not a file.").arg(path);
         return false;
     }
     QFile file(path);
@@ -115,7 +115,7 @@ bool readBytes(const QString &path, QByteArray *bytes, QString *error)
         *bytes = file.readAll();
     if (file.error() == QFileDevice::NoError)
         return true;
-    *error = tr("%1 cannot be read: %2.").arg(path, file.errorString());
+    *error = Words::tr("%1 cannot be read: %2.").arg(path, file.errorString());
     return false;
 }
 
@@ -123,8 +123,9 @@ bool parse(ConnectionFile::Contents *contents)
 {
     PrivateFile copy;
     if (!copy.write(contents->bytes)) {
-        contents->error = tr("The connections cannot be read: the panel's temporary storage is "
-                             "full.");
+        contents->error =
+            Words::tr("The connections cannot be read: the panel's temporary storage is "
+                      "full.");
         return false;
     }
     const QSettings file(copy.path(), QSettings::IniFormat);
@@ -150,7 +151,7 @@ QStringList addressesOf(const ConnectionFile::Contents &contents)
 
 QString notStored(const QString &reason)
 {
-    return tr("The addresses are not stored: %1.").arg(reason);
+    return Words::tr("The addresses are not stored: %1.").arg(reason);
 }
 
 } // namespace
@@ -165,7 +166,7 @@ ConnectionFile::Contents ConnectionFile::read(const QString &path)
         DurableFile made(path);
         contents.isThere = made.open() && made.write(typicalBytes()) && made.commit();
         if (!contents.isThere) {
-            contents.error = tr("%1 cannot be made: %2.").arg(path, made.errorString());
+            contents.error = Words::tr("%1 cannot be made: %2.").arg(path, made.errorString());
             return contents;
         }
     }
@@ -182,7 +183,7 @@ QString ConnectionFile::store(const QString &path, const QByteArray &before,
     Contents edited;
     edited.bytes = bytes;
     if (!parse(&edited) || addressesOf(edited) != wanted)
-        return notStored(tr("the panel's temporary storage is full"));
+        return notStored(Words::tr("the panel's temporary storage is full"));
     DurableFile file(path);
     if (!file.open() || !file.write(bytes))
         return notStored(file.errorString());
@@ -194,10 +195,10 @@ QString ConnectionFile::store(const QString &path, const QByteArray &before,
         return !isOthers && mayReplace();
     };
     if (!file.commit(isStillOurs))
-        return notStored(isOthers ? tr("the file was changed meanwhile. Edit them once more")
+        return notStored(isOthers ? Words::tr("the file was changed meanwhile. Edit them once more")
                                   : file.errorString());
     const Contents stored = read(path);
     if (stored.bytes == bytes && addressesOf(stored) == wanted)
         return QString();
-    return notStored(tr("the disk holds something else"));
+    return notStored(Words::tr("the disk holds something else"));
 }

@@ -11,10 +11,10 @@
 
 namespace {
 
-QString tr(const char *text)
+struct Words
 {
-    return QCoreApplication::translate("RowFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RowFile)
+};
 
 QString escaped(QString text)
 {
@@ -65,7 +65,7 @@ bool RowFile::write(const QString &path, const QString &comment, const QList<QSt
     DurableFile file(path);
     if (file.open() && file.write(bytes(comment, rows)) && file.commit())
         return true;
-    *error = tr("%1 cannot be written: %2.").arg(path, file.errorString());
+    *error = Words::tr("%1 cannot be written: %2.").arg(path, file.errorString());
     return false;
 }
 
@@ -73,19 +73,19 @@ bool RowFile::read(const QString &path, QList<QStringList> *rows, QString *error
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = tr("%1 cannot be read: %2.").arg(path, file.errorString());
+        *error = Words::tr("%1 cannot be read: %2.").arg(path, file.errorString());
         return false;
     }
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        *error = tr("%1 cannot be read: %2.").arg(path, file.errorString());
+        *error = Words::tr("%1 cannot be read: %2.").arg(path, file.errorString());
         return false;
     }
     QTextCodec::ConverterState state;
     const QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || text.contains(QChar::Null)) {
-        *error = tr("%1 is not a text file.").arg(path);
+        *error = Words::tr("%1 is not a text file.").arg(path);
         return false;
     }
     rows->clear();

@@ -21,10 +21,10 @@ namespace {
 
 const QByteArray kMarkerText = "filarix-panel ";
 
-QString tr(const char *text)
+struct Words
 {
-    return QCoreApplication::translate("Stick", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Stick)
+};
 
 // A blank stands there as "\\040".
 QByteArray unescaped(const QByteArray &field)
@@ -115,7 +115,7 @@ bool Stick::plug(QString *error)
 {
     if (isSimulated())
         return m_simulation->plug(error);
-    *error = tr("The stick is the panel's own: plug it into the panel.");
+    *error = Words::tr("The stick is the panel's own: plug it into the panel.");
     return false;
 }
 
@@ -145,11 +145,12 @@ bool Stick::Simulation::plug(QString *error)
     if (isMarkerAbandoned())
         QFile::remove(marker());
     if (QFileInfo(marker()).exists()) {
-        *error = tr("Another stick is plugged: %1 is there already.").arg(marker());
+        *error = Words::tr("Another stick is plugged: %1 is there already.").arg(marker());
         return false;
     }
     if (!QDir().mkpath(m_folder)) {
-        *error = tr("The folder %1, which stands for the stick, cannot be made.").arg(m_folder);
+        *error =
+            Words::tr("The folder %1, which stands for the stick, cannot be made.").arg(m_folder);
         return false;
     }
     if (!isBound() && !isLinked() && !link(error))
@@ -159,7 +160,7 @@ bool Stick::Simulation::plug(QString *error)
     m_madeMarker = file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
                    && file.write(kMarkerText + QByteArray::number(qint64(getpid()))) > 0;
     if (!m_madeMarker) {
-        *error = tr("The marker %1 cannot be made: %2.").arg(marker(), file.errorString());
+        *error = Words::tr("The marker %1 cannot be made: %2.").arg(marker(), file.errorString());
         takeOut();
     }
     return m_madeMarker;
@@ -220,8 +221,8 @@ bool Stick::Simulation::link(QString *error)
     }
     if (removed)
         QDir().mkdir(mountPoint());
-    *error = tr("The mount point %1 is not this program's to change. Start it by "
-                "\"./run --stick DIR\" to try a stick.")
+    *error = Words::tr("The mount point %1 is not this program's to change. Start it by "
+                       "\"./run --stick DIR\" to try a stick.")
                  .arg(mountPoint());
     return false;
 }

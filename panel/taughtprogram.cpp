@@ -14,10 +14,10 @@ const int kMovementStrings = 31;
 // The cells that a row widget keeps for commands take four strings after the kind, no more.
 const int kCommandStrings = 5;
 
-QString tr(const char *text)
+struct Words
 {
-    return QCoreApplication::translate("TaughtProgram", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TaughtProgram)
+};
 
 void appendPairs(QStringList *row, const QStringList &keys, const QStringList &values)
 {
@@ -39,14 +39,14 @@ QStringList TaughtProgram::titleRow()
 {
     return {QLatin1String("Title"),
             QLatin1String("Title"),
-            tr("Instr."),
-            tr("Point"),
+            Words::tr("Instr."),
+            Words::tr("Point"),
             QString(),
-            tr("Speed"),
+            Words::tr("Speed"),
             QString(),
-            tr("Z"),
+            Words::tr("Z"),
             QString(),
-            tr("T"),
+            Words::tr("T"),
             QString()};
 }
 
@@ -133,8 +133,9 @@ bool TaughtProgram::load(const QString &path, QList<QStringList> *rows, QString 
         return false;
     for (int i = 0; i < read.size(); ++i) {
         if (!isValid(read.at(i))) {
-            *error =
-                tr("%1 is no taught program: row %2 is not an instruction.").arg(path).arg(i + 1);
+            *error = Words::tr("%1 is no taught program: row %2 is not an instruction.")
+                         .arg(path)
+                         .arg(i + 1);
             return false;
         }
         read[i][1] = QString::number(i + 1);

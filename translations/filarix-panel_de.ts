@@ -9,6 +9,45 @@
     </message>
 </context>
 <context>
+    <name>ConnectionFile</name>
+    <message>
+        <source>%1 cannot be made: %2.</source>
+        <translation>%1 lässt sich nicht anlegen: %2.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s temporary storage is full</source>
+        <translation>der Zwischenspeicher des Panels ist voll</translation>
+    </message>
+    <message>
+        <source>the file was changed meanwhile. Edit them once more</source>
+        <translation>die Datei wurde inzwischen geändert. Adressen noch einmal ändern</translation>
+    </message>
+    <message>
+        <source>the disk holds something else</source>
+        <translation>auf dem Datenträger steht etwas anderes</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The connections cannot be read: the panel&apos;s temporary storage is full.</source>
+        <translation>Die Verbindungen sind nicht lesbar: Der Zwischenspeicher des Panels ist voll.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1.</source>
+        <translation>Die Adressen sind nicht gespeichert: %1.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -35,10 +74,6 @@
         <translation>Verbindungen</translation>
     </message>
     <message>
-        <source>The addresses are not stored: %1 cannot be written.</source>
-        <translation>Die Adressen sind nicht gespeichert: %1 lässt sich nicht schreiben.</translation>
-    </message>
-    <message>
         <source>No address was changed.</source>
         <translation>Keine Adresse wurde geändert.</translation>
     </message>
@@ -49,6 +84,30 @@
     <message>
         <source>not set yet</source>
         <translation>noch nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>%1 says that it holds %2 connections. The first %3 are shown.</source>
+        <translation>Laut %1 gibt es %2 Verbindungen. Gezeigt werden die ersten %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>%1 ist nicht lesbar: Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The addresses cannot be edited: the panel&apos;s temporary storage is full.</source>
+        <translation>Die Adressen lassen sich nicht ändern: Der Zwischenspeicher des Panels ist voll.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: the panel&apos;s storage does not answer.</source>
+        <translation>Die Adressen sind nicht gespeichert: Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether the addresses are stored.</source>
+        <translation>Der Speicher des Panels antwortet nicht: Ob die Adressen gespeichert sind, ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Wird geladen ...</translation>
     </message>
 </context>
 <context>
@@ -80,6 +139,10 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>%1 in der Datei, %2 gezeigt</translation>
     </message>
 </context>
 <context>
@@ -172,6 +235,22 @@
         <source>History</source>
         <translation>Verlauf</translation>
     </message>
+    <message>
+        <source>The stick does not answer.</source>
+        <translation>Der Stick antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Does not answer. </source>
+        <translation>Antwortet nicht. </translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Wird geladen ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Der Speicher des Panels antwortet nicht.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -210,13 +289,6 @@
     <message>
         <source>%1 KB</source>
         <translation>%1 KB</translation>
-    </message>
-</context>
-<context>
-    <name>HistoryGuard</name>
-    <message>
-        <source>One moment: the history still takes in the programs. Touch once more.</source>
-        <translation>Einen Moment: Der Verlauf sichert noch die Programme. Noch einmal tippen.</translation>
     </message>
 </context>
 <context>
@@ -268,6 +340,58 @@
         <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
         <translation>Keine Übertragung: Der Pfad %1 enthält Zeichen, die die Übertragung falsch verstehen würde.</translation>
     </message>
+    <message>
+        <source>One moment: the panel looks at the programs and the stick.</source>
+        <translation>Einen Moment: Das Panel prüft die Programme und den Stick.</translation>
+    </message>
+    <message>
+        <source>No stick is in: nothing was copied or deleted.</source>
+        <translation>Kein Stick steckt: Nichts wurde kopiert oder gelöscht.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
+        <translation>%1 ist nicht im Verlauf und lässt sich nicht zurückholen. Trotzdem weiter?</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
+        <translation>Der Stick antwortet nicht: Nichts wurde kopiert, gelöscht oder umbenannt. Abziehen und wieder einstecken.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the stick, and compared.</source>
+        <translation>%1 ist auf den Stick kopiert und verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the panel, and compared.</source>
+        <translation>%1 ist auf das Panel kopiert und verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the stick.</source>
+        <translation>%1 ist vom Stick gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the panel.</source>
+        <translation>%1 ist vom Panel gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied.</source>
+        <translation>%1 wurde nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the one on the stick is gone.</source>
+        <translation>%1 wurde nicht kopiert, und das auf dem Stick ist weg.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the panel&apos;s own is gone: bring it back from the history.</source>
+        <translation>%1 wurde nicht kopiert, und das auf dem Panel ist weg: aus dem Verlauf zurückholen.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
+        <translation>Die Kopie von %1 weicht vom Original ab. Ist noch Platz? Noch einmal kopieren.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePicker</name>
@@ -302,12 +426,42 @@
         <source>Last</source>
         <translation>Ende</translation>
     </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Wird geladen ...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>Stopp</translation>
+    </message>
+</context>
+<context>
+    <name>MessageDialog</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>There was nothing to tell yet.</source>
+        <translation>Noch gibt es keine Meldung.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelProgram</name>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Another panel works on the same programs. This one does not start.</source>
+        <translation>Ein anderes Panel arbeitet mit denselben Programmen. Dieses startet nicht.</translation>
     </message>
 </context>
 <context>
@@ -343,6 +497,13 @@
     <message>
         <source>The translation is not installed.</source>
         <translation>Die Übersetzung ist nicht installiert.</translation>
+    </message>
+</context>
+<context>
+    <name>PickerGuard</name>
+    <message>
+        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
+        <translation>%1 ist an den Namen angefügt. Mit OK übernehmen oder wieder entfernen.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +560,113 @@
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>Die SPS antwortet mitten im Senden nicht mehr. SPS und Kabel prüfen, dann erneut senden.</translation>
     </message>
+    <message>
+        <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
+        <translation>Die Kopie von %1 hat sich seit dem Anzeigen geändert und wurde nicht gesendet. Erneut senden.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC does not say that it is stored: %2. Download once more.</source>
+        <translation>%1 ist in der SPS, doch sie bestätigt das Speichern nicht: %2. Erneut senden.</translation>
+    </message>
+    <message>
+        <source>What is in the PLC as %1 differs from what was sent. Do not run it; download once more.</source>
+        <translation>%1 in der SPS weicht vom Gesendeten ab. Nicht starten; erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
+        <translation>Die SPS hat noch nicht gemeldet, was aus der letzten Übertragung wurde. Abwarten oder SPS aus- und einschalten, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
+        <translation>Die SPS antwortet bei der Übernahme von %1 nicht mehr: Ob sie das alte oder das neue hält, ist unbekannt. SPS prüfen, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
+        <translation>%1 ist in der SPS, doch sie antwortet seit vor dem Vergleich nicht mehr. SPS prüfen, dann erneut senden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramGuard</name>
+    <message>
+        <source>A program is being loaded. Wait until all of it is here.</source>
+        <translation>Ein Programm wird geladen. Warten, bis alles da ist.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s storage does not answer</source>
+        <translation>der Speicher des Panels antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save without them</source>
+        <translation>Ohne sie sichern</translation>
+    </message>
+    <message>
+        <source>Save as shown</source>
+        <translation>Wie gezeigt sichern</translation>
+    </message>
+    <message>
+        <source>Other name</source>
+        <translation>Anderer Name</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Do not switch off: the whole program is only in the editor.</source>
+        <translation>%1 ist nicht gespeichert: %2. Nicht ausschalten: Das ganze Programm steht nur im Editor.</translation>
+    </message>
+    <message>
+        <source>%1 saved, %2 lines.</source>
+        <translation>%1 gespeichert, %2 Zeilen.</translation>
+    </message>
+    <message>
+        <source>%1 has characters that the file cannot hold; they were replaced.</source>
+        <translation>%1 enthält Zeichen, die die Datei nicht aufnehmen kann; sie wurden ersetzt.</translation>
+    </message>
+    <message>
+        <source>%1 is on the stick as %2. On the panel it is not stored: %3.</source>
+        <translation>%1 ist auf dem Stick als %2. Auf dem Panel ist es nicht gespeichert: %3.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file. Take another name.</source>
+        <translation>%1 ist keine Programmdatei. Einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
+        <translation>%1 ist schon da: %2 Zeilen, vom %3. Mit diesem Programm überschreiben, %4 Zeilen?</translation>
+    </message>
+    <message>
+        <source>Write over it</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>%1 is open, with changes that are not saved. They are lost with it.</source>
+        <translation>%1 ist offen und hat ungespeicherte Änderungen. Sie gehen mit verloren.</translation>
+    </message>
+    <message>
+        <source>Remove it</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed: it is still there.</source>
+        <translation>%1 ließ sich nicht löschen: Es ist noch da.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramHistory</name>
@@ -413,10 +681,6 @@
     <message>
         <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
         <translation>Diese Fassung von %1 ist beschädigt und wurde nicht zurückgeholt. Die davor versuchen.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be replaced in the program directory.</source>
-        <translation>%1 lässt sich im Programmverzeichnis nicht ersetzen.</translation>
     </message>
     <message>
         <source>%1 is brought back: %2 %</source>
@@ -445,6 +709,64 @@
     <message>
         <source>%1 is back as of %2. Open it to see it.</source>
         <translation>%1 ist zurück, Stand %2. Zum Ansehen öffnen.</translation>
+    </message>
+    <message>
+        <source>%1 is back, but it is not certain that it is stored: %2.</source>
+        <translation>%1 ist zurück, doch ob es gespeichert ist, ist nicht sicher: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: it is being written. Try again when that is over.</source>
+        <translation>%1 wurde nicht zurückgeholt: Es wird gerade geschrieben. Danach noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The history has not taken in %1 yet.</source>
+        <translation>Der Verlauf hat %1 noch nicht gesichert.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
+        <translation>%1 wurde nicht zurückgeholt: Der Speicher des Panels hat das letzte Zurückholen noch nicht beendet. Das Panel aus- und einschalten.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
+        <translation>Der Speicher des Panels antwortet beim Zurückholen von %1 nicht mehr: Welche Fassung es jetzt ist, ist unbekannt. Das Panel aus- und einschalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramKeeper</name>
+    <message>
+        <source>One moment: the history takes in the program first.</source>
+        <translation>Einen Moment: Der Verlauf sichert erst das Programm.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 Der jetzige Stand von %2 ginge verloren.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Trotzdem</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Give the program a name.</source>
+        <translation>Dem Programm einen Namen geben.</translation>
+    </message>
+    <message>
+        <source>A name holds no &quot;/&quot;: programs lie in one folder.</source>
+        <translation>Ein Name enthält kein „/“: Alle Programme liegen in einem Ordner.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
+        <translation>Ein Name mit einem Punkt am Anfang fehlt in den Listen. Einen anderen wählen.</translation>
     </message>
 </context>
 <context>
@@ -509,6 +831,10 @@
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel ist es nicht mehr.</translation>
     </message>
+    <message>
+        <source>The program is still being loaded or saved. Close the panel after that.</source>
+        <translation>Das Programm wird noch geladen oder gespeichert. Das Panel danach schließen.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -546,6 +872,49 @@
     </message>
 </context>
 <context>
+    <name>ProgramState</name>
+    <message>
+        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
+        <translation>%1 Zeilen in der Datei, %2 gezeigt: ohne Kommentare und Leerzeilen</translation>
+    </message>
+    <message>
+        <source>Not compared with the file: %1</source>
+        <translation>Nicht mit der Datei verglichen: %1</translation>
+    </message>
+    <message>
+        <source>Not as in the file: it has characters that cannot be shown, or has changed</source>
+        <translation>Nicht wie in der Datei: Sie enthält nicht darstellbare Zeichen oder wurde geändert</translation>
+    </message>
+    <message>
+        <source>Not as in the file: %1 lines there, %2 shown</source>
+        <translation>Nicht wie in der Datei: dort %1 Zeilen, gezeigt %2</translation>
+    </message>
+    <message>
+        <source>Incomplete: %1 lines in the file, %2 shown</source>
+        <translation>Unvollständig: %1 Zeilen in der Datei, %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2</source>
+        <translation>%1 ist nicht gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
+        <translation>%1 hat %2 Zeilen in der Datei, gezeigt sind %3. Sichern nimmt Kommentare und Leerzeilen aus der Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
+        <translation>%1 ist anders gezeigt, als die Datei es hat. Sichern ersetzt die Datei durch das Gezeigte.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Save it first.</source>
+        <translation>%1 ist nicht gespeichert: %2. Erst sichern.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
+        <translation>Nur ein Teil von %1 ist da: Sichern oder Senden verlöre den Rest. Erneut öffnen oder den Teil unter anderem Namen sichern.</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -561,6 +930,41 @@
     </message>
 </context>
 <context>
+    <name>RowKeeper</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; what could not be read is %2.</source>
+        <translation>%1 fehlt; was nicht lesbar war, heißt %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2.</source>
+        <translation>%1 ist nicht gespeichert: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the file that stands there cannot be put aside: %2.</source>
+        <translation>%1 ist nicht gespeichert: Die vorhandene Datei lässt sich nicht beiseitelegen: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>%1 ist nicht lesbar: Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the panel&apos;s storage does not answer.</source>
+        <translation>%1 ist nicht gespeichert: Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether %1 is stored.</source>
+        <translation>Der Speicher des Panels antwortet nicht: Ob %1 gespeichert ist, ist unbekannt.</translation>
+    </message>
+</context>
+<context>
     <name>Settings</name>
     <message>
         <source>The settings file had errors and is now named %1. Please look over your settings.</source>
@@ -573,6 +977,17 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Die Einstellungen lassen sich nicht in %1 speichern. Was Sie wählen, gilt bis zum Programmende.</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>Whether another panel works on the same programs cannot be told: %1.</source>
+        <translation>Ob ein anderes Panel mit denselben Programmen arbeitet, lässt sich nicht feststellen: %1.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>Der Speicher des Panels antwortet nicht. Die Programme kommen, sobald er antwortet.</translation>
     </message>
 </context>
 <context>
@@ -695,6 +1110,45 @@
     <message>
         <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
         <translation>Der Einhängepunkt %1 gehört nicht diesem Programm. Um einen Stick auszuprobieren, mit „./run --stick DIR“ starten.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreCheck</name>
+    <message>
+        <source>the panel&apos;s storage stopped answering</source>
+        <translation>der Speicher des Panels antwortet nicht mehr</translation>
+    </message>
+    <message>
+        <source>the file holds something else than the editor</source>
+        <translation>in der Datei steht etwas anderes als im Editor</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
+        <translation>%1 ist nicht gespeichert: %2. Das ganze Programm steht nur im Editor.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal</translation>
+    </message>
+    <message>
+        <source>Save to the stick</source>
+        <translation>Auf den Stick</translation>
+    </message>
+    <message>
+        <source>the stick stopped answering</source>
+        <translation>der Stick antwortet nicht mehr</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick (%1)</source>
+        <translation>weder hier noch auf dem Stick (%1)</translation>
     </message>
 </context>
 <context>
@@ -841,6 +1295,22 @@
         <source>Taught program</source>
         <translation>Eingelerntes Programm</translation>
     </message>
+    <message>
+        <source>The list is empty. Store first puts that file aside.</source>
+        <translation>Die Liste ist leer. Sichern legt diese Datei erst beiseite.</translation>
+    </message>
+    <message>
+        <source>The list is empty. Try Load.</source>
+        <translation>Die Liste ist leer. Mit Laden versuchen.</translation>
+    </message>
+    <message>
+        <source>%1 is not there.</source>
+        <translation>%1 ist nicht da.</translation>
+    </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Die bisherige Datei heißt jetzt %1.</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -866,6 +1336,95 @@
     </message>
 </context>
 <context>
+    <name>UnsavedOffer</name>
+    <message>
+        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
+        <translation>Ungespeicherte Arbeit eines früheren Laufs ist nicht lesbar. Sie wurde beiseitegelegt: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back. It is offered again at the next start.</source>
+        <translation>%1 wurde nicht zurückgeholt. Beim nächsten Start wird es wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not stored yet.</source>
+        <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
+        <translation>%1 war nicht ganz geladen. Das Ungespeicherte davon ist jetzt ein neues Programm.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
+        <translation>%1 ist nicht mehr da. Das Ungespeicherte davon ist jetzt ein neues Programm.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
+        <translation>%1: zurückgeholt, noch nicht gespeichert. Die Datei hat sich seither geändert: Sichern überschreibt das.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet.</source>
+        <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>%1, %2, lines: %3</source>
+        <translation>%1, %2, Zeilen: %3</translation>
+    </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, Befehle: %3</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, Werte: %3</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedQuestion</name>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Ungespeicherte Arbeit</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Dies war beim Ende des Panels nicht gespeichert. Zurückholen?</translation>
+    </message>
+    <message>
+        <source>Throw away</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Keep for later</source>
+        <translation>Für später</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Ungespeicherte Arbeit endgültig verwerfen?</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedWork</name>
+    <message>
+        <source>the storage does not answer</source>
+        <translation>der Speicher antwortet nicht</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
+        <translation>Ungespeichertes lässt sich nicht gegen Stromausfall sichern: %1. Bald speichern.</translation>
+    </message>
+</context>
+<context>
     <name>VariablesScreen</name>
     <message>
         <source>Machine variables</source>
@@ -882,6 +1441,18 @@
     <message>
         <source>Variables stored: %1.</source>
         <translation>Gespeicherte Variablen: %1.</translation>
+    </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Die bisherige Datei heißt jetzt %1.</translation>
+    </message>
+    <message>
+        <source>The values are empty. Store first puts that file aside.</source>
+        <translation>Die Werte sind leer. Sichern legt diese Datei erst beiseite.</translation>
+    </message>
+    <message>
+        <source>The values are empty. Switch the panel off and on.</source>
+        <translation>Die Werte sind leer. Das Panel aus- und einschalten.</translation>
     </message>
 </context>
 </TS>

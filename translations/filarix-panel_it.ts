@@ -9,6 +9,45 @@
     </message>
 </context>
 <context>
+    <name>ConnectionFile</name>
+    <message>
+        <source>%1 cannot be made: %2.</source>
+        <translation>Impossibile creare %1: %2.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s temporary storage is full</source>
+        <translation>la memoria temporanea del pannello è piena</translation>
+    </message>
+    <message>
+        <source>the file was changed meanwhile. Edit them once more</source>
+        <translation>il file è stato modificato nel frattempo. Modificarli di nuovo</translation>
+    </message>
+    <message>
+        <source>the disk holds something else</source>
+        <translation>sul disco c&apos;è altro</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 è troppo grande.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>The connections cannot be read: the panel&apos;s temporary storage is full.</source>
+        <translation>Impossibile leggere le connessioni: la memoria temporanea del pannello è piena.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1.</source>
+        <translation>Gli indirizzi non sono salvati: %1.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -35,10 +74,6 @@
         <translation>Connessioni</translation>
     </message>
     <message>
-        <source>The addresses are not stored: %1 cannot be written.</source>
-        <translation>Indirizzi non salvati: impossibile scrivere %1.</translation>
-    </message>
-    <message>
         <source>No address was changed.</source>
         <translation>Nessun indirizzo modificato.</translation>
     </message>
@@ -49,6 +84,30 @@
     <message>
         <source>not set yet</source>
         <translation>da impostare</translation>
+    </message>
+    <message>
+        <source>%1 says that it holds %2 connections. The first %3 are shown.</source>
+        <translation>%1 dichiara %2 connessioni. Sono mostrate le prime %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>Impossibile leggere %1: la memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>The addresses cannot be edited: the panel&apos;s temporary storage is full.</source>
+        <translation>Impossibile modificare gli indirizzi: la memoria temporanea del pannello è piena.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: the panel&apos;s storage does not answer.</source>
+        <translation>Gli indirizzi non sono salvati: la memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether the addresses are stored.</source>
+        <translation>La memoria del pannello non risponde: non si sa se gli indirizzi sono salvati.</translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Caricamento ...</translation>
     </message>
 </context>
 <context>
@@ -80,6 +139,10 @@
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>%1 nel file, %2 mostrate</translation>
     </message>
 </context>
 <context>
@@ -172,6 +235,22 @@
         <source>History</source>
         <translation>Storico</translation>
     </message>
+    <message>
+        <source>The stick does not answer.</source>
+        <translation>La chiavetta non risponde.</translation>
+    </message>
+    <message>
+        <source>Does not answer. </source>
+        <translation>Non risponde. </translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Caricamento ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>La memoria del pannello non risponde.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -210,13 +289,6 @@
     <message>
         <source>%1 KB</source>
         <translation>%1 KB</translation>
-    </message>
-</context>
-<context>
-    <name>HistoryGuard</name>
-    <message>
-        <source>One moment: the history still takes in the programs. Touch once more.</source>
-        <translation>Un momento: lo storico sta ancora salvando i programmi. Toccare di nuovo.</translation>
     </message>
 </context>
 <context>
@@ -268,6 +340,58 @@
         <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
         <translation>Nessun trasferimento: il percorso %1 contiene caratteri che il trasferimento interpreterebbe male.</translation>
     </message>
+    <message>
+        <source>One moment: the panel looks at the programs and the stick.</source>
+        <translation>Un momento: il pannello controlla i programmi e la chiavetta.</translation>
+    </message>
+    <message>
+        <source>No stick is in: nothing was copied or deleted.</source>
+        <translation>Nessuna chiavetta inserita: nulla è stato copiato o eliminato.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Storico</translation>
+    </message>
+    <message>
+        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
+        <translation>%1 non è nello storico e non si può ripristinare. Continuare comunque?</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
+        <translation>La chiavetta non risponde: nulla è stato copiato, eliminato o rinominato. Toglierla e inserirla di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the stick, and compared.</source>
+        <translation>%1 è copiato sulla chiavetta e confrontato.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the panel, and compared.</source>
+        <translation>%1 è copiato sul pannello e confrontato.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the stick.</source>
+        <translation>%1 è eliminato dalla chiavetta.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the panel.</source>
+        <translation>%1 è eliminato dal pannello.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied.</source>
+        <translation>%1 non è stato copiato.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the one on the stick is gone.</source>
+        <translation>%1 non è stato copiato, e quello sulla chiavetta non c&apos;è più.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the panel&apos;s own is gone: bring it back from the history.</source>
+        <translation>%1 non è stato copiato, e quello sul pannello non c&apos;è più: ripristinarlo dallo storico.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
+        <translation>La copia di %1 è diversa dall&apos;originale. C&apos;è ancora spazio? Copiarlo di nuovo.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePicker</name>
@@ -302,12 +426,42 @@
         <source>Last</source>
         <translation>Fine</translation>
     </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Caricamento ...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>Stop</translation>
+    </message>
+</context>
+<context>
+    <name>MessageDialog</name>
+    <message>
+        <source>Messages</source>
+        <translation>Messaggi</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>There was nothing to tell yet.</source>
+        <translation>Ancora nessun messaggio.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelProgram</name>
+    <message>
+        <source>Panel</source>
+        <translation>Pannello</translation>
+    </message>
+    <message>
+        <source>Another panel works on the same programs. This one does not start.</source>
+        <translation>Un altro pannello lavora sugli stessi programmi. Questo non si avvia.</translation>
     </message>
 </context>
 <context>
@@ -343,6 +497,13 @@
     <message>
         <source>The translation is not installed.</source>
         <translation>La traduzione non è installata.</translation>
+    </message>
+</context>
+<context>
+    <name>PickerGuard</name>
+    <message>
+        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
+        <translation>%1 è aggiunto al nome. Premere OK per accettare, o toglierlo.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +560,113 @@
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>Il PLC non risponde più durante l&apos;invio. Controllare il PLC e il cavo, poi inviare di nuovo.</translation>
     </message>
+    <message>
+        <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
+        <translation>La copia di %1 è cambiata da quando è stata mostrata e non è stata inviata. Inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC does not say that it is stored: %2. Download once more.</source>
+        <translation>%1 è nel PLC, ma il PLC non conferma di averlo salvato: %2. Inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>What is in the PLC as %1 differs from what was sent. Do not run it; download once more.</source>
+        <translation>%1 nel PLC è diverso da quanto inviato. Non eseguirlo; inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
+        <translation>Il PLC non ha ancora comunicato l&apos;esito dell&apos;ultimo invio. Attendere, o spegnere e riaccendere il PLC, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
+        <translation>Il PLC non risponde più mentre riceveva %1: non si sa se contiene il vecchio o il nuovo. Controllare il PLC, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
+        <translation>%1 è nel PLC, ma il PLC non risponde più da prima del confronto. Controllare il PLC, poi inviare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramGuard</name>
+    <message>
+        <source>A program is being loaded. Wait until all of it is here.</source>
+        <translation>Caricamento di un programma in corso. Attendere che sia completo.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s storage does not answer</source>
+        <translation>la memoria del pannello non risponde</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Save without them</source>
+        <translation>Salva senza</translation>
+    </message>
+    <message>
+        <source>Save as shown</source>
+        <translation>Salva come mostrato</translation>
+    </message>
+    <message>
+        <source>Other name</source>
+        <translation>Altro nome</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Do not switch off: the whole program is only in the editor.</source>
+        <translation>%1 non è salvato: %2. Non spegnere: il programma completo è solo nell&apos;editor.</translation>
+    </message>
+    <message>
+        <source>%1 saved, %2 lines.</source>
+        <translation>%1 salvato, %2 righe.</translation>
+    </message>
+    <message>
+        <source>%1 has characters that the file cannot hold; they were replaced.</source>
+        <translation>%1 contiene caratteri che il file non può contenere; sono stati sostituiti.</translation>
+    </message>
+    <message>
+        <source>%1 is on the stick as %2. On the panel it is not stored: %3.</source>
+        <translation>%1 è sulla chiavetta come %2. Sul pannello non è salvato: %3.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>La memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file. Take another name.</source>
+        <translation>%1 non è un file di programma. Scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Salva con nome</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
+        <translation>%1 esiste già: %2 righe, del %3. Sovrascriverlo con questo programma, %4 righe?</translation>
+    </message>
+    <message>
+        <source>Write over it</source>
+        <translation>Sovrascrivi</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>%1 is open, with changes that are not saved. They are lost with it.</source>
+        <translation>%1 è aperto, con modifiche non salvate. Vanno perse anch&apos;esse.</translation>
+    </message>
+    <message>
+        <source>Remove it</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed: it is still there.</source>
+        <translation>Impossibile eliminare %1: c&apos;è ancora.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramHistory</name>
@@ -413,10 +681,6 @@
     <message>
         <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
         <translation>Questa versione di %1 è danneggiata e non è stata ripristinata. Provare la precedente.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be replaced in the program directory.</source>
-        <translation>Impossibile sostituire %1 nella cartella dei programmi.</translation>
     </message>
     <message>
         <source>%1 is brought back: %2 %</source>
@@ -445,6 +709,64 @@
     <message>
         <source>%1 is back as of %2. Open it to see it.</source>
         <translation>%1 è ripristinato al %2. Aprirlo per vederlo.</translation>
+    </message>
+    <message>
+        <source>%1 is back, but it is not certain that it is stored: %2.</source>
+        <translation>%1 è ripristinato, ma non è certo che sia salvato: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: it is being written. Try again when that is over.</source>
+        <translation>%1 non è stato ripristinato: è in fase di scrittura. Riprovare quando è finita.</translation>
+    </message>
+    <message>
+        <source>The history has not taken in %1 yet.</source>
+        <translation>Lo storico non ha ancora salvato %1.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
+        <translation>%1 non è stato ripristinato: la memoria del pannello non ha ancora finito l&apos;ultimo ripristino. Spegnere e riaccendere il pannello.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
+        <translation>La memoria del pannello non risponde più durante il ripristino di %1: non si sa quale versione sia ora. Spegnere e riaccendere il pannello.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramKeeper</name>
+    <message>
+        <source>One moment: the history takes in the program first.</source>
+        <translation>Un momento: prima lo storico salva il programma.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Storico</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 Lo stato attuale di %2 andrebbe perso.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Comunque</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Give the program a name.</source>
+        <translation>Dare un nome al programma.</translation>
+    </message>
+    <message>
+        <source>A name holds no &quot;/&quot;: programs lie in one folder.</source>
+        <translation>Un nome non contiene &quot;/&quot;: i programmi stanno in una sola cartella.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
+        <translation>Un nome che inizia con un punto non appare negli elenchi. Sceglierne un altro.</translation>
     </message>
 </context>
 <context>
@@ -509,6 +831,10 @@
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 è nel PLC come mostrato, %2. Sul pannello non c&apos;è più.</translation>
     </message>
+    <message>
+        <source>The program is still being loaded or saved. Close the panel after that.</source>
+        <translation>Il programma è ancora in caricamento o salvataggio. Chiudere il pannello dopo.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -546,6 +872,49 @@
     </message>
 </context>
 <context>
+    <name>ProgramState</name>
+    <message>
+        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
+        <translation>%1 righe nel file, %2 mostrate: senza commenti e righe vuote</translation>
+    </message>
+    <message>
+        <source>Not compared with the file: %1</source>
+        <translation>Non confrontato con il file: %1</translation>
+    </message>
+    <message>
+        <source>Not as in the file: it has characters that cannot be shown, or has changed</source>
+        <translation>Diverso dal file: ha caratteri non mostrabili, o è cambiato</translation>
+    </message>
+    <message>
+        <source>Not as in the file: %1 lines there, %2 shown</source>
+        <translation>Diverso dal file: là %1 righe, mostrate %2</translation>
+    </message>
+    <message>
+        <source>Incomplete: %1 lines in the file, %2 shown</source>
+        <translation>Incompleto: %1 righe nel file, %2 mostrate</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2</source>
+        <translation>%1 non è salvato: %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
+        <translation>%1 ha %2 righe nel file, %3 mostrate. Salvando, commenti e righe vuote spariscono dal file.</translation>
+    </message>
+    <message>
+        <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
+        <translation>%1 è mostrato diversamente dal file. Salvando, il file è sostituito da quanto mostrato.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Save it first.</source>
+        <translation>%1 non è salvato: %2. Salvarlo prima.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
+        <translation>Solo una parte di %1 è presente: salvando o inviando si perderebbe il resto. Riaprirlo, o salvare la parte con un altro nome.</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -561,6 +930,41 @@
     </message>
 </context>
 <context>
+    <name>RowKeeper</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 è troppo grande.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; what could not be read is %2.</source>
+        <translation>%1 manca; ciò che non era leggibile è %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2.</source>
+        <translation>%1 non è salvato: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the file that stands there cannot be put aside: %2.</source>
+        <translation>%1 non è salvato: il file presente non si può mettere da parte: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>Impossibile leggere %1: la memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the panel&apos;s storage does not answer.</source>
+        <translation>%1 non è salvato: la memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether %1 is stored.</source>
+        <translation>La memoria del pannello non risponde: non si sa se %1 è salvato.</translation>
+    </message>
+</context>
+<context>
     <name>Settings</name>
     <message>
         <source>The settings file had errors and is now named %1. Please look over your settings.</source>
@@ -573,6 +977,17 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Le impostazioni non si possono salvare in %1. Le scelte valgono fino alla chiusura del programma.</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>Whether another panel works on the same programs cannot be told: %1.</source>
+        <translation>Impossibile stabilire se un altro pannello lavora sugli stessi programmi: %1.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>La memoria del pannello non risponde. I programmi appariranno quando risponderà.</translation>
     </message>
 </context>
 <context>
@@ -695,6 +1110,45 @@
     <message>
         <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
         <translation>Il punto di montaggio %1 non appartiene a questo programma. Per provare una chiavetta, avviarlo con &quot;./run --stick DIR&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreCheck</name>
+    <message>
+        <source>the panel&apos;s storage stopped answering</source>
+        <translation>la memoria del pannello non risponde più</translation>
+    </message>
+    <message>
+        <source>the file holds something else than the editor</source>
+        <translation>il file contiene altro rispetto all&apos;editor</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
+        <translation>%1 non è salvato: %2. Il programma completo è solo nell&apos;editor.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Più tardi</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Save to the stick</source>
+        <translation>Sulla chiavetta</translation>
+    </message>
+    <message>
+        <source>the stick stopped answering</source>
+        <translation>la chiavetta non risponde più</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick (%1)</source>
+        <translation>né qui né sulla chiavetta (%1)</translation>
     </message>
 </context>
 <context>
@@ -841,6 +1295,22 @@
         <source>Taught program</source>
         <translation>Programma appreso</translation>
     </message>
+    <message>
+        <source>The list is empty. Store first puts that file aside.</source>
+        <translation>L&apos;elenco è vuoto. &quot;Salva&quot; mette prima da parte quel file.</translation>
+    </message>
+    <message>
+        <source>The list is empty. Try Load.</source>
+        <translation>L&apos;elenco è vuoto. Provare &quot;Carica&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 is not there.</source>
+        <translation>%1 non c&apos;è.</translation>
+    </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Il file precedente ora si chiama %1.</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -866,6 +1336,95 @@
     </message>
 </context>
 <context>
+    <name>UnsavedOffer</name>
+    <message>
+        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
+        <translation>Il lavoro non salvato di una sessione precedente non è leggibile. È stato messo da parte: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back. It is offered again at the next start.</source>
+        <translation>%1 non è stato ripristinato. Sarà riproposto al prossimo avvio.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not stored yet.</source>
+        <translation>%1: ripristinato, non ancora salvato.</translation>
+    </message>
+    <message>
+        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
+        <translation>%1 non era stato caricato per intero. La parte non salvata ora è un nuovo programma.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
+        <translation>%1 non c&apos;è più. La parte non salvata ora è un nuovo programma.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
+        <translation>%1: ripristinato, non ancora salvato. Il file è cambiato da allora: &quot;Salva&quot; lo sovrascrive.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet.</source>
+        <translation>%1: ripristinato, non ancora salvato.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabili</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Senza nome</translation>
+    </message>
+    <message>
+        <source>%1, %2, lines: %3</source>
+        <translation>%1, %2, righe: %3</translation>
+    </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, istruzioni: %3</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, valori: %3</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedQuestion</name>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Lavoro non salvato</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Non era salvato quando il pannello è terminato. Ripristinare?</translation>
+    </message>
+    <message>
+        <source>Throw away</source>
+        <translation>Scarta</translation>
+    </message>
+    <message>
+        <source>Keep for later</source>
+        <translation>Più tardi</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Scartare per sempre il lavoro non salvato?</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedWork</name>
+    <message>
+        <source>the storage does not answer</source>
+        <translation>la memoria non risponde</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
+        <translation>Le modifiche non salvate non sono protette da un blackout: %1. Salvare presto.</translation>
+    </message>
+</context>
+<context>
     <name>VariablesScreen</name>
     <message>
         <source>Machine variables</source>
@@ -882,6 +1441,18 @@
     <message>
         <source>Variables stored: %1.</source>
         <translation>Variabili salvate: %1.</translation>
+    </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Il file precedente ora si chiama %1.</translation>
+    </message>
+    <message>
+        <source>The values are empty. Store first puts that file aside.</source>
+        <translation>I valori sono vuoti. &quot;Salva&quot; mette prima da parte quel file.</translation>
+    </message>
+    <message>
+        <source>The values are empty. Switch the panel off and on.</source>
+        <translation>I valori sono vuoti. Spegnere e riaccendere il pannello.</translation>
     </message>
 </context>
 </TS>

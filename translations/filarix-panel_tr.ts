@@ -9,6 +9,45 @@
     </message>
 </context>
 <context>
+    <name>ConnectionFile</name>
+    <message>
+        <source>%1 cannot be made: %2.</source>
+        <translation>%1 oluşturulamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s temporary storage is full</source>
+        <translation>panelin geçici belleği dolu</translation>
+    </message>
+    <message>
+        <source>the file was changed meanwhile. Edit them once more</source>
+        <translation>dosya bu arada değişti. Yeniden düzenleyin</translation>
+    </message>
+    <message>
+        <source>the disk holds something else</source>
+        <translation>diskteki içerik farklı</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 çok büyük.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 bir dosya değil.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The connections cannot be read: the panel&apos;s temporary storage is full.</source>
+        <translation>Bağlantılar okunamıyor: panelin geçici belleği dolu.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1.</source>
+        <translation>Adresler kaydedilmedi: %1.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -35,10 +74,6 @@
         <translation>Bağlantılar</translation>
     </message>
     <message>
-        <source>The addresses are not stored: %1 cannot be written.</source>
-        <translation>Adresler kaydedilmedi: %1 yazılamıyor.</translation>
-    </message>
-    <message>
         <source>No address was changed.</source>
         <translation>Hiçbir adres değişmedi.</translation>
     </message>
@@ -49,6 +84,30 @@
     <message>
         <source>not set yet</source>
         <translation>henüz ayarlanmadı</translation>
+    </message>
+    <message>
+        <source>%1 says that it holds %2 connections. The first %3 are shown.</source>
+        <translation>%1 dosyasına göre %2 bağlantı var. İlk %3 tanesi gösteriliyor.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>%1 okunamıyor: panelin belleği yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>The addresses cannot be edited: the panel&apos;s temporary storage is full.</source>
+        <translation>Adresler düzenlenemiyor: panelin geçici belleği dolu.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: the panel&apos;s storage does not answer.</source>
+        <translation>Adresler kaydedilmedi: panelin belleği yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether the addresses are stored.</source>
+        <translation>Panelin belleği yanıt vermiyor: adreslerin kaydedilip kaydedilmediği bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Yükleniyor ...</translation>
     </message>
 </context>
 <context>
@@ -80,6 +139,10 @@
     <message>
         <source>Cancel</source>
         <translation>İptal</translation>
+    </message>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>Dosyada %1, ekranda %2</translation>
     </message>
 </context>
 <context>
@@ -172,6 +235,22 @@
         <source>History</source>
         <translation>Geçmiş</translation>
     </message>
+    <message>
+        <source>The stick does not answer.</source>
+        <translation>Bellek yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>Does not answer. </source>
+        <translation>Yanıt vermiyor. </translation>
+    </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Yükleniyor ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Panelin belleği yanıt vermiyor.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -210,13 +289,6 @@
     <message>
         <source>%1 KB</source>
         <translation>%1 KB</translation>
-    </message>
-</context>
-<context>
-    <name>HistoryGuard</name>
-    <message>
-        <source>One moment: the history still takes in the programs. Touch once more.</source>
-        <translation>Bir dakika: geçmiş programları hâlâ saklıyor. Yeniden dokunun.</translation>
     </message>
 </context>
 <context>
@@ -268,6 +340,58 @@
         <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
         <translation>Aktarım yok: %1 yolunda aktarımın yanlış anlayacağı karakterler var.</translation>
     </message>
+    <message>
+        <source>One moment: the panel looks at the programs and the stick.</source>
+        <translation>Bir saniye: panel programlara ve belleğe bakıyor.</translation>
+    </message>
+    <message>
+        <source>No stick is in: nothing was copied or deleted.</source>
+        <translation>Bellek takılı değil: hiçbir şey kopyalanmadı ya da silinmedi.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
+        <translation>%1 geçmişte yok ve geri alınamaz. Yine de devam edilsin mi?</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
+        <translation>Bellek yanıt vermiyor: hiçbir şey kopyalanmadı, silinmedi ya da yeniden adlandırılmadı. Çıkarıp yeniden takın.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the stick, and compared.</source>
+        <translation>%1 belleğe kopyalandı ve karşılaştırıldı.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the panel, and compared.</source>
+        <translation>%1 panele kopyalandı ve karşılaştırıldı.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the stick.</source>
+        <translation>%1 bellekten silindi.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the panel.</source>
+        <translation>%1 panelden silindi.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied.</source>
+        <translation>%1 kopyalanmadı.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the one on the stick is gone.</source>
+        <translation>%1 kopyalanmadı ve bellekteki de artık yok.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the panel&apos;s own is gone: bring it back from the history.</source>
+        <translation>%1 kopyalanmadı ve paneldeki de artık yok: geçmişten geri alın.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
+        <translation>%1 kopyası aslından farklı. Yer var mı? Yeniden kopyalayın.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePicker</name>
@@ -302,12 +426,42 @@
         <source>Last</source>
         <translation>Son</translation>
     </message>
+    <message>
+        <source>Loading ...</source>
+        <translation>Yükleniyor ...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>Durdur</translation>
+    </message>
+</context>
+<context>
+    <name>MessageDialog</name>
+    <message>
+        <source>Messages</source>
+        <translation>İletiler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>There was nothing to tell yet.</source>
+        <translation>Henüz ileti yok.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelProgram</name>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Another panel works on the same programs. This one does not start.</source>
+        <translation>Başka bir panel aynı programlarla çalışıyor. Bu panel başlamaz.</translation>
     </message>
 </context>
 <context>
@@ -343,6 +497,13 @@
     <message>
         <source>The translation is not installed.</source>
         <translation>Çeviri kurulu değil.</translation>
+    </message>
+</context>
+<context>
+    <name>PickerGuard</name>
+    <message>
+        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
+        <translation>Ada %1 eklendi. Kabul için Tamam&apos;a basın ya da silin.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +560,113 @@
         <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
         <translation>PLC yükleme sırasında yanıt vermeyi kesti. PLC&apos;yi ve kablosunu denetleyip yeniden yükleyin.</translation>
     </message>
+    <message>
+        <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
+        <translation>%1 kopyası gösterildikten sonra değişti, yüklenmedi. Yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC does not say that it is stored: %2. Download once more.</source>
+        <translation>%1 PLC&apos;de, ama PLC kaydettiğini doğrulamıyor: %2. Yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>What is in the PLC as %1 differs from what was sent. Do not run it; download once more.</source>
+        <translation>PLC&apos;deki %1 gönderilenden farklı. Çalıştırmayın; yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
+        <translation>PLC son yüklemenin sonucunu henüz bildirmedi. Bekleyin ya da PLC&apos;yi kapatıp açın, sonra yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
+        <translation>PLC %1 alınırken yanıt vermeyi kesti: eskisi mi yenisi mi içinde, bilinmiyor. PLC&apos;yi denetleyip yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
+        <translation>%1 PLC&apos;de, ama PLC karşılaştırmadan önce yanıt vermeyi kesti. PLC&apos;yi denetleyip yeniden yükleyin.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramGuard</name>
+    <message>
+        <source>A program is being loaded. Wait until all of it is here.</source>
+        <translation>Bir program açılıyor. Tamamı gelene kadar bekleyin.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s storage does not answer</source>
+        <translation>panelin belleği yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Save without them</source>
+        <translation>Bunlarsız kaydet</translation>
+    </message>
+    <message>
+        <source>Save as shown</source>
+        <translation>Göründüğü gibi</translation>
+    </message>
+    <message>
+        <source>Other name</source>
+        <translation>Başka ad</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Do not switch off: the whole program is only in the editor.</source>
+        <translation>%1 kaydedilmedi: %2. Kapatmayın: programın tamamı yalnız düzenleyicide.</translation>
+    </message>
+    <message>
+        <source>%1 saved, %2 lines.</source>
+        <translation>%1 kaydedildi, %2 satır.</translation>
+    </message>
+    <message>
+        <source>%1 has characters that the file cannot hold; they were replaced.</source>
+        <translation>%1 içinde dosyanın tutamadığı karakterler var; değiştirildiler.</translation>
+    </message>
+    <message>
+        <source>%1 is on the stick as %2. On the panel it is not stored: %3.</source>
+        <translation>%1 bellekte %2 adıyla. Panelde kaydedilmedi: %3.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Panelin belleği yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file. Take another name.</source>
+        <translation>%1 bir program dosyası değil. Başka bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Farklı kaydet</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
+        <translation>%1 zaten var: %2 satır, %3 tarihli. Üzerine bu program yazılsın mı, %4 satır?</translation>
+    </message>
+    <message>
+        <source>Write over it</source>
+        <translation>Üzerine yaz</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>%1 is open, with changes that are not saved. They are lost with it.</source>
+        <translation>%1 açık ve kaydedilmemiş değişiklikleri var. Onlar da silinir.</translation>
+    </message>
+    <message>
+        <source>Remove it</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed: it is still there.</source>
+        <translation>%1 silinemedi: hâlâ duruyor.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramHistory</name>
@@ -413,10 +681,6 @@
     <message>
         <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
         <translation>%1 programının bu sürümü bozuk, geri alınmadı. Bir öncekini deneyin.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be replaced in the program directory.</source>
-        <translation>%1 program klasöründe değiştirilemiyor.</translation>
     </message>
     <message>
         <source>%1 is brought back: %2 %</source>
@@ -445,6 +709,64 @@
     <message>
         <source>%1 is back as of %2. Open it to see it.</source>
         <translation>%1 geri alındı, %2 tarihli. Görmek için açın.</translation>
+    </message>
+    <message>
+        <source>%1 is back, but it is not certain that it is stored: %2.</source>
+        <translation>%1 geri alındı, ama kaydedildiği kesin değil: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: it is being written. Try again when that is over.</source>
+        <translation>%1 geri alınmadı: şu anda yazılıyor. Bitince yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The history has not taken in %1 yet.</source>
+        <translation>Geçmiş %1 dosyasını henüz saklamadı.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
+        <translation>%1 geri alınmadı: panelin belleği son geri almayı henüz bitirmedi. Paneli kapatıp açın.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
+        <translation>%1 geri alınırken panelin belleği yanıt vermeyi kesti: şimdi hangi sürüm olduğu bilinmiyor. Paneli kapatıp açın.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramKeeper</name>
+    <message>
+        <source>One moment: the history takes in the program first.</source>
+        <translation>Bir saniye: geçmiş önce programı saklıyor.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 %2 dosyasının şimdiki hâli kaybolur.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Yine de</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Give the program a name.</source>
+        <translation>Programa bir ad verin.</translation>
+    </message>
+    <message>
+        <source>A name holds no &quot;/&quot;: programs lie in one folder.</source>
+        <translation>Adda &quot;/&quot; olmaz: programlar tek bir klasörde durur.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
+        <translation>Noktayla başlayan ad listelerde görünmez. Başka bir ad seçin.</translation>
     </message>
 </context>
 <context>
@@ -509,6 +831,10 @@
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde artık yok.</translation>
     </message>
+    <message>
+        <source>The program is still being loaded or saved. Close the panel after that.</source>
+        <translation>Program hâlâ açılıyor ya da kaydediliyor. Paneli sonra kapatın.</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -546,6 +872,49 @@
     </message>
 </context>
 <context>
+    <name>ProgramState</name>
+    <message>
+        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
+        <translation>Dosyada %1 satır, ekranda %2: yorumlar ve boş satırlar atlandı</translation>
+    </message>
+    <message>
+        <source>Not compared with the file: %1</source>
+        <translation>Dosyayla karşılaştırılmadı: %1</translation>
+    </message>
+    <message>
+        <source>Not as in the file: it has characters that cannot be shown, or has changed</source>
+        <translation>Dosyadan farklı: gösterilemeyen karakterler var ya da dosya değişti</translation>
+    </message>
+    <message>
+        <source>Not as in the file: %1 lines there, %2 shown</source>
+        <translation>Dosyadan farklı: dosyada %1 satır, ekranda %2</translation>
+    </message>
+    <message>
+        <source>Incomplete: %1 lines in the file, %2 shown</source>
+        <translation>Eksik: dosyada %1 satır, ekranda %2</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2</source>
+        <translation>%1 kaydedilmedi: %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
+        <translation>%1 dosyada %2 satır, ekranda %3. Kaydetmek yorumları ve boş satırları dosyadan siler.</translation>
+    </message>
+    <message>
+        <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
+        <translation>%1 dosyadakinden farklı gösteriliyor. Kaydetmek dosyayı gösterilenle değiştirir.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Save it first.</source>
+        <translation>%1 kaydedilmedi: %2. Önce kaydedin.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
+        <translation>%1 programının yalnız bir kısmı burada: kaydetmek ya da yüklemek kalanını kaybettirir. Yeniden açın ya da kısmı başka adla kaydedin.</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -561,6 +930,41 @@
     </message>
 </context>
 <context>
+    <name>RowKeeper</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 bir dosya değil.</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 çok büyük.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; what could not be read is %2.</source>
+        <translation>%1 yok; okunamayan içerik %2 dosyasında.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2.</source>
+        <translation>%1 kaydedilmedi: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the file that stands there cannot be put aside: %2.</source>
+        <translation>%1 kaydedilmedi: oradaki dosya kenara alınamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>%1 okunamıyor: panelin belleği yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the panel&apos;s storage does not answer.</source>
+        <translation>%1 kaydedilmedi: panelin belleği yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether %1 is stored.</source>
+        <translation>Panelin belleği yanıt vermiyor: %1 kaydedildi mi, bilinmiyor.</translation>
+    </message>
+</context>
+<context>
     <name>Settings</name>
     <message>
         <source>The settings file had errors and is now named %1. Please look over your settings.</source>
@@ -573,6 +977,17 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Ayarlar %1 dosyasına kaydedilemiyor. Seçimleriniz program kapanana kadar geçerlidir.</translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>Whether another panel works on the same programs cannot be told: %1.</source>
+        <translation>Başka bir panelin aynı programlarla çalışıp çalışmadığı anlaşılamıyor: %1.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>Panelin belleği yanıt vermiyor. Yanıt verince programlar gelir.</translation>
     </message>
 </context>
 <context>
@@ -695,6 +1110,45 @@
     <message>
         <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
         <translation>%1 bağlama noktası bu programın değiştirebileceği bir yer değil. Bellek denemek için &quot;./run --stick DIR&quot; ile başlatın.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreCheck</name>
+    <message>
+        <source>the panel&apos;s storage stopped answering</source>
+        <translation>panelin belleği artık yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>the file holds something else than the editor</source>
+        <translation>dosyadaki, düzenleyicidekinden farklı</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
+        <translation>%1 kaydedilmedi: %2. Programın tamamı yalnız düzenleyicide.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Sonra</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message>
+        <source>Save to the stick</source>
+        <translation>Belleğe kaydet</translation>
+    </message>
+    <message>
+        <source>the stick stopped answering</source>
+        <translation>bellek artık yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick (%1)</source>
+        <translation>ne burada ne bellekte (%1)</translation>
     </message>
 </context>
 <context>
@@ -841,6 +1295,22 @@
         <source>Taught program</source>
         <translation>Öğretilmiş program</translation>
     </message>
+    <message>
+        <source>The list is empty. Store first puts that file aside.</source>
+        <translation>Liste boş. &quot;Kaydet&quot; önce o dosyayı kenara alır.</translation>
+    </message>
+    <message>
+        <source>The list is empty. Try Load.</source>
+        <translation>Liste boş. &quot;Aç&quot; ile deneyin.</translation>
+    </message>
+    <message>
+        <source>%1 is not there.</source>
+        <translation>%1 yok.</translation>
+    </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Önceki dosyanın adı artık %1.</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -866,6 +1336,95 @@
     </message>
 </context>
 <context>
+    <name>UnsavedOffer</name>
+    <message>
+        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
+        <translation>Önceki çalışmanın kaydedilmemiş işi okunamıyor. Kenara alındı: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back. It is offered again at the next start.</source>
+        <translation>%1 geri alınmadı. Sonraki açılışta yeniden sunulur.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not stored yet.</source>
+        <translation>%1: geri alındı, henüz kaydedilmedi.</translation>
+    </message>
+    <message>
+        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
+        <translation>%1 tam açılmamıştı. Kaydedilmemiş kısmı artık yeni bir program.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
+        <translation>%1 artık yok. Kaydedilmemiş içeriği artık yeni bir program.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
+        <translation>%1: geri alındı, henüz kaydedilmedi. Dosya o zamandan beri değişti: &quot;Kaydet&quot; üzerine yazar.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet.</source>
+        <translation>%1: geri alındı, henüz kaydedilmedi.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Değişken</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Adsız</translation>
+    </message>
+    <message>
+        <source>%1, %2, lines: %3</source>
+        <translation>%1, %2, satır: %3</translation>
+    </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, komut: %3</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, değer: %3</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedQuestion</name>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Kaydedilmemiş iş</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Panel kapandığında bunlar kaydedilmemişti. Geri alınsın mı?</translation>
+    </message>
+    <message>
+        <source>Throw away</source>
+        <translation>At</translation>
+    </message>
+    <message>
+        <source>Keep for later</source>
+        <translation>Sonraya sakla</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Kaydedilmemiş iş tümüyle atılsın mı?</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedWork</name>
+    <message>
+        <source>the storage does not answer</source>
+        <translation>bellek yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
+        <translation>Kaydedilmeyenler elektrik kesintisine karşı saklanamıyor: %1. Kısa sürede kaydedin.</translation>
+    </message>
+</context>
+<context>
     <name>VariablesScreen</name>
     <message>
         <source>Machine variables</source>
@@ -882,6 +1441,18 @@
     <message>
         <source>Variables stored: %1.</source>
         <translation>Kaydedilen değişken: %1.</translation>
+    </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Önceki dosyanın adı artık %1.</translation>
+    </message>
+    <message>
+        <source>The values are empty. Store first puts that file aside.</source>
+        <translation>Değerler boş. &quot;Kaydet&quot; önce o dosyayı kenara alır.</translation>
+    </message>
+    <message>
+        <source>The values are empty. Switch the panel off and on.</source>
+        <translation>Değerler boş. Paneli kapatıp açın.</translation>
     </message>
 </context>
 </TS>
