@@ -8,14 +8,17 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QPlainTextEdit>
 #include <QString>
+#include <QSyntaxHighlighter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QVector>
 
-#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-/// Qt 4 calls languageChange() itself on QEvent::LanguageChange; here changeEvent() has to.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0) || defined(Q_WS_QWS)
+/// Qt 4 with its support of Qt 3 calls languageChange() itself on QEvent::LanguageChange. Qt 5 and
+/// Qt for Embedded Linux, which have none, leave it to changeEvent().
 #define FILARIX_LANGUAGE_CHANGE_BY_EVENT 1
 #endif
 
@@ -32,6 +35,17 @@ inline void setSectionResizeMode(QHeaderView *header, int section, QHeaderView::
     header->setSectionResizeMode(section, mode);
 #else
     header->setResizeMode(section, mode);
+#endif
+}
+
+/// The 8-bit text that a shell command is made of: Qt 4 writes it in the codec for C strings, which
+/// is a host's to choose; Qt 5 has none, and writes Latin-1, as Qt 4 does without a choice.
+inline QByteArray toAscii(const QString &text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return text.toLatin1();
+#else
+    return text.toAscii();
 #endif
 }
 
@@ -68,6 +82,27 @@ inline QString translateUtf8(const char *context, const char *text)
     return QCoreApplication::translate(context, text);
 #else
     return QCoreApplication::translate(context, text, nullptr, QCoreApplication::UnicodeUTF8);
+#endif
+}
+
+/// Qt 4 notes how a view scrolls and reckons with it at the next change of the text only.
+inline void setCenterOnScroll(QPlainTextEdit *view, bool on)
+{
+    view->setCenterOnScroll(on);
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    QMetaObject::invokeMethod(view, "_q_adjustScrollbars", Qt::DirectConnection);
+#endif
+}
+
+/// A new highlighter of Qt 4 colours the document once events are served, unless the document has
+/// changed by then. Whoever takes over its reaction to changes has to tell it of the first one.
+inline void forgetFirstColouring(QSyntaxHighlighter *highlighter)
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    QMetaObject::invokeMethod(highlighter, "_q_reformatBlocks", Qt::DirectConnection, Q_ARG(int, 0),
+                              Q_ARG(int, 0), Q_ARG(int, 0));
+#else
+    Q_UNUSED(highlighter);
 #endif
 }
 

@@ -99,6 +99,7 @@ BlockFormatter::BlockFormatter(WHighlighter *highlighter)
     : QObject(highlighter)
     , m_highlighter(highlighter)
     , m_document(highlighter->document())
+    , m_hasSeenAChange(false)
     , m_expectedPosition(0)
 {
     Q_FOREACH (const WHighlighter::WHighlightingRule &rule, highlighter->rules())
@@ -151,6 +152,10 @@ void BlockFormatter::formatChange(int from, int removed, int added)
     // What was removed may have joined the last block with the one behind it.
     const QTextBlock last = m_document->findBlock(from + added + (removed > 0 ? 1 : 0));
     formatBlocks(m_document->findBlock(from), last.isValid() ? last : m_document->lastBlock());
+    if (m_hasSeenAChange)
+        return;
+    m_hasSeenAChange = true;
+    Compat::forgetFirstColouring(m_highlighter); // the first block is right, so it stays
 }
 
 void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &last)

@@ -54,6 +54,7 @@ private:
 
     WHighlighter *m_highlighter;
     QTextDocument *m_document;
+    bool m_hasSeenAChange;
     QVector<QTextCharFormat> m_formats;
     Compat::FormatRanges m_ranges; // of the block at hand
     QString m_expectedText;

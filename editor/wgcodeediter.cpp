@@ -116,14 +116,14 @@ void PieceAppender::rest()
     m_view->setUpdatesEnabled(false);
     m_followsEnd = bar()->value() == bar()->maximum();
     // A view that may scroll its last line to the centre knows its range without any layout.
-    m_view->setCenterOnScroll(true);
+    Compat::setCenterOnScroll(m_view, true);
     m_restingValue = bar()->value();
 }
 
 void PieceAppender::wake()
 {
     const bool isWhereItWas = bar()->value() == m_restingValue;
-    m_view->setCenterOnScroll(m_wasCentring);
+    Compat::setCenterOnScroll(m_view, m_wasCentring);
     // A view at its end stays there while text is appended, unless it was scrolled meanwhile.
     if (m_followsEnd && isWhereItWas && m_view->isVisible())
         bar()->setValue(bar()->maximum());
@@ -361,7 +361,7 @@ QString WGCodeEditer::preproccess(QStringList lines)
         const int length = comment < 0 ? line.size() : comment;
         if (length == 0)
             continue;
-        result.append(line.constData(), length);
+        result.append(QString(line.constData(), length));
         result.append(QLatin1Char('\n'));
     }
     result.chop(1);

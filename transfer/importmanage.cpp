@@ -3,6 +3,7 @@
 
 #include "importmanage.h"
 
+#include "compat.h"
 #include "hmidirmodel.h"
 #include "messagebox.h"
 #include "waqp.h"
@@ -179,14 +180,14 @@ int ImportManage::isSatisfyTheCondition(const QString &name, bool cover)
 int ImportManage::copyFile(const QString &srcDir, const QString &srcName, const QString &dstDir,
                            const QString &dstName)
 {
-    const QByteArray source = join(srcDir, srcName).toLatin1();
-    const QByteArray destination = join(dstDir, dstName).toLatin1();
+    const QByteArray source = Compat::toAscii(join(srcDir, srcName));
+    const QByteArray destination = Compat::toAscii(join(dstDir, dstName));
     return runCommand("cp " + source + ' ' + destination + ' ' + "-rf ");
 }
 
 int ImportManage::deleteFile(const QString &dir, const QString &name)
 {
-    return runCommand("rm " + join(dir, name).toLatin1() + ' ' + "-rf");
+    return runCommand("rm " + Compat::toAscii(join(dir, name)) + ' ' + "-rf");
 }
 
 void ImportManage::slot_copyFromHmiToUsb()
