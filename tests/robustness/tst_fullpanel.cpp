@@ -51,6 +51,7 @@ private Q_SLOTS:
     void copyFromTheStickSaysSo();
     void windowSettingsStayAsTheyWere();
     void connectionFileStaysAsItWas();
+    void connectionFileThatGrowsIsCutWhereItIsWrittenInPlace();
 };
 
 void TestFullPanel::programThatDoesNotFitIsCutWithoutAWord()
@@ -137,7 +138,7 @@ void TestFullPanel::copyFromTheStickSaysSo()
 
 void TestFullPanel::windowSettingsStayAsTheyWere()
 {
-    const QString path = home() + "/.config/Corvane Soft/G Code.conf";
+    const QString path = home() + TestCompat::settingsFolder() + "/Corvane Soft/G Code.conf";
     const QByteArray before("[MainWindow]\npos=@Point(7 8)\nsize=@Size(640 400)\n");
     writeFile(path, before);
     fillHome();
@@ -146,7 +147,11 @@ void TestFullPanel::windowSettingsStayAsTheyWere()
         QCOMPARE(window.size(), QSize(640, 400));
         window.resize(700, 500);
     }
-    QCOMPARE(readFile(path), before);
+    // In place the new ones take the room of the old ones.
+    QByteArray after = before;
+    if (TestCompat::settingsAreWrittenInPlace())
+        after.replace("640 400", "700 500");
+    QCOMPARE(readFile(path), after);
 }
 
 void TestFullPanel::connectionFileStaysAsItWas()
@@ -160,7 +165,34 @@ void TestFullPanel::connectionFileStaysAsItWas()
     editor.findChild<ComboLineEdit *>()->setText(QLatin1String("4.3.2.1"));
     editor.on_save_clicked();
     QCOMPARE(editor.result(), int(QDialog::Accepted));
-    QCOMPARE(readFile(path), before);
+    QByteArray after = before;
+    if (TestCompat::settingsAreWrittenInPlace())
+        after.replace("1.2.3.4", "4.3.2.1");
+    QCOMPARE(readFile(path), after);
+}
+
+/// What does not fit into the room of the old file is lost, and nobody is told.
+void TestFullPanel::connectionFileThatGrowsIsCutWhereItIsWrittenInPlace()
+{
+    const QString path = home() + "/connections.ini";
+    const int block = 4096;
+    QByteArray before("[General]\nconnect%20count=1\nConnect%200=PLC\nPLCnew%20IP=1.2.3.4\nlast=");
+    before += QByteArray(block - 1 - before.size(), 'x') + '\n';
+    QCOMPARE(before.size(), block);
+    writeFile(path, before);
+    fillHome();
+    ConnEditor editor(path, nullptr);
+    editor.init_list();
+    editor.findChild<ComboLineEdit *>()->setText(QLatin1String("111.222.111.222"));
+    editor.on_save_clicked();
+    QCOMPARE(editor.result(), int(QDialog::Accepted));
+    if (!TestCompat::settingsAreWrittenInPlace()) {
+        QVERIFY(readFile(path) == before);
+        return;
+    }
+    QByteArray whole = before;
+    whole.replace("1.2.3.4", "111.222.111.222");
+    QVERIFY(readFile(path) == whole.left(block));
 }
 
 FILARIX_TEST_MAIN(TestFullPanel)

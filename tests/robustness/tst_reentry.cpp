@@ -170,6 +170,7 @@ public:
         , m_flag(true)
         , m_rect(0, 0, 50, 50)
         , m_case(Qt::CaseSensitive)
+        , m_widget(nullptr)
     {
         Q_FOREACH (const QByteArray &type, method.parameterTypes()) {
             const void *const value = valueOf(type);
@@ -206,6 +207,8 @@ private:
             return &m_rect;
         if (type == "Qt::CaseSensitivity")
             return &m_case;
+        if (type == "QWidget*")
+            return &m_widget;
         return nullptr;
     }
 
@@ -215,6 +218,7 @@ private:
     bool m_flag;
     QRect m_rect;
     Qt::CaseSensitivity m_case;
+    QWidget *m_widget;
     QList<QByteArray> m_types;
     QList<const void *> m_values;
 };
@@ -238,9 +242,10 @@ void addSlots(Operations &operations, QObject *object)
             || signature == QLatin1String("deleteLater()")
             || signature.startsWith(QLatin1String("_q_")))
             continue;
-        const QByteArray unknown = Arguments(method).unknown;
-        if (!unknown.isEmpty())
+        if (!Arguments(method).unknown.isEmpty()) {
             qWarning("no argument for %s", qPrintable(signature));
+            continue; // the call would read a place that is not there
+        }
         Operation operation;
         operation.name = QLatin1String(meta->className()) + QLatin1String("::") + signature;
         operation.run = [object, method] { invoke(object, method); };
@@ -500,6 +505,8 @@ void TestReentry::anythingMayBeDoneDuringALoad()
 {
     QFETCH(bool, accepts);
     StrictMessages::expect(QLatin1String("Could not parse"));
+    if (TestCompat::warnsOfUnmarkedTitles())
+        StrictMessages::expect(QLatin1String("does not contain a '[*]' placeholder"));
     StrictMessages::expect(QLatin1String("Parentheses expected, slot ImportManage::slot_checkUSB"));
     const QByteArray bytes = program(lineCount());
     const QString second = writeProgram("second.cnc", bytes);

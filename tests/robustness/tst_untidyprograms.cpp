@@ -96,7 +96,7 @@ void TestUntidyPrograms::isOpenedAndStored_data()
                                           << QByteArray("G1\n");
     const QByteArray comment("G1 ; \xc3\xa4\xe4\xb8\xad\xf0\x9f\x94\xa7");
     QTest::newRow("comment in other languages") << comment << QString::fromUtf8(comment) << comment;
-    const QByteArray unknown("\xef\xbf\xbd"); // what stands for a byte that means nothing
+    const QByteArray unknown = TestCompat::signOfAStrayByte();
     QTest::newRow("Latin-1") << QByteArray("G1 ; \xe4\xf6\nG2")
                              << QString::fromUtf8("G1 ; " + unknown + unknown + "\nG2")
                              << "G1 ; " + unknown + unknown + "\nG2";
@@ -202,7 +202,7 @@ void TestUntidyPrograms::oneLongLine()
 {
     QFETCH(QByteArray, unit);
     QFETCH(int, size);
-    const QByteArray bytes = unit.repeated(size / unit.size());
+    const QByteArray bytes = unit.repeated(size / TestCompat::longLineDivisor() / unit.size());
     writeFile(pathOf("a.cnc"), bytes);
     OpenWindow window;
     QVERIFY(open(window, "a.cnc"));
@@ -217,7 +217,8 @@ void TestUntidyPrograms::oneLongLine()
 /// The line can be seen, and the operator gets away from it.
 void TestUntidyPrograms::longLineOnTheScreen()
 {
-    const QByteArray bytes = QByteArray("G01 X10.5 Y3 ").repeated(scaled(100000) / 13);
+    const QByteArray bytes =
+        QByteArray("G01 X10.5 Y3 ").repeated(scaled(100000) / TestCompat::longLineDivisor() / 13);
     writeFile(pathOf("a.cnc"), "G1\n" + bytes + "\nG2");
     OpenWindow window;
     window.resize(800, 480);

@@ -6,12 +6,17 @@
 
 // What QtTest of Qt 4.8 lacks of Qt 5.15's.
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHeaderView>
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+#include <QInputContext>
+#endif
 #include <QMetaMethod>
 #include <QPixmap>
 #include <QTest>
+#include <QTextCodec>
 #include <QTranslator>
+#include <QVector>
 #include <QWidget>
 
 #ifndef QTRY_VERIFY_WITH_TIMEOUT
@@ -32,6 +37,39 @@
         QCOMPARE(expression, expected);                                                            \
     } while (0)
 #define QTRY_COMPARE(expression, expected) QTRY_COMPARE_WITH_TIMEOUT(expression, expected, 5000)
+#endif
+
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+Q_DECLARE_METATYPE(QVector<int>)
+
+// QCOMPARE of two types that are one to Qt 5.
+namespace QTest {
+
+inline bool qCompare(const QList<QString> &actual, const QStringList &expected,
+                     const char *actualText, const char *expectedText, const char *file, int line)
+{
+    return qCompare(QStringList(actual), expected, actualText, expectedText, file, line);
+}
+
+inline bool qCompare(const QStringList &actual, const QList<QString> &expected,
+                     const char *actualText, const char *expectedText, const char *file, int line)
+{
+    return qCompare(actual, QStringList(expected), actualText, expectedText, file, line);
+}
+
+inline bool qCompare(const bool &actual, const QBool &expected, const char *actualText,
+                     const char *expectedText, const char *file, int line)
+{
+    return qCompare(actual, bool(expected), actualText, expectedText, file, line);
+}
+
+inline bool qCompare(const QBool &actual, const bool &expected, const char *actualText,
+                     const char *expectedText, const char *file, int line)
+{
+    return qCompare(bool(actual), expected, actualText, expectedText, file, line);
+}
+
+} // namespace QTest
 #endif
 
 namespace TestCompat {
@@ -68,8 +106,95 @@ inline bool waitForExposed(QWidget *widget)
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
     return QTest::qWaitForWindowExposed(widget);
 #else
-    return QTest::qWaitForWindowShown(widget);
+    // Without a place on the screen Qt for Embedded Linux paints nothing, and its own way of
+    // waiting is a fixed time.
+    for (int waited = 0; !widget->testAttribute(Qt::WA_Mapped) && waited < 5000; waited += 10)
+        QTest::qWait(10);
+    return QTest::qWaitForWindowShown(widget) && widget->testAttribute(Qt::WA_Mapped);
 #endif
+}
+
+/// Qt 4 warns when a window without "[*]" in its title is marked as changed.
+inline bool warnsOfUnmarkedTitles()
+{
+    return QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
+}
+
+/// Qt 4's combo box takes every release of a key for itself; Qt 5's hands what it has no use for
+/// on.
+inline bool comboBoxTakesReleases()
+{
+    return QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
+}
+
+/// What a byte that means nothing to the locale's codec becomes: a sign of its own, but nothing
+/// where Qt 4 asks the C library.
+inline QByteArray signOfAStrayByte()
+{
+    const bool asksTheLibrary =
+        QT_VERSION < QT_VERSION_CHECK(5, 0, 0) && QTextCodec::codecForLocale()->name() == "System";
+    return asksTheLibrary ? QByteArray() : QByteArray("\xef\xbf\xbd");
+}
+
+/// The folder of the settings below the home.
+inline QString settingsFolder()
+{
+#if defined(Q_WS_QWS)
+    return QLatin1String("/Settings");
+#else
+    return QLatin1String("/.config");
+#endif
+}
+
+/// Qt 4 takes a time for one line that grows with the square of its length: the tests' lines are
+/// divided by this there.
+inline int longLineDivisor()
+{
+    return QT_VERSION >= QT_VERSION_CHECK(5, 0, 0) ? 1 : 20;
+}
+
+/// To be called once, before memory is measured. The input context that Qt 4 has on X11 keeps some
+/// of each window with a field of text for as long as the program runs, a bare one of the toolkit's
+/// too.
+inline void keepNoInputContexts()
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    class NoInputContext : public QInputContext
+    {
+    public:
+        QString identifierName() override { return QString(); }
+        QString language() override { return QString(); }
+        void reset() override {}
+        bool isComposing() const override { return false; }
+    };
+    qApp->setInputContext(new NoInputContext);
+#endif
+}
+
+/// Has QString::toAscii() write UTF-8, as many hosts of Qt 4 do, or Latin-1 again. Qt 5 has no
+/// choice: false.
+inline bool setUtf8ForCStrings(bool on)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    Q_UNUSED(on);
+    return false;
+#else
+    QTextCodec::setCodecForCStrings(on ? QTextCodec::codecForName("UTF-8") : nullptr);
+    return true;
+#endif
+}
+
+/// Qt 4 lists a setting whose name holds a byte beyond ASCII, but finds it only once it was written
+/// anew.
+inline bool findsSettingsBeyondAscii()
+{
+    return QT_VERSION >= QT_VERSION_CHECK(5, 0, 0);
+}
+
+/// Qt 4 writes a file of settings in its place; Qt 5 writes another beside it and renames that.
+inline bool settingsAreWrittenInPlace()
+{
+    return QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
 }
 
 /// While it lives, "text" of one context reads "text*".

@@ -94,8 +94,8 @@ void TestComboBox::f4DoesNotOpenTheList()
     QVERIFY(KeyEvents::press(screen.combo, Qt::Key_F4));
     QVERIFY(!screen.listIsOpen());
     QCOMPARE(shown.count(), 0);
-    // The release goes to the base, which ignores it.
-    QVERIFY(!KeyEvents::release(screen.combo, Qt::Key_F4));
+    // The release goes to the base.
+    QCOMPARE(KeyEvents::release(screen.combo, Qt::Key_F4), TestCompat::comboBoxTakesReleases());
 }
 
 void TestComboBox::returnOpensTheList_data()
@@ -147,7 +147,8 @@ void TestComboBox::repeatsOfReturnGoToTheBase()
     QFETCH(int, key);
     Screen screen;
     QVERIFY(!KeyEvents::send(screen.combo, QEvent::KeyPress, key, true));
-    QVERIFY(!KeyEvents::send(screen.combo, QEvent::KeyRelease, key, true));
+    QCOMPARE(KeyEvents::send(screen.combo, QEvent::KeyRelease, key, true),
+             TestCompat::comboBoxTakesReleases());
     QVERIFY(!screen.listIsOpen());
     // They left the flag alone: the next press opens the list.
     KeyEvents::press(screen.combo, key);

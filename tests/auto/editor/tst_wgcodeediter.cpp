@@ -135,7 +135,8 @@ QImage expectedGutter(WGCodeEditer &editer, const QRect &rect)
     QImage image(gutter->size(), QImage::Format_RGB32);
     image.fill(0);
     QPainter painter(&image);
-    painter.setFont(gutter->font());
+    // The gutter has it from the editor; a painter takes of a font only what was set there.
+    painter.setFont(editer.font());
     painter.setClipRect(rect);
     painter.fillRect(rect, Qt::lightGray);
     painter.setPen(Qt::black);

@@ -755,7 +755,7 @@ void TestMJLine::setVTakesTheIndexFromExactlyFour()
         QStringList list = all.mid(0, count);
         line.setV(list);
         QCOMPARE(line.getV(), values);
-        QCOMPARE(line.getJpos(), sample().mid(12, 12).filter(QRegExp("^\\d$")));
+        QCOMPARE(line.getJpos(), QStringList(sample().mid(12, 12)).filter(QRegExp("^\\d$")));
         QCOMPARE(line.view.text(RowView::V), label);
         QCOMPARE(line.view.text(RowView::Jpos), QString("P:3"));
         if (open)

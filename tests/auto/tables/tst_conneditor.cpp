@@ -822,10 +822,11 @@ void TestConnEditor::initListAgainBuildsTheListAnew()
     table.dialog.show();
     table.enter(0, "10.0.0.9");
     QWidget *oldHeader = table.row(0);
-    writeFile(path, "[General]\nconnect%20count=1\nConnect%200=PLC\nPLCnew%20IP=10.0.0.5\n");
+    // Qt 4 takes the file for another one by its size: the second of its writing may be the same.
+    writeFile(path, "[General]\nconnect%20count=1\nConnect%200=PLC\nPLCnew%20IP=10.0.0.55\n");
     table.dialog.init_list();
     QCOMPARE(table.list->count(), 2);
-    QCOMPARE(table.address(0), QString("10.0.0.5"));
+    QCOMPARE(table.address(0), QString("10.0.0.55"));
     QVERIFY(table.list->isVisible());
     QVERIFY(table.row(1)->isVisible());
     QCOMPARE(table.list->height(), 2 * table.row(0)->height());
@@ -949,8 +950,13 @@ void TestConnEditor::damagedFilesKeepEveryKeyButTheAddresses()
         ++compared;
         const QByteArray hint = "round " + QByteArray::number(i) + ": " + bytes.toPercentEncoding();
         QVERIFY2(keysAfter == keysBefore, hint);
-        Q_FOREACH (const QString &key, keysBefore)
-            QVERIFY2(after.value(key) == before.value(key), qPrintable(key + " in " + hint));
+        Q_FOREACH (const QString &key, keysBefore) {
+            const bool isFound = before.contains(key);
+            QVERIFY(isFound || !TestCompat::findsSettingsBeyondAscii());
+            QVERIFY(isFound || !QRegExp("[\\x0020-\\x007e]*").exactMatch(key));
+            QVERIFY2(!isFound || after.value(key) == before.value(key),
+                     qPrintable(key + " in " + hint));
+        }
         emptyFolder(home());
     }
     QVERIFY2(compared > files * 4 / 5, QByteArray::number(compared));

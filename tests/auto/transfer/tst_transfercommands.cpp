@@ -57,6 +57,7 @@ private Q_SLOTS:
     void deleteEndsWithoutABlank();
     void toolsAreCalledInOrder();
     void charactersBeyondAsciiAreLost();
+    void charactersBeyondAsciiFollowTheCodecForCStrings();
     void blankInANameSplitsTheOperand();
     void statusComesBackUndecoded_data();
     void statusComesBackUndecoded();
@@ -255,6 +256,29 @@ void TestTransferCommands::toolsAreCalledInOrder()
                                      << "sync");
     QCOMPARE(readFile(programDir() + "/copy.cnc"), QByteArray("G01\n"));
     QVERIFY(!QFile::exists(stickDir() + "/part.cnc"));
+}
+
+/// A host of Qt 4 may choose that codec, and then the commands name the very files.
+void TestTransferCommands::charactersBeyondAsciiFollowTheCodecForCStrings()
+{
+    const QByteArray name("\xe7\xbb\x95.cnc");
+    const QString winding = QString::fromUtf8(name);
+    Manager manager;
+    writeFile(stickDir() + '/' + winding, "x");
+    const bool isChosen = TestCompat::setUtf8ForCStrings(true);
+    const int copied = manager.dialog.copyFile(stickDir(), winding, programDir(), winding);
+    const int deleted = manager.dialog.deleteFile(stickDir(), winding);
+    TestCompat::setUtf8ForCStrings(false);
+    const QByteArray written = isChosen ? name : QByteArray("?.cnc");
+    QCOMPARE(Shell::commands().value(0),
+             "cp /mnt/Storage/" + written + " /tmp/home/cnc/" + written + " -rf ");
+    QCOMPARE(Shell::commands().value(2), "rm /mnt/Storage/" + written + " -rf");
+    QCOMPARE(deleted, 0);
+    // As the shell's sign for any character the "?" finds the file on Qt 5, and gives it a new
+    // name.
+    QCOMPARE(copied, 0);
+    QCOMPARE(QFile::exists(programDir() + '/' + winding), isChosen);
+    QVERIFY(!QFile::exists(stickDir() + '/' + winding));
 }
 
 void TestTransferCommands::charactersBeyondAsciiAreLost()

@@ -8,6 +8,7 @@
 #include "openwindow.h"
 #include "wfinddialog.h"
 
+#include <QAction>
 #include <QFile>
 #include <QSignalSpy>
 
