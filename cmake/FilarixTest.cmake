@@ -1,10 +1,16 @@
 # SPDX-FileCopyrightText: 2026 The Filarix Module developers
 # SPDX-License-Identifier: MIT
 
-# What starts a test program: the sandbox, and in it the emulator where this machine's processor is not
-# the program's.
+# What starts a test program: the sandbox, in it a display where the toolkit has none of its own, and
+# the emulator where this machine's processor is not the program's.
 set(FILARIX_TEST_LAUNCHER "${PROJECT_SOURCE_DIR}/tests/support/sandbox.sh")
-if(CMAKE_CROSSCOMPILING_EMULATOR)
+if(FILARIX_QT_DISPLAY)
+  set(FILARIX_TEST_LAUNCHER
+    "${PROJECT_SOURCE_DIR}/tests/qt4/${FILARIX_QT_DISPLAY}.sh" "${QT_LIBRARY_DIR}")
+endif()
+if(CMAKE_CROSSCOMPILING_EMULATOR AND FILARIX_QT_DISPLAY)
+  list(APPEND FILARIX_TEST_LAUNCHER ${CMAKE_CROSSCOMPILING_EMULATOR})
+elseif(CMAKE_CROSSCOMPILING_EMULATOR)
   set(FILARIX_TEST_LAUNCHER ${CMAKE_CROSSCOMPILING_EMULATOR})
 endif()
 

@@ -2,20 +2,23 @@
 # SPDX-FileCopyrightText: 2026 The Filarix Module developers
 # SPDX-License-Identifier: MIT
 #
-# left-out.sh NATIVE ARM
+# left-out.sh WHERE REASONS WHOLE OTHER
 #
-# Says which tests of the build tree NATIVE the build tree ARM does not have, and why (left-out.txt). A
-# test without a reason is a failure; so is a reason without a test.
+# Says which tests of the build tree WHOLE the build tree OTHER, for WHERE, does not have, and why: by the
+# file REASONS. A test without a reason is a failure; so is a reason without a test.
 set -euo pipefail
-here=$(dirname "$(readlink -f "$0")")
+where=$1
+reasons=$2
+whole=$3
+other=$4
 
 tests_of() {
     ctest --test-dir "$1" --show-only=human | sed -n 's/^ *Test *#[0-9]*: //p' | sort
 }
-missing=$(comm -23 <(tests_of "$1") <(tests_of "$2"))
+missing=$(comm -23 <(tests_of "$whole") <(tests_of "$other"))
 
 status=0
-echo "Not run on ARM:"
+echo "Not run on $where:"
 while read -r pattern reason; do
     names=$(grep -xE "${pattern//\*/.*}" <<<"$missing" || true)
     if [ -z "$names" ]; then
@@ -26,9 +29,9 @@ while read -r pattern reason; do
     for name in $names; do
         printf '  %-26s %s\n' "$name" "$reason"
     done
-done < <(grep -v '^#' "$here/left-out.txt")
+done < <(grep -v '^#' "$reasons")
 if [ -n "$missing" ]; then
-    echo "left-out: not run on ARM, and no reason given:" >&2
+    echo "left-out: not run on $where, and no reason given:" >&2
     echo "$missing" >&2
     status=1
 fi
