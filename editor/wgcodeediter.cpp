@@ -361,7 +361,7 @@ QString WGCodeEditer::preproccess(QStringList lines)
         const int length = comment < 0 ? line.size() : comment;
         if (length == 0)
             continue;
-        result.append(QString(line.constData(), length));
+        result.append(line.leftRef(length));
         result.append(QLatin1Char('\n'));
     }
     result.chop(1);
