@@ -19,6 +19,7 @@ const int kSmallestPixels = 14;
 const int kTitlePixels = 17;
 const int kMargin = 14;
 const int kGap = 14;
+const int kNarrowPanel = 400;
 const QSize kRoomy(520, 280);
 
 QFont sized(QFont font, int pixels)
@@ -29,15 +30,17 @@ QFont sized(QFont font, int pixels)
 }
 
 // As large as the text has room for. Two names may differ at the end alone, so what does not fit at
-// all loses its middle.
-void showValue(QLabel *label, const QString &text, int room)
+// all loses its middle. Of two numbers neither may: they take a second line.
+void showValue(QLabel *label, const QString &text, int room, bool mayBreak)
 {
     int pixels = kValuePixels;
     while (pixels > kSmallestPixels
            && QFontMetrics(sized(label->font(), pixels)).horizontalAdvance(text) > room)
         --pixels;
     label->setFont(sized(label->font(), pixels));
-    label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideMiddle, room));
+    label->setWordWrap(mayBreak);
+    label->setText(mayBreak ? text
+                            : QFontMetrics(label->font()).elidedText(text, Qt::ElideMiddle, room));
 }
 
 } // namespace
@@ -59,28 +62,37 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
         const char *objectName;
         QString heading;
         QString value;
+        bool mayBreak;
     } lines[] = {
-        {"name", tr("Program"), facts.name.simplified()},
+        {"name", tr("Program"), facts.name.simplified(), false},
         {"lines", tr("Lines"),
          shownLines < 0 || shownLines == facts.lines
              ? QString::number(facts.lines)
-             : tr("%1 in the file, %2 shown").arg(facts.lines).arg(shownLines)},
-        {"checksum", tr("Checksum"), facts.checksum()},
+             : tr("%1 in the file, %2 shown").arg(facts.lines).arg(shownLines),
+         true},
+        {"checksum", tr("Checksum"), facts.checksum(), false},
     };
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
     const QSize size = kRoomy.boundedTo(panel - QSize(8, 8));
+    // A narrow panel has the values below their headings.
+    const bool isNarrow = panel.width() < kNarrowPanel;
     int room = size.width() - 2 * kMargin - kGap;
-    for (const auto &line : lines)
-        room = qMin(room, size.width() - 2 * kMargin - kGap
-                              - fontMetrics().horizontalAdvance(line.heading) - 4);
+    for (const auto &line : lines) {
+        if (!isNarrow)
+            room = qMin(room, size.width() - 2 * kMargin - kGap
+                                  - fontMetrics().horizontalAdvance(line.heading) - 4);
+    }
     for (const auto &line : lines) {
         const int row = grid->rowCount();
         QLabel *value = new QLabel;
         value->setObjectName(QLatin1String(line.objectName));
         value->setTextFormat(Qt::PlainText);
-        showValue(value, line.value, room);
+        showValue(value, line.value, room, line.mayBreak);
         grid->addWidget(new QLabel(line.heading), row, 0);
-        grid->addWidget(value, row, 1);
+        if (isNarrow)
+            grid->addWidget(value, row + 1, 0, 1, 2);
+        else
+            grid->addWidget(value, row, 1);
     }
     grid->setColumnStretch(1, 1);
 
@@ -103,5 +115,6 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
     connect(send, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
-    resize(size);
+    const int height = qMax(size.height(), grid->heightForWidth(size.width()));
+    resize(size.width(), qMin(height, panel.height() - 8));
 }

@@ -11,9 +11,12 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <numeric>
+
 namespace {
 
 const int textPixels = 17;
+const int smallestTextPixels = 12;
 const int keyPixels = 15;
 const int margin = 12;
 const int gap = 10;
@@ -27,27 +30,62 @@ QFont sized(QFont font, int pixels)
     return font;
 }
 
+// A label breaks its lines between words only; the name of a file may be one word of 255 letters.
+QString breakable(const QString &text, const QFont &font, int width)
+{
+    const QFontMetrics metrics(font);
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString &word : words) {
+        if (metrics.horizontalAdvance(word) <= width)
+            continue;
+        for (int i = word.size() - 1; i > 0; --i) {
+            if (!word.at(i).isLowSurrogate())
+                word.insert(i, QChar(0x200b));
+        }
+    }
+    return words.join(QLatin1Char(' '));
+}
+
+int keyWidth(const QPushButton *key)
+{
+    return key->fontMetrics().horizontalAdvance(key->text()) + keyPadding;
+}
+
 } // namespace
 
 QuestionDialog::QuestionDialog(const Question &question, QWidget *parent) : Dialog(parent)
 {
     setTitle(question.title);
-    const int width = qMin(widest, QGuiApplication::primaryScreen()->availableSize().width() - gap);
+    const QSize panel = QGuiApplication::primaryScreen()->availableSize() - QSize(gap, gap);
+    const int width = qMin(widest, panel.width());
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(gap);
-    QLabel *text = new QLabel(question.text);
+    QLabel *text = new QLabel;
     text->setObjectName(QLatin1String("question"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
-    text->setFont(sized(text->font(), textPixels));
     column->addWidget(text, 1);
+    column->addLayout(makeKeys(question.answers, width - 2 * margin));
+    // The keys are always there; what is read gives way.
+    for (int pixels = textPixels; pixels >= smallestTextPixels; --pixels) {
+        text->setFont(sized(text->font(), pixels));
+        text->setText(breakable(question.text, text->font(), width - 2 * margin));
+        if (column->heightForWidth(width) <= panel.height())
+            break;
+    }
+    setFixedWidth(width);
+    resize(width, column->heightForWidth(width));
+}
 
+QLayout *QuestionDialog::makeKeys(const QStringList &answers, int room)
+{
     QBoxLayout *keys = new QBoxLayout(QBoxLayout::LeftToRight);
     keys->setSpacing(gap);
     int widestKey = 0;
-    for (int i = 0; i < question.answers.size(); ++i) {
-        QPushButton *key = new QPushButton(question.answers.at(i));
+    QList<int> widths;
+    for (int i = 0; i < answers.size(); ++i) {
+        QPushButton *key = new QPushButton(answers.at(i));
         key->setObjectName(QString::fromLatin1("answer%1").arg(i));
         key->setFont(sized(key->font(), keyPixels));
         key->setMinimumHeight(Look::kTouch);
@@ -58,15 +96,18 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent) : Dial
             done(i == 0 ? Rejected : Accepted);
         });
         keys->addWidget(key, 1);
-        widestKey =
-            qMax(widestKey, QFontMetrics(key->font()).horizontalAdvance(key->text()) + keyPadding);
+        widths.append(keyWidth(key));
+        widestKey = qMax(widestKey, keyWidth(key));
     }
-    const int count = question.answers.size();
-    if (count * widestKey + (count - 1) * gap > width - 2 * margin)
+    const int forKeys = room - (widths.size() - 1) * gap;
+    if (std::accumulate(widths.begin(), widths.end(), 0) > forKeys) {
         keys->setDirection(QBoxLayout::TopToBottom);
-    column->addLayout(keys);
-    setFixedWidth(width);
-    resize(width, column->heightForWidth(width));
+    } else if (widths.size() * widestKey > forKeys) {
+        // As wide as their words ask for, where they can't be alike.
+        for (int i = 0; i < widths.size(); ++i)
+            keys->setStretch(i, widths.at(i));
+    }
+    return keys;
 }
 
 int DialogQuestioner::ask(const Question &question)

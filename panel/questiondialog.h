@@ -7,6 +7,8 @@
 #include "dialog.h"
 #include "questioner.h"
 
+class QLayout;
+
 /// A question with keys for gloves: side by side, or one below the other on a narrow panel.
 ///
 /// Return presses the harmless key, and closing the dialog means it.
@@ -21,6 +23,9 @@ public:
     int answer() const { return m_answer; }
 
 private:
+    /// Side by side where there is room for all.
+    QLayout *makeKeys(const QStringList &answers, int room);
+
     int m_answer = 0;
 };
 

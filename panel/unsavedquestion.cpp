@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 const int headingPixels = 17;
@@ -31,6 +33,19 @@ QLabel *makeLabel(const QString &text, int pixels)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
+}
+
+// Broken between its words where they have room. Two names may differ at the end alone, so a name
+// that has none loses its middle.
+void showWork(QLabel *line, const QString &work, int room)
+{
+    const QFontMetrics metrics = line->fontMetrics();
+    const QStringList words = work.split(QLatin1Char(' '));
+    const bool isBreakable = std::all_of(words.begin(), words.end(), [&](const QString &word) {
+        return metrics.horizontalAdvance(word) <= room;
+    });
+    line->setWordWrap(isBreakable);
+    line->setText(isBreakable ? work : metrics.elidedText(work, Qt::ElideMiddle, room));
 }
 
 QPushButton *makeKey(const QString &text, const char *objectName)
@@ -59,9 +74,7 @@ UnsavedQuestion::UnsavedQuestion(const QStringList &works, QWidget *parent) : Di
         QLabel *line = new QLabel;
         line->setObjectName(QLatin1String("work"));
         line->setTextFormat(Qt::PlainText);
-        // Two names may differ at the end alone.
-        line->setText(
-            line->fontMetrics().elidedText(work, Qt::ElideMiddle, size.width() - 2 * margin));
+        showWork(line, work, size.width() - 2 * margin);
         column->addWidget(line);
     }
     column->addStretch(1);
@@ -80,7 +93,9 @@ UnsavedQuestion::UnsavedQuestion(const QStringList &works, QWidget *parent) : Di
     connect(throwAway, &QPushButton::clicked, this, &UnsavedQuestion::askAndThrowAway);
     connect(later, &QPushButton::clicked, this, &QDialog::reject);
     connect(bringBack, &QPushButton::clicked, this, &QDialog::accept);
-    resize(size);
+    // Keys one below the other take more.
+    const int height = qMax(size.height(), column->heightForWidth(size.width()));
+    resize(size.width(), qMin(height, panel.height() - 8));
 }
 
 void UnsavedQuestion::askAndThrowAway()

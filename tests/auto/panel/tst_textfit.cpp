@@ -4,6 +4,7 @@
 #include "connectionsscreen.h"
 #include "devicewatch.h"
 #include "dialogkeeper.h"
+#include "downloadquestion.h"
 #include "fieldkeypad.h"
 #include "filarixtest.h"
 #include "filesscreen.h"
@@ -11,11 +12,16 @@
 #include "languages.h"
 #include "look.h"
 #include "machinedata.h"
+#include "messagedialog.h"
+#include "messagelog.h"
 #include "panelstyle.h"
 #include "panelsurface.h"
 #include "panelwindow.h"
 #include "programhistory.h"
 #include "programscreen.h"
+#include "programsnapshot.h"
+#include "programstate.h"
+#include "questiondialog.h"
 #include "samples.h"
 #include "settings.h"
 #include "statusstrip.h"
@@ -23,13 +29,17 @@
 #include "teachscreen.h"
 #include "textfit.h"
 #include "tour.h"
+#include "unsavedquestion.h"
 #include "variablesscreen.h"
 #include "wmmainwindow.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+
+#include <functional>
 
 /// Walks all screens, keypads and dialogs and measures every text there.
 class TestTextFit : public FilarixTest
@@ -42,6 +52,22 @@ private Q_SLOTS:
     void whatDoesNotFitIsFound();
     void everyTextFits_data();
     void everyTextFits();
+
+private:
+    typedef std::function<void(const QString &)> Measure;
+
+    /// The dialogs that no walk opens, with the longest that they may have to say.
+    void measureDialogs(const Measure &measure);
+    void measureQuestions(const Measure &measure);
+    void measureBoxes(const Measure &measure);
+    void measureMessages(const Measure &measure);
+    static void show(QDialog *dialog, const QString &name, const Measure &measure);
+    QString text(const char *context, const char *source);
+
+    /// None for English.
+    const QTranslator *m_translator = nullptr;
+    /// What is measured here and said nowhere.
+    QStringList m_unknown;
 };
 
 namespace {
@@ -56,6 +82,19 @@ DeviceState widestState()
     state.isKnown = true;
     state.stickIn = false;
     state.freeBytes = qint64(99) * 1024 * 1024 * 1024;
+    return state;
+}
+
+const char kName[] = "stator-coil-left-4711.cnc";
+const char kReason[] = "No space left on device";
+
+ProgramState stateOf(ProgramState::Kind kind)
+{
+    ProgramState state;
+    state.kind = kind;
+    state.name = QLatin1String(kName);
+    state.fileLines = 1000620;
+    state.shownLines = 1000501;
     return state;
 }
 
@@ -121,6 +160,7 @@ void TestTextFit::everyTextFits()
     QFETCH(QSize, size);
     QFETCH(bool, longest);
     LongestTranslator translator(QLatin1String(FILARIX_TRANSLATIONS));
+    m_translator = longest ? &translator : nullptr;
     if (longest) {
         QVERIFY(translator.isComplete());
         QCoreApplication::installTranslator(&translator);
@@ -189,11 +229,146 @@ void TestTextFit::everyTextFits()
     tour.start(10);
     QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty(), 100000);
     QVERIFY2(tour.error().isEmpty(), qPrintable(tour.error()));
-    QVERIFY2(stops >= 30, qPrintable(QString::number(stops)));
+    measureDialogs([&tour](const QString &name) { Q_EMIT tour.arrived(name); });
+    QCOMPARE(m_unknown, QStringList());
+    QVERIFY2(stops >= 45, qPrintable(QString::number(stops)));
     // A failure's own message has no room for all.
     for (const QString &fault : qAsConst(faults))
         qDebug("%s", qPrintable(fault));
     QCOMPARE(faults.size(), 0);
+}
+
+QString TestTextFit::text(const char *context, const char *source)
+{
+    if (m_translator && m_translator->translate(context, source).isEmpty())
+        m_unknown.append(QLatin1String(source));
+    return QCoreApplication::translate(context, source);
+}
+
+void TestTextFit::show(QDialog *dialog, const QString &name, const Measure &measure)
+{
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog));
+    // The keeper gives it its place from the event loop.
+    QCoreApplication::processEvents();
+    measure(name);
+    dialog->hide();
+}
+
+void TestTextFit::measureDialogs(const Measure &measure)
+{
+    measureQuestions(measure);
+    measureBoxes(measure);
+    measureMessages(measure);
+
+    UnsavedQuestion unsaved(
+        {text("UnsavedOffer", "%1, %2, lines: %3").arg(kName, "2026-05-04 14:32", "1000501"),
+         text("UnsavedOffer", "%1, %2, instructions: %3")
+             .arg("program-of-the-second-shift.teach", "2026-05-04 14:32", "99999"),
+         text("UnsavedOffer", "%1, %2, values: %3")
+             .arg(text("UnsavedOffer", "Variables"), "2026-05-04 14:32", "24")});
+    show(&unsaved, "unsaved work", measure);
+    ProgramFacts facts;
+    facts.name = QLatin1String(kName);
+    facts.lines = 1000620;
+    facts.hash = QByteArray(32, '\x5a');
+    DownloadQuestion download(facts, 1000501);
+    show(&download, "download with two numbers", measure);
+    const QString lines = download.findChild<QLabel *>("lines")->text();
+    QVERIFY2(lines.contains("1000620") && lines.contains("1000501"), qPrintable(lines));
+}
+
+void TestTextFit::measureQuestions(const Measure &measure)
+{
+    const QString cancel = text("ProgramGuard", "Cancel");
+    const QString otherName = text("ProgramGuard", "Other name");
+    const QString notStored =
+        text("StoreCheck", "%1 is not stored: %2. The whole program is only in the editor.");
+    const QStringList ways = {text("StoreCheck", "Later"), text("StoreCheck", "Try again"),
+                              text("StoreCheck", "Save to the stick")};
+    const QStringList historyWays = {text("ProgramKeeper", "Cancel"),
+                                     text("ProgramKeeper", "All the same")};
+    const QString lost = text("ProgramKeeper", "%1 What %2 is now would be lost.");
+    const Question questions[] = {
+        {"save as cleaned",
+         stateOf(ProgramState::Cleaned).saveQuestion(),
+         {cancel, text("ProgramGuard", "Save without them"), otherName}},
+        {"save as shown",
+         stateOf(ProgramState::Different).saveQuestion(),
+         {cancel, text("ProgramGuard", "Save as shown"), otherName}},
+        {"disk full", notStored.arg(kName, kReason), ways},
+        {"stick full",
+         notStored.arg(kName,
+                       text("StoreCheck", "neither here nor on the stick (%1)").arg(kReason)),
+         ways},
+        {"other bytes",
+         notStored.arg(kName, text("StoreCheck", "the file holds something else than the editor")),
+         ways},
+        {"cover",
+         text("ProgramGuard",
+              "%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?")
+             .arg(kName, "1000501", "2026-05-04 14:32", "1000620"),
+         {cancel, text("ProgramGuard", "Write over it")}},
+        {"remove",
+         text("ProgramGuard", "%1 is open, with changes that are not saved. They are lost with it.")
+             .arg(kName),
+         {cancel, text("ProgramGuard", "Remove it")}},
+        {"history full",
+         lost.arg(text("HistoryStore", "The history cannot keep %1: %2.").arg(kName, kReason),
+                  kName),
+         historyWays},
+        {"history hangs",
+         lost.arg(text("ProgramHistory",
+                       "The panel's storage stopped answering: nothing goes into the history any "
+                       "more. Switch the panel off and on."),
+                  kName),
+         historyWays},
+        {"a name of 255 letters", notStored.arg(QString(251, QLatin1Char('x')) + ".cnc", kReason),
+         ways},
+    };
+    for (const Question &question : questions) {
+        QuestionDialog dialog(question);
+        show(&dialog, question.title, measure);
+    }
+}
+
+void TestTextFit::measureBoxes(const Measure &measure)
+{
+    const struct
+    {
+        QString text;
+        QMessageBox::StandardButtons answers;
+    } boxes[] = {
+        {text("ImportGuard", "%1 is not in the history and cannot be brought back. Go on all the "
+                             "same?")
+             .arg(kName),
+         QMessageBox::Yes | QMessageBox::Cancel},
+        {text("UnsavedQuestion", "Throw the unsaved work away for good?"),
+         QMessageBox::Yes | QMessageBox::No},
+        {text("PanelProgram", "Another panel works on the same programs. This one does not start."),
+         QMessageBox::Ok},
+    };
+    for (const auto &about : boxes) {
+        QMessageBox box(QMessageBox::Warning, QString(), about.text, about.answers);
+        show(&box, about.text, measure);
+    }
+}
+
+void TestTextFit::measureMessages(const Measure &measure)
+{
+    MessageLog log;
+    MessageDialog empty(&log, QString());
+    show(&empty, "no messages", measure);
+    log.tell(text("ProgramState", "Only a part of %1 is here: saving or sending it would lose the "
+                                  "rest. Open it again, or save the part under another name.")
+                 .arg(kName),
+             Message::Warning);
+    log.tell(text("PlcTransfer", "The PLC stopped answering while it took %1: which of the two it "
+                                 "holds is not known. Check the PLC, then download once more.")
+                 .arg(QString(255, QLatin1Char('x'))),
+             Message::Alarm);
+    MessageDialog messages(&log, stateOf(ProgramState::Incomplete).line());
+    show(&messages, "messages", measure);
 }
 
 FILARIX_TEST_MAIN(TestTextFit)
