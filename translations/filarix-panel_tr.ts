@@ -1417,7 +1417,7 @@
     <name>UnsavedWork</name>
     <message>
         <source>the storage does not answer</source>
-        <translation>bellek yanıt vermiyor</translation>
+        <translation>panelin belleği yanıt vermiyor</translation>
     </message>
     <message>
         <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
