@@ -122,8 +122,13 @@ HistoryStore::Outcome HistoryStore::store(const QString &path, QString *error)
     ProgramVersion version;
     version.name = QFileInfo(path).fileName();
     const FileStamp before = FileStamp::of(path);
-    if (before.isValid() && m_seen.value(version.name) == before)
-        return Known;
+    if (before.isValid() && m_seen.value(version.name) == before) {
+        if (newest(version.name))
+            return Known;
+        // Once more it would push out others, and they this one again, without an end.
+        *error = tr("The history has no room for %1 beside the other programs.").arg(version.name);
+        return Failed;
+    }
     if (before.age() >= 0 && before.age() < restMs)
         return Restless;
     // A program that fills half of the room would push out all others.
@@ -167,7 +172,8 @@ bool HistoryStore::holds(const QString &path) const
 {
     const QMutexLocker lock(&m_mutex);
     const FileStamp stamp = FileStamp::of(path);
-    return !stamp.isValid() || m_seen.value(QFileInfo(path).fileName()) == stamp;
+    const QString name = QFileInfo(path).fileName();
+    return !stamp.isValid() || (m_seen.value(name) == stamp && newest(name));
 }
 
 QString HistoryStore::pathOf(qint64 number) const

@@ -294,7 +294,8 @@ bool ImportGuard::mayLose(const QString &name)
 {
     QMessageBox box(
         QMessageBox::Warning, tr("History"),
-        tr("%1 is not in the history and cannot be brought back. Go on all the same?").arg(name),
+        tr("%1 What %2 is now could not be brought back. Go on all the same?")
+            .arg(m_history->reasonNotKept(name), name),
         QMessageBox::Yes | QMessageBox::Cancel, QApplication::activeModalWidget());
     box.setObjectName(ownQuestion);
     box.setTextFormat(Qt::PlainText);

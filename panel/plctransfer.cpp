@@ -293,11 +293,12 @@ void PlcTransfer::end()
 
 void PlcTransfer::endStopped()
 {
-    const bool hasArrived = m_task->hasArrived();
+    m_isUncompared = m_task->hasArrived();
     m_task.reset();
-    Q_EMIT stopped(hasArrived ? tr("The download was stopped before the program in the PLC was "
-                                   "compared. Download it once more.")
-                              : tr("The download was stopped. The PLC keeps what it had."));
+    Q_EMIT stopped(m_isUncompared
+                       ? tr("The download was stopped before the program in the PLC was "
+                            "compared. Download it once more.")
+                       : tr("The download was stopped. The PLC keeps what it had."));
 }
 
 void PlcTransfer::endStalled()

@@ -50,6 +50,8 @@ public:
 
     /// Whether the last transfer that failed did so because of the PLC, not of the program.
     bool isPlcAtFault() const { return m_isPlcAtFault; }
+    /// Whether the last transfer that was stopped left its program in the PLC, not compared.
+    bool isUncompared() const { return m_isUncompared; }
 
     /// Milliseconds without progress after which a transfer fails; FileWork::stallMs at first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
@@ -75,6 +77,7 @@ private:
     FileWork m_work;
     std::shared_ptr<Task> m_task;
     bool m_isPlcAtFault = false;
+    bool m_isUncompared = false;
 };
 
 #endif // PLCTRANSFER_H

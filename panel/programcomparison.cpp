@@ -38,11 +38,16 @@ ProgramComparison::ProgramComparison(const QString &path, const QString &shown)
 bool ProgramComparison::step()
 {
     m_shownLines = ProgramText::lines(m_shown);
+    m_stamp = FileStamp::of(m_path);
     QString file;
-    if (!ProgramText::read(m_path, &file, &m_error))
+    bool isFaithful = true;
+    if (!ProgramText::read(m_path, &file, &m_error, &isFaithful))
         return false;
     m_fileLines = ProgramText::lines(file);
     m_verdict = judge(file, m_shown);
+    // A save would store something else for what could not be decoded.
+    if (!isFaithful && m_verdict == Same)
+        m_verdict = Different;
     return false;
 }
 

@@ -4,6 +4,7 @@
 #ifndef PROGRAMCOMPARISON_H
 #define PROGRAMCOMPARISON_H
 
+#include "filestamp.h"
 #include "filework.h"
 
 #include <QString>
@@ -32,6 +33,8 @@ public:
     qint64 fileLines() const { return m_fileLines; }
     qint64 shownLines() const { return m_shownLines; }
     QString error() const { return m_error; }
+    /// Of the file as it was before it was read.
+    FileStamp stamp() const { return m_stamp; }
 
     /// What a file of this text counts as.
     static Verdict judge(const QString &file, const QString &shown);
@@ -43,6 +46,7 @@ private:
     qint64 m_fileLines = 0;
     qint64 m_shownLines = 0;
     QString m_error;
+    FileStamp m_stamp;
 };
 
 #endif // PROGRAMCOMPARISON_H

@@ -165,10 +165,17 @@ void ProgramGuard::end(Command command)
     default:
         break;
     }
-    // Of a document without a file nothing is left out.
-    if (m_window->getCurrentFile().isEmpty())
-        setState(ProgramState());
+    noteNewProgram();
     goOn();
+}
+
+// Of a document without a file nothing is left out.
+void ProgramGuard::noteNewProgram()
+{
+    if (!m_window->getCurrentFile().isEmpty())
+        return;
+    m_stamp = FileStamp();
+    setState(ProgramState());
 }
 
 // Commands that came while something was being looked at, one at a time.
@@ -221,6 +228,7 @@ void ProgramGuard::compare()
 void ProgramGuard::judge(const QString &path, const std::shared_ptr<ProgramComparison> &comparison,
                          bool wasAborted)
 {
+    m_stamp = comparison->stamp();
     ProgramState state;
     state.name = nameOf(path);
     state.fileLines = comparison->fileLines();
@@ -265,6 +273,34 @@ void ProgramGuard::holdSave()
     if (m_target.isEmpty())
         return pass(WindowCommands::Save);
     m_isHoldingSave = true;
+    const std::shared_ptr<ProgramOnDisk> file = std::make_shared<ProgramOnDisk>(m_target);
+    m_jobs.run(file, [this, file](bool hasEnded) {
+        if (!hasEnded)
+            return refuse(WindowCommands::Save, tr("The panel's storage does not answer."));
+        noteFile(*file);
+        askAndSave();
+    });
+}
+
+// A restore, an import or another machine may have put something else there meanwhile.
+void ProgramGuard::noteFile(const ProgramOnDisk &file)
+{
+    const bool isSame = !file.stamp().isValid() || file.stamp() == m_stamp;
+    if (isSame || !m_stamp.isValid() || m_state.kind == ProgramState::NotStored)
+        return;
+    m_stamp = file.stamp();
+    ProgramState state = m_state;
+    state.kind = ProgramState::Different;
+    state.name = nameOf(m_target);
+    state.reason.clear();
+    state.fileLines = file.lines();
+    state.shownLines = m_editor->document()->blockCount();
+    state.isAgreed = false;
+    setState(state);
+}
+
+void ProgramGuard::askAndSave()
+{
     if (m_state.asksBeforeSave() && !mayReplaceOwnFile())
         return;
     if (m_state.kind == ProgramState::NotStored) {
@@ -316,6 +352,7 @@ void ProgramGuard::tellMissed()
     state.kind = ProgramState::NotStored;
     state.name = nameOf(m_check.path());
     state.reason = m_check.reason();
+    m_stamp = FileStamp();
     setState(state);
     Q_EMIT told(tr("%1 is not stored: %2. Do not switch off: the whole program is only in the "
                    "editor.")
@@ -332,6 +369,7 @@ void ProgramGuard::tellStored(StoreCheck::Outcome outcome)
         if (!m_check.isFaithful())
             state.kind = ProgramState::Different;
         state.shownLines = state.fileLines = ProgramText::lines(m_check.text());
+        m_stamp = m_check.stamp();
         setState(state);
         Q_EMIT told(tr("%1 saved, %2 lines.").arg(name).arg(state.shownLines),
                     Message::Information);

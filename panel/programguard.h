@@ -56,6 +56,8 @@ public:
     bool isLoading() const { return m_commands.running() == WindowCommands::Open; }
     /// Whether the program at \a path may be sent; tells why not.
     bool mayDownload(const QString &path);
+    /// The window was emptied by its own newFile(), not by its key.
+    void noteNewProgram();
     /// Saves as the Save key does, with all questions. Ends in one saveEnded().
     void save();
 
@@ -74,6 +76,8 @@ private:
     void refuse(Command command, const QString &reason);
     void pass(Command command);
     void holdSave();
+    void noteFile(const ProgramOnDisk &file);
+    void askAndSave();
     bool mayReplaceOwnFile();
     void end(Command command);
     void goOn();
@@ -112,6 +116,8 @@ private:
     ProgramKeeper m_keeper;
     StoreCheck m_check;
     ProgramState m_state;
+    /// Of the program's file when it was last compared with what is shown.
+    FileStamp m_stamp;
     QList<Command> m_waiting;
     /// Bare name that a picker took for the command that runs.
     QString m_picked;

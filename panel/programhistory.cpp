@@ -461,7 +461,9 @@ void ProgramHistory::whenSettled(QObject *context, const std::function<void()> &
 
 bool ProgramHistory::isKept(const QString &name) const
 {
-    return m_hasLooked && !m_isLost && !m_failures.contains(QString()) && !m_failures.contains(name)
+    // What an earlier look found may have changed before the one that somebody gave up waiting for.
+    return m_hasLooked && m_endedLook >= m_overdueLook && !m_isLost
+           && !m_failures.contains(QString()) && !m_failures.contains(name)
            && !m_restless.contains(name);
 }
 
@@ -487,6 +489,7 @@ void ProgramHistory::endScan()
     const std::shared_ptr<Scan> scan = std::move(m_scan);
     const int look = m_looks;
     m_hasLooked = true;
+    m_endedLook = look;
     m_restless = scan->restless();
     tellFailures(scan->failures());
     if (!m_failures.contains(QString()))
@@ -572,6 +575,7 @@ void ProgramHistory::serveThePatient()
 {
     while (!m_waiters.isEmpty() && m_waiters.first().since.hasExpired(m_patienceMs - 1)) {
         const Waiter waiter = m_waiters.takeFirst();
+        m_overdueLook = qMax(m_overdueLook, waiter.look);
         if (waiter.context)
             QTimer::singleShot(0, waiter.context.data(), waiter.then);
     }

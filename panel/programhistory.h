@@ -121,6 +121,9 @@ private:
     QElapsedTimer m_unsettledFor;
     int m_patienceMs;
     int m_looks = 0;
+    int m_endedLook = 0;
+    /// The last one that somebody did not wait for.
+    int m_overdueLook = 0;
     bool m_hasLooked = false;
     bool m_isSettled = false;
     bool m_scanAgain = false;

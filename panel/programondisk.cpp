@@ -19,6 +19,7 @@ bool ProgramOnDisk::step()
         return false;
     m_kind = info.isFile() && !info.isSymLink() ? File : NoFile;
     m_written = info.lastModified();
+    m_stamp = FileStamp::of(m_path);
     QFile file(m_path);
     if (m_kind == NoFile || !file.open(QIODevice::ReadOnly))
         return false;

@@ -4,6 +4,7 @@
 #ifndef PROGRAMONDISK_H
 #define PROGRAMONDISK_H
 
+#include "filestamp.h"
 #include "filework.h"
 
 #include <QDateTime>
@@ -24,12 +25,14 @@ public:
     /// As the editor counts; 0 when the file can't be read.
     qint64 lines() const { return m_lines; }
     QDateTime written() const { return m_written; }
+    FileStamp stamp() const { return m_stamp; }
 
 private:
     const QString m_path;
     Kind m_kind = Missing;
     qint64 m_lines = 0;
     QDateTime m_written;
+    FileStamp m_stamp;
 };
 
 #endif // PROGRAMONDISK_H

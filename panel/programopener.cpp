@@ -110,7 +110,8 @@ bool ProgramOpener::open(const QString &path)
         return false;
     qApp->removeEventFilter(this);
     m_name.clear();
-    if (m_window->getCurrentFile() != path)
+    // With changes, whoever was asked about them has said no.
+    if (m_window->getCurrentFile() != path || m_editor->document()->isModified())
         return false;
     // The pieces in which a long program came are no steps of the operator's.
     m_editor->document()->clearUndoRedoStacks();

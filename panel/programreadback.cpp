@@ -40,6 +40,7 @@ bool ProgramReadback::readsBack(const QByteArray &bytes)
         m_reason = QString::fromLocal8Bit(std::strerror(errno));
         return false;
     }
+    m_stamp = FileStamp::of(file);
     if (file.readAll() != bytes)
         return false;
     DurableFile::syncFolder(QFileInfo(m_path).path());

@@ -4,6 +4,7 @@
 #ifndef PROGRAMREADBACK_H
 #define PROGRAMREADBACK_H
 
+#include "filestamp.h"
 #include "filework.h"
 
 #include <QString>
@@ -22,6 +23,8 @@ public:
     QString reason() const { return m_reason; }
     /// Whether the encoding of the files has all characters of the text.
     bool isFaithful() const { return m_isFaithful; }
+    /// Of the file that was read back.
+    FileStamp stamp() const { return m_stamp; }
 
 private:
     bool readsBack(const QByteArray &bytes);
@@ -31,6 +34,7 @@ private:
     const QString m_text;
     bool m_isStored = false;
     bool m_isFaithful = true;
+    FileStamp m_stamp;
     QString m_reason;
 };
 

@@ -123,8 +123,7 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_transfer, &PlcTransfer::progress, this, &ProgramScreen::showSending);
     connect(m_transfer, &PlcTransfer::finished, m_snapshot, &ProgramSnapshot::compare);
     connect(m_transfer, &PlcTransfer::failed, this, &ProgramScreen::endFailed);
-    connect(m_transfer, &PlcTransfer::stopped, this,
-            [this](const QString &text) { endDownload(text, Message::Information); });
+    connect(m_transfer, &PlcTransfer::stopped, this, &ProgramScreen::endStopped);
     connect(m_snapshot, &ProgramSnapshot::compared, this, &ProgramScreen::endSent);
 
     m_guard->setOtherPlace([] { return Stick::isPresent() ? Stick::mountPoint() : QString(); });
@@ -311,6 +310,15 @@ void ProgramScreen::endFailed(const QString &reason)
         endDownload(reason, Message::Alarm, DeviceCauses::plc());
     else
         endDownload(reason, Message::Warning);
+}
+
+// The next download that is compared ends what is told about an uncompared program.
+void ProgramScreen::endStopped(const QString &text)
+{
+    if (m_transfer->isUncompared())
+        endDownload(text, Message::Warning, DeviceCauses::plc());
+    else
+        endDownload(text, Message::Information);
 }
 
 void ProgramScreen::endSent(ProgramSnapshot::Verdict verdict)

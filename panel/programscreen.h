@@ -71,6 +71,7 @@ private:
     void showSending(int percent);
     void endSent(ProgramSnapshot::Verdict verdict);
     void endFailed(const QString &reason);
+    void endStopped(const QString &text);
     void endDownload(const QString &text, Message::Tone tone, const QString &cause = QString());
     void insertTaughtPoint();
     void find();

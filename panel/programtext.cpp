@@ -28,18 +28,19 @@ int pieceSize(int lines, int piece)
 
 } // namespace
 
-bool ProgramText::read(const QString &path, QString *text, QString *error)
+bool ProgramText::read(const QString &path, QString *text, QString *error, bool *isFaithful)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (!file.isOpen() || file.error() != QFileDevice::NoError) {
         *error = file.errorString();
         return false;
     }
-    *text = QTextStream(&file).readAll();
-    if (file.error() == QFileDevice::NoError)
-        return true;
-    *error = file.errorString();
-    return false;
+    *text = decoded(bytes);
+    *isFaithful = encoded(*text) == bytes.replace("\r\n", "\n");
+    return true;
 }
 
 QByteArray ProgramText::encoded(const QString &text)

@@ -17,8 +17,9 @@ const int loaderThreshold = 500;
 const int loaderPieces = 50;
 
 /// Reads a file as the library does, in the locale's encoding. False with \a error, in the system's
-/// words, when it can't be read.
-bool read(const QString &path, QString *text, QString *error);
+/// words, when it can't be read. \a isFaithful tells whether the same text, stored, gives the same
+/// bytes, but for the kind of line ends.
+bool read(const QString &path, QString *text, QString *error, bool *isFaithful);
 /// The bytes that the library writes for a document's text.
 QByteArray encoded(const QString &text);
 /// The text that the library reads from bytes.

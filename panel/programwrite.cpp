@@ -5,6 +5,7 @@
 
 #include "durablefile.h"
 #include "programname.h"
+#include "programreadback.h"
 #include "programtext.h"
 
 #include <QDir>
@@ -25,5 +26,18 @@ bool ProgramWrite::step()
     m_isStored = file.open() && file.write(ProgramText::encoded(m_text))
                  && file.commit([this] { return m_leave.take(); });
     m_reason = file.errorString();
+    if (m_isStored)
+        readBack();
     return false;
+}
+
+// What counts is what the disk gives back.
+void ProgramWrite::readBack()
+{
+    ProgramReadback readback(m_path, m_text);
+    readback.step();
+    m_isStored = readback.isStored();
+    m_isFaithful = readback.isFaithful();
+    m_stamp = readback.stamp();
+    m_reason = readback.reason();
 }

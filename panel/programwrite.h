@@ -4,6 +4,7 @@
 #ifndef PROGRAMWRITE_H
 #define PROGRAMWRITE_H
 
+#include "filestamp.h"
 #include "filework.h"
 #include "writeleave.h"
 
@@ -26,16 +27,24 @@ public:
     /// from any thread, at any time.
     bool abandon() { return m_leave.withdraw(); }
 
+    /// It was read back, too.
     bool isStored() const { return m_isStored; }
+    /// See ProgramReadback.
+    bool isFaithful() const { return m_isFaithful; }
+    FileStamp stamp() const { return m_stamp; }
     QString reason() const { return m_reason; }
     QString path() const { return m_path; }
 
 private:
+    void readBack();
+
     QString m_path;
     const QString m_text;
     const Place m_place;
     WriteLeave m_leave;
     bool m_isStored = false;
+    bool m_isFaithful = true;
+    FileStamp m_stamp;
     QString m_reason;
 };
 

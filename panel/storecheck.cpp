@@ -49,6 +49,7 @@ void StoreCheck::begin(const QString &path, const QString &text)
     m_isRunning = true;
     m_reason.clear();
     m_otherPath.clear();
+    m_stamp = FileStamp();
 }
 
 void StoreCheck::check(const QString &path, const QString &text)
@@ -59,6 +60,7 @@ void StoreCheck::check(const QString &path, const QString &text)
         if (!hasEnded)
             return miss(tr("the panel's storage stopped answering"));
         m_isFaithful = task->isFaithful();
+        m_stamp = task->stamp();
         if (task->isStored())
             return end(Stored);
         miss(task->reason());
@@ -116,6 +118,8 @@ void StoreCheck::writeAgain()
         }
         if (!task->isStored())
             return miss(task->reason());
+        m_isFaithful = task->isFaithful();
+        m_stamp = task->stamp();
         // What was typed meanwhile is not in the file.
         if (m_document->revision() == m_revision)
             m_document->setModified(false);

@@ -4,6 +4,8 @@
 #ifndef STORECHECK_H
 #define STORECHECK_H
 
+#include "filestamp.h"
+
 #include <QObject>
 #include <QString>
 
@@ -42,6 +44,8 @@ public:
     void write(const QString &path, const QString &text);
 
     QString path() const { return m_path; }
+    /// Of the file that was stored; invalid when none was.
+    FileStamp stamp() const { return m_stamp; }
     QString text() const { return m_text; }
     /// Whether the files' encoding has all characters of the text.
     bool isFaithful() const { return m_isFaithful; }
@@ -67,6 +71,7 @@ private:
     FileJobs *m_jobs;
     Questioner *m_questioner;
     std::function<QString()> m_otherPlace;
+    FileStamp m_stamp;
     QString m_path;
     QString m_text;
     int m_revision = 0;

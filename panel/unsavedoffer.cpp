@@ -136,9 +136,10 @@ void UnsavedOffer::takeIn(const QList<Found> &found)
 
 void UnsavedOffer::askNext()
 {
-    // Not over a question that the operator reads just now, nor before there are lists to fill.
-    if (QApplication::activeModalWidget() || m_screens.teach->isLoading()
-        || m_screens.variables->isLoading())
+    // Not over a question that the operator reads just now, nor into a program that is loaded or
+    // saved, nor before there are lists to fill.
+    if (QApplication::activeModalWidget() || m_screens.program->guard()->isBusy()
+        || m_screens.teach->isLoading() || m_screens.variables->isLoading())
         return QTimer::singleShot(waitMs, this, &UnsavedOffer::askNext);
     while (!m_found.isEmpty() && m_found.first().works.isEmpty())
         m_found.removeFirst();
@@ -213,6 +214,8 @@ bool UnsavedOffer::bringProgramBack(const KeptWork &work)
         return false;
     if (!isOpen)
         QMetaObject::invokeMethod(window, "newFile");
+    if (!isOpen)
+        m_screens.program->guard()->noteNewProgram();
     m_opener->put(work.text, work.head.cursor);
     if (!wasWhole)
         Q_EMIT told(

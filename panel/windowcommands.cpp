@@ -57,6 +57,10 @@ WindowCommands::WindowCommands(WMMainWindow *window, QObject *parent) : QObject(
 void WindowCommands::pass(Command command)
 {
     m_passing = command;
+    // The bar may have hidden it since it was pressed.
+    QAbstractButton *button = m_gates.value(command)->button();
+    if (button->isHidden())
+        button->setEnabled(true);
     m_gates.value(command)->pass();
     // Behind the click.
     QTimer::singleShot(0, this, [this, command] {

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void tooLargeProgramIsNeverKnown();
     void whatIsNoVersionIsLeftAlone();
     void halfVersionOfAKilledProgramGoes();
+    void whatWasPushedOutIsNotHeld();
     void folderThatCannotBeMade();
     void folderThatTakesNothing();
     void killLosesNoVersionThatWasReported();
@@ -341,6 +342,26 @@ void TestHistoryStore::halfVersionOfAKilledProgramGoes()
     QVERIFY(store.open(&error));
     QVERIFY(QDir(m_folder).entryList(QDir::Files | QDir::Hidden).isEmpty());
     QVERIFY(store.versions().isEmpty());
+}
+
+// It stands there as it was seen, and yet nothing could bring it back.
+void TestHistoryStore::whatWasPushedOutIsNotHeld()
+{
+    HistoryStore::Limits limits;
+    limits.bytes = 1000;
+    HistoryStore store(m_folder, limits);
+    QString error;
+    QVERIFY(store.open(&error));
+    for (const char *name : {"a.cnc", "b.cnc", "c.cnc"})
+        QCOMPARE(put(&store, name, QByteArray(400, *name)), HistoryStore::Stored);
+    const QString path = programDir() + "/a.cnc";
+    QCOMPARE(store.versions().size(), 2);
+    QVERIFY(!store.holds(path));
+    QCOMPARE(store.store(path, &error), HistoryStore::Failed);
+    QVERIFY(error.contains("no room for a.cnc"));
+    // Nor does the next look push out the others.
+    QCOMPARE(store.versions().size(), 2);
+    QVERIFY(store.holds(programDir() + "/b.cnc"));
 }
 
 void TestHistoryStore::folderThatCannotBeMade()

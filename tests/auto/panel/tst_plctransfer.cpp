@@ -338,6 +338,7 @@ void TestPlcTransfer::stopKeepsWhatThePlcHad()
     QCOMPARE(failures.size(), 0);
     QVERIFY(!transfer.isRunning());
     QVERIFY(stops.at(0).at(0).toString().contains("keeps what it had"));
+    QVERIFY(!transfer.isUncompared());
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
     // What was sent by then goes in the thread.
     QTRY_COMPARE(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).size(), 1);
@@ -367,6 +368,7 @@ void TestPlcTransfer::stopAfterTheArrivalTellsThatNothingWasCompared()
     QTRY_COMPARE(stops.size(), 1);
     QCOMPARE(failures.size(), 0);
     QVERIFY(stops.at(0).at(0).toString().contains("compared"));
+    QVERIFY(transfer.isUncompared());
     QCOMPARE(readFile(m_plc + "/coil.cnc"), longProgram());
 }
 

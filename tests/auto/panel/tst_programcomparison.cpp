@@ -31,6 +31,8 @@ private Q_SLOTS:
     void verdictFollowsTheText_data();
     void verdictFollowsTheText();
     void fileIsReadAsTheLibraryReadsIt();
+    void bytesThatCannotBeDecodedCount_data();
+    void bytesThatCannotBeDecodedCount();
     void unreadableFileHasTheSystemsReason();
 };
 
@@ -115,6 +117,25 @@ void TestProgramComparison::fileIsReadAsTheLibraryReadsIt()
     QCOMPARE(int(comparison.verdict()), int(ProgramComparison::Same));
     QCOMPARE(comparison.fileLines(), qint64(3));
     QCOMPARE(comparison.shownLines(), qint64(3));
+}
+
+void TestProgramComparison::bytesThatCannotBeDecodedCount_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("another encoding") << QByteArray("G01 ; \xfc\nG02\n");
+    QTest::newRow("a mark of the encoding") << QByteArray("\xef\xbb\xbfG01\nG02\n");
+    QTest::newRow("lone returns") << QByteArray("G01\rX1\nG02\n");
+}
+
+// The editor shows all that can be decoded; a save would store something else.
+void TestProgramComparison::bytesThatCannotBeDecodedCount()
+{
+    QFETCH(QByteArray, bytes);
+    const QString path = programDir() + "/coil.cnc";
+    writeFile(path, bytes);
+    ProgramComparison comparison(path, ProgramText::decoded(bytes));
+    QVERIFY(!comparison.step());
+    QCOMPARE(int(comparison.verdict()), int(ProgramComparison::Different));
 }
 
 void TestProgramComparison::unreadableFileHasTheSystemsReason()

@@ -3,6 +3,7 @@
 
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "heldfile.h"
 #include "modaldriver.h"
 #include "programguard.h"
 #include "scriptquestioner.h"
@@ -88,7 +89,13 @@ private Q_SLOTS:
     void newCommandWaitsForAStoredSave_data();
     void newCommandWaitsForAStoredSave();
     void commandThatTheBarHidesIsGivenAllTheSame();
+    void commandThatTheBarHidesWhileItWaitsIsGivenAllTheSame();
     void refusedFileIsTheLibrarysToTell();
+    void saveOverAFileThatHasChangedAsks_data();
+    void saveOverAFileThatHasChangedAsks();
+    void fileThatIsGoneIsSavedUnasked();
+    void replacedCharactersAreToldAfterTryingAgain();
+    void hangingStorageIsToldAndTheScreenAnswers();
 
     void savingANewProgramProposesAFreeName();
     void savingAsProposesTheOwnName();
@@ -593,6 +600,132 @@ void TestProgramGuard::refusedFileIsTheLibrarysToTell()
 }
 
 // The first program of the list was proposed: New, Edit, Save, OK covered it.
+// The bar was turned to its next page while the history took in what stood there.
+void TestProgramGuard::commandThatTheBarHidesWhileItWaitsIsGivenAllTheSame()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    m_guard->setHistory([this](const QString &, const ProgramKeeper::Kept &kept) {
+        button("Save")->hide();
+        button("Save")->setEnabled(false);
+        QTimer::singleShot(0, this, [kept] { kept(QString()); });
+    });
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    press("Save");
+    QTRY_VERIFY(wasTold("coil.cnc saved, 3 lines.", Message::Information));
+    QVERIFY(!button("Save")->isEnabled());
+}
+
+void TestProgramGuard::saveOverAFileThatHasChangedAsks_data()
+{
+    QTest::addColumn<bool>("isReplaced");
+    QTest::addColumn<int>("answer");
+    for (bool isReplaced : {false, true}) {
+        QTest::addRow("cancel, %d", isReplaced) << isReplaced << 0;
+        QTest::addRow("as shown, %d", isReplaced) << isReplaced << 1;
+    }
+}
+
+// Brought back from the history, imported or written by another machine while it was open.
+void TestProgramGuard::saveOverAFileThatHasChangedAsks()
+{
+    QFETCH(bool, isReplaced);
+    QFETCH(int, answer);
+    const QByteArray others = "G02\nG03\nG04\n";
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    writeFile(path(isReplaced ? "new.cnc" : "coil.cnc"), others);
+    if (isReplaced)
+        QCOMPARE(::rename(QFile::encodeName(path("new.cnc")), QFile::encodeName(path("coil.cnc"))),
+                 0);
+    m_questioner->answers = {answer};
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(m_questioner->asked.size(), 1);
+    QVERIFY(m_questioner->asked.first().text.contains("otherwise than the file"));
+    QCOMPARE(readFile(path("coil.cnc")) == others, answer == 0);
+    QCOMPARE(ended.first().first().toBool(), answer == 1);
+    if (answer == 0) {
+        QVERIFY(m_guard->state().line().contains("4 lines there, 3 shown"));
+        return;
+    }
+    // Its own bytes are no change.
+    m_window->insertLine("G98");
+    press("Save");
+    QTRY_COMPARE(ended.size(), 2);
+    QCOMPARE(m_questioner->asked.size(), 1);
+}
+
+void TestProgramGuard::fileThatIsGoneIsSavedUnasked()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    QVERIFY(QFile::remove(path("coil.cnc")));
+    press("Save");
+    QTRY_VERIFY(wasTold("coil.cnc saved, 3 lines.", Message::Information));
+    QVERIFY(m_questioner->asked.isEmpty());
+    QVERIFY(QFileInfo(path("coil.cnc")).exists());
+}
+
+void TestProgramGuard::replacedCharactersAreToldAfterTryingAgain()
+{
+    writeFile(path("coil.cnc"), numbered(2000));
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    {
+        const FullDisk full(8192);
+        press("Save");
+        QTRY_COMPARE(ended.size(), 1);
+    }
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::NotStored));
+    m_window->insertLine(QString("G04 ") + QChar(0xd800));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 2);
+    QVERIFY(wasTold("has characters that the file cannot hold", Message::Warning));
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::Different));
+}
+
+// From the moment on at which the library has written the file.
+void TestProgramGuard::hangingStorageIsToldAndTheScreenAnswers()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_guard->setStallTime(300);
+    QScopedPointer<HeldFile> held;
+    const auto hang = connect(document(), &QTextDocument::modificationChanged, this,
+                              [&](bool isModified) {
+                                  if (!isModified && !held)
+                                      held.reset(new HeldFile(path("coil.cnc")));
+                              });
+    m_window->insertLine("G99");
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    LoopPulse pulse;
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(held && held->isHeld());
+    QVERIFY(!ended.first().first().toBool());
+    QVERIFY(wasTold("coil.cnc is not stored: the panel's storage stopped answering",
+                    Message::Alarm));
+    QVERIFY(document()->isModified());
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::NotStored));
+    // The next one does not hang either.
+    press("Save");
+    QTRY_COMPARE(ended.size(), 2);
+    QVERIFY(wasTold("The panel's storage does not answer.", Message::Warning));
+    QVERIFY(pulse.longest() < 250);
+    disconnect(hang);
+    held.reset();
+    press("Save");
+    QTRY_COMPARE(ended.size(), 3);
+    QVERIFY(ended.last().first().toBool());
+    QVERIFY(!document()->isModified());
+    QVERIFY(readFile(path("coil.cnc")).contains("G99"));
+}
+
 void TestProgramGuard::savingANewProgramProposesAFreeName()
 {
     writeFile(path("coil5.cnc"), "G01\n");

@@ -3,6 +3,7 @@
 
 #include "filarixtest.h"
 #include "filecalls.h"
+#include "heldfile.h"
 #include "programhistory.h"
 
 #include <QDir>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void waiterIsCalledWhenAProgramCannotBeKept();
     void waiterIsCalledWhenTheStorageIsLost();
     void waiterIsCalledWhenAWriterDoesNotEnd();
+    void lookThatNobodyWaitedForKeepsNothing();
     void waiterThatIsGoneIsNotCalled();
     void restoreKeepsThePermissions();
     void saveRightBeforeTheRenameIsKept_data();
@@ -75,6 +77,13 @@ private:
     QScopedPointer<ProgramHistory> m_history;
     QScopedPointer<QSignalSpy> m_told;
 };
+
+/// Written long ago, as far as the history can tell.
+static void age(const QString &path)
+{
+    const struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
+    ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
+}
 
 static QByteArray contentOf(const ProgramVersion &version)
 {
@@ -484,6 +493,33 @@ void TestProgramHistory::waiterIsCalledWhenAWriterDoesNotEnd()
     m_history->whenSettled(this, [&] { ++calls; });
     QTRY_COMPARE(calls, 2);
     QVERIFY(m_history->isKept("coil.cnc"));
+}
+
+// A disk may be so slow that patience ends before the look at what stands there.
+void TestProgramHistory::lookThatNobodyWaitedForKeepsNothing()
+{
+    const QString slow = programDir() + "/slow.cnc";
+    writeFile(slow, "before\n");
+    start();
+    QTRY_VERIFY(m_history->isSettled());
+    QVERIFY(m_history->isKept("coil.cnc"));
+    m_history->setPatience(300);
+    m_history->setStallTime(60000);
+    writeFile(slow, "more\n");
+    age(slow);
+    HeldFile held(slow);
+    QVERIFY(held.isHeld());
+    int calls = 0;
+    m_history->whenSettled(this, [&] { ++calls; });
+    QTRY_COMPARE(calls, 1);
+    writeFile(m_path, "changed while the history waits for its disk\n");
+    m_history->whenSettled(this, [&] { ++calls; });
+    QTRY_COMPARE(calls, 2);
+    QVERIFY(!m_history->isKept("coil.cnc"));
+    QVERIFY(m_history->reasonNotKept("coil.cnc").contains("has not taken in coil.cnc yet"));
+    held.letGo();
+    QTRY_VERIFY(m_history->isKept("coil.cnc"));
+    QTRY_VERIFY(m_history->isSettled());
 }
 
 void TestProgramHistory::waiterThatIsGoneIsNotCalled()

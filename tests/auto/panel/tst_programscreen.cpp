@@ -40,6 +40,7 @@ private Q_SLOTS:
     void failedDownloadGivesTheKeyBack();
     void messageOfThePlcEndsWithADownload();
     void stoppedDownloadGivesTheKeyBack();
+    void stopBeforeTheComparisonWarnsUntilADownloadIsCompared();
     void questionShowsWhatIsOnTheDisk();
     void refusedDownloadSendsNothing();
     void whatWasShownIsSent_data();
@@ -220,6 +221,33 @@ void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
     QVERIFY(!window->isDownloading());
     QVERIFY(!QFileInfo(m_plc + "/coil.cnc").exists());
     QVERIFY(!QFileInfo(m_screen->snapshot()->copyPath()).exists());
+}
+
+void TestProgramScreen::stopBeforeTheComparisonWarnsUntilADownloadIsCompared()
+{
+    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    WMMainWindow *window = m_screen->programWindow();
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QSignalSpy ends(m_screen, SIGNAL(causeEnded(QString)));
+    const auto stopping = connect(m_screen->transfer(), &PlcTransfer::progress, m_screen,
+                                  [this](int percent) {
+                                      if (percent >= 60)
+                                          m_screen->stopWork();
+                                  });
+    ModalDriver driver;
+    answer(&driver, "send");
+    Q_EMIT window->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.first().at(1).value<Message::Tone>(), Message::Warning);
+    QCOMPARE(told.first().at(2).toString(), QString("plc"));
+    QCOMPARE(ends.size(), 0);
+    disconnect(stopping);
+    answer(&driver, "send");
+    Q_EMIT window->signal_download(programDir() + "/coil.cnc");
+    QTRY_COMPARE(told.size(), 2);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(ends.size(), 1);
+    QCOMPARE(ends.first().first().toString(), QString("plc"));
 }
 
 void TestProgramScreen::questionShowsWhatIsOnTheDisk()

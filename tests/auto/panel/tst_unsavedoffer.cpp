@@ -6,6 +6,8 @@
 #include "machinedata.h"
 #include "modaldriver.h"
 #include "panelkey.h"
+#include "programguard.h"
+#include "programopener.h"
 #include "programscreen.h"
 #include "taughtprogram.h"
 #include "teachscreen.h"
@@ -20,11 +22,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTextDocument>
 #include <QTimer>
+
+#include <functional>
 
 #include <sys/stat.h>
 
@@ -46,6 +51,9 @@ private Q_SLOTS:
     void programWhoseFileHasChanged();
     void frontPartOfAProgramBecomesANewOne();
     void programWithoutAFile();
+    void newProgramHasNothingOfTheLastOne();
+    void operatorsOwnChangesStay();
+    void programThatIsLoadedComesFirst();
     void savedProgramIsNotOffered();
     void newestSessionComesFirst();
     void workThatCannotBeReadIsToldAndPutAside();
@@ -356,6 +364,84 @@ void TestUnsavedOffer::programWithoutAFile()
     QVERIFY(lines.first().startsWith("New program, "));
     QCOMPARE(text(), QString("G01\n"));
     QVERIFY(m_program->hasChanges());
+}
+
+void TestUnsavedOffer::newProgramHasNothingOfTheLastOne()
+{
+    writeFile(programDir() + "/coil.cnc", QByteArray("G01 X1 ; comment\n\n").repeated(600));
+    ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
+    QVERIFY(opener.open(programDir() + "/coil.cnc"));
+    QCOMPARE(int(m_program->guard()->state().kind), int(ProgramState::Cleaned));
+    keep({program("G99\n", QString())});
+    pressOnce(this, "bringBack");
+    offer();
+    QCOMPARE(text(), QString("G99\n"));
+    QCOMPARE(int(m_program->guard()->state().kind), int(ProgramState::Plain));
+}
+
+// The operator was faster than the question, and does not want to lose that.
+void TestUnsavedOffer::operatorsOwnChangesStay()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
+    QVERIFY(opener.open(programDir() + "/coil.cnc"));
+    keep({program("G02\n")});
+    m_program->programWindow()->insertLine("G99");
+    const QString own = text();
+    ModalDriver driver;
+    press(&driver, "bringBack");
+    driver.press(QMessageBox::Cancel);
+    offer();
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(text(), own);
+    QVERIFY(m_program->editor()->document()->isUndoAvailable());
+    QVERIFY(m_told.first().contains("coil.cnc was not brought back"));
+    m_offer.reset();
+    // Both are there: this run's, and the one of before.
+    QTRY_COMPARE(sessions().size(), 2);
+}
+
+namespace {
+
+/// Runs once when a program begins to be loaded.
+class AtLoading : public QObject
+{
+public:
+    explicit AtLoading(const std::function<void()> &run) : m_run(run)
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (!m_run || event->type() != QEvent::Show || !qobject_cast<QProgressDialog *>(watched))
+            return false;
+        const std::function<void()> run = m_run;
+        m_run = nullptr;
+        run();
+        return false;
+    }
+
+private:
+    std::function<void()> m_run;
+};
+
+} // namespace
+
+// What is brought back into a program that is being loaded would be mixed with it, and dropped.
+void TestUnsavedOffer::programThatIsLoadedComesFirst()
+{
+    writeFile(programDir() + "/long.cnc", QByteArray("G01 X1\n").repeated(200000));
+    keep({program("G99\n", QString())});
+    m_offer.reset(new UnsavedOffer(m_folder, {m_program, m_teach, m_variables}, m_work));
+    QSignalSpy ended(m_offer.data(), SIGNAL(ended()));
+    AtLoading atLoading([this] { m_offer->start(); });
+    pressOnce(this, "bringBack");
+    ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
+    opener.open(programDir() + "/long.cnc");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(text(), QString("G99\n"));
+    QVERIFY(m_program->hasChanges());
+    QVERIFY(m_program->programWindow()->getCurrentFile().isEmpty());
 }
 
 void TestUnsavedOffer::savedProgramIsNotOffered()
