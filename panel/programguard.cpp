@@ -285,10 +285,13 @@ void ProgramGuard::holdSave()
 // A restore, an import or another machine may have put something else there meanwhile.
 void ProgramGuard::noteFile(const ProgramOnDisk &file)
 {
-    const bool isSame = !file.stamp().isValid() || file.stamp() == m_stamp;
-    if (isSame || !m_stamp.isValid() || m_state.kind == ProgramState::NotStored)
+    const FileStamp now = file.stamp();
+    // Other rights, or a new name and the old one again, change nothing in it.
+    const bool isSame = now.size == m_stamp.size && now.inode == m_stamp.inode
+                        && now.modified == m_stamp.modified;
+    if (isSame || !now.isValid() || !m_stamp.isValid() || m_state.kind == ProgramState::NotStored)
         return;
-    m_stamp = file.stamp();
+    m_stamp = now;
     ProgramState state = m_state;
     state.kind = ProgramState::Different;
     state.name = nameOf(m_target);

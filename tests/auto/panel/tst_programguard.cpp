@@ -116,6 +116,7 @@ private:
     QToolButton *button(const QString &text) const;
     void press(const QString &text) { button(text)->click(); }
     void open(const QString &name);
+    void hideSave();
     static void pick(QWidget *dialog, const QString &name);
     static QString hint(QWidget *dialog) { return dialog->findChild<QLabel *>("hint")->text(); }
     static void giveUp(QWidget *dialog) { static_cast<QDialog *>(dialog)->reject(); }
@@ -563,17 +564,22 @@ void TestProgramGuard::newCommandWaitsForAStoredSave()
 }
 
 // On a small panel the bar shows some of its buttons only, and the others are off.
-void TestProgramGuard::commandThatTheBarHidesIsGivenAllTheSame()
+void TestProgramGuard::hideSave()
 {
-    writeFile(path("coil.cnc"), "G01\n");
-    open("coil.cnc");
-    m_window->insertLine("G99");
     const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
     for (QToolBar *bar : bars) {
         const QList<QAction *> actions = bar->actions();
         for (QAction *action : actions)
             action->setVisible(bar->widgetForAction(action) != button("Save"));
     }
+}
+
+void TestProgramGuard::commandThatTheBarHidesIsGivenAllTheSame()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    hideSave();
     QVERIFY(!button("Save")->isEnabled());
     QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
     m_guard->save();
@@ -599,14 +605,12 @@ void TestProgramGuard::refusedFileIsTheLibrarysToTell()
     QCOMPARE(m_told->size(), 0);
 }
 
-// The first program of the list was proposed: New, Edit, Save, OK covered it.
 // The bar was turned to its next page while the history took in what stood there.
 void TestProgramGuard::commandThatTheBarHidesWhileItWaitsIsGivenAllTheSame()
 {
     writeFile(path("coil.cnc"), "G01\n");
     m_guard->setHistory([this](const QString &, const ProgramKeeper::Kept &kept) {
-        button("Save")->hide();
-        button("Save")->setEnabled(false);
+        hideSave();
         QTimer::singleShot(0, this, [kept] { kept(QString()); });
     });
     open("coil.cnc");
@@ -726,6 +730,7 @@ void TestProgramGuard::hangingStorageIsToldAndTheScreenAnswers()
     QVERIFY(readFile(path("coil.cnc")).contains("G99"));
 }
 
+// The first program of the list was proposed: New, Edit, Save, OK covered it.
 void TestProgramGuard::savingANewProgramProposesAFreeName()
 {
     writeFile(path("coil5.cnc"), "G01\n");

@@ -22,14 +22,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTextDocument>
 #include <QTimer>
-
-#include <functional>
 
 #include <sys/stat.h>
 
@@ -401,40 +398,21 @@ void TestUnsavedOffer::operatorsOwnChangesStay()
     QTRY_COMPARE(sessions().size(), 2);
 }
 
-namespace {
-
-/// Runs once when a program begins to be loaded.
-class AtLoading : public QObject
-{
-public:
-    explicit AtLoading(const std::function<void()> &run) : m_run(run)
-    {
-        qApp->installEventFilter(this);
-    }
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (!m_run || event->type() != QEvent::Show || !qobject_cast<QProgressDialog *>(watched))
-            return false;
-        const std::function<void()> run = m_run;
-        m_run = nullptr;
-        run();
-        return false;
-    }
-
-private:
-    std::function<void()> m_run;
-};
-
-} // namespace
-
 // What is brought back into a program that is being loaded would be mixed with it, and dropped.
 void TestUnsavedOffer::programThatIsLoadedComesFirst()
 {
-    writeFile(programDir() + "/long.cnc", QByteArray("G01 X1\n").repeated(200000));
+    writeFile(programDir() + "/long.cnc", QByteArray("G01 X1\n").repeated(100000));
     keep({program("G99\n", QString())});
     m_offer.reset(new UnsavedOffer(m_folder, {m_program, m_teach, m_variables}, m_work));
     QSignalSpy ended(m_offer.data(), SIGNAL(ended()));
-    AtLoading atLoading([this] { m_offer->start(); });
+    QTextDocument *document = m_program->editor()->document();
+    QMetaObject::Connection loading;
+    loading = connect(document, &QTextDocument::contentsChanged, this, [&] {
+        if (document->blockCount() < 1000)
+            return;
+        disconnect(loading);
+        m_offer->start();
+    });
     pressOnce(this, "bringBack");
     ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
     opener.open(programDir() + "/long.cnc");
