@@ -104,7 +104,7 @@ void StoreCheck::ask(const QString &otherFolder)
     if (answer == 1)
         return writeAgain();
     if (answer == 2)
-        return writeElsewhere(otherFolder);
+        return lookAndWriteElsewhere(otherFolder);
     end(NotStored);
 }
 
@@ -124,6 +124,17 @@ void StoreCheck::writeAgain()
         if (m_document->revision() == m_revision)
             m_document->setModified(false);
         end(Stored);
+    });
+}
+
+// Judged at the press: while the question stood the stick may have gone, and left its folder.
+void StoreCheck::lookAndWriteElsewhere(const QString &folder)
+{
+    const std::shared_ptr<PlaceTask> task = std::make_shared<PlaceTask>(m_otherPlace);
+    m_jobs->run(task, [this, task, folder](bool hasEnded) {
+        if (hasEnded && task->folder() == folder)
+            return writeElsewhere(folder);
+        miss(tr("neither here nor on the stick, which is out"));
     });
 }
 

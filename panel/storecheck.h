@@ -64,6 +64,7 @@ private:
     void lookForOtherPlace();
     void ask(const QString &otherFolder);
     void writeAgain();
+    void lookAndWriteElsewhere(const QString &folder);
     void writeElsewhere(const QString &folder);
     void end(Outcome outcome);
 

@@ -24,6 +24,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <atomic>
 #include <csignal>
 
 #include <sys/resource.h>
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void writeErrorIsToldAndTheDocumentIsModifiedAgain();
     void tryingAgainStoresAllOfIt();
     void savingElsewhereLeavesTheDocumentModified();
+    void stickThatWasPulledMeanwhileGetsNothing();
     void newCommandWaitsForAStoredSave_data();
     void newCommandWaitsForAStoredSave();
     void commandThatTheBarHidesIsGivenAllTheSame();
@@ -528,6 +530,30 @@ void TestProgramGuard::savingElsewhereLeavesTheDocumentModified()
     QCOMPARE(QString::fromUtf8(readFile(stick + "/coil_2.cnc")), document()->toPlainText());
     QVERIFY(document()->isModified());
     QVERIFY(wasTold("coil.cnc is on the stick as coil_2.cnc.", Message::Warning));
+}
+
+// The mount point stays behind, on the panel's own disk.
+void TestProgramGuard::stickThatWasPulledMeanwhileGetsNothing()
+{
+    const QString stick = home() + "/stick";
+    QVERIFY(QDir().mkpath(stick));
+    std::atomic<int> looks{0};
+    m_guard->setOtherPlace([stick, &looks] { return looks++ == 0 ? stick : QString(); });
+    writeFile(path("coil.cnc"), numbered(2000));
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    m_questioner->answers = {2, 0};
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    {
+        const FullDisk full(8192);
+        press("Save");
+        QTRY_COMPARE(ended.size(), 1);
+    }
+    QVERIFY(QDir(stick).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    QCOMPARE(m_questioner->asked.size(), 2);
+    QVERIFY(m_questioner->asked.last().text.contains("the stick, which is out"));
+    QVERIFY(document()->isModified());
+    m_guard->setOtherPlace(std::function<QString()>());
 }
 
 void TestProgramGuard::newCommandWaitsForAStoredSave_data()
