@@ -292,11 +292,10 @@ void ImportGuard::passUnlessLost(const Gate &gate)
 
 bool ImportGuard::mayLose(const QString &name)
 {
-    QMessageBox box(
-        QMessageBox::Warning, tr("History"),
-        tr("%1 What %2 is now could not be brought back. Go on all the same?")
-            .arg(m_history->reasonNotKept(name), name),
-        QMessageBox::Yes | QMessageBox::Cancel, QApplication::activeModalWidget());
+    QMessageBox box(QMessageBox::Warning, tr("History"),
+                    tr("%1 What %2 is now could not be brought back. Go on all the same?")
+                        .arg(m_history->reasonNotKept(name), name),
+                    QMessageBox::Yes | QMessageBox::Cancel, QApplication::activeModalWidget());
     box.setObjectName(ownQuestion);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Cancel);
