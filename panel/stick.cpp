@@ -3,12 +3,15 @@
 
 #include "stick.h"
 
+#include "filethread.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QSemaphore>
 
 #include <cerrno>
 #include <csignal>
@@ -20,6 +23,8 @@
 namespace {
 
 const QByteArray kMarkerText = "filarix-panel ";
+// What taking the stick out needs, on a file system that answers.
+const int partingMs = 1000;
 
 struct Words
 {
@@ -71,9 +76,11 @@ private:
 
     bool isBound() const;
     static bool isMarkerAbandoned();
-    bool isLinked() const;
+    bool isLinked() const { return isLinkTo(m_folder); }
+    static bool isLinkTo(const QString &folder);
     bool link(QString *error);
     void takeOut();
+    static void takeOut(const QString &folder, bool hasMarker);
 
     const QString m_folder;
     QMutex m_mutex;
@@ -125,13 +132,26 @@ void Stick::pull()
         m_simulation->pull();
 }
 
+// A stick that hangs keeps no program from ending: what is left to do then is left behind.
 Stick::Simulation::~Simulation()
 {
     if (m_folder.isEmpty())
         return;
-    takeOut();
-    if (m_replacedFolder)
-        QDir().mkdir(mountPoint());
+    const QString folder = m_folder;
+    const bool hasMarker = m_madeMarker;
+    const bool replacedFolder = m_replacedFolder;
+    const std::shared_ptr<QSemaphore> done = std::make_shared<QSemaphore>();
+    FileThread thread;
+    thread.post(
+        [folder, hasMarker, replacedFolder, done] {
+            takeOut(folder, hasMarker);
+            if (replacedFolder)
+                QDir().mkdir(mountPoint());
+            done->release();
+        },
+        [] {});
+    if (!done->tryAcquire(1, partingMs))
+        thread.giveUp();
 }
 
 bool Stick::Simulation::plug(QString *error)
@@ -174,10 +194,15 @@ void Stick::Simulation::pull()
 
 void Stick::Simulation::takeOut()
 {
-    if (m_madeMarker)
-        QFile::remove(marker());
+    takeOut(m_folder, m_madeMarker);
     m_madeMarker = false;
-    if (isLinked())
+}
+
+void Stick::Simulation::takeOut(const QString &folder, bool hasMarker)
+{
+    if (hasMarker)
+        QFile::remove(marker());
+    if (isLinkTo(folder))
         QFile::remove(mountPoint());
 }
 
@@ -201,9 +226,9 @@ bool Stick::Simulation::isMarkerAbandoned()
     return process > 0 && kill(process, 0) != 0 && errno == ESRCH;
 }
 
-bool Stick::Simulation::isLinked() const
+bool Stick::Simulation::isLinkTo(const QString &folder)
 {
-    return QFileInfo(mountPoint()).isSymLink() && QFile::symLinkTarget(mountPoint()) == m_folder;
+    return QFileInfo(mountPoint()).isSymLink() && QFile::symLinkTarget(mountPoint()) == folder;
 }
 
 bool Stick::Simulation::link(QString *error)
