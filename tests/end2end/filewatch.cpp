@@ -6,7 +6,8 @@
 // FILARIX_WATCHED names folders, parted by ":". A call of the program's first thread on something
 // below one of them is written to the file FILARIX_WATCH_LOG, one line each, with the way that led
 // there; but not where the library is nearer to the call than the program: its own calls are part
-// of its design.
+// of its design. Nor are those of its lists of files, which the toolkit makes for it while it paints,
+// and those of the commands that it starts.
 //
 // FILARIX_HANGING names folders, too. While the file FILARIX_HANG_SWITCH exists, whoever calls for
 // something below one of them waits, whatever thread it is: a file system that hangs.
@@ -34,6 +35,10 @@ namespace {
 
 const int mostFrames = 100;
 const long pauseNs = 20 * 1000 * 1000;
+// The library's model of a folder; the program has none.
+const char libraryModel[] = "9QDirModel";
+// The program that the watch was loaded into first. What it starts inherits the name.
+const char watchedProcess[] = "FILARIX_WATCHED_PROCESS";
 
 // In the middle of a call of our own.
 thread_local bool isBusy = false;
@@ -58,9 +63,14 @@ bool isBelow(const char *path, const char *folders)
     return false;
 }
 
+__attribute__((constructor)) void begin()
+{
+    setenv(watchedProcess, std::to_string(getpid()).c_str(), 0);
+}
+
 bool isFirstThread()
 {
-    return syscall(SYS_gettid) == getpid();
+    return syscall(SYS_gettid) == getpid() && atoi(setting(watchedProcess)) == getpid();
 }
 
 const char *fileOf(const Dl_info &info)
@@ -85,6 +95,8 @@ std::string way()
             return std::string();
         isPrograms = isPrograms || file.compare(0, 13, "filarix-panel") == 0;
         const std::string symbol = info.dli_sname ? info.dli_sname : "";
+        if (!isPrograms && symbol.find(libraryModel) != std::string::npos)
+            return std::string();
         text += " < " + (symbol.empty() ? file : symbol);
         // What lies behind is the way to the event loop, not to the call.
         if (symbol.find("QEventLoop4exec") != std::string::npos)

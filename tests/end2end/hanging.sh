@@ -94,4 +94,13 @@ expect_gone Yes "File names"
 end "the stick is in"
 [ ! -e /tmp/udiskattach ] || desk_fail "the stick left its marker behind"
 
+# Nor does a stick that hangs keep the program from ending.
+start "the stick is out" --stick /mnt/Storage.stick
+touch_text Files
+touch_text Plug
+expect_text "The stick is in; all file names are safe."
+touch "$hang"
+end "the stick hangs"
+rm "$hang"
+
 echo "1 passed, 0 failed"
