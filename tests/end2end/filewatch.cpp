@@ -6,8 +6,8 @@
 // FILARIX_WATCHED names folders, parted by ":". A call of the program's first thread on something
 // below one of them is written to the file FILARIX_WATCH_LOG, one line each, with the way that led
 // there; but not where the library is nearer to the call than the program: its own calls are part
-// of its design. Nor are those of its lists of files, which the toolkit makes for it while it paints,
-// and those of the commands that it starts.
+// of its design. Nor are those of its lists of files, which the toolkit makes for it while it
+// paints, and those of the commands that it starts.
 //
 // FILARIX_HANGING names folders, too. While the file FILARIX_HANG_SWITCH exists, whoever calls for
 // something below one of them waits, whatever thread it is: a file system that hangs.
