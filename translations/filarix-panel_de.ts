@@ -309,6 +309,10 @@
         <source>The history cannot keep %1: %2.</source>
         <translation>Der Verlauf kann %1 nicht sichern: %2.</translation>
     </message>
+    <message>
+        <source>The history has no room for %1 beside the other programs.</source>
+        <translation>Der Verlauf hat neben den anderen Programmen keinen Platz für %1.</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -353,10 +357,6 @@
         <translation>Verlauf</translation>
     </message>
     <message>
-        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
-        <translation>%1 ist nicht im Verlauf und lässt sich nicht zurückholen. Trotzdem weiter?</translation>
-    </message>
-    <message>
         <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
         <translation>Der Stick antwortet nicht: Nichts wurde kopiert, gelöscht oder umbenannt. Abziehen und wieder einstecken.</translation>
     </message>
@@ -391,6 +391,10 @@
     <message>
         <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
         <translation>Die Kopie von %1 weicht vom Original ab. Ist noch Platz? Noch einmal kopieren.</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
+        <translation>%1 Was %2 jetzt ist, ließe sich nicht zurückholen. Trotzdem weiter?</translation>
     </message>
 </context>
 <context>
@@ -1149,6 +1153,10 @@
     <message>
         <source>neither here nor on the stick (%1)</source>
         <translation>weder hier noch auf dem Stick (%1)</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, which is out</source>
+        <translation>weder hier noch auf dem Stick, der nicht steckt</translation>
     </message>
 </context>
 <context>

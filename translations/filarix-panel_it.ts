@@ -309,6 +309,10 @@
         <source>The history cannot keep %1: %2.</source>
         <translation>Lo storico non può salvare %1: %2.</translation>
     </message>
+    <message>
+        <source>The history has no room for %1 beside the other programs.</source>
+        <translation>Lo storico non ha posto per %1 accanto agli altri programmi.</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -353,10 +357,6 @@
         <translation>Storico</translation>
     </message>
     <message>
-        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
-        <translation>%1 non è nello storico e non si può ripristinare. Continuare comunque?</translation>
-    </message>
-    <message>
         <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
         <translation>La chiavetta non risponde: nulla è stato copiato, eliminato o rinominato. Toglierla e inserirla di nuovo.</translation>
     </message>
@@ -391,6 +391,10 @@
     <message>
         <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
         <translation>La copia di %1 è diversa dall&apos;originale. C&apos;è ancora spazio? Copiarlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
+        <translation>%1 Ciò che %2 è ora non si potrebbe recuperare. Continuare comunque?</translation>
     </message>
 </context>
 <context>
@@ -1149,6 +1153,10 @@
     <message>
         <source>neither here nor on the stick (%1)</source>
         <translation>né qui né sulla chiavetta (%1)</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, which is out</source>
+        <translation>né qui né sulla chiavetta, che non è inserita</translation>
     </message>
 </context>
 <context>

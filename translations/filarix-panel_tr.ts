@@ -309,6 +309,10 @@
         <source>The history cannot keep %1: %2.</source>
         <translation>Geçmiş %1 dosyasını saklayamıyor: %2.</translation>
     </message>
+    <message>
+        <source>The history has no room for %1 beside the other programs.</source>
+        <translation>Geçmişte diğer programların yanında %1 için yer yok.</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -353,10 +357,6 @@
         <translation>Geçmiş</translation>
     </message>
     <message>
-        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
-        <translation>%1 geçmişte yok ve geri alınamaz. Yine de devam edilsin mi?</translation>
-    </message>
-    <message>
         <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
         <translation>Bellek yanıt vermiyor: hiçbir şey kopyalanmadı, silinmedi ya da yeniden adlandırılmadı. Çıkarıp yeniden takın.</translation>
     </message>
@@ -391,6 +391,10 @@
     <message>
         <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
         <translation>%1 kopyası aslından farklı. Yer var mı? Yeniden kopyalayın.</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
+        <translation>%1 %2 dosyasının şimdiki hâli geri getirilemez. Yine de devam edilsin mi?</translation>
     </message>
 </context>
 <context>
@@ -1149,6 +1153,10 @@
     <message>
         <source>neither here nor on the stick (%1)</source>
         <translation>ne burada ne bellekte (%1)</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, which is out</source>
+        <translation>ne burada ne de takılı olmayan bellekte</translation>
     </message>
 </context>
 <context>

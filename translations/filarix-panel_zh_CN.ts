@@ -309,6 +309,10 @@
         <source>The history cannot keep %1: %2.</source>
         <translation>历史无法保存 %1: %2。</translation>
     </message>
+    <message>
+        <source>The history has no room for %1 beside the other programs.</source>
+        <translation>历史中没有空间存放 %1。</translation>
+    </message>
 </context>
 <context>
     <name>ImportGuard</name>
@@ -353,10 +357,6 @@
         <translation>历史</translation>
     </message>
     <message>
-        <source>%1 is not in the history and cannot be brought back. Go on all the same?</source>
-        <translation>%1 不在历史中, 无法恢复。仍要继续吗?</translation>
-    </message>
-    <message>
         <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
         <translation>U 盘无应答: 没有复制、删除或重命名任何内容。请拔出后重新插入。</translation>
     </message>
@@ -391,6 +391,10 @@
     <message>
         <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
         <translation>%1 的副本与原文件不同。空间是否足够? 请重新复制。</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
+        <translation>%1 %2 现在的内容将无法恢复。仍要继续吗?</translation>
     </message>
 </context>
 <context>
@@ -1149,6 +1153,10 @@
     <message>
         <source>neither here nor on the stick (%1)</source>
         <translation>面板和 U 盘上都没有 (%1)</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, which is out</source>
+        <translation>此处和已拔出的 U 盘都未保存</translation>
     </message>
 </context>
 <context>
