@@ -128,7 +128,7 @@ void Reaction::planAll()
         then([this, loads] { measure(pressesEach, loads); });
         waitFor("the end of the load", [loads] { return !loads(); });
     }
-    then([this] { evaluate("while a program of 200,000 lines loads"); });
+    then([this] { evaluate("while a program of 100,000 lines loads"); });
 
     open("short.cnc");
     clickTool("Download G File To PLC!");

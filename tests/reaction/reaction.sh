@@ -11,7 +11,7 @@ set -euo pipefail
 
 export FILARIX_HANGING=$HOME/plc:/mnt/Storage FILARIX_HANG_SWITCH=/tmp/hang
 mkdir -p "$HOME/plc" "$HOME/cnc"
-awk 'BEGIN { for (i = 0; i < 200000; ++i) printf "N%d G01 X%d.5 F100\n", i, i % 90 }' \
+awk 'BEGIN { for (i = 0; i < 100000; ++i) printf "N%d G01 X%d.5 F100\n", i, i % 90 }' \
     >"$HOME/cnc/long.cnc"
 awk 'BEGIN { for (i = 0; i < 300; ++i) printf "N%d G01 X%d.5 F100\n", i, i % 90 }' \
     >"$HOME/cnc/short.cnc"
