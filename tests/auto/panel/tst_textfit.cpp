@@ -339,9 +339,10 @@ void TestTextFit::measureBoxes(const Measure &measure)
         QString text;
         QMessageBox::StandardButtons answers;
     } boxes[] = {
-        {text("ImportGuard", "%1 is not in the history and cannot be brought back. Go on all the "
-                             "same?")
-             .arg(kName),
+        {text("ImportGuard", "%1 What %2 is now could not be brought back. Go on all the same?")
+             .arg(text("HistoryStore", "The history has no room for %1 beside the other programs.")
+                      .arg(kName),
+                  kName),
          QMessageBox::Yes | QMessageBox::Cancel},
         {text("UnsavedQuestion", "Throw the unsaved work away for good?"),
          QMessageBox::Yes | QMessageBox::No},
