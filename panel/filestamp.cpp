@@ -13,7 +13,7 @@ namespace {
 const qint64 kNsPerSecond = 1000000000;
 const qint64 kNsPerMs = 1000000;
 
-FileStamp stamp(int result, const struct stat &info)
+FileStamp stamp(int result, const struct stat64 &info)
 {
     FileStamp stamp;
     if (result != 0 || !S_ISREG(info.st_mode))
@@ -29,15 +29,15 @@ FileStamp stamp(int result, const struct stat &info)
 
 FileStamp FileStamp::of(const QString &path)
 {
-    struct stat info = {};
-    const int result = ::stat(QFile::encodeName(path).constData(), &info);
+    struct stat64 info = {};
+    const int result = ::stat64(QFile::encodeName(path).constData(), &info);
     return stamp(result, info);
 }
 
 FileStamp FileStamp::of(const QFile &openFile)
 {
-    struct stat info = {};
-    const int result = ::fstat(openFile.handle(), &info);
+    struct stat64 info = {};
+    const int result = ::fstat64(openFile.handle(), &info);
     return stamp(result, info);
 }
 
