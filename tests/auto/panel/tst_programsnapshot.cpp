@@ -46,6 +46,14 @@ private:
     QString m_path;
 };
 
+/// A panel beside this one: its process, what it waits for, and what it says.
+static struct
+{
+    pid_t process;
+    int order;
+    int report;
+} other;
+
 static QByteArray longProgram()
 {
     return QByteArray("G01 X1.5 Y-2\n").repeated(4 * ProgramSnapshot::kPiece / 13);
@@ -288,39 +296,14 @@ void TestProgramSnapshot::copyOfAnotherRunGoes()
     QTRY_COMPARE(copies(), QStringList("notes.txt"));
 }
 
-/// A panel that takes a copy, reports where that is, and runs until it is killed.
-static int panelWithACopy(const QString &folder, const QString &program)
-{
-    ProgramSnapshot snapshot(folder);
-    bool isTaken = false;
-    QObject::connect(&snapshot, &ProgramSnapshot::taken, [&] { isTaken = true; });
-    snapshot.take(program);
-    if (!QTest::qWaitFor([&] { return isTaken; }))
-        return 1;
-    const QByteArray report = QFile::encodeName(snapshot.copyPath()) + '\n';
-    if (::write(STDOUT_FILENO, report.constData(), size_t(report.size())) != report.size())
-        return 2;
-    for (;;)
-        ::pause();
-}
-
 void TestProgramSnapshot::copyOfAnotherPanelStays()
 {
     writeFile(m_path, "shown on the first panel\n");
-    int ends[2];
-    QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::dup2(ends[1], STDOUT_FILENO);
-        ::_exit(panelWithACopy(m_folder, m_path));
-    }
-    QVERIFY(child > 0);
-    ::close(ends[1]);
+    QCOMPARE(::write(other.order, "!", 1), ssize_t(1));
     QByteArray copy;
     char letter = 0;
-    while (::read(ends[0], &letter, 1) == 1 && letter != '\n')
+    while (::read(other.report, &letter, 1) == 1 && letter != '\n')
         copy += letter;
-    ::close(ends[0]);
     QVERIFY(!copy.isEmpty());
     {
         ProgramSnapshot second(m_folder);
@@ -333,8 +316,8 @@ void TestProgramSnapshot::copyOfAnotherPanelStays()
         QTRY_COMPARE(copies().size(), 1);
     }
     QCOMPARE(readFile(QFile::decodeName(copy)), QByteArray("shown on the first panel\n"));
-    QCOMPARE(::kill(child, SIGKILL), 0);
-    QCOMPARE(::waitpid(child, nullptr, 0), child);
+    QCOMPARE(::kill(other.process, SIGKILL), 0);
+    QCOMPARE(::waitpid(other.process, nullptr, 0), other.process);
     // Nobody holds it any more.
     QCOMPARE(copies().size(), 1);
     ProgramSnapshot third(m_folder);
@@ -359,5 +342,46 @@ void TestProgramSnapshot::nobodyWaitsForStorageThatHangs()
     QVERIFY(release(&leased));
 }
 
-FILARIX_TEST_MAIN(TestProgramSnapshot)
+/// Once there is an order: a panel that takes a copy, reports where that is, and runs until it is
+/// killed.
+static int runOtherPanel(int order, int report, int argc, char **argv)
+{
+    char letter = 0;
+    if (::read(order, &letter, 1) != 1)
+        return 0;
+    const QCoreApplication application(argc, argv);
+    ProgramSnapshot snapshot(FilarixTest::home() + "/hmi/outgoing");
+    bool isTaken = false;
+    QObject::connect(&snapshot, &ProgramSnapshot::taken, [&] { isTaken = true; });
+    snapshot.take(FilarixTest::programDir() + "/coil.cnc");
+    if (!QTest::qWaitFor([&] { return isTaken; }))
+        return 1;
+    const QByteArray path = QFile::encodeName(snapshot.copyPath()) + '\n';
+    if (::write(report, path.constData(), size_t(path.size())) != path.size())
+        return 2;
+    for (;;)
+        ::pause();
+}
+
+// A program with threads cannot be forked everywhere, so that comes first.
+int main(int argc, char **argv)
+{
+    int orders[2];
+    int reports[2];
+    if (::pipe2(orders, O_CLOEXEC) != 0 || ::pipe2(reports, O_CLOEXEC) != 0)
+        return 97;
+    other.process = ::fork();
+    if (other.process == 0) {
+        ::close(orders[1]);
+        ::_exit(runOtherPanel(orders[0], reports[1], argc, argv));
+    }
+    ::close(orders[0]);
+    ::close(reports[1]);
+    other.order = orders[1];
+    other.report = reports[0];
+    QApplication application(argc, argv);
+    TestProgramSnapshot test;
+    return filarixTestMain(&test, argc, argv);
+}
+
 #include "tst_programsnapshot.moc"
