@@ -24,7 +24,19 @@ open_program() {
     expect_gone OK "Open file"
 }
 
+# slow_down PID: gives a program a fifth of the time, until this is killed. A load takes so long then
+# that its dialog comes up, which it does after four seconds, on the quickest machine, too.
+slow_down() {
+    trap 'kill -CONT "$1"; exit' TERM
+    while kill -STOP "$1"; do
+        sleep 0.08
+        kill -CONT "$1"
+        sleep 0.02
+    done
+}
+
 desk_start 800x480
+panel=${desk_pids[-1]}
 expect_text Open
 # First in the list of the picker.
 awk -v n="$long_lines" 'BEGIN { for (i = 1; i <= n; ++i) print "G01 X" i " Y" i " F120" }' \
@@ -88,7 +100,12 @@ touch_text Open
 touch_text Discard
 touch_text abort.cnc "Open file"
 touch_text OK "Open file"
+slow_down "$panel" &
+slowing=$!
+desk_pids+=("$slowing")
 touch_text "Abort check"
+kill "$slowing"
+wait "$slowing" || true
 expect_words "Incomplete: $((long_lines + 1)) lines in the file"
 desk_picture honest-incomplete.png
 touch_text Ins
