@@ -218,6 +218,8 @@ void TestTextFit::everyTextFits()
     int stops = 0;
     connect(&tour, &Tour::arrived, this, [&](const QString &name) {
         ++stops;
+        // What was shown just now has its place before it is painted, and so before it is measured.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         const QRect screen(panel.mapToGlobal(QPoint(0, 0)), panel.size());
         for (const QString &fault : TextFit::faults(screen)) {
             if (!faults.filter(fault).isEmpty())
