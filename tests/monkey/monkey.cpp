@@ -416,6 +416,13 @@ bool Monkey::leaveDialog()
         way = box->button(QMessageBox::Discard);
     if (!way)
         way = dialog->findChild<QAbstractButton *>(QLatin1String("key_cancel"));
+    // Without a mode of its own it leaves the keyboard to the panel, and stays for its own key.
+    const QList<QAbstractButton *> buttons = dialog->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (dialog->inherits("WFindDialog")
+            && button->text() == QCoreApplication::translate("WFindDialog", "Close"))
+            way = button;
+    }
     if (way && way->isVisible() && chance(50))
         tap(way);
     else
