@@ -295,10 +295,9 @@ void PlcTransfer::endStopped()
 {
     m_isUncompared = m_task->hasArrived();
     m_task.reset();
-    Q_EMIT stopped(m_isUncompared
-                       ? tr("The download was stopped before the program in the PLC was "
-                            "compared. Download it once more.")
-                       : tr("The download was stopped. The PLC keeps what it had."));
+    Q_EMIT stopped(m_isUncompared ? tr("The download was stopped before the program in the PLC was "
+                                       "compared. Download it once more.")
+                                  : tr("The download was stopped. The PLC keeps what it had."));
 }
 
 void PlcTransfer::endStalled()

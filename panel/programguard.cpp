@@ -287,8 +287,8 @@ void ProgramGuard::noteFile(const ProgramOnDisk &file)
 {
     const FileStamp now = file.stamp();
     // Other rights, or a new name and the old one again, change nothing in it.
-    const bool isSame = now.size == m_stamp.size && now.inode == m_stamp.inode
-                        && now.modified == m_stamp.modified;
+    const bool isSame =
+        now.size == m_stamp.size && now.inode == m_stamp.inode && now.modified == m_stamp.modified;
     if (isSame || !now.isValid() || !m_stamp.isValid() || m_state.kind == ProgramState::NotStored)
         return;
     m_stamp = now;

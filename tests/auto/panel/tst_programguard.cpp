@@ -726,11 +726,11 @@ void TestProgramGuard::hangingStorageIsToldAndTheScreenAnswers()
     open("coil.cnc");
     m_guard->setStallTime(300);
     QScopedPointer<HeldFile> held;
-    const auto hang = connect(document(), &QTextDocument::modificationChanged, this,
-                              [&](bool isModified) {
-                                  if (!isModified && !held)
-                                      held.reset(new HeldFile(path("coil.cnc")));
-                              });
+    const auto hang =
+        connect(document(), &QTextDocument::modificationChanged, this, [&](bool isModified) {
+            if (!isModified && !held)
+                held.reset(new HeldFile(path("coil.cnc")));
+        });
     m_window->insertLine("G99");
     QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
     LoopPulse pulse;
@@ -738,8 +738,8 @@ void TestProgramGuard::hangingStorageIsToldAndTheScreenAnswers()
     QTRY_COMPARE(ended.size(), 1);
     QVERIFY(held && held->isHeld());
     QVERIFY(!ended.first().first().toBool());
-    QVERIFY(wasTold("coil.cnc is not stored: the panel's storage stopped answering",
-                    Message::Alarm));
+    QVERIFY(
+        wasTold("coil.cnc is not stored: the panel's storage stopped answering", Message::Alarm));
     QVERIFY(document()->isModified());
     QCOMPARE(int(m_guard->state().kind), int(ProgramState::NotStored));
     // The next one does not hang either.

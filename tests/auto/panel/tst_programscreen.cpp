@@ -229,11 +229,11 @@ void TestProgramScreen::stopBeforeTheComparisonWarnsUntilADownloadIsCompared()
     WMMainWindow *window = m_screen->programWindow();
     QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
     QSignalSpy ends(m_screen, SIGNAL(causeEnded(QString)));
-    const auto stopping = connect(m_screen->transfer(), &PlcTransfer::progress, m_screen,
-                                  [this](int percent) {
-                                      if (percent >= 60)
-                                          m_screen->stopWork();
-                                  });
+    const auto stopping =
+        connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, [this](int percent) {
+            if (percent >= 60)
+                m_screen->stopWork();
+        });
     ModalDriver driver;
     answer(&driver, "send");
     Q_EMIT window->signal_download(programDir() + "/coil.cnc");

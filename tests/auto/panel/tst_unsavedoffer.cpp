@@ -366,7 +366,8 @@ void TestUnsavedOffer::programWithoutAFile()
 void TestUnsavedOffer::newProgramHasNothingOfTheLastOne()
 {
     writeFile(programDir() + "/coil.cnc", QByteArray("G01 X1 ; comment\n\n").repeated(600));
-    ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
+    ProgramOpener opener(m_program->programWindow(),
+                         [this] { return m_program->guard()->isBusy(); });
     QVERIFY(opener.open(programDir() + "/coil.cnc"));
     QCOMPARE(int(m_program->guard()->state().kind), int(ProgramState::Cleaned));
     keep({program("G99\n", QString())});
@@ -380,7 +381,8 @@ void TestUnsavedOffer::newProgramHasNothingOfTheLastOne()
 void TestUnsavedOffer::operatorsOwnChangesStay()
 {
     writeFile(programDir() + "/coil.cnc", "G01\n");
-    ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
+    ProgramOpener opener(m_program->programWindow(),
+                         [this] { return m_program->guard()->isBusy(); });
     QVERIFY(opener.open(programDir() + "/coil.cnc"));
     keep({program("G02\n")});
     m_program->programWindow()->insertLine("G99");
@@ -414,7 +416,8 @@ void TestUnsavedOffer::programThatIsLoadedComesFirst()
         m_offer->start();
     });
     pressOnce(this, "bringBack");
-    ProgramOpener opener(m_program->programWindow(), [this] { return m_program->guard()->isBusy(); });
+    ProgramOpener opener(m_program->programWindow(),
+                         [this] { return m_program->guard()->isBusy(); });
     opener.open(programDir() + "/long.cnc");
     QTRY_COMPARE(ended.size(), 1);
     QCOMPARE(text(), QString("G99\n"));
