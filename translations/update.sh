@@ -15,7 +15,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 languages=(de it tr zh_CN)
 declare -A sources=(
     [filarix]="base window editor controls list tables transfer"
-    [filarix-panel]="panel"
+    [filarix-panel]="host panel"
     [hmidevice-sim]="device/simulator"
 )
 
