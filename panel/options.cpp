@@ -3,9 +3,9 @@
 
 #include "options.h"
 
-#include "look.h"
+#include "look/look.h"
 
-#include "languages.h"
+#include "shell/languages.h"
 
 #include <QCommandLineParser>
 #include <QDir>

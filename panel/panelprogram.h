@@ -4,14 +4,14 @@
 #ifndef PANELPROGRAM_H
 #define PANELPROGRAM_H
 
-#include "languages.h"
-#include "machinedata.h"
 #include "options.h"
-#include "orderlyend.h"
-#include "questionkeeper.h"
-#include "settings.h"
+#include "screens/machinedata.h"
+#include "shell/languages.h"
+#include "shell/orderlyend.h"
+#include "shell/questionkeeper.h"
+#include "shell/settings.h"
 #include "startup.h"
-#include "stick.h"
+#include "stick/stick.h"
 #include "terminationsignals.h"
 
 #include <QObject>

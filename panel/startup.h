@@ -4,8 +4,8 @@
 #ifndef STARTUP_H
 #define STARTUP_H
 
-#include "filethread.h"
-#include "message.h"
+#include "base/message.h"
+#include "storage/filethread.h"
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "fieldkeypad.h"
+#include "guards/fieldkeypad.h"
 
 #include <hmidevice/characterkeypad.h>
 #include <hmidevice/hmideviceinfo.h>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "pickerguard.h"
+#include "guards/pickerguard.h"
 
-#include "clickgate.h"
-#include "programname.h"
+#include "base/clickgate.h"
+#include "programs/programname.h"
 
 #include <QDialog>
 #include <QGridLayout>

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programguard.h"
+#include "guards/programguard.h"
 
-#include "clickgate.h"
-#include "pickerguard.h"
-#include "programcomparison.h"
-#include "programname.h"
-#include "programtext.h"
-#include "questioner.h"
+#include "base/clickgate.h"
+#include "base/questioner.h"
+#include "guards/pickerguard.h"
+#include "programs/programcomparison.h"
+#include "programs/programname.h"
+#include "programs/programtext.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 

@@ -4,14 +4,14 @@
 #ifndef PROGRAMGUARD_H
 #define PROGRAMGUARD_H
 
-#include "filejobs.h"
-#include "message.h"
-#include "programkeeper.h"
-#include "programondisk.h"
-#include "programstate.h"
-#include "storecheck.h"
-#include "windowcommands.h"
-#include "windowdialogs.h"
+#include "base/message.h"
+#include "guards/windowcommands.h"
+#include "guards/windowdialogs.h"
+#include "programs/programkeeper.h"
+#include "programs/programondisk.h"
+#include "programs/programstate.h"
+#include "programs/storecheck.h"
+#include "storage/filejobs.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "windowcommands.h"
+#include "guards/windowcommands.h"
 
-#include "clickgate.h"
+#include "base/clickgate.h"
 #include "wmmainwindow.h"
 
 #include <QTimer>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "windowdialogs.h"
+#include "guards/windowdialogs.h"
 
 #include "wmmainwindow.h"
 

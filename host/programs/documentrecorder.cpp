@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "documentrecorder.h"
+#include "programs/documentrecorder.h"
 
 #include <QTextCursor>
 #include <QTextDocument>

@@ -4,7 +4,7 @@
 #ifndef DOCUMENTRECORDER_H
 #define DOCUMENTRECORDER_H
 
-#include "keptwork.h"
+#include "programs/keptwork.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "gaptext.h"
+#include "programs/gaptext.h"
 
 #include <algorithm>
 

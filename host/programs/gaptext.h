@@ -4,7 +4,7 @@
 #ifndef GAPTEXT_H
 #define GAPTEXT_H
 
-#include "keptwork.h"
+#include "programs/keptwork.h"
 
 #include <QString>
 

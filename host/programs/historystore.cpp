@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "historystore.h"
+#include "programs/historystore.h"
 
-#include "durablefile.h"
+#include "storage/durablefile.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -4,7 +4,7 @@
 #ifndef HISTORYSTORE_H
 #define HISTORYSTORE_H
 
-#include "filestamp.h"
+#include "storage/filestamp.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 #ifndef PLCTRANSFER_H
 #define PLCTRANSFER_H
 
-#include "filework.h"
+#include "storage/filework.h"
 
 /// Copies one program into the drop folder that stands for the PLC.
 ///

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programcomparison.h"
+#include "programs/programcomparison.h"
 
-#include "programtext.h"
+#include "programs/programtext.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #ifndef PROGRAMCOMPARISON_H
 #define PROGRAMCOMPARISON_H
 
-#include "filestamp.h"
-#include "filework.h"
+#include "storage/filestamp.h"
+#include "storage/filework.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programhistory.h"
+#include "programs/programhistory.h"
 
-#include "durablefile.h"
+#include "storage/durablefile.h"
 
 #include <QCryptographicHash>
 #include <QDir>

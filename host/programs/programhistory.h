@@ -4,9 +4,9 @@
 #ifndef PROGRAMHISTORY_H
 #define PROGRAMHISTORY_H
 
-#include "filework.h"
-#include "historystore.h"
-#include "message.h"
+#include "base/message.h"
+#include "programs/historystore.h"
+#include "storage/filework.h"
 
 #include <QElapsedTimer>
 #include <QPointer>

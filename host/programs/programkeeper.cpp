@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programkeeper.h"
+#include "programs/programkeeper.h"
 
-#include "questioner.h"
+#include "base/questioner.h"
 
 #include <QFileInfo>
 #include <QPointer>

@@ -4,7 +4,7 @@
 #ifndef PROGRAMKEEPER_H
 #define PROGRAMKEEPER_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QObject>
 

@@ -4,8 +4,8 @@
 #ifndef PROGRAMONDISK_H
 #define PROGRAMONDISK_H
 
-#include "filestamp.h"
-#include "filework.h"
+#include "storage/filestamp.h"
+#include "storage/filework.h"
 
 #include <QDateTime>
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programopener.h"
+#include "programs/programopener.h"
 
 #include "samples.h"
 #include "wgcodeediter.h"

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programreadback.h"
+#include "programs/programreadback.h"
 
-#include "durablefile.h"
-#include "programtext.h"
+#include "programs/programtext.h"
+#include "storage/durablefile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -4,8 +4,8 @@
 #ifndef PROGRAMREADBACK_H
 #define PROGRAMREADBACK_H
 
-#include "filestamp.h"
-#include "filework.h"
+#include "storage/filestamp.h"
+#include "storage/filework.h"
 
 #include <QString>
 

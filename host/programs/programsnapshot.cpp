@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programsnapshot.h"
+#include "programs/programsnapshot.h"
 
-#include "filestamp.h"
+#include "storage/filestamp.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -4,7 +4,7 @@
 #ifndef PROGRAMSNAPSHOT_H
 #define PROGRAMSNAPSHOT_H
 
-#include "filework.h"
+#include "storage/filework.h"
 
 #include <QByteArray>
 #include <QString>

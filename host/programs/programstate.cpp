@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programstate.h"
+#include "programs/programstate.h"
 
 Message::Tone ProgramState::tone() const
 {

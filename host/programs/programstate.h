@@ -4,7 +4,7 @@
 #ifndef PROGRAMSTATE_H
 #define PROGRAMSTATE_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QCoreApplication>
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programtext.h"
+#include "programs/programtext.h"
 
 #include <QBuffer>
 #include <QFile>

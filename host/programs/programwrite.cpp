@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "programwrite.h"
+#include "programs/programwrite.h"
 
-#include "durablefile.h"
-#include "programname.h"
-#include "programreadback.h"
-#include "programtext.h"
+#include "programs/programname.h"
+#include "programs/programreadback.h"
+#include "programs/programtext.h"
+#include "storage/durablefile.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,9 +4,9 @@
 #ifndef PROGRAMWRITE_H
 #define PROGRAMWRITE_H
 
-#include "filestamp.h"
-#include "filework.h"
-#include "writeleave.h"
+#include "storage/filestamp.h"
+#include "storage/filework.h"
+#include "storage/writeleave.h"
 
 #include <QString>
 

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "storecheck.h"
+#include "programs/storecheck.h"
 
-#include "filejobs.h"
-#include "programreadback.h"
-#include "programtext.h"
-#include "programwrite.h"
-#include "questioner.h"
+#include "base/questioner.h"
+#include "programs/programreadback.h"
+#include "programs/programtext.h"
+#include "programs/programwrite.h"
+#include "storage/filejobs.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,7 +4,7 @@
 #ifndef STORECHECK_H
 #define STORECHECK_H
 
-#include "filestamp.h"
+#include "storage/filestamp.h"
 
 #include <QObject>
 #include <QString>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "unsavedsession.h"
+#include "programs/unsavedsession.h"
 
-#include "durablefile.h"
-#include "unsavedstore.h"
+#include "programs/unsavedstore.h"
+#include "storage/durablefile.h"
 
 #include <QDateTime>
 #include <QDir>

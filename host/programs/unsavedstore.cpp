@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "unsavedstore.h"
+#include "programs/unsavedstore.h"
 
-#include "durablefile.h"
-#include "filestamp.h"
-#include "gaptext.h"
+#include "programs/gaptext.h"
+#include "storage/durablefile.h"
+#include "storage/filestamp.h"
 
 #include <QCryptographicHash>
 #include <QDataStream>

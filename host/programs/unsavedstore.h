@@ -4,8 +4,8 @@
 #ifndef UNSAVEDSTORE_H
 #define UNSAVEDSTORE_H
 
-#include "keptwork.h"
-#include "unsavedsession.h"
+#include "programs/keptwork.h"
+#include "programs/unsavedsession.h"
 
 #include <QByteArray>
 #include <QHash>

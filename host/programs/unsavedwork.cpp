@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "unsavedwork.h"
+#include "programs/unsavedwork.h"
 
-#include "documentrecorder.h"
-#include "listscreen.h"
-#include "unsavedstore.h"
+#include "programs/documentrecorder.h"
+#include "programs/unsavedstore.h"
+#include "screens/listscreen.h"
 
 #include <QApplication>
 #include <QEventLoop>

@@ -4,9 +4,9 @@
 #ifndef UNSAVEDWORK_H
 #define UNSAVEDWORK_H
 
-#include "filethread.h"
-#include "keptwork.h"
-#include "message.h"
+#include "base/message.h"
+#include "programs/keptwork.h"
+#include "storage/filethread.h"
 
 #include <QTimer>
 

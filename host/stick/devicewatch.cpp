@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "devicewatch.h"
+#include "stick/devicewatch.h"
 
-#include "stick.h"
+#include "stick/stick.h"
 
 #include <QDir>
 #include <QFileInfo>

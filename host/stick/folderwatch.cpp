@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "folderwatch.h"
+#include "stick/folderwatch.h"
 
-#include "sticknames.h"
+#include "stick/sticknames.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,7 +4,7 @@
 #ifndef FOLDERWATCH_H
 #define FOLDERWATCH_H
 
-#include "filethread.h"
+#include "storage/filethread.h"
 
 #include <QObject>
 #include <QStringList>

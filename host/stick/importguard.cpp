@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "importguard.h"
+#include "stick/importguard.h"
 
-#include "clickgate.h"
+#include "base/clickgate.h"
 #include "importmanage.h"
-#include "programhistory.h"
-#include "stick.h"
-#include "sticknames.h"
+#include "programs/programhistory.h"
+#include "stick/stick.h"
+#include "stick/sticknames.h"
 
 #include <QApplication>
 #include <QDir>

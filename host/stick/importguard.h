@@ -4,9 +4,9 @@
 #ifndef IMPORTGUARD_H
 #define IMPORTGUARD_H
 
-#include "filejob.h"
-#include "message.h"
-#include "transferreport.h"
+#include "base/message.h"
+#include "stick/transferreport.h"
+#include "storage/filejob.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "stick.h"
+#include "stick/stick.h"
 
-#include "filethread.h"
+#include "storage/filethread.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -4,7 +4,7 @@
 #ifndef TRANSFERREPORT_H
 #define TRANSFERREPORT_H
 
-#include "filestamp.h"
+#include "storage/filestamp.h"
 
 #include <QString>
 

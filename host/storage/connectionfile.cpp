@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "connectionfile.h"
+#include "storage/connectionfile.h"
 
-#include "durablefile.h"
-#include "filestamp.h"
+#include "storage/durablefile.h"
+#include "storage/filestamp.h"
 
 #include <QCoreApplication>
 #include <QDir>

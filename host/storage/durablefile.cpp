@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "durablefile.h"
+#include "storage/durablefile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "filejob.h"
+#include "storage/filejob.h"
 
 #include <QEventLoop>
 #include <QPointer>

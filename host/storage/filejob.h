@@ -4,7 +4,7 @@
 #ifndef FILEJOB_H
 #define FILEJOB_H
 
-#include "filework.h"
+#include "storage/filework.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "filejobs.h"
+#include "storage/filejobs.h"
 
 FileJobs::FileJobs(QObject *parent) : QObject(parent)
 {

@@ -4,7 +4,7 @@
 #ifndef FILEJOBS_H
 #define FILEJOBS_H
 
-#include "filework.h"
+#include "storage/filework.h"
 
 #include <QQueue>
 

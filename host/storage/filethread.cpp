@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "filethread.h"
+#include "storage/filethread.h"
 
 #include <QMutex>
 #include <QMutexLocker>

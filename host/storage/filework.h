@@ -4,7 +4,7 @@
 #ifndef FILEWORK_H
 #define FILEWORK_H
 
-#include "filethread.h"
+#include "storage/filethread.h"
 
 #include <QScopedPointer>
 #include <QTimer>

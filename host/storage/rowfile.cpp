@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "rowfile.h"
+#include "storage/rowfile.h"
 
-#include "durablefile.h"
+#include "storage/durablefile.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "rowkeeper.h"
+#include "storage/rowkeeper.h"
 
-#include "durablefile.h"
-#include "filestamp.h"
-#include "rowfile.h"
-#include "writeleave.h"
+#include "storage/durablefile.h"
+#include "storage/filestamp.h"
+#include "storage/rowfile.h"
+#include "storage/writeleave.h"
 
 #include <QDir>
 #include <QFile>

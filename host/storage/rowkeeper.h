@@ -4,7 +4,7 @@
 #ifndef ROWKEEPER_H
 #define ROWKEEPER_H
 
-#include "filejob.h"
+#include "storage/filejob.h"
 
 #include <QList>
 #include <QStringList>

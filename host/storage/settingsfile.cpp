@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "settingsfile.h"
+#include "storage/settingsfile.h"
 
-#include "durablefile.h"
+#include "storage/durablefile.h"
 
 #include <QDir>
 #include <QElapsedTimer>

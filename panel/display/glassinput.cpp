@@ -4,10 +4,10 @@
 // The toolkit's private headers use the keywords.
 #undef QT_NO_KEYWORDS
 
-#include "glassinput.h"
+#include "display/glassinput.h"
 
-#include "panelglass.h"
-#include "turnedplatform.h"
+#include "display/panelglass.h"
+#include "display/turnedplatform.h"
 
 #include <private/qguiapplication_p.h>
 

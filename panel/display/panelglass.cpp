@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "panelglass.h"
+#include "display/panelglass.h"
 
-#include "glassinput.h"
-#include "panelsurface.h"
-#include "turnedplatform.h"
+#include "display/glassinput.h"
+#include "display/panelsurface.h"
+#include "display/turnedplatform.h"
 
 #include <QPaintEvent>
 #include <QPainter>

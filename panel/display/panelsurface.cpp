@@ -4,7 +4,7 @@
 // The toolkit's private headers use the keywords.
 #undef QT_NO_KEYWORDS
 
-#include "panelsurface.h"
+#include "display/panelsurface.h"
 
 #include <QEvent>
 #include <QGuiApplication>

@@ -4,9 +4,9 @@
 // The toolkit's private headers use the keywords.
 #undef QT_NO_KEYWORDS
 
-#include "turnedplatform.h"
+#include "display/turnedplatform.h"
 
-#include "panelsurface.h"
+#include "display/panelsurface.h"
 
 #include <QCursor>
 #include <QScreen>

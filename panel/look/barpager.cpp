@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "barpager.h"
+#include "look/barpager.h"
 
-#include "glyphs.h"
+#include "look/glyphs.h"
 
 #include <QAction>
 #include <QEvent>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "glyphs.h"
+#include "look/glyphs.h"
 
-#include "look.h"
+#include "look/look.h"
 
 #include <QIconEngine>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "livetext.h"
+#include "look/livetext.h"
 
 #include <QEvent>
 #include <QVariant>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "look.h"
+#include "look/look.h"
 
 #include <QApplication>
 #include <QVariant>

@@ -4,7 +4,7 @@
 #ifndef LOOK_H
 #define LOOK_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QColor>
 #include <QPalette>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "panelkey.h"
+#include "look/panelkey.h"
 
-#include "livetext.h"
-#include "look.h"
+#include "look/livetext.h"
+#include "look/look.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #ifndef PANELKEY_H
 #define PANELKEY_H
 
-#include "glyphs.h"
+#include "look/glyphs.h"
 
 #include <QToolButton>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "panelstyle.h"
+#include "look/panelstyle.h"
 
-#include "look.h"
+#include "look/look.h"
 
 #include <QWidget>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "tonemark.h"
+#include "look/tonemark.h"
 
-#include "glyphs.h"
-#include "look.h"
+#include "look/glyphs.h"
+#include "look/look.h"
 
 #include <QPainter>
 #include <QStyle>

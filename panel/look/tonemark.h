@@ -4,7 +4,7 @@
 #ifndef TONEMARK_H
 #define TONEMARK_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QWidget>
 

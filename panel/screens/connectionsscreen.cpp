@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "connectionsscreen.h"
+#include "screens/connectionsscreen.h"
 
 #include "conneditor.h"
 #include "dataeditor.h"
+#include "display/panelsurface.h"
 #include "listwidget.h"
-#include "look.h"
-#include "panelkey.h"
-#include "panelsurface.h"
-#include "writeleave.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+#include "storage/writeleave.h"
 
 #include <QFile>
 #include <QGuiApplication>

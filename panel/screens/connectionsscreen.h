@@ -4,9 +4,9 @@
 #ifndef CONNECTIONSSCREEN_H
 #define CONNECTIONSSCREEN_H
 
-#include "connectionfile.h"
-#include "filejob.h"
-#include "panelscreen.h"
+#include "shell/panelscreen.h"
+#include "storage/connectionfile.h"
+#include "storage/filejob.h"
 
 class QTableWidget;
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "downloadquestion.h"
+#include "screens/downloadquestion.h"
 
-#include "look.h"
-#include "programsnapshot.h"
+#include "look/look.h"
+#include "programs/programsnapshot.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>

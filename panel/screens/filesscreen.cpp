@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "filesscreen.h"
+#include "screens/filesscreen.h"
 
-#include "elidedlabel.h"
-#include "historydialog.h"
-#include "importguard.h"
-#include "livetext.h"
-#include "look.h"
-#include "panelkey.h"
-#include "pathpicker.h"
-#include "programhistory.h"
+#include "look/elidedlabel.h"
+#include "look/livetext.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+#include "look/touchblock.h"
+#include "programs/programhistory.h"
 #include "samples.h"
-#include "stick.h"
-#include "touchblock.h"
+#include "screens/historydialog.h"
+#include "screens/pathpicker.h"
+#include "stick/importguard.h"
+#include "stick/stick.h"
 
 #include <QApplication>
 #include <QGridLayout>

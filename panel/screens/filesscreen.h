@@ -4,10 +4,10 @@
 #ifndef FILESSCREEN_H
 #define FILESSCREEN_H
 
-#include "devicewatch.h"
-#include "filejob.h"
-#include "folderwatch.h"
-#include "panelscreen.h"
+#include "shell/panelscreen.h"
+#include "stick/devicewatch.h"
+#include "stick/folderwatch.h"
+#include "storage/filejob.h"
 
 #include <functional>
 

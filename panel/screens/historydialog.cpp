@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "historydialog.h"
+#include "screens/historydialog.h"
 
-#include "look.h"
-#include "programhistory.h"
-#include "programsnapshot.h"
+#include "look/look.h"
+#include "programs/programhistory.h"
+#include "programs/programsnapshot.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>

@@ -5,7 +5,7 @@
 #define HISTORYDIALOG_H
 
 #include "dialog.h"
-#include "historystore.h"
+#include "programs/historystore.h"
 
 class QPushButton;
 class QTableWidget;

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "listscreen.h"
+#include "screens/listscreen.h"
 
-#include "livetext.h"
-#include "look.h"
-#include "panelkey.h"
-#include "panelsurface.h"
+#include "display/panelsurface.h"
+#include "look/livetext.h"
+#include "look/look.h"
+#include "look/panelkey.h"
 #include "tlistwidget.h"
 
 #include <QEvent>

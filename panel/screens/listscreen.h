@@ -4,7 +4,7 @@
 #ifndef LISTSCREEN_H
 #define LISTSCREEN_H
 
-#include "panelscreen.h"
+#include "shell/panelscreen.h"
 
 #include <functional>
 

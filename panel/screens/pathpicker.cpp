@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "pathpicker.h"
+#include "screens/pathpicker.h"
 
+#include "display/panelsurface.h"
 #include "filedialog.h"
-#include "panelsurface.h"
 
 #include <QLabel>
 #include <QScopedPointer>

@@ -4,8 +4,8 @@
 #ifndef PROGRAMSCREEN_H
 #define PROGRAMSCREEN_H
 
-#include "panelscreen.h"
-#include "programsnapshot.h"
+#include "programs/programsnapshot.h"
+#include "shell/panelscreen.h"
 
 #include <QElapsedTimer>
 #include <QScopedPointer>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "tablepicker.h"
+#include "screens/tablepicker.h"
 
-#include "look.h"
+#include "look/look.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>

@@ -5,7 +5,7 @@
 #define TABLEPICKER_H
 
 #include "dialog.h"
-#include "machinedata.h"
+#include "screens/machinedata.h"
 
 class QTableWidget;
 

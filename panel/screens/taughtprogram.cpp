@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "taughtprogram.h"
+#include "screens/taughtprogram.h"
 
-#include "machinedata.h"
-#include "rowfile.h"
+#include "screens/machinedata.h"
+#include "storage/rowfile.h"
 
 #include <QCoreApplication>
 

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "teachscreen.h"
+#include "screens/teachscreen.h"
 
 #include "dataeditor.h"
-#include "look.h"
-#include "machinedata.h"
+#include "look/look.h"
+#include "look/panelkey.h"
 #include "mjline.h"
-#include "panelkey.h"
-#include "pathpicker.h"
-#include "tablepicker.h"
-#include "taughtprogram.h"
+#include "screens/machinedata.h"
+#include "screens/pathpicker.h"
+#include "screens/tablepicker.h"
+#include "screens/taughtprogram.h"
 #include "tlistwidget.h"
 
 #include <QDir>

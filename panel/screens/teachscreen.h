@@ -4,8 +4,8 @@
 #ifndef TEACHSCREEN_H
 #define TEACHSCREEN_H
 
-#include "listscreen.h"
-#include "rowkeeper.h"
+#include "screens/listscreen.h"
+#include "storage/rowkeeper.h"
 
 class MachineData;
 

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "unsavedoffer.h"
+#include "screens/unsavedoffer.h"
 
-#include "programguard.h"
-#include "programopener.h"
-#include "programscreen.h"
-#include "teachscreen.h"
-#include "unsavedquestion.h"
-#include "unsavedstore.h"
-#include "unsavedwork.h"
-#include "variablesscreen.h"
+#include "guards/programguard.h"
+#include "programs/programopener.h"
+#include "programs/unsavedstore.h"
+#include "programs/unsavedwork.h"
+#include "screens/programscreen.h"
+#include "screens/teachscreen.h"
+#include "screens/unsavedquestion.h"
+#include "screens/variablesscreen.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 

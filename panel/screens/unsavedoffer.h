@@ -4,10 +4,10 @@
 #ifndef UNSAVEDOFFER_H
 #define UNSAVEDOFFER_H
 
-#include "filethread.h"
-#include "keptwork.h"
-#include "message.h"
-#include "unsavedsession.h"
+#include "base/message.h"
+#include "programs/keptwork.h"
+#include "programs/unsavedsession.h"
+#include "storage/filethread.h"
 
 #include <QPointer>
 #include <QStringList>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "unsavedquestion.h"
+#include "screens/unsavedquestion.h"
 
-#include "look.h"
+#include "look/look.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "variablesscreen.h"
+#include "screens/variablesscreen.h"
 
-#include "panelkey.h"
-#include "rowfile.h"
+#include "look/panelkey.h"
+#include "storage/rowfile.h"
 #include "tlistwidget.h"
 
 #include <QDir>

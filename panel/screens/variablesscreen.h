@@ -4,8 +4,8 @@
 #ifndef VARIABLESSCREEN_H
 #define VARIABLESSCREEN_H
 
-#include "listscreen.h"
-#include "rowkeeper.h"
+#include "screens/listscreen.h"
+#include "storage/rowkeeper.h"
 
 /// The machine's variables: a list of plain data rows, each a number, a name and a value, kept in
 /// a text file of the host.

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "devicecauses.h"
+#include "shell/devicecauses.h"
 
-#include "statusstrip.h"
+#include "shell/statusstrip.h"
 
 void DeviceCauses::take(const DeviceState &state)
 {

@@ -4,7 +4,7 @@
 #ifndef DEVICECAUSES_H
 #define DEVICECAUSES_H
 
-#include "devicewatch.h"
+#include "stick/devicewatch.h"
 
 /// Tells from the state of the devices when what a message was about is over.
 ///

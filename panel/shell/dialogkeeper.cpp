@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "dialogkeeper.h"
+#include "shell/dialogkeeper.h"
 
-#include "look.h"
-#include "panelsurface.h"
+#include "display/panelsurface.h"
+#include "look/look.h"
 
 #include <QApplication>
 #include <QDialog>

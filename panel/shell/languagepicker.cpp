@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "languagepicker.h"
+#include "shell/languagepicker.h"
 
-#include "glyphs.h"
-#include "look.h"
+#include "look/glyphs.h"
+#include "look/look.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>

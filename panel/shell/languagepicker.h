@@ -5,7 +5,7 @@
 #define LANGUAGEPICKER_H
 
 #include "dialog.h"
-#include "languages.h"
+#include "shell/languages.h"
 
 /// Asks for a language: a key each, with the language's name in itself, so that whoever cannot
 /// read the others finds the own one. Another key asks for the other look, light or dark.

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "languages.h"
+#include "shell/languages.h"
 
-#include "settings.h"
+#include "shell/settings.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "messagebar.h"
+#include "shell/messagebar.h"
 
-#include "elidedlabel.h"
-#include "look.h"
-#include "messagelog.h"
-#include "panelkey.h"
-#include "tonemark.h"
+#include "look/elidedlabel.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+#include "look/tonemark.h"
+#include "shell/messagelog.h"
 
 #include <QHBoxLayout>
 #include <QMouseEvent>

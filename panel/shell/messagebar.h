@@ -4,7 +4,7 @@
 #ifndef MESSAGEBAR_H
 #define MESSAGEBAR_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QFrame>
 #include <QTimer>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "messagedialog.h"
+#include "shell/messagedialog.h"
 
-#include "look.h"
-#include "messagelog.h"
-#include "tonemark.h"
+#include "look/look.h"
+#include "look/tonemark.h"
+#include "shell/messagelog.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>

@@ -4,8 +4,8 @@
 #ifndef MESSAGEDIALOG_H
 #define MESSAGEDIALOG_H
 
+#include "base/message.h"
 #include "dialog.h"
-#include "message.h"
 
 class MessageLog;
 class QPushButton;

@@ -4,7 +4,7 @@
 #ifndef MESSAGELOG_H
 #define MESSAGELOG_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QList>
 #include <QObject>

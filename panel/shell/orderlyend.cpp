@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "orderlyend.h"
+#include "shell/orderlyend.h"
 
-#include "questionkeeper.h"
+#include "shell/questionkeeper.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -4,7 +4,7 @@
 #ifndef PANELSCREEN_H
 #define PANELSCREEN_H
 
-#include "message.h"
+#include "base/message.h"
 
 #include <QEvent>
 #include <QList>

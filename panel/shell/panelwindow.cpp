@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "panelwindow.h"
+#include "shell/panelwindow.h"
 
-#include "elidedlabel.h"
-#include "languagepicker.h"
-#include "languages.h"
-#include "look.h"
-#include "messagebar.h"
-#include "messagedialog.h"
-#include "panelkey.h"
-#include "settings.h"
-#include "statusstrip.h"
-#include "touchblock.h"
+#include "look/elidedlabel.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+#include "look/touchblock.h"
+#include "shell/languagepicker.h"
+#include "shell/languages.h"
+#include "shell/messagebar.h"
+#include "shell/messagedialog.h"
+#include "shell/settings.h"
+#include "shell/statusstrip.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>

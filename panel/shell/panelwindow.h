@@ -4,9 +4,9 @@
 #ifndef PANELWINDOW_H
 #define PANELWINDOW_H
 
-#include "devicecauses.h"
-#include "messagelog.h"
-#include "panelscreen.h"
+#include "shell/devicecauses.h"
+#include "shell/messagelog.h"
+#include "shell/panelscreen.h"
 
 #include <QList>
 #include <QSize>

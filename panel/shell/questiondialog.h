@@ -4,8 +4,8 @@
 #ifndef QUESTIONDIALOG_H
 #define QUESTIONDIALOG_H
 
+#include "base/questioner.h"
 #include "dialog.h"
-#include "questioner.h"
 
 class QLayout;
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "questionkeeper.h"
+#include "shell/questionkeeper.h"
 
 #include <QCoreApplication>
 #include <QEvent>

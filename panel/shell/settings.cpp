@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "settings.h"
+#include "shell/settings.h"
 
-#include "settingsfile.h"
+#include "storage/settingsfile.h"
 
 const int Settings::patienceMs;
 

@@ -4,7 +4,7 @@
 #ifndef SETTINGS_H
 #define SETTINGS_H
 
-#include "filethread.h"
+#include "storage/filethread.h"
 
 #include <QMap>
 #include <QObject>

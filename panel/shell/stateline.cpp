@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "stateline.h"
+#include "shell/stateline.h"
 
-#include "elidedlabel.h"
-#include "look.h"
+#include "look/elidedlabel.h"
+#include "look/look.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

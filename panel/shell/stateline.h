@@ -4,8 +4,8 @@
 #ifndef STATELINE_H
 #define STATELINE_H
 
-#include "message.h"
-#include "touchblock.h"
+#include "base/message.h"
+#include "look/touchblock.h"
 
 class ElidedLabel;
 

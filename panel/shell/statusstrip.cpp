@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "statusstrip.h"
+#include "shell/statusstrip.h"
 
-#include "look.h"
-#include "plctransfer.h"
+#include "look/look.h"
+#include "programs/plctransfer.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

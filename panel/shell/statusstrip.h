@@ -4,9 +4,9 @@
 #ifndef STATUSSTRIP_H
 #define STATUSSTRIP_H
 
-#include "devicewatch.h"
-#include "glyphs.h"
-#include "message.h"
+#include "base/message.h"
+#include "look/glyphs.h"
+#include "stick/devicewatch.h"
 
 #include <QLabel>
 #include <QTimer>

@@ -3,7 +3,7 @@
 
 #include "hand.h"
 
-#include "panelglass.h"
+#include "display/panelglass.h"
 
 #include <QApplication>
 #include <QTouchDevice>

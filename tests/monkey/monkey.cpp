@@ -5,10 +5,10 @@
 
 #include "filarixtest.h"
 #include "heap.h"
-#include "messagebar.h"
-#include "panelkey.h"
-#include "panelwindow.h"
-#include "stick.h"
+#include "look/panelkey.h"
+#include "shell/messagebar.h"
+#include "shell/panelwindow.h"
+#include "stick/stick.h"
 #include "wgcodeediter.h"
 
 #include <QAbstractButton>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "historystore.h"
+#include "programs/historystore.h"
 #include "witness.h"
 
 #include <QDir>

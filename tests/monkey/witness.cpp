@@ -3,7 +3,7 @@
 
 #include "witness.h"
 
-#include "historystore.h"
+#include "programs/historystore.h"
 
 #include <QCryptographicHash>
 #include <QDir>

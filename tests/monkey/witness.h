@@ -4,7 +4,7 @@
 #ifndef WITNESS_H
 #define WITNESS_H
 
-#include "filestamp.h"
+#include "storage/filestamp.h"
 
 #include <QByteArray>
 #include <QHash>

@@ -3,8 +3,8 @@
 
 #include "reaction.h"
 
-#include "panelwindow.h"
-#include "programscreen.h"
+#include "screens/programscreen.h"
+#include "shell/panelwindow.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 

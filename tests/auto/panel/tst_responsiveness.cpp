@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "historydialog.h"
-#include "machinedata.h"
 #include "modaldriver.h"
-#include "plctransfer.h"
-#include "programhistory.h"
-#include "programscreen.h"
+#include "programs/plctransfer.h"
+#include "programs/programhistory.h"
 #include "samples.h"
+#include "screens/historydialog.h"
+#include "screens/machinedata.h"
+#include "screens/programscreen.h"
 #include "wmmainwindow.h"
 
 #include <QDir>

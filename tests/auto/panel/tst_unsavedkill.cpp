@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "machinedata.h"
-#include "programopener.h"
-#include "programscreen.h"
-#include "taughtprogram.h"
-#include "teachscreen.h"
+#include "programs/programopener.h"
+#include "programs/unsavedstore.h"
+#include "programs/unsavedwork.h"
+#include "screens/machinedata.h"
+#include "screens/programscreen.h"
+#include "screens/taughtprogram.h"
+#include "screens/teachscreen.h"
+#include "screens/unsavedoffer.h"
+#include "screens/variablesscreen.h"
 #include "tlistwidget.h"
-#include "unsavedoffer.h"
-#include "unsavedstore.h"
-#include "unsavedwork.h"
-#include "variablesscreen.h"
 #include "wgcodeediter.h"
 
 #include <QCryptographicHash>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "clickgate.h"
+#include "base/clickgate.h"
 #include "filarixtest.h"
 #include "modaldriver.h"
 

@@ -4,7 +4,7 @@
 #ifndef SCRIPTQUESTIONER_H
 #define SCRIPTQUESTIONER_H
 
-#include "questioner.h"
+#include "base/questioner.h"
 
 #include <QList>
 

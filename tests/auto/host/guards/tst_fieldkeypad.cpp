@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "devicelog.h"
-#include "fieldkeypad.h"
 #include "filarixtest.h"
+#include "guards/fieldkeypad.h"
 #include "wfinddialog.h"
 
 #include <QLineEdit>

@@ -3,9 +3,9 @@
 
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "guards/programguard.h"
 #include "heldfile.h"
 #include "modaldriver.h"
-#include "programguard.h"
 #include "scriptquestioner.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"

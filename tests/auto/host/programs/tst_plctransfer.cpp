@@ -3,7 +3,7 @@
 
 #include "filarixtest.h"
 #include "filecalls.h"
-#include "plctransfer.h"
+#include "programs/plctransfer.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "programcomparison.h"
-#include "programtext.h"
+#include "programs/programcomparison.h"
+#include "programs/programtext.h"
 #include "waqp.h"
 #include "wgcodeediter.h"
 

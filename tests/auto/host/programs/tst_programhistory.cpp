@@ -4,7 +4,7 @@
 #include "filarixtest.h"
 #include "filecalls.h"
 #include "heldfile.h"
-#include "programhistory.h"
+#include "programs/programhistory.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "programname.h"
+#include "programs/programname.h"
 
 class TestProgramName : public FilarixTest
 {

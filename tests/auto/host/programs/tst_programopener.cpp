@@ -4,7 +4,7 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "modaldriver.h"
-#include "programopener.h"
+#include "programs/programopener.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "programreadback.h"
-#include "programwrite.h"
+#include "programs/programreadback.h"
+#include "programs/programwrite.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "programsnapshot.h"
+#include "programs/programsnapshot.h"
 
 #include <QCryptographicHash>
 #include <QDir>

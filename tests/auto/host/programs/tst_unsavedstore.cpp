@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "unsavedstore.h"
+#include "programs/unsavedstore.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "devicelog.h"
-#include "documentrecorder.h"
 #include "filarixtest.h"
-#include "listscreen.h"
 #include "modaldriver.h"
-#include "programopener.h"
+#include "programs/documentrecorder.h"
+#include "programs/programopener.h"
+#include "programs/unsavedstore.h"
+#include "programs/unsavedwork.h"
+#include "screens/listscreen.h"
 #include "tlistwidget.h"
-#include "unsavedstore.h"
-#include "unsavedwork.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 

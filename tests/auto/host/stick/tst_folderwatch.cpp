@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "folderwatch.h"
 #include "heldfile.h"
+#include "stick/folderwatch.h"
 
 #include <QDir>
 #include <QScopedPointer>

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "clickgate.h"
+#include "base/clickgate.h"
 #include "filarixtest.h"
-#include "importguard.h"
 #include "importmanage.h"
 #include "modaldriver.h"
-#include "programhistory.h"
+#include "programs/programhistory.h"
+#include "stick/importguard.h"
 
 #include <QDir>
 #include <QDirModel>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "stick.h"
+#include "stick/stick.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,7 +4,7 @@
 #include "managerfixture.h"
 #include "modaldriver.h"
 #include "shell.h"
-#include "sticknames.h"
+#include "stick/sticknames.h"
 
 #include <QCryptographicHash>
 #include <QDirIterator>

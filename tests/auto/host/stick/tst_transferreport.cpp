@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "transferreport.h"
+#include "stick/transferreport.h"
 
 #include <QDir>
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "clickgate.h"
-#include "devicewatch.h"
+#include "base/clickgate.h"
 #include "filarixtest.h"
-#include "importguard.h"
 #include "importmanage.h"
-#include "stick.h"
+#include "stick/devicewatch.h"
+#include "stick/importguard.h"
+#include "stick/stick.h"
 
 #include <QDir>
 #include <QDirModel>

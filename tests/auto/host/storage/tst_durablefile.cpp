@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "durablefile.h"
 #include "filarixtest.h"
+#include "storage/durablefile.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "filejob.h"
 #include "heldfile.h"
-#include "writeleave.h"
+#include "storage/filejob.h"
+#include "storage/writeleave.h"
 
 #include <QSemaphore>
 #include <QThread>

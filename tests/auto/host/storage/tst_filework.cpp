@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "filework.h"
+#include "storage/filework.h"
 
 #include <QElapsedTimer>
 #include <QSemaphore>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "rowfile.h"
+#include "storage/rowfile.h"
 
 #include <QDir>
 #include <QFileInfo>

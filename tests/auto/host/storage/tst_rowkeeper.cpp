@@ -3,8 +3,8 @@
 
 #include "filarixtest.h"
 #include "heldfile.h"
-#include "rowfile.h"
-#include "rowkeeper.h"
+#include "storage/rowfile.h"
+#include "storage/rowkeeper.h"
 
 #include <QDir>
 #include <QFileInfo>

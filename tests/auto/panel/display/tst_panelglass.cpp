@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "display/panelglass.h"
+#include "display/panelsurface.h"
 #include "filarixtest.h"
 #include "modaldriver.h"
-#include "panelglass.h"
-#include "panelsurface.h"
 
 #include <hmidevice/characterkeypad.h>
 #include <hmidevice/gcodekeypad.h>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "display/panelsurface.h"
 #include "filarixtest.h"
-#include "panelsurface.h"
 
 #include <QDesktopWidget>
 

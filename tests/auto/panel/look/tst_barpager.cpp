@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "barpager.h"
 #include "filarixtest.h"
+#include "look/barpager.h"
 
 #include <QToolBar>
 #include <QToolButton>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "elidedlabel.h"
 #include "filarixtest.h"
+#include "look/elidedlabel.h"
 
 class TestElidedLabel : public FilarixTest
 {

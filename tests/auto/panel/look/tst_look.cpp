@@ -3,14 +3,14 @@
 
 #include "contrast.h"
 #include "filarixtest.h"
-#include "glyphs.h"
-#include "look.h"
-#include "messagebar.h"
-#include "messagedialog.h"
-#include "messagelog.h"
-#include "panelkey.h"
-#include "panelstyle.h"
-#include "tonemark.h"
+#include "look/glyphs.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+#include "look/panelstyle.h"
+#include "look/tonemark.h"
+#include "shell/messagebar.h"
+#include "shell/messagedialog.h"
+#include "shell/messagelog.h"
 #include "wgcodeediter.h"
 
 #include <QHBoxLayout>

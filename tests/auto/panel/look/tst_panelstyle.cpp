@@ -3,7 +3,7 @@
 
 #include "combolineedit.h"
 #include "filarixtest.h"
-#include "panelstyle.h"
+#include "look/panelstyle.h"
 #include "wfinddialog.h"
 
 #include <QCheckBox>

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "combolineedit.h"
-#include "connectionsscreen.h"
 #include "conneditor.h"
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "heldfile.h"
+#include "look/panelkey.h"
 #include "modaldriver.h"
-#include "panelkey.h"
+#include "screens/connectionsscreen.h"
 
 #include <QDir>
 #include <QElapsedTimer>

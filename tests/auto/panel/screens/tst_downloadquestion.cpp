@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "downloadquestion.h"
 #include "filarixtest.h"
-#include "panelstyle.h"
-#include "programsnapshot.h"
+#include "look/panelstyle.h"
+#include "programs/programsnapshot.h"
+#include "screens/downloadquestion.h"
 
 #include <QGuiApplication>
 #include <QLabel>

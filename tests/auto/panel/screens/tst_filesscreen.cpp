@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "filesscreen.h"
 #include "heldfile.h"
-#include "importguard.h"
+#include "look/panelkey.h"
+#include "look/touchblock.h"
 #include "modaldriver.h"
-#include "panelkey.h"
-#include "programhistory.h"
-#include "stick.h"
-#include "touchblock.h"
+#include "programs/programhistory.h"
+#include "screens/filesscreen.h"
+#include "stick/importguard.h"
+#include "stick/stick.h"
 
 #include <QDir>
 #include <QFileInfo>

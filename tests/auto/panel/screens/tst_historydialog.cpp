@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "historydialog.h"
-#include "panelstyle.h"
+#include "look/panelstyle.h"
+#include "screens/historydialog.h"
 
 #include <QPushButton>
 #include <QScrollBar>

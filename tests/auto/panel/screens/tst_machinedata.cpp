@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "machinedata.h"
+#include "screens/machinedata.h"
 
 #include <QSignalSpy>
 

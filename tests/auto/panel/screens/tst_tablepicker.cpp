@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "look.h"
-#include "panelstyle.h"
-#include "tablepicker.h"
+#include "look/look.h"
+#include "look/panelstyle.h"
+#include "screens/tablepicker.h"
 
 #include <QPushButton>
 #include <QTableWidget>

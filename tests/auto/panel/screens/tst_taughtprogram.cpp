@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "machinedata.h"
-#include "taughtprogram.h"
+#include "screens/machinedata.h"
+#include "screens/taughtprogram.h"
 
 class TestTaughtProgram : public FilarixTest
 {

@@ -6,12 +6,12 @@
 #include "filarixtest.h"
 #include "heldfile.h"
 #include "label.h"
-#include "machinedata.h"
+#include "look/panelkey.h"
 #include "modaldriver.h"
-#include "panelkey.h"
-#include "tablepicker.h"
-#include "taughtprogram.h"
-#include "teachscreen.h"
+#include "screens/machinedata.h"
+#include "screens/tablepicker.h"
+#include "screens/taughtprogram.h"
+#include "screens/teachscreen.h"
 #include "tlistwidget.h"
 
 #include <QDir>

@@ -6,8 +6,8 @@
 #include "filarixtest.h"
 #include "heldfile.h"
 #include "modaldriver.h"
+#include "screens/variablesscreen.h"
 #include "tlistwidget.h"
-#include "variablesscreen.h"
 
 #include <QLabel>
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "devicecauses.h"
 #include "filarixtest.h"
+#include "shell/devicecauses.h"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "dialogkeeper.h"
+#include "display/panelglass.h"
+#include "display/panelsurface.h"
 #include "filarixtest.h"
-#include "panelglass.h"
-#include "panelsurface.h"
+#include "shell/dialogkeeper.h"
 
 #include <QDialog>
 #include <QWindow>

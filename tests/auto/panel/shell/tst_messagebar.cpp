@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "messagebar.h"
-#include "messagelog.h"
-#include "panelkey.h"
+#include "look/panelkey.h"
+#include "shell/messagebar.h"
+#include "shell/messagelog.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "messagedialog.h"
-#include "messagelog.h"
-#include "tonemark.h"
+#include "look/tonemark.h"
+#include "shell/messagedialog.h"
+#include "shell/messagelog.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "messagelog.h"
+#include "shell/messagelog.h"
 
 #include <QSignalSpy>
 

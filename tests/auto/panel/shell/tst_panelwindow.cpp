@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "glyphs.h"
-#include "languages.h"
-#include "look.h"
-#include "messagebar.h"
+#include "look/glyphs.h"
+#include "look/look.h"
+#include "look/panelkey.h"
 #include "modaldriver.h"
-#include "panelkey.h"
-#include "panelwindow.h"
-#include "settings.h"
-#include "statusstrip.h"
+#include "shell/languages.h"
+#include "shell/messagebar.h"
+#include "shell/panelwindow.h"
+#include "shell/settings.h"
+#include "shell/statusstrip.h"
 
 #include <QLabel>
 #include <QMessageBox>

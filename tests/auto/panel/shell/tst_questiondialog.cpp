@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "look.h"
+#include "look/look.h"
 #include "modaldriver.h"
-#include "questiondialog.h"
+#include "shell/questiondialog.h"
 
 #include <QBoxLayout>
 #include <QPushButton>

@@ -3,7 +3,7 @@
 
 #include "filarixtest.h"
 #include "messagebox.h"
-#include "questionkeeper.h"
+#include "shell/questionkeeper.h"
 
 #include <QDialog>
 #include <QPushButton>

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "messagebar.h"
 #include "modaldriver.h"
-#include "panelwindow.h"
-#include "settings.h"
-#include "settingsfile.h"
+#include "shell/messagebar.h"
+#include "shell/panelwindow.h"
+#include "shell/settings.h"
+#include "storage/settingsfile.h"
 
 #include <QDir>
 #include <QFileInfo>

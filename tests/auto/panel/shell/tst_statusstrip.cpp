@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "plctransfer.h"
-#include "statusstrip.h"
+#include "programs/plctransfer.h"
+#include "shell/statusstrip.h"
 
 #include <QDir>
 #include <QHBoxLayout>
