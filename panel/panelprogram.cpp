@@ -5,7 +5,7 @@
 
 #include "display/panelglass.h"
 #include "display/panelsurface.h"
-#include "guards/fieldkeypad.h"
+#include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
 #include "look/glyphs.h"
 #include "look/look.h"
@@ -19,7 +19,7 @@
 #include "screens/teachscreen.h"
 #include "screens/unsavedoffer.h"
 #include "screens/variablesscreen.h"
-#include "shell/dialogkeeper.h"
+#include "shell/dialogfitter.h"
 #include "shell/panelwindow.h"
 #include "shell/statusstrip.h"
 #include "stick/devicewatch.h"
@@ -139,8 +139,8 @@ void PanelProgram::makeWindow()
         m_glass.reset(new PanelGlass(surface, m_options.turn));
     m_panel.reset(new PanelWindow(surface));
     new PanelSurface(m_panel.get(), m_options.touch);
-    new FieldKeypad(m_panel.get());
-    new DialogKeeper(m_panel.get());
+    new FindDialogKeypad(m_panel.get());
+    new DialogFitter(m_panel.get());
 }
 
 void PanelProgram::makeScreens()

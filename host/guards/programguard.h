@@ -11,7 +11,7 @@
 #include "programs/programondisk.h"
 #include "programs/programstate.h"
 #include "programs/storecheck.h"
-#include "storage/filejobs.h"
+#include "storage/filetaskqueue.h"
 
 #include <QObject>
 #include <QPointer>
@@ -112,7 +112,7 @@ private:
     Questioner *m_questioner;
     WindowCommands m_commands;
     WindowDialogs m_dialogs;
-    FileJobs m_jobs;
+    FileTaskQueue m_jobs;
     ProgramKeeper m_keeper;
     StoreCheck m_check;
     ProgramState m_state;

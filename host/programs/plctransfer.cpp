@@ -256,10 +256,10 @@ bool PlcTransfer::Task::fail(const QString &error)
 PlcTransfer::PlcTransfer(const QString &dropDir, QObject *parent)
     : QObject(parent), m_dropDir(dropDir)
 {
-    connect(&m_work, &FileWork::progressed, this, &PlcTransfer::progress);
-    connect(&m_work, &FileWork::ended, this, &PlcTransfer::end);
-    connect(&m_work, &FileWork::stopped, this, &PlcTransfer::endStopped);
-    connect(&m_work, &FileWork::stalled, this, &PlcTransfer::endStalled);
+    connect(&m_work, &FileTaskRunner::progressed, this, &PlcTransfer::progress);
+    connect(&m_work, &FileTaskRunner::ended, this, &PlcTransfer::end);
+    connect(&m_work, &FileTaskRunner::stopped, this, &PlcTransfer::endStopped);
+    connect(&m_work, &FileTaskRunner::stalled, this, &PlcTransfer::endStalled);
 }
 
 PlcTransfer::~PlcTransfer() = default;

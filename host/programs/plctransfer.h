@@ -4,7 +4,7 @@
 #ifndef PLCTRANSFER_H
 #define PLCTRANSFER_H
 
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 /// Copies one program into the drop folder that stands for the PLC.
 ///
@@ -53,7 +53,8 @@ public:
     /// Whether the last transfer that was stopped left its program in the PLC, not compared.
     bool isUncompared() const { return m_isUncompared; }
 
-    /// Milliseconds without progress after which a transfer fails; FileWork::stallMs at first.
+    /// Milliseconds without progress after which a transfer fails; FileTaskRunner::stallMs at
+    /// first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
 Q_SIGNALS:
@@ -74,7 +75,7 @@ private:
     void endStalled();
 
     const QString m_dropDir;
-    FileWork m_work;
+    FileTaskRunner m_work;
     std::shared_ptr<Task> m_task;
     bool m_isPlcAtFault = false;
     bool m_isUncompared = false;

@@ -5,7 +5,7 @@
 #define PROGRAMCOMPARISON_H
 
 #include "storage/filestamp.h"
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <QString>
 

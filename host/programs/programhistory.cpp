@@ -397,16 +397,16 @@ ProgramHistory::ProgramHistory(const QString &programDir, const QString &folder,
     , m_store(std::make_shared<HistoryStore>(folder, limits))
     , m_patienceMs(patienceMs)
 {
-    connect(&m_scanWork, &FileWork::ended, this, &ProgramHistory::endScan);
-    connect(&m_scanWork, &FileWork::stalled, this, &ProgramHistory::loseScan);
-    connect(&m_restoreWork, &FileWork::progressed, this, [this](int percent) {
+    connect(&m_scanWork, &FileTaskRunner::ended, this, &ProgramHistory::endScan);
+    connect(&m_scanWork, &FileTaskRunner::stalled, this, &ProgramHistory::loseScan);
+    connect(&m_restoreWork, &FileTaskRunner::progressed, this, [this](int percent) {
         Q_EMIT worked(tr("%1 is brought back: %2 %").arg(m_wanted.name).arg(percent), percent);
     });
-    connect(&m_restoreWork, &FileWork::ended, this, &ProgramHistory::endRestore);
-    connect(&m_restoreWork, &FileWork::stopped, this, [this] {
+    connect(&m_restoreWork, &FileTaskRunner::ended, this, &ProgramHistory::endRestore);
+    connect(&m_restoreWork, &FileTaskRunner::stopped, this, [this] {
         tellRestore(tr("Stopped. %1 is as it was.").arg(m_wanted.name), Message::Information);
     });
-    connect(&m_restoreWork, &FileWork::stalled, this, &ProgramHistory::loseRestore);
+    connect(&m_restoreWork, &FileTaskRunner::stalled, this, &ProgramHistory::loseRestore);
     connect(&m_pollTimer, &QTimer::timeout, this, &ProgramHistory::look);
     m_restTimer.setSingleShot(true);
     connect(&m_restTimer, &QTimer::timeout, this, &ProgramHistory::beginScan);

@@ -6,7 +6,7 @@
 
 #include "base/message.h"
 #include "programs/historystore.h"
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -105,8 +105,8 @@ private:
 
     const QString m_programDir;
     std::shared_ptr<HistoryStore> m_store;
-    FileWork m_scanWork;
-    FileWork m_restoreWork;
+    FileTaskRunner m_scanWork;
+    FileTaskRunner m_restoreWork;
     std::shared_ptr<Scan> m_scan;
     std::shared_ptr<Restore> m_restore;
     ProgramVersion m_wanted;

@@ -5,7 +5,7 @@
 #define PROGRAMONDISK_H
 
 #include "storage/filestamp.h"
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <QDateTime>
 #include <QString>

@@ -254,10 +254,10 @@ bool ProgramSnapshot::Task::fail(const QString &error)
 ProgramSnapshot::ProgramSnapshot(const QString &folder, QObject *parent)
     : QObject(parent), m_folder(folder)
 {
-    connect(&m_work, &FileWork::progressed, this, &ProgramSnapshot::progress);
-    connect(&m_work, &FileWork::ended, this, &ProgramSnapshot::end);
-    connect(&m_work, &FileWork::stopped, this, &ProgramSnapshot::endStopped);
-    connect(&m_work, &FileWork::stalled, this, &ProgramSnapshot::endStalled);
+    connect(&m_work, &FileTaskRunner::progressed, this, &ProgramSnapshot::progress);
+    connect(&m_work, &FileTaskRunner::ended, this, &ProgramSnapshot::end);
+    connect(&m_work, &FileTaskRunner::stopped, this, &ProgramSnapshot::endStopped);
+    connect(&m_work, &FileTaskRunner::stalled, this, &ProgramSnapshot::endStalled);
     m_keeper.post([folder] { sweep(folder); }, [] {});
 }
 

@@ -4,7 +4,7 @@
 #ifndef PROGRAMSNAPSHOT_H
 #define PROGRAMSNAPSHOT_H
 
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <QByteArray>
 #include <QString>
@@ -95,7 +95,7 @@ private:
     ProgramFacts m_facts;
     std::shared_ptr<Copy> m_copy;
     FileThread m_keeper;
-    FileWork m_work;
+    FileTaskRunner m_work;
     std::shared_ptr<Task> m_task;
     bool m_comparing = false;
 };

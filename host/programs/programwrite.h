@@ -5,7 +5,7 @@
 #define PROGRAMWRITE_H
 
 #include "storage/filestamp.h"
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 #include "storage/writeleave.h"
 
 #include <QString>

@@ -7,7 +7,7 @@
 #include "programs/programreadback.h"
 #include "programs/programtext.h"
 #include "programs/programwrite.h"
-#include "storage/filejobs.h"
+#include "storage/filetaskqueue.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -36,7 +36,7 @@ private:
 
 } // namespace
 
-StoreCheck::StoreCheck(QTextDocument *document, FileJobs *jobs, Questioner *questioner,
+StoreCheck::StoreCheck(QTextDocument *document, FileTaskQueue *jobs, Questioner *questioner,
                        QObject *parent)
     : QObject(parent), m_document(document), m_jobs(jobs), m_questioner(questioner)
 {}

@@ -11,7 +11,7 @@
 
 #include <functional>
 
-class FileJobs;
+class FileTaskQueue;
 class Questioner;
 class QTextDocument;
 
@@ -31,7 +31,7 @@ public:
     };
 
     /// All of them must outlive the check.
-    StoreCheck(QTextDocument *document, FileJobs *jobs, Questioner *questioner,
+    StoreCheck(QTextDocument *document, FileTaskQueue *jobs, Questioner *questioner,
                QObject *parent = nullptr);
 
     /// \a folder gives a folder on another disk to save to, or nothing; it is called in a thread.
@@ -69,7 +69,7 @@ private:
     void end(Outcome outcome);
 
     QTextDocument *m_document;
-    FileJobs *m_jobs;
+    FileTaskQueue *m_jobs;
     Questioner *m_questioner;
     std::function<QString()> m_otherPlace;
     FileStamp m_stamp;

@@ -26,7 +26,7 @@ class DeviceLooker : public QThread
     Q_OBJECT
 
 public:
-    explicit DeviceLooker(const DeviceWatch::Look &look) : m_look(look) {}
+    explicit DeviceLooker(const DeviceWatch::Probe &probe) : m_probe(probe) {}
 
     void wake()
     {
@@ -52,7 +52,7 @@ protected:
         while (!m_isStopped) {
             m_isWanted = false;
             locker.unlock();
-            const DeviceState state = m_look();
+            const DeviceState state = m_probe();
             locker.relock();
             if (m_isStopped)
                 return;
@@ -63,7 +63,7 @@ protected:
     }
 
 private:
-    const DeviceWatch::Look m_look;
+    const DeviceWatch::Probe m_probe;
     QMutex m_mutex;
     QWaitCondition m_condition;
     bool m_isWanted = false;
@@ -76,8 +76,8 @@ bool DeviceState::operator==(const DeviceState &other) const
            && stickIn == other.stickIn && freeBytes == other.freeBytes;
 }
 
-DeviceWatch::DeviceWatch(const Look &look, QObject *parent)
-    : QObject(parent), m_looker(new DeviceLooker(look))
+DeviceWatch::DeviceWatch(const Probe &probe, QObject *parent)
+    : QObject(parent), m_looker(new DeviceLooker(probe))
 {
     qRegisterMetaType<DeviceState>();
     connect(m_looker, &DeviceLooker::looked, this, &DeviceWatch::take);

@@ -38,11 +38,11 @@ class DeviceWatch : public QObject
     Q_OBJECT
 
 public:
-    typedef std::function<DeviceState()> Look;
+    typedef std::function<DeviceState()> Probe;
 
-    /// \a look runs in the other thread, which may outlive the watch while a device keeps it
+    /// \a probe runs in the other thread, which may outlive the watch while a device keeps it
     /// waiting: it has to own what it uses.
-    explicit DeviceWatch(const Look &look, QObject *parent = nullptr);
+    explicit DeviceWatch(const Probe &probe, QObject *parent = nullptr);
     ~DeviceWatch() override;
 
     /// The PLC's folder, the stick and the file system of \a programDir, now. May wait for them.

@@ -3,7 +3,7 @@
 
 #include "stick/folderwatch.h"
 
-#include "stick/sticknames.h"
+#include "stick/transfernames.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,7 +14,7 @@ const int patienceMs = 3000;
 
 } // namespace
 
-FolderWatch::FolderWatch(const Look &look, QObject *parent) : QObject(parent), m_look(look)
+FolderWatch::FolderWatch(const Probe &probe, QObject *parent) : QObject(parent), m_probe(probe)
 {
     m_patience.setSingleShot(true);
     m_patience.setInterval(patienceMs);
@@ -40,7 +40,7 @@ FolderState FolderWatch::lookAt(const QString &folder)
     for (const QFileInfo &file : files)
         state.bytes += file.size();
     state.files = files.size();
-    state.unsafeNames = StickNames::unsafeIn(folder).size();
+    state.unsafeNames = TransferNames::unsafeIn(folder).size();
     return state;
 }
 
@@ -51,9 +51,9 @@ void FolderWatch::look()
         return;
     m_isLooking = true;
     m_patience.start();
-    const Look look = m_look;
+    const Probe probe = m_probe;
     const std::shared_ptr<FolderState> state = std::make_shared<FolderState>();
-    m_thread.post([look, state] { *state = look(); }, [this, state] { take(*state); });
+    m_thread.post([probe, state] { *state = probe(); }, [this, state] { take(*state); });
 }
 
 void FolderWatch::take(const FolderState &state)

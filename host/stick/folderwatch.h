@@ -33,10 +33,10 @@ class FolderWatch : public QObject
     Q_OBJECT
 
 public:
-    typedef std::function<FolderState()> Look;
+    typedef std::function<FolderState()> Probe;
 
-    /// \a look runs in the thread, which may outlive the watch: it has to own what it uses.
-    explicit FolderWatch(const Look &look, QObject *parent = nullptr);
+    /// \a probe runs in the thread, which may outlive the watch: it has to own what it uses.
+    explicit FolderWatch(const Probe &probe, QObject *parent = nullptr);
     ~FolderWatch() override;
 
     /// The plain files in \a folder, now. May wait for it.
@@ -60,7 +60,7 @@ Q_SIGNALS:
 private:
     void take(const FolderState &state);
 
-    const Look m_look;
+    const Probe m_probe;
     FileThread m_thread;
     FolderState m_state;
     QTimer m_patience;

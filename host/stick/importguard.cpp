@@ -7,7 +7,7 @@
 #include "importmanage.h"
 #include "programs/programhistory.h"
 #include "stick/stick.h"
-#include "stick/sticknames.h"
+#include "stick/transfernames.h"
 
 #include <QApplication>
 #include <QDir>
@@ -52,11 +52,11 @@ QList<Unsafe> unsafeIn(const QString &folder)
 {
     QList<Unsafe> files;
     QStringList taken;
-    const QStringList names = StickNames::unsafeIn(folder);
+    const QStringList names = TransferNames::unsafeIn(folder);
     if (!names.isEmpty())
         taken = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
     for (const QString &name : names) {
-        files.append({folder, name, StickNames::proposal(name, taken)});
+        files.append({folder, name, TransferNames::proposal(name, taken)});
         taken.append(files.last().safeName);
     }
     return files;
@@ -97,7 +97,7 @@ bool choosesUnsafeName(const ImportManage *manager)
     const QList<QListView *> views = manager->findChildren<QListView *>();
     for (const QListView *view : views) {
         const QString name = chosenName(view);
-        if (!name.isEmpty() && !StickNames::isSafe(name))
+        if (!name.isEmpty() && !TransferNames::isSafe(name))
             return true;
     }
     return false;
@@ -349,7 +349,7 @@ void ImportGuard::renameAll(const Look &look, const std::function<void(Settled)>
     m_job.run(
         [files, failed] {
             for (const Unsafe &file : files) {
-                if (!StickNames::rename(file.folder, file.name, file.safeName))
+                if (!TransferNames::rename(file.folder, file.name, file.safeName))
                     ++*failed;
             }
         },

@@ -27,8 +27,8 @@ private:
 
 FileJob::FileJob(QObject *parent) : QObject(parent)
 {
-    connect(&m_work, &FileWork::ended, this, [this] { finish(m_done); });
-    connect(&m_work, &FileWork::stalled, this, [this] { finish(m_stalled); });
+    connect(&m_work, &FileTaskRunner::ended, this, [this] { finish(m_done); });
+    connect(&m_work, &FileTaskRunner::stalled, this, [this] { finish(m_stalled); });
 }
 
 void FileJob::run(const Work &work, const Work &done, const Work &stalled)

@@ -4,7 +4,7 @@
 #ifndef FILEJOB_H
 #define FILEJOB_H
 
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <functional>
 
@@ -38,7 +38,7 @@ Q_SIGNALS:
 private:
     void finish(const Work &answer);
 
-    FileWork m_work;
+    FileTaskRunner m_work;
     Work m_done;
     Work m_stalled;
 };

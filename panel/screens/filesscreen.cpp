@@ -7,7 +7,7 @@
 #include "look/livetext.h"
 #include "look/look.h"
 #include "look/panelkey.h"
-#include "look/touchblock.h"
+#include "look/taparea.h"
 #include "programs/programhistory.h"
 #include "samples.h"
 #include "screens/historydialog.h"
@@ -144,7 +144,7 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     name->setFont(font);
     ElidedLabel *state = new ElidedLabel;
     // The end of a path may not fit; a touch tells it in full.
-    TouchBlock *block = new TouchBlock;
+    TapArea *block = new TapArea;
     QVBoxLayout *texts = new QVBoxLayout(block);
     texts->setContentsMargins(0, 0, 0, 0);
     texts->setSpacing(0);
@@ -154,7 +154,7 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     texts->addStretch();
     m_grid->addWidget(block, row, 0);
     state->setObjectName(QLatin1String("fileState"));
-    connect(block, &TouchBlock::touched, this, [this, state] { Q_EMIT explained(state->text()); });
+    connect(block, &TapArea::touched, this, [this, state] { Q_EMIT explained(state->text()); });
     for (int i = 0; i < keys.size(); ++i) {
         keys.at(i)->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         // A line with one key has it at the edge, under the last of two.

@@ -27,8 +27,8 @@ public:
     /// How the screen looks at the two folders, in threads.
     struct Looks
     {
-        FolderWatch::Look stick;
-        FolderWatch::Look programs;
+        FolderWatch::Probe stick;
+        FolderWatch::Probe programs;
     };
 
     /// \a stick and \a history must outlive the screen.

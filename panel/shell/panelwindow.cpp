@@ -6,7 +6,7 @@
 #include "look/elidedlabel.h"
 #include "look/look.h"
 #include "look/panelkey.h"
-#include "look/touchblock.h"
+#include "look/taparea.h"
 #include "shell/languagepicker.h"
 #include "shell/languages.h"
 #include "shell/messagebar.h"
@@ -106,10 +106,10 @@ QWidget *PanelWindow::makeTopStrip()
     m_title->setObjectName(QLatin1String("title"));
     m_status->setObjectName(QLatin1String("status"));
 
-    TouchBlock *titleBlock = new TouchBlock;
+    TapArea *titleBlock = new TapArea;
     titleBlock->setObjectName(QLatin1String("titleBlock"));
     titleBlock->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    connect(titleBlock, &TouchBlock::touched, this, &PanelWindow::showMessages);
+    connect(titleBlock, &TapArea::touched, this, &PanelWindow::showMessages);
     QVBoxLayout *titles = new QVBoxLayout(titleBlock);
     const int side = m_shape == Small ? 3 : 6;
     titles->setContentsMargins(side, 0, side, 0);

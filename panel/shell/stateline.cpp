@@ -17,7 +17,7 @@ const int sideMargin = 10;
 
 } // namespace
 
-StateLine::StateLine(QWidget *parent) : TouchBlock(parent), m_label(new ElidedLabel)
+StateLine::StateLine(QWidget *parent) : TapArea(parent), m_label(new ElidedLabel)
 {
     setObjectName(QLatin1String("strip"));
     setAttribute(Qt::WA_StyledBackground);
@@ -51,7 +51,7 @@ void StateLine::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange)
         colour();
-    TouchBlock::changeEvent(event);
+    TapArea::changeEvent(event);
 }
 
 void StateLine::colour()

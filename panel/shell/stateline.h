@@ -5,13 +5,13 @@
 #define STATELINE_H
 
 #include "base/message.h"
-#include "look/touchblock.h"
+#include "look/taparea.h"
 
 class ElidedLabel;
 
 /// One line that stays in view for as long as something is to be kept in mind; a touch asks for it
 /// in full. Hidden while there is nothing.
-class StateLine : public TouchBlock
+class StateLine : public TapArea
 {
     Q_OBJECT
 

@@ -3,7 +3,7 @@
 
 #include "display/panelsurface.h"
 #include "filarixtest.h"
-#include "guards/fieldkeypad.h"
+#include "guards/finddialogkeypad.h"
 #include "look/glyphs.h"
 #include "look/look.h"
 #include "look/panelstyle.h"
@@ -19,7 +19,7 @@
 #include "screens/teachscreen.h"
 #include "screens/unsavedquestion.h"
 #include "screens/variablesscreen.h"
-#include "shell/dialogkeeper.h"
+#include "shell/dialogfitter.h"
 #include "shell/languages.h"
 #include "shell/messagedialog.h"
 #include "shell/messagelog.h"
@@ -176,8 +176,8 @@ void TestTextFit::everyTextFits()
     MachineData machine;
     PanelWindow panel(size);
     PanelSurface surface(&panel, true);
-    FieldKeypad fieldKeypad(&panel);
-    DialogKeeper keeper(&panel);
+    FindDialogKeypad fieldKeypad(&panel);
+    DialogFitter keeper(&panel);
     const bool isUpright = size.width() < size.height();
     ProgramScreen *programs =
         new ProgramScreen(isUpright ? 90 : 0, home() + "/plc", home() + "/hmi", &machine);

@@ -471,7 +471,7 @@ void TestPlcTransfer::stalledSyncRenamesNothing()
     QVERIFY(failures.at(0).at(0).toString().contains("in the middle of the download"));
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
 
-    transfer.setStallTime(FileWork::stallMs);
+    transfer.setStallTime(FileTaskRunner::stallMs);
     writeFile(programDir() + "/coil.cnc", "the new one\n");
     transfer.start(programDir() + "/coil.cnc");
     QTRY_COMPARE(ends.size(), 1);
@@ -512,7 +512,7 @@ void TestPlcTransfer::renameThatHangsIsToldAsNotKnown()
 
     hanging.release();
     QTRY_COMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("the old one\n"));
-    transfer.setStallTime(FileWork::stallMs);
+    transfer.setStallTime(FileTaskRunner::stallMs);
     // It has its name a moment before the thread says so.
     const auto isSentInTheEnd = [&] {
         transfer.start(programDir() + "/coil.cnc");

@@ -764,7 +764,7 @@ void TestProgramHistory::stalledSyncBringsNothingBack()
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(lastTone(), Message::Alarm);
     QVERIFY2(lastTold().contains("was not brought back"), qPrintable(lastTold()));
-    m_history->setStallTime(FileWork::stallMs);
+    m_history->setStallTime(FileTaskRunner::stallMs);
     m_history->restore(versionOf("two\n"));
     QTRY_COMPARE(m_told->size(), 2);
     QCOMPARE(lastTone(), Message::Information);
@@ -796,7 +796,7 @@ void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(lastTone(), Message::Alarm);
     QVERIFY2(lastTold().contains("is not known"), qPrintable(lastTold()));
-    m_history->setStallTime(FileWork::stallMs);
+    m_history->setStallTime(FileTaskRunner::stallMs);
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 2);
     QVERIFY2(lastTold().contains("has not ended the last"), qPrintable(lastTold()));

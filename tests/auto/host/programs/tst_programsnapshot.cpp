@@ -258,7 +258,7 @@ void TestProgramSnapshot::storageThatHangsFails()
     QVERIFY(failures.at(0).at(0).toString().contains("storage stopped answering"));
     QVERIFY(release(&leased));
     // What hung leaves nothing behind, and does not come in the way of the next one.
-    snapshot.setStallTime(FileWork::stallMs);
+    snapshot.setStallTime(FileTaskRunner::stallMs);
     snapshot.take(m_path);
     QTRY_COMPARE(taken.size(), 1);
     QTRY_COMPARE(copies().size(), 1);

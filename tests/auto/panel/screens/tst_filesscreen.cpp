@@ -4,7 +4,7 @@
 #include "filarixtest.h"
 #include "heldfile.h"
 #include "look/panelkey.h"
-#include "look/touchblock.h"
+#include "look/taparea.h"
 #include "modaldriver.h"
 #include "programs/programhistory.h"
 #include "screens/filesscreen.h"
@@ -201,9 +201,9 @@ void TestFilesScreen::stateIsToldInFullByATouch()
     screen.resize(300, 220);
     screen.show();
     QSignalSpy told(&screen, SIGNAL(explained(QString)));
-    const QList<TouchBlock *> blocks = screen.findChildren<TouchBlock *>();
+    const QList<TapArea *> blocks = screen.findChildren<TapArea *>();
     QCOMPARE(blocks.size(), 4);
-    for (TouchBlock *block : blocks) {
+    for (TapArea *block : blocks) {
         QVERIFY(block->height() >= 34);
         QTest::mouseClick(block->findChild<QLabel *>("fileState"), Qt::LeftButton);
         QCOMPARE(told.takeLast().at(0).toString(), block->findChild<QLabel *>("fileState")->text());
@@ -293,7 +293,7 @@ void TestFilesScreen::foldersAreLookedAtWhileTheScreenIsUp()
 {
     const std::shared_ptr<QAtomicInt> looks = std::make_shared<QAtomicInt>();
     FilesScreen::Looks counted = FilesScreen::usualLooks();
-    const FolderWatch::Look usual = counted.programs;
+    const FolderWatch::Probe usual = counted.programs;
     counted.programs = [looks, usual] {
         // Never in the thread of the screen.
         if (QThread::currentThread() == qApp->thread())

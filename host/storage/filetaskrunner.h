@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef FILEWORK_H
-#define FILEWORK_H
+#ifndef FILETASKRUNNER_H
+#define FILETASKRUNNER_H
 
 #include "storage/filethread.h"
 
@@ -62,7 +62,7 @@ private:
 ///
 /// Each start() ends in exactly one ended(), stopped() or stalled(), never before start() has
 /// returned.
-class FileWork : public QObject
+class FileTaskRunner : public QObject
 {
     Q_OBJECT
 
@@ -70,8 +70,8 @@ public:
     /// Milliseconds that one step may take before the work counts as stalled.
     static const int stallMs = 15000;
 
-    explicit FileWork(QObject *parent = nullptr);
-    ~FileWork() override;
+    explicit FileTaskRunner(QObject *parent = nullptr);
+    ~FileTaskRunner() override;
 
     bool isRunning() const { return bool(m_task); }
     /// Does nothing while another task runs. The task is closed in the thread when it ends.
@@ -109,4 +109,4 @@ private:
     bool m_stopping = false;
 };
 
-#endif // FILEWORK_H
+#endif // FILETASKRUNNER_H

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "look/touchblock.h"
+#include "look/taparea.h"
 
 #include <QMouseEvent>
 
-void TouchBlock::mousePressEvent(QMouseEvent *event)
+void TapArea::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
 }
 
-void TouchBlock::mouseReleaseEvent(QMouseEvent *event)
+void TapArea::mouseReleaseEvent(QMouseEvent *event)
 {
     if (rect().contains(event->pos()))
         Q_EMIT touched();

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef STICKNAMES_H
-#define STICKNAMES_H
+#ifndef TRANSFERNAMES_H
+#define TRANSFERNAMES_H
 
 #include <QString>
 #include <QStringList>
@@ -10,12 +10,12 @@
 /// The host's check of file names, made before a folder is offered to the import manager: that one
 /// hands paths to the shell without quotes. See docs/security.md.
 ///
-///     Q_FOREACH (const QString &name, StickNames::unsafeIn(stick)) {
-///         const QString safe = StickNames::proposal(name, QDir(stick).entryList());
-///         if (!StickNames::rename(stick, name, safe))
+///     Q_FOREACH (const QString &name, TransferNames::unsafeIn(stick)) {
+///         const QString safe = TransferNames::proposal(name, QDir(stick).entryList());
+///         if (!TransferNames::rename(stick, name, safe))
 ///             refuse(stick);
 ///     }
-class StickNames
+class TransferNames
 {
 public:
     /// Whether every command line takes \a name for what it is: it starts with an ASCII letter,
@@ -36,4 +36,4 @@ public:
     static bool rename(const QString &dir, const QString &name, const QString &safe);
 };
 
-#endif // STICKNAMES_H
+#endif // TRANSFERNAMES_H

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef FIELDKEYPAD_H
-#define FIELDKEYPAD_H
+#ifndef FINDDIALOGKEYPAD_H
+#define FINDDIALOGKEYPAD_H
 
 #include <QObject>
 
@@ -10,15 +10,15 @@
 ///
 /// The library's other fields open a keypad by themselves; those of its find dialog are for keys,
 /// and a panel may have none.
-class FieldKeypad : public QObject
+class FindDialogKeypad : public QObject
 {
     Q_OBJECT
 
 public:
     /// Watches the application from now on.
-    explicit FieldKeypad(QObject *parent);
+    explicit FindDialogKeypad(QObject *parent);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
-#endif // FIELDKEYPAD_H
+#endif // FINDDIALOGKEYPAD_H

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "guards/fieldkeypad.h"
+#include "guards/finddialogkeypad.h"
 
 #include <hmidevice/characterkeypad.h>
 #include <hmidevice/hmideviceinfo.h>
@@ -11,12 +11,12 @@
 #include <QLineEdit>
 #include <QPointer>
 
-FieldKeypad::FieldKeypad(QObject *parent) : QObject(parent)
+FindDialogKeypad::FindDialogKeypad(QObject *parent) : QObject(parent)
 {
     qApp->installEventFilter(this);
 }
 
-bool FieldKeypad::eventFilter(QObject *watched, QEvent *event)
+bool FindDialogKeypad::eventFilter(QObject *watched, QEvent *event)
 {
     // On the release: on the press the field would still hold the mouse while the keypad is open.
     if (event->type() != QEvent::MouseButtonRelease)

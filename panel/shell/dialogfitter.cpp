@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "shell/dialogkeeper.h"
+#include "shell/dialogfitter.h"
 
 #include "display/panelsurface.h"
 #include "look/look.h"
@@ -28,12 +28,12 @@ bool isMisplaced(const QDialog *dialog)
 
 } // namespace
 
-DialogKeeper::DialogKeeper(QWidget *panel) : QObject(panel), m_panel(panel)
+DialogFitter::DialogFitter(QWidget *panel) : QObject(panel), m_panel(panel)
 {
     qApp->installEventFilter(this);
 }
 
-bool DialogKeeper::eventFilter(QObject *watched, QEvent *event)
+bool DialogFitter::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
     if (isPressOfPanel(watched, type))
@@ -60,7 +60,7 @@ bool DialogKeeper::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-bool DialogKeeper::isPressOfPanel(const QObject *watched, QEvent::Type type) const
+bool DialogFitter::isPressOfPanel(const QObject *watched, QEvent::Type type) const
 {
     if (!m_panel || m_open.isEmpty())
         return false;
@@ -72,7 +72,7 @@ bool DialogKeeper::isPressOfPanel(const QObject *watched, QEvent::Type type) con
 
 // A window manager keeps the dialog above the window that it belongs to. The native window is there
 // by now and not yet shown, when it tells the manager.
-void DialogKeeper::bind(QDialog *dialog)
+void DialogFitter::bind(QDialog *dialog)
 {
     if (!m_panel || !m_panel->windowHandle())
         return;
@@ -85,7 +85,7 @@ void DialogKeeper::bind(QDialog *dialog)
 }
 
 // Where nobody manages the windows, each in its turn, so that the last one shown is on top.
-void DialogKeeper::raiseAll()
+void DialogFitter::raiseAll()
 {
     const QList<QPointer<QDialog>> open = m_open;
     m_open.clear();
@@ -97,7 +97,7 @@ void DialogKeeper::raiseAll()
     }
 }
 
-void DialogKeeper::fit(QDialog *dialog)
+void DialogFitter::fit(QDialog *dialog)
 {
     const QRect panel = QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));

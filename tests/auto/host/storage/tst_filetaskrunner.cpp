@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <QElapsedTimer>
 #include <QSemaphore>
@@ -88,7 +88,7 @@ private:
     const std::shared_ptr<Record> m_record;
 };
 
-class TestFileWork : public FilarixTest
+class TestFileTaskRunner : public FilarixTest
 {
     Q_OBJECT
 
@@ -106,10 +106,10 @@ private Q_SLOTS:
     void changesFollowOneAnother();
 };
 
-void TestFileWork::stepsRunOneAfterAnotherInAThread()
+void TestFileTaskRunner::stepsRunOneAfterAnotherInAThread()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
-    FileWork work;
+    FileTaskRunner work;
     QSignalSpy progress(&work, SIGNAL(progressed(int)));
     QSignalSpy ends(&work, SIGNAL(ended()));
     work.start(std::make_shared<CountingTask>(4, record));
@@ -123,13 +123,13 @@ void TestFileWork::stepsRunOneAfterAnotherInAThread()
     QCOMPARE(progress.last().at(0).toInt(), 75);
 }
 
-void TestFileWork::stopLetsNoOtherStepBegin()
+void TestFileTaskRunner::stopLetsNoOtherStepBegin()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
-    FileWork work;
+    FileTaskRunner work;
     QSignalSpy ends(&work, SIGNAL(ended()));
     QSignalSpy stops(&work, SIGNAL(stopped()));
-    connect(&work, &FileWork::progressed, &work, &FileWork::stop);
+    connect(&work, &FileTaskRunner::progressed, &work, &FileTaskRunner::stop);
     work.start(std::make_shared<CountingTask>(1000, record));
     QTRY_COMPARE(stops.size(), 1);
     QVERIFY(!work.isRunning());
@@ -142,11 +142,11 @@ void TestFileWork::stopLetsNoOtherStepBegin()
     QCOMPARE(stops.size(), 1);
 }
 
-void TestFileWork::secondStartWhileRunningDoesNothing()
+void TestFileTaskRunner::secondStartWhileRunningDoesNothing()
 {
     const std::shared_ptr<Record> first = std::make_shared<Record>();
     const std::shared_ptr<Record> second = std::make_shared<Record>();
-    FileWork work;
+    FileTaskRunner work;
     QSignalSpy ends(&work, SIGNAL(ended()));
     work.start(std::make_shared<CountingTask>(3, first));
     work.start(std::make_shared<CountingTask>(3, second));
@@ -156,10 +156,10 @@ void TestFileWork::secondStartWhileRunningDoesNothing()
     QCOMPARE(second->steps.load(), 0);
 }
 
-void TestFileWork::stepThatHangsIsGivenUp()
+void TestFileTaskRunner::stepThatHangsIsGivenUp()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
-    FileWork work;
+    FileTaskRunner work;
     work.setStallTime(50);
     QSignalSpy ends(&work, SIGNAL(ended()));
     QSignalSpy stalls(&work, SIGNAL(stalled()));
@@ -168,7 +168,7 @@ void TestFileWork::stepThatHangsIsGivenUp()
     QVERIFY(!work.isRunning());
 
     // The next task has a thread of its own.
-    work.setStallTime(FileWork::stallMs);
+    work.setStallTime(FileTaskRunner::stallMs);
     const std::shared_ptr<Record> next = std::make_shared<Record>();
     work.start(std::make_shared<CountingTask>(2, next));
     QTRY_COMPARE(ends.size(), 1);
@@ -182,11 +182,11 @@ void TestFileWork::stepThatHangsIsGivenUp()
     QCOMPARE(stalls.size(), 1);
 }
 
-void TestFileWork::destructionDropsTheAnswer()
+void TestFileTaskRunner::destructionDropsTheAnswer()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
     {
-        FileWork work;
+        FileTaskRunner work;
         work.start(std::make_shared<CountingTask>(1000, record));
         QTRY_VERIFY(record->steps.load() > 0);
     }
@@ -196,12 +196,12 @@ void TestFileWork::destructionDropsTheAnswer()
     QCOMPARE(record->steps.load(), steps);
 }
 
-void TestFileWork::destructionDoesNotWaitForWhatWasGivenUp()
+void TestFileTaskRunner::destructionDoesNotWaitForWhatWasGivenUp()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
     QElapsedTimer timer;
     {
-        FileWork work;
+        FileTaskRunner work;
         work.setStallTime(50);
         QSignalSpy stalls(&work, SIGNAL(stalled()));
         work.start(std::make_shared<CountingTask>(5, record, true));
@@ -214,12 +214,12 @@ void TestFileWork::destructionDoesNotWaitForWhatWasGivenUp()
     QTRY_COMPARE(long(record.use_count()), 1L);
 }
 
-void TestFileWork::destructionDoesNotWaitForAStepThatHangs()
+void TestFileTaskRunner::destructionDoesNotWaitForAStepThatHangs()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
     QElapsedTimer timer;
     {
-        FileWork work;
+        FileTaskRunner work;
         work.start(std::make_shared<CountingTask>(5, record, true));
         QTRY_COMPARE(record->steps.load(), 1);
         timer.start();
@@ -233,20 +233,20 @@ void TestFileWork::destructionDoesNotWaitForAStepThatHangs()
     QCOMPARE(record->closedInMainThread.load(), 0);
 }
 
-void TestFileWork::taskThatWasGivenUpChangesNothing_data()
+void TestFileTaskRunner::taskThatWasGivenUpChangesNothing_data()
 {
     QTest::addColumn<bool>("isDestroyed");
     QTest::newRow("it stalled") << false;
     QTest::newRow("whoever wanted it is gone") << true;
 }
 
-void TestFileWork::taskThatWasGivenUpChangesNothing()
+void TestFileTaskRunner::taskThatWasGivenUpChangesNothing()
 {
     QFETCH(bool, isDestroyed);
     const std::shared_ptr<Record> record = std::make_shared<Record>();
-    QScopedPointer<FileWork> work(new FileWork);
+    QScopedPointer<FileTaskRunner> work(new FileTaskRunner);
     QSignalSpy stalls(work.data(), SIGNAL(stalled()));
-    work->setStallTime(isDestroyed ? FileWork::stallMs : 50);
+    work->setStallTime(isDestroyed ? FileTaskRunner::stallMs : 50);
     const std::shared_ptr<FileTask> task =
         std::make_shared<ChangingTask>(ChangingTask::Before, record);
     work->start(task);
@@ -263,10 +263,10 @@ void TestFileWork::taskThatWasGivenUpChangesNothing()
     QCOMPARE(record->mayChange.load(), 0);
 }
 
-void TestFileWork::changeThatHangsIsUncertain()
+void TestFileTaskRunner::changeThatHangsIsUncertain()
 {
     const std::shared_ptr<Record> record = std::make_shared<Record>();
-    FileWork work;
+    FileTaskRunner work;
     work.setStallTime(50);
     QSignalSpy stalls(&work, SIGNAL(stalled()));
     const std::shared_ptr<FileTask> task =
@@ -282,7 +282,7 @@ void TestFileWork::changeThatHangsIsUncertain()
     QTRY_COMPARE(record->closes.load(), 1);
 }
 
-void TestFileWork::changesFollowOneAnother()
+void TestFileTaskRunner::changesFollowOneAnother()
 {
     class Open : public FileTask
     {
@@ -303,5 +303,5 @@ void TestFileWork::changesFollowOneAnother()
     QVERIFY(!task.isUncertain());
 }
 
-FILARIX_TEST_MAIN(TestFileWork)
-#include "tst_filework.moc"
+FILARIX_TEST_MAIN(TestFileTaskRunner)
+#include "tst_filetaskrunner.moc"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef DIALOGKEEPER_H
-#define DIALOGKEEPER_H
+#ifndef DIALOGFITTER_H
+#define DIALOGFITTER_H
 
 #include <QEvent>
 #include <QList>
@@ -17,14 +17,14 @@ class QWidget;
 /// manager to draw one, one that is larger than the panel is made to fit when it is shown, one that
 /// the toolkit places stands in the middle, and the import manager, whose own size leaves a file
 /// name no room, gets most of the panel.
-class DialogKeeper : public QObject
+class DialogFitter : public QObject
 {
     Q_OBJECT
 
 public:
     /// Watches the application from now on. The panel is the primary screen, and \a panel, if any,
     /// is the window that dialogs stay above.
-    explicit DialogKeeper(QWidget *panel);
+    explicit DialogFitter(QWidget *panel);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -39,4 +39,4 @@ private:
     QList<QPointer<QDialog>> m_open;
 };
 
-#endif // DIALOGKEEPER_H
+#endif // DIALOGFITTER_H

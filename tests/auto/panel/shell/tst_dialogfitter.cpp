@@ -4,12 +4,12 @@
 #include "display/panelglass.h"
 #include "display/panelsurface.h"
 #include "filarixtest.h"
-#include "shell/dialogkeeper.h"
+#include "shell/dialogfitter.h"
 
 #include <QDialog>
 #include <QWindow>
 
-class TestDialogKeeper : public FilarixTest
+class TestDialogFitter : public FilarixTest
 {
     Q_OBJECT
 
@@ -22,13 +22,13 @@ private Q_SLOTS:
     void aTouchOfThePanelLeavesDialogsAbove();
 };
 
-void TestDialogKeeper::dialogLargerThanThePanelIsMadeToFit()
+void TestDialogFitter::dialogLargerThanThePanelIsMadeToFit()
 {
     QWidget panel;
     panel.setFixedSize(480, 272);
     panel.show();
     PanelSurface surface(&panel, true);
-    DialogKeeper keeper(nullptr);
+    DialogFitter keeper(nullptr);
     QDialog dialog;
     dialog.resize(500, 300);
     dialog.show();
@@ -36,13 +36,13 @@ void TestDialogKeeper::dialogLargerThanThePanelIsMadeToFit()
     QTRY_COMPARE(dialog.geometry(), screen);
 }
 
-void TestDialogKeeper::dialogBesideThePanelIsMovedOntoIt()
+void TestDialogFitter::dialogBesideThePanelIsMovedOntoIt()
 {
     QWidget panel;
     panel.setFixedSize(480, 272);
     panel.show();
     PanelSurface surface(&panel, true);
-    DialogKeeper keeper(nullptr);
+    DialogFitter keeper(nullptr);
     QDialog dialog;
     dialog.setGeometry(700, -90, 200, 100);
     dialog.show();
@@ -54,13 +54,13 @@ void TestDialogKeeper::dialogBesideThePanelIsMovedOntoIt()
 }
 
 // On a display that has no window manager.
-void TestDialogKeeper::dialogThatTheToolkitPlacesStandsInTheMiddle()
+void TestDialogFitter::dialogThatTheToolkitPlacesStandsInTheMiddle()
 {
     PanelGlass glass(QSize(480, 272), 0);
     QWidget panel;
     panel.setFixedSize(480, 272);
     glass.present(&panel);
-    DialogKeeper keeper(nullptr);
+    DialogFitter keeper(nullptr);
     QDialog dialog(&panel);
     dialog.resize(200, 100);
     dialog.show();
@@ -72,9 +72,9 @@ void TestDialogKeeper::dialogThatTheToolkitPlacesStandsInTheMiddle()
     QCOMPARE(placed.geometry(), QRect(10, 20, 200, 100));
 }
 
-void TestDialogKeeper::dialogHasAnEdge()
+void TestDialogFitter::dialogHasAnEdge()
 {
-    DialogKeeper keeper(nullptr);
+    DialogFitter keeper(nullptr);
     QDialog dialog;
     dialog.resize(200, 100);
     const QImage image = TestCompat::grab(&dialog).toImage();
@@ -83,12 +83,12 @@ void TestDialogKeeper::dialogHasAnEdge()
     QVERIFY(image.pixelColor(100, 50).lightness() > 200);
 }
 
-void TestDialogKeeper::dialogWithoutAParentBelongsToThePanel()
+void TestDialogFitter::dialogWithoutAParentBelongsToThePanel()
 {
     QWidget panel;
     panel.setFixedSize(480, 272);
     panel.show();
-    DialogKeeper *keeper = new DialogKeeper(&panel);
+    DialogFitter *keeper = new DialogFitter(&panel);
     QCOMPARE(keeper->parent(), &panel);
     QDialog dialog;
     dialog.show();
@@ -99,13 +99,13 @@ void TestDialogKeeper::dialogWithoutAParentBelongsToThePanel()
 }
 
 // On a display that has no window manager.
-void TestDialogKeeper::aTouchOfThePanelLeavesDialogsAbove()
+void TestDialogFitter::aTouchOfThePanelLeavesDialogsAbove()
 {
     PanelGlass glass(QSize(480, 272), 90);
     QWidget panel;
     panel.setFixedSize(480, 272);
     glass.present(&panel);
-    new DialogKeeper(&panel);
+    new DialogFitter(&panel);
     QDialog first;
     first.setGeometry(100, 100, 200, 100);
     first.show();
@@ -122,5 +122,5 @@ void TestDialogKeeper::aTouchOfThePanelLeavesDialogsAbove()
     QCOMPARE(QGuiApplication::topLevelAt(QPoint(105, 105)), first.windowHandle());
 }
 
-FILARIX_TEST_MAIN(TestDialogKeeper)
-#include "tst_dialogkeeper.moc"
+FILARIX_TEST_MAIN(TestDialogFitter)
+#include "tst_dialogfitter.moc"

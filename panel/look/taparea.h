@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef TOUCHBLOCK_H
-#define TOUCHBLOCK_H
+#ifndef TAPAREA_H
+#define TAPAREA_H
 
 #include <QWidget>
 
 /// Texts that together are large enough for a thumb: a touch on any of them counts as one.
 ///
-///     connect(block, &TouchBlock::touched, this, &Screen::tellInFull);
-class TouchBlock : public QWidget
+///     connect(block, &TapArea::touched, this, &Screen::tellInFull);
+class TapArea : public QWidget
 {
     Q_OBJECT
 
@@ -24,4 +24,4 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 };
 
-#endif // TOUCHBLOCK_H
+#endif // TAPAREA_H

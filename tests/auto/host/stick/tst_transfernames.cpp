@@ -4,7 +4,7 @@
 #include "managerfixture.h"
 #include "modaldriver.h"
 #include "shell.h"
-#include "stick/sticknames.h"
+#include "stick/transfernames.h"
 
 #include <QCryptographicHash>
 #include <QDirIterator>
@@ -12,7 +12,7 @@
 #include <cstdio>
 #include <random>
 
-class TestStickNames : public ManagerTest
+class TestTransferNames : public ManagerTest
 {
     Q_OBJECT
 
@@ -80,7 +80,7 @@ QStringList noNames()
 
 } // namespace
 
-void TestStickNames::init()
+void TestTransferNames::init()
 {
     ManagerTest::init();
     Shell::reset();
@@ -91,14 +91,14 @@ void TestStickNames::init()
     QVERIFY(QDir::setCurrent("/tmp/cwd"));
 }
 
-void TestStickNames::cleanup()
+void TestTransferNames::cleanup()
 {
     Shell::reset();
     QVERIFY(QDir::setCurrent("/tmp"));
     ManagerTest::cleanup();
 }
 
-void TestStickNames::safeNames_data()
+void TestTransferNames::safeNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("safe");
@@ -120,23 +120,23 @@ void TestStickNames::safeNames_data()
         QTest::newRow(qPrintable("hostile " + name)) << name << false;
 }
 
-void TestStickNames::safeNames()
+void TestTransferNames::safeNames()
 {
     QFETCH(QString, name);
-    QTEST(StickNames::isSafe(name), "safe");
+    QTEST(TransferNames::isSafe(name), "safe");
 }
 
-void TestStickNames::safeCharactersAreTheseAndNoOthers()
+void TestTransferNames::safeCharactersAreTheseAndNoOthers()
 {
     QString safe;
     for (int code = 0; code < 0x10000; ++code) {
-        if (StickNames::isSafe(QString("a") + QChar(code)))
+        if (TransferNames::isSafe(QString("a") + QChar(code)))
             safe += QChar(code);
     }
     QCOMPARE(safe, QString("+-.0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz"));
 }
 
-void TestStickNames::proposals_data()
+void TestTransferNames::proposals_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("taken");
@@ -165,14 +165,14 @@ void TestStickNames::proposals_data()
     QTest::newRow("empty") << "" << noNames() << "program";
 }
 
-void TestStickNames::proposals()
+void TestTransferNames::proposals()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, taken);
-    QTEST(StickNames::proposal(name, taken), "proposal");
+    QTEST(TransferNames::proposal(name, taken), "proposal");
 }
 
-void TestStickNames::proposalOfAnyNameIsSafeAndFree()
+void TestTransferNames::proposalOfAnyNameIsSafeAndFree()
 {
     std::mt19937 random(20260101);
     const QString alphabet =
@@ -182,79 +182,79 @@ void TestStickNames::proposalOfAnyNameIsSafeAndFree()
         QString name;
         for (int length = int(random() % 12); length > 0; --length)
             name += alphabet.at(int(random() % uint(alphabet.size())));
-        const QString proposal = StickNames::proposal(name, taken);
-        QVERIFY2(StickNames::isSafe(proposal), qPrintable(name + " -> " + proposal));
+        const QString proposal = TransferNames::proposal(name, taken);
+        QVERIFY2(TransferNames::isSafe(proposal), qPrintable(name + " -> " + proposal));
         QVERIFY2(!taken.contains(proposal, Qt::CaseInsensitive), qPrintable(proposal));
         if (taken.size() < 100)
             taken << proposal;
     }
 }
 
-void TestStickNames::proposalOfALongNameIsNoLonger()
+void TestTransferNames::proposalOfALongNameIsNoLonger()
 {
     const QString name = QString(250, 'x') + " y.cnc";
-    const QString proposal = StickNames::proposal(name, noNames());
+    const QString proposal = TransferNames::proposal(name, noNames());
     QVERIFY(proposal.size() <= 255);
     QVERIFY(proposal.startsWith("xxx") && proposal.endsWith(".cnc"));
-    QVERIFY(StickNames::proposal("a." + QString(250, 'y') + '*', noNames()).size() <= 255);
+    QVERIFY(TransferNames::proposal("a." + QString(250, 'y') + '*', noNames()).size() <= 255);
 }
 
-void TestStickNames::unsafeInListsWhatTheManagerWould()
+void TestTransferNames::unsafeInListsWhatTheManagerWould()
 {
-    QCOMPARE(StickNames::unsafeIn(stickDir()), noNames());
+    QCOMPARE(TransferNames::unsafeIn(stickDir()), noNames());
     writeFile(stickDir() + "/part.cnc", "x");
     writeFile(stickDir() + "/b c", "x");
     writeFile(stickDir() + "/a b", "x");
     writeFile(stickDir() + "/.hidden one", "x");
     writeFile(stickDir() + "/a folder/x y", "x");
     QVERIFY(QFile::link(stickDir() + "/part.cnc", stickDir() + "/a link"));
-    QCOMPARE(StickNames::unsafeIn(stickDir()), QStringList() << "a b"
-                                                             << "b c");
-    QCOMPARE(StickNames::unsafeIn(stickDir() + "/nowhere"), noNames());
+    QCOMPARE(TransferNames::unsafeIn(stickDir()), QStringList() << "a b"
+                                                                << "b c");
+    QCOMPARE(TransferNames::unsafeIn(stickDir() + "/nowhere"), noNames());
 }
 
 // A stick written in another encoding: what is no text can't be selected either.
-void TestStickNames::nameThatIsNoTextIsSeenByNeither()
+void TestTransferNames::nameThatIsNoTextIsSeenByNeither()
 {
     std::FILE *file = std::fopen("/mnt/Storage/\xff.cnc", "w");
     QVERIFY(file);
     std::fclose(file);
-    QCOMPARE(StickNames::unsafeIn(stickDir()), noNames());
+    QCOMPARE(TransferNames::unsafeIn(stickDir()), noNames());
     Manager manager;
     QCOMPARE(Manager::shown(manager.usbView), noNames());
     QCOMPARE(std::remove("/mnt/Storage/\xff.cnc"), 0);
 }
 
-void TestStickNames::renameNeverReplacesAFile()
+void TestTransferNames::renameNeverReplacesAFile()
 {
     writeFile(stickDir() + "/a b", "new");
     writeFile(stickDir() + "/a_b", "old");
-    QVERIFY(!StickNames::rename(stickDir(), "a b", "a_b"));
+    QVERIFY(!TransferNames::rename(stickDir(), "a b", "a_b"));
     QCOMPARE(readFile(stickDir() + "/a_b"), QByteArray("old"));
-    QVERIFY(StickNames::rename(stickDir(), "a b", "a_b_2"));
+    QVERIFY(TransferNames::rename(stickDir(), "a b", "a_b_2"));
     QCOMPARE(readFile(stickDir() + "/a_b_2"), QByteArray("new"));
     QVERIFY(!QFile::exists(stickDir() + "/a b"));
 }
 
-void TestStickNames::renameTakesSafeNamesOnly()
+void TestTransferNames::renameTakesSafeNamesOnly()
 {
     writeFile(stickDir() + "/a b", "x");
-    QVERIFY(!StickNames::rename(stickDir(), "a b", "c d"));
-    QVERIFY(!StickNames::rename(stickDir(), "a b", "../a"));
+    QVERIFY(!TransferNames::rename(stickDir(), "a b", "c d"));
+    QVERIFY(!TransferNames::rename(stickDir(), "a b", "../a"));
     QVERIFY(QFile::exists(stickDir() + "/a b"));
 }
 
-void TestStickNames::makeSafe(const QString &dir)
+void TestTransferNames::makeSafe(const QString &dir)
 {
-    Q_FOREACH (const QString &name, StickNames::unsafeIn(dir)) {
+    Q_FOREACH (const QString &name, TransferNames::unsafeIn(dir)) {
         const QStringList taken = QDir(dir).entryList(QDir::AllEntries | QDir::Hidden);
-        QVERIFY(StickNames::rename(dir, name, StickNames::proposal(name, taken)));
+        QVERIFY(TransferNames::rename(dir, name, TransferNames::proposal(name, taken)));
     }
-    QCOMPARE(StickNames::unsafeIn(dir), noNames());
+    QCOMPARE(TransferNames::unsafeIn(dir), noNames());
 }
 
 /// All that a command could reach but the two directories: path, and digest of the content.
-QStringList TestStickNames::everythingElse()
+QStringList TestTransferNames::everythingElse()
 {
     QStringList entries;
     Q_FOREACH (const QString &root, QStringList() << "/tmp"
@@ -276,7 +276,7 @@ QStringList TestStickNames::everythingElse()
     return entries;
 }
 
-void TestStickNames::nameReachesTheShellWithoutTheCheck()
+void TestTransferNames::nameReachesTheShellWithoutTheCheck()
 {
     Shell::standIn("reboot", "echo reboot >> /tmp/tools.log\n");
     writeFile(stickDir() + "/;reboot", "x");
@@ -287,7 +287,7 @@ void TestStickNames::nameReachesTheShellWithoutTheCheck()
     QVERIFY(Shell::toolCalls().contains("reboot"));
 }
 
-void TestStickNames::blankAndStarReachTheWorkingDirectoryWithoutTheCheck()
+void TestTransferNames::blankAndStarReachTheWorkingDirectoryWithoutTheCheck()
 {
     writeFile("/tmp/cwd/canary", "x");
     writeFile(stickDir() + "/old *", "x");
@@ -301,7 +301,7 @@ void TestStickNames::blankAndStarReachTheWorkingDirectoryWithoutTheCheck()
     QVERIFY(QFile::exists(stickDir() + "/old *"));
 }
 
-void TestStickNames::behindTheCheckNothingElseIsTouched_data()
+void TestTransferNames::behindTheCheckNothingElseIsTouched_data()
 {
     QTest::addColumn<QStringList>("names");
     Q_FOREACH (const QString &name, hostileNames().mid(0, 5))
@@ -312,7 +312,7 @@ void TestStickNames::behindTheCheckNothingElseIsTouched_data()
                                                            << "a_b");
 }
 
-void TestStickNames::behindTheCheckNothingElseIsTouched()
+void TestTransferNames::behindTheCheckNothingElseIsTouched()
 {
     QFETCH(QStringList, names);
     writeFile("/tmp/cwd/canary", "x");
@@ -363,5 +363,5 @@ void TestStickNames::behindTheCheckNothingElseIsTouched()
     QCOMPARE(readFile(programDir() + "/bystander"), QByteArray("panel"));
 }
 
-FILARIX_TEST_MAIN(TestStickNames)
-#include "tst_sticknames.moc"
+FILARIX_TEST_MAIN(TestTransferNames)
+#include "tst_transfernames.moc"

@@ -3,12 +3,12 @@
 
 #include "devicelog.h"
 #include "filarixtest.h"
-#include "guards/fieldkeypad.h"
+#include "guards/finddialogkeypad.h"
 #include "wfinddialog.h"
 
 #include <QLineEdit>
 
-class TestFieldKeypad : public FilarixTest
+class TestFindDialogKeypad : public FilarixTest
 {
     Q_OBJECT
 
@@ -19,15 +19,15 @@ private Q_SLOTS:
     void fieldsOfOtherDialogsAreLeftAlone();
 };
 
-void TestFieldKeypad::init()
+void TestFindDialogKeypad::init()
 {
     FilarixTest::init();
     DeviceLog::reset();
 }
 
-void TestFieldKeypad::touchedFieldOfTheFindDialogTakesTheKeypadsText()
+void TestFindDialogKeypad::touchedFieldOfTheFindDialogTakesTheKeypadsText()
 {
-    FieldKeypad keypad(nullptr);
+    FindDialogKeypad keypad(nullptr);
     WFindDialog dialog(nullptr);
     dialog.show();
     QLineEdit *field = dialog.findChild<QLineEdit *>();
@@ -43,9 +43,9 @@ void TestFieldKeypad::touchedFieldOfTheFindDialogTakesTheKeypadsText()
     QCOMPARE(field->text(), QString("X10"));
 }
 
-void TestFieldKeypad::withoutATouchScreenNoKeypadOpens()
+void TestFindDialogKeypad::withoutATouchScreenNoKeypadOpens()
 {
-    FieldKeypad keypad(nullptr);
+    FindDialogKeypad keypad(nullptr);
     DeviceLog::setTouchScreen(false);
     WFindDialog dialog(nullptr);
     dialog.show();
@@ -53,14 +53,14 @@ void TestFieldKeypad::withoutATouchScreenNoKeypadOpens()
     QVERIFY(DeviceLog::keypadCalls().isEmpty());
 }
 
-void TestFieldKeypad::fieldsOfOtherDialogsAreLeftAlone()
+void TestFindDialogKeypad::fieldsOfOtherDialogsAreLeftAlone()
 {
-    FieldKeypad keypad(nullptr);
+    FindDialogKeypad keypad(nullptr);
     QLineEdit field;
     field.show();
     QTest::mouseClick(&field, Qt::LeftButton);
     QVERIFY(DeviceLog::calls().isEmpty());
 }
 
-FILARIX_TEST_MAIN(TestFieldKeypad)
-#include "tst_fieldkeypad.moc"
+FILARIX_TEST_MAIN(TestFindDialogKeypad)
+#include "tst_finddialogkeypad.moc"

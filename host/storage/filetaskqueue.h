@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#ifndef FILEJOBS_H
-#define FILEJOBS_H
+#ifndef FILETASKQUEUE_H
+#define FILETASKQUEUE_H
 
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
 #include <QQueue>
 
 #include <functional>
 
 /// Runs FileTasks one after the other beside the event loop.
-class FileJobs : public QObject
+class FileTaskQueue : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     /// \a hasEnded is false when the task stalled: then nobody may touch the task any more.
     typedef std::function<void(bool hasEnded)> Answer;
 
-    explicit FileJobs(QObject *parent = nullptr);
+    explicit FileTaskQueue(QObject *parent = nullptr);
 
     bool isRunning() const { return m_work.isRunning(); }
     /// \a answer comes from the event loop, once.
@@ -36,8 +36,8 @@ private:
     void begin();
     void end(bool hasEnded);
 
-    FileWork m_work;
+    FileTaskRunner m_work;
     QQueue<Job> m_jobs;
 };
 
-#endif // FILEJOBS_H
+#endif // FILETASKQUEUE_H

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "storage/filework.h"
+#include "storage/filetaskrunner.h"
 
-const int FileWork::stallMs;
+const int FileTaskRunner::stallMs;
 
 void FileTask::giveUp()
 {
@@ -21,20 +21,20 @@ void FileTask::endChange()
     m_state.fetch_and(~Changing);
 }
 
-FileWork::FileWork(QObject *parent) : QObject(parent)
+FileTaskRunner::FileTaskRunner(QObject *parent) : QObject(parent)
 {
     m_stall.setSingleShot(true);
     m_stall.setInterval(stallMs);
-    connect(&m_stall, &QTimer::timeout, this, &FileWork::giveUp);
+    connect(&m_stall, &QTimer::timeout, this, &FileTaskRunner::giveUp);
 }
 
-FileWork::~FileWork()
+FileTaskRunner::~FileTaskRunner()
 {
     if (isRunning())
         abandon();
 }
 
-void FileWork::start(const std::shared_ptr<FileTask> &task)
+void FileTaskRunner::start(const std::shared_ptr<FileTask> &task)
 {
     if (isRunning())
         return;
@@ -45,12 +45,12 @@ void FileWork::start(const std::shared_ptr<FileTask> &task)
     post();
 }
 
-void FileWork::stop()
+void FileTaskRunner::stop()
 {
     m_stopping = isRunning();
 }
 
-void FileWork::post()
+void FileTaskRunner::post()
 {
     m_stall.start();
     const std::shared_ptr<FileTask> task = m_task;
@@ -64,7 +64,7 @@ void FileWork::post()
         [this, step] { answer(*step); });
 }
 
-void FileWork::answer(Step step)
+void FileTaskRunner::answer(Step step)
 {
     m_stall.stop();
     if (step == Last) {
@@ -82,14 +82,14 @@ void FileWork::answer(Step step)
 }
 
 // In the thread: to close a file can take as long as to write it.
-void FileWork::close()
+void FileTaskRunner::close()
 {
     const std::shared_ptr<FileTask> task = m_task;
     m_task.reset();
     m_thread->post([task] { task->close(); }, [] {});
 }
 
-void FileWork::giveUp()
+void FileTaskRunner::giveUp()
 {
     abandon();
     m_thread->giveUp();
@@ -98,7 +98,7 @@ void FileWork::giveUp()
 }
 
 // The task lets go of its files in the thread, when the step in hand has come back.
-void FileWork::abandon()
+void FileTaskRunner::abandon()
 {
     const std::shared_ptr<FileTask> task = m_task;
     m_task.reset();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "stick/sticknames.h"
+#include "stick/transfernames.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,7 +54,7 @@ QString cleaned(const QString &text)
 
 } // namespace
 
-bool StickNames::isSafe(const QString &name)
+bool TransferNames::isSafe(const QString &name)
 {
     if (name.isEmpty() || !canStartAName(name.at(0)))
         return false;
@@ -65,7 +65,7 @@ bool StickNames::isSafe(const QString &name)
     return true;
 }
 
-QString StickNames::proposal(const QString &name, const QStringList &taken)
+QString TransferNames::proposal(const QString &name, const QStringList &taken)
 {
     if (isSafe(name) && !taken.contains(name, Qt::CaseInsensitive))
         return name;
@@ -82,7 +82,7 @@ QString StickNames::proposal(const QString &name, const QStringList &taken)
     return result;
 }
 
-QStringList StickNames::unsafeIn(const QString &dir)
+QStringList TransferNames::unsafeIn(const QString &dir)
 {
     QStringList result;
     Q_FOREACH (const QString &name,
@@ -93,7 +93,7 @@ QStringList StickNames::unsafeIn(const QString &dir)
     return result;
 }
 
-bool StickNames::rename(const QString &dir, const QString &name, const QString &safe)
+bool TransferNames::rename(const QString &dir, const QString &name, const QString &safe)
 {
     return isSafe(safe)
            && QFile::rename(dir + QLatin1Char('/') + name, dir + QLatin1Char('/') + safe);
