@@ -10,9 +10,9 @@
 #include "look/glyphs.h"
 #include "look/look.h"
 #include "look/panelstyle.h"
+#include "programs/programdirectory.h"
 #include "programs/programhistory.h"
 #include "programs/unsavedwork.h"
-#include "samples.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
 #include "screens/programscreen.h"
@@ -84,7 +84,7 @@ PanelProgram::~PanelProgram() = default;
 StartUp::Folders PanelProgram::foldersOf(const Options &options)
 {
     StartUp::Folders folders;
-    folders.programs = Samples::programDir();
+    folders.programs = ProgramDirectory::path();
     folders.areProgramsAskedFor = !options.programDir.isEmpty();
     folders.own = QDir::home().filePath(QLatin1String("hmi"));
     if (options.plcDir.isEmpty())

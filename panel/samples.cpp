@@ -24,11 +24,6 @@ QStringList Samples::names()
             QLatin1String("endurance-run.cnc")};
 }
 
-QString Samples::programDir()
-{
-    return QDir::home().filePath(QLatin1String("cnc"));
-}
-
 QStringList Samples::install(const QString &programDir)
 {
     const QDir folder(programDir);

@@ -11,8 +11,6 @@ namespace Samples {
 
 /// Names of the samples, shortest program first.
 QStringList names();
-/// Where the library looks for programs: "cnc" in the user's home.
-QString programDir();
 /// Copies the samples into \a programDir if no program (*.cnc) lies there; it is made if it is
 /// missing. A file that is in the way stays as it is. Returns the names of those that were copied.
 QStringList install(const QString &programDir);

@@ -6,7 +6,7 @@
 #include "display/panelglass.h"
 #include "look/panelkey.h"
 #include "programs/plctransfer.h"
-#include "samples.h"
+#include "programs/programdirectory.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
 #include "screens/programscreen.h"
@@ -179,7 +179,7 @@ void Tour::visitProgramScreen(ProgramScreen *screen)
 
     then([this, screen] {
         connect(screen->transfer(), &PlcTransfer::progress, this, &Tour::saveDownload);
-        Q_EMIT screen->programWindow()->signal_download(Samples::programDir()
+        Q_EMIT screen->programWindow()->signal_download(ProgramDirectory::path()
                                                         + QLatin1String("/endurance-run.cnc"));
     });
     waitUntil([] { return topLevel("DownloadQuestion") != nullptr; });

@@ -3,7 +3,7 @@
 
 #include "programs/programopener.h"
 
-#include "samples.h"
+#include "programs/programdirectory.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -89,7 +89,7 @@ ProgramOpener::ProgramOpener(WMMainWindow *window, const std::function<bool()> &
 bool ProgramOpener::open(const QString &path)
 {
     const QFileInfo file(path);
-    if (file.path() != Samples::programDir() || file.fileName().isEmpty())
+    if (file.path() != ProgramDirectory::path() || file.fileName().isEmpty())
         return false;
     const bool isOpen = m_window->getCurrentFile() == path;
     if (isOpen && !m_editor->document()->isModified())

@@ -8,8 +8,8 @@
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "look/taparea.h"
+#include "programs/programdirectory.h"
 #include "programs/programhistory.h"
-#include "samples.h"
 #include "screens/historydialog.h"
 #include "screens/pathpicker.h"
 #include "stick/importguard.h"
@@ -56,7 +56,7 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     : PanelScreen(parent)
     , m_stick(stick)
     , m_history(history)
-    , m_guard(new ImportGuard(Samples::programDir(), Stick::mountPoint(), history, this))
+    , m_guard(new ImportGuard(ProgramDirectory::path(), Stick::mountPoint(), history, this))
     , m_stickWatch(new FolderWatch(looks.stick, this))
     , m_programWatch(new FolderWatch(looks.programs, this))
     , m_grid(new QGridLayout)
@@ -106,7 +106,7 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
 
 FilesScreen::Looks FilesScreen::usualLooks()
 {
-    const QString programDir = Samples::programDir();
+    const QString programDir = ProgramDirectory::path();
     Looks looks;
     looks.programs = [programDir] { return FolderWatch::lookAt(programDir); };
     looks.stick = [] {
@@ -254,7 +254,7 @@ void FilesScreen::rename()
 void FilesScreen::pick()
 {
     const QString start =
-        m_stickWatch->state().isThere ? Stick::mountPoint() : Samples::programDir();
+        m_stickWatch->state().isThere ? Stick::mountPoint() : ProgramDirectory::path();
     const QString path = PathPicker::pick(tr("Pick a path"), start);
     if (!path.isEmpty())
         m_pickedPath = path;

@@ -8,8 +8,8 @@
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "programs/plctransfer.h"
+#include "programs/programdirectory.h"
 #include "programs/programhistory.h"
-#include "samples.h"
 #include "screens/downloadquestion.h"
 #include "screens/machinedata.h"
 #include "shell/devicecauses.h"
@@ -89,7 +89,7 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     , m_transfer(new PlcTransfer(plcDir, this))
     , m_snapshot(new ProgramSnapshot(ownDir + QLatin1String("/outgoing"), this))
     , m_questioner(new DialogQuestioner)
-    , m_guard(new ProgramGuard(m_window, Samples::programDir(), m_questioner.data(), this))
+    , m_guard(new ProgramGuard(m_window, ProgramDirectory::path(), m_questioner.data(), this))
     , m_stateLine(new StateLine)
 {
     QVBoxLayout *layout = new QVBoxLayout(this);

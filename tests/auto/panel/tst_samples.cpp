@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "programs/programdirectory.h"
 #include "samples.h"
 #include "waqp.h"
 
@@ -26,7 +27,7 @@ private Q_SLOTS:
 
 void TestSamples::programsLieWhereTheLibraryLooks()
 {
-    QCOMPARE(Samples::programDir(), WAQP::getCncDir());
+    QCOMPARE(ProgramDirectory::path(), WAQP::getCncDir());
 }
 
 void TestSamples::missingDirectoryIsMade()
