@@ -8,8 +8,8 @@
 #include "modaldriver.h"
 #include "modifiedmark.h"
 #include "plcerror.h"
+#include "rowfile.h"
 #include "safedownload.h"
-#include "storage/rowfile.h"
 #include "wfiledialog.h"
 #include "windowthatgoes.h"
 
