@@ -14,7 +14,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 
 languages=(de it tr zh_CN)
 declare -A sources=(
-    [filarix]="base window editor controls list tables transfer"
+    [filarix]="base gcode window editor controls list tables transfer"
     [filarix-panel]="host panel"
     [hmidevice-sim]="device/simulator"
 )

@@ -19,7 +19,7 @@ FILARIX_SANDBOX_WRITABLE=$build ctest --preset coverage --parallel "$(nproc)" --
 
 # gcov leaves its files where it is started.
 filters=()
-for folder in base window editor controls list tables transfer; do
+for folder in base gcode window editor controls list tables transfer; do
     filters+=(--filter "$PWD/$folder/")
 done
 (cd "$build" && gcovr --root ../.. "${filters[@]}" --exclude-unreachable-branches \
