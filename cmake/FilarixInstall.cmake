@@ -29,11 +29,12 @@ set(FILARIX_QMAKE_FEATURES_DIR "${filarix_qmake_features}" CACHE STRING
 set(FILARIX_INSTALL_HEADERDIR "${CMAKE_INSTALL_INCLUDEDIR}/filarix")
 set(FILARIX_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/FilarixModule")
 
-# The published interface: the exported classes, what their headers include, and
-# the builder of rows.
+# The published interface: the exported classes, what their headers include, the builder of rows, and
+# the facts about a panel.
 set(FILARIX_PUBLIC_HEADERS
   base/compat.h
   base/filarixglobal.h
+  base/filarixpanel.h
   controls/checkbox.h
   controls/combobox.h
   controls/doublespinbox.h

@@ -4,6 +4,7 @@
 #include "filedialog.h"
 
 #include "combolineedit.h"
+#include "filarixpanel.h"
 #include "label.h"
 #include "rowlist_p.h"
 #include "rowstyle_p.h"
@@ -19,8 +20,6 @@
 QString FileDialog::m_returnStr;
 
 namespace {
-
-const char stick[] = "/mnt/Storage";
 
 const char selectedLine[] =
     "border-style:solid;border-width: 0px;background-color: #001f56;color: #ffffff;";
@@ -67,8 +66,9 @@ FileDialog::FileDialog(QDir::Filters filter, QString title, QString path, QWidge
     m_height = screen.height();
     const int linesPerScreen = m_height > largeScreen ? 24 : 12;
     const int partHeight = m_height / linesPerScreen;
-    const QString start =
-        path.startsWith(QLatin1Char('/')) ? path : QLatin1String(stick) + QLatin1Char('/') + path;
+    const QString start = path.startsWith(QLatin1Char('/'))
+                              ? path
+                              : QLatin1String(FilarixPanel::stickDir) + QLatin1Char('/') + path;
 
     QLabel *titleLabel = new QLabel(title, this);
     titleLabel->setFixedHeight(partHeight);
@@ -141,7 +141,7 @@ void FileDialog::getDirList()
 
 void FileDialog::on_cdUp_click()
 {
-    if (m_returnStr != QLatin1String(stick) && m_returnStr != QLatin1String("/"))
+    if (m_returnStr != QLatin1String(FilarixPanel::stickDir) && m_returnStr != QLatin1String("/"))
         setPath(parentOf(m_returnStr));
     getDirList();
 }

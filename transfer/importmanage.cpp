@@ -4,6 +4,7 @@
 #include "importmanage.h"
 
 #include "compat.h"
+#include "filarixpanel.h"
 #include "hmidirmodel.h"
 #include "messagebox.h"
 #include "waqp.h"
@@ -21,12 +22,6 @@
 #include <cstdlib>
 
 namespace {
-
-const char stickDir[] = "/mnt/Storage";
-const char stickMarker[] = "/tmp/udiskattach";
-
-/// Bytes that the program directory may hold: a figure of our own, not the file system's.
-const quint32 spaceLimit = 31457280;
 
 HmiDirModel *newFileModel(QObject *parent)
 {
@@ -103,7 +98,7 @@ ImportManage::ImportManage(QWidget *parent)
     m_usbView->setModel(m_usbModel);
     m_hmiView->setModel(m_hmiModel);
     m_hmiDir = WAQP::getCncDir();
-    m_usbDir = QLatin1String(stickDir);
+    m_usbDir = QLatin1String(FilarixPanel::stickDir);
 
     // The toolkit refuses a slot without parentheses, and nothing starts the timer: the stick is
     // looked for only by init(), so the panels never change under the operator's finger.
@@ -138,8 +133,8 @@ void ImportManage::init()
     if (!hmiRoot.isValid())
         m_hmiView->setRowHidden(0, true);
 
-    QString status =
-        tr("Used Space ") + inMebibytes(used) + tr("Left Space ") + inMebibytes(spaceLimit - used);
+    QString status = tr("Used Space ") + inMebibytes(used) + tr("Left Space ")
+                     + inMebibytes(FilarixPanel::programSpace - used);
     if (!m_usbPresent)
         status += tr(" Usb not found!");
     m_statusLabel->setText(status);
@@ -147,7 +142,7 @@ void ImportManage::init()
 
 bool ImportManage::isUsbMounted()
 {
-    m_usbPresent = QFile::exists(QLatin1String(stickMarker));
+    m_usbPresent = QFile::exists(QLatin1String(FilarixPanel::stickMarker));
     return m_usbPresent;
 }
 
@@ -174,7 +169,7 @@ int ImportManage::isSatisfyTheCondition(const QString &name, bool cover)
         used -= quint32(target.size());
     }
     used += quint32(source.size());
-    return used > spaceLimit ? CondNoSpace : CondOk;
+    return used > FilarixPanel::programSpace ? CondNoSpace : CondOk;
 }
 
 int ImportManage::copyFile(const QString &srcDir, const QString &srcName, const QString &dstDir,
@@ -221,7 +216,7 @@ void ImportManage::slot_quit()
 
 void ImportManage::slot_checkUSB()
 {
-    m_usbPresent = QFile::exists(QLatin1String(stickDir) + QLatin1Char('/'));
+    m_usbPresent = QFile::exists(QLatin1String(FilarixPanel::stickDir) + QLatin1Char('/'));
 }
 
 QPushButton *ImportManage::addTransferButton(QBoxLayout *column, const QString &text)
