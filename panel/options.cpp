@@ -3,6 +3,7 @@
 
 #include "options.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 
 #include "shell/languages.h"
@@ -108,9 +109,10 @@ Options Options::parse(const QStringList &arguments)
         QLatin1String("DIR"));
     const QCommandLineOption stick(
         QLatin1String("stick"),
-        QLatin1String("Folder that stands in for a USB stick, to be plugged and pulled on the "
-                      "Files screen. Where /mnt/Storage belongs to the system, ./run --stick DIR "
-                      "starts the panel with one of its own."),
+        QString::fromLatin1("Folder that stands in for a USB stick, to be plugged and pulled on "
+                            "the Files screen. Where %1 belongs to the system, ./run --stick DIR "
+                            "starts the panel with one of its own.")
+            .arg(QLatin1String(FilarixPanel::stickDir)),
         QLatin1String("DIR"));
     const QStringList codes = Languages::codes();
     const QCommandLineOption language(

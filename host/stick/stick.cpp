@@ -3,6 +3,7 @@
 
 #include "stick/stick.h"
 
+#include "filarixpanel.h"
 #include "storage/filethread.h"
 
 #include <QCoreApplication>
@@ -97,12 +98,12 @@ QString Stick::folder() const
 
 QString Stick::mountPoint()
 {
-    return QLatin1String("/mnt/Storage");
+    return QLatin1String(FilarixPanel::stickDir);
 }
 
 QString Stick::marker()
 {
-    return QLatin1String("/tmp/udiskattach");
+    return QLatin1String(FilarixPanel::stickMarker);
 }
 
 bool Stick::isPresent()

@@ -6,6 +6,7 @@
 #include "conneditor.h"
 #include "dataeditor.h"
 #include "display/panelsurface.h"
+#include "filarixpanel.h"
 #include "listwidget.h"
 #include "look/look.h"
 #include "look/panelkey.h"
@@ -25,7 +26,6 @@
 namespace {
 
 const int kWidePanel = 800;
-const int kNarrowPanel = 400;
 const int kNarrowPixels = 12;
 const int kAroundRows = 64;
 
@@ -99,7 +99,7 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     m_table->setColumnWidth(1, Look::kTouch);
     m_table->setColumnWidth(2, 2 * Look::kTouch);
     // A narrow panel has room for the names and the addresses, in smaller letters.
-    if (QGuiApplication::primaryScreen()->availableSize().width() < kNarrowPanel) {
+    if (QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow) {
         m_table->hideColumn(1);
         m_table->hideColumn(2);
         QFont font = m_table->font();

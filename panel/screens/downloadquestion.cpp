@@ -3,6 +3,7 @@
 
 #include "screens/downloadquestion.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 #include "programs/programsnapshot.h"
 
@@ -19,7 +20,6 @@ const int kSmallestPixels = 14;
 const int kTitlePixels = 17;
 const int kMargin = 14;
 const int kGap = 14;
-const int kNarrowPanel = 400;
 const QSize kRoomy(520, 280);
 
 QFont sized(QFont font, int pixels)
@@ -75,7 +75,7 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
     const QSize size = kRoomy.boundedTo(panel - QSize(8, 8));
     // A narrow panel has the values below their headings.
-    const bool isNarrow = panel.width() < kNarrowPanel;
+    const bool isNarrow = panel.width() < FilarixPanel::smallBelow;
     int room = size.width() - 2 * kMargin - kGap;
     for (const auto &line : lines) {
         if (!isNarrow)

@@ -3,6 +3,7 @@
 
 #include "screens/filesscreen.h"
 
+#include "filarixpanel.h"
 #include "look/elidedlabel.h"
 #include "look/livetext.h"
 #include "look/look.h"
@@ -22,9 +23,6 @@
 
 namespace {
 
-// What the import manager lets in altogether.
-const qint64 kProgramSpace = 31457280;
-const int kWideFrom = 400;
 const int kNarrowPixels = 12;
 // Farther away, a key is no longer seen to belong to its line.
 const int kReach = 800;
@@ -38,7 +36,7 @@ int panelWidth()
 
 bool isNarrow()
 {
-    return panelWidth() < kWideFrom;
+    return panelWidth() < FilarixPanel::smallBelow;
 }
 
 PanelKey *darkKey(Glyphs::Glyph glyph, const std::function<QString()> &text)
@@ -325,5 +323,5 @@ void FilesScreen::showPrograms()
         m_storageState->setText(tr("Files: %1, ").arg(state.files)
                                 + tr("%1 KB of %2 MB")
                                       .arg((state.bytes + 1023) / 1024)
-                                      .arg(kProgramSpace / (1024 * 1024)));
+                                      .arg(FilarixPanel::programSpace / (1024 * 1024)));
 }

@@ -3,6 +3,7 @@
 
 #include "screens/historydialog.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 #include "programs/programhistory.h"
 #include "programs/programsnapshot.h"
@@ -24,7 +25,6 @@ namespace {
 const QSize kRoomy(720, 560);
 const int kColumns = 4;
 const int kWideFrom = 600;
-const int kNarrowBelow = 400;
 
 QHBoxLayout *addKeyRow(QVBoxLayout *column)
 {
@@ -83,7 +83,7 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
     m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
     m_onlyKey = addKey(keys, tr("Only this"), "only");
-    if (panel.width() < kNarrowBelow)
+    if (panel.width() < FilarixPanel::smallBelow)
         keys = addKeyRow(column);
     m_restoreKey = addKey(keys, tr("Bring back"), "restore");
     QPushButton *closeKey = addKey(keys, tr("Close"), "close");
@@ -116,7 +116,7 @@ void HistoryDialog::resizeEvent(QResizeEvent *event)
 {
     // The name comes first.
     m_table->setColumnHidden(2, width() < kWideFrom);
-    m_table->setColumnHidden(3, width() < kNarrowBelow);
+    m_table->setColumnHidden(3, width() < FilarixPanel::smallBelow);
     Dialog::resizeEvent(event);
 }
 

@@ -4,6 +4,7 @@
 #include "screens/listscreen.h"
 
 #include "display/panelsurface.h"
+#include "filarixpanel.h"
 #include "look/livetext.h"
 #include "look/look.h"
 #include "look/panelkey.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-const int kKeysBesideFrom = 760;
 // A list with a title is no wider: its title keeps the width that the library gives it.
 const int kTitledWidth = 480;
 const int kKeyPanelWidth = 3 * Look::kTouch;
@@ -36,7 +36,7 @@ TListWidget *makeList(QStringList title)
 
 ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, QWidget *parent)
     : PanelScreen(parent)
-    , m_keysBeside(surface.width() >= kKeysBesideFrom)
+    , m_keysBeside(surface.width() >= FilarixPanel::wideFrom)
     , m_keyColumns(keyColumns)
     , m_firstRow(title.isEmpty() ? 0 : 1)
     , m_list(makeList(title))

@@ -4,6 +4,7 @@
 #include "screens/teachscreen.h"
 
 #include "dataeditor.h"
+#include "filarixpanel.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "mjline.h"
@@ -26,15 +27,14 @@ const int kKeyColumns = 2;
 const int kRoomy = 1000;
 const int kRoomyKeyColumns = 4;
 const int kKeysInALine = 9;
-// A panel narrower than a line of them.
-const int kNarrow = 400;
+// On a panel narrower than a line of them.
 const int kKeysInAShortLine = 5;
 
 int keyColumns(int width)
 {
-    if (width < kNarrow)
+    if (width < FilarixPanel::smallBelow)
         return kKeysInAShortLine;
-    if (width < 760)
+    if (width < FilarixPanel::wideFrom)
         return kKeysInALine;
     return width < kRoomy ? kKeyColumns : kRoomyKeyColumns;
 }

@@ -3,6 +3,7 @@
 
 #include "screens/unsavedquestion.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 
 #include <QGuiApplication>
@@ -20,7 +21,6 @@ namespace {
 const int headingPixels = 17;
 const int margin = 12;
 const int gap = 8;
-const int narrowBelow = 400;
 const QSize roomy(560, 280);
 
 QLabel *makeLabel(const QString &text, int pixels)
@@ -84,8 +84,9 @@ UnsavedQuestion::UnsavedQuestion(const QStringList &works, QWidget *parent) : Di
     QPushButton *bringBack = makeKey(tr("Bring back"), "bringBack");
     // A press on Return that was meant for something else changes nothing.
     later->setDefault(true);
-    QBoxLayout *keys = new QBoxLayout(panel.width() < narrowBelow ? QBoxLayout::BottomToTop
-                                                                  : QBoxLayout::LeftToRight);
+    QBoxLayout *keys =
+        new QBoxLayout(panel.width() < FilarixPanel::smallBelow ? QBoxLayout::BottomToTop
+                                                                : QBoxLayout::LeftToRight);
     keys->setSpacing(gap);
     for (QPushButton *key : {throwAway, later, bringBack})
         keys->addWidget(key, 1);

@@ -3,6 +3,7 @@
 
 #include "screens/variablesscreen.h"
 
+#include "filarixpanel.h"
 #include "look/panelkey.h"
 #include "storage/rowfile.h"
 #include "tlistwidget.h"
@@ -58,7 +59,7 @@ const QLatin1String storage("storage");
 } // namespace
 
 VariablesScreen::VariablesScreen(const QSize &surface, const QString &folder, QWidget *parent)
-    : ListScreen(surface, QStringList(), surface.width() < 760 ? 4 : 1, parent)
+    : ListScreen(surface, QStringList(), surface.width() < FilarixPanel::wideFrom ? 4 : 1, parent)
     , m_file(QDir(folder).filePath(QLatin1String("variables.txt")))
     , m_keeper(QLatin1String("Machine variables"), &RowFile::read)
 {

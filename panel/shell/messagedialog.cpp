@@ -3,6 +3,7 @@
 
 #include "shell/messagedialog.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 #include "look/tonemark.h"
 #include "shell/messagelog.h"
@@ -26,8 +27,6 @@ const int textPixels = 14;
 const int timePixels = 12;
 // Letters of a word that fit on the narrowest panel, be they the widest.
 const int longestWord = 16;
-// Narrower ones have the time above the text.
-const int narrowBelow = 400;
 
 QLabel *makeLabel(const QString &text, int pixels)
 {
@@ -135,7 +134,8 @@ QWidget *MessageDialog::makeLine(const Message &message, bool stands) const
     grid->setContentsMargins(4, 3, 4, 3);
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(1);
-    const bool isNarrow = panelSize().width() < narrowBelow;
+    // A narrow one has the time above the text.
+    const bool isNarrow = panelSize().width() < FilarixPanel::smallBelow;
     grid->addWidget(mark, 0, 0, Qt::AlignTop);
     grid->addWidget(time, 0, 1, Qt::AlignTop);
     if (isNarrow)

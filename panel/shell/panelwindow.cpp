@@ -3,6 +3,7 @@
 
 #include "shell/panelwindow.h"
 
+#include "filarixpanel.h"
 #include "look/elidedlabel.h"
 #include "look/look.h"
 #include "look/panelkey.h"
@@ -24,12 +25,8 @@
 
 namespace {
 
-const int kWideFrom = 760;
-const int kTallFrom = 400;
 // Five of them and the key of the languages are as wide as the narrowest panel.
 const int kTabWidth = 74;
-// Narrower ones have no room for the tabs side by side.
-const int kTabsFrom = 400;
 const int kMenuTabWidth = 76;
 const int kStatusMs = 2000;
 const int messageLine = 20;
@@ -76,11 +73,11 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
 
 PanelWindow::Shape PanelWindow::shapeOf(const QSize &surface)
 {
-    if (surface.height() < kTallFrom)
+    if (surface.height() < FilarixPanel::smallBelow)
         return Small;
-    if (surface.width() < kTabsFrom)
+    if (surface.width() < FilarixPanel::smallBelow) // no room for the tabs side by side
         return Slim;
-    return surface.width() < kWideFrom ? Upright : Wide;
+    return surface.width() < FilarixPanel::wideFrom ? Upright : Wide;
 }
 
 QWidget *PanelWindow::makeTopStrip()
