@@ -7,7 +7,6 @@
 #include "whighlighter.h"
 
 #include <QTextCursor>
-#include <QTextDocument>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -76,7 +75,7 @@ Compat::FormatRanges aroundPreedit(const Compat::FormatRanges &ranges, const QTe
     Q_FOREACH (QTextLayout::FormatRange range, ranges) {
         if (range.start >= preeditStart)
             range.start += preeditLength;
-        else if (range.start + range.length > preeditStart)
+        else if (range.start + range.length >= preeditStart)
             range.length += preeditLength;
         result.append(range);
     }
@@ -99,15 +98,31 @@ BlockFormatter::BlockFormatter(WHighlighter *highlighter)
     : QObject(highlighter)
     , m_highlighter(highlighter)
     , m_document(highlighter->document())
+    , m_changeSignal(m_document->metaObject()->indexOfSignal("contentsChange(int,int,int)"))
+    , m_toolkitSlot(highlighter->metaObject()->indexOfSlot("_q_reformatBlocks(int,int,int)"))
     , m_hasSeenAChange(false)
     , m_expectedPosition(0)
 {
     Q_FOREACH (const WHighlighter::WHighlightingRule &rule, highlighter->rules())
         m_formats.append(rule.format);
-    // Should a toolkit react in another way, it goes on colouring by itself.
-    if (disconnect(m_document, SIGNAL(contentsChange(int, int, int)), highlighter, nullptr))
-        connect(m_document, SIGNAL(contentsChange(int, int, int)),
-                SLOT(formatChange(int, int, int)));
+    // Ours comes before the toolkit's. Should a toolkit react in another way, it goes on colouring
+    // by itself.
+    if (!disconnectToolkit())
+        return;
+    connect(m_document, SIGNAL(contentsChange(int, int, int)), SLOT(formatChange(int, int, int)));
+    connectToolkit();
+}
+
+void BlockFormatter::connectToolkit()
+{
+    QMetaObject::connect(m_document, m_changeSignal, m_highlighter, m_toolkitSlot);
+}
+
+/// False when the toolkit would not have reacted.
+bool BlockFormatter::disconnectToolkit()
+{
+    return m_toolkitSlot >= 0
+           && QMetaObject::disconnect(m_document, m_changeSignal, m_highlighter, m_toolkitSlot);
 }
 
 BlockFormatter *BlockFormatter::of(WHighlighter *highlighter)
@@ -119,7 +134,7 @@ BlockFormatter *BlockFormatter::of(WHighlighter *highlighter)
 /// toolkit reacts by itself.
 bool BlockFormatter::isHighlighted() const
 {
-    return m_highlighter->document() == m_document;
+    return m_document && m_highlighter->document() == m_document;
 }
 
 void BlockFormatter::formatAll()
@@ -130,7 +145,7 @@ void BlockFormatter::formatAll()
     }
     QTextCursor cursor(m_document);
     cursor.beginEditBlock();
-    formatBlocks(m_document->begin(), m_document->lastBlock());
+    formatBlocks(m_document->begin(), m_document->lastBlock(), OtherColours);
     cursor.endEditBlock();
 }
 
@@ -147,18 +162,20 @@ void BlockFormatter::stopExpecting()
 
 void BlockFormatter::formatChange(int from, int removed, int added)
 {
-    if (!isHighlighted())
+    // The toolkit's slot is next. It is off until we are done, and so has nothing to do.
+    if (!disconnectToolkit())
         return;
     // What was removed may have joined the last block with the one behind it.
     const QTextBlock last = m_document->findBlock(from + added + (removed > 0 ? 1 : 0));
-    formatBlocks(m_document->findBlock(from), last.isValid() ? last : m_document->lastBlock());
-    if (m_hasSeenAChange)
-        return;
+    formatBlocks(m_document->findBlock(from), last.isValid() ? last : m_document->lastBlock(),
+                 AnyColours);
+    if (!m_hasSeenAChange)
+        Compat::forgetFirstColouring(m_highlighter); // the first block is right, so it stays
     m_hasSeenAChange = true;
-    Compat::forgetFirstColouring(m_highlighter); // the first block is right, so it stays
+    connectToolkit();
 }
 
-void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &last)
+void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &last, Marking marking)
 {
     LinesInStep lines(m_expectedText, m_expectedPosition);
     stopExpecting(); // a change that a receiver of this one makes is another
@@ -170,7 +187,8 @@ void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &las
             findRanges(line, length);
         else
             findRanges(block.text().constData(), length);
-        if (setRanges(block)) {
+        const bool keepsAny = marking == AnyColours && !m_ranges.isEmpty();
+        if (setRanges(block) || keepsAny) {
             if (!firstChanged.isValid())
                 firstChanged = block;
             lastChanged = block;

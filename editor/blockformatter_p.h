@@ -7,12 +7,13 @@
 #include "compat.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTextBlock>
 #include <QTextCharFormat>
+#include <QTextDocument>
 #include <QVector>
 
-class QTextDocument;
 class WHighlighter;
 
 /// Gives the changed blocks of a document the formats that a WHighlighter gives them, but many
@@ -21,7 +22,8 @@ class WHighlighter;
 /// The toolkit reads each block's text back, and writes and compares a format for each of its
 /// characters: in a long program that costs as much as the text itself. This takes over the
 /// toolkit's reaction to a change of the document, and nothing else of it: rehighlight() and the
-/// rest stay the toolkit's. Not for a subclass with a highlightBlock() of its own.
+/// rest stay the toolkit's. So does the connection between the two: whoever removes it, in whatever
+/// way, ends the colouring. Not for a subclass with a highlightBlock() of its own.
 ///
 /// Owned by the highlighter.
 class BlockFormatter : public QObject
@@ -47,13 +49,24 @@ private Q_SLOTS:
     void formatChange(int from, int removed, int added);
 
 private:
+    /// Which blocks count as changed, and are laid out and painted anew.
+    enum Marking {
+        OtherColours, ///< those whose formats differ from what they were
+        AnyColours    ///< those too that have formats and keep them, as the toolkit has it
+    };
+
+    void connectToolkit();
+    bool disconnectToolkit();
     bool isHighlighted() const;
-    void formatBlocks(const QTextBlock &first, const QTextBlock &last);
+    void formatBlocks(const QTextBlock &first, const QTextBlock &last, Marking marking);
     void findRanges(const QChar *text, int size);
     bool setRanges(const QTextBlock &block);
 
     WHighlighter *m_highlighter;
-    QTextDocument *m_document;
+    QPointer<QTextDocument> m_document; // a host may give the highlighter another one
+    // Of the connection between the two; by name it would cost more than colouring a line.
+    const int m_changeSignal;
+    const int m_toolkitSlot;
     bool m_hasSeenAChange;
     QVector<QTextCharFormat> m_formats;
     Compat::FormatRanges m_ranges; // of the block at hand

@@ -421,8 +421,9 @@ void WGCodeEditer::updateLineNumberAreaWidth(int)
 {
     const QMargins margins(lineNumberAreaWidth(), 0, 0, 0);
 #ifdef FILARIX_HAS_VIEWPORT_MARGINS
-    // Equal ones would lay the whole scroll area out again, at every full update of the view.
-    if (viewportMargins() == margins)
+    // Equal ones lay the scroll area out as well, and a scroll bar that is due appears at once. It
+    // can wait until a program is in.
+    if (PieceAppender::isAtWorkOn(this) && viewportMargins() == margins)
         return;
 #endif
     setViewportMargins(margins);
