@@ -233,3 +233,12 @@ bool BlockFormatter::setRanges(const QTextBlock &block)
     Compat::setFormats(layout, exactCopy(m_ranges));
     return true;
 }
+
+HighlighterWatch::HighlighterWatch(WHighlighter *highlighter, QObject *editor)
+    : QObject(editor), m_highlighter(highlighter)
+{}
+
+WHighlighter *HighlighterWatch::highlighterOf(const QObject *editor)
+{
+    return editor->findChild<HighlighterWatch *>()->m_highlighter;
+}

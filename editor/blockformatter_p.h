@@ -74,4 +74,22 @@ private:
     int m_expectedPosition;
 };
 
+/// Tells an editor whether its highlighter still exists: the document owns that one, and a host may
+/// set a document of its own.
+///
+/// Owned by the editor.
+class HighlighterWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    HighlighterWatch(WHighlighter *highlighter, QObject *editor);
+
+    /// The highlighter that an editor was made with; null once it is deleted.
+    static WHighlighter *highlighterOf(const QObject *editor);
+
+private:
+    const QPointer<WHighlighter> m_highlighter;
+};
+
 #endif // BLOCKFORMATTER_P_H

@@ -201,6 +201,7 @@ WGCodeEditer::WGCodeEditer(QWidget *parent) : QPlainTextEdit(parent), findDialog
     setWordWrapMode(QTextOption::NoWrap);
     highlighter = new WHighlighter(document());
     new BlockFormatter(highlighter);
+    new HighlighterWatch(highlighter, this);
 
     connect(this, SIGNAL(blockCountChanged(int)), SLOT(updateLineNumberAreaWidth(int)));
     connect(this, SIGNAL(updateRequest(QRect, int)), SLOT(updateLineNumberArea(QRect, int)));
@@ -375,16 +376,16 @@ void WGCodeEditer::addErrorCode(int line, QString code)
         if (code.at(i) != QLatin1Char(' '))
             columns.append(i);
     }
-    if (columns.isEmpty() || !isThere(highlighter, document()))
-        return;
-    highlighter->errorLines.insert(line, columns);
+    WHighlighter *const holder = HighlighterWatch::highlighterOf(this);
+    if (holder && !columns.isEmpty())
+        holder->errorLines.insert(line, columns);
 }
 
 void WGCodeEditer::highlightErrorCode()
 {
-    BlockFormatter *const formatter = formatterOf(highlighter, document());
-    if (formatter && !highlighter->errorLines.isEmpty())
-        formatter->formatAll();
+    WHighlighter *const holder = HighlighterWatch::highlighterOf(this);
+    if (holder && !holder->errorLines.isEmpty())
+        BlockFormatter::of(holder)->formatAll();
 }
 
 int WGCodeEditer::lineNumberAreaWidth()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theMarkedLineShowsItsSyntaxColoursOnly();
     void marksStayWhateverHappensToTheText();
     void aHighlighterTakenOffColoursNothing();
+    void marksAreTakenWhileAnotherDocumentIsSet();
 };
 
 namespace {
@@ -182,6 +183,34 @@ void TestErrorMarks::aHighlighterTakenOffColoursNothing()
     QTRY_COMPARE(formats(editor, 1).size(), 1);
     editor.setPlainText(QLatin1String("G01 X1"));
     QCOMPARE(formats(editor, 0).size(), 2);
+}
+
+void TestErrorMarks::marksAreTakenWhileAnotherDocumentIsSet()
+{
+    QObject keeper;
+    WGCodeEditer editor(nullptr);
+    QCoreApplication::processEvents();
+    editor.setPlainText(QLatin1String("G01 X1"));
+    QTextDocument *const own = editor.document();
+    own->setParent(&keeper); // or the editor would delete it as soon as it has another one
+    WHighlighter *const highlighter = highlighterOf(editor);
+    editor.addErrorCode(0, QLatin1String("^"));
+    bleach(editor, 0);
+
+    QTextDocument other;
+    other.setDocumentLayout(new QPlainTextDocumentLayout(&other));
+    editor.setDocument(&other);
+    editor.setPlainText(QLatin1String("G02"));
+    editor.addErrorCode(3, QLatin1String(" ^"));
+    QCOMPARE(highlighter->errorLines.size(), 2);
+    QCOMPARE(highlighter->errorLines.value(3), QList<int>() << 1);
+
+    // The colours are still those of the highlighter's own document.
+    editor.highlightErrorCode();
+    QCOMPARE(formats(editor, 0).size(), 0);
+    editor.setDocument(own);
+    QCOMPARE(formats(editor, 0).size(), 2);
+    QCOMPARE(marks(editor).size(), 2);
 }
 
 FILARIX_TEST_MAIN(TestErrorMarks)
