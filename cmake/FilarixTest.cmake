@@ -23,6 +23,13 @@ function(filarix_set_timeout name seconds)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds})
 endfunction()
 
+# filarix_label(NAME): a test of the companion or of the panel program says so.
+function(filarix_label name)
+  if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/tests/auto/(host|panel)(/|$)")
+    set_property(TEST ${name} APPEND PROPERTY LABELS ${CMAKE_MATCH_1})
+  endif()
+endfunction()
+
 # filarix_add_test(NAME tst_x SOURCES tst_x.cpp [LIBRARIES ...] [TIMEOUT seconds] [NO_LIBRARY]
 #                  [NO_ACCESS_CONTROL] [FAST])
 #
@@ -51,6 +58,7 @@ function(filarix_add_test)
   add_test(NAME ${arg_NAME}
     COMMAND ${FILARIX_TEST_LAUNCHER} $<TARGET_FILE:${arg_NAME}>)
   filarix_set_timeout(${arg_NAME} ${arg_TIMEOUT})
+  filarix_label(${arg_NAME})
   if(arg_FAST)
     set_property(TEST ${arg_NAME} APPEND PROPERTY LABELS fast)
     add_dependencies(filarix-fast-tests ${arg_NAME})
