@@ -61,6 +61,23 @@ function(filarix_add_resource target file)
   target_sources(${target} PRIVATE ${source})
 endfunction()
 
+# A library's classes have plain names, and a host may have a Dialog or a Label of its own. The
+# linker of programs puts a host's names first, so a library looks its own up before it is loaded.
+# Where a name is not its own, everything stays as it is: hosts may interpose system(), say.
+#
+# Hosts have to be compiled with -fPIC then: base/filarixglobal.h says why.
+function(filarix_bind_own_names target)
+  target_link_options(${target} PRIVATE -Wl,-Bsymbolic)
+  filarix_compile_hosts_with_pic(${target})
+endfunction()
+
+# The newer toolkit brings the switch itself.
+function(filarix_compile_hosts_with_pic target)
+  if(FILARIX_QT EQUAL 4)
+    target_compile_options(${target} INTERFACE -fPIC)
+  endif()
+endfunction()
+
 # What all our own targets share. Private, so that nothing of it reaches a host: a host may use
 # the keywords and its own warning level.
 function(filarix_target_defaults target)

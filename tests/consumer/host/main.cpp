@@ -46,6 +46,13 @@ void useProgramSide()
 {
     WMMainWindow window(nullptr, 90);
     Downloader downloader(&window);
+    // The two ways to connect find the same signal, and the same class.
+    QStringList paths;
+    check(QObject::connect(&window, &WMMainWindow::signal_download,
+                           [&paths](const QString &path) { paths << path; }),
+          "a signal is found by its address");
+    QObject *object = &window;
+    check(qobject_cast<WMMainWindow *>(object), "a class is found by its meta-object");
     window.show();
     window.insertLine("G01 X1 Y2");
     window.insertLine("G01 X1 Y3");
@@ -56,6 +63,7 @@ void useProgramSide()
     check(editor->document()->findChild<WHighlighter *>(), "the document has its highlighter");
     emit window.signal_download("/a/program.cnc");
     check(downloader.sent() == "/a/program.cnc", "the host gets the program's path");
+    check(paths == QStringList("/a/program.cnc"), "the host gets it either way");
     check(downloader.wasBusy() && !window.isDownloading(), "the transfer is bracketed");
 }
 
