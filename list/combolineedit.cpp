@@ -44,7 +44,9 @@ bool accepted(ComboLineEdit *field, const QString &value, const QSize &size)
 
 } // namespace
 
-ComboLineEdit::ComboLineEdit(QWidget *parent) : QLineEdit(parent), m_numeric(false) {}
+ComboLineEdit::ComboLineEdit(QWidget *parent)
+    : QLineEdit(parent), m_numeric(false), m_isAtKeypad(false)
+{}
 
 void ComboLineEdit::setNumeric(bool numeric)
 {
@@ -56,12 +58,21 @@ bool ComboLineEdit::isNumeric() const
     return m_numeric;
 }
 
+bool ComboLineEdit::isAtKeypad() const
+{
+    return m_isAtKeypad;
+}
+
 void ComboLineEdit::mousePressEvent(QMouseEvent *)
 {
     // The keypad runs an event loop, and the receivers are the host's: either can delete us.
     const QPointer<ComboLineEdit> self(this);
     m_parts = text().split(QLatin1Char(':'));
+    const bool wasAtKeypad = m_isAtKeypad;
+    m_isAtKeypad = true;
     const bool isAccepted = runKeypad();
+    if (self)
+        m_isAtKeypad = wasAtKeypad;
     if (self && isAccepted) {
         takeAnswer();
         // The change is stored before the tap is reported.

@@ -27,6 +27,9 @@ public:
     void setNumeric(bool numeric);
     bool isNumeric() const;
 
+    /// Whether a keypad is open for this field.
+    bool isAtKeypad() const;
+
 Q_SIGNALS:
     /// A tap, whatever became of the keypad. After changed(), if that comes at all.
     void clicked();
@@ -45,6 +48,7 @@ private:
 
     QStringList m_parts; // the text at ":", as of the last tap
     bool m_numeric;
+    bool m_isAtKeypad;
 };
 
 #endif // COMBOLINEEDIT_H

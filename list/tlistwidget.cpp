@@ -3,6 +3,7 @@
 
 #include "tlistwidget.h"
 
+#include "combolineedit.h"
 #include "dataeditor.h"
 #include "mjline.h"
 #include "rowformat_p.h"
@@ -40,7 +41,7 @@ bool isOpen(QWidget *widget)
     return line && line->isExpanded();
 }
 
-DataEditor *carriedTable(QWidget *widget)
+DataEditor *carriedTable(QObject *widget)
 {
     const MJLine *line = qobject_cast<MJLine *>(widget);
     return line ? line->dataEditor() : nullptr;
@@ -104,6 +105,94 @@ QString &stringAt(QStringList &row, int position)
         row.append(QString());
     return row[position];
 }
+
+/// Appends what a row widget holds; false if the widget is none for a row of that kind.
+bool readRow(QObject *widget, const QString &kind, QStringList *content)
+{
+    if (RowFormat::isInstruction(kind)) {
+        MJLine *const line = qobject_cast<MJLine *>(widget);
+        if (line)
+            *content += line->GetLineList();
+        return line;
+    }
+    DataEditor *table = nullptr;
+    if (kind == QLatin1String(RowFormat::other))
+        table = carriedTable(widget);
+    else if (kind == QLatin1String(RowFormat::dataEditor))
+        table = qobject_cast<DataEditor *>(widget);
+    if (table)
+        *content += table->getData();
+    return table;
+}
+
+/// The field of a row that a keypad is open for; null if there is none.
+ComboLineEdit *fieldAtKeypad(const QWidget *widget)
+{
+    Q_FOREACH (ComboLineEdit *field, widget->findChildren<ComboLineEdit *>()) {
+        if (field->isAtKeypad())
+            return field;
+    }
+    return nullptr;
+}
+
+/// Row widgets that have left the list while a keypad was open for one of their fields. They live
+/// on as hidden children of the list until that is closed, and know their row.
+namespace Retired {
+
+const char indexName[] = "filarixRowIndex";
+const char rowName[] = "filarixRow";
+
+bool isOne(const QObject *widget)
+{
+    return widget && widget->property(indexName).isValid();
+}
+
+int index(const QObject *widget)
+{
+    return widget->property(indexName).toInt();
+}
+
+/// Whether \a row is still what the widget showed, but for its number.
+bool shows(const QObject *widget, QStringList row)
+{
+    QStringList shown = widget->property(rowName).toStringList();
+    stringAt(shown, RowFormat::Num) = stringAt(row, RowFormat::Num);
+    return shown == row;
+}
+
+/// Deletes a widget that showed row \a index, once it is done with.
+void take(QWidget *widget, int index, const QStringList &row)
+{
+    ComboLineEdit *const field = fieldAtKeypad(widget);
+    if (!field) {
+        widget->deleteLater(); // a tap on that very row may have brought us here
+        return;
+    }
+    widget->setProperty(indexName, index);
+    widget->setProperty(rowName, row);
+    // The last that a field says of a tap, behind the change.
+    QObject::connect(field, SIGNAL(clicked()), widget, SLOT(deleteLater()));
+}
+
+/// The rows of \a list from \a from on move by \a step.
+void move(const QWidget *list, int from, int step)
+{
+    Q_FOREACH (QObject *widget, list->children()) {
+        if (isOne(widget) && index(widget) >= from)
+            widget->setProperty(indexName, index(widget) + step);
+    }
+}
+
+/// Row \a removed of \a list goes.
+void forget(const QWidget *list, int removed)
+{
+    Q_FOREACH (QObject *widget, list->children()) {
+        if (isOne(widget) && index(widget) == removed)
+            widget->setProperty(indexName, -1);
+    }
+}
+
+} // namespace Retired
 
 } // namespace
 
@@ -290,9 +379,11 @@ void TListWidget::setSize(QSize s)
     if (m_titleWidget)
         m_titleWidget->setFixedHeight(RowGeometry::rowHeight(m_size.height()));
     while (ListWidget::count() > titleCount()) {
-        QWidget *widget = ListWidget::removeWidget(ListWidget::count() - 1);
+        const int slot = ListWidget::count() - 1;
+        QWidget *widget = ListWidget::removeWidget(slot);
         widget->hide();
-        widget->deleteLater(); // a tap on that very row may have brought us here
+        const int row = toInt(qint64(m_startLine) + slot - titleCount());
+        Retired::take(widget, row, getContent(row));
     }
     reshow();
 }
@@ -472,27 +563,24 @@ void TListWidget::on_line_changed(bool)
 
 void TListWidget::on_content_change(int index)
 {
-    QObject *row = sender();
-    if (!isRow(index))
+    QObject *const row = sender();
+    const bool isRetired = Retired::isOne(row);
+    const int i = isRetired ? Retired::index(row) : index;
+    if (!isRow(i) || (isRetired && !Retired::shows(row, m_content.at(i))))
         return;
-    const QString kind = typeAt(index);
+    const QString kind = typeAt(i);
+    // The table of an "Oth" row is that of the row's slot, whoever reports it.
+    const bool isInSlot = kind == QLatin1String(RowFormat::other) && !isRetired;
     QStringList content(kind);
-    if (RowFormat::isInstruction(kind)) {
-        MJLine *line = qobject_cast<MJLine *>(row);
-        if (!line)
-            return;
-        content += line->GetLineList();
-    } else {
-        DataEditor *table = nullptr;
-        if (kind == QLatin1String(RowFormat::other))
-            table = carriedTable(rowWidget(index));
-        else if (kind == QLatin1String(RowFormat::dataEditor))
-            table = qobject_cast<DataEditor *>(row);
-        if (!table)
-            return;
-        content += table->getData();
-    }
-    m_content[index] = sharedWith(m_content.at(index), content);
+    if (!readRow(isInSlot ? rowWidget(i) : row, kind, &content))
+        return;
+    if (isRetired)
+        stringAt(content, RowFormat::Num) = m_content.at(i).value(RowFormat::Num);
+    m_content[i] = sharedWith(m_content.at(i), content);
+    if (!isRetired)
+        return;
+    content.removeFirst();
+    refill(i, content);
 }
 
 void TListWidget::mousePressEvent(QMouseEvent *)
@@ -537,6 +625,7 @@ void TListWidget::insertWidget(int i, QStringList &row, bool refresh, bool viewO
 void TListWidget::removeWidget(int i, bool refresh)
 {
     m_multiSelect = false;
+    Retired::forget(this, i);
     if (i < count())
         renumber(qMax(i, -1) + 1, -1);
     if (isRow(i))
@@ -565,6 +654,7 @@ int TListWidget::indexAfterRemoval(int index, int removed, int rows) const
 /// Gives each row from \a from on its index plus \a step as number.
 void TListWidget::renumber(int from, int step)
 {
+    Retired::move(this, from, step);
     for (int j = from; j < count(); ++j) {
         const NumberText text(j + step, !m_titleWidget);
         QString &number = stringAt(m_content[j], RowFormat::Num);

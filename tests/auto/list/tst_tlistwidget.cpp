@@ -264,6 +264,10 @@ private Q_SLOTS:
     void editEmitsNoSignalOfTheList();
     void listMayChangeWhileAKeypadIsOpen_data();
     void listMayChangeWhileAKeypadIsOpen();
+    void editReachesTheStoreThoughItsRowIsReplaced_data();
+    void editReachesTheStoreThoughItsRowIsReplaced();
+    void editOfAReplacedRowFollowsTheRow_data();
+    void editOfAReplacedRowFollowsTheRow();
 
     void rowsOfUnknownKindHaveNoWidget();
     void emptiedRowKeepsWhatItsWidgetShows();
@@ -1638,7 +1642,7 @@ void TestTListWidget::listMayChangeWhileAKeypadIsOpen_data()
     QTest::newRow("page shortened, cancelled") << "setTotalLine" << false << 0;
     QTest::newRow("rows cleared, accepted") << "clear" << true << 0;
     QTest::newRow("rows cleared, cancelled") << "clear" << false << 0;
-    QTest::newRow("rows replaced, accepted") << "setSize" << true << 0;
+    QTest::newRow("rows replaced, accepted") << "setSize" << true << 1;
     QTest::newRow("rows replaced, cancelled") << "setSize" << false << 0;
 }
 
@@ -1675,6 +1679,121 @@ void TestTListWidget::listMayChangeWhileAKeypadIsOpen()
         edited += program->getJpos(i).at(1) == "77" ? 1 : 0;
     QTEST(edited, "edited");
     program->home();
+}
+
+void TestTListWidget::editReachesTheStoreThoughItsRowIsReplaced_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("a value of an instruction") << "Z" << true;
+    QTest::newRow("its free text") << "free text" << true;
+    QTest::newRow("another row's text") << "other" << true;
+    QTest::newRow("a table's value") << "table" << true;
+    QTest::newRow("cancelled") << "Z" << false;
+}
+
+void TestTListWidget::editReachesTheStoreThoughItsRowIsReplaced()
+{
+    QFETCH(QString, field);
+    QFETCH(bool, accepted);
+    const bool isTable = field == "table";
+    const bool isOther = field == "other";
+    QStringList none;
+    TListWidget list(none, nullptr);
+    for (int i = 0; i < 40; ++i) {
+        QStringList row = isTable ? variable(QString::number(i), "7") : instruction(i);
+        if (isOther && i == 3)
+            row = QStringList() << "Oth"
+                                << "3"
+                                << ""
+                                << "Oth"
+                                << "text";
+        list.addWidget(row, i == 39, false);
+    }
+    list.home();
+    QPointer<QWidget> row = list.itemAt(3);
+    MJLine *const line = qobject_cast<MJLine *>(row);
+    if (field == "free text")
+        line->on_expand();
+    QWidget *const cell = isTable        ? tableCell(qobject_cast<DataEditor *>(row), 2)
+                          : isOther      ? tableCell(line->dataEditor(), 2)
+                          : field == "Z" ? RowView(line).cell(RowView::Z)
+                                         : RowView(line).res();
+    QStringList expected = list.getContent(3);
+    RecordingDevice::Answer answer;
+    answer.accept = accepted;
+    answer.text = "77";
+    answer.action = [&list]() {
+        list.setSize(QSize(300, 2000));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    RecordingDevice::instance().answers << answer;
+    tap(cell);
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+    if (accepted)
+        expected[isTable ? 3 : isOther ? 4 : field == "Z" ? 8 : 12] = "77";
+    QCOMPARE(list.getContent(3), expected);
+    // The operator sees it, and the widget of before is gone once nothing needs it.
+    QWidget *const shown = list.itemAt(3);
+    QVERIFY(shown != row);
+    if (isTable)
+        QCOMPARE(RowView::text(tableCell(qobject_cast<DataEditor *>(shown), 2)), expected.at(3));
+    else if (isOther)
+        QCOMPARE(RowView::text(tableCell(qobject_cast<MJLine *>(shown)->dataEditor(), 2)),
+                 expected.at(4));
+    else
+        QCOMPARE(RowView(qobject_cast<MJLine *>(shown)).text(RowView::Z), "Z:" + expected.at(8));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!row);
+}
+
+void TestTListWidget::editOfAReplacedRowFollowsTheRow_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<int>("edited");
+    const int none = 0;
+    QTest::newRow("a row goes before it") << "remove 2" << 2;
+    QTest::newRow("a row goes behind it") << "remove 4" << 3;
+    QTest::newRow("it goes itself") << "remove 3" << none;
+    QTest::newRow("a row comes before it") << "insert 3" << 4;
+    QTest::newRow("a row comes behind it") << "insert 4" << 3;
+    QTest::newRow("it becomes another") << "set 3" << none;
+    QTest::newRow("another row becomes another") << "set 4" << 3;
+    QTest::newRow("all rows go") << "clear 0" << none;
+}
+
+void TestTListWidget::editOfAReplacedRowFollowsTheRow()
+{
+    QFETCH(QString, change);
+    const int row = change.section(' ', 1).toInt();
+    Program program(true, 40);
+    program->home();
+    RecordingDevice::Answer answer;
+    answer.accept = true;
+    answer.text = "77";
+    answer.action = [&program, &change, row]() {
+        program->setSize(QSize(300, 2000));
+        QStringList other = instruction(row);
+        other[2] = "OTHER";
+        if (change.startsWith("remove"))
+            program->removeWidget(row, true);
+        else if (change.startsWith("insert"))
+            program->insertWidget(row, other, true, false);
+        else if (change.startsWith("set"))
+            program->setContent(row, other);
+        else
+            program->clear();
+    };
+    RecordingDevice::instance().answers << answer;
+    tap(RowView(program.line(3)).cell(RowView::Z));
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+    int edited = 0;
+    for (int i = 1; i < program->count(); ++i) {
+        QCOMPARE(program->getContent(i).at(1), QString::number(i));
+        if (program->getContent(i).at(8) == "77")
+            edited = edited ? -1 : i;
+    }
+    QTEST(edited, "edited");
 }
 
 // A host's errors
