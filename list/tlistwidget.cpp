@@ -359,13 +359,16 @@ void TListWidget::refill(int i, QStringList &row)
     MJLine *line = qobject_cast<MJLine *>(widget);
     if (!line)
         return;
-    const bool isTable = isCarriedTable(kind);
-    if (isTable)
+    // What comes into view comes first: a focus that is lost with the rest finds a place there.
+    if (isCarriedTable(kind)) {
         line->dataEditor()->setData(row);
-    else
+        line->dataEditor()->show();
+        line->firstLine()->hide();
+    } else {
         line->setLineList(row);
-    line->dataEditor()->setVisible(isTable);
-    line->firstLine()->setVisible(!isTable);
+        line->firstLine()->show();
+        line->dataEditor()->hide();
+    }
 }
 
 void TListWidget::setSize(QSize s)

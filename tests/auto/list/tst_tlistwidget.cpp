@@ -208,6 +208,8 @@ private Q_SLOTS:
     void titleRowIsNeverShownBelowTheTitle();
     void rowsOfThePageGetWidgetsOnceOnly();
     void refillEmitsNothing();
+    void refillLeavesTheFocusInView_data();
+    void refillLeavesTheFocusInView();
 
     void setSizeGivesRowsByHeight_data();
     void setSizeGivesRowsByHeight();
@@ -811,6 +813,41 @@ void TestTListWidget::refillEmitsNothing()
     program->home();
     QCOMPARE(changed.count() + resized.count(), 0);
     QVERIFY(!program.line(3)->signalsBlocked());
+}
+
+void TestTListWidget::refillLeavesTheFocusInView_data()
+{
+    QTest::addColumn<bool>("toInstruction");
+    QTest::newRow("from a table to an instruction") << true;
+    QTest::newRow("from an instruction to a table") << false;
+}
+
+void TestTListWidget::refillLeavesTheFocusInView()
+{
+    QFETCH(bool, toInstruction);
+    Program program(false, 1);
+    const QStringList note = QStringList() << "Oth"
+                                           << "0"
+                                           << ""
+                                           << "Oth"
+                                           << "text";
+    QStringList before = toInstruction ? note : instruction(0);
+    QStringList after = toInstruction ? instruction(0) : note;
+    program->setContent(0, before);
+    MJLine *const line = program.line(0);
+    QWidget *const text = tableCell(line->dataEditor(), 2);
+    QWidget *const z = RowView(line).cell(RowView::Z);
+    program->show();
+    QApplication::setActiveWindow(program.get());
+    QWidget *const from = toInstruction ? text : z;
+    from->setFocus();
+    QTRY_VERIFY(from->hasFocus());
+    program->setContent(0, after);
+    QWidget *const focused = QApplication::focusWidget();
+    QVERIFY(focused);
+    QVERIFY(focused->isVisible());
+    QWidget *const part = toInstruction ? line->firstLine() : line->dataEditor();
+    QVERIFY(part->isAncestorOf(focused) || part == focused);
 }
 
 // Sizes
