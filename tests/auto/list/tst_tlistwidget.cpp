@@ -208,6 +208,7 @@ private Q_SLOTS:
     void titleRowIsNeverShownBelowTheTitle();
     void rowsOfThePageGetWidgetsOnceOnly();
     void refillEmitsNothing();
+    void rowThatReportsItselfDuringItsRefillIsNotHeard();
     void refillLeavesTheFocusInView_data();
     void refillLeavesTheFocusInView();
 
@@ -279,6 +280,7 @@ private Q_SLOTS:
     void shortGroupsChangeNothing();
     void indexesOutOfRange_data();
     void indexesOutOfRange();
+    void positionsNeverComeOutOnTheOtherSideOfZero();
     void directCallsWithoutASender();
     void mixedFamiliesDoNotCrash();
 };
@@ -813,6 +815,59 @@ void TestTListWidget::refillEmitsNothing()
     program->home();
     QCOMPARE(changed.count() + resized.count(), 0);
     QVERIFY(!program.line(3)->signalsBlocked());
+}
+
+namespace {
+
+/// A host that has a row report itself whenever a text in it changes.
+class Meddler : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Meddler(MJLine *line) : m_line(line)
+    {
+        Q_FOREACH (QLineEdit *edit, line->findChildren<QLineEdit *>())
+            connect(edit, SIGNAL(textChanged(QString)), SLOT(report()));
+    }
+
+    QStringList rows;
+
+private Q_SLOTS:
+    void report()
+    {
+        const int row = m_line->getNum().toInt();
+        rows << QString::number(row);
+        QMetaObject::invokeMethod(m_line, "sg_content_change", Q_ARG(int, row));
+    }
+
+private:
+    MJLine *m_line;
+};
+
+} // namespace
+
+// Half filled, it would be stored with what is left of the row before.
+void TestTListWidget::rowThatReportsItselfDuringItsRefillIsNotHeard()
+{
+    Program program(true, 40);
+    QStringList changed = instruction(3);
+    changed[8] = "17";
+    changed[10] = "18";
+    QStringList given = changed;
+    program->setContent(3, given);
+    program->nextPage();
+    Meddler meddler(program.line(program.startLine() + 2));
+    program->home();
+    QVERIFY(meddler.rows.contains("3"));
+    QCOMPARE(program->getContent(3), changed);
+    for (int i = 1; i < program->count(); ++i)
+        QCOMPARE(program->getContent(i).at(1), QString::number(i));
+    // An edit is heard as ever.
+    meddler.rows.clear();
+    DeviceLog::acceptWith("77");
+    tap(RowView(program.line(3)).cell(RowView::Z));
+    QCOMPARE(program->getContent(3).at(8), QString("77"));
 }
 
 void TestTListWidget::refillLeavesTheFocusInView_data()
@@ -2002,6 +2057,24 @@ void TestTListWidget::indexesOutOfRange()
         program->addWidget(none, true, true);
         program->clear();
     }
+}
+
+void TestTListWidget::positionsNeverComeOutOnTheOtherSideOfZero()
+{
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    Program program(true, 40);
+    QVERIFY(program.startLine() > 1);
+    QCOMPARE(program->getListPos(least), least);
+    QCOMPARE(program->getListPos(most), most - program.startLine() + 1);
+    // A page of a length below 0 ends far behind the rows.
+    program->setTotalLine(least);
+    program->end();
+    QCOMPARE(program->getListPos(0), 1 - most);
+    QCOMPARE(program->getListPos(least), least);
+    program->setTotalLine(13);
+    program->home();
+    QCOMPARE(program.page(), numbers(1, 13));
 }
 
 void TestTListWidget::directCallsWithoutASender()
