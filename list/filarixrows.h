@@ -184,12 +184,15 @@ enum Fault {
     NumIsNotIndex,    ///< edits of the row would be stored in another one
     ParenthesisInIns, ///< the name is cut there when the row is read back
     ReservedIns,      ///< an instruction named "Oth" hides behind its table
-    ColonInField,     ///< read back, later strings move by one; a detail is cut by its next edit
+    ColonInField,     ///< read back, later strings move by one; a text is cut by its next edit
     IndexIsNoInteger, ///< reads as 0
     AttMissing,       ///< comes back as "Att"
     BlankInRes,       ///< comes back as "_"
     MarkMissing,      ///< "Oth" or "Title" does not stand where the widget looks for it
-    SharedCell        ///< the first of two strings for one cell is not empty: they come back as one
+    SharedCell,       ///< the first of two strings for one cell is not empty: they come back as one
+    TitleAmongRows,   ///< a title that the list was not made with: no page shows it again
+    NumReadsAsZero,   ///< "N" before an instruction's number: its edits are stored in row 0
+    ValueIsNoNumber   ///< not what the numeric keypad of its field gives
 };
 
 /// What is wrong at one position of one row. \a row is its index, the title counted.
@@ -250,6 +253,15 @@ inline QString describe(const Problem &problem)
     case SharedCell:
         text = "two strings for one cell";
         break;
+    case TitleAmongRows:
+        text = "a title among the rows";
+        break;
+    case NumReadsAsZero:
+        text = "an instruction's number that reads as 0";
+        break;
+    case ValueIsNoNumber:
+        text = "not a number";
+        break;
     }
     return QString::fromLatin1("row %1, position %2: %3")
         .arg(problem.row)
@@ -267,10 +279,40 @@ inline bool isInteger(const QString &text)
     return ok;
 }
 
+inline bool hasLetter(const QString &number)
+{
+    return number.startsWith(QLatin1Char('N'));
+}
+
+/// With an "N" as well: a list without a title numbers its rows so.
 inline bool isIndex(const QString &text, int index)
 {
-    return isInteger(text) && text.toInt() == index;
+    const QString number = hasLetter(text) ? text.mid(1) : text;
+    return isInteger(number) && number.toInt() == index;
 }
+
+inline bool isEmptyOrNumber(const QString &text)
+{
+    bool ok = true;
+    if (!text.isEmpty())
+        text.toDouble(&ok);
+    return ok;
+}
+
+/// How long an "Oth" row may be: up to where it would be taken for an instruction. Among
+/// instructions its widget carries a table for one length only.
+const int shortestOther = 4;
+const int longestOther = 10;
+const int otherAmongInstructions = 5;
+
+inline bool isOtherLength(int length)
+{
+    return length >= shortestOther && length <= longestOther;
+}
+
+/// A table's widget has cells for so many strings behind the kind.
+const int shortestData = 2;
+const int longestData = 32;
 
 inline void checkInstruction(const QStringList &row, int index, QList<Problem> &problems)
 {
@@ -298,15 +340,13 @@ inline void checkInstruction(const QStringList &row, int index, QList<Problem> &
 
 inline void checkOther(const QStringList &row, int index, QList<Problem> &problems)
 {
-    // A widget that was made for an instruction carries a table of four strings, and takes no
-    // other.
-    if (row.size() != 5) {
+    if (!isOtherLength(row.size())) {
         problems << Problem(index, row.size(), WrongLength);
         return;
     }
     if (!isIndex(row.at(1), index))
         problems << Problem(index, 1, NumIsNotIndex);
-    if (!row.at(2).isEmpty())
+    if (row.size() == otherAmongInstructions && !row.at(2).isEmpty())
         problems << Problem(index, 2, SharedCell);
     if (row.at(3) != QLatin1String(other))
         problems << Problem(index, 3, MarkMissing);
@@ -319,23 +359,60 @@ inline void checkTitle(const QStringList &row, int index, QList<Problem> &proble
         problems << Problem(index, 1, MarkMissing);
     if (row.size() < minLength)
         problems << Problem(index, row.size(), WrongLength);
+    if (index != 0)
+        problems << Problem(index, Kind, TitleAmongRows);
 }
 
 inline void checkData(const QStringList &row, int index, QList<Problem> &problems)
 {
-    QString number = row.value(1);
-    if (number.startsWith(QLatin1Char('N'))) // as the list itself numbers them
-        number.remove(0, 1);
-    if (!isIndex(number, index))
+    if (row.size() <= shortestData || row.size() > longestData + 1)
+        problems << Problem(index, row.size(), WrongLength);
+    if (!isIndex(row.value(1), index))
         problems << Problem(index, 1, NumIsNotIndex);
     if (row.size() == 5 && !row.at(2).isEmpty())
         problems << Problem(index, 2, SharedCell);
 }
 
+/// The faults that a row has beside the others of its list.
+inline void checkInList(const QList<QStringList> &rows, int i, int firstIndex, int otherLength,
+                        QList<Problem> &problems)
+{
+    const QStringList &row = rows.at(i);
+    const QString kind = row.value(Kind);
+    const int index = firstIndex + i;
+    const bool isData = kind == QLatin1String(dataEditor);
+    if (isData != (rows.first().value(Kind) == QLatin1String(dataEditor)))
+        problems << Problem(index, Kind, MixedFamilies);
+    else if (isData && row.size() != rows.first().size())
+        problems << Problem(index, row.size(), WrongLength);
+    else if (kind == QLatin1String(other) && isOtherLength(row.size()) && row.size() != otherLength)
+        problems << Problem(index, row.size(), WrongLength);
+    // A list with a title never writes the letter; the first row of one without is no title.
+    if (firstIndex > 0 && FilarixRows::isInstruction(kind) && hasLetter(row.value(Num)))
+        problems << Problem(index, Num, NumIsNotIndex);
+    if (index == 0 && kind == QLatin1String(title))
+        problems << Problem(index, Kind, TitleAmongRows);
+}
+
+/// How long the "Oth" rows of a list have to be: as among instructions, or all like the first one.
+inline int otherLengthIn(const QList<QStringList> &rows)
+{
+    int length = -1;
+    for (int i = 0; i < rows.size(); ++i) {
+        if (FilarixRows::isInstruction(rows.at(i).value(Kind)))
+            return otherAmongInstructions;
+        const bool isOther = rows.at(i).value(Kind) == QLatin1String(other);
+        if (length < 0 && isOther && isOtherLength(rows.at(i).size()))
+            length = rows.at(i).size();
+    }
+    return length;
+}
+
 } // namespace Detail
 
 /// All that is wrong with \a row as the row of index \a index, the title counted; empty if it is
-/// well-formed. A well-formed instruction row comes back from its widget as it went in.
+/// well-formed. A well-formed instruction row comes back from its widget as it went in. What only
+/// the rows around it tell is checkRows()'s to find.
 inline QList<Problem> checkRow(const QStringList &row, int index)
 {
     QList<Problem> problems;
@@ -358,17 +435,34 @@ inline QList<Problem> checkRow(const QStringList &row, int index)
 inline QList<Problem> checkRows(const QList<QStringList> &rows, int firstIndex)
 {
     QList<Problem> problems;
+    const int otherLength = Detail::otherLengthIn(rows);
     for (int i = 0; i < rows.size(); ++i) {
-        const int index = firstIndex + i;
-        problems += checkRow(rows.at(i), index);
-        const bool isData = rows.at(i).value(Kind) == QLatin1String(dataEditor);
-        const bool isDataList = rows.first().value(Kind) == QLatin1String(dataEditor);
-        if (isData != isDataList)
-            problems << Problem(index, Kind, MixedFamilies);
-        else if (isData && rows.at(i).size() != rows.first().size())
-            problems << Problem(index, rows.at(i).size(), WrongLength);
+        problems += checkRow(rows.at(i), firstIndex + i);
+        Detail::checkInList(rows, i, firstIndex, otherLength, problems);
     }
     return problems;
+}
+
+/// What may surprise in a row that is well-formed, as the row of index \a index: an "N" before the
+/// number of an instruction, as a list without a title writes it; a ":" in the free text, which the
+/// next edit cuts; a value of Z, T or a detail that is neither empty nor a number.
+///
+///     Q_FOREACH (const FilarixRows::Problem &problem, FilarixRows::warningsFor(row, i))
+///         qWarning() << FilarixRows::describe(problem);
+inline QList<Problem> warningsFor(const QStringList &row, int index)
+{
+    QList<Problem> warnings;
+    if (!isInstruction(row.value(Kind)) || !checkRow(row, index).isEmpty())
+        return warnings;
+    if (index != 0 && Detail::hasLetter(row.at(Num)))
+        warnings << Problem(index, Num, NumReadsAsZero);
+    if (row.at(Res).contains(QLatin1Char(':')))
+        warnings << Problem(index, Res, ColonInField);
+    for (int i = ZValue; i < HostLength; i += 2) {
+        if (i != Res && !Detail::isEmptyOrNumber(row.at(i)))
+            warnings << Problem(index, i, ValueIsNoNumber);
+    }
+    return warnings;
 }
 
 } // namespace FilarixRows

@@ -4,6 +4,7 @@
 #include "filarixrows.h"
 
 #include "dataeditor.h"
+#include "devicelog.h"
 #include "filarixtest.h"
 #include "mjline.h"
 #include "rowprobe.h"
@@ -30,6 +31,14 @@ private Q_SLOTS:
     void everyFaultIsFoundAtItsPlace_data();
     void everyFaultIsFoundAtItsPlace();
     void everyFaultHasItsOwnWords();
+    void everyWarningIsFoundAtItsPlace_data();
+    void everyWarningIsFoundAtItsPlace();
+    void onlyInstructionsThatAreWellFormedAreWarnedOf();
+    void numbersWithALetterReadAsZeroInInstructionsOnly();
+    void colonInTheFreeTextCutsItAtTheNextEdit();
+    void noPageShowsATitleAmongTheRowsAgain();
+    void tablesOfOtherLengthsLoseStrings();
+    void otherRowsOfOneLengthMakeAList();
     void problemsAreEqualInAllThree();
     void colonInADetailCutsItAtTheNextEdit();
     void instructionNamedLikeATableIsHidden();
@@ -113,6 +122,14 @@ bool hasChangingFault(const QList<Problem> &problems)
             return true;
     }
     return false;
+}
+
+QStringList texts(int count)
+{
+    QStringList result;
+    while (result.size() < count)
+        result << QString::number(result.size());
+    return result;
 }
 
 QByteArray words(const QList<Problem> &problems)
@@ -242,7 +259,10 @@ void TestRowBuilder::everyFaultIsFoundAtItsPlace_data()
     QTest::newRow("32 strings") << QStringList(good + QStringList("")) << 32 << int(WrongLength);
     QTest::newRow("other number") << spoilt(good, Num, "8") << 1 << int(NumIsNotIndex);
     QTest::newRow("no number") << spoilt(good, Num, "") << 1 << int(NumIsNotIndex);
-    QTest::newRow("number with N") << spoilt(good, Num, "N7") << 1 << int(NumIsNotIndex);
+    QTest::newRow("number with N") << spoilt(good, Num, "N7") << none << none;
+    QTest::newRow("other number with N") << spoilt(good, Num, "N8") << 1 << int(NumIsNotIndex);
+    QTest::newRow("N alone") << spoilt(good, Num, "N") << 1 << int(NumIsNotIndex);
+    QTest::newRow("two letters") << spoilt(good, Num, "NN7") << 1 << int(NumIsNotIndex);
     QTest::newRow("bracket in the name") << spoilt(good, Ins, "A(1)") << 2 << int(ParenthesisInIns);
     QTest::newRow("name of a table") << spoilt(good, Ins, "Oth") << 2 << int(ReservedIns);
     QTest::newRow("name like a table's") << spoilt(good, Ins, "oth") << none << none;
@@ -262,22 +282,28 @@ void TestRowBuilder::everyFaultIsFoundAtItsPlace_data()
 
     const QStringList note = otherRow(7, "M05");
     QTest::newRow("other") << note << none << none;
-    QTest::newRow("other too long")
-        << QStringList(note + QStringList("x")) << 6 << int(WrongLength);
-    QTest::newRow("other's number") << spoilt(note, 1, "N7") << 1 << int(NumIsNotIndex);
+    QTest::newRow("other of four") << QStringList(note.mid(0, 4)) << none << none;
+    QTest::newRow("other of ten") << QStringList(note + texts(5)) << none << none;
+    QTest::newRow("other too short") << QStringList(note.mid(0, 3)) << 3 << int(WrongLength);
+    QTest::newRow("other too long") << QStringList(note + texts(6)) << 11 << int(WrongLength);
+    QTest::newRow("other's number with N") << spoilt(note, 1, "N7") << none << none;
+    QTest::newRow("other's number") << spoilt(note, 1, "N8") << 1 << int(NumIsNotIndex);
+    QTest::newRow("other of six, its second cell")
+        << spoilt(QStringList(note + texts(1)), 2, "y") << none << none;
     QTest::newRow("other's shared cell") << spoilt(note, 2, "x") << 2 << int(SharedCell);
     QTest::newRow("other without mark") << spoilt(note, 3, "oth") << 3 << int(MarkMissing);
 
-    QTest::newRow("title") << titleTexts() << none << none;
-    QTest::newRow("title too short")
-        << QStringList(titleTexts().mid(0, 10)) << 10 << int(WrongLength);
-    QTest::newRow("title without mark") << spoilt(titleTexts(), 1, "") << 1 << int(MarkMissing);
+    QTest::newRow("title among the rows") << titleTexts() << 0 << int(TitleAmongRows);
 
     const QStringList data = dataRow(7, QStringList() << "a"
                                                       << "b");
     QTest::newRow("table") << data << none << none;
     QTest::newRow("table's number with N") << spoilt(data, 1, "N7") << none << none;
     QTest::newRow("table's other number") << spoilt(data, 1, "N8") << 1 << int(NumIsNotIndex);
+    QTest::newRow("table of a number alone")
+        << QStringList(data.mid(0, 2)) << 2 << int(WrongLength);
+    QTest::newRow("table of 32 strings") << dataRow(7, texts(31)) << none << none;
+    QTest::newRow("table of 33 strings") << dataRow(7, texts(32)) << 34 << int(WrongLength);
     QTest::newRow("table's shared cell") << dataRow(7, QStringList() << "a"
                                                                      << "b"
                                                                      << "c")
@@ -300,7 +326,7 @@ void TestRowBuilder::everyFaultIsFoundAtItsPlace()
 void TestRowBuilder::everyFaultHasItsOwnWords()
 {
     QStringList seen;
-    for (int fault = UnknownKind; fault <= SharedCell; ++fault) {
+    for (int fault = UnknownKind; fault <= ValueIsNoNumber; ++fault) {
         const QString text = describe(Problem(12, 4, Fault(fault)));
         QVERIFY2(text.startsWith("row 12, position 4: "), text.toUtf8());
         QVERIFY(text.size() > int(qstrlen("row 12, position 4: ")));
@@ -308,7 +334,175 @@ void TestRowBuilder::everyFaultHasItsOwnWords()
         seen << text;
     }
     // A fault of a later version.
-    QCOMPARE(describe(Problem(12, 4, Fault(SharedCell + 1))), QString("row 12, position 4: "));
+    QCOMPARE(describe(Problem(12, 4, Fault(ValueIsNoNumber + 1))), QString("row 12, position 4: "));
+}
+
+void TestRowBuilder::everyWarningIsFoundAtItsPlace_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("warning");
+    const int none = -1;
+    QTest::newRow("number with N") << int(Num) << "N7" << int(NumReadsAsZero);
+    QTest::newRow("number") << int(Num) << "7" << none;
+    QTest::newRow("colon in the free text") << int(Res) << "a:b" << int(ColonInField);
+    QTest::newRow("word in the free text") << int(Res) << "a_b" << none;
+    QTest::newRow("word for Z") << int(ZValue) << "a" << int(ValueIsNoNumber);
+    QTest::newRow("no Z") << int(ZValue) << "" << none;
+    QTest::newRow("exponent for Z") << int(ZValue) << "-1.5e3" << none;
+    QTest::newRow("blank for T") << int(TValue) << " " << int(ValueIsNoNumber);
+    QTest::newRow("comma in the first detail") << detailValue(0) << "1,5" << int(ValueIsNoNumber);
+    QTest::newRow("word for the last detail") << detailValue(8) << "x" << int(ValueIsNoNumber);
+    QTest::newRow("word for a key") << detailKey(8) << "x" << none;
+    QTest::newRow("word for the T key") << int(TKey) << "x" << none;
+}
+
+void TestRowBuilder::everyWarningIsFoundAtItsPlace()
+{
+    QFETCH(int, position);
+    QFETCH(QString, text);
+    QFETCH(int, warning);
+    QStringList row = InstructionRow(InstructionRow::Joint, "MOVJ").row(7);
+    row[position] = text;
+    QVERIFY(checkRow(row, 7).isEmpty());
+    QList<Problem> expected;
+    if (warning >= 0)
+        expected << Problem(7, position, Fault(warning));
+    const QList<Problem> warnings = warningsFor(row, 7);
+    QVERIFY2(warnings == expected, words(warnings));
+}
+
+void TestRowBuilder::onlyInstructionsThatAreWellFormedAreWarnedOf()
+{
+    QVERIFY(warningsFor(QStringList(), 0).isEmpty());
+    QVERIFY(warningsFor(otherRow(1, "a:b"), 1).isEmpty());
+    QStringList row = goodRow(1);
+    row[Res] = "a:b";
+    QVERIFY(!warningsFor(row, 1).isEmpty());
+    row[Att] = "x";
+    QVERIFY(warningsFor(row, 1).isEmpty());
+}
+
+// What a list without a title makes of its rows is no fault of theirs.
+void TestRowBuilder::numbersWithALetterReadAsZeroInInstructionsOnly()
+{
+    QStringList noTitle;
+    TListWidget list(noTitle, nullptr);
+    for (int i = 0; i < 4; ++i) {
+        QStringList row = i % 2 ? otherRow(i, "x") : goodRow(i);
+        list.addWidget(row, true, false);
+    }
+    list.removeWidget(0, true);
+    QList<QStringList> rows;
+    for (int i = 0; i < list.count(); ++i)
+        rows << list.getContent(i);
+    QCOMPARE(rows.at(1).at(Num), QString("N1"));
+    QVERIFY2(checkRows(rows, 0).isEmpty(), words(checkRows(rows, 0)));
+    QVERIFY(warningsFor(rows.at(0), 0).isEmpty());
+    QVERIFY(warningsFor(rows.at(1), 1).contains(Problem(1, Num, NumReadsAsZero)));
+    QVERIFY(warningsFor(rows.at(2), 2).isEmpty());
+    // Read as 0, the number of the first row is right.
+    QStringList first = InstructionRow(InstructionRow::Joint, "MOVJ").row(0);
+    first[Num] = "N0";
+    QVERIFY(checkRow(first, 0).isEmpty());
+    QVERIFY(warningsFor(first, 0).isEmpty());
+
+    // A list with a title writes no letter, so there it is a wrong number.
+    QList<QStringList> titled;
+    titled << goodRow(1) << otherRow(2, "x");
+    titled[0][Num] = "N1";
+    titled[1][Num] = "N2";
+    QVERIFY(checkRows(titled, 1) == QList<Problem>() << Problem(1, Num, NumIsNotIndex));
+}
+
+void TestRowBuilder::colonInTheFreeTextCutsItAtTheNextEdit()
+{
+    QStringList row = goodRow(0);
+    row[Res] = "at_12:30:00_sharp";
+    QVERIFY(checkRow(row, 0).isEmpty());
+    QVERIFY(warningsFor(row, 0).contains(Problem(0, Res, ColonInField)));
+    const QScopedPointer<MJLine> line(newLine(row));
+    line->on_expand();
+    DeviceLog::reset();
+    DeviceLog::acceptWith("40");
+    RowProbe::tap(RowView(line.data()).res());
+    QCOMPARE(line->GetLineList().at(Res - 1), QString("at_12:40"));
+}
+
+void TestRowBuilder::noPageShowsATitleAmongTheRowsAgain()
+{
+    QStringList noTitle;
+    TListWidget list(noTitle, nullptr);
+    QList<QStringList> rows;
+    rows << titleTexts() << goodRow(1) << titleTexts();
+    for (int i = 0; i < rows.size(); ++i) {
+        QStringList row = rows.at(i);
+        list.addWidget(row, true, false);
+    }
+    const QList<Problem> expected = QList<Problem>() << Problem(0, Kind, TitleAmongRows)
+                                                     << Problem(2, Kind, TitleAmongRows);
+    QVERIFY2(checkRows(rows, 0) == expected, words(checkRows(rows, 0)));
+    // The constructor's own is row 0 by itself.
+    QVERIFY(checkRow(titleTexts(), 0).isEmpty());
+    QVERIFY(checkRow(titleTexts().mid(0, 10), 0)
+            == QList<Problem>() << Problem(0, 10, WrongLength));
+    QStringList unmarked = titleTexts();
+    unmarked[1].clear();
+    QVERIFY(checkRow(unmarked, 0) == QList<Problem>() << Problem(0, 1, MarkMissing));
+
+    DataEditor *cells = static_cast<MJLine *>(list.itemAt(2))->dataEditor();
+    QStringList other = titleTexts();
+    other[3] = "Other";
+    list.setContent(2, other);
+    QStringList shown;
+    for (int i = 0; i < cells->layout()->count(); ++i)
+        shown << RowView::text(RowProbe::tableCell(cells, i));
+    QVERIFY(!shown.contains("Other"));
+}
+
+void TestRowBuilder::tablesOfOtherLengthsLoseStrings()
+{
+    for (int strings = 2; strings <= 40; ++strings) {
+        QStringList cells = texts(strings - 1);
+        if (strings == 4)
+            cells.first().clear(); // shares its place with the second
+        const QStringList row = dataRow(7, cells);
+        QStringList inner = row.mid(1);
+        DataEditor editor(false, inner, listSize, nullptr, false);
+        const bool comesBack = editor.getData() == row.mid(1);
+        QVERIFY2(comesBack == checkRow(row, 7).isEmpty(), words(checkRow(row, 7)));
+        QCOMPARE(comesBack, strings <= 32);
+    }
+}
+
+void TestRowBuilder::otherRowsOfOneLengthMakeAList()
+{
+    for (int length = 4; length <= 10; ++length) {
+        QStringList noTitle;
+        TListWidget list(noTitle, nullptr);
+        QList<QStringList> rows;
+        for (int i = 0; i < 20; ++i) {
+            QStringList row = QStringList() << other << QString::number(i) << QString() << other;
+            while (row.size() < length)
+                row << QString("%1 %2").arg(i).arg(row.size());
+            rows << row;
+            list.addWidget(row, false, false);
+        }
+        QVERIFY2(checkRows(rows, 0).isEmpty(), words(checkRows(rows, 0)));
+        list.home();
+        list.nextPage(); // each widget shows a row that another one was made for
+        for (int slot = 0; slot < 6; ++slot) {
+            MJLine *const line = static_cast<MJLine *>(list.itemAt(slot));
+            const int i = slot - list.getListPos(0);
+            QCOMPARE(QStringList(other) + line->dataEditor()->getData(), rows.at(i));
+        }
+        // One of another length stays unseen, and so does any but five strings among instructions.
+        QList<QStringList> odd = rows;
+        odd[3] = length == 4 ? QStringList(rows.at(3) + texts(1)) : rows.at(3).mid(0, length - 1);
+        QVERIFY(checkRows(odd, 0) == QList<Problem>() << Problem(3, odd.at(3).size(), WrongLength));
+        rows[0] = goodRow(0);
+        QCOMPARE(checkRows(rows, 0).size(), length == 5 ? 0 : 19);
+    }
 }
 
 void TestRowBuilder::problemsAreEqualInAllThree()
