@@ -460,7 +460,7 @@ void WGCodeEditer::gotoLine(int lineNum)
     setFocus(Qt::OtherFocusReason);
     QTextCursor cursor = textCursor();
     // An invalid block stands at position 0, so a row that does not exist leads to the start.
-    cursor.setPosition(document()->findBlockByNumber(lineNum - 1).position());
+    cursor.setPosition(document()->findBlockByNumber(qMax(lineNum, 0) - 1).position());
     setTextCursor(cursor);
 
     QTextEdit::ExtraSelection mark;

@@ -18,6 +18,8 @@
 #include <QTextLayout>
 #include <QVBoxLayout>
 
+#include <limits>
+
 #include <random>
 
 namespace {
@@ -636,6 +638,9 @@ void TestWGCodeEditer::gotoLineThatDoesNotExistLeadsToTheFirstLine_data()
     QTest::newRow("-1") << -1;
     QTest::newRow("one beyond the end") << 6;
     QTest::newRow("far beyond the end") << 1000000;
+    // The sanitizers tell whether one less is reckoned with.
+    QTest::newRow("the least number") << std::numeric_limits<int>::min();
+    QTest::newRow("the greatest number") << std::numeric_limits<int>::max();
 }
 
 void TestWGCodeEditer::gotoLineThatDoesNotExistLeadsToTheFirstLine()
