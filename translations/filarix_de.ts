@@ -458,5 +458,9 @@ Do you want to save your changes?</source>
         <source>%1[*] - %2</source>
         <translation>%1[*] - %2</translation>
     </message>
+    <message>
+        <source>It is a device or a pipe, not a file</source>
+        <translation>Das ist ein Gerät oder eine Pipe, keine Datei</translation>
+    </message>
 </context>
 </TS>

@@ -458,5 +458,9 @@ Salvare le modifiche?</translation>
         <source>%1[*] - %2</source>
         <translation>%1[*] - %2</translation>
     </message>
+    <message>
+        <source>It is a device or a pipe, not a file</source>
+        <translation>È un dispositivo o una pipe, non un file</translation>
+    </message>
 </context>
 </TS>

@@ -458,5 +458,9 @@ Değişiklikler kaydedilsin mi?</translation>
         <source>%1[*] - %2</source>
         <translation>%1[*] - %2</translation>
     </message>
+    <message>
+        <source>It is a device or a pipe, not a file</source>
+        <translation>Bu bir aygıt ya da boru, dosya değil</translation>
+    </message>
 </context>
 </TS>

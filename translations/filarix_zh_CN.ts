@@ -458,5 +458,9 @@ Do you want to save your changes?</source>
         <source>%1[*] - %2</source>
         <translation>%1[*] - %2</translation>
     </message>
+    <message>
+        <source>It is a device or a pipe, not a file</source>
+        <translation>这是设备或管道，不是文件</translation>
+    </message>
 </context>
 </TS>

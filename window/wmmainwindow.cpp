@@ -30,6 +30,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <sys/stat.h>
+
 namespace {
 
 /// Pixels between the pairs of the read-out.
@@ -69,6 +71,25 @@ void setUpToolBar(QToolBar *bar)
 QString programPath(const QString &name)
 {
     return WAQP::getCncDir() + QLatin1Char('/') + name;
+}
+
+/// Whether \a path leads to a pipe, whose opening waits for another program, or, for reading, to a
+/// device, which may have no end.
+bool isEndless(const QString &path, QIODevice::OpenMode mode)
+{
+    struct stat entry;
+    if (::stat(QFile::encodeName(path).constData(), &entry) != 0)
+        return false;
+    const bool isDevice = S_ISCHR(entry.st_mode) || S_ISBLK(entry.st_mode);
+    return S_ISFIFO(entry.st_mode) || (isDevice && (mode & QIODevice::ReadOnly));
+}
+
+/// Opens \a file; the reason if that fails.
+QString openError(QFile *file, QIODevice::OpenMode mode)
+{
+    if (isEndless(file->fileName(), mode))
+        return WMMainWindow::tr("It is a device or a pipe, not a file");
+    return file->open(mode) ? QString() : file->errorString();
 }
 
 } // namespace
@@ -564,10 +585,10 @@ bool WMMainWindow::maybeSave()
 void WMMainWindow::loadFile(const QString &fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    const QString error = openError(&file, QIODevice::ReadOnly | QIODevice::Text);
+    if (!error.isEmpty()) {
         QMessageBox::warning(nullptr, tr("Application"),
-                             tr("Cannot read file %1:\n%2.").arg(fileName, file.errorString()),
-                             QMessageBox::Ok);
+                             tr("Cannot read file %1:\n%2.").arg(fileName, error), QMessageBox::Ok);
         return;
     }
     QTextStream stream(&file);
@@ -582,9 +603,10 @@ bool WMMainWindow::saveFile(const QString &fileName)
 {
     {
         QFile file(fileName);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        const QString error = openError(&file, QIODevice::WriteOnly | QIODevice::Text);
+        if (!error.isEmpty()) {
             QMessageBox::warning(nullptr, tr("Application"),
-                                 tr("Cannot write file %1:\n%2.").arg(fileName, file.errorString()),
+                                 tr("Cannot write file %1:\n%2.").arg(fileName, error),
                                  QMessageBox::Ok);
             return false;
         }

@@ -14,6 +14,8 @@
 #include <QSignalSpy>
 #include <QTextDocument>
 
+#include <sys/stat.h>
+
 namespace {
 
 const char stored[] = "G01 X1\nM2";
@@ -165,6 +167,8 @@ private Q_SLOTS:
     void openOfAnEmptyNameBlanksTheLabelOnly();
     void openOfAFileThatCannotBeRead_data();
     void openOfAFileThatCannotBeRead();
+    void nobodyWaitsForAPipeOrADevice_data();
+    void nobodyWaitsForAPipeOrADevice();
     void openOfTheOpenFileAsks_data();
     void openOfTheOpenFileAsks();
     void openOfTheOpenFileThatIsGone();
@@ -445,6 +449,40 @@ void TestFileCommands::openOfAFileThatCannotBeRead()
     QCOMPARE(window.m_curFile, path);
     QCOMPARE(window.windowTitle(), QString("a.cnc[*] - Application"));
     QCOMPARE(window.m_fileLabel->text(), name);
+}
+
+void TestFileCommands::nobodyWaitsForAPipeOrADevice_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("a pipe to be read") << "pipe.cnc" << false;
+    QTest::newRow("a pipe to be written") << "pipe.cnc" << true;
+    QTest::newRow("a link to a pipe") << "link.cnc" << false;
+    QTest::newRow("a device to be read") << "device.cnc" << false;
+}
+
+void TestFileCommands::nobodyWaitsForAPipeOrADevice()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isSaved);
+    const QByteArray pipe = QFile::encodeName(pathOf("pipe.cnc"));
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    QVERIFY(QFile::link(pathOf("pipe.cnc"), pathOf("link.cnc")));
+    QVERIFY(QFile::link("/dev/null", pathOf("device.cnc")));
+    OpenWindow window;
+    if (isSaved)
+        window.type("N1");
+    Operator person;
+    person.pick(isSaved ? "Save as" : "Open file", name);
+    person.press(QMessageBox::Ok);
+    QCOMPARE(isSaved ? runSaveAs(window) : runOpen(window), !isSaved);
+    VERIFY_DONE(person);
+    const QString expected = QString("Cannot %1 file %2:\nIt is a device or a pipe, not a file.")
+                                 .arg(isSaved ? "write" : "read", pathOf(name));
+    COMPARE_BOX(person.boxes().first(), QMessageBox::Warning, "Application", expected,
+                QMessageBox::Ok, QMessageBox::Ok);
+    QCOMPARE(window.getCurrentFile(), QString());
+    QCOMPARE(window.isDocumentModified(), isSaved);
 }
 
 void TestFileCommands::openOfTheOpenFileAsks_data()
