@@ -4,6 +4,8 @@
 #ifndef CLICKGATE_H
 #define CLICKGATE_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QObject>
 
 #include <functional>
@@ -25,7 +27,7 @@ class QButtonGroup;
 /// Whoever is connected to the button's clicked() hears the click when it passes, and only then.
 /// The button owns its gate, may have one at the most, and may be in no button group. What holds a
 /// click for long keeps a QPointer to the gate: the button's dialog may close meanwhile.
-class ClickGate : public QObject
+class FILARIX_HOST_EXPORT ClickGate : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 #ifndef MESSAGE_H
 #define MESSAGE_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QDateTime>
 #include <QMetaType>
 #include <QString>
@@ -17,7 +19,7 @@
 /// and, where a message has a cause that can end, a signal
 ///
 ///     void causeEnded(const QString &cause);
-struct Message
+struct FILARIX_HOST_EXPORT Message
 {
     Q_GADGET
 

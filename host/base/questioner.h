@@ -4,6 +4,8 @@
 #ifndef QUESTIONER_H
 #define QUESTIONER_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -18,7 +20,7 @@ struct Question
 };
 
 /// Asks the operator. A host that has dialogs of its own implements this one function.
-class Questioner
+class FILARIX_HOST_EXPORT Questioner
 {
 public:
     Questioner() = default;

@@ -4,6 +4,7 @@
 #ifndef PROGRAMGUARD_H
 #define PROGRAMGUARD_H
 
+#include "base/filarixhostglobal.h"
 #include "base/message.h"
 #include "guards/windowcommands.h"
 #include "guards/windowdialogs.h"
@@ -32,7 +33,7 @@ class WMMainWindow;
 ///     ProgramGuard guard(window, "/home/hmi/cnc", &questioner);
 ///     guard.setHistory(...);
 ///     connect(&guard, &ProgramGuard::told, ...);
-class ProgramGuard : public QObject
+class FILARIX_HOST_EXPORT ProgramGuard : public QObject
 {
     Q_OBJECT
 

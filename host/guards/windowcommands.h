@@ -4,6 +4,8 @@
 #ifndef WINDOWCOMMANDS_H
 #define WINDOWCOMMANDS_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QHash>
 #include <QObject>
 
@@ -16,7 +18,7 @@ class WMMainWindow;
 ///
 ///     WindowCommands commands(window);
 ///     commands.onCommand([&](WindowCommands::Command command) { commands.pass(command); });
-class WindowCommands : public QObject
+class FILARIX_HOST_EXPORT WindowCommands : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 #ifndef WINDOWDIALOGS_H
 #define WINDOWDIALOGS_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QObject>
 
 class QDialog;
@@ -13,7 +15,7 @@ class QMessageBox;
 /// parent, so they are found as they are shown.
 ///
 /// The signals come before the dialog's own handling of its showing.
-class WindowDialogs : public QObject
+class FILARIX_HOST_EXPORT WindowDialogs : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #ifndef HISTORYSTORE_H
 #define HISTORYSTORE_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filestamp.h"
 
 #include <QByteArray>
@@ -40,7 +41,7 @@ struct ProgramVersion
 /// the newest ones alone are within the bytes.
 ///
 /// It needs no event loop. Threads may share it: a second caller waits for the first one.
-class HistoryStore
+class FILARIX_HOST_EXPORT HistoryStore
 {
     Q_DECLARE_TR_FUNCTIONS(HistoryStore)
 

@@ -24,7 +24,7 @@ const qint64 leftBehindMs = 24 * 60 * 60 * 1000;
 } // namespace
 
 /// The transfer itself, in the thread.
-class PlcTransfer::Task : public FileTask
+class Q_DECL_HIDDEN PlcTransfer::Task : public FileTask
 {
 public:
     Task(const QString &programPath, const QString &copyPath, const QString &dropDir,

@@ -4,6 +4,7 @@
 #ifndef PLCTRANSFER_H
 #define PLCTRANSFER_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filetaskrunner.h"
 
 /// Copies one program into the drop folder that stands for the PLC.
@@ -22,7 +23,7 @@
 ///     PlcTransfer transfer("/srv/plc");
 ///     connect(&transfer, &PlcTransfer::failed, ...);
 ///     transfer.start("/home/hmi/cnc/coil.cnc");
-class PlcTransfer : public QObject
+class FILARIX_HOST_EXPORT PlcTransfer : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #ifndef PROGRAMCOMPARISON_H
 #define PROGRAMCOMPARISON_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filestamp.h"
 #include "storage/filetaskrunner.h"
 
@@ -13,7 +14,7 @@
 ///
 ///     auto comparison = std::make_shared<ProgramComparison>(path, editor->toPlainText());
 ///     work.start(comparison);
-class ProgramComparison : public FileTask
+class FILARIX_HOST_EXPORT ProgramComparison : public FileTask
 {
 public:
     enum Verdict {

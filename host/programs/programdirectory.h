@@ -4,12 +4,14 @@
 #ifndef PROGRAMDIRECTORY_H
 #define PROGRAMDIRECTORY_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QString>
 
 namespace ProgramDirectory {
 
 /// Where the library looks for programs: "cnc" in the user's home, without a slash at the end.
-QString path();
+FILARIX_HOST_EXPORT QString path();
 
 } // namespace ProgramDirectory
 

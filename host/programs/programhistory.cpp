@@ -95,7 +95,7 @@ QString causeOf(const QString &name)
 } // namespace
 
 /// One look at the program directory: one program a step.
-class ProgramHistory::Scan : public FileTask
+class Q_DECL_HIDDEN ProgramHistory::Scan : public FileTask
 {
 public:
     Scan(const QString &programDir, const std::shared_ptr<HistoryStore> &store)
@@ -204,7 +204,7 @@ bool ProgramHistory::Scan::end()
 ///
 /// It is written in a folder of its own there, and then changes places with the program. What stood
 /// in that place is looked at after that: it goes once the history holds it, and else comes back.
-class ProgramHistory::Restore : public FileTask
+class Q_DECL_HIDDEN ProgramHistory::Restore : public FileTask
 {
 public:
     Restore(const ProgramVersion &version, const QString &programDir,

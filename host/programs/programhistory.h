@@ -4,6 +4,7 @@
 #ifndef PROGRAMHISTORY_H
 #define PROGRAMHISTORY_H
 
+#include "base/filarixhostglobal.h"
 #include "base/message.h"
 #include "programs/historystore.h"
 #include "storage/filetaskrunner.h"
@@ -25,7 +26,7 @@
 ///     ProgramHistory history("/home/hmi/cnc", "/home/hmi/hmi/history");
 ///     connect(&history, &ProgramHistory::told, ...);
 ///     history.whenSettled(this, [this] { writeTheFile(); });
-class ProgramHistory : public QObject
+class FILARIX_HOST_EXPORT ProgramHistory : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #ifndef PROGRAMKEEPER_H
 #define PROGRAMKEEPER_H
 
+#include "base/filarixhostglobal.h"
 #include "base/message.h"
 
 #include <QObject>
@@ -14,7 +15,7 @@ class Questioner;
 
 /// Sees to it before a write that what stands there is kept in a history, or that the operator has
 /// confirmed its loss.
-class ProgramKeeper : public QObject
+class FILARIX_HOST_EXPORT ProgramKeeper : public QObject
 {
     Q_OBJECT
 

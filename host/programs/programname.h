@@ -4,12 +4,14 @@
 #ifndef PROGRAMNAME_H
 #define PROGRAMNAME_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 /// What a program may be called.
-class ProgramName
+class FILARIX_HOST_EXPORT ProgramName
 {
     Q_DECLARE_TR_FUNCTIONS(ProgramName)
 

@@ -4,6 +4,7 @@
 #ifndef PROGRAMONDISK_H
 #define PROGRAMONDISK_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filestamp.h"
 #include "storage/filetaskrunner.h"
 
@@ -11,7 +12,7 @@
 #include <QString>
 
 /// What an operator tells a stored program by, before another one is written over it.
-class ProgramOnDisk : public FileTask
+class FILARIX_HOST_EXPORT ProgramOnDisk : public FileTask
 {
 public:
     enum Kind { Missing, File, NoFile };

@@ -4,6 +4,8 @@
 #ifndef PROGRAMOPENER_H
 #define PROGRAMOPENER_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QObject>
 #include <QString>
 
@@ -17,7 +19,7 @@ class WMMainWindow;
 /// The window knows one way to a program: its own Open, which asks for a name. The opener answers
 /// that question before anybody sees it, so the window has the file, the title and the download
 /// that belong to the program.
-class ProgramOpener : public QObject
+class FILARIX_HOST_EXPORT ProgramOpener : public QObject
 {
     Q_OBJECT
 

@@ -69,7 +69,7 @@ QString ProgramFacts::checksum(const QByteArray &hash)
 }
 
 /// The file of a copy, for threads. The lock on it says to other panels that it is wanted.
-class ProgramSnapshot::Copy
+class Q_DECL_HIDDEN ProgramSnapshot::Copy
 {
 public:
     explicit Copy(const QString &folder)
@@ -145,7 +145,7 @@ bool ProgramSnapshot::Copy::fail()
 }
 
 /// Reads a program in the thread, and copies it if there is somewhere to copy to.
-class ProgramSnapshot::Task : public FileTask
+class Q_DECL_HIDDEN ProgramSnapshot::Task : public FileTask
 {
 public:
     Task(const QString &path, const std::shared_ptr<Copy> &copy) : m_source(path), m_copy(copy)

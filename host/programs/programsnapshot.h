@@ -4,13 +4,14 @@
 #ifndef PROGRAMSNAPSHOT_H
 #define PROGRAMSNAPSHOT_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filetaskrunner.h"
 
 #include <QByteArray>
 #include <QString>
 
 /// What an operator can tell a program by.
-struct ProgramFacts
+struct FILARIX_HOST_EXPORT ProgramFacts
 {
     QString name;
     qint64 bytes = 0;
@@ -33,7 +34,7 @@ struct ProgramFacts
 ///
 /// Each take() ends in exactly one taken(), stopped() or failed(), each compare() in one
 /// compared(), never before the call has returned.
-class ProgramSnapshot : public QObject
+class FILARIX_HOST_EXPORT ProgramSnapshot : public QObject
 {
     Q_OBJECT
 

@@ -4,13 +4,14 @@
 #ifndef PROGRAMSTATE_H
 #define PROGRAMSTATE_H
 
+#include "base/filarixhostglobal.h"
 #include "base/message.h"
 
 #include <QCoreApplication>
 #include <QString>
 
 /// How what the editor shows stands to the program's file.
-class ProgramState
+class FILARIX_HOST_EXPORT ProgramState
 {
     Q_DECLARE_TR_FUNCTIONS(ProgramState)
 

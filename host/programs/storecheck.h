@@ -4,6 +4,7 @@
 #ifndef STORECHECK_H
 #define STORECHECK_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filestamp.h"
 
 #include <QObject>
@@ -19,7 +20,7 @@ class QTextDocument;
 /// back, and offers to write it again or elsewhere when it isn't there.
 ///
 /// A document whose save failed is modified again.
-class StoreCheck : public QObject
+class FILARIX_HOST_EXPORT StoreCheck : public QObject
 {
     Q_OBJECT
 

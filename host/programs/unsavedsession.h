@@ -4,6 +4,8 @@
 #ifndef UNSAVEDSESSION_H
 #define UNSAVEDSESSION_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QList>
 #include <QString>
 
@@ -13,7 +15,7 @@
 ///
 /// A lock holds it for as long as the run lasts, however that ends; a folder that nobody holds was
 /// left by a run that was killed, or whose work was to be kept. For a FileThread, not the screen's.
-class UnsavedSession
+class FILARIX_HOST_EXPORT UnsavedSession
 {
 public:
     typedef std::shared_ptr<UnsavedSession> Pointer;

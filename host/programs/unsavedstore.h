@@ -4,6 +4,7 @@
 #ifndef UNSAVEDSTORE_H
 #define UNSAVEDSTORE_H
 
+#include "base/filarixhostglobal.h"
 #include "programs/keptwork.h"
 #include "programs/unsavedsession.h"
 
@@ -18,7 +19,7 @@
 /// earlier file than the one beside it.
 ///
 /// One caller at a time, in a FileThread. Nothing is made on the disk before there is work to keep.
-class UnsavedStore
+class FILARIX_HOST_EXPORT UnsavedStore
 {
 public:
     /// Journals are no longer than this many bytes; keep() begins a new one.

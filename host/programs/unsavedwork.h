@@ -4,6 +4,7 @@
 #ifndef UNSAVEDWORK_H
 #define UNSAVEDWORK_H
 
+#include "base/filarixhostglobal.h"
 #include "base/message.h"
 #include "programs/keptwork.h"
 #include "storage/filethread.h"
@@ -24,7 +25,7 @@ class UnsavedStore;
 /// Nothing is written while nothing changes, and what is saved is dropped. The disk is written to
 /// beside the event loop, one thing at a time; a disk that is full or hangs is told once and holds
 /// nobody up.
-class UnsavedWork : public QObject
+class FILARIX_HOST_EXPORT UnsavedWork : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 #ifndef DEVICEWATCH_H
 #define DEVICEWATCH_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QMetaType>
 #include <QObject>
 #include <QTimer>
@@ -13,7 +15,7 @@
 class DeviceLooker;
 
 /// What the panel knows of the devices around it.
-struct DeviceState
+struct FILARIX_HOST_EXPORT DeviceState
 {
     /// Whether anything below is true: not so before the first look.
     bool isKnown = false;
@@ -33,7 +35,7 @@ Q_DECLARE_METATYPE(DeviceState)
 ///
 ///     DeviceWatch watch([plcDir] { return DeviceWatch::lookAt(plcDir, programDir); });
 ///     connect(&watch, &DeviceWatch::changed, strip, &StatusStrip::showDevices);
-class DeviceWatch : public QObject
+class FILARIX_HOST_EXPORT DeviceWatch : public QObject
 {
     Q_OBJECT
 

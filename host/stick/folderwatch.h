@@ -4,6 +4,7 @@
 #ifndef FOLDERWATCH_H
 #define FOLDERWATCH_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filethread.h"
 
 #include <QObject>
@@ -28,7 +29,7 @@ struct FolderState
 ///     FolderWatch watch([dir] { return FolderWatch::lookAt(dir); });
 ///     connect(&watch, &FolderWatch::changed, ...);
 ///     watch.look();
-class FolderWatch : public QObject
+class FILARIX_HOST_EXPORT FolderWatch : public QObject
 {
     Q_OBJECT
 

@@ -106,7 +106,7 @@ bool choosesUnsafeName(const ImportManage *manager)
 } // namespace
 
 /// What the folders hold at a press.
-struct ImportGuard::Look
+struct Q_DECL_HIDDEN ImportGuard::Look
 {
     bool isStickIn = false;
     QList<Unsafe> unsafe;

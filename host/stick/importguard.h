@@ -4,6 +4,7 @@
 #ifndef IMPORTGUARD_H
 #define IMPORTGUARD_H
 
+#include "base/filarixhostglobal.h"
 #include "base/message.h"
 #include "stick/transferreport.h"
 #include "storage/filejob.h"
@@ -26,7 +27,7 @@ class QMessageBox;
 /// Without a stick there are no transfers. Before a program is covered or deleted, the history
 /// takes it in; a program that it can't keep goes only after a question. What a command has come to
 /// is told.
-class ImportGuard : public QObject
+class FILARIX_HOST_EXPORT ImportGuard : public QObject
 {
     Q_OBJECT
 

@@ -62,7 +62,7 @@ bool isMountPoint(const QString &path)
 
 } // namespace
 
-class Stick::Simulation
+class Q_DECL_HIDDEN Stick::Simulation
 {
 public:
     explicit Simulation(const QString &folder) : m_folder(folder) {}

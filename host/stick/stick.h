@@ -4,6 +4,8 @@
 #ifndef STICK_H
 #define STICK_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QString>
 
 #include <memory>
@@ -20,7 +22,7 @@
 ///
 /// All that follows asks for files, and belongs into a thread where a screen must not wait. A copy
 /// is the same stick, so work in a thread may own one.
-class Stick
+class FILARIX_HOST_EXPORT Stick
 {
 public:
     /// \a folder stands in for the stick; an empty one leaves everything to the system.

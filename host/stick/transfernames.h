@@ -4,6 +4,8 @@
 #ifndef TRANSFERNAMES_H
 #define TRANSFERNAMES_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -15,7 +17,7 @@
 ///         if (!TransferNames::rename(stick, name, safe))
 ///             refuse(stick);
 ///     }
-class TransferNames
+class FILARIX_HOST_EXPORT TransferNames
 {
 public:
     /// Whether every command line takes \a name for what it is: it starts with an ASCII letter,

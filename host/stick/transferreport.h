@@ -4,13 +4,14 @@
 #ifndef TRANSFERREPORT_H
 #define TRANSFERREPORT_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filestamp.h"
 
 #include <QString>
 
 /// What a command of the import manager has come to, judged by what lies in the folders before and
 /// after: the manager tells nobody.
-class TransferReport
+class FILARIX_HOST_EXPORT TransferReport
 {
 public:
     enum Command { CopyToStick, CopyToPanel, DeleteFromPanel, DeleteFromStick };

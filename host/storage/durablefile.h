@@ -4,6 +4,8 @@
 #ifndef DURABLEFILE_H
 #define DURABLEFILE_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -18,7 +20,7 @@
 ///     DurableFile file(path);
 ///     if (!file.open() || !file.write(bytes) || !file.commit())
 ///         tell(file.errorString());
-class DurableFile
+class FILARIX_HOST_EXPORT DurableFile
 {
 public:
     explicit DurableFile(const QString &path);

@@ -4,6 +4,7 @@
 #ifndef FILEJOB_H
 #define FILEJOB_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filetaskrunner.h"
 
 #include <functional>
@@ -13,7 +14,7 @@
 ///     const std::shared_ptr<Rows> rows = std::make_shared<Rows>();
 ///     m_job.run([rows, path] { rows->read(path); }, [this, rows] { show(*rows); },
 ///               [this] { tellThatStorageHangs(); });
-class FileJob : public QObject
+class FILARIX_HOST_EXPORT FileJob : public QObject
 {
     Q_OBJECT
 

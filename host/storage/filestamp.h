@@ -4,6 +4,8 @@
 #ifndef FILESTAMP_H
 #define FILESTAMP_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QtGlobal>
 
 class QFile;
@@ -13,7 +15,7 @@ class QString;
 ///
 /// Two equal stamps do not rule out a write within the few milliseconds in which a file system's
 /// clock stands: see age().
-struct FileStamp
+struct FILARIX_HOST_EXPORT FileStamp
 {
     qint64 size = -1;
     qint64 inode = 0;

@@ -4,6 +4,7 @@
 #ifndef FILETASKQUEUE_H
 #define FILETASKQUEUE_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filetaskrunner.h"
 
 #include <QQueue>
@@ -11,7 +12,7 @@
 #include <functional>
 
 /// Runs FileTasks one after the other beside the event loop.
-class FileTaskQueue : public QObject
+class FILARIX_HOST_EXPORT FileTaskQueue : public QObject
 {
     Q_OBJECT
 

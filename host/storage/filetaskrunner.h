@@ -4,6 +4,7 @@
 #ifndef FILETASKRUNNER_H
 #define FILETASKRUNNER_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filethread.h"
 
 #include <QScopedPointer>
@@ -23,7 +24,7 @@
 ///         return false;
 ///     rename(...);
 ///     endChange();
-class FileTask
+class FILARIX_HOST_EXPORT FileTask
 {
 public:
     FileTask() = default;
@@ -62,7 +63,7 @@ private:
 ///
 /// Each start() ends in exactly one ended(), stopped() or stalled(), never before start() has
 /// returned.
-class FileTaskRunner : public QObject
+class FILARIX_HOST_EXPORT FileTaskRunner : public QObject
 {
     Q_OBJECT
 

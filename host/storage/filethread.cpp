@@ -15,7 +15,7 @@ const int partingMs = 100;
 } // namespace
 
 /// Where answers go; nowhere once the owner is gone, while its last piece of work may still run.
-struct FileThread::Link
+struct Q_DECL_HIDDEN FileThread::Link
 {
     bool hasOwner()
     {

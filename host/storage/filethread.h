@@ -4,6 +4,8 @@
 #ifndef FILETHREAD_H
 #define FILETHREAD_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QObject>
 
 #include <functional>
@@ -14,7 +16,7 @@ class QThread;
 /// A thread for work on files: a slow disk, or a PLC that hangs, never stops the screen.
 ///
 ///     m_thread.post([job] { job->copyPiece(); }, [this] { showProgress(); });
-class FileThread : public QObject
+class FILARIX_HOST_EXPORT FileThread : public QObject
 {
     Q_OBJECT
 

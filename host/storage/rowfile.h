@@ -4,6 +4,8 @@
 #ifndef ROWFILE_H
 #define ROWFILE_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -15,13 +17,13 @@
 namespace RowFile {
 
 /// What write() writes.
-QByteArray bytes(const QString &comment, const QList<QStringList> &rows);
+FILARIX_HOST_EXPORT QByteArray bytes(const QString &comment, const QList<QStringList> &rows);
 /// Writes the rows under \a comment. The file is replaced as a whole or stays as it was. On
 /// failure \a error says why in words.
-bool write(const QString &path, const QString &comment, const QList<QStringList> &rows,
-           QString *error);
+FILARIX_HOST_EXPORT bool write(const QString &path, const QString &comment,
+                               const QList<QStringList> &rows, QString *error);
 /// Reads the rows back; null rows and an \a error when the file can't be read or isn't UTF-8.
-bool read(const QString &path, QList<QStringList> *rows, QString *error);
+FILARIX_HOST_EXPORT bool read(const QString &path, QList<QStringList> *rows, QString *error);
 
 } // namespace RowFile
 

@@ -4,6 +4,7 @@
 #ifndef ROWKEEPER_H
 #define ROWKEEPER_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filejob.h"
 
 #include <QList>
@@ -14,7 +15,7 @@
 ///
 ///     RowKeeper keeper("Taught program", &TaughtProgram::load);
 ///     keeper.load(path, [this](const RowKeeper::Loaded &loaded) { ... });
-class RowKeeper : public QObject
+class FILARIX_HOST_EXPORT RowKeeper : public QObject
 {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 #ifndef SETTINGSFILE_H
 #define SETTINGSFILE_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QByteArray>
 #include <QMap>
 #include <QMutex>
@@ -11,7 +13,7 @@
 #include <QWaitCondition>
 
 /// The file behind Settings. One thread reads and writes it; any thread may ask for its state().
-class SettingsFile
+class FILARIX_HOST_EXPORT SettingsFile
 {
 public:
     enum Trouble { None, PutAside, NotPutAside, NotStored };
