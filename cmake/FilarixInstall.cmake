@@ -6,14 +6,18 @@
 #   runtime         libFilarixModule.so.1, all that a panel needs of us
 #   development     headers, the link name, and the CMake, pkg-config and qmake packages
 #   l10n            the library's translations, which hosts load
+#   host            libFilarixHost.so.1, the companion
+#   host-development  its headers, its link name and its CMake, pkg-config and qmake packages
+#   host-l10n       its translations
 #   designer        the Qt Designer plugin
 #   device-headers  the interface of the panel's device library, for hosts that use it themselves
 #   simulator       the stand-in device library with its translations
 #   panel           filarix-panel with its manual page and its translations
 #   doc             documentation for hosts' developers
 #
-# A plain install takes the first three. The others are installed by name only, so that the stand-in
-# never reaches a panel by accident. Everything may be moved as a whole, lie in a sysroot or be
+# A plain install takes the first six, or the first three where the companion is not built. The first
+# three alone make a whole library. The others are installed by name only, so that the stand-in never
+# reaches a panel by accident. Everything may be moved as a whole, lie in a sysroot or be
 # installed with DESTDIR: the packages find their files from where they are themselves.
 
 include(CMakePackageConfigHelpers)
@@ -56,6 +60,52 @@ set(FILARIX_PUBLIC_HEADERS
   transfer/importmanage.h
   transfer/messagebox.h
   window/wmmainwindow.h
+)
+
+# The same of the companion: every header with an exported class or function, and no other. What is
+# left out may change without a host noticing.
+set(FILARIX_HOST_PUBLIC_HEADERS
+  base/clickgate.h
+  base/filarixhostglobal.h
+  base/message.h
+  base/questioner.h
+  guards/finddialogkeypad.h
+  guards/programguard.h
+  guards/windowcommands.h
+  guards/windowdialogs.h
+  programs/historystore.h
+  programs/keptwork.h
+  programs/plctransfer.h
+  programs/programcomparison.h
+  programs/programdirectory.h
+  programs/programhistory.h
+  programs/programkeeper.h
+  programs/programname.h
+  programs/programondisk.h
+  programs/programopener.h
+  programs/programsnapshot.h
+  programs/programstate.h
+  programs/storecheck.h
+  programs/unsavedsession.h
+  programs/unsavedstore.h
+  programs/unsavedwork.h
+  stick/devicewatch.h
+  stick/folderwatch.h
+  stick/importguard.h
+  stick/stick.h
+  stick/transfernames.h
+  stick/transferreport.h
+  storage/connectionfile.h
+  storage/durablefile.h
+  storage/filejob.h
+  storage/filestamp.h
+  storage/filetaskqueue.h
+  storage/filetaskrunner.h
+  storage/filethread.h
+  storage/rowfile.h
+  storage/rowkeeper.h
+  storage/settingsfile.h
+  storage/writeleave.h
 )
 
 # The way from one installed folder to another.
@@ -120,6 +170,31 @@ filarix_relative_path(FILARIX_TRANSLATIONS_FROM_FEATURES
 configure_file(cmake/filarixmodule.prf.in filarixmodule.prf @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixmodule.prf"
   DESTINATION "${FILARIX_QMAKE_FEATURES_DIR}" COMPONENT development)
+
+# The companion: find_package(FilarixModule COMPONENTS Host), pkg-config filarixhost and
+# CONFIG += filarixhost.
+if(TARGET FilarixHost)
+  set_target_properties(FilarixHost PROPERTIES EXPORT_NAME Host INSTALL_RPATH "$ORIGIN")
+  target_include_directories(FilarixHost INTERFACE
+    $<INSTALL_INTERFACE:${FILARIX_INSTALL_HEADERDIR}/host>)
+  install(TARGETS FilarixHost
+    EXPORT FilarixHostTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+      COMPONENT host NAMELINK_COMPONENT host-development)
+  foreach(header IN LISTS FILARIX_HOST_PUBLIC_HEADERS)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES "host/${header}"
+      DESTINATION "${FILARIX_INSTALL_HEADERDIR}/host/${folder}" COMPONENT host-development)
+  endforeach()
+  install(EXPORT FilarixHostTargets FILE FilarixModuleHostTargets.cmake
+    NAMESPACE Filarix:: DESTINATION "${FILARIX_INSTALL_CMAKEDIR}" COMPONENT host-development)
+  configure_file(cmake/filarixhost.pc.in filarixhost.pc @ONLY)
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixhost.pc"
+    DESTINATION "${pkgconfig_dir}" COMPONENT host-development)
+  configure_file(cmake/filarixhost.prf.in filarixhost.prf @ONLY)
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixhost.prf"
+    DESTINATION "${FILARIX_QMAKE_FEATURES_DIR}" COMPONENT host-development)
+endif()
 
 function(filarix_install_translations name)
   set(files "")

@@ -4,6 +4,8 @@
 #ifndef KEPTWORK_H
 #define KEPTWORK_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QMap>
@@ -11,7 +13,7 @@
 #include <QStringList>
 
 /// In a text, \a removed characters at \a position gave way to \a added.
-struct TextChange
+struct FILARIX_HOST_EXPORT TextChange
 {
     int position = 0;
     int removed = 0;
@@ -19,7 +21,7 @@ struct TextChange
 };
 
 /// What unsaved work belongs to, and how it stood.
-struct KeptHead
+struct FILARIX_HOST_EXPORT KeptHead
 {
     /// The file; empty for none.
     QString path;
@@ -34,7 +36,7 @@ inline bool operator==(const KeptHead &a, const KeptHead &b)
 }
 
 /// The unsaved work of one screen.
-struct KeptWork
+struct FILARIX_HOST_EXPORT KeptWork
 {
     /// Which screen, in a word of small letters: "program".
     QString subject;

@@ -4,11 +4,13 @@
 #ifndef WRITELEAVE_H
 #define WRITELEAVE_H
 
+#include "base/filarixhostglobal.h"
+
 #include <atomic>
 
 /// Decides between a write in a thread and whoever has stopped waiting for it: of take() and
 /// withdraw() the first one wins. So what was reported as not stored stays so.
-class WriteLeave
+class FILARIX_HOST_EXPORT WriteLeave
 {
 public:
     /// The write may replace the file, and nobody can keep it from that any more.

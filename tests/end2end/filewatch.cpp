@@ -93,7 +93,8 @@ std::string way()
         const std::string file = fileOf(info);
         if (!isPrograms && file.compare(0, 16, "libFilarixModule") == 0)
             return std::string();
-        isPrograms = isPrograms || file.compare(0, 13, "filarix-panel") == 0;
+        isPrograms = isPrograms || file.compare(0, 13, "filarix-panel") == 0
+                     || file.compare(0, 14, "libFilarixHost") == 0;
         const std::string symbol = info.dli_sname ? info.dli_sname : "";
         if (!isPrograms && symbol.find(libraryModel) != std::string::npos)
             return std::string();
