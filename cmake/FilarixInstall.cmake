@@ -205,6 +205,9 @@ function(filarix_install_translations name)
 endfunction()
 if(FILARIX_TRANSLATIONS)
   filarix_install_translations(filarix COMPONENT l10n)
+  if(TARGET FilarixHost)
+    filarix_install_translations(filarixhost COMPONENT host-l10n)
+  endif()
 endif()
 
 set(FILARIX_DESIGNER_PLUGIN_DIR "${CMAKE_INSTALL_LIBDIR}/qt5/plugins/designer" CACHE STRING

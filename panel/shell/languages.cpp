@@ -71,6 +71,7 @@ bool Languages::use(const QString &code)
         const QPair<const char *, bool> files[] = {{"qtbase", false},
                                                    {"hmidevice-sim", false},
                                                    {"filarix", true},
+                                                   {"filarixhost", true},
                                                    {"filarix-panel", true}};
         for (const QPair<const char *, bool> &file : files) {
             QTranslator *translator = new QTranslator;

@@ -13,9 +13,9 @@ class Settings;
 
 /// The languages that the panel speaks, and the one in which it does now.
 ///
-/// A language has a translation each of the library, of the keypads of the stand-in device library,
-/// of the panel program and of the toolkit. The widgets learn of a change by
-/// QEvent::LanguageChange.
+/// A language has a translation each of the library, of its companion, of the keypads of the
+/// stand-in device library, of the panel program and of the toolkit. The widgets learn of a change
+/// by QEvent::LanguageChange.
 ///
 ///     Languages languages(folders, &settings);
 ///     languages.use(languages.preferred());

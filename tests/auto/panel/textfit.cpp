@@ -410,7 +410,8 @@ QStringList TextFit::exceptions()
 LongestTranslator::LongestTranslator(const QString &folder, QObject *parent) : QTranslator(parent)
 {
     for (const char *language : {"de", "it", "tr", "zh_CN"}) {
-        for (const char *name : {"filarix", "filarix-panel", "hmidevice-sim", "qtbase"}) {
+        for (const char *name :
+             {"filarix", "filarixhost", "filarix-panel", "hmidevice-sim", "qtbase"}) {
             QTranslator *translator = new QTranslator(this);
             const QString file =
                 QString::fromLatin1("%1_%2").arg(QLatin1String(name), QLatin1String(language));

@@ -360,7 +360,7 @@ void TestTranslations::everyLanguageHasEveryFile()
 {
     QStringList expected;
     for (const char *language : languages) {
-        for (const char *name : {"filarix", "filarix-panel", "hmidevice-sim"})
+        for (const char *name : {"filarix", "filarix-panel", "filarixhost", "hmidevice-sim"})
             expected << QString::fromLatin1("%1_%2.ts")
                             .arg(QLatin1String(name), QLatin1String(language));
     }

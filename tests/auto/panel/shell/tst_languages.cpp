@@ -195,6 +195,8 @@ void TestLanguages::everyLanguageIsSpoken()
     QCOMPARE(languages.shortName(), code.left(2).toUpper());
     QVERIFY(translated("WMMainWindow", "Open") != "Open");
     QVERIFY(translated("PanelWindow", "Connections") != "Connections");
+    const char stopped[] = "The download was stopped. The PLC keeps what it had.";
+    QVERIFY(translated("PlcTransfer", stopped) != stopped);
     QVERIFY(translated("KeypadCheck", "Not a number") != "Not a number");
     QVERIFY(translated("QPlatformTheme", "Cancel") != "Cancel");
 
@@ -231,7 +233,7 @@ void TestLanguages::theProgramsOwnFolderComesFirst()
     const QString own = home() + "/own";
     QVERIFY(QDir().mkpath(own));
     // Another language under the name, to be told apart.
-    for (const char *name : {"filarix", "filarix-panel"})
+    for (const char *name : {"filarix", "filarixhost", "filarix-panel"})
         QVERIFY(QFile::copy(QString("%1/%2_it.qm").arg(FILARIX_TRANSLATIONS, name),
                             QString("%1/%2_de.qm").arg(own, name)));
     Settings settings(settingsFile());

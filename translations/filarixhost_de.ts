@@ -1,0 +1,624 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>ConnectionFile</name>
+    <message>
+        <source>%1 cannot be made: %2.</source>
+        <translation>%1 lässt sich nicht anlegen: %2.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s temporary storage is full</source>
+        <translation>der Zwischenspeicher des Panels ist voll</translation>
+    </message>
+    <message>
+        <source>the file was changed meanwhile. Edit them once more</source>
+        <translation>die Datei wurde inzwischen geändert. Adressen noch einmal ändern</translation>
+    </message>
+    <message>
+        <source>the disk holds something else</source>
+        <translation>auf dem Datenträger steht etwas anderes</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The connections cannot be read: the panel&apos;s temporary storage is full.</source>
+        <translation>Die Verbindungen sind nicht lesbar: Der Zwischenspeicher des Panels ist voll.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1.</source>
+        <translation>Die Adressen sind nicht gespeichert: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The history has no place: the folder %1 cannot be made.</source>
+        <translation>Kein Platz für den Verlauf: Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for the history.</source>
+        <translation>%1 ist zu groß für den Verlauf.</translation>
+    </message>
+    <message>
+        <source>The history cannot read %1: %2.</source>
+        <translation>Der Verlauf kann %1 nicht lesen: %2.</translation>
+    </message>
+    <message>
+        <source>The history cannot keep %1: %2.</source>
+        <translation>Der Verlauf kann %1 nicht sichern: %2.</translation>
+    </message>
+    <message>
+        <source>The history has no room for %1 beside the other programs.</source>
+        <translation>Der Verlauf hat neben den anderen Programmen keinen Platz für %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportGuard</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>The transfer would not take these file names for what they are. Rename?</source>
+        <translation>Die Übertragung würde diese Dateinamen falsch verstehen. Umbenennen?</translation>
+    </message>
+    <message>
+        <source>File names</source>
+        <translation>Dateinamen</translation>
+    </message>
+    <message>
+        <source>Not renamed. Import and export stay closed until the names are safe.</source>
+        <translation>Nicht umbenannt. Import und Export bleiben gesperrt, bis die Namen sicher sind.</translation>
+    </message>
+    <message>
+        <source>Files that could not be renamed: %1. Is the stick write-protected?</source>
+        <translation>Nicht umbenennbare Dateien: %1. Ist der Stick schreibgeschützt?</translation>
+    </message>
+    <message>
+        <source>Files renamed: %1.</source>
+        <translation>Umbenannte Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
+        <translation>Keine Übertragung: Der Pfad %1 enthält Zeichen, die die Übertragung falsch verstehen würde.</translation>
+    </message>
+    <message>
+        <source>One moment: the panel looks at the programs and the stick.</source>
+        <translation>Einen Moment: Das Panel prüft die Programme und den Stick.</translation>
+    </message>
+    <message>
+        <source>No stick is in: nothing was copied or deleted.</source>
+        <translation>Kein Stick steckt: Nichts wurde kopiert oder gelöscht.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
+        <translation>Der Stick antwortet nicht: Nichts wurde kopiert, gelöscht oder umbenannt. Abziehen und wieder einstecken.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the stick, and compared.</source>
+        <translation>%1 ist auf den Stick kopiert und verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the panel, and compared.</source>
+        <translation>%1 ist auf das Panel kopiert und verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the stick.</source>
+        <translation>%1 ist vom Stick gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the panel.</source>
+        <translation>%1 ist vom Panel gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied.</source>
+        <translation>%1 wurde nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the one on the stick is gone.</source>
+        <translation>%1 wurde nicht kopiert, und das auf dem Stick ist weg.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the panel&apos;s own is gone: bring it back from the history.</source>
+        <translation>%1 wurde nicht kopiert, und das auf dem Panel ist weg: aus dem Verlauf zurückholen.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
+        <translation>Die Kopie von %1 weicht vom Original ab. Ist noch Platz? Noch einmal kopieren.</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
+        <translation>%1 Was %2 jetzt ist, ließe sich nicht zurückholen. Trotzdem weiter?</translation>
+    </message>
+</context>
+<context>
+    <name>PickerGuard</name>
+    <message>
+        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
+        <translation>%1 ist an den Namen angefügt. Mit OK übernehmen oder wieder entfernen.</translation>
+    </message>
+</context>
+<context>
+    <name>PlcTransfer</name>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>The PLC does not answer: there is no folder %1.</source>
+        <translation>Die SPS antwortet nicht: Der Ordner %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>The PLC folder is the program directory itself. Choose another one.</source>
+        <translation>Der SPS-Ordner ist das Programmverzeichnis selbst. Einen anderen wählen.</translation>
+    </message>
+    <message>
+        <source>The program %1 is larger than the PLC takes (%2 MB).</source>
+        <translation>Das Programm %1 ist größer, als die SPS annimmt (%2 MB).</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The PLC does not take the program: %1.</source>
+        <translation>Die SPS nimmt das Programm nicht an: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC cannot be read back: %1.</source>
+        <translation>Rücklesen aus der SPS ist nicht möglich: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
+        <translation>In der SPS ist etwas anderes angekommen als gesendet. Es wurde wieder entfernt; bitte erneut senden.</translation>
+    </message>
+    <message>
+        <source>The download was stopped before the program in the PLC was compared. Download it once more.</source>
+        <translation>Vor dem Vergleich mit der SPS gestoppt. Das Programm erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
+        <translation>Die SPS antwortet mitten im Senden nicht mehr. SPS und Kabel prüfen, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
+        <translation>Die Kopie von %1 hat sich seit dem Anzeigen geändert und wurde nicht gesendet. Erneut senden.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC does not say that it is stored: %2. Download once more.</source>
+        <translation>%1 ist in der SPS, doch sie bestätigt das Speichern nicht: %2. Erneut senden.</translation>
+    </message>
+    <message>
+        <source>What is in the PLC as %1 differs from what was sent. Do not run it; download once more.</source>
+        <translation>%1 in der SPS weicht vom Gesendeten ab. Nicht starten; erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
+        <translation>Die SPS hat noch nicht gemeldet, was aus der letzten Übertragung wurde. Abwarten oder SPS aus- und einschalten, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
+        <translation>Die SPS antwortet bei der Übernahme von %1 nicht mehr: Ob sie das alte oder das neue hält, ist unbekannt. SPS prüfen, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
+        <translation>%1 ist in der SPS, doch sie antwortet seit vor dem Vergleich nicht mehr. SPS prüfen, dann erneut senden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramGuard</name>
+    <message>
+        <source>A program is being loaded. Wait until all of it is here.</source>
+        <translation>Ein Programm wird geladen. Warten, bis alles da ist.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s storage does not answer</source>
+        <translation>der Speicher des Panels antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save without them</source>
+        <translation>Ohne sie sichern</translation>
+    </message>
+    <message>
+        <source>Save as shown</source>
+        <translation>Wie gezeigt sichern</translation>
+    </message>
+    <message>
+        <source>Other name</source>
+        <translation>Anderer Name</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Do not switch off: the whole program is only in the editor.</source>
+        <translation>%1 ist nicht gespeichert: %2. Nicht ausschalten: Das ganze Programm steht nur im Editor.</translation>
+    </message>
+    <message>
+        <source>%1 saved, %2 lines.</source>
+        <translation>%1 gespeichert, %2 Zeilen.</translation>
+    </message>
+    <message>
+        <source>%1 has characters that the file cannot hold; they were replaced.</source>
+        <translation>%1 enthält Zeichen, die die Datei nicht aufnehmen kann; sie wurden ersetzt.</translation>
+    </message>
+    <message>
+        <source>%1 is on the stick as %2. On the panel it is not stored: %3.</source>
+        <translation>%1 ist auf dem Stick als %2. Auf dem Panel ist es nicht gespeichert: %3.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file. Take another name.</source>
+        <translation>%1 ist keine Programmdatei. Einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
+        <translation>%1 ist schon da: %2 Zeilen, vom %3. Mit diesem Programm überschreiben, %4 Zeilen?</translation>
+    </message>
+    <message>
+        <source>Write over it</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>%1 is open, with changes that are not saved. They are lost with it.</source>
+        <translation>%1 ist offen und hat ungespeicherte Änderungen. Sie gehen mit verloren.</translation>
+    </message>
+    <message>
+        <source>Remove it</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed: it is still there.</source>
+        <translation>%1 ließ sich nicht löschen: Es ist noch da.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramHistory</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is not in the history any more.</source>
+        <translation>Diese Fassung von %1 ist nicht mehr im Verlauf.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
+        <translation>Diese Fassung von %1 ist beschädigt und wurde nicht zurückgeholt. Die davor versuchen.</translation>
+    </message>
+    <message>
+        <source>%1 is brought back: %2 %</source>
+        <translation>%1 wird zurückgeholt: %2 %</translation>
+    </message>
+    <message>
+        <source>Stopped. %1 is as it was.</source>
+        <translation>Gestoppt. %1 ist unverändert.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering; %1 was not brought back.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr; %1 wurde nicht zurückgeholt.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr: Der Verlauf sichert nichts mehr. Das Panel aus- und einschalten.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back.</source>
+        <translation>%1 wurde nicht zurückgeholt.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: what it is now cannot be kept in the history first.</source>
+        <translation>%1 wurde nicht zurückgeholt: Der jetzige Stand lässt sich nicht vorher sichern.</translation>
+    </message>
+    <message>
+        <source>%1 is back as of %2. Open it to see it.</source>
+        <translation>%1 ist zurück, Stand %2. Zum Ansehen öffnen.</translation>
+    </message>
+    <message>
+        <source>%1 is back, but it is not certain that it is stored: %2.</source>
+        <translation>%1 ist zurück, doch ob es gespeichert ist, ist nicht sicher: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: it is being written. Try again when that is over.</source>
+        <translation>%1 wurde nicht zurückgeholt: Es wird gerade geschrieben. Danach noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The history has not taken in %1 yet.</source>
+        <translation>Der Verlauf hat %1 noch nicht gesichert.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
+        <translation>%1 wurde nicht zurückgeholt: Der Speicher des Panels hat das letzte Zurückholen noch nicht beendet. Das Panel aus- und einschalten.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
+        <translation>Der Speicher des Panels antwortet beim Zurückholen von %1 nicht mehr: Welche Fassung es jetzt ist, ist unbekannt. Das Panel aus- und einschalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramKeeper</name>
+    <message>
+        <source>One moment: the history takes in the program first.</source>
+        <translation>Einen Moment: Der Verlauf sichert erst das Programm.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 Der jetzige Stand von %2 ginge verloren.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Trotzdem</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Give the program a name.</source>
+        <translation>Dem Programm einen Namen geben.</translation>
+    </message>
+    <message>
+        <source>A name holds no &quot;/&quot;: programs lie in one folder.</source>
+        <translation>Ein Name enthält kein „/“: Alle Programme liegen in einem Ordner.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
+        <translation>Ein Name mit einem Punkt am Anfang fehlt in den Listen. Einen anderen wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramSnapshot</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be held for the download: %2.</source>
+        <translation>Das Programm %1 lässt sich nicht zum Senden bereitlegen: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is being written. Download it when that is over.</source>
+        <translation>Das Programm %1 wird gerade geschrieben. Danach senden.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr. Panel aus- und einschalten, dann erneut senden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramState</name>
+    <message>
+        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
+        <translation>%1 Zeilen in der Datei, %2 gezeigt: ohne Kommentare und Leerzeilen</translation>
+    </message>
+    <message>
+        <source>Not compared with the file: %1</source>
+        <translation>Nicht mit der Datei verglichen: %1</translation>
+    </message>
+    <message>
+        <source>Not as in the file: it has characters that cannot be shown, or has changed</source>
+        <translation>Nicht wie in der Datei: Sie enthält nicht darstellbare Zeichen oder wurde geändert</translation>
+    </message>
+    <message>
+        <source>Not as in the file: %1 lines there, %2 shown</source>
+        <translation>Nicht wie in der Datei: dort %1 Zeilen, gezeigt %2</translation>
+    </message>
+    <message>
+        <source>Incomplete: %1 lines in the file, %2 shown</source>
+        <translation>Unvollständig: %1 Zeilen in der Datei, %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2</source>
+        <translation>%1 ist nicht gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
+        <translation>%1 hat %2 Zeilen in der Datei, gezeigt sind %3. Sichern nimmt Kommentare und Leerzeilen aus der Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
+        <translation>%1 ist anders gezeigt, als die Datei es hat. Sichern ersetzt die Datei durch das Gezeigte.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Save it first.</source>
+        <translation>%1 ist nicht gespeichert: %2. Erst sichern.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
+        <translation>Nur ein Teil von %1 ist da: Sichern oder Senden verlöre den Rest. Erneut öffnen oder den Teil unter anderem Namen sichern.</translation>
+    </message>
+</context>
+<context>
+    <name>RowFile</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a text file.</source>
+        <translation>%1 ist keine Textdatei.</translation>
+    </message>
+</context>
+<context>
+    <name>RowKeeper</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; what could not be read is %2.</source>
+        <translation>%1 fehlt; was nicht lesbar war, heißt %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2.</source>
+        <translation>%1 ist nicht gespeichert: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the file that stands there cannot be put aside: %2.</source>
+        <translation>%1 ist nicht gespeichert: Die vorhandene Datei lässt sich nicht beiseitelegen: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>%1 ist nicht lesbar: Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the panel&apos;s storage does not answer.</source>
+        <translation>%1 ist nicht gespeichert: Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether %1 is stored.</source>
+        <translation>Der Speicher des Panels antwortet nicht: Ob %1 gespeichert ist, ist unbekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>Stick</name>
+    <message>
+        <source>The stick is the panel&apos;s own: plug it into the panel.</source>
+        <translation>Der Stick ist ein echter: in das Panel stecken.</translation>
+    </message>
+    <message>
+        <source>Another stick is plugged: %1 is there already.</source>
+        <translation>Ein anderer Stick steckt: %1 ist schon da.</translation>
+    </message>
+    <message>
+        <source>The folder %1, which stands for the stick, cannot be made.</source>
+        <translation>Der Ordner %1, der für den Stick steht, lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>The marker %1 cannot be made: %2.</source>
+        <translation>Die Markierung %1 lässt sich nicht anlegen: %2.</translation>
+    </message>
+    <message>
+        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
+        <translation>Der Einhängepunkt %1 gehört nicht diesem Programm. Um einen Stick auszuprobieren, mit „./run --stick DIR“ starten.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreCheck</name>
+    <message>
+        <source>the panel&apos;s storage stopped answering</source>
+        <translation>der Speicher des Panels antwortet nicht mehr</translation>
+    </message>
+    <message>
+        <source>the file holds something else than the editor</source>
+        <translation>in der Datei steht etwas anderes als im Editor</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
+        <translation>%1 ist nicht gespeichert: %2. Das ganze Programm steht nur im Editor.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal</translation>
+    </message>
+    <message>
+        <source>Save to the stick</source>
+        <translation>Auf den Stick</translation>
+    </message>
+    <message>
+        <source>the stick stopped answering</source>
+        <translation>der Stick antwortet nicht mehr</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick (%1)</source>
+        <translation>weder hier noch auf dem Stick (%1)</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, which is out</source>
+        <translation>weder hier noch auf dem Stick, der nicht steckt</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedWork</name>
+    <message>
+        <source>the storage does not answer</source>
+        <translation>der Speicher antwortet nicht</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
+        <translation>Ungespeichertes lässt sich nicht gegen Stromausfall sichern: %1. Bald speichern.</translation>
+    </message>
+</context>
+</TS>

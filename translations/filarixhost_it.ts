@@ -1,0 +1,624 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>ConnectionFile</name>
+    <message>
+        <source>%1 cannot be made: %2.</source>
+        <translation>Impossibile creare %1: %2.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s temporary storage is full</source>
+        <translation>la memoria temporanea del pannello è piena</translation>
+    </message>
+    <message>
+        <source>the file was changed meanwhile. Edit them once more</source>
+        <translation>il file è stato modificato nel frattempo. Modificarli di nuovo</translation>
+    </message>
+    <message>
+        <source>the disk holds something else</source>
+        <translation>sul disco c&apos;è altro</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 è troppo grande.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>The connections cannot be read: the panel&apos;s temporary storage is full.</source>
+        <translation>Impossibile leggere le connessioni: la memoria temporanea del pannello è piena.</translation>
+    </message>
+    <message>
+        <source>The addresses are not stored: %1.</source>
+        <translation>Gli indirizzi non sono salvati: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The history has no place: the folder %1 cannot be made.</source>
+        <translation>Nessun posto per lo storico: impossibile creare la cartella %1.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for the history.</source>
+        <translation>%1 è troppo grande per lo storico.</translation>
+    </message>
+    <message>
+        <source>The history cannot read %1: %2.</source>
+        <translation>Lo storico non può leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>The history cannot keep %1: %2.</source>
+        <translation>Lo storico non può salvare %1: %2.</translation>
+    </message>
+    <message>
+        <source>The history has no room for %1 beside the other programs.</source>
+        <translation>Lo storico non ha posto per %1 accanto agli altri programmi.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportGuard</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>The transfer would not take these file names for what they are. Rename?</source>
+        <translation>Il trasferimento interpreterebbe male questi nomi di file. Rinominarli?</translation>
+    </message>
+    <message>
+        <source>File names</source>
+        <translation>Nomi dei file</translation>
+    </message>
+    <message>
+        <source>Not renamed. Import and export stay closed until the names are safe.</source>
+        <translation>Non rinominati. Importazione ed esportazione restano chiuse finché i nomi non sono sicuri.</translation>
+    </message>
+    <message>
+        <source>Files that could not be renamed: %1. Is the stick write-protected?</source>
+        <translation>File non rinominabili: %1. La chiavetta è protetta da scrittura?</translation>
+    </message>
+    <message>
+        <source>Files renamed: %1.</source>
+        <translation>File rinominati: %1.</translation>
+    </message>
+    <message>
+        <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
+        <translation>Nessun trasferimento: il percorso %1 contiene caratteri che il trasferimento interpreterebbe male.</translation>
+    </message>
+    <message>
+        <source>One moment: the panel looks at the programs and the stick.</source>
+        <translation>Un momento: il pannello controlla i programmi e la chiavetta.</translation>
+    </message>
+    <message>
+        <source>No stick is in: nothing was copied or deleted.</source>
+        <translation>Nessuna chiavetta inserita: nulla è stato copiato o eliminato.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Storico</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: nothing was copied, deleted or renamed. Pull it and plug it in again.</source>
+        <translation>La chiavetta non risponde: nulla è stato copiato, eliminato o rinominato. Toglierla e inserirla di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the stick, and compared.</source>
+        <translation>%1 è copiato sulla chiavetta e confrontato.</translation>
+    </message>
+    <message>
+        <source>%1 is copied to the panel, and compared.</source>
+        <translation>%1 è copiato sul pannello e confrontato.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the stick.</source>
+        <translation>%1 è eliminato dalla chiavetta.</translation>
+    </message>
+    <message>
+        <source>%1 is deleted from the panel.</source>
+        <translation>%1 è eliminato dal pannello.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied.</source>
+        <translation>%1 non è stato copiato.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the one on the stick is gone.</source>
+        <translation>%1 non è stato copiato, e quello sulla chiavetta non c&apos;è più.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied, and the panel&apos;s own is gone: bring it back from the history.</source>
+        <translation>%1 non è stato copiato, e quello sul pannello non c&apos;è più: ripristinarlo dallo storico.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 is not what was to be copied. Is there space left? Copy it once more.</source>
+        <translation>La copia di %1 è diversa dall&apos;originale. C&apos;è ancora spazio? Copiarlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
+        <translation>%1 Ciò che %2 è ora non si potrebbe recuperare. Continuare comunque?</translation>
+    </message>
+</context>
+<context>
+    <name>PickerGuard</name>
+    <message>
+        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
+        <translation>%1 è aggiunto al nome. Premere OK per accettare, o toglierlo.</translation>
+    </message>
+</context>
+<context>
+    <name>PlcTransfer</name>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>The PLC does not answer: there is no folder %1.</source>
+        <translation>Il PLC non risponde: manca la cartella %1.</translation>
+    </message>
+    <message>
+        <source>The PLC folder is the program directory itself. Choose another one.</source>
+        <translation>La cartella del PLC è la directory dei programmi stessa. Sceglierne un&apos;altra.</translation>
+    </message>
+    <message>
+        <source>The program %1 is larger than the PLC takes (%2 MB).</source>
+        <translation>Il programma %1 è più grande di quanto il PLC accetta (%2 MB).</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il programma %1: %2.</translation>
+    </message>
+    <message>
+        <source>The PLC does not take the program: %1.</source>
+        <translation>Il PLC non accetta il programma: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC cannot be read back: %1.</source>
+        <translation>Impossibile rileggere quanto arrivato al PLC: %1.</translation>
+    </message>
+    <message>
+        <source>What arrived in the PLC differs from what was sent. It was taken out again; download once more.</source>
+        <translation>Quanto arrivato al PLC è diverso da quanto inviato. È stato tolto; inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The download was stopped before the program in the PLC was compared. Download it once more.</source>
+        <translation>Invio interrotto prima del confronto nel PLC. Inviare di nuovo il programma.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
+        <translation>Il PLC non risponde più durante l&apos;invio. Controllare il PLC e il cavo, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
+        <translation>La copia di %1 è cambiata da quando è stata mostrata e non è stata inviata. Inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC does not say that it is stored: %2. Download once more.</source>
+        <translation>%1 è nel PLC, ma il PLC non conferma di averlo salvato: %2. Inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>What is in the PLC as %1 differs from what was sent. Do not run it; download once more.</source>
+        <translation>%1 nel PLC è diverso da quanto inviato. Non eseguirlo; inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
+        <translation>Il PLC non ha ancora comunicato l&apos;esito dell&apos;ultimo invio. Attendere, o spegnere e riaccendere il PLC, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
+        <translation>Il PLC non risponde più mentre riceveva %1: non si sa se contiene il vecchio o il nuovo. Controllare il PLC, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
+        <translation>%1 è nel PLC, ma il PLC non risponde più da prima del confronto. Controllare il PLC, poi inviare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramGuard</name>
+    <message>
+        <source>A program is being loaded. Wait until all of it is here.</source>
+        <translation>Caricamento di un programma in corso. Attendere che sia completo.</translation>
+    </message>
+    <message>
+        <source>the panel&apos;s storage does not answer</source>
+        <translation>la memoria del pannello non risponde</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Save without them</source>
+        <translation>Salva senza</translation>
+    </message>
+    <message>
+        <source>Save as shown</source>
+        <translation>Salva come mostrato</translation>
+    </message>
+    <message>
+        <source>Other name</source>
+        <translation>Altro nome</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Do not switch off: the whole program is only in the editor.</source>
+        <translation>%1 non è salvato: %2. Non spegnere: il programma completo è solo nell&apos;editor.</translation>
+    </message>
+    <message>
+        <source>%1 saved, %2 lines.</source>
+        <translation>%1 salvato, %2 righe.</translation>
+    </message>
+    <message>
+        <source>%1 has characters that the file cannot hold; they were replaced.</source>
+        <translation>%1 contiene caratteri che il file non può contenere; sono stati sostituiti.</translation>
+    </message>
+    <message>
+        <source>%1 is on the stick as %2. On the panel it is not stored: %3.</source>
+        <translation>%1 è sulla chiavetta come %2. Sul pannello non è salvato: %3.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>La memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file. Take another name.</source>
+        <translation>%1 non è un file di programma. Scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Salva con nome</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
+        <translation>%1 esiste già: %2 righe, del %3. Sovrascriverlo con questo programma, %4 righe?</translation>
+    </message>
+    <message>
+        <source>Write over it</source>
+        <translation>Sovrascrivi</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>%1 is open, with changes that are not saved. They are lost with it.</source>
+        <translation>%1 è aperto, con modifiche non salvate. Vanno perse anch&apos;esse.</translation>
+    </message>
+    <message>
+        <source>Remove it</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed: it is still there.</source>
+        <translation>Impossibile eliminare %1: c&apos;è ancora.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramHistory</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossibile scrivere %1: %2.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is not in the history any more.</source>
+        <translation>Questa versione di %1 non è più nello storico.</translation>
+    </message>
+    <message>
+        <source>This version of %1 is damaged and was not brought back. Try the one before it.</source>
+        <translation>Questa versione di %1 è danneggiata e non è stata ripristinata. Provare la precedente.</translation>
+    </message>
+    <message>
+        <source>%1 is brought back: %2 %</source>
+        <translation>Ripristino di %1: %2 %</translation>
+    </message>
+    <message>
+        <source>Stopped. %1 is as it was.</source>
+        <translation>Interrotto. %1 è come prima.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering; %1 was not brought back.</source>
+        <translation>La memoria del pannello non risponde più; %1 non è stato ripristinato.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
+        <translation>La memoria del pannello non risponde più: lo storico non salva più nulla. Spegnere e riaccendere il pannello.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back.</source>
+        <translation>%1 non è stato ripristinato.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: what it is now cannot be kept in the history first.</source>
+        <translation>%1 non è stato ripristinato: lo stato attuale non può essere salvato prima.</translation>
+    </message>
+    <message>
+        <source>%1 is back as of %2. Open it to see it.</source>
+        <translation>%1 è ripristinato al %2. Aprirlo per vederlo.</translation>
+    </message>
+    <message>
+        <source>%1 is back, but it is not certain that it is stored: %2.</source>
+        <translation>%1 è ripristinato, ma non è certo che sia salvato: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: it is being written. Try again when that is over.</source>
+        <translation>%1 non è stato ripristinato: è in fase di scrittura. Riprovare quando è finita.</translation>
+    </message>
+    <message>
+        <source>The history has not taken in %1 yet.</source>
+        <translation>Lo storico non ha ancora salvato %1.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
+        <translation>%1 non è stato ripristinato: la memoria del pannello non ha ancora finito l&apos;ultimo ripristino. Spegnere e riaccendere il pannello.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
+        <translation>La memoria del pannello non risponde più durante il ripristino di %1: non si sa quale versione sia ora. Spegnere e riaccendere il pannello.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramKeeper</name>
+    <message>
+        <source>One moment: the history takes in the program first.</source>
+        <translation>Un momento: prima lo storico salva il programma.</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Storico</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 Lo stato attuale di %2 andrebbe perso.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Comunque</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Give the program a name.</source>
+        <translation>Dare un nome al programma.</translation>
+    </message>
+    <message>
+        <source>A name holds no &quot;/&quot;: programs lie in one folder.</source>
+        <translation>Un nome non contiene &quot;/&quot;: i programmi stanno in una sola cartella.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
+        <translation>Un nome che inizia con un punto non appare negli elenchi. Sceglierne un altro.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramSnapshot</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il programma %1: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be held for the download: %2.</source>
+        <translation>Impossibile tenere pronto il programma %1 per l&apos;invio: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is being written. Download it when that is over.</source>
+        <translation>Il programma %1 è in fase di scrittura. Inviarlo quando è finita.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
+        <translation>La memoria del pannello non risponde più. Spegnere e riaccendere il pannello, poi inviare di nuovo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramState</name>
+    <message>
+        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
+        <translation>%1 righe nel file, %2 mostrate: senza commenti e righe vuote</translation>
+    </message>
+    <message>
+        <source>Not compared with the file: %1</source>
+        <translation>Non confrontato con il file: %1</translation>
+    </message>
+    <message>
+        <source>Not as in the file: it has characters that cannot be shown, or has changed</source>
+        <translation>Diverso dal file: ha caratteri non mostrabili, o è cambiato</translation>
+    </message>
+    <message>
+        <source>Not as in the file: %1 lines there, %2 shown</source>
+        <translation>Diverso dal file: là %1 righe, mostrate %2</translation>
+    </message>
+    <message>
+        <source>Incomplete: %1 lines in the file, %2 shown</source>
+        <translation>Incompleto: %1 righe nel file, %2 mostrate</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2</source>
+        <translation>%1 non è salvato: %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
+        <translation>%1 ha %2 righe nel file, %3 mostrate. Salvando, commenti e righe vuote spariscono dal file.</translation>
+    </message>
+    <message>
+        <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
+        <translation>%1 è mostrato diversamente dal file. Salvando, il file è sostituito da quanto mostrato.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. Save it first.</source>
+        <translation>%1 non è salvato: %2. Salvarlo prima.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
+        <translation>Solo una parte di %1 è presente: salvando o inviando si perderebbe il resto. Riaprirlo, o salvare la parte con un altro nome.</translation>
+    </message>
+</context>
+<context>
+    <name>RowFile</name>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossibile scrivere %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a text file.</source>
+        <translation>%1 non è un file di testo.</translation>
+    </message>
+</context>
+<context>
+    <name>RowKeeper</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>%1 is too large.</source>
+        <translation>%1 è troppo grande.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; what could not be read is %2.</source>
+        <translation>%1 manca; ciò che non era leggibile è %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2.</source>
+        <translation>%1 non è salvato: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the file that stands there cannot be put aside: %2.</source>
+        <translation>%1 non è salvato: il file presente non si può mettere da parte: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: the panel&apos;s storage does not answer.</source>
+        <translation>Impossibile leggere %1: la memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: the panel&apos;s storage does not answer.</source>
+        <translation>%1 non è salvato: la memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: nobody knows whether %1 is stored.</source>
+        <translation>La memoria del pannello non risponde: non si sa se %1 è salvato.</translation>
+    </message>
+</context>
+<context>
+    <name>Stick</name>
+    <message>
+        <source>The stick is the panel&apos;s own: plug it into the panel.</source>
+        <translation>La chiavetta è quella vera: inserirla nel pannello.</translation>
+    </message>
+    <message>
+        <source>Another stick is plugged: %1 is there already.</source>
+        <translation>È inserita un&apos;altra chiavetta: %1 c&apos;è già.</translation>
+    </message>
+    <message>
+        <source>The folder %1, which stands for the stick, cannot be made.</source>
+        <translation>Impossibile creare la cartella %1, che sta per la chiavetta.</translation>
+    </message>
+    <message>
+        <source>The marker %1 cannot be made: %2.</source>
+        <translation>Impossibile creare il segnale %1: %2.</translation>
+    </message>
+    <message>
+        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
+        <translation>Il punto di montaggio %1 non appartiene a questo programma. Per provare una chiavetta, avviarlo con &quot;./run --stick DIR&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreCheck</name>
+    <message>
+        <source>the panel&apos;s storage stopped answering</source>
+        <translation>la memoria del pannello non risponde più</translation>
+    </message>
+    <message>
+        <source>the file holds something else than the editor</source>
+        <translation>il file contiene altro rispetto all&apos;editor</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
+        <translation>%1 non è salvato: %2. Il programma completo è solo nell&apos;editor.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Più tardi</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Save to the stick</source>
+        <translation>Sulla chiavetta</translation>
+    </message>
+    <message>
+        <source>the stick stopped answering</source>
+        <translation>la chiavetta non risponde più</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick (%1)</source>
+        <translation>né qui né sulla chiavetta (%1)</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, which is out</source>
+        <translation>né qui né sulla chiavetta, che non è inserita</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedWork</name>
+    <message>
+        <source>the storage does not answer</source>
+        <translation>la memoria non risponde</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
+        <translation>Le modifiche non salvate non sono protette da un blackout: %1. Salvare presto.</translation>
+    </message>
+</context>
+</TS>
