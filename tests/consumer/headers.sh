@@ -9,11 +9,14 @@ set -euo pipefail
 cd "$WORK"
 rm -rf headers
 mkdir headers
-for header in moved/include/filarix/*.h; do
-    name=${header##*/}
-    printf '#include "%s"\n#include "%s"\n' "$name" "$name" >"headers/${name%.h}.cpp"
+for folder in companion/include/filarix companion/include/filarix/host/*; do
+    for header in "$folder"/*.h; do
+        name=${header#companion/include/filarix/}
+        name=${name#host/}
+        printf '#include "%s"\n#include "%s"\n' "$name" "$name" >"headers/${name//\//-}.cpp"
+    done
 done
-[ "$(find headers -name '*.cpp' | wc -l)" -gt 20 ] || {
+[ "$(find headers -name '*.cpp' | wc -l)" -gt 50 ] || {
     echo "headers: hardly any" >&2
     exit 1
 }
@@ -23,4 +26,4 @@ qt_flags=$(pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem /g')
 printf '%s\0' headers/*.cpp | xargs -0 -P 2 -n 1 -I{} \
     $CCACHE "$CXX" -std=c++11 -fPIC -Wall -Wextra -Wpedantic -Woverloaded-virtual -Werror \
     -DQT_NO_KEYWORDS -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII \
-    -Imoved/include/filarix $qt_flags -c {} -o {}.o
+    -Icompanion/include/filarix -Icompanion/include/filarix/host $qt_flags -c {} -o {}.o

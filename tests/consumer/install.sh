@@ -3,9 +3,10 @@
 # SPDX-License-Identifier: MIT
 #
 # Installs the library the ways that packagers do, looks at what has come of it, and leaves in WORK
-#   moved/    the library as hosts on this machine find it, not where it was installed
-#   sysroot/  the library below a sysroot
-#   device/   the stand-in device library, out of the linker's sight
+#   moved/      the library alone as hosts on this machine find it, not where it was installed
+#   companion/  the library and its companion, likewise
+#   sysroot/    both below a sysroot
+#   device/     the stand-in device library, out of the linker's sight
 # The environment is set by CMakeLists.txt.
 set -euo pipefail
 
@@ -15,24 +16,35 @@ fail() {
 }
 
 cd "$WORK"
-rm -rf prefix moved sysroot device designer
+rm -rf prefix moved companion sysroot device designer
 install() {
     "$CMAKE" --install "$BUILD" "$@" >>install.log
 }
 : >install.log
-install --prefix "$WORK/prefix" --component runtime
-install --prefix "$WORK/prefix" --component development
-install --prefix "$WORK/prefix" --component l10n
-mv prefix moved
+for component in runtime development l10n; do
+    install --prefix "$WORK/prefix" --component "$component"
+done
+cp -a prefix moved
+for component in host host-development host-l10n; do
+    install --prefix "$WORK/prefix" --component "$component"
+done
+mv prefix companion
 DESTDIR=$WORK/sysroot install --prefix /usr
 install --prefix "$WORK/device" --component simulator
 install --prefix "$WORK/designer" --component designer
 
-# The files, all of them and no other.
-(cd moved && find . \( -type f -o -type l \) | sed "s,^\./$LIBDIR/,LIBDIR/,; s,^\./,,") \
-    | sed 's,\(Targets-\)[a-z]*\(\.cmake\)$,\1CONFIG\2,' | LC_ALL=C sort >files.txt
-diff -u "$SOURCE/tests/consumer/installed-files.txt" files.txt \
-    || fail "other files than tests/consumer/installed-files.txt says"
+# The files, all of them and no other. A plain install brings both libraries.
+list_files() {
+    (cd "$1" && find . \( -type f -o -type l \) | sed "s,^\./$LIBDIR/,LIBDIR/,; s,^\./,,") \
+        | sed 's,\(Targets-\)[a-z]*\(\.cmake\)$,\1CONFIG\2,' | LC_ALL=C sort
+}
+expect_files() {
+    cat "${@:2}" | LC_ALL=C sort | diff -u - <(list_files "$1") || fail "other files in $1"
+}
+lists=$SOURCE/tests/consumer/installed-files
+expect_files moved "$lists.txt"
+expect_files companion "$lists.txt" "$lists-host.txt"
+expect_files sysroot/usr "$lists.txt" "$lists-host.txt"
 
 # The published headers are those of the exported classes, and four that stand beside them.
 {
@@ -42,6 +54,11 @@ diff -u "$SOURCE/tests/consumer/installed-files.txt" files.txt \
 find moved/include/filarix -type f -printf '%f\n' | LC_ALL=C sort \
     | diff -u expected-headers.txt - || fail "headers of other classes than the exported ones"
 
+# Those of the companion are the ones with something exported in them.
+(cd "$SOURCE/host" && grep -lr --include='*.h' FILARIX_HOST_EXPORT) | LC_ALL=C sort \
+    | diff -u - <(cd companion/include/filarix/host && find . -type f -printf '%P\n' | LC_ALL=C sort) \
+    || fail "headers of other classes than the companion's exported ones"
+
 # A plain install brings nothing that a panel must not have.
 stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel' -o -name '*_p.h' \
     -o -name '*designer*')
@@ -49,13 +66,17 @@ stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel'
 
 # Nothing knows where it was built or first installed.
 for text in "$SOURCE" "$BUILD"; do
-    ! grep -rIlF "$text" moved sysroot || fail "the files above name $text"
+    ! grep -rIlF "$text" companion sysroot || fail "the files above name $text"
 done
-library=moved/$LIBDIR/libFilarixModule.so.1
-runpath=$(readelf -d "$library" | sed -n 's/.*R\(UN\)\?PATH.*\[\(.*\)\].*/\2/p')
-# shellcheck disable=SC2016
-[ "$runpath" = '$ORIGIN' ] || fail "run path $runpath"
-readelf -d "$library" | grep -q 'SONAME.*\[libFilarixModule\.so\.1\]' || fail "another soname"
+for name in Module Host; do
+    library=companion/$LIBDIR/libFilarix$name.so.1
+    runpath=$(readelf -d "$library" | sed -n 's/.*R\(UN\)\?PATH.*\[\(.*\)\].*/\2/p')
+    # shellcheck disable=SC2016
+    [ "$runpath" = '$ORIGIN' ] || fail "run path $runpath"
+    readelf -d "$library" | grep -q "SONAME.*\[libFilarix$name\.so\.1\]" || fail "another soname"
+done
+needed=$(readelf -d "moved/$LIBDIR/libFilarixModule.so.1" | grep 'NEEDED.*FilarixHost' || true)
+[ -z "$needed" ] || fail "the library needs its companion"
 
 # The Designer plugin needs nothing but Qt.
 plugin=designer/$LIBDIR/qt5/plugins/designer/libfilarixmoduledesigner.so
@@ -67,7 +88,7 @@ needed=$(readelf -d "$plugin" | sed -n 's/.*NEEDED.*\[\(.*\)\].*/\1/p' \
 # Below a sysroot pkg-config names the folders there.
 pkg_config_path=$WORK/sysroot/usr/$LIBDIR/pkgconfig:$(pkg-config --variable pc_path pkg-config)
 folders=$(PKG_CONFIG_SYSROOT_DIR=$WORK/sysroot PKG_CONFIG_LIBDIR=$pkg_config_path \
-    pkg-config --cflags-only-I --libs-only-L filarixmodule)
+    pkg-config --cflags-only-I --libs-only-L filarixhost)
 has_folder() {
     local flag
     for flag in $folders; do
@@ -78,4 +99,5 @@ has_folder() {
     fail "below a sysroot pkg-config gives no $1$2 but $folders"
 }
 has_folder -I "$WORK/sysroot/usr/include/filarix"
+has_folder -I "$WORK/sysroot/usr/include/filarix/host"
 has_folder -L "$WORK/sysroot/usr/$LIBDIR"
