@@ -4,10 +4,9 @@
 #
 # symbols.sh [--update] LIBRARY [LIST]
 #
-# Compares what the library exports with a list, exported-symbols.txt without another, or writes that
-# file anew. Names are
-# demangled and stand once, whatever variants a compiler makes of a constructor: so the list is one
-# for all compilers and processors. docs/abi.md tells which changes are fine.
+# Compares what a library exports with a list, exported-symbols.txt without another, or writes that
+# file anew. Names are demangled and stand once, whatever variants a compiler makes of a constructor:
+# so the list is one for all compilers and processors. docs/abi.md tells which changes are fine.
 set -euo pipefail
 
 update=no
@@ -18,10 +17,10 @@ fi
 list=${2:-$(dirname "$(readlink -f "$0")")/exported-symbols.txt}
 
 # Undecorated names are the resource functions; those that begin with "_" are the linker's and the
-# sanitizers' own.
+# sanitizers' own. What a compiler makes of the standard library's templates is its own as well.
 exported() {
     "${NM:-nm}" --dynamic --defined-only --demangle "$1" | sed 's/^[0-9a-f]* . //' | grep -v '^_' \
-        | LC_ALL=C sort -u
+        | grep -vE '^([a-z ]+ )?std::' | LC_ALL=C sort -u
 }
 
 if [ "$update" = yes ]; then
