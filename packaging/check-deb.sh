@@ -8,7 +8,7 @@
 # lie in it. Needs root and the machine's package source. It asks lintian, makes a new, minimal
 # Debian in a scratch folder, and in there, as people do who know nothing of this tree,
 #   - installs the library alone, which must bring no stand-in device library,
-#   - builds the hosts of tests/consumer with the development package, no device library about,
+#   - builds the hosts of tests/consumer with the development packages, no device library about,
 #   - installs the panel program and lets it walk its screens,
 #   - installs the translations and runs the hosts,
 #   - installs the rest, asks the panel program for German and the Designer plugin for what it needs,
@@ -49,7 +49,7 @@ mkdir -p "$debian/packages" "$debian/consumer"
 cp "$packages"/*.deb "$debian/packages"
 (cd "$debian/packages" && dpkg-scanpackages --multiversion . >Packages 2>/dev/null)
 echo "deb [trusted=yes] file:/packages ./" >"$debian/etc/apt/sources.list.d/local.list"
-cp -r "$root/tests/consumer/"{host,cmake,pkgconfig,qmake} "$debian/consumer"
+cp -r "$root/tests/consumer/"{host,cmake,pkgconfig,qmake,companion} "$debian/consumer"
 
 inside() {
     bwrap --bind "$debian" / --dev /dev --proc /proc --tmpfs /run --tmpfs /tmp --unshare-pid \
@@ -77,8 +77,12 @@ step "the library alone"
 apt_install libfilarixmodule1
 has_no_stand_in libfilarixmodule1
 libdir=/usr/lib/$(dpkg-architecture -q DEB_HOST_MULTIARCH)
-missing=$(inside ldd "$libdir/libFilarixModule.so.1" | sed -n 's/^\s*\(.*\) => not found/\1/p')
-[ "$missing" = libHMIDevice.so.1 ] || fail "beside the device library it lacks: $missing"
+lacks_the_device_library_alone() {
+    local missing
+    missing=$(inside ldd "$libdir/$1" | sed -n 's/^\s*\(.*\) => not found/\1/p' | sort -u)
+    [ "$missing" = libHMIDevice.so.1 ] || fail "beside the device library $1 lacks: $missing"
+}
+lacks_the_device_library_alone libFilarixModule.so.1
 
 step "hosts, with the development package"
 apt_install --no-install-recommends libfilarixmodule-dev g++ cmake make pkg-config
@@ -90,6 +94,22 @@ inside sh -eu -c '
     make -C pkgconfig -f /consumer/pkgconfig/Makefile SOURCES=/consumer/host
     cd qmake
     /usr/lib/qt5/bin/qmake /consumer/qmake/host.pro
+    make' >"$scratch/hosts.log" 2>&1 || { tail -n 30 "$scratch/hosts.log" >&2; fail "hosts"; }
+
+step "hosts, with the companion"
+! inside cmake -S /consumer/companion/cmake -B companion-cmake >"$scratch/hosts.log" 2>&1 \
+    || fail "the library's development package gives a companion"
+grep -q 'Host is not installed here' "$scratch/hosts.log" || fail "$(<"$scratch/hosts.log")"
+apt_install --no-install-recommends libfilarixhost-dev
+has_no_stand_in libfilarixhost-dev
+lacks_the_device_library_alone libFilarixHost.so.1
+inside sh -eu -c '
+    cmake -S /consumer/companion/cmake -B companion-cmake
+    cmake --build companion-cmake
+    mkdir companion-pkgconfig companion-qmake
+    make -C companion-pkgconfig -f /consumer/companion/pkgconfig/Makefile SOURCES=/consumer/companion
+    cd companion-qmake
+    /usr/lib/qt5/bin/qmake /consumer/companion/qmake/host.pro
     make' >"$scratch/hosts.log" 2>&1 || { tail -n 30 "$scratch/hosts.log" >&2; fail "hosts"; }
 
 step "the panel program"
@@ -109,7 +129,7 @@ inside filarix-panel --tour /root/tour --language de >/dev/null 2>"$scratch/tour
 grep -q 'for de is not installed' "$scratch/tour.log" || fail "German without libfilarixmodule-l10n"
 step "the hosts, with the translations"
 apt_install --no-install-recommends libfilarixmodule-l10n
-for way in cmake pkgconfig qmake; do
+for way in {,companion-}{cmake,pkgconfig,qmake}; do
     inside "/root/$way/host" || fail "the $way host"
 done
 

@@ -42,6 +42,7 @@ cmake --build "$scratch/build" >"$scratch/log" || { cat "$scratch/log" >&2; fail
 DESTDIR=$scratch/image cmake --install "$scratch/build" >"$scratch/log"
 (cd "$scratch/image" && find . -type f -o -type l) | sort >"$scratch/files"
 for file in usr/lib/libFilarixModule.so.1 usr/include/filarix/wmmainwindow.h \
+    usr/lib/libFilarixHost.so.1 usr/include/filarix/host/guards/programguard.h \
     usr/lib/cmake/FilarixModule/FilarixModuleConfig.cmake; do
     grep -qx "./$file" "$scratch/files" || fail "$file is not installed"
 done
@@ -49,7 +50,7 @@ if grep -i hmidevice "$scratch/files"; then
     fail "the stand-in would get onto a panel"
 fi
 # What Yocto packs by itself, and the two lines of the recipe beyond that.
-unpacked=$(grep -vE '^\./usr/(lib/libFilarixModule\.so|include/|lib/pkgconfig/|lib/cmake/|lib/qt5/mkspecs/|share/qt5/translations/)' \
+unpacked=$(grep -vE '^\./usr/(lib/libFilarix(Module|Host)\.so|include/|lib/pkgconfig/|lib/cmake/|lib/qt5/mkspecs/|share/qt5/translations/)' \
     "$scratch/files" || true)
 [ -z "$unpacked" ] || fail "in none of Yocto's packages: $unpacked"
 
@@ -57,6 +58,7 @@ echo "== the makefile's own steps"
 cat >"$scratch/Makefile" <<'MAKE'
 qstrip = $(strip $(subst ",,$(1)))
 INSTALL = install
+BR2_PACKAGE_FILARIX_MODULE_HOST ?= y
 BR2_PACKAGE_FILARIX_MODULE_STICK = y
 BR2_PACKAGE_FILARIX_MODULE_HMIDEVICE = "/opt/panel/libHMIDevice.so.1"
 define cmake-package
@@ -68,9 +70,12 @@ include $(MAKEFILE)
 MAKE
 # The package's folder of sources is the tree; make's own $(@D) is that of a target.
 sed "s#\$(@D)#$root#" "$makefile" >"$scratch/filarix-module.mk"
-run_make() { make -s -C "$scratch" MAKEFILE="$scratch/filarix-module.mk" TARGET_DIR="$scratch/target" "$1"; }
+run_make() { make -s -C "$scratch" MAKEFILE="$scratch/filarix-module.mk" TARGET_DIR="$scratch/target" "$@"; }
 run_make options | grep -qx -- '-DFILARIX_HMIDEVICE_LIBRARY=/opt/panel/libHMIDevice.so.1' \
     || fail "the device library does not reach the build"
+run_make options | grep -qx -- -DFILARIX_HOST=ON || fail "the companion does not reach the build"
+run_make BR2_PACKAGE_FILARIX_MODULE_HOST=n options | grep -qx -- -DFILARIX_HOST=OFF \
+    || fail "the companion cannot be left out"
 run_make install-target
 run_make install-systemd
 for file in usr/sbin/filarix-stick etc/filarix/stick.conf usr/lib/tmpfiles.d/filarix-stick.conf \

@@ -20,6 +20,10 @@ EXTRA_OECMAKE = "\
     -DFILARIX_HMIDEVICE_LIBRARY=${FILARIX_HMIDEVICE_LIBRARY} \
 "
 
+# The companion library, for hosts that link it.
+PACKAGECONFIG ??= "host"
+PACKAGECONFIG[host] = "-DFILARIX_HOST=ON,-DFILARIX_HOST=OFF"
+
 do_install:append() {
     tools=${S}/packaging/integration
     install -D -m 0755 $tools/filarix-stick ${D}${sbindir}/filarix-stick
@@ -32,7 +36,12 @@ do_install:append() {
         ${D}${nonarch_libdir}/tmpfiles.d/filarix-stick.conf
 }
 
-PACKAGES =+ "${PN}-stick"
+PACKAGES =+ "${PN}-host ${PN}-stick"
+SUMMARY:${PN}-host = "What stands between the operator and the library's hazards"
+FILES:${PN}-host = "\
+    ${libdir}/libFilarixHost.so.* \
+    ${datadir}/qt5/translations/filarixhost_* \
+"
 SUMMARY:${PN}-stick = "Mounts USB sticks for the operator's desk"
 FILES:${PN}-stick = "\
     ${sbindir}/filarix-stick \
