@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "base/hostcompat.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace {
+
+/// One call that is still to come. Goes with its context, and then takes the call along.
+class LaterCall : public QObject
+{
+public:
+    LaterCall(QObject *context, const std::function<void()> &function)
+        : QObject(context), m_function(function)
+    {}
+
+protected:
+    void customEvent(QEvent *) override { run(); }
+    void timerEvent(QTimerEvent *event) override
+    {
+        killTimer(event->timerId());
+        run();
+    }
+
+private:
+    // The function may end the context, and this object with it.
+    void run()
+    {
+        const std::function<void()> function = m_function;
+        deleteLater();
+        function();
+    }
+
+    const std::function<void()> m_function;
+};
+
+} // namespace
+
+void HostCompat::callLater(QObject *context, const std::function<void()> &function)
+{
+    QCoreApplication::postEvent(new LaterCall(context, function), new QEvent(QEvent::User));
+}
+
+void HostCompat::callAfter(int ms, QObject *context, const std::function<void()> &function)
+{
+    (new LaterCall(context, function))->startTimer(ms);
+}
