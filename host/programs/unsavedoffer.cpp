@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "screens/unsavedoffer.h"
+#include "programs/unsavedoffer.h"
 
 #include "guards/programguard.h"
 #include "programs/programopener.h"
