@@ -3,10 +3,11 @@
 
 #include "base/clickgate.h"
 
+#include "base/hostcompat.h"
+
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QPointer>
-#include <QTimer>
 
 // A button says released() right before clicked(), whatever pressed it, but also when a finger
 // slides off or the focus goes, with no click behind it. So its signals are blocked from released()
@@ -15,9 +16,8 @@ ClickGate::ClickGate(QAbstractButton *button) : QObject(button), m_clicks(new QB
 {
     m_clicks->setExclusive(false);
     m_clicks->addButton(button);
-    connect(button, &QAbstractButton::released, this, &ClickGate::shut);
-    connect(m_clicks, QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked), this,
-            &ClickGate::note);
+    connect(button, SIGNAL(released()), this, SLOT(shut()));
+    connect(m_clicks, SIGNAL(buttonClicked(QAbstractButton *)), this, SLOT(note()));
 }
 
 QAbstractButton *ClickGate::button() const
@@ -33,7 +33,7 @@ void ClickGate::shut()
         return;
     }
     button()->blockSignals(true);
-    QTimer::singleShot(0, this, [this] { button()->blockSignals(false); });
+    HostCompat::callLater(this, [this] { button()->blockSignals(false); });
 }
 
 void ClickGate::note()
@@ -47,7 +47,7 @@ void ClickGate::note()
         return;
     m_isHolding = true;
     // The button is done with the press by then, and what holds the click may wait in dialogs.
-    QTimer::singleShot(0, this, [this] {
+    HostCompat::callLater(this, [this] {
         if (m_isHolding)
             m_hold();
     });
@@ -56,7 +56,7 @@ void ClickGate::note()
 void ClickGate::pass()
 {
     if (m_isHolding)
-        QTimer::singleShot(0, this, &ClickGate::click);
+        HostCompat::callLater(this, [this] { click(); });
 }
 
 void ClickGate::drop()

@@ -52,9 +52,11 @@ Q_SIGNALS:
     /// A click has passed, and all that its listeners did for it has been done.
     void passed();
 
-private:
+private Q_SLOTS:
     void shut();
     void note();
+
+private:
     void click();
 
     Answer m_hold;

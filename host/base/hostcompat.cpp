@@ -5,6 +5,9 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QUuid>
+
+#include <ctime>
 
 namespace {
 
@@ -46,4 +49,19 @@ void HostCompat::callLater(QObject *context, const std::function<void()> &functi
 void HostCompat::callAfter(int ms, QObject *context, const std::function<void()> &function)
 {
     (new LaterCall(context, function))->startTimer(ms);
+}
+
+void HostCompat::sleep(int ms)
+{
+    const int msPerSecond = 1000;
+    const long nsPerMs = 1000000;
+    struct timespec time = {};
+    time.tv_sec = ms / msPerSecond;
+    time.tv_nsec = ms % msPerSecond * nsPerMs;
+    ::nanosleep(&time, nullptr);
+}
+
+QString HostCompat::uniqueName()
+{
+    return QString::fromLatin1(QUuid::createUuid().toRfc4122().toHex());
 }

@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QObject>
+#include <QString>
 
 #include <functional>
 
@@ -19,6 +20,35 @@ namespace HostCompat {
 void callLater(QObject *context, const std::function<void()> &function);
 /// Likewise, after \a ms milliseconds.
 void callAfter(int ms, QObject *context, const std::function<void()> &function);
+
+/// Has the calling thread wait.
+void sleep(int ms);
+
+/// 32 hexadecimal digits that no other call gives, in this program or another.
+QString uniqueName();
+
+/// Keeps an object's signals back while it lives, and leaves them as they were.
+class SignalBlocker
+{
+public:
+    explicit SignalBlocker(QObject *object)
+        : m_object(object), m_wereBlocked(object->blockSignals(true))
+    {}
+    ~SignalBlocker() { m_object->blockSignals(m_wereBlocked); }
+
+private:
+    Q_DISABLE_COPY(SignalBlocker)
+
+    QObject *m_object;
+    bool m_wereBlocked;
+};
+
+/// A container that a loop only reads, and so does not copy first.
+template<class Container>
+const Container &readOnly(const Container &container)
+{
+    return container;
+}
 
 /// A moment given in milliseconds since 1970, in UTC.
 inline QDateTime utcTime(qint64 ms)

@@ -21,16 +21,12 @@
 ///     void causeEnded(const QString &cause);
 struct FILARIX_HOST_EXPORT Message
 {
-    Q_GADGET
-
-public:
     /// How urgent it is. The one scale for messages, states and questions.
     enum Tone {
         Information, ///< Went as wanted, or is good to know. Passes by itself.
         Warning,     ///< The operator should see to it. Stays until it is closed or its cause ends.
         Alarm        ///< A program may be lost, or work stands still. Stays likewise.
     };
-    Q_ENUM(Tone)
 
     /// A sentence or two: what happened, what it means, what to do.
     QString text;
@@ -43,5 +39,6 @@ public:
 };
 
 Q_DECLARE_METATYPE(Message)
+Q_DECLARE_METATYPE(Message::Tone)
 
 #endif // MESSAGE_H

@@ -4,6 +4,7 @@
 #include "guards/pickerguard.h"
 
 #include "base/clickgate.h"
+#include "base/hostcompat.h"
 #include "programs/programname.h"
 
 #include <QDialog>
@@ -12,7 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTimer>
 
 namespace {
 
@@ -46,7 +46,7 @@ void PickerGuard::proposeForSaving(const QString &name)
 {
     m_isForSaving = true;
     // The dialog proposes its first file when it handles the showing, which is still to come.
-    QTimer::singleShot(0, this, [this, name] {
+    HostCompat::callLater(this, [this, name] {
         m_field->setText(name);
         m_field->selectAll();
     });

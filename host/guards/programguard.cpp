@@ -4,6 +4,7 @@
 #include "guards/programguard.h"
 
 #include "base/clickgate.h"
+#include "base/hostcompat.h"
 #include "base/questioner.h"
 #include "guards/pickerguard.h"
 #include "programs/programcomparison.h"
@@ -17,9 +18,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QSignalBlocker>
 #include <QTextDocument>
-#include <QTimer>
 
 namespace {
 
@@ -38,7 +37,7 @@ QString nameOf(const QString &path)
 void forgetUndo(QTextDocument *document)
 {
     document->clearUndoRedoStacks();
-    const QSignalBlocker blocker(document);
+    const HostCompat::SignalBlocker blocker(document);
     const bool isModified = document->isModified();
     document->setModified(!isModified);
     document->setModified(isModified);
@@ -58,23 +57,26 @@ ProgramGuard::ProgramGuard(WMMainWindow *window, const QString &programDir, Ques
     , m_check(m_editor->document(), &m_jobs, questioner)
 {
     m_commands.onCommand([this](Command command) { hold(command); });
-    connect(&m_commands, &WindowCommands::done, this, &ProgramGuard::end);
-    connect(&m_commands, &WindowCommands::lost, this, [this] { finishSave(false); });
-    connect(&m_keeper, &ProgramKeeper::told, this, &ProgramGuard::told);
-    connect(&m_keeper, &ProgramKeeper::causeEnded, this, &ProgramGuard::causeEnded);
-    connect(&m_check, &StoreCheck::missed, this, &ProgramGuard::tellMissed);
-    connect(&m_check, &StoreCheck::ended, this, &ProgramGuard::tellStored);
-    connect(&m_dialogs, &WindowDialogs::pickerShown, this, &ProgramGuard::guardPicker);
-    connect(&m_dialogs, &WindowDialogs::saveQuestionShown, this, &ProgramGuard::guardSaveQuestion);
-    connect(&m_dialogs, &WindowDialogs::removeQuestionShown, this,
-            &ProgramGuard::guardRemoveQuestion);
-    connect(&m_dialogs, &WindowDialogs::reloadQuestionShown, this, [this](QMessageBox *box) {
-        connect(box, &QDialog::finished, this,
-                [this](int answer) { m_isReloadRefused = answer != QMessageBox::Yes; });
-    });
-    connect(&m_dialogs, &WindowDialogs::failed, this, [this] { m_hasFailed = true; });
-    connect(&m_dialogs, &WindowDialogs::loadAborted, this, [this] { m_wasAborted = true; });
-    connect(&m_dialogs, &WindowDialogs::removed, this, [this] { m_wasRemoved = true; });
+    connect(&m_commands, SIGNAL(done(WindowCommands::Command)), this,
+            SLOT(end(WindowCommands::Command)));
+    connect(&m_commands, SIGNAL(lost(WindowCommands::Command)), this, SLOT(giveSaveUp()));
+    connect(&m_keeper, SIGNAL(told(QString, Message::Tone, QString)), this,
+            SIGNAL(told(QString, Message::Tone, QString)));
+    connect(&m_keeper, SIGNAL(causeEnded(QString)), this, SIGNAL(causeEnded(QString)));
+    connect(&m_check, SIGNAL(missed()), this, SLOT(tellMissed()));
+    connect(&m_check, SIGNAL(ended(StoreCheck::Outcome)), this,
+            SLOT(tellStored(StoreCheck::Outcome)));
+    connect(&m_dialogs, SIGNAL(pickerShown(QDialog *, WindowDialogs::Picker)), this,
+            SLOT(guardPicker(QDialog *, WindowDialogs::Picker)));
+    connect(&m_dialogs, SIGNAL(saveQuestionShown(QMessageBox *)), this,
+            SLOT(guardSaveQuestion(QMessageBox *)));
+    connect(&m_dialogs, SIGNAL(removeQuestionShown(QMessageBox *)), this,
+            SLOT(guardRemoveQuestion(QMessageBox *)));
+    connect(&m_dialogs, SIGNAL(reloadQuestionShown(QMessageBox *)), this,
+            SLOT(watchReloadQuestion(QMessageBox *)));
+    connect(&m_dialogs, SIGNAL(failed()), this, SLOT(noteFailure()));
+    connect(&m_dialogs, SIGNAL(loadAborted()), this, SLOT(noteAbort()));
+    connect(&m_dialogs, SIGNAL(removed()), this, SLOT(noteRemoval()));
 }
 
 ProgramGuard::~ProgramGuard() = default;
@@ -398,10 +400,40 @@ void ProgramGuard::finishSave(bool isStored)
     if (isStored && next != WindowCommands::None)
         m_commands.press(next);
     Q_EMIT saveEnded(isStored);
-    QTimer::singleShot(0, this, &ProgramGuard::goOn);
+    HostCompat::callLater(this, [this] { goOn(); });
+}
+
+void ProgramGuard::giveSaveUp()
+{
+    finishSave(false);
 }
 
 // The library's dialogs
+
+void ProgramGuard::watchReloadQuestion(QMessageBox *box)
+{
+    connect(box, SIGNAL(finished(int)), this, SLOT(noteReloadAnswer(int)));
+}
+
+void ProgramGuard::noteReloadAnswer(int answer)
+{
+    m_isReloadRefused = answer != QMessageBox::Yes;
+}
+
+void ProgramGuard::noteFailure()
+{
+    m_hasFailed = true;
+}
+
+void ProgramGuard::noteAbort()
+{
+    m_wasAborted = true;
+}
+
+void ProgramGuard::noteRemoval()
+{
+    m_wasRemoved = true;
+}
 
 void ProgramGuard::guardPicker(QDialog *dialog, WindowDialogs::Picker picker)
 {
@@ -493,7 +525,7 @@ void ProgramGuard::guardSaveQuestion(QMessageBox *box)
         m_wantsSave = true;
         box->button(QMessageBox::Cancel)->click();
         // A command that came by no key ends without a word.
-        QTimer::singleShot(0, this, [this] {
+        HostCompat::callLater(this, [this] {
             if (m_wantsSave && m_commands.running() == WindowCommands::None) {
                 m_wantsSave = false;
                 m_commands.press(WindowCommands::Save);

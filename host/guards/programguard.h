@@ -32,7 +32,7 @@ class WMMainWindow;
 ///
 ///     ProgramGuard guard(window, "/home/hmi/cnc", &questioner);
 ///     guard.setHistory(...);
-///     connect(&guard, &ProgramGuard::told, ...);
+///     connect(&guard, SIGNAL(told(QString,Message::Tone,QString)), ...);
 class FILARIX_HOST_EXPORT ProgramGuard : public QObject
 {
     Q_OBJECT
@@ -70,6 +70,20 @@ Q_SIGNALS:
     /// A save came to its end, given up or not.
     void saveEnded(bool isStored);
 
+private Q_SLOTS:
+    void end(WindowCommands::Command command);
+    void giveSaveUp();
+    void tellStored(StoreCheck::Outcome outcome);
+    void tellMissed();
+    void guardPicker(QDialog *dialog, WindowDialogs::Picker picker);
+    void guardSaveQuestion(QMessageBox *box);
+    void guardRemoveQuestion(QMessageBox *box);
+    void watchReloadQuestion(QMessageBox *box);
+    void noteReloadAnswer(int answer);
+    void noteFailure();
+    void noteAbort();
+    void noteRemoval();
+
 private:
     typedef WindowCommands::Command Command;
 
@@ -80,7 +94,6 @@ private:
     void noteFile(const ProgramOnDisk &file);
     void askAndSave();
     bool mayReplaceOwnFile();
-    void end(Command command);
     void goOn();
     void setState(const ProgramState &state);
     QString text() const;
@@ -92,18 +105,13 @@ private:
                bool wasAborted);
 
     void endSave();
-    void tellStored(StoreCheck::Outcome outcome);
-    void tellMissed();
     void finishSave(bool isStored);
 
-    void guardPicker(QDialog *dialog, WindowDialogs::Picker picker);
     QString proposal(const PickerGuard *picker) const;
     void holdTarget(const QPointer<PickerGuard> &picker, const QString &name);
     void askForTarget(const QPointer<PickerGuard> &picker, const QString &name,
                       const ProgramOnDisk &there);
     bool mayCover(const QString &name, const ProgramOnDisk &there);
-    void guardSaveQuestion(QMessageBox *box);
-    void guardRemoveQuestion(QMessageBox *box);
     bool mayDropChanges(const QString &name);
     void endRemove();
 

@@ -4,16 +4,16 @@
 #include "guards/windowcommands.h"
 
 #include "base/clickgate.h"
+#include "base/hostcompat.h"
 #include "wmmainwindow.h"
 
-#include <QTimer>
 #include <QToolButton>
 
 namespace {
 
 const char removeToolTip[] = "Remove G File!";
 
-WindowCommands::Command commandOf(const QString &toolTip)
+WindowCommands::Command commandNamed(const QString &toolTip)
 {
     static const struct
     {
@@ -42,15 +42,15 @@ WindowCommands::WindowCommands(WMMainWindow *window, QObject *parent) : QObject(
 {
     const QList<QToolButton *> buttons = window->findChildren<QToolButton *>();
     for (QToolButton *button : buttons) {
-        const Command command = commandOf(button->toolTip());
+        const Command command = commandNamed(button->toolTip());
         if (command == None)
             continue;
         ClickGate *gate = new ClickGate(button);
         m_gates.insert(command, gate);
         gate->onClick([this, command] { m_hold(command); });
-        connect(gate, &ClickGate::passed, this, [this, command] { end(command); });
+        connect(gate, SIGNAL(passed()), this, SLOT(end()));
         // Said right before the click, which the library hears first.
-        connect(button, &QToolButton::released, this, [this, command] { begin(command); });
+        connect(button, SIGNAL(released()), this, SLOT(begin()));
     }
 }
 
@@ -63,7 +63,7 @@ void WindowCommands::pass(Command command)
         button->setEnabled(true);
     m_gates.value(command)->pass();
     // Behind the click.
-    QTimer::singleShot(0, this, [this, command] {
+    HostCompat::callLater(this, [this, command] {
         if (m_passing != command)
             return;
         m_passing = None;
@@ -86,6 +86,11 @@ void WindowCommands::press(Command command)
     button->click();
 }
 
+WindowCommands::Command WindowCommands::commandOf(ClickGate *gate) const
+{
+    return Command(m_gates.key(gate, None));
+}
+
 void WindowCommands::switchOffHidden(Command command)
 {
     QAbstractButton *button = m_gates.value(command)->button();
@@ -93,16 +98,19 @@ void WindowCommands::switchOffHidden(Command command)
         button->setEnabled(false);
 }
 
-void WindowCommands::begin(Command command)
+void WindowCommands::begin()
 {
-    if (m_passing != command || m_gates.value(command)->isHolding())
+    ClickGate *gate = sender()->findChild<ClickGate *>();
+    const Command command = commandOf(gate);
+    if (m_passing != command || gate->isHolding())
         return;
     m_passing = None;
     m_running = command;
 }
 
-void WindowCommands::end(Command command)
+void WindowCommands::end()
 {
+    const Command command = commandOf(static_cast<ClickGate *>(sender()));
     m_running = None;
     switchOffHidden(command);
     Q_EMIT done(command);

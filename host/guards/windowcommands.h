@@ -24,7 +24,6 @@ class FILARIX_HOST_EXPORT WindowCommands : public QObject
 
 public:
     enum Command { None, New, Open, Remove, Save, SaveAs, Download };
-    Q_ENUM(Command)
 
     /// Of a window that was made just now: its buttons are told apart by their tool tips, of which
     /// one follows the language of that moment.
@@ -48,9 +47,12 @@ Q_SIGNALS:
     /// One that passed never ran: its button was disabled by then.
     void lost(WindowCommands::Command command);
 
+private Q_SLOTS:
+    void begin();
+    void end();
+
 private:
-    void begin(Command command);
-    void end(Command command);
+    Command commandOf(ClickGate *gate) const;
     void switchOffHidden(Command command);
 
     std::function<void(Command)> m_hold;

@@ -42,7 +42,7 @@ bool WindowDialogs::eventFilter(QObject *watched, QEvent *event)
         seeBox(box);
     if (QProgressDialog *progress = qobject_cast<QProgressDialog *>(dialog)) {
         if (progress->labelText() == QLatin1String(loadingText))
-            connect(progress, &QProgressDialog::canceled, this, &WindowDialogs::loadAborted,
+            connect(progress, SIGNAL(canceled()), this, SIGNAL(loadAborted()),
                     Qt::UniqueConnection);
     }
     if (!dialog->inherits("WFileDialog"))

@@ -21,7 +21,6 @@ class FILARIX_HOST_EXPORT WindowDialogs : public QObject
 
 public:
     enum Picker { OpenPicker, SavePicker, RemovePicker };
-    Q_ENUM(Picker)
 
     explicit WindowDialogs(QObject *parent = nullptr);
 

@@ -3,9 +3,10 @@
 
 #include "programs/historystore.h"
 
+#include "base/hostcompat.h"
+#include "base/sha256.h"
 #include "storage/durablefile.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -109,7 +110,7 @@ bool HistoryStore::open(QString *error)
     }
     std::sort(m_versions.begin(), m_versions.end(),
               [](const ProgramVersion &a, const ProgramVersion &b) { return a.number < b.number; });
-    for (const ProgramVersion &version : qAsConst(m_versions))
+    for (const ProgramVersion &version : HostCompat::readOnly(m_versions))
         m_bytes += version.bytes;
     trim();
     m_isOpen = true;
@@ -140,7 +141,7 @@ HistoryStore::Outcome HistoryStore::store(const QString &path, QString *error)
     QByteArray bytes;
     if (file.open(QIODevice::ReadOnly))
         bytes = file.readAll();
-    if (!file.isOpen() || file.error() != QFileDevice::NoError) {
+    if (!file.isOpen() || file.error() != QFile::NoError) {
         *error = tr("The history cannot read %1: %2.").arg(version.name, file.errorString());
         return Failed;
     }
@@ -148,7 +149,7 @@ HistoryStore::Outcome HistoryStore::store(const QString &path, QString *error)
         return Restless;
     file.close();
 
-    version.hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    version.hash = Sha256::hash(bytes);
     const ProgramVersion *last = newest(version.name);
     const bool isKnown = last && last->hash == version.hash;
     if (!isKnown) {

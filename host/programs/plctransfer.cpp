@@ -3,18 +3,18 @@
 
 #include "programs/plctransfer.h"
 
+#include "base/sha256.h"
 #include "storage/durablefile.h"
 #include "storage/filestamp.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 
-const int PlcTransfer::kPiece;
-const qint64 PlcTransfer::kLargestProgram;
+const int PlcTransfer::pieceBytes;
+const qint64 PlcTransfer::largestProgram;
 
 namespace {
 
@@ -70,7 +70,7 @@ private:
     const QString m_dropDir;
     const QString m_targetPath;
     const QByteArray m_shownHash;
-    QCryptographicHash m_hash{QCryptographicHash::Sha256};
+    Sha256 m_hash;
     QScopedPointer<DurableFile> m_target;
     QFile m_arrived;
     /// Of what was sent, under whatever name.
@@ -118,10 +118,10 @@ bool PlcTransfer::Task::open()
         return failAtPlc(tr("The PLC does not answer: there is no folder %1.").arg(m_dropDir));
     if (QFileInfo(m_dropDir).canonicalFilePath() == QFileInfo(m_program.path()).canonicalFilePath())
         return fail(tr("The PLC folder is the program directory itself. Choose another one."));
-    if (source.size() > kLargestProgram)
+    if (source.size() > largestProgram)
         return fail(tr("The program %1 is larger than the PLC takes (%2 MB).")
                         .arg(name)
-                        .arg(kLargestProgram / (1024 * 1024)));
+                        .arg(largestProgram / (1024 * 1024)));
     if (!m_source.open(QIODevice::ReadOnly))
         return fail(tr("The program %1 cannot be read: %2.").arg(name, m_source.errorString()));
     m_size = m_source.size();
@@ -151,7 +151,7 @@ void PlcTransfer::Task::sweep()
 
 bool PlcTransfer::Task::sendPiece()
 {
-    const QByteArray piece = m_source.read(std::min<qint64>(kPiece, m_size - m_position));
+    const QByteArray piece = m_source.read(std::min<qint64>(pieceBytes, m_size - m_position));
     if (piece.isEmpty() && m_position < m_size)
         return fail(tr("The program %1 cannot be read: %2.")
                         .arg(m_program.fileName(), m_source.errorString()));
@@ -201,8 +201,8 @@ bool PlcTransfer::Task::openArrived()
 bool PlcTransfer::Task::comparePiece()
 {
     // At the end of the program one more read has to find the end of the file.
-    const QByteArray piece = m_arrived.read(kPiece);
-    const QByteArray sent = m_source.read(std::min<qint64>(kPiece, m_size - m_position));
+    const QByteArray piece = m_arrived.read(pieceBytes);
+    const QByteArray sent = m_source.read(std::min<qint64>(pieceBytes, m_size - m_position));
     if (piece != sent)
         return takeOut();
     m_position += piece.size();
@@ -256,10 +256,10 @@ bool PlcTransfer::Task::fail(const QString &error)
 PlcTransfer::PlcTransfer(const QString &dropDir, QObject *parent)
     : QObject(parent), m_dropDir(dropDir)
 {
-    connect(&m_work, &FileTaskRunner::progressed, this, &PlcTransfer::progress);
-    connect(&m_work, &FileTaskRunner::ended, this, &PlcTransfer::end);
-    connect(&m_work, &FileTaskRunner::stopped, this, &PlcTransfer::endStopped);
-    connect(&m_work, &FileTaskRunner::stalled, this, &PlcTransfer::endStalled);
+    connect(&m_work, SIGNAL(progressed(int)), this, SIGNAL(progress(int)));
+    connect(&m_work, SIGNAL(ended()), this, SLOT(end()));
+    connect(&m_work, SIGNAL(stopped()), this, SLOT(endStopped()));
+    connect(&m_work, SIGNAL(stalled()), this, SLOT(endStalled()));
 }
 
 PlcTransfer::~PlcTransfer() = default;

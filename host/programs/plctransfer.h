@@ -21,7 +21,7 @@
 /// returned.
 ///
 ///     PlcTransfer transfer("/srv/plc");
-///     connect(&transfer, &PlcTransfer::failed, ...);
+///     connect(&transfer, SIGNAL(failed(QString)), ...);
 ///     transfer.start("/home/hmi/cnc/coil.cnc");
 class FILARIX_HOST_EXPORT PlcTransfer : public QObject
 {
@@ -29,9 +29,9 @@ class FILARIX_HOST_EXPORT PlcTransfer : public QObject
 
 public:
     /// Bytes that move in one step.
-    static const int kPiece = 16 * 1024;
+    static const int pieceBytes = 16 * 1024;
     /// Bytes that a program may have.
-    static const qint64 kLargestProgram = 64 * 1024 * 1024;
+    static const qint64 largestProgram = 64 * 1024 * 1024;
 
     /// The folder need not exist yet; a transfer into a missing one fails.
     explicit PlcTransfer(const QString &dropDir, QObject *parent = nullptr);
@@ -68,12 +68,13 @@ Q_SIGNALS:
     /// \a reason is a sentence for the operator, and says what to do.
     void failed(const QString &reason);
 
-private:
-    class Task;
-
+private Q_SLOTS:
     void end();
     void endStopped();
     void endStalled();
+
+private:
+    class Task;
 
     const QString m_dropDir;
     FileTaskRunner m_work;

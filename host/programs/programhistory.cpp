@@ -3,13 +3,12 @@
 
 #include "programs/programhistory.h"
 
+#include "base/hostcompat.h"
+#include "base/sha256.h"
 #include "storage/durablefile.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QRandomGenerator>
-#include <QThread>
 
 #include <algorithm>
 #include <cerrno>
@@ -75,11 +74,6 @@ Swap swapNames(const QString &from, const QString &to)
         return NotSwapped;
     return std::rename(encoded(from).constData(), encoded(to).constData()) == 0 ? Replaced
                                                                                 : NotSwapped;
-}
-
-QString randomName()
-{
-    return QString::number(QRandomGenerator::system()->generate64(), 16);
 }
 
 QString errnoText()
@@ -212,8 +206,8 @@ public:
         : m_version(version)
         , m_programDir(programDir)
         , m_targetPath(m_programDir.filePath(version.name))
-        , m_folder(
-              m_programDir.filePath(QLatin1String(halfRestored) + QLatin1Char('-') + randomName()))
+        , m_folder(m_programDir.filePath(QLatin1String(halfRestored) + QLatin1Char('-')
+                                         + HostCompat::uniqueName()))
         , m_halfPath(m_folder + QLatin1Char('/') + version.name)
         , m_store(store)
         , m_source(version.path)
@@ -245,7 +239,7 @@ private:
     const std::shared_ptr<HistoryStore> m_store;
     QFile m_source;
     QScopedPointer<DurableFile> m_half;
-    QCryptographicHash m_hash{QCryptographicHash::Sha256};
+    Sha256 m_hash;
     qint64 m_done = 0;
     QString m_error;
     bool m_isReady = false;
@@ -364,7 +358,7 @@ bool ProgramHistory::Restore::isKept(const QString &path) const
             return true;
         if (outcome == HistoryStore::Failed || writing.hasExpired(writerMs))
             return false;
-        QThread::msleep(HistoryStore::restMs / 5);
+        HostCompat::sleep(HistoryStore::restMs / 5);
     }
     return true;
 }
@@ -397,21 +391,17 @@ ProgramHistory::ProgramHistory(const QString &programDir, const QString &folder,
     , m_store(std::make_shared<HistoryStore>(folder, limits))
     , m_patienceMs(patienceMs)
 {
-    connect(&m_scanWork, &FileTaskRunner::ended, this, &ProgramHistory::endScan);
-    connect(&m_scanWork, &FileTaskRunner::stalled, this, &ProgramHistory::loseScan);
-    connect(&m_restoreWork, &FileTaskRunner::progressed, this, [this](int percent) {
-        Q_EMIT worked(tr("%1 is brought back: %2 %").arg(m_wanted.name).arg(percent), percent);
-    });
-    connect(&m_restoreWork, &FileTaskRunner::ended, this, &ProgramHistory::endRestore);
-    connect(&m_restoreWork, &FileTaskRunner::stopped, this, [this] {
-        tellRestore(tr("Stopped. %1 is as it was.").arg(m_wanted.name), Message::Information);
-    });
-    connect(&m_restoreWork, &FileTaskRunner::stalled, this, &ProgramHistory::loseRestore);
-    connect(&m_pollTimer, &QTimer::timeout, this, &ProgramHistory::look);
+    connect(&m_scanWork, SIGNAL(ended()), this, SLOT(endScan()));
+    connect(&m_scanWork, SIGNAL(stalled()), this, SLOT(loseScan()));
+    connect(&m_restoreWork, SIGNAL(progressed(int)), this, SLOT(tellProgress(int)));
+    connect(&m_restoreWork, SIGNAL(ended()), this, SLOT(endRestore()));
+    connect(&m_restoreWork, SIGNAL(stopped()), this, SLOT(endStopped()));
+    connect(&m_restoreWork, SIGNAL(stalled()), this, SLOT(loseRestore()));
+    connect(&m_pollTimer, SIGNAL(timeout()), this, SLOT(look()));
     m_restTimer.setSingleShot(true);
-    connect(&m_restTimer, &QTimer::timeout, this, &ProgramHistory::beginScan);
+    connect(&m_restTimer, SIGNAL(timeout()), this, SLOT(beginScan()));
     m_patienceTimer.setSingleShot(true);
-    connect(&m_patienceTimer, &QTimer::timeout, this, &ProgramHistory::serveThePatient);
+    connect(&m_patienceTimer, SIGNAL(timeout()), this, SLOT(serveThePatient()));
     m_unsettledFor.start();
     m_pollTimer.start(pollMs);
     beginScan();
@@ -448,7 +438,7 @@ bool ProgramHistory::isSettled() const
 void ProgramHistory::whenSettled(QObject *context, const std::function<void()> &then)
 {
     if (m_isLost) {
-        QTimer::singleShot(0, context, then);
+        HostCompat::callLater(context, then);
         return;
     }
     Waiter waiter{context, then, m_looks + 1, QElapsedTimer()};
@@ -559,11 +549,11 @@ void ProgramHistory::loseScan()
 void ProgramHistory::serve(int look)
 {
     QList<Waiter> later;
-    for (const Waiter &waiter : qAsConst(m_waiters)) {
+    for (const Waiter &waiter : HostCompat::readOnly(m_waiters)) {
         if (waiter.look > look)
             later.append(waiter);
         else if (waiter.context)
-            QTimer::singleShot(0, waiter.context.data(), waiter.then);
+            HostCompat::callLater(waiter.context.data(), waiter.then);
     }
     m_waiters = later;
     if (m_waiters.isEmpty())
@@ -577,7 +567,7 @@ void ProgramHistory::serveThePatient()
         const Waiter waiter = m_waiters.takeFirst();
         m_overdueLook = qMax(m_overdueLook, waiter.look);
         if (waiter.context)
-            QTimer::singleShot(0, waiter.context.data(), waiter.then);
+            HostCompat::callLater(waiter.context.data(), waiter.then);
     }
     if (!m_waiters.isEmpty())
         m_patienceTimer.start(qMax(0, m_patienceMs - int(m_waiters.first().since.elapsed())));
@@ -635,6 +625,16 @@ void ProgramHistory::loseRestore()
                              "which version it is now is not known. Switch the panel off and on.")
                               .arg(m_wanted.name),
                 Message::Alarm);
+}
+
+void ProgramHistory::tellProgress(int percent)
+{
+    Q_EMIT worked(tr("%1 is brought back: %2 %").arg(m_wanted.name).arg(percent), percent);
+}
+
+void ProgramHistory::endStopped()
+{
+    tellRestore(tr("Stopped. %1 is as it was.").arg(m_wanted.name), Message::Information);
 }
 
 void ProgramHistory::tellRestore(const QString &text, Message::Tone tone)

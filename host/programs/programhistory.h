@@ -11,6 +11,7 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -24,7 +25,7 @@
 /// Whoever is about to write over a program, or to take one away, waits for the history first:
 ///
 ///     ProgramHistory history("/home/hmi/cnc", "/home/hmi/hmi/history");
-///     connect(&history, &ProgramHistory::told, ...);
+///     connect(&history, SIGNAL(told(QString,Message::Tone,QString)), ...);
 ///     history.whenSettled(this, [this] { writeTheFile(); });
 class FILARIX_HOST_EXPORT ProgramHistory : public QObject
 {
@@ -77,6 +78,17 @@ Q_SIGNALS:
     /// A restore() goes on: \a percent of it is done.
     void worked(const QString &text, int percent);
 
+private Q_SLOTS:
+    void look();
+    void beginScan();
+    void endScan();
+    void loseScan();
+    void serveThePatient();
+    void tellProgress(int percent);
+    void endRestore();
+    void endStopped();
+    void loseRestore();
+
 private:
     class Scan;
     class Restore;
@@ -90,17 +102,10 @@ private:
         QElapsedTimer since;
     };
 
-    void look();
-    void beginScan();
-    void endScan();
-    void loseScan();
     void takeOver(const QList<ProgramVersion> &versions);
     void tellFailures(const QHash<QString, QString> &failures);
     void serve(int look);
-    void serveThePatient();
     void beginRestore();
-    void endRestore();
-    void loseRestore();
     void tellRestore(const QString &text, Message::Tone tone);
     void setSettled(bool isSettled);
 

@@ -3,13 +3,13 @@
 
 #include "programs/programsnapshot.h"
 
+#include "base/hostcompat.h"
+#include "base/sha256.h"
 #include "storage/filestamp.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstring>
@@ -73,8 +73,7 @@ class Q_DECL_HIDDEN ProgramSnapshot::Copy
 {
 public:
     explicit Copy(const QString &folder)
-        : m_path(folder + QLatin1Char('/') + QLatin1String(copyStart)
-                 + QString::number(QRandomGenerator::system()->generate64(), 16))
+        : m_path(folder + QLatin1Char('/') + QLatin1String(copyStart) + HostCompat::uniqueName())
     {}
     ~Copy() { remove(); }
 
@@ -170,7 +169,7 @@ private:
     QFile m_source;
     const std::shared_ptr<Copy> m_copy;
     FileStamp m_stamp;
-    QCryptographicHash m_hash{QCryptographicHash::Sha256};
+    Sha256 m_hash;
     ProgramFacts m_facts;
     int m_tries = 0;
     bool m_isWhole = false;
@@ -196,7 +195,7 @@ bool ProgramSnapshot::Task::open()
         return fail(
             tr("The program %1 cannot be read: %2.").arg(m_facts.name, m_source.errorString()));
     m_stamp = FileStamp::of(m_source);
-    m_hash.reset();
+    m_hash = Sha256();
     m_facts.bytes = 0;
     m_facts.lines = 1;
     if (m_copy && !m_copy->open())
@@ -208,8 +207,8 @@ bool ProgramSnapshot::Task::open()
 bool ProgramSnapshot::Task::readPiece()
 {
     // Up to where the end was at first: one that moves on could be followed for ever.
-    const QByteArray piece = m_source.read(qMin<qint64>(kPiece, m_stamp.size - m_facts.bytes));
-    if (m_source.error() != QFileDevice::NoError)
+    const QByteArray piece = m_source.read(qMin<qint64>(pieceBytes, m_stamp.size - m_facts.bytes));
+    if (m_source.error() != QFile::NoError)
         return fail(
             tr("The program %1 cannot be read: %2.").arg(m_facts.name, m_source.errorString()));
     m_facts.bytes += piece.size();
@@ -254,10 +253,10 @@ bool ProgramSnapshot::Task::fail(const QString &error)
 ProgramSnapshot::ProgramSnapshot(const QString &folder, QObject *parent)
     : QObject(parent), m_folder(folder)
 {
-    connect(&m_work, &FileTaskRunner::progressed, this, &ProgramSnapshot::progress);
-    connect(&m_work, &FileTaskRunner::ended, this, &ProgramSnapshot::end);
-    connect(&m_work, &FileTaskRunner::stopped, this, &ProgramSnapshot::endStopped);
-    connect(&m_work, &FileTaskRunner::stalled, this, &ProgramSnapshot::endStalled);
+    connect(&m_work, SIGNAL(progressed(int)), this, SIGNAL(progress(int)));
+    connect(&m_work, SIGNAL(ended()), this, SLOT(end()));
+    connect(&m_work, SIGNAL(stopped()), this, SLOT(endStopped()));
+    connect(&m_work, SIGNAL(stalled()), this, SLOT(endStalled()));
     m_keeper.post([folder] { sweep(folder); }, [] {});
 }
 

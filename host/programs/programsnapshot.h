@@ -8,6 +8,7 @@
 #include "storage/filetaskrunner.h"
 
 #include <QByteArray>
+#include <QMetaType>
 #include <QString>
 
 /// What an operator can tell a program by.
@@ -44,10 +45,9 @@ public:
         Changed, ///< It holds something else by now.
         Gone     ///< It cannot be read any more.
     };
-    Q_ENUM(Verdict)
 
     /// Bytes that move in one step.
-    static const int kPiece = 64 * 1024;
+    static const int pieceBytes = 64 * 1024;
 
     /// \a folder, made if it is missing, is for copies alone; what a panel left there that runs no
     /// more goes.
@@ -82,14 +82,16 @@ Q_SIGNALS:
     void failed(const QString &reason);
     void compared(ProgramSnapshot::Verdict verdict);
 
+private Q_SLOTS:
+    void end();
+    void endStopped();
+    void endStalled();
+
 private:
     class Copy;
     class Task;
 
     void begin(const std::shared_ptr<Copy> &copy);
-    void end();
-    void endStopped();
-    void endStalled();
 
     const QString m_folder;
     QString m_path;
@@ -100,5 +102,7 @@ private:
     std::shared_ptr<Task> m_task;
     bool m_comparing = false;
 };
+
+Q_DECLARE_METATYPE(ProgramSnapshot::Verdict)
 
 #endif // PROGRAMSNAPSHOT_H

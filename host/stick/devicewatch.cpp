@@ -5,19 +5,28 @@
 
 #include "stick/stick.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
-#include <QStorageInfo>
 #include <QThread>
 #include <QWaitCondition>
 
+#include <sys/statvfs.h>
+
 namespace {
 
-const int kPeriodMs = 1000;
-const int kPatienceMs = 5000;
-const int kPartingMs = 500;
+const int periodMs = 1000;
+const int patienceMs = 5000;
+const int partingMs = 500;
+
+qint64 freeBytesAt(const QString &folder)
+{
+    struct statvfs storage = {};
+    if (::statvfs(QFile::encodeName(folder).constData(), &storage) != 0)
+        return -1;
+    return qint64(storage.f_bavail) * qint64(storage.f_frsize);
+}
 
 } // namespace
 
@@ -58,7 +67,7 @@ protected:
                 return;
             Q_EMIT looked(state);
             if (!m_isWanted)
-                m_condition.wait(&m_mutex, kPeriodMs);
+                m_condition.wait(&m_mutex, periodMs);
         }
     }
 
@@ -79,14 +88,11 @@ bool DeviceState::operator==(const DeviceState &other) const
 DeviceWatch::DeviceWatch(const Probe &probe, QObject *parent)
     : QObject(parent), m_looker(new DeviceLooker(probe))
 {
-    qRegisterMetaType<DeviceState>();
-    connect(m_looker, &DeviceLooker::looked, this, &DeviceWatch::take);
+    qRegisterMetaType<DeviceState>("DeviceState");
+    connect(m_looker, SIGNAL(looked(DeviceState)), this, SLOT(take(DeviceState)));
     m_patience.setSingleShot(true);
-    m_patience.setInterval(kPatienceMs);
-    connect(&m_patience, &QTimer::timeout, this, [this] {
-        m_state = DeviceState();
-        Q_EMIT changed(m_state);
-    });
+    m_patience.setInterval(patienceMs);
+    connect(&m_patience, SIGNAL(timeout()), this, SLOT(forget()));
     m_patience.start();
     m_looker->start(QThread::LowPriority);
 }
@@ -94,12 +100,12 @@ DeviceWatch::DeviceWatch(const Probe &probe, QObject *parent)
 DeviceWatch::~DeviceWatch()
 {
     m_looker->stop();
-    if (m_looker->wait(kPartingMs)) {
+    if (m_looker->wait(partingMs)) {
         delete m_looker;
         return;
     }
     // One that a device keeps waiting goes when it is let go, or ends with the program.
-    connect(m_looker, &QThread::finished, m_looker, &QObject::deleteLater);
+    connect(m_looker, SIGNAL(finished()), m_looker, SLOT(deleteLater()));
     if (m_looker->isFinished())
         m_looker->deleteLater();
 }
@@ -110,9 +116,7 @@ DeviceState DeviceWatch::lookAt(const QString &plcDir, const QString &programDir
     state.isKnown = true;
     state.plcReachable = QFileInfo(plcDir).isDir();
     state.stickIn = Stick::isPresent();
-    const QStorageInfo storage(programDir);
-    if (storage.isValid() && storage.isReady())
-        state.freeBytes = storage.bytesAvailable();
+    state.freeBytes = freeBytesAt(programDir);
     return state;
 }
 
@@ -127,6 +131,12 @@ void DeviceWatch::take(const DeviceState &state)
     if (state == m_state)
         return;
     m_state = state;
+    Q_EMIT changed(m_state);
+}
+
+void DeviceWatch::forget()
+{
+    m_state = DeviceState();
     Q_EMIT changed(m_state);
 }
 

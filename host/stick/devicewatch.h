@@ -34,7 +34,7 @@ Q_DECLARE_METATYPE(DeviceState)
 /// stick may keep whoever asks for it waiting, and that must not be the screen.
 ///
 ///     DeviceWatch watch([plcDir] { return DeviceWatch::lookAt(plcDir, programDir); });
-///     connect(&watch, &DeviceWatch::changed, strip, &StatusStrip::showDevices);
+///     connect(&watch, SIGNAL(changed(DeviceState)), strip, SLOT(showDevices(DeviceState)));
 class FILARIX_HOST_EXPORT DeviceWatch : public QObject
 {
     Q_OBJECT
@@ -61,9 +61,11 @@ public Q_SLOTS:
 Q_SIGNALS:
     void changed(const DeviceState &state);
 
-private:
+private Q_SLOTS:
     void take(const DeviceState &state);
+    void forget();
 
+private:
     DeviceLooker *m_looker;
     DeviceState m_state;
     QTimer m_patience;

@@ -18,10 +18,7 @@ FolderWatch::FolderWatch(const Probe &probe, QObject *parent) : QObject(parent),
 {
     m_patience.setSingleShot(true);
     m_patience.setInterval(patienceMs);
-    connect(&m_patience, &QTimer::timeout, this, [this] {
-        m_isOverdue = true;
-        Q_EMIT changed();
-    });
+    connect(&m_patience, SIGNAL(timeout()), this, SLOT(noteOverdue()));
 }
 
 FolderWatch::~FolderWatch()
@@ -54,6 +51,12 @@ void FolderWatch::look()
     const Probe probe = m_probe;
     const std::shared_ptr<FolderState> state = std::make_shared<FolderState>();
     m_thread.post([probe, state] { *state = probe(); }, [this, state] { take(*state); });
+}
+
+void FolderWatch::noteOverdue()
+{
+    m_isOverdue = true;
+    Q_EMIT changed();
 }
 
 void FolderWatch::take(const FolderState &state)

@@ -27,7 +27,7 @@ struct FolderState
 /// thread waiting, and nobody else.
 ///
 ///     FolderWatch watch([dir] { return FolderWatch::lookAt(dir); });
-///     connect(&watch, &FolderWatch::changed, ...);
+///     connect(&watch, SIGNAL(changed()), ...);
 ///     watch.look();
 class FILARIX_HOST_EXPORT FolderWatch : public QObject
 {
@@ -57,6 +57,9 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// A look has ended or is overdue.
     void changed();
+
+private Q_SLOTS:
+    void noteOverdue();
 
 private:
     void take(const FolderState &state);

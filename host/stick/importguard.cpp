@@ -4,6 +4,7 @@
 #include "stick/importguard.h"
 
 #include "base/clickgate.h"
+#include "base/hostcompat.h"
 #include "importmanage.h"
 #include "programs/programhistory.h"
 #include "stick/stick.h"
@@ -17,7 +18,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegExp>
-#include <QTimer>
 
 namespace {
 
@@ -76,7 +76,7 @@ QString question(const QList<Unsafe> &files)
         lines.append(ImportGuard::tr("and %1 more").arg(files.size() - namesShown));
     return ImportGuard::tr("The transfer would not take these file names for what they are. "
                            "Rename?")
-           + QLatin1String("\n\n") + lines.join(QLatin1Char('\n'));
+           + QLatin1String("\n\n") + lines.join(QLatin1String("\n"));
 }
 
 QString chosenName(const QListView *view)
@@ -153,7 +153,7 @@ void ImportGuard::watch(ImportManage *manager)
             const Gate gate = new ClickGate(button);
             const TransferReport::Command command = key.command;
             gate->onClick([this, gate, manager, command] { press(gate, manager, command); });
-            connect(gate, &ClickGate::passed, this, &ImportGuard::report);
+            connect(gate, SIGNAL(passed()), this, SLOT(report()));
         }
     }
 }
@@ -202,7 +202,7 @@ void ImportGuard::confirm(const Gate &gate)
 void ImportGuard::hold(const Gate &gate)
 {
     m_held = gate;
-    QTimer::singleShot(momentMs, gate, [this, gate] {
+    HostCompat::callAfter(momentMs, gate, [this, gate] {
         if (gate->isHolding() && !m_isAsking)
             Q_EMIT told(tr("One moment: the panel looks at the programs and the stick."),
                         Message::Information, stickCause);

@@ -60,6 +60,9 @@ Q_SIGNALS:
     /// Names were changed, or a command of a manager has ended.
     void filesChanged();
 
+private Q_SLOTS:
+    void report();
+
 private:
     struct Look;
 
@@ -80,7 +83,6 @@ private:
     bool mayLose(const QString &name);
     void ask(const Look &look, const std::function<void(Settled)> &then);
     void renameAll(const Look &look, const std::function<void(Settled)> &then);
-    void report();
     void tellOutcome(const TransferReport &report, TransferReport::Outcome outcome);
     void tellStall();
     bool isProgramDirSafe() const;

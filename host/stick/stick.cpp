@@ -16,14 +16,16 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
 
 namespace {
 
-const QByteArray kMarkerText = "filarix-panel ";
+const QByteArray markerText = "filarix-panel ";
 // What taking the stick out needs, on a file system that answers.
 const int partingMs = 1000;
 
@@ -58,6 +60,24 @@ bool isMountPoint(const QString &path)
             return true;
     }
     return false;
+}
+
+// Never through a link that somebody else has laid in a folder open to all. Without a marker the
+// reason is in errno.
+bool makeMarker()
+{
+    const QByteArray path = QFile::encodeName(Stick::marker());
+    const QByteArray text = markerText + QByteArray::number(qint64(getpid()));
+    const int handle = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (handle < 0)
+        return false;
+    const bool isWritten = ::write(handle, text.constData(), size_t(text.size())) == text.size();
+    const int reason = errno;
+    ::close(handle);
+    if (!isWritten)
+        ::unlink(path.constData());
+    errno = reason;
+    return isWritten;
 }
 
 } // namespace
@@ -176,12 +196,10 @@ bool Stick::Simulation::plug(QString *error)
     }
     if (!isBound() && !isLinked() && !link(error))
         return false;
-    // Never through a link that somebody else has laid in a folder open to all.
-    QFile file(marker());
-    m_madeMarker = file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
-                   && file.write(kMarkerText + QByteArray::number(qint64(getpid()))) > 0;
+    m_madeMarker = makeMarker();
     if (!m_madeMarker) {
-        *error = Words::tr("The marker %1 cannot be made: %2.").arg(marker(), file.errorString());
+        *error = Words::tr("The marker %1 cannot be made: %2.")
+                     .arg(marker(), QString::fromLocal8Bit(std::strerror(errno)));
         takeOut();
     }
     return m_madeMarker;
@@ -223,7 +241,7 @@ bool Stick::Simulation::isMarkerAbandoned()
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray text = file.read(64);
-    const int process = text.startsWith(kMarkerText) ? text.mid(kMarkerText.size()).toInt() : 0;
+    const int process = text.startsWith(markerText) ? text.mid(markerText.size()).toInt() : 0;
     return process > 0 && kill(process, 0) != 0 && errno == ESRCH;
 }
 

@@ -28,10 +28,10 @@ bool areSame(const QString &first, const QString &second)
         return false;
     for (;;) {
         const QByteArray piece = a.read(pieceBytes);
-        if (a.error() != QFileDevice::NoError || piece != b.read(pieceBytes))
+        if (a.error() != QFile::NoError || piece != b.read(pieceBytes))
             return false;
         if (piece.isEmpty())
-            return b.error() == QFileDevice::NoError;
+            return b.error() == QFile::NoError;
     }
 }
 

@@ -57,7 +57,7 @@ private:
 static QByteArray longProgram()
 {
     QByteArray program;
-    for (int i = 0; program.size() < 10 * PlcTransfer::kPiece; ++i)
+    for (int i = 0; program.size() < 10 * PlcTransfer::pieceBytes; ++i)
         program += "G01 X" + QByteArray::number(i) + "\n";
     return program;
 }
@@ -120,7 +120,7 @@ void TestPlcTransfer::programArrivesByteForByte_data()
     QByteArray allBytes;
     for (int i = 0; i < 256; ++i)
         allBytes += char(i);
-    const QByteArray piece(PlcTransfer::kPiece, 'X');
+    const QByteArray piece(PlcTransfer::pieceBytes, 'X');
     QTest::newRow("empty") << QByteArray("");
     QTest::newRow("one byte") << QByteArray("G");
     QTest::newRow("every byte there is") << allBytes;
@@ -266,7 +266,7 @@ void TestPlcTransfer::programTooLarge()
 {
     QFile file(programDir() + "/coil.cnc");
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.resize(PlcTransfer::kLargestProgram + 1));
+    QVERIFY(file.resize(PlcTransfer::largestProgram + 1));
     PlcTransfer transfer(m_plc);
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     transfer.start(programDir() + "/coil.cnc");

@@ -56,7 +56,7 @@ static struct
 
 static QByteArray longProgram()
 {
-    return QByteArray("G01 X1.5 Y-2\n").repeated(4 * ProgramSnapshot::kPiece / 13);
+    return QByteArray("G01 X1.5 Y-2\n").repeated(4 * ProgramSnapshot::pieceBytes / 13);
 }
 
 void TestProgramSnapshot::init()

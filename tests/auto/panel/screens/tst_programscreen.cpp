@@ -209,7 +209,7 @@ void TestProgramScreen::messageOfThePlcEndsWithADownload()
 
 void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
 {
-    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::pieceBytes, 'X'));
     WMMainWindow *window = m_screen->programWindow();
     QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     connect(m_screen, &PanelScreen::worked, m_screen, &PanelScreen::stopWork);
@@ -225,7 +225,7 @@ void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
 
 void TestProgramScreen::stopBeforeTheComparisonWarnsUntilADownloadIsCompared()
 {
-    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::pieceBytes, 'X'));
     WMMainWindow *window = m_screen->programWindow();
     QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
     QSignalSpy ends(m_screen, SIGNAL(causeEnded(QString)));
@@ -531,7 +531,7 @@ void TestProgramScreen::partIsSentByNoWay()
 
 void TestProgramScreen::closingDuringADownloadIsRefused()
 {
-    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::kPiece, 'X'));
+    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::pieceBytes, 'X'));
     QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
     ModalDriver driver;
     driver.then([&](QWidget *dialog) {

@@ -80,7 +80,7 @@ void TestStatusStrip::transferIsShown()
 {
     const QString plc = home() + "/plc";
     QDir().mkpath(plc);
-    writeFile(programDir() + "/a.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
+    writeFile(programDir() + "/a.cnc", QByteArray(5 * PlcTransfer::pieceBytes, 'x'));
     PlcTransfer transfer(plc);
     StatusStrip strip(false);
     strip.showDevices(devices(true, false, 0));
@@ -106,7 +106,7 @@ void TestStatusStrip::failedTransferStaysToBeSeen()
     StatusStrip strip(false);
     strip.follow(&transfer);
     strip.showDevices(devices(true, false, 0));
-    writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
+    writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::pieceBytes, 'x'));
     // What was sent is gone when it shall be read back.
     const QMetaObject::Connection spoiling = connect(&transfer, &PlcTransfer::progress, this,
                                                      [plc] { QFile::remove(plc + "/long.cnc"); });
@@ -137,7 +137,7 @@ void TestStatusStrip::stoppedTransferIsNoFailureOfThePlc()
     StatusStrip strip(false);
     strip.follow(&transfer);
     strip.showDevices(devices(true, false, 0));
-    writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::kPiece, 'x'));
+    writeFile(programDir() + "/long.cnc", QByteArray(5 * PlcTransfer::pieceBytes, 'x'));
     bool wasSending = false;
     connect(&transfer, &PlcTransfer::progress, &transfer, [&] {
         wasSending = strip.plc() == StatusStrip::PlcSending;
