@@ -6,7 +6,6 @@
 #include "temporaryhome.h"
 
 #include <QApplication>
-#include <QDir>
 
 #include <cstdio>
 #include <cstring>
@@ -37,14 +36,27 @@ int answer(const Options &options)
     return refused ? 2 : 0;
 }
 
-/// Where the build has them, and where they are installed; from the program's own folder.
-QStringList translationFolders()
+/// A tour makes pictures and needs no display, unless it is asked to be seen.
+void goWithoutDisplay(int argc, char **argv)
 {
-    QStringList folders;
-    for (const char *folder : {FILARIX_BUILT_TRANSLATIONS, FILARIX_INSTALLED_TRANSLATIONS})
-        folders.append(
-            QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(folder)));
-    return folders;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
+        && !hasArgument(argc, argv, {"-platform", "--platform"}))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+int refuseTour()
+{
+    std::fputs("No home for the tour: the temporary folder cannot be written.\n", stderr);
+    return PanelProgram::TourFailed;
+}
+
+/// Runs what \a arguments ask for.
+int run(const QStringList &arguments)
+{
+    const Options options = Options::parse(arguments);
+    if (options.outcome != Options::Run)
+        return answer(options);
+    return PanelProgram(options, PanelProgram::translationFolders()).run();
 }
 
 } // namespace
@@ -58,24 +70,14 @@ int main(int argc, char **argv)
         QCoreApplication application(argc, argv);
         return answer(Options::parse(application.arguments()));
     }
-    if (hasArgument(argc, argv, {"--tour"}) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
-        && !hasArgument(argc, argv, {"-platform", "--platform"}))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-
     // Before anything looks into the home. The walk changes what it finds there.
     std::unique_ptr<TemporaryHome> home;
-    if (hasArgument(argc, argv, {"--tour"}))
+    if (hasArgument(argc, argv, {"--tour"})) {
+        goWithoutDisplay(argc, argv);
         home.reset(new TemporaryHome);
-    if (home && !home->isValid()) {
-        std::fputs("No home for the tour: the temporary folder cannot be written.\n", stderr);
-        return PanelProgram::TourFailed;
+        if (!home->isValid())
+            return refuseTour();
     }
-
     QApplication application(argc, argv);
-    const Options options = Options::parse(application.arguments());
-    if (options.outcome != Options::Run)
-        return answer(options);
-    if (!options.programDir.isEmpty())
-        qputenv("HOME", QFile::encodeName(options.home()));
-    return PanelProgram(options, translationFolders()).run();
+    return run(application.arguments());
 }

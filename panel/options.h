@@ -45,7 +45,7 @@ struct Options
     static Options parse(const QStringList &arguments);
 
     /// The home that puts the library's program directory at `programDir`; empty to keep the
-    /// user's. The library has no other way to be told the directory.
+    /// user's.
     QString home() const;
     /// `plcDir`, or the one in the home of this moment.
     QString plcFolder() const;

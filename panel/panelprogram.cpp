@@ -20,6 +20,7 @@
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
 #include "shell/dialogfitter.h"
+#include "shell/messagelog.h"
 #include "shell/panelwindow.h"
 #include "shell/statusstrip.h"
 #include "stick/devicewatch.h"
@@ -29,6 +30,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -52,27 +54,14 @@ QSize surfaceSize(const Options &options)
     return options.surfaceOn(QGuiApplication::primaryScreen()->size());
 }
 
-void setUpStyle()
-{
-    QApplication::setStyle(new PanelStyle);
-    QFont font = QApplication::font();
-    font.setPixelSize(fontPixels);
-    QApplication::setFont(font);
-}
-
-QString ownPath(const StartUp::Folders &folders, const char *name)
-{
-    return QDir(folders.own).filePath(QLatin1String(name));
-}
-
 } // namespace
 
 PanelProgram::PanelProgram(const Options &options, const QStringList &translationFolders)
     : m_options(options)
-    , m_folders(foldersOf(options))
+    , m_folders(settleFolders(options))
     , m_startUp(m_folders)
     // The pictures of a tour are the same wherever they are made.
-    , m_settings(isTour() ? QString() : ownPath(m_folders, "panel.ini"))
+    , m_settings(isTour() ? QString() : ownPath("panel.ini"))
     , m_languages(translationFolders, &m_settings)
     , m_stick(options.stickDir)
 {
@@ -81,8 +70,27 @@ PanelProgram::PanelProgram(const Options &options, const QStringList &translatio
 
 PanelProgram::~PanelProgram() = default;
 
-StartUp::Folders PanelProgram::foldersOf(const Options &options)
+// From the program's own folder, so that an installed tree can be moved.
+QStringList PanelProgram::translationFolders()
 {
+    const QDir own(QCoreApplication::applicationDirPath());
+    return {own.filePath(QLatin1String(FILARIX_BUILT_TRANSLATIONS)),
+            own.filePath(QLatin1String(FILARIX_INSTALLED_TRANSLATIONS))};
+}
+
+void PanelProgram::setUpStyle()
+{
+    QApplication::setStyle(new PanelStyle);
+    QFont font = QApplication::font();
+    font.setPixelSize(fontPixels);
+    QApplication::setFont(font);
+}
+
+StartUp::Folders PanelProgram::settleFolders(const Options &options)
+{
+    // The library has no other way to be told the directory.
+    if (!options.programDir.isEmpty())
+        qputenv("HOME", QFile::encodeName(options.home()));
     StartUp::Folders folders;
     folders.programs = ProgramDirectory::path();
     folders.areProgramsAskedFor = !options.programDir.isEmpty();
@@ -93,7 +101,12 @@ StartUp::Folders PanelProgram::foldersOf(const Options &options)
     return folders;
 }
 
-int PanelProgram::run()
+QString PanelProgram::ownPath(const char *name) const
+{
+    return QDir(m_folders.own).filePath(QLatin1String(name));
+}
+
+PanelProgram::Status PanelProgram::start()
 {
     setUpStyle();
     chooseLook();
@@ -103,12 +116,26 @@ int PanelProgram::run()
         return refuse(outcome);
     makeWindow();
     makeScreens();
+    addScreens();
+    connectWindow();
     connectScreens();
+    connectStartUp();
     watchDevices();
-    watchUnsavedWork();
-    show();
+    // A tour makes the pictures of a panel on which nothing was left.
     if (!isTour())
+        offerUnsavedWork();
+    tidyNowAndThen();
+    show();
+    if (m_offer)
         m_offer->start();
+    return Started;
+}
+
+int PanelProgram::run()
+{
+    const Status status = start();
+    if (status != Started)
+        return status;
     return isTour() ? walk() : QApplication::exec();
 }
 
@@ -137,51 +164,71 @@ void PanelProgram::makeWindow()
     // The tour's pictures are those of a display, with all that stands on it.
     if (m_options.turn != 0 || isTour())
         m_glass.reset(new PanelGlass(surface, m_options.turn));
-    m_panel.reset(new PanelWindow(surface));
-    new PanelSurface(m_panel.get(), m_options.touch);
-    new FindDialogKeypad(m_panel.get());
-    new DialogFitter(m_panel.get());
+    m_window.reset(new PanelWindow(surface));
+    new PanelSurface(m_window.get(), m_options.touch);
+    new FindDialogKeypad(m_window.get());
+    new DialogFitter(m_window.get());
 }
 
 void PanelProgram::makeScreens()
 {
-    m_history.reset(new ProgramHistory(m_folders.programs, ownPath(m_folders, "history")));
+    const QSize surface = m_window->size();
+    m_history.reset(new ProgramHistory(m_folders.programs, ownPath("history")));
     m_programs =
         new ProgramScreen(m_options.rotation, m_options.plcFolder(), m_folders.own, &m_machine);
     m_programs->setHistory(m_history.get());
-    m_teach = new TeachScreen(m_panel->size(), m_folders.own, &m_machine);
-    m_variables = new VariablesScreen(m_panel->size(), m_folders.own);
-    m_connections = new ConnectionsScreen(ownPath(m_folders, "connections.ini"));
+    m_teach = new TeachScreen(surface, m_folders.own, &m_machine);
+    m_variables = new VariablesScreen(surface, m_folders.own);
+    m_connections = new ConnectionsScreen(ownPath("connections.ini"));
     m_files = new FilesScreen(&m_stick, m_history.get());
-    m_panel->addScreen(
-        m_programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
-    m_panel->addScreen(
-        m_teach, [] { return PanelWindow::tr("Teach"); }, Glyphs::icon(Glyphs::Teach));
-    m_panel->addScreen(
-        m_variables, [] { return PanelWindow::tr("Variables"); }, Glyphs::icon(Glyphs::Variables));
-    m_panel->addScreen(
-        m_connections, [] { return PanelWindow::tr("Connections"); },
-        Glyphs::icon(Glyphs::Connections));
-    m_panel->addScreen(
-        m_files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
-    m_panel->setLanguages(&m_languages);
-    m_panel->setSettings(&m_settings);
+}
+
+void PanelProgram::addScreens()
+{
+    const struct
+    {
+        PanelScreen *screen;
+        const char *name;
+        Glyphs::Glyph glyph;
+    } screens[] = {
+        {m_programs, QT_TRANSLATE_NOOP("PanelWindow", "Program"), Glyphs::Program},
+        {m_teach, QT_TRANSLATE_NOOP("PanelWindow", "Teach"), Glyphs::Teach},
+        {m_variables, QT_TRANSLATE_NOOP("PanelWindow", "Variables"), Glyphs::Variables},
+        {m_connections, QT_TRANSLATE_NOOP("PanelWindow", "Connections"), Glyphs::Connections},
+        {m_files, QT_TRANSLATE_NOOP("PanelWindow", "Files"), Glyphs::Files},
+    };
+    for (const auto &entry : screens) {
+        const char *const name = entry.name;
+        m_window->addScreen(
+            entry.screen, [name] { return PanelWindow::tr(name); }, Glyphs::icon(entry.glyph));
+    }
+    m_window->setLanguages(&m_languages);
+    m_window->setSettings(&m_settings);
+}
+
+void PanelProgram::connectWindow()
+{
+    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLook);
+    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLanguage);
+    // Not by the last window: the find dialog may be open, and it has no parent.
+    connect(m_window.get(), &PanelWindow::closed, qApp, &QApplication::quit);
 }
 
 void PanelProgram::connectScreens()
 {
+    WMMainWindow *const programWindow = m_programs->programWindow();
     // A save shows in the title or in its mark.
     connect(m_programs, &PanelScreen::titleChanged, m_history.get(), &ProgramHistory::scan);
-    connect(m_files, &FilesScreen::importWanted, m_programs->programWindow(),
-            [this] { QMetaObject::invokeMethod(m_programs->programWindow(), "importExport"); });
-    connect(&m_startUp, &StartUp::told, m_panel->messages(), &MessageLog::tell);
-    connect(&m_startUp, &StartUp::causeEnded, m_panel->messages(), &MessageLog::end);
+    connect(m_files, &FilesScreen::importWanted, programWindow,
+            [programWindow] { QMetaObject::invokeMethod(programWindow, "importExport"); });
+    m_window->status()->follow(m_programs->transfer());
+}
+
+void PanelProgram::connectStartUp()
+{
+    m_window->messages()->listenTo(&m_startUp);
     connect(&m_startUp, &StartUp::refused, this,
             [this](int outcome) { QApplication::exit(refuse(outcome)); });
-    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLook);
-    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLanguage);
-    // Not by the last window: the find dialog may be open, and it has no parent.
-    connect(m_panel.get(), &PanelWindow::closed, qApp, &QApplication::quit);
 }
 
 void PanelProgram::watchDevices()
@@ -190,26 +237,24 @@ void PanelProgram::watchDevices()
     const QString programDir = m_folders.programs;
     m_watch.reset(
         new DeviceWatch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); }));
-    connect(m_watch.get(), &DeviceWatch::changed, m_panel.get(), &PanelWindow::showDevices);
+    connect(m_watch.get(), &DeviceWatch::changed, m_window.get(), &PanelWindow::showDevices);
     connect(m_watch.get(), &DeviceWatch::changed, m_files, &FilesScreen::showDevices);
     connect(m_files, &FilesScreen::stickMoved, m_watch.get(), &DeviceWatch::lookNow);
-    m_panel->status()->follow(m_programs->transfer());
 }
 
-// From a signal on, what is not saved is kept; an operator who closes the panel was asked about it.
-void PanelProgram::watchUnsavedWork()
+void PanelProgram::offerUnsavedWork()
 {
-    if (isTour())
-        return;
-    const QString folder = ownPath(m_folders, "unsaved");
+    const QString folder = ownPath("unsaved");
     m_unsaved.reset(new UnsavedWork(folder));
     m_offer.reset(new UnsavedOffer(folder, {m_programs, m_teach, m_variables}, m_unsaved.get()));
-    connect(m_unsaved.get(), &UnsavedWork::told, m_panel->messages(), &MessageLog::tell);
-    connect(m_unsaved.get(), &UnsavedWork::causeEnded, m_panel->messages(), &MessageLog::end);
-    connect(m_offer.get(), &UnsavedOffer::told, m_panel->messages(), &MessageLog::tell);
-    connect(m_panel.get(), &PanelWindow::closed, m_unsaved.get(),
-            [this] { m_unsaved->giveUp(flushMs); });
-    m_orderlyEnd.beforeEnd([this] { m_unsaved->flush(flushMs); });
+    m_window->messages()->listenTo(m_unsaved.get());
+    m_window->messages()->listenTo(m_offer.get());
+    watchUnsavedWork();
+    keepUnsavedWork();
+}
+
+void PanelProgram::watchUnsavedWork()
+{
     // A save is one once the guard has read it back.
     m_unsaved->watchProgram(
         m_programs->editor()->document(), [this] { return UnsavedOffer::headOf(m_programs); },
@@ -222,27 +267,44 @@ void PanelProgram::watchUnsavedWork()
     m_unsaved->watchRows(UnsavedOffer::variables(), m_variables, [] { return KeptHead(); });
 }
 
-void PanelProgram::show()
+// From a signal on, what is not saved is kept; an operator who closes the panel was asked about it.
+void PanelProgram::keepUnsavedWork()
 {
-    // A panel is on for months: what dialogs and long programs left as gaps in the heap goes back
-    // to the system, in a millisecond at most.
+    connect(m_window.get(), &PanelWindow::closed, m_unsaved.get(),
+            [this] { m_unsaved->giveUp(flushMs); });
+    m_orderlyEnd.beforeEnd([this] { m_unsaved->flush(flushMs); });
+}
+
+// A panel is on for months: what dialogs and long programs left as gaps in the heap goes back to
+// the system, in a millisecond at most.
+void PanelProgram::tidyNowAndThen()
+{
     connect(&m_tidying, &QTimer::timeout, this, [] { malloc_trim(0); });
     m_tidying.start(tidyMs);
+}
+
+void PanelProgram::show()
+{
     if (m_glass)
-        m_glass->present(m_panel.get());
+        m_glass->present(m_window.get());
     else
-        m_panel->show();
+        m_window->show();
+}
+
+void PanelProgram::plan(Tour *tour) const
+{
+    tour->visitProgramScreen(m_programs);
+    tour->visitTeachScreen(m_teach);
+    tour->visitVariablesScreen(m_variables);
+    tour->visitConnectionsScreen(m_connections);
+    tour->visitFilesScreen(m_files);
+    tour->visitLanguages();
 }
 
 int PanelProgram::walk()
 {
-    Tour tour(m_panel.get(), m_options.tourDir, m_glass.get());
-    tour.visitProgramScreen(m_programs);
-    tour.visitTeachScreen(m_teach);
-    tour.visitVariablesScreen(m_variables);
-    tour.visitConnectionsScreen(m_connections);
-    tour.visitFilesScreen(m_files);
-    tour.visitLanguages();
+    Tour tour(m_window.get(), m_options.tourDir, m_glass.get());
+    plan(&tour);
     connect(&tour, &Tour::finished, qApp, &QApplication::quit);
     tour.start();
     QApplication::exec();
@@ -252,7 +314,7 @@ int PanelProgram::walk()
     return TourFailed;
 }
 
-int PanelProgram::refuse(int outcome)
+PanelProgram::Status PanelProgram::refuse(int outcome)
 {
     if (outcome == StartUp::NoProgramDir) {
         std::fprintf(stderr, "The program directory %s cannot be made.\n",
@@ -270,7 +332,7 @@ void PanelProgram::tellOccupied()
 {
     QMessageBox box(QMessageBox::Warning, tr("Panel"),
                     tr("Another panel works on the same programs. This one does not start."),
-                    QMessageBox::Ok, m_panel.get());
+                    QMessageBox::Ok, m_window.get());
     QTimer::singleShot(occupiedMs, &box, &QMessageBox::accept);
     box.exec();
 }

@@ -28,39 +28,72 @@ class PanelWindow;
 class ProgramHistory;
 class ProgramScreen;
 class TeachScreen;
+class Tour;
 class UnsavedOffer;
 class UnsavedWork;
 class VariablesScreen;
 
 /// The panel program: its window and screens, what they share, and how they start and end.
+///
+///     PanelProgram program(options, PanelProgram::translationFolders());
+///     return program.run();
+///
+/// Whoever works a panel by hand, as a test does, calls start() in the place of run().
 class PanelProgram : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What run() gives where the panel did not start.
-    enum Status { TourFailed = 1, NoProgramDir = 2, HomeOccupied = 3 };
+    /// What start() and run() give.
+    enum Status { Started = 0, TourFailed = 1, NoProgramDir = 2, HomeOccupied = 3 };
 
-    /// Needs the application object. \a translationFolders are looked through in order.
+    /// Needs the application object. \a translationFolders are looked through in order. With a
+    /// program directory of its own among \a options the process has another home from now on.
     PanelProgram(const Options &options, const QStringList &translationFolders);
     ~PanelProgram() override;
 
-    /// Runs until the operator or the system ends it. Returns the exit status.
+    /// Where the build has the translations, and where they are installed.
+    static QStringList translationFolders();
+    /// Gives the application the style and the letters of a panel.
+    static void setUpStyle();
+
+    /// Shows the panel. Anything but Started is why it did not; the operator knows by then.
+    Status start();
+    /// The same, and runs until the operator or the system ends it. Returns the exit status.
     int run();
+    /// Plans the stops of \a tour at all screens.
+    void plan(Tour *tour) const;
+
+    /// They exist once the panel has started.
+    PanelWindow *window() const { return m_window.get(); }
+    ProgramScreen *programScreen() const { return m_programs; }
+    TeachScreen *teachScreen() const { return m_teach; }
+    VariablesScreen *variablesScreen() const { return m_variables; }
+    ConnectionsScreen *connectionsScreen() const { return m_connections; }
+    FilesScreen *filesScreen() const { return m_files; }
+    DeviceWatch *deviceWatch() const { return m_watch.get(); }
+    Languages *languages() { return &m_languages; }
 
 private:
-    static StartUp::Folders foldersOf(const Options &options);
+    static StartUp::Folders settleFolders(const Options &options);
+    QString ownPath(const char *name) const;
     bool isTour() const { return !m_options.tourDir.isEmpty(); }
-    void makeWindow();
-    void makeScreens();
-    void connectScreens();
-    void watchDevices();
-    void watchUnsavedWork();
-    void show();
     void chooseLook();
     void chooseLanguage();
+    void makeWindow();
+    void makeScreens();
+    void addScreens();
+    void connectWindow();
+    void connectScreens();
+    void connectStartUp();
+    void watchDevices();
+    void offerUnsavedWork();
+    void watchUnsavedWork();
+    void keepUnsavedWork();
+    void tidyNowAndThen();
+    void show();
     int walk();
-    int refuse(int outcome);
+    Status refuse(int outcome);
     void tellOccupied();
 
     const Options m_options;
@@ -74,7 +107,7 @@ private:
     Stick m_stick;
     MachineData m_machine;
     std::unique_ptr<PanelGlass> m_glass;
-    std::unique_ptr<PanelWindow> m_panel;
+    std::unique_ptr<PanelWindow> m_window;
     std::unique_ptr<ProgramHistory> m_history;
     std::unique_ptr<DeviceWatch> m_watch;
     // The window's own.

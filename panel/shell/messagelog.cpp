@@ -23,6 +23,14 @@ MessageLog::MessageLog(QObject *parent) : QObject(parent)
     connect(&m_freshness, &QTimer::timeout, this, &MessageLog::passOn);
 }
 
+void MessageLog::listenTo(const QObject *source)
+{
+    connect(source, SIGNAL(told(QString, Message::Tone, QString)), this,
+            SLOT(tell(QString, Message::Tone, QString)));
+    if (source->metaObject()->indexOfSignal("causeEnded(QString)") >= 0)
+        connect(source, SIGNAL(causeEnded(QString)), this, SLOT(end(QString)));
+}
+
 void MessageLog::tell(const QString &text, Message::Tone tone, const QString &cause)
 {
     if (text.isEmpty())

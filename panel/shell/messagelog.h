@@ -28,9 +28,9 @@ public:
 
     explicit MessageLog(QObject *parent = nullptr);
 
-    void tell(const QString &text, Message::Tone tone, const QString &cause = QString());
-    /// Messages of that cause no longer stand. Does nothing for an empty one.
-    void end(const QString &cause);
+    /// Takes what \a source says from now on: its signal told() and, where it has one, its signal
+    /// causeEnded(); see Message.
+    void listenTo(const QObject *source);
     /// The operator goes on to something else: an information that was just told has been read.
     void passOn();
     /// The operator has seen to the current message.
@@ -53,6 +53,11 @@ public:
 
     /// Milliseconds for which an information stands; 6000 at first.
     void setPassingTime(int ms) { m_freshness.setInterval(ms); }
+
+public Q_SLOTS:
+    void tell(const QString &text, Message::Tone tone, const QString &cause = QString());
+    /// Messages of that cause no longer stand. Does nothing for an empty one.
+    void end(const QString &cause);
 
 Q_SIGNALS:
     /// current(), isFresh() or messages() gives something else now.

@@ -9,27 +9,18 @@
 // number of the action.
 
 #include "monkey.h"
+#include "options.h"
+#include "panelprogram.h"
 
 #include <QApplication>
 
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
 #include <unistd.h>
 
-int panelMain(int argc, char **argv);
-
 namespace {
-
-Monkey *monkey = nullptr;
-
-void release()
-{
-    if (monkey)
-        monkey->start();
-}
 
 extern "C" void noteHang(int)
 {
@@ -38,9 +29,67 @@ extern "C" void noteHang(int)
         std::abort();
 }
 
-} // namespace
+/// Takes the monkey's own options out of the command line.
+Monkey::Plan takePlan(QStringList *arguments)
+{
+    Monkey::Plan plan;
+    QStringList left;
+    for (int i = 0; i < arguments->size(); ++i) {
+        const QString option = arguments->at(i);
+        const QString value = arguments->value(i + 1);
+        if (option == QLatin1String("--seed"))
+            plan.seed = value.toUInt();
+        else if (option == QLatin1String("--actions"))
+            plan.actions = value.toInt();
+        else if (option == QLatin1String("--minutes"))
+            plan.minutes = value.toInt();
+        else {
+            left.append(option);
+            continue;
+        }
+        ++i;
+    }
+    *arguments = left;
+    return plan;
+}
 
-Q_COREAPP_STARTUP_FUNCTION(release)
+/// What the seed decides of the panel, where no option of the panel program does.
+void addOptions(QStringList *arguments, quint32 seed)
+{
+    const char *const shapes[][2] = {{"800x480", "0"},  {"480x272", "0"},    {"480x800", "90"},
+                                     {"1024x600", "0"}, {"1280x800", "180"}, {"480x272", "180"},
+                                     {"480x800", "270"}};
+    const char *const languages[] = {"en", "de", "zh_CN", "it", "tr"};
+    const char *const *shape = shapes[seed % (sizeof shapes / sizeof shapes[0])];
+    const auto add = [arguments](const char *option, const QString &value) {
+        arguments->append(QLatin1String(option));
+        arguments->append(value);
+    };
+    if (!arguments->contains(QLatin1String("--size"))) {
+        add("--size", QLatin1String(shape[0]));
+        add("--rotation", QLatin1String(shape[1]));
+    }
+    if (!arguments->contains(QLatin1String("--rotate")))
+        add("--rotate", QString::number(seed % 4 * 90));
+    if (!arguments->contains(QLatin1String("--language")))
+        add("--language", QLatin1String(languages[seed % 5]));
+    if (!arguments->contains(QLatin1String("--look")))
+        add("--look", QLatin1String(seed % 2 ? "light" : "dark"));
+    if (!arguments->contains(QLatin1String("--stick")))
+        add("--stick", QLatin1String("/mnt/Storage.stick"));
+}
+
+int runPanel(const QStringList &arguments)
+{
+    const Options options = Options::parse(arguments);
+    if (options.outcome != Options::Run) {
+        std::fprintf(stderr, "%s\n", qPrintable(options.text));
+        return 2;
+    }
+    return PanelProgram(options, PanelProgram::translationFolders()).run();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -49,56 +98,24 @@ int main(int argc, char **argv)
                              "and to fixed paths.\n");
         return 98;
     }
-    Monkey::Plan plan;
-    QList<QByteArray> arguments{argv[0]};
-    for (int i = 1; i < argc; ++i) {
-        const bool hasValue = i + 1 < argc;
-        if (hasValue && !std::strcmp(argv[i], "--seed"))
-            plan.seed = QByteArray(argv[++i]).toUInt();
-        else if (hasValue && !std::strcmp(argv[i], "--actions"))
-            plan.actions = QByteArray(argv[++i]).toInt();
-        else if (hasValue && !std::strcmp(argv[i], "--minutes"))
-            plan.minutes = QByteArray(argv[++i]).toInt();
-        else
-            arguments.append(argv[i]);
-    }
-
-    const char *const shapes[][2] = {{"800x480", "0"},  {"480x272", "0"},    {"480x800", "90"},
-                                     {"1024x600", "0"}, {"1280x800", "180"}, {"480x272", "180"},
-                                     {"480x800", "270"}};
-    const int shape = int(plan.seed % (sizeof shapes / sizeof shapes[0]));
-    if (!arguments.contains("--size"))
-        arguments << "--size" << shapes[shape][0] << "--rotation" << shapes[shape][1];
-    if (!arguments.contains("--rotate"))
-        arguments << "--rotate" << QByteArray::number(plan.seed % 4 * 90);
-    const char *const languages[] = {"en", "de", "zh_CN", "it", "tr"};
-    if (!arguments.contains("--language"))
-        arguments << "--language" << languages[plan.seed % 5];
-    if (!arguments.contains("--look"))
-        arguments << "--look" << (plan.seed % 2 ? "light" : "dark");
-    if (!arguments.contains("--stick"))
-        arguments << "--stick"
-                  << "/mnt/Storage.stick";
-    std::printf("monkey: seed %u:", plan.seed);
-    for (const QByteArray &argument : arguments.mid(1))
-        std::printf(" %s", argument.constData());
-    std::printf("\n");
+    QCoreApplication::setApplicationName(QLatin1String("filarix-panel"));
+    QApplication application(argc, argv);
+    QStringList arguments = application.arguments();
+    const Monkey::Plan plan = takePlan(&arguments);
+    addOptions(&arguments, plan.seed);
+    std::printf("monkey: seed %u: %s\n", plan.seed,
+                qPrintable(arguments.mid(1).join(QLatin1Char(' '))));
     std::fflush(stdout);
 
-    Monkey atWork(plan);
-    monkey = &atWork;
+    Monkey monkey(plan);
     std::signal(SIGALRM, noteHang);
-    std::vector<char *> panelArguments;
-    for (QByteArray &argument : arguments)
-        panelArguments.push_back(argument.data());
-    panelArguments.push_back(nullptr);
-    const int status = panelMain(int(panelArguments.size()) - 1, panelArguments.data());
+    monkey.start();
+    const int status = runPanel(arguments);
     alarm(0);
-    monkey = nullptr;
-    atWork.checkPrograms();
+    monkey.checkPrograms();
 
-    std::printf("monkey: %s\n", qPrintable(atWork.report()));
-    for (const QString &fault : atWork.faults())
+    std::printf("monkey: %s\n", qPrintable(monkey.report()));
+    for (const QString &fault : monkey.faults())
         std::printf("monkey: FAULT: %s\n", qPrintable(fault));
-    return status == 0 && atWork.faults().isEmpty() ? 0 : 1;
+    return status == 0 && monkey.faults().isEmpty() ? 0 : 1;
 }

@@ -38,8 +38,7 @@ public:
 
     explicit Monkey(const Plan &plan);
 
-    /// To be called once there is an application. The monkey begins with its event loop and ends
-    /// it.
+    /// Needs the application object. The monkey begins with its event loop and ends it.
     void start();
     /// What is wrong, one thing a line; empty when nothing is.
     QStringList faults() const;

@@ -6,28 +6,14 @@
 // Runs the panel program, presses its keys and prints how soon they are painted. It ends with 1
 // when that is too late. Started by reaction.sh.
 
+#include "options.h"
+#include "panelprogram.h"
 #include "reaction.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
-
-int panelMain(int argc, char **argv);
-
-namespace {
-
-Reaction *reaction = nullptr;
-
-void begin()
-{
-    if (reaction)
-        reaction->start();
-}
-
-} // namespace
-
-Q_COREAPP_STARTUP_FUNCTION(begin)
 
 int main(int argc, char **argv)
 {
@@ -36,10 +22,13 @@ int main(int argc, char **argv)
                              "fixed paths.\n");
         return 98;
     }
+    QCoreApplication::setApplicationName(QLatin1String("filarix-panel"));
+    QApplication application(argc, argv);
+    PanelProgram program(Options::parse(application.arguments()),
+                         PanelProgram::translationFolders());
     Reaction measured;
-    reaction = &measured;
-    const int status = panelMain(argc, argv);
-    reaction = nullptr;
+    measured.start();
+    const int status = program.run();
     for (const QString &fault : measured.faults())
         std::printf("FAULT: %s\n", qPrintable(fault));
     return status == 0 && measured.faults().isEmpty() ? 0 : 1;

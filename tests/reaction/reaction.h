@@ -57,7 +57,7 @@ class Reaction : public QObject
 public:
     Reaction();
 
-    /// To be called once there is an application; ends it when all is measured.
+    /// Needs the application object, and ends its loop when all is measured.
     void start();
     /// What is too slow, or didn't work; a line each.
     QStringList faults() const { return m_faults; }

@@ -1,39 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "display/panelsurface.h"
 #include "filarixtest.h"
-#include "guards/finddialogkeypad.h"
-#include "look/glyphs.h"
 #include "look/look.h"
-#include "look/panelstyle.h"
-#include "programs/programhistory.h"
+#include "panelprogram.h"
 #include "programs/programsnapshot.h"
 #include "programs/programstate.h"
-#include "samples.h"
-#include "screens/connectionsscreen.h"
 #include "screens/downloadquestion.h"
-#include "screens/filesscreen.h"
-#include "screens/machinedata.h"
-#include "screens/programscreen.h"
-#include "screens/teachscreen.h"
 #include "screens/unsavedquestion.h"
-#include "screens/variablesscreen.h"
-#include "shell/dialogfitter.h"
-#include "shell/languages.h"
 #include "shell/messagedialog.h"
 #include "shell/messagelog.h"
 #include "shell/panelwindow.h"
 #include "shell/questiondialog.h"
-#include "shell/settings.h"
 #include "shell/statusstrip.h"
 #include "stick/devicewatch.h"
 #include "stick/stick.h"
 #include "textfit.h"
 #include "tour.h"
-#include "wmmainwindow.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -85,6 +69,17 @@ DeviceState widestState()
     return state;
 }
 
+Options optionsFor(const QSize &size)
+{
+    Options options;
+    options.size = size;
+    options.rotation = size.width() < size.height() ? 90 : 0;
+    options.look = QLatin1String("light");
+    options.language = QLatin1String("en");
+    options.stickDir = QLatin1String(kStick);
+    return options;
+}
+
 const char kName[] = "stator-coil-left-4711.cnc";
 const char kReason[] = "No space left on device";
 
@@ -102,10 +97,7 @@ ProgramState stateOf(ProgramState::Kind kind)
 
 void TestTextFit::initTestCase()
 {
-    QApplication::setStyle(new PanelStyle);
-    QFont font = QApplication::font();
-    font.setPixelSize(15);
-    QApplication::setFont(font);
+    PanelProgram::setUpStyle();
     Look::use(Look::Light);
 }
 
@@ -166,51 +158,14 @@ void TestTextFit::everyTextFits()
         QCoreApplication::installTranslator(&translator);
     }
 
-    QDir().mkpath(kStick);
-    Samples::install(programDir());
-    Samples::fillStick(kStick);
-    QDir().mkpath(home() + "/plc");
-    Stick stick((QLatin1String(kStick)));
-    Settings settings((QString()));
-    Languages languages(QStringList(), &settings);
-    MachineData machine;
-    PanelWindow panel(size);
-    PanelSurface surface(&panel, true);
-    FindDialogKeypad fieldKeypad(&panel);
-    DialogFitter keeper(&panel);
-    const bool isUpright = size.width() < size.height();
-    ProgramScreen *programs =
-        new ProgramScreen(isUpright ? 90 : 0, home() + "/plc", home() + "/hmi", &machine);
-    panel.addScreen(
-        programs, [] { return PanelWindow::tr("Program"); }, Glyphs::icon(Glyphs::Program));
-    TeachScreen *teach = new TeachScreen(size, home() + "/hmi", &machine);
-    panel.addScreen(
-        teach, [] { return PanelWindow::tr("Teach"); }, Glyphs::icon(Glyphs::Teach));
-    VariablesScreen *variables = new VariablesScreen(size, home() + "/hmi");
-    panel.addScreen(
-        variables, [] { return PanelWindow::tr("Variables"); }, Glyphs::icon(Glyphs::Variables));
-    ConnectionsScreen *connections = new ConnectionsScreen(home() + "/hmi/connections.ini");
-    panel.addScreen(
-        connections, [] { return PanelWindow::tr("Connections"); },
-        Glyphs::icon(Glyphs::Connections));
-    ProgramHistory history(programDir(), home() + "/hmi/history");
-    FilesScreen *files = new FilesScreen(&stick, &history);
-    panel.addScreen(
-        files, [] { return PanelWindow::tr("Files"); }, Glyphs::icon(Glyphs::Files));
-    connect(files, &FilesScreen::importWanted, programs->programWindow(),
-            [programs] { QMetaObject::invokeMethod(programs->programWindow(), "importExport"); });
-    panel.setLanguages(&languages);
-    panel.status()->follow(programs->transfer());
+    PanelProgram program(optionsFor(size), QStringList());
+    QCOMPARE(program.start(), PanelProgram::Started);
+    PanelWindow &panel = *program.window();
+    // In the place of what this machine's devices are.
+    program.deviceWatch()->disconnect();
     panel.status()->showDevices(widestState());
-    panel.show();
-
     Tour tour(&panel);
-    tour.visitProgramScreen(programs);
-    tour.visitTeachScreen(teach);
-    tour.visitVariablesScreen(variables);
-    tour.visitConnectionsScreen(connections);
-    tour.visitFilesScreen(files);
-    tour.visitLanguages();
+    program.plan(&tour);
     // The import manager has a connection to nothing, and no window system is at hand.
     StrictMessages::expect("Parentheses expected");
     StrictMessages::expect("This plugin does not support");

@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
-#include "look/glyphs.h"
 #include "look/livetext.h"
 #include "look/panelkey.h"
 #include "modaldriver.h"
-#include "programs/programhistory.h"
+#include "panelprogram.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
-#include "screens/machinedata.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -17,7 +15,7 @@
 #include "shell/languages.h"
 #include "shell/panelwindow.h"
 #include "shell/settings.h"
-#include "stick/stick.h"
+#include "stick/devicewatch.h"
 #include "wgcodeediter.h"
 
 #include <QDir>
@@ -70,36 +68,31 @@ QString textsThatDoNotFit(const QWidget *window)
 /// The panel with all its screens, as the program has it.
 struct Panel
 {
-    explicit Panel(const QSize &size, Languages *languages)
-        : stick(QString())
-        , history(FilarixTest::programDir(), FilarixTest::home() + QLatin1String("/hmi/history"))
-        , window(size)
+    explicit Panel(const QSize &size, const QString &code = QString(),
+                   const QStringList &translations = folders())
+        : program(optionsFor(size, code), translations)
     {
-        const QString ownDir = FilarixTest::home() + QLatin1String("/hmi");
-        program =
-            new ProgramScreen(0, FilarixTest::home() + QLatin1String("/plc"), ownDir, &machine);
-        window.addScreen(
-            program, [] { return PanelWindow::tr("Program"); }, QIcon());
-        TeachScreen *teach = new TeachScreen(size, ownDir, &machine);
-        window.addScreen(
-            teach, [] { return PanelWindow::tr("Teach"); }, QIcon());
-        VariablesScreen *variables = new VariablesScreen(size, ownDir);
-        window.addScreen(
-            variables, [] { return PanelWindow::tr("Variables"); }, QIcon());
-        ConnectionsScreen *connections =
-            new ConnectionsScreen(ownDir + QLatin1String("/connections.ini"));
-        window.addScreen(
-            connections, [] { return PanelWindow::tr("Connections"); }, QIcon());
-        window.addScreen(
-            new FilesScreen(&stick, &history), [] { return PanelWindow::tr("Files"); }, QIcon());
-        window.setLanguages(languages);
-        window.show();
+        QCOMPARE(program.start(), PanelProgram::Started);
+        // What the machine's devices are says nothing of the languages, and changes meanwhile.
+        program.deviceWatch()->disconnect();
         // With all that their files hold.
-        const bool areFilled = QTest::qWaitFor([=] {
-            return !teach->isLoading() && !variables->isLoading() && !connections->isBusy();
+        const bool areFilled = QTest::qWaitFor([this] {
+            return !program.teachScreen()->isLoading() && !program.variablesScreen()->isLoading()
+                   && !program.connectionsScreen()->isBusy();
         });
         QVERIFY(areFilled);
     }
+
+    static Options optionsFor(const QSize &size, const QString &code)
+    {
+        Options options;
+        options.size = size;
+        options.language = code;
+        return options;
+    }
+
+    PanelWindow &window() const { return *program.window(); }
+    Languages &languages() { return *program.languages(); }
 
     /// A row has cells for another kind of row, which it hides.
     static bool isPartOfItsRow(const QLabel *label)
@@ -113,27 +106,23 @@ struct Panel
     /// All that can be read on it, but the clock.
     QStringList texts() const
     {
-        QStringList texts(window.windowTitle());
-        const QList<QLabel *> labels = window.findChildren<QLabel *>();
+        QStringList texts(window().windowTitle());
+        const QList<QLabel *> labels = window().findChildren<QLabel *>();
         for (const QLabel *label : labels) {
             if (isPartOfItsRow(label))
                 texts << label->text();
         }
-        const QList<QAbstractButton *> buttons = window.findChildren<QAbstractButton *>();
+        const QList<QAbstractButton *> buttons = window().findChildren<QAbstractButton *>();
         for (const QAbstractButton *button : buttons)
             texts << button->text();
-        const QTableWidget *table = window.findChild<QTableWidget *>();
+        const QTableWidget *table = window().findChild<QTableWidget *>();
         for (int column = 0; column < table->columnCount(); ++column)
             texts << table->horizontalHeaderItem(column)->text()
                   << table->item(table->rowCount() - 1, column)->text();
         return texts.replaceInStrings(QRegExp(QLatin1String("\\d\\d:\\d\\d(:\\d\\d)?")), QString());
     }
 
-    Stick stick;
-    ProgramHistory history;
-    MachineData machine;
-    PanelWindow window;
-    ProgramScreen *program;
+    PanelProgram program;
 };
 
 } // namespace
@@ -320,32 +309,26 @@ void TestLanguages::theRunningPanelChangesItsLanguage_data()
 void TestLanguages::theRunningPanelChangesItsLanguage()
 {
     QFETCH(QString, code);
-    Settings settings(settingsFile());
-    Languages languages(folders(), &settings);
     QStringList expected;
-    QVERIFY(languages.use(code));
     {
-        const Panel made(QSize(480, 272), &languages);
+        const Panel made(QSize(480, 272), code);
         expected = made.texts();
     }
-    QVERIFY(languages.use("en"));
-    const Panel panel(QSize(480, 272), &languages);
+    Panel panel(QSize(480, 272));
     const QStringList english = panel.texts();
     QVERIFY(english != expected);
-    QVERIFY(languages.use(code));
+    QVERIFY(panel.languages().use(code));
     QCoreApplication::processEvents();
     QCOMPARE(panel.texts(), expected);
-    QVERIFY(languages.use("en"));
+    QVERIFY(panel.languages().use("en"));
     QCoreApplication::processEvents();
     QCOMPARE(panel.texts(), english);
 }
 
 void TestLanguages::theFindDialogFollows()
 {
-    Settings settings(settingsFile());
-    Languages languages(folders(), &settings);
-    const Panel panel(QSize(800, 480), &languages);
-    panel.program->editor()->findAndReplace();
+    Panel panel(QSize(800, 480));
+    panel.program.programScreen()->editor()->findAndReplace();
     QWidget *dialog = nullptr;
     const QWidgetList topLevels = QApplication::topLevelWidgets();
     for (QWidget *widget : topLevels) {
@@ -367,7 +350,7 @@ void TestLanguages::theFindDialogFollows()
         "Find",  "Find &what:", "Replace &what:", "Match &case", "Search &backward",
         "&Find", "&Replace",    "Close"};
     QCOMPARE(texts(), english);
-    QVERIFY(languages.use("de"));
+    QVERIFY(panel.languages().use("de"));
     QCoreApplication::processEvents();
     QStringList german;
     for (const QString &text : english)
@@ -388,32 +371,30 @@ void TestLanguages::everythingFits_data()
 void TestLanguages::everythingFits()
 {
     QFETCH(QSize, size);
-    Settings settings(settingsFile());
-    Languages languages(folders(), &settings);
-    Panel panel(size, &languages);
-    PanelKey *menu = panel.window.findChild<PanelKey *>("menuKey");
+    Panel panel(size);
+    PanelKey *menu = panel.window().findChild<PanelKey *>("menuKey");
     const QStringList codes = Languages::codes();
     for (const QString &code : codes) {
-        QVERIFY(languages.use(code));
+        QVERIFY(panel.languages().use(code));
         QCoreApplication::processEvents();
         if (menu)
             QTest::mouseClick(menu, Qt::LeftButton);
         for (int screen = 0; screen < 5; ++screen) {
             if (screen > 0)
-                panel.window.showScreen(screen);
+                panel.window().showScreen(screen);
             QCoreApplication::processEvents();
-            QTRY_COMPARE(textsThatDoNotFit(&panel.window), QString());
-            QCOMPARE(panel.window.size(), size);
-            const QList<PanelKey *> keys = panel.window.findChildren<PanelKey *>();
+            QTRY_COMPARE(textsThatDoNotFit(&panel.window()), QString());
+            QCOMPARE(panel.window().size(), size);
+            const QList<PanelKey *> keys = panel.window().findChildren<PanelKey *>();
             for (const PanelKey *key : keys) {
                 if (!key->isVisible())
                     continue;
-                const QRect place(key->mapTo(&panel.window, QPoint(0, 0)), key->size());
-                QVERIFY2(panel.window.rect().contains(place), qPrintable(key->text()));
+                const QRect place(key->mapTo(&panel.window(), QPoint(0, 0)), key->size());
+                QVERIFY2(panel.window().rect().contains(place), qPrintable(key->text()));
                 QVERIFY2(key->width() >= 34 && key->height() >= 34, qPrintable(key->text()));
             }
         }
-        panel.window.showScreen(0);
+        panel.window().showScreen(0);
         LanguagePicker picker(code);
         picker.show();
         QCoreApplication::processEvents();
@@ -433,12 +414,10 @@ void TestLanguages::theOperatorChoosesByAKey_data()
 void TestLanguages::theOperatorChoosesByAKey()
 {
     QFETCH(QSize, size);
-    Settings settings(settingsFile());
-    Languages languages(folders(), &settings);
-    Panel panel(size, &languages);
-    if (PanelKey *menu = panel.window.findChild<PanelKey *>("menuKey"))
+    Panel panel(size);
+    if (PanelKey *menu = panel.window().findChild<PanelKey *>("menuKey"))
         QTest::mouseClick(menu, Qt::LeftButton);
-    PanelKey *key = panel.window.findChild<PanelKey *>("languageKey");
+    PanelKey *key = panel.window().findChild<PanelKey *>("languageKey");
     QVERIFY(key->isVisible());
     QCOMPARE(key->text(), QString("EN"));
 
@@ -459,30 +438,29 @@ void TestLanguages::theOperatorChoosesByAKey()
     QCOMPARE(marked, QStringList("language_en"));
     QCOMPARE(focused, QString("language_en"));
     QCoreApplication::processEvents();
-    QCOMPARE(languages.current(), QString("de"));
-    QCOMPARE(languages.preferred(), QString("de"));
+    QCOMPARE(panel.languages().current(), QString("de"));
+    QCOMPARE(panel.languages().preferred(), QString("de"));
     QCOMPARE(key->text(), QString("DE"));
 
     // Cancelled, it stays.
     driver.reject();
     key->click();
     QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(languages.current(), QString("de"));
+    QCOMPARE(panel.languages().current(), QString("de"));
 }
 
 void TestLanguages::aTranslationThatIsNotInstalledIsTold()
 {
-    Settings settings(settingsFile());
-    Languages languages(QStringList("/nowhere"), &settings);
-    Panel panel(QSize(800, 480), &languages);
+    Panel panel(QSize(800, 480), QString(), QStringList("/nowhere"));
     ModalDriver driver;
     driver.then([](QWidget *dialog) {
         QTest::mouseClick(dialog->findChild<QPushButton *>("language_de"), Qt::LeftButton);
     });
-    panel.window.findChild<PanelKey *>("languageKey")->click();
+    panel.window().findChild<PanelKey *>("languageKey")->click();
     QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(languages.current(), QString("en"));
-    QCOMPARE(panel.window.messages()->current().text, QString("The translation is not installed."));
+    QCOMPARE(panel.languages().current(), QString("en"));
+    QCOMPARE(panel.window().messages()->current().text,
+             QString("The translation is not installed."));
 }
 
 FILARIX_TEST_MAIN(TestLanguages)
