@@ -24,9 +24,26 @@ fi
 case "$way" in pkgconfig | qmake) rm -rf "$build" ;; esac
 mkdir -p "$build"
 
+# What a host tells of its toolkit; Qt 5 is found where the system has it.
+cmake_options=()
+make_options=()
+if [ "$QT" = 4 ]; then
+    cmake_options+=(-DQT_QMAKE_EXECUTABLE="$QMAKE")
+    for tool in moc rcc uic; do
+        cmake_options+=("-DQT_${tool^^}_EXECUTABLE=${QMAKE%/*}/$tool")
+    done
+    make_options+=(
+        MOC="$(pkg-config --variable=moc_location QtCore)"
+        LDFLAGS="-Wl,-rpath-link,$TOOLKIT_LIBRARIES"
+    )
+fi
+if [ -n "${EMULATOR:-}" ]; then
+    cmake_options+=(-DCMAKE_TOOLCHAIN_FILE="$TOOLCHAIN_FILE" -DFILARIX_ARM_ROOT="$EMULATOR_ROOT")
+fi
+
 cmake_build() {
     "$CMAKE" -S "$project" -B "$build" -G Ninja -DCMAKE_CXX_COMPILER="$CXX" \
-        -DCMAKE_CXX_COMPILER_LAUNCHER="$CCACHE" "$@"
+        -DCMAKE_CXX_COMPILER_LAUNCHER="$CCACHE" "${cmake_options[@]}" "$@"
     "$CMAKE" --build "$build" --parallel 2
 }
 
@@ -37,8 +54,9 @@ case "$way" in
         cmake_build -DCMAKE_PREFIX_PATH="$installed"
         ;;
     pkgconfig)
-        PKG_CONFIG_PATH=$installed/$LIBDIR/pkgconfig make -C "$build" -f "$project/Makefile" \
-            SOURCES="$sources" CXX="$CCACHE $CXX"
+        PKG_CONFIG_PATH=$installed/$LIBDIR/pkgconfig:${PKG_CONFIG_PATH:-} \
+            make -C "$build" -f "$project/Makefile" \
+            SOURCES="$sources" CXX="$CCACHE $CXX" "${make_options[@]}"
         libraries=$libraries:$installed/$LIBDIR
         ;;
     qmake)
@@ -50,8 +68,12 @@ case "$way" in
         ;;
     subdirectory)
         project=$SOURCE/tests/consumer/subdirectory
-        cmake_build -DFILARIX_HOST=$companion -DFILARIX_SOURCE="$SOURCE" -DFILARIX_HMIDEVICE_LIBRARY="$DEVICE_LIBRARY"
+        cmake_build -DFILARIX_HOST=$companion -DFILARIX_SOURCE="$SOURCE" -DFILARIX_QT="$QT" \
+            -DFILARIX_HMIDEVICE_LIBRARY="$DEVICE_LIBRARY"
         ;;
 esac
 
-LD_LIBRARY_PATH=$libraries exec "$SOURCE/tests/support/sandbox.sh" "$build/host"
+run=("$LAUNCHER")
+[ "$QT" = 5 ] || run+=("$TOOLKIT_LIBRARIES:$libraries")
+[ -z "${EMULATOR:-}" ] || run+=("$EMULATOR" "$EMULATOR_ROOT")
+LD_LIBRARY_PATH=$libraries exec "${run[@]}" "$build/host"

@@ -21,7 +21,7 @@ done
     exit 1
 }
 
-qt_flags=$(pkg-config --cflags Qt5Widgets | sed 's/-I/-isystem /g')
+qt_flags=$(pkg-config --cflags "$QT_GUI_PACKAGE" | sed 's/-I/-isystem /g')
 # shellcheck disable=SC2086 # flags are words
 printf '%s\0' headers/*.cpp | xargs -0 -P 2 -n 1 -I{} \
     $CCACHE "$CXX" -std=c++11 -fPIC -Wall -Wextra -Wpedantic -Woverloaded-virtual -Werror \

@@ -6,8 +6,10 @@
 // the program ends by itself. A warning of the toolkit, or a blank window, ends the program with 1.
 // A FILARIX_START_CHECK that holds a "/" is the path that the picture goes to.
 
+#include "strictmessages.h"
+#include "testcompat.h"
+
 #include <QApplication>
-#include <QPixmap>
 #include <QSet>
 #include <QTimer>
 #include <QWidget>
@@ -26,30 +28,53 @@ void fail(const QByteArray &reason)
     std::_Exit(1);
 }
 
-void handler(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    const bool isNoiseOfThePlatform = text.contains(QLatin1String("This plugin does not support"));
-    if (type != QtDebugMsg && type != QtInfoMsg && !isNoiseOfThePlatform)
-        fail(text.toLocal8Bit());
-}
-
 class StartCheck : public QObject
 {
     Q_OBJECT
 
+public:
+    ~StartCheck() override
+    {
+        if (!m_looked)
+            fail("there was no window");
+        const QStringList warnings = StrictMessages::unexpected();
+        if (!warnings.isEmpty())
+            fail(warnings.join(QLatin1String(" | ")).toLocal8Bit());
+    }
+
 public Q_SLOTS:
+    /// The first event that the program serves: by now there is an application.
+    void begin()
+    {
+        setParent(qApp);
+        TestCompat::paintWithoutViewers();
+        QTimer *timer = new QTimer(this);
+        connect(timer, SIGNAL(timeout()), SLOT(look()));
+        timer->start(patience);
+    }
+
     void look()
     {
-        QWidget *window = QApplication::activeWindow();
-        if (!m_looked && window && window->isVisible()) {
+        QWidget *window = shownWindow();
+        if (!m_looked && window) {
             m_looked = true;
-            lookAt(window->grab());
+            lookAt(TestCompat::grab(window));
         }
         if (m_looked)
             QApplication::closeAllWindows();
     }
 
 private:
+    // None need be active: that is up to a window manager.
+    static QWidget *shownWindow()
+    {
+        Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets()) {
+            if (widget->isVisible() && widget->windowType() != Qt::Desktop)
+                return widget;
+        }
+        return nullptr;
+    }
+
     static void lookAt(const QPixmap &picture)
     {
         const QString path = QString::fromLocal8Bit(qgetenv("FILARIX_START_CHECK"));
@@ -67,20 +92,18 @@ private:
     bool m_looked = false;
 };
 
-void start()
+// Qt 4 asks for a result, and ignores it.
+int start()
 {
-    if (!qEnvironmentVariableIsSet("FILARIX_START_CHECK"))
-        return;
-    qInstallMessageHandler(handler);
-    QTimer *timer = new QTimer(qApp);
-    StartCheck *check = new StartCheck;
-    check->setParent(timer);
-    QObject::connect(timer, SIGNAL(timeout()), check, SLOT(look()));
-    timer->start(patience);
+    if (qgetenv("FILARIX_START_CHECK").isEmpty())
+        return 0;
+    StrictMessages::install();
+    QMetaObject::invokeMethod(new StartCheck, "begin", Qt::QueuedConnection);
+    return 0;
 }
 
 } // namespace
 
-Q_COREAPP_STARTUP_FUNCTION(start)
+Q_CONSTRUCTOR_FUNCTION(start)
 
 #include "startcheck.moc"

@@ -61,7 +61,7 @@ void useProgramSide()
     editor->gotoLine(2);
     check(editor->curLineText() == "G01 X1 Y3", "a host reaches the lines of the editor");
     check(editor->document()->findChild<WHighlighter *>(), "the document has its highlighter");
-    emit window.signal_download("/a/program.cnc");
+    QMetaObject::invokeMethod(&window, "signal_download", Q_ARG(QString, "/a/program.cnc"));
     check(downloader.sent() == "/a/program.cnc", "the host gets the program's path");
     check(paths == QStringList("/a/program.cnc"), "the host gets it either way");
     check(downloader.wasBusy() && !window.isDownloading(), "the transfer is bracketed");
