@@ -77,23 +77,18 @@ class TestUnloading : public FilarixTest
 
 private Q_SLOTS:
     void libraryComesAndGoes();
+
+private:
+    void comeAndGo(int rounds);
+
+    int m_round = 0;
+    char *m_barred = nullptr; ///< where the library was last
 };
 
-void TestUnloading::libraryComesAndGoes()
+void TestUnloading::comeAndGo(int rounds)
 {
-    StrictMessages::expect(QLatin1String("Parentheses expected, slot ImportManage::slot_checkUSB"));
-    Heap::keepNoPixmaps();
-    TestCompat::keepNoInputContexts();
-    const int rounds = scaled(200, 20);
-    // Qt 4 goes on filling its caches for longer.
-    const int warmUp = QT_VERSION < QT_VERSION_CHECK(5, 0, 0) ? rounds / 2 : rounds / 4;
     const long pageSize = 4096;
-    char *barred = nullptr;
-    qint64 usedBefore = 0;
-    QVERIFY(!isLibraryLoaded());
-    for (int round = 0; round < rounds; ++round) {
-        if (round == warmUp)
-            usedBefore = used();
+    for (int i = 0; i < rounds; ++i, ++m_round) {
         QVERIFY(!QFile::exists(QLatin1String(":/images/new.png")));
 
         void *const desk = dlopen(FILARIX_DESK, RTLD_NOW | RTLD_LOCAL);
@@ -103,35 +98,50 @@ void TestUnloading::libraryComesAndGoes()
         char *const base = baseOf(desk);
         QVERIFY(base);
         // Each time it comes to another place, so that whoever remembers the old one is found out.
-        QVERIFY(base != barred);
-        if (barred)
-            munmap(barred, size_t(pageSize));
+        QVERIFY(base != m_barred);
+        if (m_barred)
+            munmap(m_barred, size_t(pageSize));
 
         typedef void (*Use)(bool);
         const Use use = reinterpret_cast<Use>(dlsym(desk, "useDesk"));
         QVERIFY(use);
-        use(round % 5 == 0);
+        use(m_round % 5 == 0);
         Heap::settled();
         QCOMPARE(widgets(), QStringList());
 
         QCOMPARE(dlclose(desk), 0);
         QVERIFY(!isLibraryLoaded());
         QVERIFY(!QFile::exists(QLatin1String(":/images/new.png")));
-        barred =
+        m_barred =
             static_cast<char *>(mmap(base, size_t(pageSize), PROT_NONE,
                                      MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED_NOREPLACE, -1, 0));
-        QVERIFY(barred == base);
+        QVERIFY(m_barred == base);
         useToolkit();
     }
-    munmap(barred, size_t(pageSize));
-    // With each function that the library has called at the exit the sanitizer's runtime has one of
-    // its own called, and those never go.
-    if (isSanitized())
-        return;
-    const qint64 growth = used() - usedBefore;
-    // Not even the smallest block in each round.
-    QVERIFY2(growth < qMin(1024, 16 * (rounds - warmUp)),
-             qPrintable(QString::fromLatin1("%1 bytes").arg(growth)));
+}
+
+void TestUnloading::libraryComesAndGoes()
+{
+    StrictMessages::expect(QLatin1String("Parentheses expected, slot ImportManage::slot_checkUSB"));
+    Heap::keepNoPixmaps();
+    TestCompat::keepNoInputContexts();
+    const int rounds = scaled(100, 10);
+    const int limit = qMin(1024, 16 * rounds); // not even the smallest block in each round
+    QVERIFY(!isLibraryLoaded());
+    comeAndGo(rounds);
+    // What stays behind does so in each try, while the toolkit's caches fill now and then.
+    const int tries = 4;
+    qint64 least = limit;
+    for (int i = 0; i < tries && least >= limit && !QTest::currentTestFailed(); ++i) {
+        const qint64 before = used();
+        comeAndGo(rounds);
+        least = qMin(least, used() - before);
+        // With each function that the library has called at the exit the sanitizer's runtime has
+        // one of its own called, and those never go.
+        if (isSanitized())
+            return;
+    }
+    QVERIFY2(least < limit, qPrintable(QString::fromLatin1("%1 bytes").arg(least)));
 }
 
 FILARIX_TEST_MAIN(TestUnloading)
