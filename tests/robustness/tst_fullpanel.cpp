@@ -157,7 +157,7 @@ void TestFullPanel::windowSettingsStayAsTheyWere()
 void TestFullPanel::connectionFileStaysAsItWas()
 {
     const QString path = home() + "/connections.ini";
-    const QByteArray before("[General]\nconnect%20count=1\nConnect%200=PLC\nPLCnew%20IP=1.2.3.4\n");
+    const QByteArray before("[General]\nConnect%200=PLC\nPLCnew%20IP=1.2.3.4\nconnect%20count=1\n");
     writeFile(path, before);
     fillHome();
     ConnEditor editor(path, nullptr);
@@ -176,7 +176,7 @@ void TestFullPanel::connectionFileThatGrowsIsCutWhereItIsWrittenInPlace()
 {
     const QString path = home() + "/connections.ini";
     const int block = 4096;
-    QByteArray before("[General]\nconnect%20count=1\nConnect%200=PLC\nPLCnew%20IP=1.2.3.4\nlast=");
+    QByteArray before("[General]\nConnect%200=PLC\nPLCnew%20IP=1.2.3.4\nconnect%20count=1\nlast=");
     before += QByteArray(block - 1 - before.size(), 'x') + '\n';
     QCOMPARE(before.size(), block);
     writeFile(path, before);
