@@ -4,6 +4,7 @@
 #include "filarixtest.h"
 
 #include "postedevents.h"
+#include "testcompat.h"
 
 #include <QDir>
 #include <QEvent>
@@ -138,6 +139,7 @@ int filarixTestMain(QObject *test, int argc, char **argv)
                              "through tests/support/sandbox.sh.\n");
         return 98;
     }
+    TestCompat::paintWithoutViewers();
     const int result = QTest::qExec(test, argc, argv);
     deleteUnplacedButtons(); // of a window that was the test object's own
     forgetPostedEvents(test);

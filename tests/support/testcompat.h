@@ -13,11 +13,18 @@
 #endif
 #include <QMetaMethod>
 #include <QPixmap>
+#include <QStyle>
 #include <QTest>
 #include <QTextCodec>
 #include <QTranslator>
 #include <QVector>
 #include <QWidget>
+#if defined(Q_WS_QWS)
+#include <QWSServer>
+#endif
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QScreen>
+#endif
 
 #ifndef QTRY_VERIFY_WITH_TIMEOUT
 #define QTRY_VERIFY_WITH_TIMEOUT(expression, timeout)                                              \
@@ -83,6 +90,25 @@ inline QPixmap grab(QWidget *widget)
 #endif
 }
 
+/// To be called before the first window is shown. A display that VNC shows stays unpainted until
+/// somebody looks at it, which nobody does here; a screen of a panel's own is always painted.
+inline void paintWithoutViewers()
+{
+#if defined(Q_WS_QWS)
+    QWSServer::instance()->enablePainting(true);
+#endif
+}
+
+/// What is to be seen of a window by now, whatever it has still to paint.
+inline QImage onTheScreen(const QWidget *window)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QApplication::primaryScreen()->grabWindow(window->winId()).toImage();
+#else
+    return QPixmap::grabWindow(window->winId()).toImage();
+#endif
+}
+
 inline QHeaderView::ResizeMode sectionResizeMode(const QHeaderView *header, int section)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
@@ -112,6 +138,13 @@ inline bool waitForExposed(QWidget *widget)
         QTest::qWait(10);
     return QTest::qWaitForWindowShown(widget) && widget->testAttribute(Qt::WA_Mapped);
 #endif
+}
+
+/// Plastique, the style that Qt for Embedded Linux starts with, makes scroll bars as wide as it
+/// likes; other styles go by a style sheet.
+inline bool sheetsSizeScrollBars(const QStyle *style)
+{
+    return !style->inherits("QPlastiqueStyle");
 }
 
 /// Qt 4 warns when a window without "[*]" in its title is marked as changed.

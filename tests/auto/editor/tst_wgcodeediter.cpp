@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QVBoxLayout>
@@ -237,6 +238,7 @@ private Q_SLOTS:
     void fontIsArialBoldOf15Points();
     void selectionWithoutFocusIsCyan();
     void nothingIsWrapped();
+    void scrollBarsAreWideEnoughForAThumb_data();
     void scrollBarsAreWideEnoughForAThumb();
     void startsEmptyWithOneHighlighterAndNoFindDialog();
 
@@ -329,20 +331,36 @@ void TestWGCodeEditer::nothingIsWrapped()
     QCOMPARE(editer.document()->lineCount(), 1);
 }
 
+void TestWGCodeEditer::scrollBarsAreWideEnoughForAThumb_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::newRow("style of the toolkit's choice") << QApplication::style()->objectName();
+    QTest::newRow("style of the host's choice") << "windows";
+}
+
 void TestWGCodeEditer::scrollBarsAreWideEnoughForAThumb()
 {
-    WGCodeEditer editer(nullptr);
-    QCOMPARE(editer.styleSheet(),
-             QString::fromLatin1("QScrollBar:horizontal{height:32px;}:vertical{width:32px;}"));
+    QFETCH(QString, style);
+    const QString styleBefore = QApplication::style()->objectName();
+    QApplication::setStyle(style);
+    const int extent = TestCompat::sheetsSizeScrollBars(QApplication::style())
+                           ? 32
+                           : QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    {
+        WGCodeEditer editer(nullptr);
+        QCOMPARE(editer.styleSheet(),
+                 QString::fromLatin1("QScrollBar:horizontal{height:32px;}:vertical{width:32px;}"));
 
-    editer.resize(200, 150);
-    editer.setPlainText(numberedLines(100) + QString(100, QLatin1Char('X')));
-    editer.show();
-    QVERIFY(TestCompat::waitForExposed(&editer));
-    QVERIFY(editer.verticalScrollBar()->isVisible());
-    QCOMPARE(editer.verticalScrollBar()->width(), 32);
-    QVERIFY(editer.horizontalScrollBar()->isVisible());
-    QCOMPARE(editer.horizontalScrollBar()->height(), 32);
+        editer.resize(200, 150);
+        editer.setPlainText(numberedLines(100) + QString(100, QLatin1Char('X')));
+        editer.show();
+        QVERIFY(TestCompat::waitForExposed(&editer));
+        QVERIFY(editer.verticalScrollBar()->isVisible());
+        QCOMPARE(editer.verticalScrollBar()->width(), extent);
+        QVERIFY(editer.horizontalScrollBar()->isVisible());
+        QCOMPARE(editer.horizontalScrollBar()->height(), extent);
+    }
+    QApplication::setStyle(styleBefore);
 }
 
 void TestWGCodeEditer::startsEmptyWithOneHighlighterAndNoFindDialog()

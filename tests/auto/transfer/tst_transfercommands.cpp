@@ -413,21 +413,29 @@ void TestTransferCommands::processingIsOnTheScreenBeforeTheCommandRuns()
     manager.dialog.installEventFilter(&counter);
     QString text;
     int paints = 0;
+    QImage seen;
     Shell::setBefore([&] {
         text = manager.status->text();
         paints = counter.paints;
+        seen = TestCompat::onTheScreen(&manager.dialog);
     });
+    const QImage before = TestCompat::onTheScreen(&manager.dialog);
+    QVERIFY(!before.isNull());
     Shell::answerNext(0);
     manager.dialog.copyFile("/from", "a", "/to", "a");
     QCOMPARE(text, QString("Processing..."));
     QVERIFY(paints > 0);
+    QVERIFY(seen != before);
 
     manager.dialog.init();
+    QCoreApplication::processEvents();
+    QCOMPARE(TestCompat::onTheScreen(&manager.dialog), before);
     counter.paints = 0;
     Shell::answerNext(0);
     manager.dialog.deleteFile("/from", "a");
     QCOMPARE(text, QString("Processing..."));
     QVERIFY(paints > 0);
+    QVERIFY(seen != before);
 }
 
 void TestTransferCommands::nothingSelected()

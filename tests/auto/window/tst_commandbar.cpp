@@ -117,6 +117,29 @@ public:
     int count = 0;
 };
 
+/// Keeps how often a button had been painted when a dialog came up: a window system may have the
+/// windows behind a new one painted.
+class PaintCountAtDialog : public QObject
+{
+public:
+    explicit PaintCountAtDialog(const PaintCount &paintings) : m_paintings(paintings)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (count < 0 && event->type() == QEvent::Show && watched->inherits("QDialog"))
+            count = m_paintings.count;
+        return false;
+    }
+
+    int count = -1; ///< negative while there was no dialog
+
+private:
+    const PaintCount &m_paintings;
+};
+
 } // namespace
 
 class TestCommandBar : public FilarixTest
@@ -464,22 +487,22 @@ void TestCommandBar::commandsRepaintTheirButtonFirst()
     window.resize(2000, 400);
     window.show();
     QVERIFY(TestCompat::waitForExposed(&window));
-    QApplication::processEvents();
     QToolButton *button = window.*expected.member;
+    // The small screen of a panel shows a part of it; beyond the edge nothing need be painted.
+    if (window.isAncestorOf(button))
+        window.move(-button->mapTo(&window, QPoint()).x(), 0);
+    QApplication::processEvents();
     const PaintCount paintings(button);
+    const PaintCountAtDialog paintingsAtDialog(paintings);
     ModalDriver person;
-    int paintedBefore = -1;
     // Dialogs that a command waits in come up when the button is painted already.
     const QList<QToolButton *> asking = QList<QToolButton *>()
                                         << window.m_openBtn << window.m_removeBtn
                                         << window.m_saveBtn << window.m_saveAsBtn
                                         << window.m_importExportBtn << window.m_copyBtn;
-    if (asking.contains(button)) {
-        person.then([&](QWidget *dialog) {
-            paintedBefore = paintings.count;
-            dialog->close();
-        });
-    }
+    const bool asks = asking.contains(button);
+    if (asks)
+        person.then([](QWidget *dialog) { dialog->close(); });
     // The import manager's own words about a connection that it leaves open.
     StrictMessages::expect(QLatin1String("ImportManage::slot_checkUSB"));
     if (button == window.m_editBtn)
@@ -489,10 +512,7 @@ void TestCommandBar::commandsRepaintTheirButtonFirst()
     // Up and Down leave it to the event loop, and the editor's own slots know no button.
     const bool atOnce =
         expected.receiver == Window && qstrcmp(expected.slot, SLOT(moveEvent())) != 0;
-    if (paintedBefore < 0)
-        QCOMPARE(paintings.count, atOnce ? 1 : 0);
-    else
-        QCOMPARE(paintedBefore, atOnce ? 1 : 0);
+    QCOMPARE(asks ? paintingsAtDialog.count : paintings.count, atOnce ? 1 : 0);
     if (window.m_editor->findDialog)
         window.m_editor->findDialog->close();
 }
