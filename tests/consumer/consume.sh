@@ -5,7 +5,8 @@
 # consume.sh [companion/]cmake|pkgconfig|qmake|subdirectory
 #
 # Builds the host against the library that install.sh left, or, by "subdirectory", takes the project
-# in whole, and runs it off-screen. With "companion/" it is a host that links the companion. The environment is set by CMakeLists.txt.
+# in whole, and runs it off-screen. With "companion/" the host links the companion. CMakeLists.txt sets
+# the environment.
 set -euo pipefail
 
 way=${1##*/}
