@@ -456,7 +456,7 @@ void ProgramGuard::guardPicker(QDialog *dialog, WindowDialogs::Picker picker)
 
 QString ProgramGuard::proposal(const PickerGuard *picker) const
 {
-    const QString own = nameOf(m_window->getCurrentFile());
+    QString own = nameOf(m_window->getCurrentFile());
     if (own.isEmpty())
         return ProgramName::freeOne(ProgramName::first(), picker->listedNames());
     if (m_state.kind == ProgramState::Incomplete)

@@ -19,7 +19,7 @@ const qint64 PlcTransfer::largestProgram;
 namespace {
 
 // No download lasts so long: what is older was left behind by a panel that was switched off.
-const qint64 leftBehindMs = 24 * 60 * 60 * 1000;
+const qint64 leftBehindMs = qint64(24) * 60 * 60 * 1000;
 
 } // namespace
 
@@ -121,7 +121,7 @@ bool PlcTransfer::Task::open()
     if (source.size() > largestProgram)
         return fail(tr("The program %1 is larger than the PLC takes (%2 MB).")
                         .arg(name)
-                        .arg(largestProgram / (1024 * 1024)));
+                        .arg(largestProgram / (qint64(1024) * 1024)));
     if (!m_source.open(QIODevice::ReadOnly))
         return fail(tr("The program %1 cannot be read: %2.").arg(name, m_source.errorString()));
     m_size = m_source.size();

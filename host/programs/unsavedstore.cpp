@@ -28,7 +28,7 @@ const int hashBytes = 32;
 const int linkBytes = 16;
 const int pieceChars = 256 * 1024;
 // More than any text that the panel has the memory to show.
-const qint64 largestFile = 512 * 1024 * 1024;
+const qint64 largestFile = qint64(512) * 1024 * 1024;
 const int lengthBytes = 4;
 
 QString keptName(const QString &subject)
@@ -428,7 +428,7 @@ UnsavedStore::Reading UnsavedStore::read(const UnsavedSession &session, const QS
 
 QString UnsavedStore::putAside(const UnsavedSession &session, const QString &subject)
 {
-    const QString aside = session.filePath(subject + QLatin1String(".unreadable"));
+    QString aside = session.filePath(subject + QLatin1String(".unreadable"));
     for (const QString &name : {keptName(subject), journalName(subject)}) {
         const QString target =
             name == keptName(subject) ? aside : aside + QLatin1String(".changes");

@@ -9,7 +9,7 @@
 
 namespace {
 
-const qint64 pieceBytes = 256 * 1024;
+const qint64 pieceBytes = qint64(256) * 1024;
 
 bool openForCompare(QFile *file)
 {

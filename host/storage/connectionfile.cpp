@@ -16,7 +16,7 @@
 namespace {
 
 // A thousand connections take a tenth of it.
-const qint64 largestFile = 4 * 1024 * 1024;
+const qint64 largestFile = qint64(4) * 1024 * 1024;
 
 struct Typical
 {

@@ -19,7 +19,7 @@
 namespace {
 
 // A hundred times what the longest taught program takes; more would not fit into the memory.
-const qint64 largestFile = 16 * 1024 * 1024;
+const qint64 largestFile = qint64(16) * 1024 * 1024;
 
 bool exists(const QString &path)
 {

@@ -14,7 +14,7 @@
 namespace {
 
 // A larger file is none of ours; reading it would cost the panel its memory.
-const qint64 largestFile = 64 * 1024;
+const qint64 largestFile = qint64(64) * 1024;
 const int mostAside = 99;
 const char generalSection[] = "[General]";
 
@@ -137,7 +137,7 @@ QByteArray SettingsFile::changed(const QByteArray &ini, const QString &key, cons
 SettingsFile::State SettingsFile::takeState()
 {
     const QMutexLocker lock(&m_mutex);
-    const State state = m_state;
+    State state = m_state;
     m_state.trouble = None;
     return state;
 }

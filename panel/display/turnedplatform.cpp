@@ -80,9 +80,9 @@ public:
 protected:
     QRegion doRedraw() override
     {
-        const QRegion touched = QFbScreen::doRedraw();
+        QRegion touched = QFbScreen::doRedraw();
         QRegion region;
-        for (const QRect &rect : touched)
+        for (const QRect &rect : qAsConst(touched))
             region += QHighDpi::fromNativePixels(QRectF(rect), screen()).toAlignedRect();
         if (redrawn && !region.isEmpty())
             redrawn(region);
