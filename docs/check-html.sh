@@ -5,7 +5,7 @@
 # check-html.sh FOLDER QCH
 #
 # Fails if a page in FOLDER links to a page, an anchor or a picture that isn't there or to another
-# machine, if a class has no picture on its page, or if the help file QCH is missing.
+# machine, if a class has no picture on its page, if one of the companion is in no group, or if the help file QCH is missing.
 set -euo pipefail
 export LC_ALL=C
 
@@ -39,11 +39,21 @@ if ! [ -s "$scratch/links" ]; then
     exit 1
 fi
 
+# Those of the companion are included by their folder; they have nothing to show, and groups.
+mapfile -t companions < <(grep -lE '#include &lt;[a-z]+/' -- {class,struct}[A-Z]*.html)
 bare=$(grep -L '<img src="[a-z]*\.png"' -- class[A-Z]*.html \
-    | grep -vE -- '-members\.html|classFilarixRows' || true)
+    | grep -vE -- '-members\.html|classFilarixRows' \
+    | grep -vxF -f <(printf '%s\n' "${companions[@]}") || true)
 if [ -n "$bare" ]; then
     echo "Classes without a picture:" >&2
     echo "$bare" >&2
+    exit 1
+fi
+stray=$(grep -L 'class="ingroups"' -- "${companions[@]}" | grep -E '^[a-z]+[A-Z][A-Za-z_]*\.html$' \
+    | grep -vE -- '_1_1|-members' || true)
+if [ -n "$stray" ]; then
+    echo "Classes of the companion in no group of docs/pages/companion.dox:" >&2
+    echo "$stray" >&2
     exit 1
 fi
 

@@ -46,6 +46,7 @@ class FILARIX_HOST_EXPORT HistoryStore
     Q_DECLARE_TR_FUNCTIONS(HistoryStore)
 
 public:
+    /// How much is kept.
     struct Limits
     {
         int versions = 500;

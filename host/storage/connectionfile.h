@@ -20,6 +20,7 @@
 /// of these functions may wait for the disk.
 namespace ConnectionFile {
 
+/// One connection, with its texts as the file has them.
 struct Connection
 {
     QString name;
@@ -29,6 +30,7 @@ struct Connection
     QString address;
 };
 
+/// What the file held when it was read.
 struct Contents
 {
     bool isThere = false;

@@ -24,6 +24,7 @@ public:
     typedef std::function<bool(const QString &path, QList<QStringList> *rows, QString *error)>
         Reader;
 
+    /// What came of load().
     struct Loaded
     {
         enum State {
@@ -42,6 +43,7 @@ public:
         QString error;
     };
 
+    /// What came of store().
     struct Stored
     {
         bool isStored = false;

@@ -18,6 +18,7 @@ class FILARIX_HOST_EXPORT SettingsFile
 public:
     enum Trouble { None, PutAside, NotPutAside, NotStored };
 
+    /// What is known of the file.
     struct State
     {
         QMap<QString, QString> values;
