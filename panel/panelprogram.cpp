@@ -246,25 +246,37 @@ void PanelProgram::offerUnsavedWork()
 {
     const QString folder = ownPath("unsaved");
     m_unsaved.reset(new UnsavedWork(folder));
-    m_offer.reset(new UnsavedOffer(folder, {m_programs, m_teach, m_variables}, m_unsaved.get()));
+    m_offer.reset(new UnsavedOffer(folder, m_unsaved.get(), &m_questioner));
     m_window->messages()->listenTo(m_unsaved.get());
     m_window->messages()->listenTo(m_offer.get());
-    watchUnsavedWork();
+    keepUnsavedProgram();
+    keepUnsavedRows("teach", m_teach);
+    keepUnsavedRows("variables", m_variables);
     keepUnsavedWork();
 }
 
-void PanelProgram::watchUnsavedWork()
+void PanelProgram::keepUnsavedProgram()
 {
+    ProgramGuard *guard = m_programs->guard();
+    WMMainWindow *window = m_programs->programWindow();
     // A save is one once the guard has read it back.
     m_unsaved->watchProgram(
-        m_programs->editor()->document(), [this] { return UnsavedOffer::headOf(m_programs); },
-        [this] { return !m_programs->guard()->isBusy(); });
-    m_unsaved->watchRows(UnsavedOffer::teach(), m_teach, [this] {
-        KeptHead head;
-        head.path = m_teach->filePath();
-        return head;
-    });
-    m_unsaved->watchRows(UnsavedOffer::variables(), m_variables, [] { return KeptHead(); });
+        m_programs->editor()->document(),
+        [window, guard] {
+            return UnsavedOffer::headOf(window, guard->state().kind == ProgramState::Incomplete);
+        },
+        [guard] { return !guard->isBusy(); });
+    UnsavedOffer::Program program;
+    program.window = window;
+    program.isBusy = [guard] { return guard->isBusy(); };
+    program.noteNew = [guard] { guard->noteNewProgram(); };
+    m_offer->setProgram(program);
+}
+
+void PanelProgram::keepUnsavedRows(const char *subject, ListScreen *screen)
+{
+    m_unsaved->watchRows(QLatin1String(subject), screen);
+    m_offer->addRows(QLatin1String(subject), screen);
 }
 
 // From a signal on, what is not saved is kept; an operator who closes the panel was asked about it.

@@ -8,6 +8,7 @@
 #include "screens/machinedata.h"
 #include "shell/languages.h"
 #include "shell/orderlyend.h"
+#include "shell/questiondialog.h"
 #include "shell/questionkeeper.h"
 #include "shell/settings.h"
 #include "startup.h"
@@ -22,6 +23,7 @@
 class ConnectionsScreen;
 class DeviceWatch;
 class FilesScreen;
+class ListScreen;
 class PanelGlass;
 class PanelScreen;
 class PanelWindow;
@@ -88,7 +90,8 @@ private:
     void connectStartUp();
     void watchDevices();
     void offerUnsavedWork();
-    void watchUnsavedWork();
+    void keepUnsavedProgram();
+    void keepUnsavedRows(const char *subject, ListScreen *screen);
     void keepUnsavedWork();
     void tidyNowAndThen();
     void show();
@@ -116,6 +119,7 @@ private:
     VariablesScreen *m_variables = nullptr;
     ConnectionsScreen *m_connections = nullptr;
     FilesScreen *m_files = nullptr;
+    DialogQuestioner m_questioner;
     // They look at the screens.
     std::unique_ptr<UnsavedWork> m_unsaved;
     std::unique_ptr<UnsavedOffer> m_offer;

@@ -710,6 +710,10 @@
         <source>What stood there is %1 now.</source>
         <translation>Die bisherige Datei heißt jetzt %1.</translation>
     </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, Befehle: %3</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -765,10 +769,6 @@
         <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
     </message>
     <message>
-        <source>Variables</source>
-        <translation>Variablen</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>Unbenannt</translation>
     </message>
@@ -777,27 +777,24 @@
         <translation>%1, %2, Zeilen: %3</translation>
     </message>
     <message>
-        <source>%1, %2, instructions: %3</source>
-        <translation>%1, %2, Befehle: %3</translation>
-    </message>
-    <message>
-        <source>%1, %2, values: %3</source>
-        <translation>%1, %2, Werte: %3</translation>
-    </message>
-</context>
-<context>
-    <name>UnsavedQuestion</name>
-    <message>
         <source>Unsaved work</source>
         <translation>Ungespeicherte Arbeit</translation>
     </message>
     <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>Dies war beim Ende des Panels nicht gespeichert. Zurückholen?</translation>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Ungespeicherte Arbeit endgültig verwerfen?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Throw away</source>
         <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Dies war beim Ende des Panels nicht gespeichert. Zurückholen?</translation>
     </message>
     <message>
         <source>Keep for later</source>
@@ -806,10 +803,6 @@
     <message>
         <source>Bring back</source>
         <translation>Zurückholen</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>Ungespeicherte Arbeit endgültig verwerfen?</translation>
     </message>
 </context>
 <context>
@@ -841,6 +834,14 @@
     <message>
         <source>The values are empty. Switch the panel off and on.</source>
         <translation>Die Werte sind leer. Das Panel aus- und einschalten.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, Werte: %3</translation>
     </message>
 </context>
 </TS>

@@ -710,6 +710,10 @@
         <source>What stood there is %1 now.</source>
         <translation>Il file precedente ora si chiama %1.</translation>
     </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, istruzioni: %3</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -765,10 +769,6 @@
         <translation>%1: ripristinato, non ancora salvato.</translation>
     </message>
     <message>
-        <source>Variables</source>
-        <translation>Variabili</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>Senza nome</translation>
     </message>
@@ -777,27 +777,24 @@
         <translation>%1, %2, righe: %3</translation>
     </message>
     <message>
-        <source>%1, %2, instructions: %3</source>
-        <translation>%1, %2, istruzioni: %3</translation>
-    </message>
-    <message>
-        <source>%1, %2, values: %3</source>
-        <translation>%1, %2, valori: %3</translation>
-    </message>
-</context>
-<context>
-    <name>UnsavedQuestion</name>
-    <message>
         <source>Unsaved work</source>
         <translation>Lavoro non salvato</translation>
     </message>
     <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>Non era salvato quando il pannello è terminato. Ripristinare?</translation>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Scartare per sempre il lavoro non salvato?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Throw away</source>
         <translation>Scarta</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Non era salvato quando il pannello è terminato. Ripristinare?</translation>
     </message>
     <message>
         <source>Keep for later</source>
@@ -806,10 +803,6 @@
     <message>
         <source>Bring back</source>
         <translation>Ripristina</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>Scartare per sempre il lavoro non salvato?</translation>
     </message>
 </context>
 <context>
@@ -841,6 +834,14 @@
     <message>
         <source>The values are empty. Switch the panel off and on.</source>
         <translation>I valori sono vuoti. Spegnere e riaccendere il pannello.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabili</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, valori: %3</translation>
     </message>
 </context>
 </TS>

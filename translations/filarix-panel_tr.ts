@@ -710,6 +710,10 @@
         <source>What stood there is %1 now.</source>
         <translation>Önceki dosyanın adı artık %1.</translation>
     </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, komut: %3</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -765,10 +769,6 @@
         <translation>%1: geri alındı, henüz kaydedilmedi.</translation>
     </message>
     <message>
-        <source>Variables</source>
-        <translation>Değişken</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>Adsız</translation>
     </message>
@@ -777,27 +777,24 @@
         <translation>%1, %2, satır: %3</translation>
     </message>
     <message>
-        <source>%1, %2, instructions: %3</source>
-        <translation>%1, %2, komut: %3</translation>
-    </message>
-    <message>
-        <source>%1, %2, values: %3</source>
-        <translation>%1, %2, değer: %3</translation>
-    </message>
-</context>
-<context>
-    <name>UnsavedQuestion</name>
-    <message>
         <source>Unsaved work</source>
         <translation>Kaydedilmemiş iş</translation>
     </message>
     <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>Panel kapandığında bunlar kaydedilmemişti. Geri alınsın mı?</translation>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Kaydedilmemiş iş tümüyle atılsın mı?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>Throw away</source>
         <translation>At</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Panel kapandığında bunlar kaydedilmemişti. Geri alınsın mı?</translation>
     </message>
     <message>
         <source>Keep for later</source>
@@ -806,10 +803,6 @@
     <message>
         <source>Bring back</source>
         <translation>Geri al</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>Kaydedilmemiş iş tümüyle atılsın mı?</translation>
     </message>
 </context>
 <context>
@@ -841,6 +834,14 @@
     <message>
         <source>The values are empty. Switch the panel off and on.</source>
         <translation>Değerler boş. Paneli kapatıp açın.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Değişken</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, değer: %3</translation>
     </message>
 </context>
 </TS>

@@ -710,6 +710,10 @@
         <source>What stood there is %1 now.</source>
         <translation>原文件现名为 %1。</translation>
     </message>
+    <message>
+        <source>%1, %2, instructions: %3</source>
+        <translation>%1, %2, 指令数: %3</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -765,10 +769,6 @@
         <translation>%1: 已恢复, 尚未保存。</translation>
     </message>
     <message>
-        <source>Variables</source>
-        <translation>变量</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>新程序</translation>
     </message>
@@ -777,27 +777,24 @@
         <translation>%1, %2, 行数: %3</translation>
     </message>
     <message>
-        <source>%1, %2, instructions: %3</source>
-        <translation>%1, %2, 指令数: %3</translation>
-    </message>
-    <message>
-        <source>%1, %2, values: %3</source>
-        <translation>%1, %2, 数值: %3</translation>
-    </message>
-</context>
-<context>
-    <name>UnsavedQuestion</name>
-    <message>
         <source>Unsaved work</source>
         <translation>未保存的工作</translation>
     </message>
     <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>面板结束时以下内容未保存。要恢复吗?</translation>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>永久丢弃未保存的工作吗?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Throw away</source>
         <translation>丢弃</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>面板结束时以下内容未保存。要恢复吗?</translation>
     </message>
     <message>
         <source>Keep for later</source>
@@ -806,10 +803,6 @@
     <message>
         <source>Bring back</source>
         <translation>恢复</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>永久丢弃未保存的工作吗?</translation>
     </message>
 </context>
 <context>
@@ -841,6 +834,14 @@
     <message>
         <source>The values are empty. Switch the panel off and on.</source>
         <translation>数值为空。请关闭面板后重新打开。</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>%1, %2, values: %3</source>
+        <translation>%1, %2, 数值: %3</translation>
     </message>
 </context>
 </TS>

@@ -12,11 +12,19 @@
 /// A question to the operator, with its answers in words.
 struct Question
 {
+    Question() = default;
+    Question(const QString &title, const QString &text, const QStringList &answers,
+             const QStringList &things = QStringList())
+        : title(title), text(text), answers(answers), things(things)
+    {}
+
     QString title;
     /// What is at stake, in a sentence or two.
     QString text;
     /// The first is the harmless one: nothing is done, written or lost.
     QStringList answers;
+    /// What the question is about, one a line: programs and their times, say. Mostly none.
+    QStringList things;
 };
 
 /// Asks the operator. A host that has dialogs of its own implements this one function.

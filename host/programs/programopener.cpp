@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTextDocument>
 #include <QTimer>
@@ -92,7 +93,7 @@ bool ProgramOpener::open(const QString &path)
     if (file.path() != ProgramDirectory::path() || file.fileName().isEmpty())
         return false;
     const bool isOpen = m_window->getCurrentFile() == path;
-    if (isOpen && !m_editor->document()->isModified())
+    if (isOpen && !isModified())
         return true;
     m_name = file.fileName();
     const QPointer<ProgramOpener> self(this);
@@ -111,11 +112,24 @@ bool ProgramOpener::open(const QString &path)
     qApp->removeEventFilter(this);
     m_name.clear();
     // With changes, whoever was asked about them has said no.
-    if (m_window->getCurrentFile() != path || m_editor->document()->isModified())
+    if (m_window->getCurrentFile() != path || isModified())
         return false;
     // The pieces in which a long program came are no steps of the operator's.
     m_editor->document()->clearUndoRedoStacks();
     return true;
+}
+
+bool ProgramOpener::isModified() const
+{
+    return m_editor->document()->isModified();
+}
+
+// The library shows no other such dialog, and it is there before it is seen.
+bool ProgramOpener::isLoading()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(),
+                       [](QWidget *widget) { return qobject_cast<QProgressDialog *>(widget); });
 }
 
 bool ProgramOpener::isBusy() const

@@ -30,12 +30,17 @@ public:
                            QObject *parent = nullptr);
 
     /// Presses Open and waits, with the event loop running; whether the program at \a path is the
-    /// window's afterwards. It has to stand in the program
-    /// directory. What the window asks besides, about changes say, is the operator's to answer.
+    /// window's afterwards. It has to stand in the program directory. What the window asks besides,
+    /// about changes say, is the operator's to answer.
     bool open(const QString &path);
     /// Makes \a text the document's, in one step that Undo takes back, with the cursor at
     /// \a cursor. The document is modified then, unless that was its text before.
     void put(const QString &text, int cursor);
+
+    /// Whether the editor has changes that are not saved. The window's own mark is the host's.
+    bool isModified() const;
+    /// Whether a window of the library loads a program at this moment.
+    static bool isLoading();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

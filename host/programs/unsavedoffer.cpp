@@ -3,14 +3,12 @@
 
 #include "programs/unsavedoffer.h"
 
-#include "guards/programguard.h"
+#include "base/hostcompat.h"
+#include "base/questioner.h"
 #include "programs/programopener.h"
+#include "programs/unsavedrows.h"
 #include "programs/unsavedstore.h"
 #include "programs/unsavedwork.h"
-#include "screens/programscreen.h"
-#include "screens/teachscreen.h"
-#include "screens/unsavedquestion.h"
-#include "screens/variablesscreen.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -19,16 +17,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
-#include <QTimer>
 
 namespace {
 
 const int waitMs = 300;
-
-QStringList subjects()
-{
-    return {UnsavedWork::program(), UnsavedOffer::teach(), UnsavedOffer::variables()};
-}
 
 QString incomplete()
 {
@@ -47,68 +39,84 @@ bool isStored(const KeptWork &work)
     return QTextStream(&file).readAll() == work.text;
 }
 
+// Another host may have lists that this one knows nothing of: their work stays, and so does the
+// folder.
+void removeIfEmpty(const UnsavedSession::Pointer &session)
+{
+    const QStringList kept(QLatin1String("*.kept"));
+    if (QDir(session->path()).entryList(kept, QDir::AllEntries | QDir::System).isEmpty())
+        session->remove();
+}
+
+void removeWorks(const UnsavedSession::Pointer &session, const QList<KeptWork> &works)
+{
+    for (const KeptWork &work : works)
+        UnsavedStore::remove(*session, work.subject);
+    removeIfEmpty(session);
+}
+
 } // namespace
 
-UnsavedOffer::UnsavedOffer(const QString &folder, const Screens &screens, UnsavedWork *work,
+UnsavedOffer::UnsavedOffer(const QString &folder, UnsavedWork *work, Questioner *questioner,
                            QObject *parent)
-    : QObject(parent)
-    , m_folder(folder)
-    , m_screens(screens)
-    , m_work(work)
-    , m_opener(new ProgramOpener(
-          screens.program->programWindow(),
-          [screens] { return screens.program->guard()->isBusy(); }, this))
+    : QObject(parent), m_folder(folder), m_work(work), m_questioner(questioner)
 {}
 
 UnsavedOffer::~UnsavedOffer() = default;
 
-KeptHead UnsavedOffer::headOf(const ProgramScreen *program)
+void UnsavedOffer::setProgram(const Program &program)
+{
+    delete m_opener;
+    m_program = program;
+    m_opener = new ProgramOpener(program.window, program.isBusy, this);
+}
+
+void UnsavedOffer::addRows(const QString &subject, UnsavedRows *list)
+{
+    m_rows.insert(subject, list);
+}
+
+KeptHead UnsavedOffer::headOf(const WMMainWindow *window, bool isIncomplete)
 {
     KeptHead head;
-    head.path = program->programWindow()->getCurrentFile();
-    head.cursor = program->editor()->textCursor().position();
-    if (program->guard()->state().kind == ProgramState::Incomplete)
+    head.path = window->getCurrentFile();
+    head.cursor = window->findChild<WGCodeEditer *>()->textCursor().position();
+    if (isIncomplete)
         head.state.insert(incomplete(), QString());
     return head;
-}
-
-QString UnsavedOffer::teach()
-{
-    return QLatin1String("teach");
-}
-
-QString UnsavedOffer::variables()
-{
-    return QLatin1String("variables");
 }
 
 void UnsavedOffer::start()
 {
     const QString folder = m_folder;
+    QStringList subjects = m_rows.keys();
+    if (m_program.window)
+        subjects.prepend(UnsavedWork::program());
     const std::shared_ptr<QList<Found>> found = std::make_shared<QList<Found>>();
-    m_thread.post([folder, found] { *found = find(folder); }, [this, found] { takeIn(*found); });
+    m_thread.post([folder, subjects, found] { *found = find(folder, subjects); },
+                  [this, found] { takeIn(*found); });
 }
 
-QList<UnsavedOffer::Found> UnsavedOffer::find(const QString &folder)
+QList<UnsavedOffer::Found> UnsavedOffer::find(const QString &folder, const QStringList &subjects)
 {
     QList<Found> all;
     const QList<UnsavedSession::Pointer> sessions = UnsavedSession::left(folder);
     for (const UnsavedSession::Pointer &session : sessions) {
-        const Found found = look(session);
+        const Found found = look(session, subjects);
         if (found.works.isEmpty())
-            session->remove();
+            removeIfEmpty(session);
         if (!found.works.isEmpty() || !found.aside.isEmpty())
             all.append(found);
     }
     return all;
 }
 
-UnsavedOffer::Found UnsavedOffer::look(const UnsavedSession::Pointer &session)
+UnsavedOffer::Found UnsavedOffer::look(const UnsavedSession::Pointer &session,
+                                       const QStringList &subjects)
 {
     Found found;
     found.session = session;
-    const QStringList all = subjects();
-    for (const QString &subject : all) {
+    for (const QString &subject : subjects) {
         KeptWork work;
         const UnsavedStore::Reading reading = UnsavedStore::read(*session, subject, &work);
         if (reading == UnsavedStore::Broken)
@@ -134,13 +142,24 @@ void UnsavedOffer::takeIn(const QList<Found> &found)
     askNext();
 }
 
+// Not over a question that the operator reads just now, nor into a program that is loaded or saved,
+// nor before there are lists to fill.
+bool UnsavedOffer::mayAsk() const
+{
+    if (QApplication::activeModalWidget() || ProgramOpener::isLoading()
+        || (m_program.isBusy && m_program.isBusy()))
+        return false;
+    for (const UnsavedRows *list : m_rows) {
+        if (list->isLoading())
+            return false;
+    }
+    return true;
+}
+
 void UnsavedOffer::askNext()
 {
-    // Not over a question that the operator reads just now, nor into a program that is loaded or
-    // saved, nor before there are lists to fill.
-    if (QApplication::activeModalWidget() || m_screens.program->guard()->isBusy()
-        || m_screens.teach->isLoading() || m_screens.variables->isLoading())
-        return QTimer::singleShot(waitMs, this, &UnsavedOffer::askNext);
+    if (!mayAsk())
+        return HostCompat::callAfter(waitMs, this, [this] { askNext(); });
     while (!m_found.isEmpty() && m_found.first().works.isEmpty())
         m_found.removeFirst();
     if (m_found.isEmpty()) {
@@ -148,19 +167,42 @@ void UnsavedOffer::askNext()
         return;
     }
     const Found found = m_found.takeFirst();
+    const QPointer<UnsavedOffer> self(this);
+    const Answer answer = ask(found);
+    if (!self)
+        return;
+    if (answer == BringBack)
+        return bringBack(found);
+    if (answer == ThrowAway)
+        throwAway(found);
+    askNext();
+}
+
+// What is thrown away is asked about twice: there is no way back.
+UnsavedOffer::Answer UnsavedOffer::ask(const Found &found)
+{
+    const QPointer<UnsavedOffer> self(this);
+    Answer answer = askOnce(found);
+    while (self && answer == ThrowAway) {
+        const int isMeant =
+            m_questioner->ask({tr("Unsaved work"), tr("Throw the unsaved work away for good?"),
+                               QStringList() << tr("Cancel") << tr("Throw away")});
+        if (!self || isMeant == 1)
+            return answer;
+        answer = askOnce(found);
+    }
+    return answer;
+}
+
+UnsavedOffer::Answer UnsavedOffer::askOnce(const Found &found)
+{
     QStringList lines;
     for (const KeptWork &work : found.works)
         lines.append(shown(work));
-    const QPointer<UnsavedOffer> self(this);
-    UnsavedQuestion question(lines);
-    const int answer = question.exec();
-    if (!self)
-        return;
-    if (answer == UnsavedQuestion::BringBack)
-        return bringBack(found);
-    if (answer == UnsavedQuestion::ThrowAway)
-        throwAway(found);
-    askNext();
+    const int answer = m_questioner->ask(
+        {tr("Unsaved work"), tr("This was not saved when the panel ended. Bring it back?"),
+         QStringList() << tr("Keep for later") << tr("Bring back") << tr("Throw away"), lines});
+    return answer == BringBack || answer == ThrowAway ? Answer(answer) : Later;
 }
 
 // Work that is older still would cover this: it waits for the next start.
@@ -181,100 +223,94 @@ void UnsavedOffer::bringBack(const Found &found)
                             .arg(shownName(work)),
                         Message::Warning);
     }
-    connect(m_work, &UnsavedWork::settled, this, &UnsavedOffer::removeOld);
+    connect(m_work, SIGNAL(settled()), this, SLOT(removeOld()));
     m_work->keepNow();
 }
 
 bool UnsavedOffer::bringBack(const KeptWork &work)
 {
-    if (work.subject == UnsavedWork::program())
-        return bringProgramBack(work);
-    bool isBack = false;
-    if (work.subject == teach())
-        isBack =
-            !m_screens.teach->hasChanges() && m_screens.teach->bringBack(work.head.path, work.rows);
-    else
-        isBack = !m_screens.variables->hasChanges() && m_screens.variables->bringBack(work.rows);
-    if (isBack)
-        Q_EMIT told(tr("%1: brought back, not stored yet.").arg(shownName(work)),
-                    Message::Information);
-    return isBack;
+    return work.subject == UnsavedWork::program() ? bringProgramBack(work) : bringRowsBack(work);
+}
+
+bool UnsavedOffer::bringRowsBack(const KeptWork &work)
+{
+    UnsavedRows *list = m_rows.value(work.subject);
+    if (list->lookForChanges() || !list->bringBack(work.head.path, work.rows))
+        return false;
+    Q_EMIT told(tr("%1: brought back, not stored yet.").arg(shownName(work)), Message::Information);
+    return true;
 }
 
 bool UnsavedOffer::bringProgramBack(const KeptWork &work)
 {
-    WMMainWindow *window = m_screens.program->programWindow();
     const QPointer<UnsavedOffer> self(this);
     // With a front part of it in the editor, Save must not reach the whole program.
     const bool wasWhole = !work.head.state.contains(incomplete());
     const bool isOpen = work.isFileThere && wasWhole && m_opener->open(work.head.path);
     if (!self)
         return false;
-    if (!isOpen && window->isWindowModified())
+    if (!isOpen && m_opener->isModified())
         return false;
     if (!isOpen)
-        QMetaObject::invokeMethod(window, "newFile");
-    if (!isOpen)
-        m_screens.program->guard()->noteNewProgram();
+        QMetaObject::invokeMethod(m_program.window, "newFile");
+    if (!isOpen && m_program.noteNew)
+        m_program.noteNew();
     m_opener->put(work.text, work.head.cursor);
-    if (!wasWhole)
+    tellOfProgram(work, isOpen);
+    return true;
+}
+
+void UnsavedOffer::tellOfProgram(const KeptWork &work, bool isOpen)
+{
+    const QString name = shownName(work);
+    if (work.head.state.contains(incomplete()))
         Q_EMIT told(
             tr("%1 had not been loaded whole. What was not saved of it is a new program now.")
-                .arg(shownName(work)),
+                .arg(name),
             Message::Warning);
     else if (!isOpen && !work.head.path.isEmpty())
         Q_EMIT told(tr("%1 is not there any more. What was not saved of it is a new program now.")
-                        .arg(shownName(work)),
+                        .arg(name),
                     Message::Warning);
     else if (work.isFileChanged && isOpen)
         Q_EMIT told(tr("%1: brought back, not saved yet. The file has changed since then: Save "
                        "covers that.")
-                        .arg(shownName(work)),
+                        .arg(name),
                     Message::Warning);
     else
-        Q_EMIT told(tr("%1: brought back, not saved yet.").arg(shownName(work)),
-                    Message::Information);
-    return true;
+        Q_EMIT told(tr("%1: brought back, not saved yet.").arg(name), Message::Information);
 }
 
 // This run keeps it by now, or the operator has saved it.
 void UnsavedOffer::removeOld()
 {
-    disconnect(m_work, &UnsavedWork::settled, this, &UnsavedOffer::removeOld);
+    disconnect(m_work, SIGNAL(settled()), this, SLOT(removeOld()));
     const Found brought = m_brought;
     m_brought = Found();
-    m_thread.post(
-        [brought] {
-            for (const KeptWork &work : brought.works)
-                UnsavedStore::remove(*brought.session, work.subject);
-            if (QDir(brought.session->path()).entryList({QLatin1String("*.kept")}).isEmpty())
-                brought.session->remove();
-        },
-        [this] { Q_EMIT ended(); });
+    m_thread.post([brought] { removeWorks(brought.session, brought.works); },
+                  [this] { Q_EMIT ended(); });
 }
 
 void UnsavedOffer::throwAway(const Found &found)
 {
-    const UnsavedSession::Pointer session = found.session;
-    m_thread.post([session] { session->remove(); }, [] {});
+    m_thread.post([found] { removeWorks(found.session, found.works); }, [] {});
 }
 
-QString UnsavedOffer::shownName(const KeptWork &work)
+QString UnsavedOffer::shownName(const KeptWork &work) const
 {
-    if (work.subject == variables())
-        return tr("Variables");
-    const QString name = QFileInfo(work.head.path).fileName().simplified();
+    const UnsavedRows *list = m_rows.value(work.subject);
+    const QString name =
+        list ? list->nameOf(work.head.path) : QFileInfo(work.head.path).fileName().simplified();
     return name.isEmpty() ? tr("New program") : name;
 }
 
-QString UnsavedOffer::shown(const KeptWork &work)
+QString UnsavedOffer::shown(const KeptWork &work) const
 {
     const QString time = work.time.toLocalTime().toString(QLatin1String("yyyy-MM-dd HH:mm"));
-    if (work.subject == UnsavedWork::program())
-        return tr("%1, %2, lines: %3")
-            .arg(shownName(work), time)
-            .arg(work.text.count(QLatin1Char('\n')) + 1);
-    if (work.subject == teach())
-        return tr("%1, %2, instructions: %3").arg(shownName(work), time).arg(work.rows.size());
-    return tr("%1, %2, values: %3").arg(shownName(work), time).arg(work.rows.size());
+    const UnsavedRows *list = m_rows.value(work.subject);
+    if (list)
+        return list->describe(shownName(work), time, work.rows.size());
+    return tr("%1, %2, lines: %3")
+        .arg(shownName(work), time)
+        .arg(work.text.count(QLatin1Char('\n')) + 1);
 }

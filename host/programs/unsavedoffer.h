@@ -15,38 +15,50 @@
 #include <functional>
 
 class ProgramOpener;
-class ProgramScreen;
-class TeachScreen;
+class Questioner;
+class UnsavedRows;
 class UnsavedWork;
-class VariablesScreen;
+class WMMainWindow;
 
 /// Looks for the unsaved work of earlier runs, offers it to the operator, and brings it back.
 ///
 /// The disk is looked at beside the event loop. What was brought back is kept anew by this run
 /// before it goes from where it was; what was not is offered again at the next start.
+///
+///     UnsavedOffer *offer = new UnsavedOffer(folder, unsavedWork, questioner, this);
+///     offer->setProgram(program);
+///     offer->addRows("teach", teachScreen);
+///     offer->start();
 class UnsavedOffer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The screens that get their work back; they must outlive the offer.
-    struct Screens
+    /// The window that shows programs, and what the host knows of it.
+    struct Program
     {
-        ProgramScreen *program;
-        TeachScreen *teach;
-        VariablesScreen *variables;
+        WMMainWindow *window = nullptr;
+        /// Whether the host has a command of the window in hand. If not given, it never has.
+        std::function<bool()> isBusy;
+        /// The window's New was pressed: what it shows belongs to no file any more. May be missing.
+        std::function<void()> noteNew;
     };
 
-    /// Looks in \a folder. \a work keeps what is brought back.
-    UnsavedOffer(const QString &folder, const Screens &screens, UnsavedWork *work,
+    /// Looks in \a folder. \a work keeps what is brought back, and watches the program and the rows
+    /// that are named here. Both \a work and \a questioner must outlive the offer.
+    UnsavedOffer(const QString &folder, UnsavedWork *work, Questioner *questioner,
                  QObject *parent = nullptr);
     ~UnsavedOffer() override;
 
-    /// What the program's text belongs to, as it is brought back later.
-    static KeptHead headOf(const ProgramScreen *program);
-    /// The subjects of the two lists.
-    static QString teach();
-    static QString variables();
+    /// The window gets its program back. It must outlive the offer.
+    void setProgram(const Program &program);
+    /// The list gets its rows back, which are kept under the name \a subject. The list must outlive
+    /// the offer.
+    void addRows(const QString &subject, UnsavedRows *list);
+
+    /// What the text of \a window belongs to, as it is brought back later. \a isIncomplete tells
+    /// that the editor shows the front part of the file alone.
+    static KeptHead headOf(const WMMainWindow *window, bool isIncomplete);
 
     /// Looks, and asks when there is something; once.
     void start();
@@ -56,7 +68,12 @@ Q_SIGNALS:
     void ended();
     void told(const QString &text, Message::Tone tone, const QString &cause = QString());
 
+private Q_SLOTS:
+    void removeOld();
+
 private:
+    enum Answer { Later, BringBack, ThrowAway };
+
     struct Found
     {
         UnsavedSession::Pointer session;
@@ -65,22 +82,28 @@ private:
         QStringList aside;
     };
 
-    static QList<Found> find(const QString &folder);
-    static Found look(const UnsavedSession::Pointer &session);
+    static QList<Found> find(const QString &folder, const QStringList &subjects);
+    static Found look(const UnsavedSession::Pointer &session, const QStringList &subjects);
     void takeIn(const QList<Found> &found);
+    bool mayAsk() const;
     void askNext();
+    Answer ask(const Found &found);
+    Answer askOnce(const Found &found);
     void bringBack(const Found &found);
     bool bringBack(const KeptWork &work);
+    bool bringRowsBack(const KeptWork &work);
     bool bringProgramBack(const KeptWork &work);
-    void removeOld();
+    void tellOfProgram(const KeptWork &work, bool isOpen);
     void throwAway(const Found &found);
-    static QString shownName(const KeptWork &work);
-    static QString shown(const KeptWork &work);
+    QString shownName(const KeptWork &work) const;
+    QString shown(const KeptWork &work) const;
 
     const QString m_folder;
-    const Screens m_screens;
     UnsavedWork *m_work;
-    ProgramOpener *m_opener;
+    Questioner *m_questioner;
+    Program m_program;
+    QMap<QString, UnsavedRows *> m_rows;
+    ProgramOpener *m_opener = nullptr;
     QList<Found> m_found;
     /// What stands on the screens again and is to go.
     Found m_brought;

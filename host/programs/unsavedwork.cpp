@@ -4,12 +4,11 @@
 #include "programs/unsavedwork.h"
 
 #include "programs/documentrecorder.h"
+#include "programs/programopener.h"
+#include "programs/unsavedrows.h"
 #include "programs/unsavedstore.h"
-#include "screens/listscreen.h"
 
-#include <QApplication>
 #include <QEventLoop>
-#include <QProgressDialog>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -66,13 +65,16 @@ void UnsavedWork::watchProgram(QTextDocument *document, const std::function<Kept
     noteProgram();
 }
 
-void UnsavedWork::watchRows(const QString &subject, ListScreen *screen,
-                            const std::function<KeptHead()> &head)
+void UnsavedWork::watchRows(const QString &subject, UnsavedRows *list)
 {
     std::unique_ptr<Rows> rows(new Rows);
     rows->name = subject;
-    rows->head = head;
-    rows->screen = screen;
+    rows->head = [list] {
+        KeptHead head;
+        head.path = list->filePath();
+        return head;
+    };
+    rows->list = list;
     m_rows.push_back(std::move(rows));
     m_rowsTimer.start(rowsMs);
 }
@@ -152,7 +154,7 @@ void UnsavedWork::noteProgram()
 void UnsavedWork::lookAtProgram()
 {
     // A program that is being opened is no work of the operator's.
-    if (isLoading())
+    if (ProgramOpener::isLoading())
         return noteProgram();
     m_isProgramDue = !mayStart();
     if (m_isProgramDue)
@@ -210,11 +212,10 @@ void UnsavedWork::lookAtRows()
 
 void UnsavedWork::lookAt(Rows *rows)
 {
-    if (rows->screen->isLoading())
+    if (rows->list->isLoading())
         return;
-    rows->screen->refreshStatus();
-    const bool hasChanges = rows->screen->hasChanges();
-    const QList<QStringList> now = hasChanges ? rows->screen->rows() : QList<QStringList>();
+    const bool hasChanges = rows->list->lookForChanges();
+    const QList<QStringList> now = hasChanges ? rows->list->rows() : QList<QStringList>();
     const KeptHead head = hasChanges ? rows->head() : KeptHead();
     const bool isKept = rows->mayBeKept && rows->isWritten;
     if (hasChanges ? isKept && now == rows->kept && head == rows->keptHead : !rows->mayBeKept)
@@ -233,14 +234,6 @@ void UnsavedWork::lookAt(Rows *rows)
     work.time = QDateTime::currentDateTimeUtc();
     work.rows = now;
     start(rows, true, [work](UnsavedStore *store) { return store->keep(work); });
-}
-
-// The library shows no other such dialog, and it is there before it is seen.
-bool UnsavedWork::isLoading() const
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    return std::any_of(widgets.begin(), widgets.end(),
-                       [](QWidget *widget) { return qobject_cast<QProgressDialog *>(widget); });
 }
 
 bool UnsavedWork::mayStart() const

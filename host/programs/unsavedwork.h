@@ -16,8 +16,8 @@
 #include <vector>
 
 class DocumentRecorder;
-class ListScreen;
 class QTextDocument;
+class UnsavedRows;
 class UnsavedStore;
 
 /// Keeps the unsaved work of all screens on the disk, at most two seconds behind the operator.
@@ -41,9 +41,9 @@ public:
     /// if given, whether a text without changes is surely stored. The document must outlive this.
     void watchProgram(QTextDocument *document, const std::function<KeptHead()> &head,
                       const std::function<bool()> &mayDrop = std::function<bool()>());
-    /// Watches the rows of a list.
-    void watchRows(const QString &subject, ListScreen *screen,
-                   const std::function<KeptHead()> &head);
+    /// Watches the rows of a list from now on, under the name \a subject: a word of small letters.
+    /// The list must outlive this.
+    void watchRows(const QString &subject, UnsavedRows *list);
 
     /// Whether all that is not saved is on the disk.
     bool isSettled() const;
@@ -85,7 +85,7 @@ private:
 
     struct Rows : Subject
     {
-        ListScreen *screen = nullptr;
+        UnsavedRows *list = nullptr;
         QList<QStringList> kept;
     };
 
@@ -97,7 +97,6 @@ private:
     void lookAt(Rows *rows);
     bool isProgramSettled() const;
     void waitUntilSettled(int ms);
-    bool isLoading() const;
     bool mayStart() const;
     /// Whether the subject is kept afterwards: \a keeps.
     void start(Subject *subject, bool keeps, const Job &job);

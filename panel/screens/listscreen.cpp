@@ -162,6 +162,12 @@ QList<QStringList> ListScreen::rows() const
     return rows;
 }
 
+bool ListScreen::lookForChanges()
+{
+    refreshStatus();
+    return hasChanges();
+}
+
 bool ListScreen::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_area->viewport() && event->type() == QEvent::Resize) {

@@ -4,6 +4,7 @@
 #ifndef LISTSCREEN_H
 #define LISTSCREEN_H
 
+#include "programs/unsavedrows.h"
 #include "shell/panelscreen.h"
 
 #include <functional>
@@ -19,17 +20,18 @@ class TListWidget;
 
 /// A screen around one of the library's paged lists: the list at the size of the panel, and a panel
 /// of keys beside it on a lying panel, below it on an upright or a small one.
-class ListScreen : public PanelScreen
+class ListScreen : public PanelScreen, public UnsavedRows
 {
     Q_OBJECT
 
 public:
     TListWidget *list() const { return m_list; }
     /// All rows but the title.
-    QList<QStringList> rows() const;
+    QList<QStringList> rows() const override;
 
     /// Whether the rows are still to come. No key does anything until they are there.
-    bool isLoading() const { return m_isLoading; }
+    bool isLoading() const override { return m_isLoading; }
+    bool lookForChanges() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -216,6 +216,16 @@ void TeachScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::St
     Q_EMIT told(text, Message::Information);
 }
 
+QString TeachScreen::nameOf(const QString &path) const
+{
+    return QFileInfo(path).fileName().simplified();
+}
+
+QString TeachScreen::describe(const QString &name, const QString &time, int count) const
+{
+    return tr("%1, %2, instructions: %3").arg(name, time).arg(count);
+}
+
 bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
 {
     if (!std::all_of(rows.begin(), rows.end(), TaughtProgram::isValid))

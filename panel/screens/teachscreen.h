@@ -28,7 +28,7 @@ public:
     /// Also sees whether the operator has changed a row: the list tells nobody.
     void refreshStatus() override;
 
-    QString filePath() const;
+    QString filePath() const override;
     /// Reads the program of that path beside the event loop; the screen keeps what it shows if that
     /// fails.
     void load(const QString &path);
@@ -38,7 +38,9 @@ public:
     void setStallTime(int ms) { m_keeper.setStallTime(ms); }
     /// Shows \a rows that were not stored when the program ended, as changes to the file \a path;
     /// false for rows that are no instructions.
-    bool bringBack(const QString &path, const QList<QStringList> &rows);
+    bool bringBack(const QString &path, const QList<QStringList> &rows) override;
+    QString nameOf(const QString &path) const override;
+    QString describe(const QString &name, const QString &time, int count) const override;
 
 protected:
     void retranslate() override;

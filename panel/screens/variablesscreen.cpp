@@ -137,7 +137,17 @@ void VariablesScreen::noteStored(const QList<QStringList> &rows, const RowKeeper
     Q_EMIT told(text, Message::Information);
 }
 
-bool VariablesScreen::bringBack(const QList<QStringList> &rows)
+QString VariablesScreen::nameOf(const QString &) const
+{
+    return tr("Variables");
+}
+
+QString VariablesScreen::describe(const QString &name, const QString &time, int count) const
+{
+    return tr("%1, %2, values: %3").arg(name, time).arg(count);
+}
+
+bool VariablesScreen::bringBack(const QString &, const QList<QStringList> &rows)
 {
     QList<QStringList> all = this->rows();
     bool isAny = false;

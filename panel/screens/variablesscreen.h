@@ -28,7 +28,9 @@ public:
     void store();
     /// Shows the values in \a rows that were not stored when the program ended; false if there
     /// are none of the machine's variables among them.
-    bool bringBack(const QList<QStringList> &rows);
+    bool bringBack(const QString &path, const QList<QStringList> &rows) override;
+    QString nameOf(const QString &path) const override;
+    QString describe(const QString &name, const QString &time, int count) const override;
     /// The value of a variable as text; null for a name that isn't there.
     QString value(const QString &name) const;
     /// Milliseconds after which a file counts as one that does not answer.

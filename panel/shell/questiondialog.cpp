@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -46,6 +47,23 @@ QString breakable(const QString &text, const QFont &font, int width)
     return words.join(QLatin1Char(' '));
 }
 
+// Broken between its words where they have room. Two names may differ at the end alone, so a name
+// that has none loses its middle.
+QLabel *makeLine(const QString &thing, int room)
+{
+    QLabel *line = new QLabel;
+    line->setObjectName(QLatin1String("thing"));
+    line->setTextFormat(Qt::PlainText);
+    const QFontMetrics metrics = line->fontMetrics();
+    const QStringList words = thing.split(QLatin1Char(' '));
+    const bool isBreakable = std::all_of(words.begin(), words.end(), [&](const QString &word) {
+        return metrics.horizontalAdvance(word) <= room;
+    });
+    line->setWordWrap(isBreakable);
+    line->setText(isBreakable ? thing : metrics.elidedText(thing, Qt::ElideMiddle, room));
+    return line;
+}
+
 int keyWidth(const QPushButton *key)
 {
     return key->fontMetrics().horizontalAdvance(key->text()) + keyPadding;
@@ -65,7 +83,11 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent) : Dial
     text->setObjectName(QLatin1String("question"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
-    column->addWidget(text, 1);
+    column->addWidget(text, question.things.isEmpty() ? 1 : 0);
+    for (const QString &thing : question.things)
+        column->addWidget(makeLine(thing, width - 2 * margin));
+    if (!question.things.isEmpty())
+        column->addStretch(1);
     column->addLayout(makeKeys(question.answers, width - 2 * margin));
     // The keys are always there; what is read gives way.
     for (int pixels = textPixels; pixels >= smallestTextPixels; --pixels) {

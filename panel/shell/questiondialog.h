@@ -9,7 +9,8 @@
 
 class QLayout;
 
-/// A question with keys for gloves: side by side, or one below the other on a narrow panel.
+/// A question with keys for gloves: side by side, or one below the other on a narrow panel. What
+/// the question is about stands between, each thing in a line of its own.
 ///
 /// Return presses the harmless key, and closing the dialog means it.
 class QuestionDialog : public Dialog

@@ -7,7 +7,6 @@
 #include "programs/programsnapshot.h"
 #include "programs/programstate.h"
 #include "screens/downloadquestion.h"
-#include "screens/unsavedquestion.h"
 #include "shell/messagedialog.h"
 #include "shell/messagelog.h"
 #include "shell/panelwindow.h"
@@ -218,13 +217,6 @@ void TestTextFit::measureDialogs(const Measure &measure)
     measureBoxes(measure);
     measureMessages(measure);
 
-    UnsavedQuestion unsaved(
-        {text("UnsavedOffer", "%1, %2, lines: %3").arg(kName, "2026-05-04 14:32", "1000501"),
-         text("UnsavedOffer", "%1, %2, instructions: %3")
-             .arg("program-of-the-second-shift.teach", "2026-05-04 14:32", "99999"),
-         text("UnsavedOffer", "%1, %2, values: %3")
-             .arg(text("UnsavedOffer", "Variables"), "2026-05-04 14:32", "24")});
-    show(&unsaved, "unsaved work", measure);
     ProgramFacts facts;
     facts.name = QLatin1String(kName);
     facts.lines = 1000620;
@@ -282,6 +274,18 @@ void TestTextFit::measureQuestions(const Measure &measure)
          historyWays},
         {"a name of 255 letters", notStored.arg(QString(251, QLatin1Char('x')) + ".cnc", kReason),
          ways},
+        {text("UnsavedOffer", "Unsaved work"),
+         text("UnsavedOffer", "This was not saved when the panel ended. Bring it back?"),
+         {text("UnsavedOffer", "Keep for later"), text("UnsavedOffer", "Bring back"),
+          text("UnsavedOffer", "Throw away")},
+         {text("UnsavedOffer", "%1, %2, lines: %3").arg(kName, "2026-05-04 14:32", "1000501"),
+          text("TeachScreen", "%1, %2, instructions: %3")
+              .arg("program-of-the-second-shift.teach", "2026-05-04 14:32", "99999"),
+          text("VariablesScreen", "%1, %2, values: %3")
+              .arg(text("VariablesScreen", "Variables"), "2026-05-04 14:32", "24")}},
+        {text("UnsavedOffer", "Unsaved work"),
+         text("UnsavedOffer", "Throw the unsaved work away for good?"),
+         {text("UnsavedOffer", "Cancel"), text("UnsavedOffer", "Throw away")}},
     };
     for (const Question &question : questions) {
         QuestionDialog dialog(question);
@@ -301,8 +305,6 @@ void TestTextFit::measureBoxes(const Measure &measure)
                       .arg(kName),
                   kName),
          QMessageBox::Yes | QMessageBox::Cancel},
-        {text("UnsavedQuestion", "Throw the unsaved work away for good?"),
-         QMessageBox::Yes | QMessageBox::No},
         {text("PanelProgram", "Another panel works on the same programs. This one does not start."),
          QMessageBox::Ok},
     };

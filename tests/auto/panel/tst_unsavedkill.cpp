@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "guards/programguard.h"
 #include "programs/programopener.h"
 #include "programs/unsavedoffer.h"
 #include "programs/unsavedstore.h"
@@ -38,6 +39,9 @@ const int sideBySide = 4;
 const qint64 longestLifeMs = 2500;
 const qint64 mostLostMs = 2000;
 const int lines = 3000;
+
+const QLatin1String teach("teach");
+const QLatin1String variables("variables");
 
 enum Subject { Program, Teach, Variables, Subjects };
 
@@ -124,10 +128,12 @@ void Panel::begin()
         return m_timer.start(1);
     if (!ProgramOpener(m_program.programWindow()).open(m_home + "/cnc/coil.cnc"))
         ::_exit(3);
-    m_unsaved.watchProgram(m_program.editor()->document(),
-                           [this] { return UnsavedOffer::headOf(&m_program); });
-    m_unsaved.watchRows(UnsavedOffer::teach(), &m_teach, [] { return KeptHead(); });
-    m_unsaved.watchRows(UnsavedOffer::variables(), &m_variables, [] { return KeptHead(); });
+    m_unsaved.watchProgram(m_program.editor()->document(), [this] {
+        return UnsavedOffer::headOf(m_program.programWindow(),
+                                    m_program.guard()->state().kind == ProgramState::Incomplete);
+    });
+    m_unsaved.watchRows(teach, &m_teach);
+    m_unsaved.watchRows(variables, &m_variables);
     for (Subject subject : {Program, Teach, Variables})
         note(subject);
     disconnect(&m_timer, nullptr, this, nullptr);
@@ -323,8 +329,7 @@ void TestUnsavedKill::judge(const QString &home, qint64 killed)
 
     const QList<UnsavedSession::Pointer> sessions = UnsavedSession::left(home + "/hmi/unsaved");
     QVERIFY(sessions.size() <= 1);
-    const QStringList names{UnsavedWork::program(), UnsavedOffer::teach(),
-                            UnsavedOffer::variables()};
+    const QStringList names{UnsavedWork::program(), teach, variables};
     for (int subject = 0; subject < Subjects; ++subject) {
         std::vector<State> own;
         std::copy_if(states.begin(), states.end(), std::back_inserter(own),

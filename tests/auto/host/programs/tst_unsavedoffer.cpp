@@ -4,29 +4,19 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "guards/programguard.h"
-#include "look/panelkey.h"
 #include "modaldriver.h"
 #include "programs/programopener.h"
 #include "programs/unsavedoffer.h"
 #include "programs/unsavedstore.h"
 #include "programs/unsavedwork.h"
-#include "screens/machinedata.h"
-#include "screens/programscreen.h"
-#include "screens/taughtprogram.h"
-#include "screens/teachscreen.h"
-#include "screens/unsavedquestion.h"
-#include "screens/variablesscreen.h"
-#include "wgcodeediter.h"
-#include "wmmainwindow.h"
+#include "programwindow.h"
+#include "scriptquestioner.h"
+#include "somerows.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
-#include <QPushButton>
 #include <QScopedPointer>
 #include <QSignalSpy>
-#include <QTextDocument>
-#include <QTimer>
 
 #include <sys/stat.h>
 
@@ -40,74 +30,90 @@ private Q_SLOTS:
     void nothingIsAskedWithoutWork();
     void workComesBack();
     void undoGoesNoFurtherThanTheFile();
-    void laterIsOfferedAgain_data();
     void laterIsOfferedAgain();
+    void answerThatIsNoneMeansLater();
     void thrownAwayOnlyWhenAskedTwice_data();
     void thrownAwayOnlyWhenAskedTwice();
+    void slippedThrowAwayAsksTheFirstQuestionAgain();
     void programWhoseFileIsGone();
     void programWhoseFileHasChanged();
     void frontPartOfAProgramBecomesANewOne();
+    void headOfAFrontPartSaysSo();
     void programWithoutAFile();
     void newProgramHasNothingOfTheLastOne();
     void operatorsOwnChangesStay();
+    void operatorsOwnRowsStay();
     void programThatIsLoadedComesFirst();
+    void busyHostIsNotAsked();
+    void rowsThatAreLoadedComeFirst();
     void savedProgramIsNotOffered();
     void newestSessionComesFirst();
     void workThatCannotBeReadIsToldAndPutAside();
     void rowsThatAreNoneAreRefused();
+    void workOfAListThatIsNotHereStays();
     void hangingFolderHoldsNothingUp();
 
+public Q_SLOTS:
+    /// Begins to offer while a program is loaded.
+    void startWhenLongEnough();
+
 private:
+    void keep(const KeptWork &work);
     void keep(const QList<KeptWork> &works);
+    void makeOffer();
     void offer();
+    void answer(int first, int second = 0, int third = 0);
+    QStringList lines(int question = 0) const;
     QStringList sessions() const;
-    QString text() const;
+    QString told(int number) const;
+    QString text() const { return m_program->text(); }
+    bool isModified() const { return m_program->isModified(); }
+    QString openFile() const { return m_program->window()->getCurrentFile(); }
 
     QString m_folder;
-    MachineData *m_machine = nullptr;
-    ProgramScreen *m_program = nullptr;
-    TeachScreen *m_teach = nullptr;
-    VariablesScreen *m_variables = nullptr;
-    UnsavedWork *m_work = nullptr;
+    QScopedPointer<ProgramWindow> m_program;
+    QScopedPointer<SomeRows> m_teach;
+    QScopedPointer<SomeRows> m_variables;
+    QScopedPointer<UnsavedWork> m_work;
+    QScopedPointer<ScriptQuestioner> m_questioner;
     QScopedPointer<UnsavedOffer> m_offer;
-    QStringList m_told;
+    QScopedPointer<QSignalSpy> m_told;
+    QScopedPointer<QSignalSpy> m_ended;
+    bool m_isBusy = false;
+    int m_newPrograms = 0;
 };
+
+enum Answer { Later, BringBack, ThrowAway };
 
 void TestUnsavedOffer::init()
 {
     FilarixTest::init();
     DeviceLog::reset();
     qRegisterMetaType<Message::Tone>("Message::Tone");
-    const QString own = home() + "/hmi";
-    m_folder = own + "/unsaved";
-    QVERIFY(QDir().mkpath(home() + "/plc"));
-    m_machine = new MachineData;
-    m_program = new ProgramScreen(90, home() + "/plc", own, m_machine);
-    m_teach = new TeachScreen(QSize(480, 800), own, m_machine);
-    m_variables = new VariablesScreen(QSize(480, 800), own);
-    m_work = new UnsavedWork(m_folder);
+    m_folder = home() + "/hmi/unsaved";
+    m_isBusy = false;
+    m_newPrograms = 0;
+    m_program.reset(new ProgramWindow);
+    m_teach.reset(new SomeRows);
+    m_teach->path = home() + "/hmi/program.teach";
+    m_variables.reset(new SomeRows);
+    m_variables->show(QStringList() << "one"
+                                    << "two");
+    m_variables->store();
+    m_questioner.reset(new ScriptQuestioner);
+    m_work.reset(new UnsavedWork(m_folder));
     m_work->setDelay(50);
-    m_work->watchProgram(m_program->editor()->document(),
-                         [this] { return UnsavedOffer::headOf(m_program); });
-    m_work->watchRows("teach", m_teach, [this] {
-        KeptHead head;
-        head.path = m_teach->filePath();
-        return head;
-    });
-    m_work->watchRows("variables", m_variables, [] { return KeptHead(); });
-    m_told.clear();
-    QTRY_VERIFY(!m_teach->isLoading());
-    QTRY_VERIFY(!m_variables->isLoading());
+    m_work->watchProgram(m_program->document(),
+                         [this] { return UnsavedOffer::headOf(m_program->window(), false); });
+    m_work->watchRows("teach", m_teach.data());
+    m_work->watchRows("variables", m_variables.data());
 }
 
 void TestUnsavedOffer::cleanup()
 {
     m_offer.reset();
-    delete m_work;
-    delete m_variables;
-    delete m_teach;
-    delete m_program;
-    delete m_machine;
+    m_work.reset();
+    m_program.reset();
     FilarixTest::cleanup();
 }
 
@@ -119,15 +125,41 @@ void TestUnsavedOffer::keep(const QList<KeptWork> &works)
         QVERIFY2(store.keep(work), qPrintable(store.errorString()));
 }
 
+void TestUnsavedOffer::keep(const KeptWork &work)
+{
+    keep(QList<KeptWork>() << work);
+}
+
+void TestUnsavedOffer::makeOffer()
+{
+    m_offer.reset(new UnsavedOffer(m_folder, m_work.data(), m_questioner.data()));
+    UnsavedOffer::Program program;
+    program.window = m_program->window();
+    program.isBusy = [this] { return m_isBusy; };
+    program.noteNew = [this] { ++m_newPrograms; };
+    m_offer->setProgram(program);
+    m_offer->addRows("teach", m_teach.data());
+    m_offer->addRows("variables", m_variables.data());
+    m_told.reset(new QSignalSpy(m_offer.data(), SIGNAL(told(QString, Message::Tone, QString))));
+    m_ended.reset(new QSignalSpy(m_offer.data(), SIGNAL(ended())));
+}
+
 /// Looks and asks; back when all was answered.
 void TestUnsavedOffer::offer()
 {
-    m_offer.reset(new UnsavedOffer(m_folder, {m_program, m_teach, m_variables}, m_work));
-    connect(m_offer.data(), &UnsavedOffer::told, this,
-            [this](const QString &text) { m_told.append(text); });
-    QSignalSpy ended(m_offer.data(), SIGNAL(ended()));
+    makeOffer();
     m_offer->start();
-    QTRY_COMPARE(ended.size(), 1);
+    QTRY_COMPARE(m_ended->size(), 1);
+}
+
+void TestUnsavedOffer::answer(int first, int second, int third)
+{
+    m_questioner->answers = QList<int>() << first << second << third;
+}
+
+QStringList TestUnsavedOffer::lines(int question) const
+{
+    return m_questioner->asked.value(question).things;
 }
 
 QStringList TestUnsavedOffer::sessions() const
@@ -135,9 +167,9 @@ QStringList TestUnsavedOffer::sessions() const
     return QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
 }
 
-QString TestUnsavedOffer::text() const
+QString TestUnsavedOffer::told(int number) const
 {
-    return m_program->editor()->document()->toRawText().replace(QChar::ParagraphSeparator, '\n');
+    return m_told->value(number).value(0).toString();
 }
 
 static KeptWork work(const QString &subject, const QString &path)
@@ -158,124 +190,89 @@ static KeptWork program(const QString &text, const QString &name = QString("coil
     return kept;
 }
 
-static void press(ModalDriver *driver, const char *key, QStringList *lines = nullptr)
+static KeptWork rows(const QString &subject, const QString &path, const QStringList &values)
 {
-    driver->then([key, lines](QWidget *dialog) {
-        const QList<QLabel *> labels = dialog->findChildren<QLabel *>("work");
-        for (QLabel *label : labels) {
-            if (lines)
-                lines->append(label->text());
-        }
-        QTest::mouseClick(dialog->findChild<QPushButton *>(key), Qt::LeftButton);
-    });
-}
-
-/// The same for the question alone: the program is opened through a dialog that nobody sees, and a
-/// ModalDriver would answer that one, too.
-static void pressOnce(QObject *owner, const char *key, QStringList *lines = nullptr)
-{
-    QTimer *timer = new QTimer(owner);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, key, lines] {
-        UnsavedQuestion *question =
-            qobject_cast<UnsavedQuestion *>(QApplication::activeModalWidget());
-        if (!question)
-            return;
-        timer->deleteLater();
-        timer->stop();
-        const QList<QLabel *> labels = question->findChildren<QLabel *>("work");
-        for (QLabel *label : labels) {
-            if (lines)
-                lines->append(label->text());
-        }
-        QTest::mouseClick(question->findChild<QPushButton *>(key), Qt::LeftButton);
-    });
-    timer->start(1);
+    SomeRows some;
+    some.show(values);
+    KeptWork kept = work(subject, path);
+    kept.rows = some.rows();
+    return kept;
 }
 
 void TestUnsavedOffer::nothingIsAskedWithoutWork()
 {
-    ModalDriver driver;
     offer();
-    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(m_questioner->asked.isEmpty());
     QVERIFY(!QFileInfo(m_folder).exists());
-    QVERIFY(m_told.isEmpty());
+    QVERIFY(m_told->isEmpty());
 }
 
 void TestUnsavedOffer::workComesBack()
 {
     writeFile(programDir() + "/coil.cnc", "G01 X1\nG01 X2\n");
-    KeptWork taught = work("teach", m_teach->filePath());
-    taught.rows = TaughtProgram::sample(*m_machine).mid(0, 5);
-    KeptWork variables = work("variables", QString());
-    variables.rows = m_variables->rows();
-    variables.rows[3].last() = "4711";
-    keep({program("G01 X1\nG04\nG01 X2\n"), taught, variables});
+    const QString taughtPath = home() + "/hmi/other.teach";
+    const KeptWork taught = rows("teach", taughtPath,
+                                 QStringList() << "1"
+                                               << "2"
+                                               << "3");
+    const KeptWork variables = rows("variables", QString(), QStringList() << "4711");
+    keep(QList<KeptWork>() << program("G01 X1\nG04\nG01 X2\n") << taught << variables);
     const QString old = sessions().first();
-    QStringList lines;
-    pressOnce(this, "bringBack", &lines);
+    answer(BringBack);
     offer();
-    QCOMPARE(lines, QStringList() << "coil.cnc, 2026-03-04 12:31, lines: 4"
-                                  << "program.teach, 2026-03-04 12:31, instructions: 5"
-                                  << QString("Variables, 2026-03-04 12:31, values: %1")
-                                         .arg(variables.rows.size()));
+    QCOMPARE(m_questioner->asked.size(), 1);
+    QCOMPARE(m_questioner->asked.first().answers.size(), 3);
+    QCOMPARE(lines(), QStringList() << "coil.cnc, 2026-03-04 12:31, lines: 4"
+                                    << "other.teach, 2026-03-04 12:31, rows: 3"
+                                    << "New program, 2026-03-04 12:31, rows: 1");
     QCOMPARE(text(), QString("G01 X1\nG04\nG01 X2\n"));
-    QCOMPARE(m_program->programWindow()->getCurrentFile(), programDir() + "/coil.cnc");
-    QCOMPARE(m_program->title(), QString("coil.cnc"));
-    QVERIFY(m_program->hasChanges());
+    QCOMPARE(openFile(), QString(programDir() + "/coil.cnc"));
+    QVERIFY(isModified());
     QCOMPARE(m_program->editor()->textCursor().position(), 2);
-    QCOMPARE(m_teach->rows(), taught.rows);
-    QVERIFY(m_teach->hasChanges());
-    QCOMPARE(m_variables->rows(), variables.rows);
-    QVERIFY(m_variables->hasChanges());
-    QCOMPARE(m_told.size(), 3);
+    QVERIFY(m_teach->rows() == taught.rows);
+    QCOMPARE(m_teach->path, taughtPath);
+    QVERIFY(m_variables->rows() == variables.rows);
+    QCOMPARE(m_told->size(), 3);
+    QCOMPARE(m_newPrograms, 0);
     // Kept by this run, and by this run alone.
     QCOMPARE(sessions().size(), 1);
     QVERIFY(!sessions().contains(old));
-    QCOMPARE(QDir(m_folder + '/' + sessions().first()).entryList({"*.kept"}).size(), 3);
-    // The files are as they were.
+    QCOMPARE(QDir(m_folder + '/' + sessions().first()).entryList(QStringList("*.kept")).size(), 3);
+    // The file is as it was.
     QCOMPARE(readFile(programDir() + "/coil.cnc"), QByteArray("G01 X1\nG01 X2\n"));
-    QVERIFY(!QFileInfo(m_teach->filePath()).exists());
 }
 
 void TestUnsavedOffer::undoGoesNoFurtherThanTheFile()
 {
     writeFile(programDir() + "/coil.cnc", QByteArray("G01 X1\n").repeated(600));
     const QString text = QString("G01 X1\n").repeated(599);
-    keep({program(text + "M30\n")});
-    pressOnce(this, "bringBack");
+    keep(program(text + "M30\n"));
+    answer(BringBack);
     offer();
-    QCOMPARE(this->text(), text + "M30\n");
+    QCOMPARE(this->text(), QString(text + "M30\n"));
     for (int i = 0; i < 100; ++i)
         m_program->editor()->undo();
     QVERIFY(this->text().startsWith(text));
 }
 
-void TestUnsavedOffer::laterIsOfferedAgain_data()
-{
-    QTest::addColumn<QString>("how");
-    for (const char *how : {"key", "closed", "Return"})
-        QTest::newRow(how) << QString(how);
-}
-
 void TestUnsavedOffer::laterIsOfferedAgain()
 {
-    QFETCH(QString, how);
-    keep({program("G01\n")});
-    for (int i = 0; i < 2; ++i) {
-        ModalDriver driver;
-        driver.then([how](QWidget *dialog) {
-            if (how == "key")
-                QTest::mouseClick(dialog->findChild<QPushButton *>("later"), Qt::LeftButton);
-            else if (how == "closed")
-                dialog->close();
-            else
-                QTest::keyClick(dialog, Qt::Key_Return);
-        });
+    keep(program("G01\n"));
+    for (int i = 1; i <= 2; ++i) {
         offer();
-        QVERIFY2(driver.finished(), driver.report());
+        QCOMPARE(m_questioner->asked.size(), i);
         QCOMPARE(sessions().size(), 1);
         QCOMPARE(text(), QString());
     }
+}
+
+void TestUnsavedOffer::answerThatIsNoneMeansLater()
+{
+    keep(program("G01\n"));
+    answer(7);
+    offer();
+    QCOMPARE(sessions().size(), 1);
+    QCOMPARE(text(), QString());
 }
 
 void TestUnsavedOffer::thrownAwayOnlyWhenAskedTwice_data()
@@ -288,17 +285,10 @@ void TestUnsavedOffer::thrownAwayOnlyWhenAskedTwice_data()
 void TestUnsavedOffer::thrownAwayOnlyWhenAskedTwice()
 {
     QFETCH(bool, isMeant);
-    keep({program("G01\n")});
-    ModalDriver driver;
-    driver.then([](QWidget *dialog) {
-        QTimer::singleShot(0, dialog->findChild<QPushButton *>("throwAway"), &QPushButton::click);
-    });
-    driver.press(isMeant ? QMessageBox::Yes : QMessageBox::No);
-    if (!isMeant)
-        driver.reject();
+    keep(program("G01\n"));
+    answer(ThrowAway, isMeant ? 1 : 0, Later);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(driver.boxes().first().defaultButton, QMessageBox::No);
+    QVERIFY(m_questioner->asked.at(1).text.contains("for good"));
     if (isMeant)
         QTRY_VERIFY(sessions().isEmpty());
     else
@@ -306,31 +296,40 @@ void TestUnsavedOffer::thrownAwayOnlyWhenAskedTwice()
     QCOMPARE(text(), QString());
 }
 
+void TestUnsavedOffer::slippedThrowAwayAsksTheFirstQuestionAgain()
+{
+    keep(program("G01\n"));
+    answer(ThrowAway, 0, BringBack);
+    offer();
+    QCOMPARE(m_questioner->asked.size(), 3);
+    QCOMPARE(lines(2), lines(0));
+    QCOMPARE(text(), QString("G01\n"));
+}
+
 void TestUnsavedOffer::programWhoseFileIsGone()
 {
-    keep({program("G01\n")});
-    ModalDriver driver;
-    press(&driver, "bringBack");
+    keep(program("G01\n"));
+    answer(BringBack);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(text(), QString("G01\n"));
-    QVERIFY(m_program->hasChanges());
-    QVERIFY(m_program->programWindow()->getCurrentFile().isEmpty());
-    QCOMPARE(m_told.size(), 1);
-    QVERIFY(m_told.first().contains("coil.cnc is not there any more"));
+    QVERIFY(isModified());
+    QVERIFY(openFile().isEmpty());
+    QCOMPARE(m_newPrograms, 1);
+    QCOMPARE(m_told->size(), 1);
+    QVERIFY(told(0).contains("coil.cnc is not there any more"));
     QVERIFY(!QFileInfo(programDir() + "/coil.cnc").exists());
 }
 
 void TestUnsavedOffer::programWhoseFileHasChanged()
 {
     writeFile(programDir() + "/coil.cnc", "G01\n");
-    keep({program("G02\n")});
+    keep(program("G02\n"));
     writeFile(programDir() + "/coil.cnc", "G03 by somebody else\n");
-    pressOnce(this, "bringBack");
+    answer(BringBack);
     offer();
     QCOMPARE(text(), QString("G02\n"));
-    QVERIFY(m_program->hasChanges());
-    QVERIFY(m_told.first().contains("The file has changed"));
+    QVERIFY(isModified());
+    QVERIFY(told(0).contains("The file has changed"));
     QCOMPARE(readFile(programDir() + "/coil.cnc"), QByteArray("G03 by somebody else\n"));
 }
 
@@ -339,115 +338,161 @@ void TestUnsavedOffer::frontPartOfAProgramBecomesANewOne()
 {
     writeFile(programDir() + "/coil.cnc", "G01\nG02\nG03\n");
     KeptWork kept = program("G01\nx");
-    kept.head.state.insert("incomplete", QString());
-    keep({kept});
-    ModalDriver driver;
-    press(&driver, "bringBack");
+    kept.head.state = UnsavedOffer::headOf(m_program->window(), true).state;
+    keep(kept);
+    answer(BringBack);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(text(), QString("G01\nx"));
-    QVERIFY(m_program->programWindow()->getCurrentFile().isEmpty());
-    QVERIFY(m_told.first().contains("had not been loaded whole"));
+    QVERIFY(openFile().isEmpty());
+    QVERIFY(told(0).contains("had not been loaded whole"));
+}
+
+void TestUnsavedOffer::headOfAFrontPartSaysSo()
+{
+    writeFile(programDir() + "/coil.cnc", "G01\n");
+    QVERIFY(ProgramOpener(m_program->window()).open(programDir() + "/coil.cnc"));
+    m_program->editor()->moveCursor(QTextCursor::End);
+    const KeptHead whole = UnsavedOffer::headOf(m_program->window(), false);
+    QCOMPARE(whole.path, QString(programDir() + "/coil.cnc"));
+    QCOMPARE(whole.cursor, 4);
+    QVERIFY(whole.state.isEmpty());
+    QVERIFY(!UnsavedOffer::headOf(m_program->window(), true).state.isEmpty());
 }
 
 void TestUnsavedOffer::programWithoutAFile()
 {
-    keep({program("G01\n", QString())});
-    QStringList lines;
-    ModalDriver driver;
-    press(&driver, "bringBack", &lines);
+    keep(program("G01\n", QString()));
+    answer(BringBack);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QVERIFY(lines.first().startsWith("New program, "));
+    QVERIFY(lines().first().startsWith("New program, "));
     QCOMPARE(text(), QString("G01\n"));
-    QVERIFY(m_program->hasChanges());
+    QVERIFY(isModified());
 }
 
 void TestUnsavedOffer::newProgramHasNothingOfTheLastOne()
 {
+    ScriptQuestioner none;
+    ProgramGuard guard(m_program->window(), programDir(), &none);
     writeFile(programDir() + "/coil.cnc", QByteArray("G01 X1 ; comment\n\n").repeated(600));
-    ProgramOpener opener(m_program->programWindow(),
-                         [this] { return m_program->guard()->isBusy(); });
+    ProgramOpener opener(m_program->window(), [&guard] { return guard.isBusy(); });
     QVERIFY(opener.open(programDir() + "/coil.cnc"));
-    QCOMPARE(int(m_program->guard()->state().kind), int(ProgramState::Cleaned));
-    keep({program("G99\n", QString())});
-    pressOnce(this, "bringBack");
-    offer();
+    QCOMPARE(int(guard.state().kind), int(ProgramState::Cleaned));
+    keep(program("G99\n", QString()));
+    answer(BringBack);
+    makeOffer();
+    UnsavedOffer::Program program;
+    program.window = m_program->window();
+    program.isBusy = [&guard] { return guard.isBusy(); };
+    program.noteNew = [&guard] { guard.noteNewProgram(); };
+    m_offer->setProgram(program);
+    m_offer->start();
+    QTRY_COMPARE(m_ended->size(), 1);
     QCOMPARE(text(), QString("G99\n"));
-    QCOMPARE(int(m_program->guard()->state().kind), int(ProgramState::Plain));
+    QCOMPARE(int(guard.state().kind), int(ProgramState::Plain));
+    m_offer.reset();
 }
 
 // The operator was faster than the question, and does not want to lose that.
 void TestUnsavedOffer::operatorsOwnChangesStay()
 {
     writeFile(programDir() + "/coil.cnc", "G01\n");
-    ProgramOpener opener(m_program->programWindow(),
-                         [this] { return m_program->guard()->isBusy(); });
-    QVERIFY(opener.open(programDir() + "/coil.cnc"));
-    keep({program("G02\n")});
-    m_program->programWindow()->insertLine("G99");
+    QVERIFY(ProgramOpener(m_program->window()).open(programDir() + "/coil.cnc"));
+    keep(program("G02\n"));
+    m_program->window()->insertLine("G99");
     const QString own = text();
+    answer(BringBack);
     ModalDriver driver;
-    press(&driver, "bringBack");
     driver.press(QMessageBox::Cancel);
     offer();
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(text(), own);
-    QVERIFY(m_program->editor()->document()->isUndoAvailable());
-    QVERIFY(m_told.first().contains("coil.cnc was not brought back"));
+    QVERIFY(m_program->document()->isUndoAvailable());
+    QVERIFY(told(0).contains("coil.cnc was not brought back"));
     m_offer.reset();
     // Both are there: this run's, and the one of before.
     QTRY_COMPARE(sessions().size(), 2);
+}
+
+void TestUnsavedOffer::operatorsOwnRowsStay()
+{
+    keep(rows("variables", QString(), QStringList("4711")));
+    m_variables->show(QStringList("own"));
+    const QList<QStringList> own = m_variables->rows();
+    answer(BringBack);
+    offer();
+    QVERIFY(m_variables->rows() == own);
+    QVERIFY(told(0).contains("was not brought back"));
+}
+
+void TestUnsavedOffer::startWhenLongEnough()
+{
+    if (m_program->document()->blockCount() < 1000)
+        return;
+    disconnect(m_program->document(), SIGNAL(contentsChanged()), this, nullptr);
+    m_offer->start();
 }
 
 // What is brought back into a program that is being loaded would be mixed with it, and dropped.
 void TestUnsavedOffer::programThatIsLoadedComesFirst()
 {
     writeFile(programDir() + "/long.cnc", QByteArray("G01 X1\n").repeated(100000));
-    keep({program("G99\n", QString())});
-    m_offer.reset(new UnsavedOffer(m_folder, {m_program, m_teach, m_variables}, m_work));
-    QSignalSpy ended(m_offer.data(), SIGNAL(ended()));
-    QTextDocument *document = m_program->editor()->document();
-    QMetaObject::Connection loading;
-    loading = connect(document, &QTextDocument::contentsChanged, this, [&] {
-        if (document->blockCount() < 1000)
-            return;
-        disconnect(loading);
-        m_offer->start();
-    });
-    pressOnce(this, "bringBack");
-    ProgramOpener opener(m_program->programWindow(),
-                         [this] { return m_program->guard()->isBusy(); });
-    opener.open(programDir() + "/long.cnc");
-    QTRY_COMPARE(ended.size(), 1);
+    keep(program("G99\n", QString()));
+    makeOffer();
+    connect(m_program->document(), SIGNAL(contentsChanged()), this, SLOT(startWhenLongEnough()));
+    answer(BringBack);
+    ProgramOpener(m_program->window()).open(programDir() + "/long.cnc");
+    QTRY_COMPARE(m_ended->size(), 1);
     QCOMPARE(text(), QString("G99\n"));
-    QVERIFY(m_program->hasChanges());
-    QVERIFY(m_program->programWindow()->getCurrentFile().isEmpty());
+    QVERIFY(isModified());
+    QVERIFY(openFile().isEmpty());
+}
+
+void TestUnsavedOffer::busyHostIsNotAsked()
+{
+    keep(program("G01\n"));
+    m_isBusy = true;
+    makeOffer();
+    m_offer->start();
+    // Longer than it takes to look, and to look again.
+    QTest::qWait(400);
+    QVERIFY(m_questioner->asked.isEmpty());
+    m_isBusy = false;
+    QTRY_COMPARE(m_ended->size(), 1);
+    QCOMPARE(m_questioner->asked.size(), 1);
+}
+
+void TestUnsavedOffer::rowsThatAreLoadedComeFirst()
+{
+    keep(rows("teach", home() + "/hmi/program.teach", QStringList("1")));
+    m_teach->isToCome = true;
+    makeOffer();
+    m_offer->start();
+    QTest::qWait(400);
+    QVERIFY(m_questioner->asked.isEmpty());
+    m_teach->isToCome = false;
+    QTRY_COMPARE(m_ended->size(), 1);
+    QCOMPARE(m_questioner->asked.size(), 1);
 }
 
 void TestUnsavedOffer::savedProgramIsNotOffered()
 {
     writeFile(programDir() + "/coil.cnc", "G01\n");
-    keep({program("G01\n")});
-    ModalDriver driver;
+    keep(program("G01\n"));
     offer();
-    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(m_questioner->asked.isEmpty());
     QVERIFY(sessions().isEmpty());
 }
 
 void TestUnsavedOffer::newestSessionComesFirst()
 {
-    keep({program("G01\n", "one.cnc")});
+    keep(program("G01\n", "one.cnc"));
+    // Sessions are told apart by the millisecond.
     QTest::qWait(5);
-    keep({program("G02\n", "two.cnc")});
+    keep(program("G02\n", "two.cnc"));
     QCOMPARE(sessions().size(), 2);
-    QStringList lines;
-    ModalDriver driver;
-    press(&driver, "later", &lines);
-    press(&driver, "bringBack", &lines);
+    answer(Later, BringBack);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QVERIFY(lines.first().startsWith("two.cnc"));
+    QVERIFY(lines().first().startsWith("two.cnc"));
     QCOMPARE(text(), QString("G01\n"));
     // The one that waits, and the one that this run keeps.
     QCOMPARE(sessions().size(), 2);
@@ -455,68 +500,70 @@ void TestUnsavedOffer::newestSessionComesFirst()
 
 void TestUnsavedOffer::workThatCannotBeReadIsToldAndPutAside()
 {
-    KeptWork variables = work("variables", QString());
-    variables.rows = m_variables->rows();
-    variables.rows[0].last() = "4711";
-    keep({program("G01\n"), variables});
+    const KeptWork variables = rows("variables", QString(), QStringList("4711"));
+    keep(QList<KeptWork>() << program("G01\n") << variables);
     const QString path = m_folder + '/' + sessions().first() + "/program.kept";
     QByteArray bytes = readFile(path);
     bytes[bytes.size() / 2] = char(~bytes.at(bytes.size() / 2));
     writeFile(path, bytes);
-    ModalDriver driver;
-    press(&driver, "bringBack");
+    answer(BringBack);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(m_told.size(), 2);
-    QVERIFY(m_told.first().contains("program.unreadable"));
+    QCOMPARE(m_told->size(), 2);
+    QVERIFY(told(0).contains("program.unreadable"));
     QCOMPARE(readFile(QString(path).replace(".kept", ".unreadable")), bytes);
-    QVERIFY(m_variables->hasChanges());
+    QVERIFY(m_variables->rows() == variables.rows);
     // Told once.
-    m_told.clear();
-    ModalDriver second;
     offer();
-    QVERIFY2(second.finished(), second.report());
-    QVERIFY(m_told.isEmpty());
+    QVERIFY(m_told->isEmpty());
 }
 
 void TestUnsavedOffer::rowsThatAreNoneAreRefused()
 {
     KeptWork taught = work("teach", "/etc/passwd");
-    taught.rows = {{"MJ"}};
-    KeptWork variables = work("variables", QString());
-    variables.rows = {{}, {"DataEditor", "1", "", "no such variable", "1"}};
-    keep({taught, variables});
-    const QList<QStringList> before = m_teach->rows();
-    ModalDriver driver;
-    press(&driver, "bringBack");
+    taught.rows << QStringList();
+    keep(taught);
+    const QString path = m_teach->path;
+    answer(BringBack);
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(m_teach->rows(), before);
-    QVERIFY(!m_teach->hasChanges());
-    QVERIFY(!m_variables->hasChanges());
-    QCOMPARE(m_told.size(), 2);
+    QVERIFY(m_teach->rows().isEmpty());
+    QCOMPARE(m_teach->path, path);
+    QCOMPARE(m_told->size(), 1);
     QCOMPARE(sessions().size(), 1);
+}
+
+// A host that has another program started in its place must not lose what that one keeps.
+void TestUnsavedOffer::workOfAListThatIsNotHereStays()
+{
+    keep(QList<KeptWork>() << program("G01\n") << rows("elsewhere", QString(), QStringList("1")));
+    answer(ThrowAway, 1);
+    offer();
+    QCOMPARE(lines().size(), 1);
+    const QString folder = m_folder + '/' + sessions().first();
+    QTRY_VERIFY(!QFileInfo(folder + "/program.kept").exists());
+    QVERIFY(QFileInfo(folder + "/elsewhere.kept").exists());
+    m_questioner->asked.clear();
+    offer();
+    QVERIFY(m_questioner->asked.isEmpty());
+    QVERIFY(QFileInfo(folder + "/elsewhere.kept").exists());
 }
 
 // A pipe in the place of the folder, and one in the place of a file.
 void TestUnsavedOffer::hangingFolderHoldsNothingUp()
 {
-    keep({program("G01\n")});
+    keep(program("G01\n"));
     const QByteArray path =
         QFile::encodeName(m_folder + '/' + sessions().first() + "/program.kept");
     QVERIFY(QFile::remove(QFile::decodeName(path)));
     QCOMPARE(::mkfifo(path.constData(), 0600), 0);
-    ModalDriver driver;
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(m_told.size(), 1);
+    QCOMPARE(m_told->size(), 1);
     m_offer.reset();
-    QVERIFY(QDir(m_folder).removeRecursively());
+    emptyFolder(m_folder);
+    QVERIFY(QDir().rmdir(m_folder));
     QCOMPARE(::mkfifo(QFile::encodeName(m_folder).constData(), 0600), 0);
-    m_told.clear();
     offer();
-    QVERIFY2(driver.finished(), driver.report());
-    QVERIFY(m_told.isEmpty());
+    QVERIFY(m_questioner->asked.isEmpty());
+    QVERIFY(m_told->isEmpty());
 }
 
 FILARIX_TEST_MAIN(TestUnsavedOffer)

@@ -8,47 +8,21 @@
 #include "programs/programopener.h"
 #include "programs/unsavedstore.h"
 #include "programs/unsavedwork.h"
-#include "screens/listscreen.h"
-#include "tlistwidget.h"
-#include "wgcodeediter.h"
-#include "wmmainwindow.h"
+#include "programwindow.h"
+#include "somerows.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTextDocument>
-#include <QToolButton>
+#include <QTimer>
 
 #include <csignal>
 #include <ctime>
 
 #include <sys/resource.h>
-
-/// A list of the host's with one kind of change: rows that are others than the stored ones.
-class SomeList : public ListScreen
-{
-    Q_OBJECT
-
-public:
-    SomeList() : ListScreen(QSize(480, 800), QStringList(), 4, nullptr) {}
-
-    QString title() const override { return QString(); }
-    bool hasChanges() const override { return m_hasChanges; }
-    void refreshStatus() override { m_hasChanges = rows() != m_stored; }
-    void show(const QStringList &values)
-    {
-        QList<QStringList> rows;
-        for (const QString &value : values)
-            rows.append({"DataEditor", "1", "", "name", value});
-        setRows(rows);
-    }
-    void store() { m_stored = rows(); }
-
-private:
-    QList<QStringList> m_stored;
-    bool m_hasChanges = false;
-};
 
 class TestUnsavedWork : public FilarixTest
 {
@@ -81,11 +55,12 @@ private:
     KeptWork kept(const QString &subject = QString("program")) const;
     bool isKept() const;
     QStringList sessions() const;
-    QString text() const;
+    QString text() const { return m_program->text(); }
     void type(const QString &text);
     void replaceAll(const QString &from, const QString &to);
 
     QString m_folder;
+    QScopedPointer<ProgramWindow> m_program;
     WMMainWindow *m_window = nullptr;
     WGCodeEditer *m_editor = nullptr;
     UnsavedWork *m_work = nullptr;
@@ -102,8 +77,9 @@ void TestUnsavedWork::init()
     qRegisterMetaType<Message::Tone>("Message::Tone");
     m_folder = home() + "/hmi/unsaved";
     m_mayDrop = true;
-    m_window = new WMMainWindow(nullptr, 90);
-    m_editor = m_window->findChild<WGCodeEditer *>();
+    m_program.reset(new ProgramWindow);
+    m_window = m_program->window();
+    m_editor = m_program->editor();
     m_work = new UnsavedWork(m_folder);
     m_work->watchProgram(
         m_editor->document(),
@@ -120,13 +96,7 @@ void TestUnsavedWork::init()
 void TestUnsavedWork::cleanup()
 {
     delete m_work;
-    delete m_window;
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (QWidget *widget : topLevels) {
-        // The program window leaves the buttons that no bar takes to nobody.
-        if (qobject_cast<QToolButton *>(widget))
-            delete widget;
-    }
+    m_program.reset();
     FilarixTest::cleanup();
 }
 
@@ -165,11 +135,6 @@ KeptWork TestUnsavedWork::kept(const QString &subject) const
 bool TestUnsavedWork::isKept() const
 {
     return kept().text == text() && !kept().subject.isEmpty();
-}
-
-QString TestUnsavedWork::text() const
-{
-    return m_editor->document()->toRawText().replace(QChar::ParagraphSeparator, '\n');
 }
 
 void TestUnsavedWork::type(const QString &text)
@@ -419,9 +384,9 @@ static qint64 bytesOfThisProcess()
 // Event descriptors of threads are written to as well, a few bytes each.
 void TestUnsavedWork::idlePanelWritesNothing()
 {
-    SomeList list;
+    SomeRows list;
     list.show({"one", "two"});
-    m_work->watchRows("teach", &list, [] { return KeptHead(); });
+    m_work->watchRows("teach", &list);
     open("G01 X1\n");
     type("x");
     QTRY_VERIFY(isKept());
@@ -513,19 +478,18 @@ void TestUnsavedWork::longProgramHoldsNobodyUp()
 
 void TestUnsavedWork::rowsAreKept()
 {
-    SomeList list;
+    SomeRows list;
     list.show({"one", "two"});
     list.store();
-    KeptHead head;
-    head.path = "/somewhere/program.teach";
-    m_work->watchRows("teach", &list, [head] { return head; });
+    list.path = "/somewhere/program.teach";
+    m_work->watchRows("teach", &list);
     QElapsedTimer time;
     for (const QStringList &values : {QStringList{"one", "2"}, QStringList{"1", "2", "3"}}) {
         time.start();
         list.show(values);
         QTRY_COMPARE(kept("teach").rows, list.rows());
         QVERIFY(time.elapsed() < patience(2000));
-        QCOMPARE(kept("teach").head.path, head.path);
+        QCOMPARE(kept("teach").head.path, list.path);
     }
     list.store();
     QTRY_VERIFY(sessions().isEmpty());
@@ -563,8 +527,8 @@ void TestUnsavedWork::fullDiskIsToldOnceAndOvercome()
 
 void TestUnsavedWork::flushKeepsWhatWasJustTyped()
 {
-    SomeList list;
-    m_work->watchRows("teach", &list, [] { return KeptHead(); });
+    SomeRows list;
+    m_work->watchRows("teach", &list);
     list.store();
     open(QByteArray("G01 X1\n").repeated(50000));
     m_work->setDelay(60 * 1000);
@@ -580,8 +544,8 @@ void TestUnsavedWork::flushKeepsWhatWasJustTyped()
 
 void TestUnsavedWork::givenUpWorkLeavesNothing()
 {
-    SomeList list;
-    m_work->watchRows("teach", &list, [] { return KeptHead(); });
+    SomeRows list;
+    m_work->watchRows("teach", &list);
     open("G01 X1\n");
     type("x");
     list.show({"one"});

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void screenIsUpWhileItsFileHangs();
     void storeAtTheEndWaitsForTheDisk();
     void closingWithChangesAsks();
+    void rowsThatAreBroughtBackAreChanges();
+    void rowsThatAreNoneAreNotBroughtBack();
 
 private:
     PanelKey *key(const QString &text, int nth = 0) const;
@@ -580,6 +582,30 @@ void TestTeachScreen::closingWithChangesAsks()
     QVERIFY(m_screen->mayClose());
     QVERIFY(m_screen->mayClose());
     QVERIFY2(driver.finished(), driver.report());
+}
+
+void TestTeachScreen::rowsThatAreBroughtBackAreChanges()
+{
+    const QList<QStringList> rows = TaughtProgram::sample(*m_machine).mid(0, 5);
+    const QString path = home() + "/teach/other.teach";
+    QVERIFY(m_screen->bringBack(path, rows));
+    QCOMPARE(m_screen->rows(), rows);
+    QCOMPARE(m_screen->filePath(), path);
+    QVERIFY(m_screen->hasChanges());
+    QVERIFY(m_screen->lookForChanges());
+    const QString name = m_screen->nameOf(path);
+    QCOMPARE(name, QString("other.teach"));
+    QCOMPARE(m_screen->describe(name, "12:31", 5), QString("other.teach, 12:31, instructions: 5"));
+}
+
+void TestTeachScreen::rowsThatAreNoneAreNotBroughtBack()
+{
+    const QList<QStringList> before = m_screen->rows();
+    const QString path = m_screen->filePath();
+    QVERIFY(!m_screen->bringBack("/etc/passwd", {{"MJ"}}));
+    QCOMPARE(m_screen->rows(), before);
+    QCOMPARE(m_screen->filePath(), path);
+    QVERIFY(!m_screen->lookForChanges());
 }
 
 FILARIX_TEST_MAIN(TestTeachScreen)

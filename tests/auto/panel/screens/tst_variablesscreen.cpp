@@ -27,6 +27,8 @@ private Q_SLOTS:
     void screenIsUpWhileItsFileHangs();
     void failedStoreIsAnAlarm();
     void closingWithChangesAsks();
+    void rowsThatAreBroughtBackAreChanges();
+    void rowsThatAreNoneAreNotBroughtBack();
 };
 
 void TestVariablesScreen::init()
@@ -195,6 +197,31 @@ void TestVariablesScreen::closingWithChangesAsks()
     driver.press(QMessageBox::Discard);
     QVERIFY(screen.mayClose());
     QVERIFY2(driver.finished(), driver.report());
+}
+
+void TestVariablesScreen::rowsThatAreBroughtBackAreChanges()
+{
+    VariablesScreen screen(QSize(800, 480), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
+    QList<QStringList> rows = screen.rows();
+    rows[3].last() = "4711";
+    QVERIFY(screen.bringBack(QString(), rows));
+    QCOMPARE(screen.rows(), rows);
+    QVERIFY(screen.hasChanges());
+    QVERIFY(screen.lookForChanges());
+    QVERIFY(screen.filePath().isEmpty());
+    QCOMPARE(screen.describe(screen.nameOf(QString()), "12:31", rows.size()),
+             QString("Variables, 12:31, values: %1").arg(rows.size()));
+}
+
+void TestVariablesScreen::rowsThatAreNoneAreNotBroughtBack()
+{
+    VariablesScreen screen(QSize(800, 480), home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
+    const QList<QStringList> before = screen.rows();
+    QVERIFY(!screen.bringBack(QString(), {{}, {"DataEditor", "1", "", "no such variable", "1"}}));
+    QCOMPARE(screen.rows(), before);
+    QVERIFY(!screen.lookForChanges());
 }
 
 FILARIX_TEST_MAIN(TestVariablesScreen)

@@ -7,6 +7,7 @@
 #include "shell/questiondialog.h"
 
 #include <QBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 
 class TestQuestionDialog : public FilarixTest
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void anyOtherWayOutIsHarmless_data();
     void anyOtherWayOutIsHarmless();
     void keysAreForGloves();
+    void thingsStandInLinesOfTheirOwn();
+    void nameWithoutRoomLosesItsMiddle();
 
 private:
     static Question question()
@@ -77,6 +80,31 @@ void TestQuestionDialog::keysAreForGloves()
         QVERIFY(key->height() >= Look::kTouch);
         QVERIFY(dialog.rect().contains(key->geometry()));
     }
+}
+
+void TestQuestionDialog::thingsStandInLinesOfTheirOwn()
+{
+    Question about = question();
+    about.things = QStringList{"coil.cnc, lines: 4", "Variables, values: 24"};
+    QuestionDialog dialog(about);
+    dialog.show();
+    const QList<QLabel *> lines = dialog.findChildren<QLabel *>("thing");
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines.at(0)->text(), about.things.at(0));
+    QCOMPARE(lines.at(1)->text(), about.things.at(1));
+    QVERIFY(lines.at(0)->geometry().bottom() < lines.at(1)->geometry().top());
+    QVERIFY(dialog.findChild<QPushButton *>("answer0")->y() > lines.at(1)->geometry().bottom());
+}
+
+// Two names may differ at the end alone.
+void TestQuestionDialog::nameWithoutRoomLosesItsMiddle()
+{
+    Question about = question();
+    about.things = QStringList(QString(251, 'x') + "last.cnc");
+    QuestionDialog dialog(about);
+    const QString shown = dialog.findChild<QLabel *>("thing")->text();
+    QVERIFY(shown.size() < about.things.first().size());
+    QVERIFY2(shown.endsWith("last.cnc"), qPrintable(shown));
 }
 
 FILARIX_TEST_MAIN(TestQuestionDialog)
