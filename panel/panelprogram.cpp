@@ -4,7 +4,8 @@
 #include "panelprogram.h"
 
 #include "display/panelglass.h"
-#include "display/panelsurface.h"
+#include "display/platform.h"
+#include "display/primarysurface.h"
 #include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
 #include "look/glyphs.h"
@@ -49,7 +50,7 @@ const int occupiedMs = 6 * 1000;
 
 QSize surfaceSize(const Options &options)
 {
-    if (PanelSurface::isDesktop())
+    if (Platform::isDesktop())
         return options.surfaceSize();
     return options.surfaceOn(QGuiApplication::primaryScreen()->size());
 }
@@ -165,7 +166,7 @@ void PanelProgram::makeWindow()
     if (m_options.turn != 0 || isTour())
         m_glass.reset(new PanelGlass(surface, m_options.turn));
     m_window.reset(new PanelWindow(surface));
-    new PanelSurface(m_window.get(), m_options.touch);
+    new PrimarySurface(m_window.get(), m_options.touch);
     new FindDialogKeypad(m_window.get());
     new DialogFitter(m_window.get());
 }

@@ -4,7 +4,7 @@
 #include "display/panelglass.h"
 
 #include "display/glassinput.h"
-#include "display/panelsurface.h"
+#include "display/platform.h"
 #include "display/turnedplatform.h"
 
 #include <QPaintEvent>
@@ -53,7 +53,7 @@ void PanelGlass::present(QWidget *main)
     m_input->setMainWindow(window);
     setTitle(window->title());
     connect(window, &QWindow::windowTitleChanged, this, &QWindow::setTitle);
-    if (PanelSurface::isDesktop())
+    if (Platform::isDesktop())
         show();
     else
         showFullScreen();

@@ -6,7 +6,7 @@
 
 #include "display/turnedplatform.h"
 
-#include "display/panelsurface.h"
+#include "display/platform.h"
 
 #include <QCursor>
 #include <QScreen>
@@ -39,7 +39,7 @@ private:
 
 bool displayIsOurs()
 {
-    return !PanelSurface::isDesktop() && QGuiApplication::platformName() != QLatin1String("vnc");
+    return !Platform::isDesktop() && QGuiApplication::platformName() != QLatin1String("vnc");
 }
 
 } // namespace

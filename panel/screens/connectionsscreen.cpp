@@ -5,7 +5,7 @@
 
 #include "conneditor.h"
 #include "dataeditor.h"
-#include "display/panelsurface.h"
+#include "display/surfaceloan.h"
 #include "filarixpanel.h"
 #include "listwidget.h"
 #include "look/look.h"
@@ -211,7 +211,7 @@ void ConnectionsScreen::edit(const std::shared_ptr<Copy> &copy)
         // The rows are as wide as the dialog, and lie in an area with margins and a scroll bar: on
         // a narrow panel they are made for less than its width, and the dialog is widened.
         const int panel = QGuiApplication::primaryScreen()->availableSize().width();
-        const SurfaceLoan tall(SurfaceLoan::kTallPanel,
+        const SurfaceLoan tall(SurfaceLoan::tallPanel,
                                panel < kWidePanel ? panel - kAroundRows : panel);
         editor.reset(new ConnEditor(copy->path(), nullptr));
         editor->init_list();

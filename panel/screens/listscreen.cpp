@@ -3,7 +3,7 @@
 
 #include "screens/listscreen.h"
 
-#include "display/panelsurface.h"
+#include "display/surfaceloan.h"
 #include "filarixpanel.h"
 #include "look/livetext.h"
 #include "look/look.h"

@@ -3,7 +3,7 @@
 
 #include "screens/pathpicker.h"
 
-#include "display/panelsurface.h"
+#include "display/surfaceloan.h"
 #include "filedialog.h"
 
 #include <QLabel>

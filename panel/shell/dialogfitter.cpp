@@ -3,7 +3,7 @@
 
 #include "shell/dialogfitter.h"
 
-#include "display/panelsurface.h"
+#include "display/platform.h"
 #include "look/look.h"
 
 #include <QApplication>
@@ -23,7 +23,7 @@ const QSize kRoomyDialog(640, 440);
 // choose its place stands above the middle.
 bool isMisplaced(const QDialog *dialog)
 {
-    return !dialog->testAttribute(Qt::WA_Moved) && !PanelSurface::hasWindowManager();
+    return !dialog->testAttribute(Qt::WA_Moved) && !Platform::hasWindowManager();
 }
 
 } // namespace

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "display/panelglass.h"
-#include "display/panelsurface.h"
+#include "display/platform.h"
+#include "display/primarysurface.h"
 #include "filarixtest.h"
 #include "modaldriver.h"
 
@@ -90,7 +91,7 @@ struct Panel
 {
     explicit Panel(int degrees) : glass(kSurface, degrees)
     {
-        surface.reset(new PanelSurface(&screen, true));
+        surface.reset(new PrimarySurface(&screen, true));
         glass.present(&screen);
         glass.requestActivate();
     }
@@ -155,7 +156,7 @@ struct Panel
     PanelGlass glass;
     Screen screen;
     Qt::MouseButtons buttons;
-    QScopedPointer<PanelSurface> surface;
+    QScopedPointer<PrimarySurface> surface;
 };
 
 QImage turned(const QImage &picture, int degrees)
@@ -267,9 +268,9 @@ void TestPanelGlass::surfaceIsTheScreen()
         QCOMPARE(QApplication::desktop()->screenGeometry(-1), surface);
         QCOMPARE(panel.screen.geometry(), surface);
         QCOMPARE(qApp->property("hmiScreen").toRect(), surface);
-        QVERIFY(!PanelSurface::hasWindowManager());
+        QVERIFY(!Platform::hasWindowManager());
     }
-    QVERIFY(PanelSurface::hasWindowManager());
+    QVERIFY(Platform::hasWindowManager());
     QCOMPARE(QGuiApplication::primaryScreen()->geometry(), before);
     QCOMPARE(QGuiApplication::screens().size(), screens);
 }

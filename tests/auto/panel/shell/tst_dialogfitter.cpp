@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "display/panelglass.h"
-#include "display/panelsurface.h"
+#include "display/primarysurface.h"
 #include "filarixtest.h"
 #include "shell/dialogfitter.h"
 
@@ -27,7 +27,7 @@ void TestDialogFitter::dialogLargerThanThePanelIsMadeToFit()
     QWidget panel;
     panel.setFixedSize(480, 272);
     panel.show();
-    PanelSurface surface(&panel, true);
+    PrimarySurface surface(&panel, true);
     DialogFitter keeper(nullptr);
     QDialog dialog;
     dialog.resize(500, 300);
@@ -41,7 +41,7 @@ void TestDialogFitter::dialogBesideThePanelIsMovedOntoIt()
     QWidget panel;
     panel.setFixedSize(480, 272);
     panel.show();
-    PanelSurface surface(&panel, true);
+    PrimarySurface surface(&panel, true);
     DialogFitter keeper(nullptr);
     QDialog dialog;
     dialog.setGeometry(700, -90, 200, 100);

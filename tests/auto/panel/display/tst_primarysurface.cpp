@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "display/panelsurface.h"
+#include "display/primarysurface.h"
 #include "filarixtest.h"
 
 #include <QDesktopWidget>
 
-class TestPanelSurface : public FilarixTest
+class TestPrimarySurface : public FilarixTest
 {
     Q_OBJECT
 
@@ -16,11 +16,11 @@ private Q_SLOTS:
     void deviceLibraryIsToldTheTouchScreen();
 };
 
-void TestPanelSurface::screenOfTheToolkitIsTheWindow()
+void TestPrimarySurface::screenOfTheToolkitIsTheWindow()
 {
     QWidget window;
     window.setFixedSize(480, 272);
-    PanelSurface surface(&window, true);
+    PrimarySurface surface(&window, true);
     window.show();
     // The window takes its place while it is shown.
     QTRY_COMPARE(QApplication::desktop()->availableGeometry(-1),
@@ -30,11 +30,11 @@ void TestPanelSurface::screenOfTheToolkitIsTheWindow()
     QCOMPARE(qApp->property("hmiScreen").toRect(), expected);
 }
 
-void TestPanelSurface::screenFollowsTheWindow()
+void TestPrimarySurface::screenFollowsTheWindow()
 {
     QWidget window;
     window.setFixedSize(800, 480);
-    PanelSurface surface(&window, true);
+    PrimarySurface surface(&window, true);
     window.show();
     window.move(120, 90);
     const QPoint corner = window.mapToGlobal(QPoint(0, 0));
@@ -42,16 +42,16 @@ void TestPanelSurface::screenFollowsTheWindow()
     QCOMPARE(qApp->property("hmiScreen").toRect(), QRect(corner, QSize(800, 480)));
 }
 
-void TestPanelSurface::deviceLibraryIsToldTheTouchScreen()
+void TestPrimarySurface::deviceLibraryIsToldTheTouchScreen()
 {
     QWidget window;
     {
-        PanelSurface surface(&window, false);
+        PrimarySurface surface(&window, false);
         QCOMPARE(qApp->property("hmiTouchScreen").toBool(), false);
     }
-    PanelSurface surface(&window, true);
+    PrimarySurface surface(&window, true);
     QCOMPARE(qApp->property("hmiTouchScreen").toBool(), true);
 }
 
-FILARIX_TEST_MAIN(TestPanelSurface)
-#include "tst_panelsurface.moc"
+FILARIX_TEST_MAIN(TestPrimarySurface)
+#include "tst_primarysurface.moc"
