@@ -9,193 +9,143 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-
-#include <cmath>
+#include <QVector>
 
 namespace {
 
-// All paths lie on a grid of 24 by 24.
-const qreal kGrid = 24;
+const qreal grid = 24;
 
-QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> strokes)
+// On a grid of 24 by 24. The letters, each with the numbers behind it:
+//   M  x y x y ...                     a line from point to point
+//   E  x y rx ry                       an ellipse about a point
+//   R  x y width height                a rectangle
+//   S  x y width height angle          where an arc of that ellipse begins
+//   A  x y width height angle sweep    on along that arc
+//   L  x y                             on along a line
+const struct
 {
-    QPainterPath path;
-    for (const std::initializer_list<QPointF> &stroke : strokes) {
-        const QPointF *point = stroke.begin();
-        path.moveTo(*point);
-        while (++point != stroke.end())
-            path.lineTo(*point);
-    }
-    return path;
+    Glyphs::Glyph glyph;
+    const char *strokes;
+} drawings[] = {
+    {Glyphs::Program,
+     "M 5 3 15 3 19 7 19 21 5 21 5 3 M 8.5 9 15.5 9 M 8.5 13 15.5 13 M 8.5 17 12.5 17"},
+    {Glyphs::Teach,
+     "M 3 21 21 21 M 6 21 6 13 14 8 E 6 12 2 2 E 16 7 2.5 2.5 M 16 12 16 16 M 14 14 18 14"},
+    {Glyphs::Variables, "M 3 5 21 5 21 19 3 19 3 5 M 3 10 21 10 M 10 5 10 19 M 13 14.5 18 14.5"},
+    {Glyphs::Connections, "R 9 3 6 5 R 3 16 6 5 R 15 16 6 5 M 12 8 12 12 M 6 16 6 12 18 12 18 16"},
+    {Glyphs::Files, "M 3 19 3 5 9 5 11 8 21 8 21 19 3 19"},
+    {Glyphs::Menu, "M 4 6 20 6 M 4 12 20 12 M 4 18 20 18"},
+    {Glyphs::Find, "E 10 10 6 6 M 14.5 14.5 21 21"},
+    {Glyphs::Undo, "M 5 9 14 9 A 9.5 9 10 10 90 -180 L 8 19 M 9.5 4 4.5 9 9.5 14"},
+    {Glyphs::Redo, "M 19 9 10 9 A 4.5 9 10 10 90 180 L 16 19 M 14.5 4 19.5 9 14.5 14"},
+    {Glyphs::More, "M 5 5 12 12 5 19 M 12 5 19 12 12 19"},
+    {Glyphs::Close, "M 6 6 18 18 M 18 6 6 18"},
+    {Glyphs::Load, "M 4 15 4 20 20 20 20 15 M 12 16 12 4 M 7 9 12 4 17 9"},
+    {Glyphs::Store, "M 4 15 4 20 20 20 20 15 M 12 4 12 15 M 7 10 12 15 17 10"},
+    {Glyphs::Clear,
+     "M 4 6 20 6 M 9 6 9 3 15 3 15 6 M 6 6 7 21 17 21 18 6 M 10 10 10 17 M 14 10 14 17"},
+    {Glyphs::Select,
+     "M 11 5 21 5 M 11 12 21 12 M 11 19 21 19 M 3 5 5 7 8 3 M 3 12 5 14 8 10 M 3 19 5 21 8 17"},
+    {Glyphs::Plug, "R 8 11 8 10 M 10 11 10 8 14 8 14 11 M 5 3 19 3 M 12 3 12 5"},
+    {Glyphs::Pull, "R 8 11 8 10 M 10 11 10 8 14 8 14 11 M 9 5 12 2 15 5"},
+    {Glyphs::Rename, "M 3 7 11 7 M 7 7 7 17 M 14 3 18 3 M 16 3 16 21 M 14 21 18 21"},
+    {Glyphs::Edit, "M 4 20 5 15 16 4 20 8 9 19 4 20 M 13 7 17 11"},
+    {Glyphs::Plc, "R 6 6 12 12 M 9 2 9 6 M 15 2 15 6 M 9 18 9 22 M 15 18 15 22 M 2 9 6 9 M 2 15 6 "
+                  "15 M 18 9 22 9 "
+                  "M 18 15 22 15"},
+    {Glyphs::Stick, "R 7 9 10 12 M 9 9 9 3 15 3 15 9"},
+    {Glyphs::Storage, "E 12 6 8 3 M 4 6 4 18 A 4 15 16 6 180 180 L 20 6"},
+    {Glyphs::Style,
+     "E 12 12 8 8 M 12 6 16.29150262 6 M 12 8 17.92820323 8 M 12 10 18.74596669 10 M 12 12 19 12 "
+     "M 12 14 18.74596669 14 M 12 16 17.92820323 16 M 12 18 16.29150262 18"},
+    {Glyphs::Language, "E 12 12 9 9 E 12 12 4 9 M 3.5 9 20.5 9 M 3.5 15 20.5 15"},
+    {Glyphs::History,
+     "S 4 4 16 16 180 A 4 4 16 16 180 -320 M 1 8.5 4 12.5 8 9.5 M 12 7.5 12 12.5 16 14.5"},
+    {Glyphs::Inform, "E 12 12 9 9 M 12 11 12 16.5 M 12 7 12 7.3"},
+    {Glyphs::Warn, "M 12 3 22 20 2 20 12 3 M 12 9.5 12 13.5 M 12 16.8 12 17"},
+    {Glyphs::Alarm, "M 8 2.5 16 2.5 21.5 8 21.5 16 16 21.5 8 21.5 2.5 16 2.5 8 8 2.5 M 12 7 12 13 "
+                    "M 12 17 12 17.2"},
+};
+
+void addLine(QPainterPath *path, const qreal *at)
+{
+    path->lineTo(at[0], at[1]);
 }
 
-// A half turn with an arrow head at its left end.
-QPainterPath turn()
+void addEllipse(QPainterPath *path, const qreal *at)
+{
+    path->addEllipse(QPointF(at[0], at[1]), at[2], at[3]);
+}
+
+void addRect(QPainterPath *path, const qreal *at)
+{
+    path->addRect(at[0], at[1], at[2], at[3]);
+}
+
+void moveToArc(QPainterPath *path, const qreal *at)
+{
+    path->arcMoveTo(at[0], at[1], at[2], at[3], at[4]);
+}
+
+void addArc(QPainterPath *path, const qreal *at)
+{
+    path->arcTo(at[0], at[1], at[2], at[3], at[4], at[5]);
+}
+
+void moveTo(QPainterPath *path, const qreal *at)
+{
+    path->moveTo(at[0], at[1]);
+}
+
+const struct Stroke
+{
+    char letter;
+    int numbers;
+    void (*add)(QPainterPath *path, const qreal *numbers);
+} strokes[] = {
+    {'M', 2, &moveTo},  {'L', 2, &addLine},   {'E', 4, &addEllipse},
+    {'R', 4, &addRect}, {'S', 5, &moveToArc}, {'A', 6, &addArc},
+};
+
+const Stroke *strokeOf(char letter)
+{
+    for (const Stroke &stroke : strokes) {
+        if (stroke.letter == letter)
+            return &stroke;
+    }
+    return nullptr;
+}
+
+QPainterPath pathOf(const char *drawing)
 {
     QPainterPath path;
-    path.moveTo(5, 9);
-    path.lineTo(14, 9);
-    path.arcTo(QRectF(9.5, 9, 10, 10), 90, -180);
-    path.lineTo(8, 19);
-    path.addPath(lines({{{9.5, 4}, {4.5, 9}, {9.5, 14}}}));
+    const Stroke *stroke = nullptr;
+    QVector<qreal> numbers;
+    const QList<QByteArray> words = QByteArray(drawing).split(' ');
+    for (const QByteArray &word : words) {
+        if (const Stroke *begun = strokeOf(word.at(0))) {
+            stroke = begun;
+            continue;
+        }
+        numbers.append(word.toDouble());
+        if (numbers.size() < stroke->numbers)
+            continue;
+        stroke->add(&path, numbers.constData());
+        numbers.clear();
+        // Behind its first point a line goes on.
+        if (stroke->letter == 'M')
+            stroke = strokeOf('L');
+    }
     return path;
 }
 
 QPainterPath shape(Glyphs::Glyph glyph)
 {
-    QPainterPath path;
-    switch (glyph) {
-    case Glyphs::Program:
-        path = lines({{{5, 3}, {15, 3}, {19, 7}, {19, 21}, {5, 21}, {5, 3}},
-                      {{8.5, 9}, {15.5, 9}},
-                      {{8.5, 13}, {15.5, 13}},
-                      {{8.5, 17}, {12.5, 17}}});
-        break;
-    case Glyphs::Teach:
-        path = lines({{{3, 21}, {21, 21}}, {{6, 21}, {6, 13}, {14, 8}}});
-        path.addEllipse(QPointF(6, 12), 2, 2);
-        path.addEllipse(QPointF(16, 7), 2.5, 2.5);
-        path.addPath(lines({{{16, 12}, {16, 16}}, {{14, 14}, {18, 14}}}));
-        break;
-    case Glyphs::Variables:
-        path = lines({{{3, 5}, {21, 5}, {21, 19}, {3, 19}, {3, 5}},
-                      {{3, 10}, {21, 10}},
-                      {{10, 5}, {10, 19}}});
-        path.addPath(lines({{{13, 14.5}, {18, 14.5}}}));
-        break;
-    case Glyphs::Connections:
-        path.addRect(9, 3, 6, 5);
-        path.addRect(3, 16, 6, 5);
-        path.addRect(15, 16, 6, 5);
-        path.addPath(lines({{{12, 8}, {12, 12}}, {{6, 16}, {6, 12}, {18, 12}, {18, 16}}}));
-        break;
-    case Glyphs::Files:
-        path = lines({{{3, 19}, {3, 5}, {9, 5}, {11, 8}, {21, 8}, {21, 19}, {3, 19}}});
-        break;
-    case Glyphs::Menu:
-        path = lines({{{4, 6}, {20, 6}}, {{4, 12}, {20, 12}}, {{4, 18}, {20, 18}}});
-        break;
-    case Glyphs::Find:
-        path.addEllipse(QPointF(10, 10), 6, 6);
-        path.addPath(lines({{{14.5, 14.5}, {21, 21}}}));
-        break;
-    case Glyphs::Undo:
-        path = turn();
-        break;
-    case Glyphs::Redo:
-        path = QTransform(-1, 0, 0, 1, kGrid, 0).map(turn());
-        break;
-    case Glyphs::More:
-        path = lines({{{5, 5}, {12, 12}, {5, 19}}, {{12, 5}, {19, 12}, {12, 19}}});
-        break;
-    case Glyphs::Load:
-        path = lines({{{4, 15}, {4, 20}, {20, 20}, {20, 15}},
-                      {{12, 16}, {12, 4}},
-                      {{7, 9}, {12, 4}, {17, 9}}});
-        break;
-    case Glyphs::Store:
-        path = lines({{{4, 15}, {4, 20}, {20, 20}, {20, 15}},
-                      {{12, 4}, {12, 15}},
-                      {{7, 10}, {12, 15}, {17, 10}}});
-        break;
-    case Glyphs::Clear:
-        path = lines({{{4, 6}, {20, 6}},
-                      {{9, 6}, {9, 3}, {15, 3}, {15, 6}},
-                      {{6, 6}, {7, 21}, {17, 21}, {18, 6}},
-                      {{10, 10}, {10, 17}},
-                      {{14, 10}, {14, 17}}});
-        break;
-    case Glyphs::Select:
-        path = lines({{{11, 5}, {21, 5}},
-                      {{11, 12}, {21, 12}},
-                      {{11, 19}, {21, 19}},
-                      {{3, 5}, {5, 7}, {8, 3}},
-                      {{3, 12}, {5, 14}, {8, 10}},
-                      {{3, 19}, {5, 21}, {8, 17}}});
-        break;
-    case Glyphs::Plug:
-    case Glyphs::Pull:
-        path.addRect(8, 11, 8, 10);
-        path.addPath(lines({{{10, 11}, {10, 8}, {14, 8}, {14, 11}}}));
-        path.addPath(glyph == Glyphs::Plug ? lines({{{5, 3}, {19, 3}}, {{12, 3}, {12, 5}}})
-                                           : lines({{{9, 5}, {12, 2}, {15, 5}}}));
-        break;
-    case Glyphs::Rename:
-        path = lines({{{3, 7}, {11, 7}},
-                      {{7, 7}, {7, 17}},
-                      {{14, 3}, {18, 3}},
-                      {{16, 3}, {16, 21}},
-                      {{14, 21}, {18, 21}}});
-        break;
-    case Glyphs::Edit:
-        path = lines({{{4, 20}, {5, 15}, {16, 4}, {20, 8}, {9, 19}, {4, 20}}, {{13, 7}, {17, 11}}});
-        break;
-    case Glyphs::Language:
-        path.addEllipse(QPointF(12, 12), 9, 9);
-        path.addEllipse(QPointF(12, 12), 4, 9);
-        path.addPath(lines({{{3.5, 9}, {20.5, 9}}, {{3.5, 15}, {20.5, 15}}}));
-        break;
-    case Glyphs::History:
-        path.arcMoveTo(QRectF(4, 4, 16, 16), 180);
-        path.arcTo(QRectF(4, 4, 16, 16), 180, -320);
-        path.addPath(lines({{{1, 8.5}, {4, 12.5}, {8, 9.5}}, {{12, 7.5}, {12, 12.5}, {16, 14.5}}}));
-        break;
-    case Glyphs::Inform:
-        path.addEllipse(QPointF(12, 12), 9, 9);
-        path.addPath(lines({{{12, 11}, {12, 16.5}}, {{12, 7}, {12, 7.3}}}));
-        break;
-    case Glyphs::Warn:
-        path = lines({{{12, 3}, {22, 20}, {2, 20}, {12, 3}},
-                      {{12, 9.5}, {12, 13.5}},
-                      {{12, 16.8}, {12, 17}}});
-        break;
-    case Glyphs::Alarm:
-        path = lines({{{8, 2.5},
-                       {16, 2.5},
-                       {21.5, 8},
-                       {21.5, 16},
-                       {16, 21.5},
-                       {8, 21.5},
-                       {2.5, 16},
-                       {2.5, 8},
-                       {8, 2.5}},
-                      {{12, 7}, {12, 13}},
-                      {{12, 17}, {12, 17.2}}});
-        break;
-    case Glyphs::Close:
-        path = lines({{{6, 6}, {18, 18}}, {{18, 6}, {6, 18}}});
-        break;
-    case Glyphs::Plc:
-        path.addRect(6, 6, 12, 12);
-        path.addPath(lines({{{9, 2}, {9, 6}},
-                            {{15, 2}, {15, 6}},
-                            {{9, 18}, {9, 22}},
-                            {{15, 18}, {15, 22}},
-                            {{2, 9}, {6, 9}},
-                            {{2, 15}, {6, 15}},
-                            {{18, 9}, {22, 9}},
-                            {{18, 15}, {22, 15}}}));
-        break;
-    case Glyphs::Stick:
-        path.addRect(7, 9, 10, 12);
-        path.addPath(lines({{{9, 9}, {9, 3}, {15, 3}, {15, 9}}}));
-        break;
-    case Glyphs::Storage:
-        path.addEllipse(QRectF(4, 3, 16, 6));
-        path.moveTo(4, 6);
-        path.lineTo(4, 18);
-        path.arcTo(QRectF(4, 15, 16, 6), 180, 180);
-        path.lineTo(20, 6);
-        break;
-    case Glyphs::Style:
-        path.addEllipse(QPointF(12, 12), 8, 8);
-        for (int y = 6; y <= 18; y += 2) {
-            const qreal half = std::sqrt(64.0 - (y - 12) * (y - 12)) - 1;
-            path.addPath(lines({{QPointF(12, y), QPointF(12 + half, y)}}));
-        }
-        break;
+    for (const auto &drawing : drawings) {
+        if (drawing.glyph == glyph)
+            return pathOf(drawing.strokes);
     }
-    return path;
+    return QPainterPath();
 }
 
 /// Draws when it is asked to, so that the colours are those of the moment.
@@ -249,7 +199,7 @@ void Glyphs::draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColo
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(rect.topLeft());
-    painter->scale(rect.width() / kGrid, rect.height() / kGrid);
+    painter->scale(rect.width() / grid, rect.height() / grid);
     painter->setPen(QPen(color, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(shape(glyph));
     painter->restore();
