@@ -26,6 +26,7 @@
 #include "shell/statusstrip.h"
 #include "stick/devicewatch.h"
 #include "tour.h"
+#include "tourplan.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -306,12 +307,13 @@ void PanelProgram::show()
 
 void PanelProgram::plan(Tour *tour) const
 {
-    tour->visitProgramScreen(m_programs);
-    tour->visitTeachScreen(m_teach);
-    tour->visitVariablesScreen(m_variables);
-    tour->visitConnectionsScreen(m_connections);
-    tour->visitFilesScreen(m_files);
-    tour->visitLanguages();
+    TourPlan *plan = new TourPlan(m_window.get(), tour);
+    plan->visitProgramScreen(m_programs);
+    plan->visitTeachScreen(m_teach);
+    plan->visitVariablesScreen(m_variables);
+    plan->visitConnectionsScreen(m_connections);
+    plan->visitFilesScreen(m_files);
+    plan->visitLanguages();
 }
 
 int PanelProgram::walk()
