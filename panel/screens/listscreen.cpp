@@ -11,8 +11,10 @@
 #include "tlistwidget.h"
 
 #include <QEvent>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -26,6 +28,9 @@ const int kKeyGap = 4;
 const int kLargeIcon = 36;
 const int kKeyStretch = 1000;
 
+// What messages about a disk that does not do its work are about.
+const QLatin1String storage("storage");
+
 TListWidget *makeList(QStringList title)
 {
     const SurfaceLoan tall;
@@ -34,7 +39,8 @@ TListWidget *makeList(QStringList title)
 
 } // namespace
 
-ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, QWidget *parent)
+ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, RowKeeper *keeper,
+                       QWidget *parent)
     : PanelScreen(parent)
     , m_keysBeside(surface.width() >= FilarixPanel::wideFrom)
     , m_keyColumns(keyColumns)
@@ -43,7 +49,9 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     , m_area(new QScrollArea)
     , m_keyGrid(new QGridLayout)
     , m_notice(new QLabel(m_area->viewport()))
+    , m_keeper(keeper)
 {
+    m_keeper->setParent(this);
     // An open row can push the foot of the page out of sight: the area moves, but shows no bars,
     // for the list has pages.
     m_area->setFrameShape(QFrame::NoFrame);
@@ -166,6 +174,75 @@ bool ListScreen::lookForChanges()
 {
     refreshStatus();
     return hasChanges();
+}
+
+void ListScreen::refreshStatus()
+{
+    const bool changed = rows() != m_stored;
+    if (changed == m_changed)
+        return;
+    m_changed = changed;
+    Q_EMIT titleChanged();
+}
+
+void ListScreen::markStored(const QList<QStringList> &rows)
+{
+    m_stored = rows;
+    refreshStatus();
+    Q_EMIT titleChanged();
+}
+
+void ListScreen::tellUnread(const RowKeeper::Loaded &loaded, const QString &whenBroken,
+                            const QString &whenStalled)
+{
+    if (loaded.state == RowKeeper::Loaded::Broken)
+        Q_EMIT told(loaded.error + QLatin1Char(' ') + whenBroken, Message::Alarm, fileCause());
+    else if (loaded.state == RowKeeper::Loaded::Stalled)
+        Q_EMIT told(loaded.error + QLatin1Char(' ') + whenStalled, Message::Alarm, storage);
+}
+
+void ListScreen::store()
+{
+    if (m_keeper->isBusy())
+        return;
+    const QList<QStringList> shown = rows();
+    m_keeper->store(storePath(), rowsToStore(),
+                    [this, shown](const RowKeeper::Stored &stored) { noteStored(shown, stored); });
+}
+
+// The operator may have changed a row since.
+void ListScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored)
+{
+    if (!stored.isStored)
+        return Q_EMIT told(stored.error, Message::Alarm, storage);
+    markStored(rows);
+    Q_EMIT causeEnded(storage);
+    Q_EMIT causeEnded(fileCause());
+    QString text = storedText(rows.size());
+    if (!stored.asidePath.isEmpty())
+        text += QLatin1Char(' ')
+                + tr("What stood there is %1 now.").arg(QFileInfo(stored.asidePath).fileName());
+    Q_EMIT told(text, Message::Information);
+}
+
+bool ListScreen::mayLoseChanges(const QString &title, const QString &question)
+{
+    refreshStatus();
+    if (!m_changed)
+        return true;
+    // While the answer is stored the operator may ask for the end once more.
+    if (m_isAsking)
+        return false;
+    m_isAsking = true;
+    const int answer = QMessageBox::warning(
+        nullptr, title, question, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Save) {
+        m_keeper->wait();
+        store();
+        m_keeper->wait();
+    }
+    m_isAsking = false;
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !m_changed);
 }
 
 bool ListScreen::eventFilter(QObject *watched, QEvent *event)

@@ -6,6 +6,7 @@
 
 #include "programs/unsavedrows.h"
 #include "shell/panelscreen.h"
+#include "storage/rowkeeper.h"
 
 #include <functional>
 
@@ -19,7 +20,8 @@ class QScrollArea;
 class TListWidget;
 
 /// A screen around one of the library's paged lists: the list at the size of the panel, and a panel
-/// of keys beside it on a lying panel, below it on an upright or a small one.
+/// of keys beside it on a lying panel, below it on an upright or a small one. A file keeps the
+/// rows.
 class ListScreen : public PanelScreen, public UnsavedRows
 {
     Q_OBJECT
@@ -33,12 +35,38 @@ public:
     bool isLoading() const override { return m_isLoading; }
     bool lookForChanges() override;
 
+    bool hasChanges() const override { return m_changed; }
+    /// Sees whether the operator has changed a row: the list tells nobody.
+    void refreshStatus() override;
+    /// Writes the rows beside the event loop; ends in told().
+    void store();
+    /// Milliseconds after which a file counts as one that does not answer.
+    void setStallTime(int ms) { m_keeper->setStallTime(ms); }
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     /// \a surface is the whole panel. An empty \a title makes a list without a title row.
-    /// \a keyColumns is the number of keys in a line beside the list.
-    ListScreen(const QSize &surface, QStringList title, int keyColumns, QWidget *parent);
+    /// \a keyColumns is the number of keys in a line beside the list. The screen owns \a keeper.
+    ListScreen(const QSize &surface, QStringList title, int keyColumns, RowKeeper *keeper,
+               QWidget *parent);
+
+    /// Where store() writes.
+    virtual QString storePath() const = 0;
+    /// What store() writes; the list's rows if nothing else is said.
+    virtual QList<QStringList> rowsToStore() const { return rows(); }
+    /// What the operator is told once \a count rows are stored.
+    virtual QString storedText(int count) const = 0;
+    /// What messages about the file are about.
+    virtual QString fileCause() const = 0;
+    RowKeeper *keeper() { return m_keeper; }
+    /// The file holds \a rows.
+    void markStored(const QList<QStringList> &rows);
+    /// Why there are no rows, if so, and what the operator can do.
+    void tellUnread(const RowKeeper::Loaded &loaded, const QString &whenBroken,
+                    const QString &whenStalled);
+    /// Asks the operator about changes that are not stored, and stores them if asked to.
+    bool mayLoseChanges(const QString &title, const QString &question);
 
     /// Appends a key to the panel.
     PanelKey *addKey(const QIcon &icon, const std::function<QString()> &text);
@@ -56,6 +84,7 @@ private:
     int listWidth(const QSize &surface) const;
     void fitPage();
     void keepRowInView(int row);
+    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
 
     const bool m_keysBeside;
     const int m_keyColumns;
@@ -65,8 +94,12 @@ private:
     QGridLayout *m_keyGrid;
     QLabel *m_notice;
     QList<QPointer<PanelKey>> m_loadKeys;
+    RowKeeper *m_keeper;
+    QList<QStringList> m_stored;
     int m_keyCount = 0;
     bool m_isLoading = false;
+    bool m_changed = false;
+    bool m_isAsking = false;
 };
 
 #endif // LISTSCREEN_H

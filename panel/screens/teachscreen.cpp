@@ -39,10 +39,6 @@ int keyColumns(int width)
     return width < kRoomy ? kKeyColumns : kRoomyKeyColumns;
 }
 
-// What messages are about.
-const QLatin1String ownFile("teach");
-const QLatin1String storage("storage");
-
 QIcon libraryIcon(const char *name)
 {
     return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
@@ -52,11 +48,11 @@ QIcon libraryIcon(const char *name)
 
 TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
                          QWidget *parent)
-    : ListScreen(surface, TaughtProgram::titleRow(), keyColumns(surface.width()), parent)
+    : ListScreen(surface, TaughtProgram::titleRow(), keyColumns(surface.width()),
+                 new RowKeeper(QLatin1String("Taught program"), &TaughtProgram::load), parent)
     , m_folder(folder)
     , m_file(QDir(folder).filePath(QLatin1String("program.teach")))
     , m_machine(machine)
-    , m_keeper(QLatin1String("Taught program"), &TaughtProgram::load)
 {
     addPagingKeys();
     connect(addKey(libraryIcon("insert"), [] { return tr("Joint"); }), &PanelKey::clicked, this,
@@ -94,7 +90,7 @@ void TeachScreen::showClearing(int percent)
 
 void TeachScreen::loadFirst()
 {
-    m_keeper.load(m_file, [this](const RowKeeper::Loaded &loaded) { showFirst(loaded); });
+    keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showFirst(loaded); });
 }
 
 // A program that nobody can read is not taken for one that isn't there: in the place of the sample
@@ -105,17 +101,12 @@ void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
     setRows(isNew ? TaughtProgram::sample(*m_machine) : loaded.rows);
     setLoading(false);
     markStored(rows());
-    if (loaded.state == RowKeeper::Loaded::Broken)
-        Q_EMIT told(loaded.error + QLatin1Char(' ')
-                        + tr("The list is empty. Store first puts that file aside."),
-                    Message::Alarm, ownFile);
-    else if (loaded.state == RowKeeper::Loaded::Stalled)
-        Q_EMIT told(loaded.error + QLatin1Char(' ') + tr("The list is empty. Try Load."),
-                    Message::Alarm, storage);
+    tellUnread(loaded, tr("The list is empty. Store first puts that file aside."),
+               tr("The list is empty. Try Load."));
 }
 
-// The list never fills its title row again; its cells are those of the row without the two words
-// that make it one.
+// The list never fills its title row again. The title's cells are those of the row without its
+// first two words, its kind and its number.
 void TeachScreen::retranslate()
 {
     QStringList cells = TaughtProgram::titleRow();
@@ -148,24 +139,25 @@ QList<PanelKey *> TeachScreen::keys()
 
 bool TeachScreen::mayClose()
 {
-    return mayLoseChanges(tr("The taught program has changes that are not stored."));
+    return mayLoseProgram(tr("The taught program has changes that are not stored."));
 }
 
-void TeachScreen::refreshStatus()
+QString TeachScreen::storedText(int count) const
 {
-    const bool changed = rows() != m_stored;
-    if (changed == m_changed)
-        return;
-    m_changed = changed;
-    Q_EMIT titleChanged();
+    return tr("%1 stored, instructions: %2.").arg(title()).arg(count);
+}
+
+QString TeachScreen::fileCause() const
+{
+    return QLatin1String("teach");
 }
 
 void TeachScreen::load(const QString &path)
 {
-    if (m_keeper.isBusy())
+    if (keeper()->isBusy())
         return;
     setLoading(true);
-    m_keeper.load(path, [this, path](const RowKeeper::Loaded &loaded) { showRead(path, loaded); });
+    keeper()->load(path, [this, path](const RowKeeper::Loaded &loaded) { showRead(path, loaded); });
 }
 
 void TeachScreen::showRead(const QString &path, const RowKeeper::Loaded &loaded)
@@ -189,31 +181,7 @@ void TeachScreen::showProgram(const QString &path, const QList<QStringList> &pro
     m_selectKey->setChecked(false);
     setRows(program);
     markStored(rows());
-    Q_EMIT causeEnded(ownFile);
-}
-
-void TeachScreen::store()
-{
-    if (m_keeper.isBusy())
-        return;
-    const QList<QStringList> taught = rows();
-    m_keeper.store(m_file, taught,
-                   [this, taught](const RowKeeper::Stored &stored) { noteStored(taught, stored); });
-}
-
-// The operator may have changed a row since.
-void TeachScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored)
-{
-    if (!stored.isStored)
-        return Q_EMIT told(stored.error, Message::Alarm, storage);
-    markStored(rows);
-    Q_EMIT causeEnded(storage);
-    Q_EMIT causeEnded(ownFile);
-    QString text = tr("%1 stored, instructions: %2.").arg(title()).arg(rows.size());
-    if (!stored.asidePath.isEmpty())
-        text += QLatin1Char(' ')
-                + tr("What stood there is %1 now.").arg(QFileInfo(stored.asidePath).fileName());
-    Q_EMIT told(text, Message::Information);
+    Q_EMIT causeEnded(fileCause());
 }
 
 QString TeachScreen::nameOf(const QString &path) const
@@ -233,7 +201,7 @@ bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
     if (path != m_file && QFileInfo(path).path() == QFileInfo(m_file).path()) {
         m_file = path;
         // What that file holds was never shown.
-        m_stored.clear();
+        markStored(QList<QStringList>());
     }
     m_selectKey->setChecked(false);
     setRows(rows);
@@ -244,7 +212,7 @@ bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
 
 void TeachScreen::askAndLoad()
 {
-    if (!mayLoseChanges(tr("Loading replaces what was changed and is not stored.")))
+    if (!mayLoseProgram(tr("Loading replaces what was changed and is not stored.")))
         return;
     const QString path = PathPicker::pick(tr("Load a taught program"), m_folder);
     if (!path.isEmpty())
@@ -360,30 +328,7 @@ void TeachScreen::followRow(int row)
     m_machine->setCurrentPoint(list()->getJposIndex(row));
 }
 
-void TeachScreen::markStored(const QList<QStringList> &rows)
+bool TeachScreen::mayLoseProgram(const QString &question)
 {
-    m_stored = rows;
-    refreshStatus();
-    Q_EMIT titleChanged();
-}
-
-bool TeachScreen::mayLoseChanges(const QString &question)
-{
-    refreshStatus();
-    if (!m_changed)
-        return true;
-    // While the answer is stored the operator may ask for the end once more.
-    if (m_isAsking)
-        return false;
-    m_isAsking = true;
-    const int answer =
-        QMessageBox::warning(nullptr, tr("Taught program"), question,
-                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    if (answer == QMessageBox::Save) {
-        m_keeper.wait();
-        store();
-        m_keeper.wait();
-    }
-    m_isAsking = false;
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !m_changed);
+    return mayLoseChanges(tr("Taught program"), question);
 }

@@ -5,7 +5,6 @@
 #define TEACHSCREEN_H
 
 #include "screens/listscreen.h"
-#include "storage/rowkeeper.h"
 
 class MachineData;
 
@@ -22,20 +21,13 @@ public:
                 QWidget *parent = nullptr);
 
     QString title() const override;
-    bool hasChanges() const override { return m_changed; }
     QList<PanelKey *> keys() override;
     bool mayClose() override;
-    /// Also sees whether the operator has changed a row: the list tells nobody.
-    void refreshStatus() override;
 
     QString filePath() const override;
     /// Reads the program of that path beside the event loop; the screen keeps what it shows if that
     /// fails.
     void load(const QString &path);
-    /// Writes the program beside the event loop; ends in told().
-    void store();
-    /// Milliseconds after which a file counts as one that does not answer.
-    void setStallTime(int ms) { m_keeper.setStallTime(ms); }
     /// Shows \a rows that were not stored when the program ended, as changes to the file \a path;
     /// false for rows that are no instructions.
     bool bringBack(const QString &path, const QList<QStringList> &rows) override;
@@ -44,6 +36,9 @@ public:
 
 protected:
     void retranslate() override;
+    QString storePath() const override { return filePath(); }
+    QString storedText(int count) const override;
+    QString fileCause() const override;
 
 private:
     void showClearing(int percent);
@@ -51,7 +46,6 @@ private:
     void showFirst(const RowKeeper::Loaded &loaded);
     void showRead(const QString &path, const RowKeeper::Loaded &loaded);
     void showProgram(const QString &path, const QList<QStringList> &program);
-    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
     void askAndLoad();
     void clear();
     void insertMovement(const QString &kind);
@@ -60,17 +54,12 @@ private:
     void choosePoint(int row);
     void chooseSpeed(int row);
     void followRow(int row);
-    void markStored(const QList<QStringList> &rows);
-    bool mayLoseChanges(const QString &question);
+    bool mayLoseProgram(const QString &question);
 
     const QString m_folder;
     QString m_file;
     MachineData *m_machine;
     PanelKey *m_selectKey;
-    RowKeeper m_keeper;
-    QList<QStringList> m_stored;
-    bool m_changed = false;
-    bool m_isAsking = false;
 };
 
 #endif // TEACHSCREEN_H

@@ -9,9 +9,7 @@
 #include "tlistwidget.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QHash>
-#include <QMessageBox>
 
 namespace {
 
@@ -52,20 +50,16 @@ QList<QStringList> emptied(QList<QStringList> rows)
     return rows;
 }
 
-// What messages are about.
-const QLatin1String ownFile("variables");
-const QLatin1String storage("storage");
-
 } // namespace
 
 VariablesScreen::VariablesScreen(const QSize &surface, const QString &folder, QWidget *parent)
-    : ListScreen(surface, QStringList(), surface.width() < FilarixPanel::wideFrom ? 4 : 1, parent)
+    : ListScreen(surface, QStringList(), surface.width() < FilarixPanel::wideFrom ? 4 : 1,
+                 new RowKeeper(QLatin1String("Machine variables"), &RowFile::read), parent)
     , m_file(QDir(folder).filePath(QLatin1String("variables.txt")))
-    , m_keeper(QLatin1String("Machine variables"), &RowFile::read)
 {
     addPagingKeys();
     setLoading(true);
-    m_keeper.load(m_file, [this](const RowKeeper::Loaded &loaded) { showRead(loaded); });
+    keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showRead(loaded); });
 }
 
 QString VariablesScreen::title() const
@@ -82,59 +76,17 @@ QList<PanelKey *> VariablesScreen::keys()
 
 bool VariablesScreen::mayClose()
 {
-    refreshStatus();
-    if (!m_changed)
-        return true;
-    // While the answer is stored the operator may ask for the end once more.
-    if (m_isAsking)
-        return false;
-    m_isAsking = true;
-    const int answer =
-        QMessageBox::warning(nullptr, title(),
-                             tr("The variables have changes that are not "
-                                "stored."),
-                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    if (answer == QMessageBox::Save) {
-        m_keeper.wait();
-        store();
-        m_keeper.wait();
-    }
-    m_isAsking = false;
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !m_changed);
+    return mayLoseChanges(title(), tr("The variables have changes that are not stored."));
 }
 
-void VariablesScreen::refreshStatus()
+QString VariablesScreen::storedText(int count) const
 {
-    const bool changed = rows() != m_stored;
-    if (changed == m_changed)
-        return;
-    m_changed = changed;
-    Q_EMIT titleChanged();
+    return tr("Variables stored: %1.").arg(count);
 }
 
-void VariablesScreen::store()
+QString VariablesScreen::fileCause() const
 {
-    if (m_keeper.isBusy())
-        return;
-    const QList<QStringList> values = rows();
-    m_keeper.store(m_file, values + m_foreign,
-                   [this, values](const RowKeeper::Stored &stored) { noteStored(values, stored); });
-}
-
-// The operator may have changed a value since.
-void VariablesScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored)
-{
-    if (!stored.isStored)
-        return Q_EMIT told(stored.error, Message::Alarm, storage);
-    m_stored = rows;
-    refreshStatus();
-    Q_EMIT causeEnded(storage);
-    Q_EMIT causeEnded(ownFile);
-    QString text = tr("Variables stored: %1.").arg(rows.size());
-    if (!stored.asidePath.isEmpty())
-        text += QLatin1Char(' ')
-                + tr("What stood there is %1 now.").arg(QFileInfo(stored.asidePath).fileName());
-    Q_EMIT told(text, Message::Information);
+    return QLatin1String("variables");
 }
 
 QString VariablesScreen::nameOf(const QString &) const
@@ -196,13 +148,7 @@ void VariablesScreen::showRead(const RowKeeper::Loaded &loaded)
     }
     setRows(all);
     setLoading(false);
-    m_stored = rows();
-    if (loaded.state == RowKeeper::Loaded::Broken)
-        Q_EMIT told(loaded.error + QLatin1Char(' ')
-                        + tr("The values are empty. Store first puts that file aside."),
-                    Message::Alarm, ownFile);
-    else if (loaded.state == RowKeeper::Loaded::Stalled)
-        Q_EMIT told(loaded.error + QLatin1Char(' ')
-                        + tr("The values are empty. Switch the panel off and on."),
-                    Message::Alarm, storage);
+    markStored(rows());
+    tellUnread(loaded, tr("The values are empty. Store first puts that file aside."),
+               tr("The values are empty. Switch the panel off and on."));
 }

@@ -5,7 +5,6 @@
 #define VARIABLESSCREEN_H
 
 #include "screens/listscreen.h"
-#include "storage/rowkeeper.h"
 
 /// The machine's variables: a list of plain data rows, each a number, a name and a value, kept in
 /// a text file of the host.
@@ -19,13 +18,9 @@ public:
     VariablesScreen(const QSize &surface, const QString &folder, QWidget *parent = nullptr);
 
     QString title() const override;
-    bool hasChanges() const override { return m_changed; }
     QList<PanelKey *> keys() override;
     bool mayClose() override;
-    void refreshStatus() override;
 
-    /// Writes the values beside the event loop; ends in told().
-    void store();
     /// Shows the values in \a rows that were not stored when the program ended; false if there
     /// are none of the machine's variables among them.
     bool bringBack(const QString &path, const QList<QStringList> &rows) override;
@@ -33,20 +28,19 @@ public:
     QString describe(const QString &name, const QString &time, int count) const override;
     /// The value of a variable as text; null for a name that isn't there.
     QString value(const QString &name) const;
-    /// Milliseconds after which a file counts as one that does not answer.
-    void setStallTime(int ms) { m_keeper.setStallTime(ms); }
+
+protected:
+    QString storePath() const override { return m_file; }
+    QList<QStringList> rowsToStore() const override { return rows() + m_foreign; }
+    QString storedText(int count) const override;
+    QString fileCause() const override;
 
 private:
     void showRead(const RowKeeper::Loaded &loaded);
-    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
 
     const QString m_file;
-    RowKeeper m_keeper;
-    QList<QStringList> m_stored;
     /// Rows of the file for which the machine has no variable: they are stored with the others.
     QList<QStringList> m_foreign;
-    bool m_changed = false;
-    bool m_isAsking = false;
 };
 
 #endif // VARIABLESSCREEN_H
