@@ -289,6 +289,10 @@
         <source>Loading ...</source>
         <translation>Wird geladen ...</translation>
     </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Die bisherige Datei heißt jetzt %1.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -707,10 +711,6 @@
         <translation>%1 ist nicht da.</translation>
     </message>
     <message>
-        <source>What stood there is %1 now.</source>
-        <translation>Die bisherige Datei heißt jetzt %1.</translation>
-    </message>
-    <message>
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, Befehle: %3</translation>
     </message>
@@ -739,73 +739,6 @@
     </message>
 </context>
 <context>
-    <name>UnsavedOffer</name>
-    <message>
-        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
-        <translation>Ungespeicherte Arbeit eines früheren Laufs ist nicht lesbar. Sie wurde beiseitegelegt: %1.</translation>
-    </message>
-    <message>
-        <source>%1 was not brought back. It is offered again at the next start.</source>
-        <translation>%1 wurde nicht zurückgeholt. Beim nächsten Start wird es wieder angeboten.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not stored yet.</source>
-        <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
-    </message>
-    <message>
-        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
-        <translation>%1 war nicht ganz geladen. Das Ungespeicherte davon ist jetzt ein neues Programm.</translation>
-    </message>
-    <message>
-        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
-        <translation>%1 ist nicht mehr da. Das Ungespeicherte davon ist jetzt ein neues Programm.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
-        <translation>%1: zurückgeholt, noch nicht gespeichert. Die Datei hat sich seither geändert: Sichern überschreibt das.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not saved yet.</source>
-        <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>Unbenannt</translation>
-    </message>
-    <message>
-        <source>%1, %2, lines: %3</source>
-        <translation>%1, %2, Zeilen: %3</translation>
-    </message>
-    <message>
-        <source>Unsaved work</source>
-        <translation>Ungespeicherte Arbeit</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>Ungespeicherte Arbeit endgültig verwerfen?</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Throw away</source>
-        <translation>Verwerfen</translation>
-    </message>
-    <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>Dies war beim Ende des Panels nicht gespeichert. Zurückholen?</translation>
-    </message>
-    <message>
-        <source>Keep for later</source>
-        <translation>Für später</translation>
-    </message>
-    <message>
-        <source>Bring back</source>
-        <translation>Zurückholen</translation>
-    </message>
-</context>
-<context>
     <name>VariablesScreen</name>
     <message>
         <source>Machine variables</source>
@@ -822,10 +755,6 @@
     <message>
         <source>Variables stored: %1.</source>
         <translation>Gespeicherte Variablen: %1.</translation>
-    </message>
-    <message>
-        <source>What stood there is %1 now.</source>
-        <translation>Die bisherige Datei heißt jetzt %1.</translation>
     </message>
     <message>
         <source>The values are empty. Store first puts that file aside.</source>

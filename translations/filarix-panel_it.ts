@@ -289,6 +289,10 @@
         <source>Loading ...</source>
         <translation>Caricamento ...</translation>
     </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Il file precedente ora si chiama %1.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -707,10 +711,6 @@
         <translation>%1 non c&apos;è.</translation>
     </message>
     <message>
-        <source>What stood there is %1 now.</source>
-        <translation>Il file precedente ora si chiama %1.</translation>
-    </message>
-    <message>
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, istruzioni: %3</translation>
     </message>
@@ -739,73 +739,6 @@
     </message>
 </context>
 <context>
-    <name>UnsavedOffer</name>
-    <message>
-        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
-        <translation>Il lavoro non salvato di una sessione precedente non è leggibile. È stato messo da parte: %1.</translation>
-    </message>
-    <message>
-        <source>%1 was not brought back. It is offered again at the next start.</source>
-        <translation>%1 non è stato ripristinato. Sarà riproposto al prossimo avvio.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not stored yet.</source>
-        <translation>%1: ripristinato, non ancora salvato.</translation>
-    </message>
-    <message>
-        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
-        <translation>%1 non era stato caricato per intero. La parte non salvata ora è un nuovo programma.</translation>
-    </message>
-    <message>
-        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
-        <translation>%1 non c&apos;è più. La parte non salvata ora è un nuovo programma.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
-        <translation>%1: ripristinato, non ancora salvato. Il file è cambiato da allora: &quot;Salva&quot; lo sovrascrive.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not saved yet.</source>
-        <translation>%1: ripristinato, non ancora salvato.</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>Senza nome</translation>
-    </message>
-    <message>
-        <source>%1, %2, lines: %3</source>
-        <translation>%1, %2, righe: %3</translation>
-    </message>
-    <message>
-        <source>Unsaved work</source>
-        <translation>Lavoro non salvato</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>Scartare per sempre il lavoro non salvato?</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Throw away</source>
-        <translation>Scarta</translation>
-    </message>
-    <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>Non era salvato quando il pannello è terminato. Ripristinare?</translation>
-    </message>
-    <message>
-        <source>Keep for later</source>
-        <translation>Più tardi</translation>
-    </message>
-    <message>
-        <source>Bring back</source>
-        <translation>Ripristina</translation>
-    </message>
-</context>
-<context>
     <name>VariablesScreen</name>
     <message>
         <source>Machine variables</source>
@@ -822,10 +755,6 @@
     <message>
         <source>Variables stored: %1.</source>
         <translation>Variabili salvate: %1.</translation>
-    </message>
-    <message>
-        <source>What stood there is %1 now.</source>
-        <translation>Il file precedente ora si chiama %1.</translation>
     </message>
     <message>
         <source>The values are empty. Store first puts that file aside.</source>

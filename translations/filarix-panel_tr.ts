@@ -289,6 +289,10 @@
         <source>Loading ...</source>
         <translation>Yükleniyor ...</translation>
     </message>
+    <message>
+        <source>What stood there is %1 now.</source>
+        <translation>Önceki dosyanın adı artık %1.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -707,10 +711,6 @@
         <translation>%1 yok.</translation>
     </message>
     <message>
-        <source>What stood there is %1 now.</source>
-        <translation>Önceki dosyanın adı artık %1.</translation>
-    </message>
-    <message>
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, komut: %3</translation>
     </message>
@@ -739,73 +739,6 @@
     </message>
 </context>
 <context>
-    <name>UnsavedOffer</name>
-    <message>
-        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
-        <translation>Önceki çalışmanın kaydedilmemiş işi okunamıyor. Kenara alındı: %1.</translation>
-    </message>
-    <message>
-        <source>%1 was not brought back. It is offered again at the next start.</source>
-        <translation>%1 geri alınmadı. Sonraki açılışta yeniden sunulur.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not stored yet.</source>
-        <translation>%1: geri alındı, henüz kaydedilmedi.</translation>
-    </message>
-    <message>
-        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
-        <translation>%1 tam açılmamıştı. Kaydedilmemiş kısmı artık yeni bir program.</translation>
-    </message>
-    <message>
-        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
-        <translation>%1 artık yok. Kaydedilmemiş içeriği artık yeni bir program.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
-        <translation>%1: geri alındı, henüz kaydedilmedi. Dosya o zamandan beri değişti: &quot;Kaydet&quot; üzerine yazar.</translation>
-    </message>
-    <message>
-        <source>%1: brought back, not saved yet.</source>
-        <translation>%1: geri alındı, henüz kaydedilmedi.</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>Adsız</translation>
-    </message>
-    <message>
-        <source>%1, %2, lines: %3</source>
-        <translation>%1, %2, satır: %3</translation>
-    </message>
-    <message>
-        <source>Unsaved work</source>
-        <translation>Kaydedilmemiş iş</translation>
-    </message>
-    <message>
-        <source>Throw the unsaved work away for good?</source>
-        <translation>Kaydedilmemiş iş tümüyle atılsın mı?</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
-        <source>Throw away</source>
-        <translation>At</translation>
-    </message>
-    <message>
-        <source>This was not saved when the panel ended. Bring it back?</source>
-        <translation>Panel kapandığında bunlar kaydedilmemişti. Geri alınsın mı?</translation>
-    </message>
-    <message>
-        <source>Keep for later</source>
-        <translation>Sonraya sakla</translation>
-    </message>
-    <message>
-        <source>Bring back</source>
-        <translation>Geri al</translation>
-    </message>
-</context>
-<context>
     <name>VariablesScreen</name>
     <message>
         <source>Machine variables</source>
@@ -822,10 +755,6 @@
     <message>
         <source>Variables stored: %1.</source>
         <translation>Kaydedilen değişken: %1.</translation>
-    </message>
-    <message>
-        <source>What stood there is %1 now.</source>
-        <translation>Önceki dosyanın adı artık %1.</translation>
     </message>
     <message>
         <source>The values are empty. Store first puts that file aside.</source>

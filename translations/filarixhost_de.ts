@@ -611,6 +611,73 @@
     </message>
 </context>
 <context>
+    <name>UnsavedOffer</name>
+    <message>
+        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
+        <translation>Ungespeicherte Arbeit eines früheren Laufs ist nicht lesbar. Sie wurde beiseitegelegt: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back. It is offered again at the next start.</source>
+        <translation>%1 wurde nicht zurückgeholt. Beim nächsten Start wird es wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not stored yet.</source>
+        <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
+        <translation>%1 war nicht ganz geladen. Das Ungespeicherte davon ist jetzt ein neues Programm.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
+        <translation>%1 ist nicht mehr da. Das Ungespeicherte davon ist jetzt ein neues Programm.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
+        <translation>%1: zurückgeholt, noch nicht gespeichert. Die Datei hat sich seither geändert: Sichern überschreibt das.</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet.</source>
+        <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>%1, %2, lines: %3</source>
+        <translation>%1, %2, Zeilen: %3</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Ungespeicherte Arbeit</translation>
+    </message>
+    <message>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>Ungespeicherte Arbeit endgültig verwerfen?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Throw away</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>Dies war beim Ende des Panels nicht gespeichert. Zurückholen?</translation>
+    </message>
+    <message>
+        <source>Keep for later</source>
+        <translation>Für später</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Zurückholen</translation>
+    </message>
+</context>
+<context>
     <name>UnsavedWork</name>
     <message>
         <source>the storage does not answer</source>

@@ -611,6 +611,73 @@
     </message>
 </context>
 <context>
+    <name>UnsavedOffer</name>
+    <message>
+        <source>Unsaved work of an earlier run cannot be read. It was put aside: %1.</source>
+        <translation>无法读取上次运行中未保存的工作。已改名留存: %1。</translation>
+    </message>
+    <message>
+        <source>%1 was not brought back. It is offered again at the next start.</source>
+        <translation>%1 未恢复。下次启动时会再次提供。</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not stored yet.</source>
+        <translation>%1: 已恢复, 尚未保存。</translation>
+    </message>
+    <message>
+        <source>%1 had not been loaded whole. What was not saved of it is a new program now.</source>
+        <translation>%1 未完整加载。其未保存的内容现为新程序。</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more. What was not saved of it is a new program now.</source>
+        <translation>%1 已不存在。其未保存的内容现为新程序。</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet. The file has changed since then: Save covers that.</source>
+        <translation>%1: 已恢复, 尚未保存。文件此后已更改: “保存”会将其覆盖。</translation>
+    </message>
+    <message>
+        <source>%1: brought back, not saved yet.</source>
+        <translation>%1: 已恢复, 尚未保存。</translation>
+    </message>
+    <message>
+        <source>New program</source>
+        <translation>新程序</translation>
+    </message>
+    <message>
+        <source>%1, %2, lines: %3</source>
+        <translation>%1, %2, 行数: %3</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>未保存的工作</translation>
+    </message>
+    <message>
+        <source>Throw the unsaved work away for good?</source>
+        <translation>永久丢弃未保存的工作吗?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Throw away</source>
+        <translation>丢弃</translation>
+    </message>
+    <message>
+        <source>This was not saved when the panel ended. Bring it back?</source>
+        <translation>面板结束时以下内容未保存。要恢复吗?</translation>
+    </message>
+    <message>
+        <source>Keep for later</source>
+        <translation>留待以后</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>恢复</translation>
+    </message>
+</context>
+<context>
     <name>UnsavedWork</name>
     <message>
         <source>the storage does not answer</source>
