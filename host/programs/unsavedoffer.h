@@ -4,6 +4,8 @@
 #ifndef UNSAVEDOFFER_H
 #define UNSAVEDOFFER_H
 
+#include "base/filarixhostglobal.h"
+
 #include "base/message.h"
 #include "programs/keptwork.h"
 #include "programs/unsavedsession.h"
@@ -29,7 +31,7 @@ class WMMainWindow;
 ///     offer->setProgram(program);
 ///     offer->addRows("teach", teachScreen);
 ///     offer->start();
-class UnsavedOffer : public QObject
+class FILARIX_HOST_EXPORT UnsavedOffer : public QObject
 {
     Q_OBJECT
 

@@ -4,13 +4,15 @@
 #ifndef UNSAVEDROWS_H
 #define UNSAVEDROWS_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 /// A screen whose rows an operator edits. UnsavedWork keeps the rows while they are not stored, and
 /// UnsavedOffer brings them back. All calls come from the screen's own thread.
-class UnsavedRows
+class FILARIX_HOST_EXPORT UnsavedRows
 {
 public:
     UnsavedRows() = default;
