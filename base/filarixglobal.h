@@ -16,7 +16,7 @@
 // Host and library need one address for the meta-object of a class, or qobject_cast fails for all
 // of the library's. The toolkit of PCs asks for the same.
 #if !defined(FILARIX_BUILD) && defined(__ELF__)                                                    \
-    && (!defined(__PIC__) || (defined(__PIE__) && defined(Q_CC_GNU) && Q_CC_GNU >= 500))
+    && (!defined(__PIC__) || (defined(__PIE__) && __GNUC__ >= 5))
 #error "Compile hosts of the Filarix Module with -fPIC; -fPIE is not enough."
 #endif
 

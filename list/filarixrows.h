@@ -381,11 +381,11 @@ inline void checkInList(const QList<QStringList> &rows, int i, int firstIndex, i
     const QString kind = row.value(Kind);
     const int index = firstIndex + i;
     const bool isData = kind == QLatin1String(dataEditor);
+    const bool isOther = kind == QLatin1String(other) && isOtherLength(row.size());
     if (isData != (rows.first().value(Kind) == QLatin1String(dataEditor)))
         problems << Problem(index, Kind, MixedFamilies);
-    else if (isData && row.size() != rows.first().size())
-        problems << Problem(index, row.size(), WrongLength);
-    else if (kind == QLatin1String(other) && isOtherLength(row.size()) && row.size() != otherLength)
+    else if ((isData && row.size() != rows.first().size())
+             || (isOther && row.size() != otherLength))
         problems << Problem(index, row.size(), WrongLength);
     // A list with a title never writes the letter; the first row of one without is no title.
     if (firstIndex > 0 && FilarixRows::isInstruction(kind) && hasLetter(row.value(Num)))
