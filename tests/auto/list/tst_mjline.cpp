@@ -7,6 +7,7 @@
 #include "filarixtest.h"
 #include "label.h"
 #include "mjline.h"
+#include "rowfixture.h"
 #include "rowstyle_p.h"
 #include "rowview.h"
 
@@ -15,6 +16,8 @@
 #include <QMetaMethod>
 #include <QPointer>
 #include <QVBoxLayout>
+
+using namespace RowFixture;
 
 /// Notes the signals of a row in order, and can do what a host does on them.
 class LineListener : public QObject
@@ -128,10 +131,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const QSize listSize(480, 800);
-const QString down = QString::fromUtf8("(↓)");
-const QString up = QString::fromUtf8("(↑)");
 
 QStringList sample(const QString &num = QLatin1String("7"))
 {

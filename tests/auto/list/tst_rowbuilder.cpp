@@ -7,6 +7,7 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "mjline.h"
+#include "rowfixture.h"
 #include "rowprobe.h"
 #include "rowview.h"
 #include "tlistwidget.h"
@@ -16,6 +17,8 @@
 #include <random>
 
 using namespace FilarixRows;
+using RowFixture::listSize;
+using RowFixture::numbers;
 
 /// The host's builder and checker of rows, held against what the widgets make of the rows.
 class TestRowBuilder : public FilarixTest
@@ -50,8 +53,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const QSize listSize(480, 800);
 
 typedef std::mt19937 Random;
 
@@ -122,14 +123,6 @@ bool hasChangingFault(const QList<Problem> &problems)
             return true;
     }
     return false;
-}
-
-QStringList texts(int count)
-{
-    QStringList result;
-    while (result.size() < count)
-        result << QString::number(result.size());
-    return result;
 }
 
 QByteArray words(const QList<Problem> &problems)
@@ -283,13 +276,13 @@ void TestRowBuilder::everyFaultIsFoundAtItsPlace_data()
     const QStringList note = otherRow(7, "M05");
     QTest::newRow("other") << note << none << none;
     QTest::newRow("other of four") << QStringList(note.mid(0, 4)) << none << none;
-    QTest::newRow("other of ten") << QStringList(note + texts(5)) << none << none;
+    QTest::newRow("other of ten") << QStringList(note + numbers(1, 5)) << none << none;
     QTest::newRow("other too short") << QStringList(note.mid(0, 3)) << 3 << int(WrongLength);
-    QTest::newRow("other too long") << QStringList(note + texts(6)) << 11 << int(WrongLength);
+    QTest::newRow("other too long") << QStringList(note + numbers(1, 6)) << 11 << int(WrongLength);
     QTest::newRow("other's number with N") << spoilt(note, 1, "N7") << none << none;
     QTest::newRow("other's number") << spoilt(note, 1, "N8") << 1 << int(NumIsNotIndex);
     QTest::newRow("other of six, its second cell")
-        << spoilt(QStringList(note + texts(1)), 2, "y") << none << none;
+        << spoilt(QStringList(note + numbers(1, 1)), 2, "y") << none << none;
     QTest::newRow("other's shared cell") << spoilt(note, 2, "x") << 2 << int(SharedCell);
     QTest::newRow("other without mark") << spoilt(note, 3, "oth") << 3 << int(MarkMissing);
 
@@ -302,8 +295,8 @@ void TestRowBuilder::everyFaultIsFoundAtItsPlace_data()
     QTest::newRow("table's other number") << spoilt(data, 1, "N8") << 1 << int(NumIsNotIndex);
     QTest::newRow("table of a number alone")
         << QStringList(data.mid(0, 2)) << 2 << int(WrongLength);
-    QTest::newRow("table of 32 strings") << dataRow(7, texts(31)) << none << none;
-    QTest::newRow("table of 33 strings") << dataRow(7, texts(32)) << 34 << int(WrongLength);
+    QTest::newRow("table of 32 strings") << dataRow(7, numbers(1, 31)) << none << none;
+    QTest::newRow("table of 33 strings") << dataRow(7, numbers(1, 32)) << 34 << int(WrongLength);
     QTest::newRow("table's shared cell") << dataRow(7, QStringList() << "a"
                                                                      << "b"
                                                                      << "c")
@@ -463,7 +456,7 @@ void TestRowBuilder::noPageShowsATitleAmongTheRowsAgain()
 void TestRowBuilder::tablesOfOtherLengthsLoseStrings()
 {
     for (int strings = 2; strings <= 40; ++strings) {
-        QStringList cells = texts(strings - 1);
+        QStringList cells = numbers(1, strings - 1);
         if (strings == 4)
             cells.first().clear(); // shares its place with the second
         const QStringList row = dataRow(7, cells);
@@ -498,7 +491,8 @@ void TestRowBuilder::otherRowsOfOneLengthMakeAList()
         }
         // One of another length stays unseen, and so does any but five strings among instructions.
         QList<QStringList> odd = rows;
-        odd[3] = length == 4 ? QStringList(rows.at(3) + texts(1)) : rows.at(3).mid(0, length - 1);
+        odd[3] =
+            length == 4 ? QStringList(rows.at(3) + numbers(1, 1)) : rows.at(3).mid(0, length - 1);
         QVERIFY(checkRows(odd, 0) == QList<Problem>() << Problem(3, odd.at(3).size(), WrongLength));
         rows[0] = goodRow(0);
         QCOMPARE(checkRows(rows, 0).size(), length == 5 ? 0 : 19);

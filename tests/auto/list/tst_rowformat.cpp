@@ -4,9 +4,12 @@
 #include "dataeditor.h"
 #include "filarixtest.h"
 #include "mjline.h"
+#include "rowfixture.h"
 #include "rowview.h"
 
 #include <random>
+
+using namespace RowFixture;
 
 /// How a list of strings becomes a row and a list again.
 class TestRowFormat : public FilarixTest
@@ -35,10 +38,6 @@ private Q_SLOTS:
 
 namespace {
 
-const QSize listSize(480, 800);
-const QString down = QString::fromUtf8("(↓)");
-const QString up = QString::fromUtf8("(↑)");
-
 typedef std::mt19937 Random;
 
 /// Up to 8 characters; \a without are left out.
@@ -66,14 +65,6 @@ QStringList randomList(Random &random, int length)
         if (random() % 5 == 0)
             list[i] = "Oth";
     }
-    return list;
-}
-
-QStringList numbered(int count)
-{
-    QStringList list;
-    for (int i = 0; i < count; ++i)
-        list << QString::fromLatin1("s%1").arg(i);
     return list;
 }
 

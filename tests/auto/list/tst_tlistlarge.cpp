@@ -2,55 +2,26 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "rowfixture.h"
 #include "rowprobe.h"
 #include "tlistwidget.h"
 
 #include <QSet>
 #include <QSignalSpy>
 
+using namespace RowFixture;
 using namespace RowProbe;
 
 namespace {
 
 const int manyRows = FilarixTest::scaled(100000);
 
-QStringList titleRow()
-{
-    QStringList row;
-    row << "Title"
-        << "Title";
-    for (int i = 1; i <= 11; ++i)
-        row << QString("column %1").arg(i);
-    return row;
-}
-
-/// As a host reads it from its file: 31 strings of its own, of which the number, the Jpos index
-/// and six values differ from those of the row before.
-QStringList taughtRow(int number)
-{
-    const QString n = QString::number(number);
-    QStringList row;
-    row << "MJ" << n << "MOVJ"
-        << "P" << n << "V"
-        << "100"
-        << "Z"
-        << "1.500"
-        << "T"
-        << "0.25"
-        << "Att"
-        << "first_layer";
-    for (int k = 0; k < 9; ++k)
-        row << QString("J%1").arg(k + 1)
-            << (k < 6 ? QString::number(number * (k + 1)) : QString("50"));
-    return row;
-}
-
 /// A list of rows that were appended without drawing.
 class LargeList
 {
 public:
     explicit LargeList(bool titled)
-        : m_title(titled ? titleRow() : QStringList())
+        : m_title(titled ? columnTitle() : QStringList())
         , m_list(m_title, nullptr)
         , m_t(titled ? 1 : 0)
     {

@@ -5,6 +5,7 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "recordingkeypads.h"
+#include "rowfixture.h"
 #include "rowprobe.h"
 #include "tlistwidget.h"
 
@@ -17,6 +18,7 @@
 
 Q_DECLARE_METATYPE(QList<int>)
 
+using namespace RowFixture;
 using namespace RowProbe;
 
 namespace {
@@ -26,68 +28,13 @@ const char plainSheet[] =
 const char selectedSheet[] =
     "border-style:solid;border-width: 1px;background-color: #00ffff;color: #ffffff;";
 
-/// 31 strings, kind first.
-QStringList instruction(const QString &number, const QString &kind = QLatin1String("MJ"))
-{
-    QStringList row;
-    row << kind << number << "MOVE"
-        << "P"
-        << "4"
-        << "V"
-        << "6"
-        << "Z"
-        << "8"
-        << "T"
-        << "10"
-        << "Att"
-        << "free_text";
-    for (int position = 13; position <= 30; position += 2)
-        row << QString("k%1").arg(position) << QString::number(position + 1);
-    return row;
-}
-
-QStringList instruction(int number)
-{
-    return instruction(QString::number(number));
-}
-
-/// The row that an instruction widget shows as a table.
-QStringList comment(const QString &number, const QString &text)
-{
-    return QStringList() << "Oth" << number << ""
-                         << "Oth" << text;
-}
-
-QStringList variable(const QString &number, const QString &value)
-{
-    return QStringList() << "DataEditor" << number << "name" << value;
-}
-
-QStringList title()
-{
-    QStringList row;
-    row << "Title"
-        << "Title"
-        << "No"
-        << "Ins"
-        << ""
-        << "P"
-        << ""
-        << "V"
-        << ""
-        << "Z"
-        << ""
-        << "T";
-    return row;
-}
-
 /// A list with or without a title and with \a rows instructions, numbered by their index, on the
 /// last page.
 class Program
 {
 public:
     Program(bool titled, int rows)
-        : m_title(titled ? ::title() : QStringList()), m_list(m_title, nullptr)
+        : m_title(titled ? title() : QStringList()), m_list(m_title, nullptr)
     {
         for (int i = 0; i < rows; ++i) {
             QStringList row = instruction(m_list.count());
@@ -130,14 +77,6 @@ private:
     QStringList m_title;
     TListWidget m_list;
 };
-
-QStringList numbers(int first, int last)
-{
-    QStringList result;
-    for (int i = first; i <= last; ++i)
-        result << QString::number(i);
-    return result;
-}
 
 QList<int> integers(const QSignalSpy &spy)
 {

@@ -6,6 +6,7 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "label.h"
+#include "rowfixture.h"
 
 #include <QDoubleValidator>
 #include <QHBoxLayout>
@@ -13,6 +14,8 @@
 #include <QSignalSpy>
 
 #include <random>
+
+using namespace RowFixture;
 
 /// Notes the signals of a row in order.
 class RowListener : public QObject
@@ -77,16 +80,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const QSize tableSize(480, 800);
-
-QStringList numbered(int count)
-{
-    QStringList list;
-    for (int i = 0; i < count; ++i)
-        list << QString::fromLatin1("s%1").arg(i);
-    return list;
-}
 
 QList<QWidget *> cellsOf(const DataEditor &editor)
 {
@@ -274,10 +267,10 @@ void TestDataEditor::cellsOfARow()
     QFETCH(int, count);
     QFETCH(QStringList, cells);
     QStringList list = numbered(count);
-    const DataEditor editor(title, list, tableSize, nullptr, connection);
+    const DataEditor editor(title, list, listSize, nullptr, connection);
     QCOMPARE(editor.isTitle(), title);
     QCOMPARE(describeAll(editor), cells);
-    QCOMPARE(expectedCells(title, list, tableSize.width(), connection), cells);
+    QCOMPARE(expectedCells(title, list, listSize.width(), connection), cells);
 }
 
 void TestDataEditor::everyLengthAgreesWithTheSteps()
@@ -346,7 +339,7 @@ void TestDataEditor::rowHasItsFrameAndHeight()
 void TestDataEditor::cellsHaveTheirStyleAndPolicy()
 {
     QStringList list = numbered(5);
-    DataEditor editor(false, list, tableSize, nullptr, true);
+    DataEditor editor(false, list, listSize, nullptr, true);
     Q_FOREACH (QWidget *cell, cellsOf(editor)) {
         QCOMPARE(cell->parentWidget(), static_cast<QWidget *>(&editor));
         QCOMPARE(cell->styleSheet(),
@@ -378,7 +371,7 @@ void TestDataEditor::cellOfEachType()
     QFETCH(int, count);
     QFETCH(int, type);
     QStringList list = numbered(count);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     const int inLayout = editor.layout()->count();
     QWidget *cell = nullptr;
     editor.CreateWidget(&cell, type, "text", "color: #123456;", 2.0f);
@@ -392,7 +385,7 @@ void TestDataEditor::cellOfEachType()
 void TestDataEditor::emptyTextLeavesACellEmpty()
 {
     QStringList list = numbered(3);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     QWidget *cell = nullptr;
     editor.CreateWidget(&cell, 1, QString(), QString(), 2.0f);
     QCOMPARE(editor.getText(cell), QString());
@@ -404,13 +397,13 @@ void TestDataEditor::sharedCellShowsTheSecondStringOrTheFirst()
                                      << "name"
                                      << "Oth"
                                      << "v";
-    const DataEditor second(false, both, tableSize, nullptr, false);
+    const DataEditor second(false, both, listSize, nullptr, false);
     QCOMPARE(describe(cellsOf(second).at(1)), QString("QLabel 85 Oth"));
     QStringList noSecond = QStringList() << "1"
                                          << "name"
                                          << ""
                                          << "v";
-    const DataEditor first(false, noSecond, tableSize, nullptr, false);
+    const DataEditor first(false, noSecond, listSize, nullptr, false);
     QCOMPARE(describe(cellsOf(first).at(1)), QString("QLabel 85 name"));
 }
 
@@ -438,7 +431,7 @@ void TestDataEditor::sharedCellJoinsWhatIsWritten()
     QFETCH(QString, name);
     QFETCH(QString, value);
     QStringList list = numbered(4);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     QStringList data = QStringList() << "7" << name << value << "x";
     editor.setData(data);
     QTEST(editor.getText(cellsOf(editor).at(1)), "shown");
@@ -449,7 +442,7 @@ void TestDataEditor::sharedCellJoinsWhatIsWritten()
 void TestDataEditor::joinedTextComesBackWholeInThirdPlace()
 {
     QStringList list = numbered(4);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     QCOMPARE(editor.getData(), QStringList() << "s0"
                                              << ""
                                              << "s2"
@@ -471,7 +464,7 @@ void TestDataEditor::dataComesBackAsItWasWritten()
         if (count == 4)
             continue;
         QStringList list = numbered(count);
-        DataEditor editor(false, list, tableSize, nullptr, false);
+        DataEditor editor(false, list, listSize, nullptr, false);
         QCOMPARE(editor.getData(), list);
         for (int i = 0; i < count; ++i)
             list[i] = QString::fromUtf8("%1: ä_(x)").arg(i);
@@ -483,7 +476,7 @@ void TestDataEditor::dataComesBackAsItWasWritten()
 void TestDataEditor::dataOfAnotherLengthChangesNothing()
 {
     QStringList list = numbered(5);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     for (int count = 0; count <= 40; ++count) {
         if (count == 5)
             continue;
@@ -498,7 +491,7 @@ void TestDataEditor::dataOfAnotherLengthChangesNothing()
 void TestDataEditor::indexIsTheFirstCell()
 {
     QStringList list = numbered(5);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     editor.setIndex("N12");
     list[0] = "N12";
     QCOMPARE(editor.getData(), list);
@@ -526,7 +519,7 @@ void TestDataEditor::rowNumber()
     QFETCH(QString, text);
     QFETCH(int, number);
     QStringList list = numbered(3);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     editor.setIndex(text);
     RowListener listener(&editor);
     editor.on_editfinished();
@@ -541,7 +534,7 @@ void TestDataEditor::pressOnTheFrameEmitsClickedOnce()
     QStringList list = QStringList() << "N4"
                                      << "a"
                                      << "b";
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     RowListener listener(&editor);
     QTest::mousePress(&editor, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
     QCOMPARE(listener.seen, QStringList() << "clicked 4");
@@ -552,7 +545,7 @@ void TestDataEditor::pressOnAPassiveCellReachesTheRow()
     QStringList list = QStringList() << "N4"
                                      << "a"
                                      << "b";
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     RowListener listener(&editor);
     QTest::mousePress(cellsOf(editor).at(1), Qt::LeftButton);
     QCOMPARE(listener.seen, QStringList() << "clicked 4");
@@ -563,7 +556,7 @@ void TestDataEditor::tapOnAClickableCellEmitsClickedOnce()
     QStringList list = QStringList() << "N4"
                                      << "a"
                                      << "b";
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     RowListener listener(&editor);
     QTest::mouseClick(cellsOf(editor).at(0), Qt::LeftButton);
     QCOMPARE(listener.seen, QStringList() << "clicked 4");
@@ -574,7 +567,7 @@ void TestDataEditor::tapOnAFieldReportsTheChangeThenTheTap()
     QStringList list = QStringList() << "N4"
                                      << "a"
                                      << "1.5";
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     RowListener listener(&editor);
     DeviceLog::acceptWith("2");
     QTest::mousePress(cellsOf(editor).at(2), Qt::LeftButton);
@@ -590,7 +583,7 @@ void TestDataEditor::cancelledFieldReportsTheTapAlone()
     QStringList list = QStringList() << "N4"
                                      << "a"
                                      << "1.5";
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     RowListener listener(&editor);
     DeviceLog::cancel();
     QTest::mousePress(cellsOf(editor).at(2), Qt::LeftButton);
@@ -603,7 +596,7 @@ void TestDataEditor::editedCellKeepsTheBareAnswer()
     QStringList list = QStringList() << "1"
                                      << "a"
                                      << "X:1.5";
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     DeviceLog::acceptWith("2.50");
     QTest::mousePress(cellsOf(editor).at(2), Qt::LeftButton);
     QVERIFY(DeviceLog::calls().contains("NumericKeypad.setText(1.5)"));
@@ -613,7 +606,7 @@ void TestDataEditor::editedCellKeepsTheBareAnswer()
 void TestDataEditor::rowOfFourHasNoValidatorInColumnThree()
 {
     QStringList list = numbered(4);
-    const DataEditor editor(false, list, tableSize, nullptr, false);
+    const DataEditor editor(false, list, listSize, nullptr, false);
     const ComboLineEdit *edit = qobject_cast<ComboLineEdit *>(cellsOf(editor).at(2));
     QVERIFY(edit);
     QVERIFY(!edit->validator());
@@ -640,7 +633,7 @@ void TestDataEditor::addressFieldTakesAnIpAddress()
 {
     QFETCH(QString, address);
     QStringList list = numbered(5);
-    const DataEditor editor(false, list, tableSize, nullptr, true);
+    const DataEditor editor(false, list, listSize, nullptr, true);
     const ComboLineEdit *edit = qobject_cast<ComboLineEdit *>(cellsOf(editor).last());
     QVERIFY(edit);
     int position = 0;
@@ -650,7 +643,7 @@ void TestDataEditor::addressFieldTakesAnIpAddress()
 void TestDataEditor::validatorBeforeTheAddressStaysAsAnIdleChild()
 {
     QStringList list = numbered(5);
-    const DataEditor editor(false, list, tableSize, nullptr, true);
+    const DataEditor editor(false, list, listSize, nullptr, true);
     ComboLineEdit *edit = qobject_cast<ComboLineEdit *>(cellsOf(editor).last());
     QVERIFY(edit);
     QCOMPARE(edit->findChildren<QDoubleValidator *>().size(), 1);
@@ -661,7 +654,7 @@ void TestDataEditor::validatorBeforeTheAddressStaysAsAnIdleChild()
 void TestDataEditor::wideTitleHasACellForEverySecondString()
 {
     QStringList list = numbered(12);
-    DataEditor editor(true, list, tableSize, nullptr, false);
+    DataEditor editor(true, list, listSize, nullptr, false);
     QCOMPARE(cellsOf(editor).size(), 2 + 5);
     // A header is not meant to be read or written; the strings without a cell are empty.
     QCOMPARE(editor.getData(), QStringList() << "s0"
@@ -698,7 +691,7 @@ void TestDataEditor::columnsPastTheLastHaveNoCell()
 {
     for (int count = 32; count <= 60; ++count) {
         QStringList list = numbered(count);
-        DataEditor editor(false, list, tableSize, nullptr, false);
+        DataEditor editor(false, list, listSize, nullptr, false);
         QCOMPARE(cellsOf(editor).size(), 32);
         QStringList expected = list;
         for (int i = 32; i < count; ++i)
@@ -714,7 +707,7 @@ void TestDataEditor::listOfFewerThanTwoStringsMakesEmptyCells()
     for (int count = 0; count < 2; ++count) {
         for (int flags = 0; flags < 4; ++flags) {
             QStringList list = numbered(count);
-            DataEditor editor(flags & 1, list, tableSize, nullptr, flags & 2);
+            DataEditor editor(flags & 1, list, listSize, nullptr, flags & 2);
             QCOMPARE(cellsOf(editor).size(), 2);
             QCOMPARE(editor.getData(), list);
             QStringList data;
@@ -729,7 +722,7 @@ void TestDataEditor::listOfFewerThanTwoStringsMakesEmptyCells()
 void TestDataEditor::foreignAndMissingCellsAreLeftAlone()
 {
     QStringList list = numbered(3);
-    DataEditor editor(false, list, tableSize, nullptr, false);
+    DataEditor editor(false, list, listSize, nullptr, false);
     editor.setText(nullptr, "x");
     QCOMPARE(editor.getText(nullptr), QString());
     QWidget area;
@@ -747,7 +740,7 @@ void TestDataEditor::foreignAndMissingCellsAreLeftAlone()
 void TestDataEditor::givenListStaysAsItIs()
 {
     QStringList list = numbered(12);
-    DataEditor editor(true, list, tableSize, nullptr, false);
+    DataEditor editor(true, list, listSize, nullptr, false);
     QCOMPARE(list, numbered(12));
     editor.setData(list);
     QCOMPARE(list, numbered(12));
