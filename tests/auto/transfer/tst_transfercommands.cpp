@@ -74,22 +74,10 @@ private Q_SLOTS:
     void missingStickRefusesACopy();
     void mountWithoutMarkerPassesTheUsbTest_data() { addWays(true, false); }
     void mountWithoutMarkerPassesTheUsbTest();
-    void newFileIsCopiedWithoutAQuestion_data() { addWays(true, false); }
-    void newFileIsCopiedWithoutAQuestion();
-    void failedCopyOfANewFileSaysSo_data() { addWays(true, false); }
-    void failedCopyOfANewFileSaysSo();
+    void fileIsCopied_data();
+    void fileIsCopied();
     void failedCopyLeavesWhatItWrote_data() { addWays(true, false); }
     void failedCopyLeavesWhatItWrote();
-    void coverIsAskedFor_data() { addWays(true, false); }
-    void coverIsAskedFor();
-    void coverGoesAheadOnlyOnYes_data();
-    void coverGoesAheadOnlyOnYes();
-    void coverDeletesThenCopies_data() { addWays(true, false); }
-    void coverDeletesThenCopies();
-    void failedDeleteStopsACover_data() { addWays(true, false); }
-    void failedDeleteStopsACover();
-    void failedCopyLosesTheCoveredFile_data() { addWays(true, false); }
-    void failedCopyLosesTheCoveredFile();
     void namesDifferingInCaseAreTwoFiles_data() { addWays(true, false); }
     void namesDifferingInCaseAreTwoFiles();
     void hiddenTwinIsOverwrittenWithoutAQuestion_data() { addWays(true, false); }
@@ -106,14 +94,8 @@ private Q_SLOTS:
     void goneCoverTargetIsUnexpected();
     void fileThatWrapsTheSumIsCopied();
 
-    void deleteIsAskedFor_data() { addWays(false, true); }
-    void deleteIsAskedFor();
-    void deleteStopsOnlyOnNo_data();
-    void deleteStopsOnlyOnNo();
-    void failedDeleteSaysSo_data() { addWays(false, true); }
-    void failedDeleteSaysSo();
-    void deleteOfAGoneFileSaysNothing_data() { addWays(false, true); }
-    void deleteOfAGoneFileSaysNothing();
+    void fileIsDeleted_data();
+    void fileIsDeleted();
     void deleteWithoutAStickOrASelectionNeverAsks();
 
     void selectionIsGoneAfterEachOperation_data() { addWays(true, true); }
@@ -137,6 +119,7 @@ private Q_SLOTS:
 
 private:
     static void addWays(bool copies, bool deletes);
+    static void answer(ModalDriver *driver, Manager *manager, const QByteArray &answers);
     static QString sourceDir(const Way *way) { return way->fromHmi ? programDir() : stickDir(); }
     static QString targetDir(const Way *way) { return way->fromHmi ? stickDir() : programDir(); }
     static QListView *source(const Manager &manager, const Way *way)
@@ -489,33 +472,104 @@ void TestTransferCommands::mountWithoutMarkerPassesTheUsbTest()
     QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("G01\n"));
 }
 
-void TestTransferCommands::newFileIsCopiedWithoutAQuestion()
+/// Has the boxes to come answered by "y", "n" and "o" for their buttons, or by "c", which closes
+/// box and dialog.
+void TestTransferCommands::answer(ModalDriver *driver, Manager *manager, const QByteArray &answers)
 {
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "N10 G01\n");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    manager.button(way->button)->click();
-    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << cp(way, "part.cnc"));
-    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("N10 G01\n"));
-    QCOMPARE(readFile(sourceDir(way) + "/part.cnc"), QByteArray("N10 G01\n"));
-    QCOMPARE(Manager::shown(manager.hmiView), QStringList("part.cnc"));
-    QCOMPARE(Manager::shown(manager.usbView), QStringList("part.cnc"));
+    for (int i = 0; i < answers.size(); ++i) {
+        switch (answers.at(i)) {
+        case 'y':
+            driver->press(QMessageBox::Yes);
+            break;
+        case 'n':
+            driver->press(QMessageBox::No);
+            break;
+        case 'o':
+            driver->press(QMessageBox::Ok);
+            break;
+        default:
+            driver->then([manager](QWidget *) { manager->dialog.reject(); });
+        }
+    }
 }
 
-void TestTransferCommands::failedCopyOfANewFileSaysSo()
+namespace {
+
+/// A touch of a copying key, with what is there before, what goes wrong, what the operator answers,
+/// and what there is afterwards.
+struct Copying
+{
+    const char *name;
+    const char *covered; // the file of that name on the other side
+    const char *failing; // the tool that ends with 1
+    const char *answers;
+    const char *told; // in the last box, behind the question
+    const char *tools;
+    const char *result;
+};
+
+const Copying copyings[] = {
+    {"a new file", nullptr, nullptr, "", nullptr, "cp", "new"},
+    {"a new file, the copy fails", nullptr, "cp", "o", "Copy file failed!", "cp", nullptr},
+    {"covered: no", "old", nullptr, "n", nullptr, "", "old"},
+    {"covered: closed", "old", nullptr, "c", nullptr, "", "old"},
+    {"covered: yes", "old", nullptr, "y", nullptr, "rm cp", "new"},
+    {"covered, the deletion fails", "old", "rm", "yo", "Can't cover this file!", "rm", "old"},
+    {"covered, the copy fails", "old", "cp", "yo", "Copy file failed!", "rm cp", nullptr},
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(const Copying *)
+
+void TestTransferCommands::fileIsCopied_data()
+{
+    QTest::addColumn<const Way *>("way");
+    QTest::addColumn<const Copying *>("copying");
+    for (const Copying &copying : copyings) {
+        QTest::newRow(QByteArray("panel to stick, ") + copying.name) << &toUsb << &copying;
+        QTest::newRow(QByteArray("stick to panel, ") + copying.name) << &toHmi << &copying;
+    }
+}
+
+void TestTransferCommands::fileIsCopied()
 {
     QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "x");
+    QFETCH(const Copying *, copying);
+    writeFile(sourceDir(way) + "/part.cnc", "new");
+    if (copying->covered)
+        writeFile(targetDir(way) + "/part.cnc", copying->covered);
     Manager manager;
     QVERIFY(select(manager, way, "part.cnc"));
-    Shell::standIn("cp", "exit 1\n");
+    if (copying->failing)
+        Shell::standIn(copying->failing, "exit 1\n");
     ModalDriver driver;
-    driver.press(QMessageBox::Ok);
+    answer(&driver, &manager, copying->answers);
     manager.button(way->button)->click();
     QVERIFY2(driver.finished(), driver.report());
-    EXPECT_CRITICAL(driver.boxes().value(0), way, "Copy file failed!");
-    QCOMPARE(commandsBeforeSync().size(), 1);
+
+    QList<QByteArray> commands;
+    Q_FOREACH (const QByteArray &tool, QByteArray(copying->tools).split(' ')) {
+        if (!tool.isEmpty())
+            commands << (tool == "rm" ? rm(targetDir(way), "part.cnc") : cp(way, "part.cnc"));
+    }
+    QCOMPARE(commandsBeforeSync(), commands);
+    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray(copying->result));
+    QCOMPARE(readFile(sourceDir(way) + "/part.cnc"), QByteArray("new"));
+    QCOMPARE(Manager::shown(source(manager, way)), QStringList("part.cnc"));
+    const QListView *const target = way->fromHmi ? manager.usbView : manager.hmiView;
+    QCOMPARE(Manager::shown(target).size(), copying->result ? 1 : 0);
+    if (copying->told)
+        EXPECT_CRITICAL(driver.boxes().last(), way, copying->told);
+    // A box that is closed with its dialog is not recorded.
+    if (!copying->covered || QByteArray(copying->answers) == "c")
+        return;
+    const ModalDriver::Box box = driver.boxes().value(0);
+    QCOMPARE(box.title, QString(way->title));
+    QCOMPARE(box.text, QString("part.cnc") + way->coverQuestion);
+    QCOMPARE(box.icon, QMessageBox::Warning);
+    QCOMPARE(int(box.buttons), int(QMessageBox::Yes | QMessageBox::No));
+    QCOMPARE(box.parent, static_cast<QWidget *>(&manager.dialog));
 }
 
 void TestTransferCommands::failedCopyLeavesWhatItWrote()
@@ -534,106 +588,6 @@ void TestTransferCommands::failedCopyLeavesWhatItWrote()
              QStringList("part.cnc"));
     if (!way->fromHmi)
         QCOMPARE(manager.status->text(), QString("Used Space 2M.Left Space 28M."));
-}
-
-void TestTransferCommands::coverIsAskedFor()
-{
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "new");
-    writeFile(targetDir(way) + "/part.cnc", "old");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    ModalDriver driver;
-    driver.press(QMessageBox::No);
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    const ModalDriver::Box box = driver.boxes().value(0);
-    QCOMPARE(box.title, QString(way->title));
-    QCOMPARE(box.text, QString("part.cnc") + way->coverQuestion);
-    QCOMPARE(box.icon, QMessageBox::Warning);
-    QCOMPARE(int(box.buttons), int(QMessageBox::Yes | QMessageBox::No));
-    QCOMPARE(box.parent, static_cast<QWidget *>(&manager.dialog));
-}
-
-void TestTransferCommands::coverGoesAheadOnlyOnYes_data()
-{
-    QTest::addColumn<const Way *>("way");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("panel to stick, no") << &toUsb << int(QMessageBox::No);
-    QTest::newRow("panel to stick, closed") << &toUsb << int(QMessageBox::NoButton);
-    QTest::newRow("stick to panel, no") << &toHmi << int(QMessageBox::No);
-    QTest::newRow("stick to panel, closed") << &toHmi << int(QMessageBox::NoButton);
-}
-
-void TestTransferCommands::coverGoesAheadOnlyOnYes()
-{
-    QFETCH(const Way *, way);
-    QFETCH(int, answer);
-    writeFile(sourceDir(way) + "/part.cnc", "new");
-    writeFile(targetDir(way) + "/part.cnc", "old");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    ModalDriver driver;
-    if (answer == QMessageBox::NoButton)
-        driver.then([&manager](QWidget *) { manager.dialog.reject(); });
-    else
-        driver.press(QMessageBox::StandardButton(answer));
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(Shell::commands(), QList<QByteArray>());
-    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("old"));
-}
-
-void TestTransferCommands::coverDeletesThenCopies()
-{
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "new");
-    writeFile(targetDir(way) + "/part.cnc", "old");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(commandsBeforeSync(), QList<QByteArray>()
-                                       << rm(targetDir(way), "part.cnc") << cp(way, "part.cnc"));
-    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("new"));
-}
-
-void TestTransferCommands::failedDeleteStopsACover()
-{
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "new");
-    writeFile(targetDir(way) + "/part.cnc", "old");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    Shell::standIn("rm", "exit 1\n");
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
-    driver.press(QMessageBox::Ok);
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    EXPECT_CRITICAL(driver.boxes().value(1), way, "Can't cover this file!");
-    QCOMPARE(commandsBeforeSync(), QList<QByteArray>() << rm(targetDir(way), "part.cnc"));
-    QCOMPARE(readFile(targetDir(way) + "/part.cnc"), QByteArray("old"));
-}
-
-void TestTransferCommands::failedCopyLosesTheCoveredFile()
-{
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "new");
-    writeFile(targetDir(way) + "/part.cnc", "old");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    Shell::standIn("cp", "exit 1\n");
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
-    driver.press(QMessageBox::Ok);
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    EXPECT_CRITICAL(driver.boxes().value(1), way, "Copy file failed!");
-    QVERIFY(!QFile::exists(targetDir(way) + "/part.cnc"));
-    QCOMPARE(readFile(sourceDir(way) + "/part.cnc"), QByteArray("new"));
 }
 
 void TestTransferCommands::namesDifferingInCaseAreTwoFiles()
@@ -833,90 +787,77 @@ void TestTransferCommands::fileThatWrapsTheSumIsCopied()
     QCOMPARE(commandsBeforeSync().size(), 1);
 }
 
-void TestTransferCommands::deleteIsAskedFor()
+namespace {
+
+/// The same of a deleting key.
+struct Deleting
+{
+    const char *name;
+    bool isGone; // before the touch already
+    const char *failing;
+    const char *answers;
+    const char *told;
+    bool isDeleted;
+};
+
+const Deleting deletings[] = {
+    {"yes", false, nullptr, "y", nullptr, true},
+    {"no", false, nullptr, "n", nullptr, false},
+    {"closed with the dialog", false, nullptr, "c", nullptr, true},
+    {"the deletion fails", false, "rm", "yo", "Can't delete this file.", true},
+    {"a file that is gone", true, nullptr, "y", nullptr, true},
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(const Deleting *)
+
+void TestTransferCommands::fileIsDeleted_data()
+{
+    QTest::addColumn<const Way *>("way");
+    QTest::addColumn<const Deleting *>("deleting");
+    for (const Deleting &deleting : deletings) {
+        QTest::newRow(QByteArray("on the panel, ") + deleting.name) << &delHmi << &deleting;
+        QTest::newRow(QByteArray("on the stick, ") + deleting.name) << &delUsb << &deleting;
+    }
+}
+
+void TestTransferCommands::fileIsDeleted()
 {
     QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "x");
+    QFETCH(const Deleting *, deleting);
+    const QString path = sourceDir(way) + "/part.cnc";
+    writeFile(path, "x");
+    writeFile(targetDir(way) + "/part.cnc", "x");
     Manager manager;
     QVERIFY(select(manager, way, "part.cnc"));
+    if (deleting->isGone)
+        QVERIFY(QFile::remove(path));
+    if (deleting->failing)
+        Shell::standIn(deleting->failing, "exit 1\n");
     ModalDriver driver;
-    driver.press(QMessageBox::No);
+    answer(&driver, &manager, deleting->answers);
     manager.button(way->button)->click();
     QVERIFY2(driver.finished(), driver.report());
+
+    QList<QByteArray> commands;
+    if (deleting->isDeleted)
+        commands << rm(sourceDir(way), "part.cnc");
+    QCOMPARE(commandsBeforeSync(), commands);
+    const bool isLeft = !deleting->isDeleted || deleting->failing;
+    QCOMPARE(QFile::exists(path), isLeft);
+    QVERIFY(QFile::exists(targetDir(way) + "/part.cnc"));
+    QCOMPARE(Manager::shown(source(manager, way)).size(), isLeft ? 1 : 0);
+    if (deleting->told)
+        EXPECT_CRITICAL(driver.boxes().last(), way, deleting->told);
+    if (QByteArray(deleting->answers) == "c")
+        return;
     const ModalDriver::Box box = driver.boxes().value(0);
     QCOMPARE(box.title, QString(way->title));
     QCOMPARE(box.text, QString("Are you sure to delete part.cnc?"));
     QCOMPARE(box.icon, QMessageBox::Warning);
     QCOMPARE(int(box.buttons), int(QMessageBox::Yes | QMessageBox::No));
     QCOMPARE(box.parent, static_cast<QWidget *>(&manager.dialog));
-}
-
-void TestTransferCommands::deleteStopsOnlyOnNo_data()
-{
-    QTest::addColumn<const Way *>("way");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("deleted");
-    const Way *const ways[] = {&delHmi, &delUsb};
-    for (const Way *way : ways) {
-        const QByteArray title = way->title;
-        QTest::newRow(title + ", yes") << way << int(QMessageBox::Yes) << true;
-        QTest::newRow(title + ", no") << way << int(QMessageBox::No) << false;
-        QTest::newRow(title + ", closed with the dialog")
-            << way << int(QMessageBox::NoButton) << true;
-    }
-}
-
-void TestTransferCommands::deleteStopsOnlyOnNo()
-{
-    QFETCH(const Way *, way);
-    QFETCH(int, answer);
-    QFETCH(bool, deleted);
-    writeFile(sourceDir(way) + "/part.cnc", "x");
-    writeFile(targetDir(way) + "/part.cnc", "x");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    ModalDriver driver;
-    if (answer == QMessageBox::NoButton)
-        driver.then([&manager](QWidget *) { manager.dialog.reject(); });
-    else
-        driver.press(QMessageBox::StandardButton(answer));
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(QFile::exists(sourceDir(way) + "/part.cnc"), !deleted);
-    QVERIFY(QFile::exists(targetDir(way) + "/part.cnc"));
-    QList<QByteArray> commands;
-    if (deleted)
-        commands << rm(sourceDir(way), "part.cnc");
-    QCOMPARE(commandsBeforeSync(), commands);
-}
-
-void TestTransferCommands::failedDeleteSaysSo()
-{
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "x");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    Shell::standIn("rm", "exit 1\n");
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
-    driver.press(QMessageBox::Ok);
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    EXPECT_CRITICAL(driver.boxes().value(1), way, "Can't delete this file.");
-}
-
-void TestTransferCommands::deleteOfAGoneFileSaysNothing()
-{
-    QFETCH(const Way *, way);
-    writeFile(sourceDir(way) + "/part.cnc", "x");
-    Manager manager;
-    QVERIFY(select(manager, way, "part.cnc"));
-    QVERIFY(QFile::remove(sourceDir(way) + "/part.cnc"));
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
-    manager.button(way->button)->click();
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(Manager::shown(source(manager, way)), QStringList());
 }
 
 void TestTransferCommands::deleteWithoutAStickOrASelectionNeverAsks()
