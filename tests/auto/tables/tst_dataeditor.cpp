@@ -53,21 +53,15 @@ private Q_SLOTS:
     void cellOfEachType_data();
     void cellOfEachType();
     void emptyTextLeavesACellEmpty();
-    void sharedCellShowsTheSecondStringOrTheFirst();
-    void sharedCellJoinsWhatIsWritten_data();
-    void sharedCellJoinsWhatIsWritten();
-    void joinedTextComesBackWholeInThirdPlace();
+    void sharedCellTakesTwoStrings_data();
+    void sharedCellTakesTwoStrings();
     void dataComesBackAsItWasWritten();
     void dataOfAnotherLengthChangesNothing();
     void indexIsTheFirstCell();
     void rowNumber_data();
     void rowNumber();
-    void pressOnTheFrameEmitsClickedOnce();
-    void pressOnAPassiveCellReachesTheRow();
-    void tapOnAClickableCellEmitsClickedOnce();
-    void tapOnAFieldReportsTheChangeThenTheTap();
-    void cancelledFieldReportsTheTapAlone();
-    void editedCellKeepsTheBareAnswer();
+    void tapsAreReported_data();
+    void tapsAreReported();
     void rowOfFourHasNoValidatorInColumnThree();
     void addressFieldTakesAnIpAddress_data();
     void addressFieldTakesAnIpAddress();
@@ -391,71 +385,55 @@ void TestDataEditor::emptyTextLeavesACellEmpty()
     QCOMPARE(editor.getText(cell), QString());
 }
 
-void TestDataEditor::sharedCellShowsTheSecondStringOrTheFirst()
-{
-    QStringList both = QStringList() << "1"
-                                     << "name"
-                                     << "Oth"
-                                     << "v";
-    const DataEditor second(false, both, listSize, nullptr, false);
-    QCOMPARE(describe(cellsOf(second).at(1)), QString("QLabel 85 Oth"));
-    QStringList noSecond = QStringList() << "1"
-                                         << "name"
-                                         << ""
-                                         << "v";
-    const DataEditor first(false, noSecond, listSize, nullptr, false);
-    QCOMPARE(describe(cellsOf(first).at(1)), QString("QLabel 85 name"));
-}
-
-void TestDataEditor::sharedCellJoinsWhatIsWritten_data()
+void TestDataEditor::sharedCellTakesTwoStrings_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("built");   // shown by a row that is made with the two
+    QTest::addColumn<QString>("written"); // and by one that they are written to
     QTest::newRow("both") << "name"
+                          << "value"
                           << "value"
                           << "name:value";
     QTest::newRow("first alone") << "name"
                                  << ""
+                                 << "name"
                                  << "name";
     QTest::newRow("second alone") << ""
+                                  << "value"
                                   << "value"
                                   << "value";
     QTest::newRow("neither") << ""
                              << ""
+                             << ""
                              << "";
 }
 
-void TestDataEditor::sharedCellJoinsWhatIsWritten()
+void TestDataEditor::sharedCellTakesTwoStrings()
 {
     QFETCH(QString, name);
     QFETCH(QString, value);
-    QStringList list = numbered(4);
-    DataEditor editor(false, list, listSize, nullptr, false);
-    QStringList data = QStringList() << "7" << name << value << "x";
-    editor.setData(data);
-    QTEST(editor.getText(cellsOf(editor).at(1)), "shown");
-    QCOMPARE(editor.getText(cellsOf(editor).at(0)), QString("7"));
-    QCOMPARE(editor.getText(cellsOf(editor).at(2)), QString("x"));
-}
+    QFETCH(QString, built);
+    QFETCH(QString, written);
+    QStringList row = QStringList() << "7" << name << value << "x";
+    DataEditor made(false, row, listSize, nullptr, false);
+    QCOMPARE(describe(cellsOf(made).at(1)), QString("QLabel 85 " + built).trimmed());
+    // The one text comes back whole, in third place.
+    QCOMPARE(made.getData(), QStringList() << "7"
+                                           << "" << built << "x");
 
-void TestDataEditor::joinedTextComesBackWholeInThirdPlace()
-{
-    QStringList list = numbered(4);
-    DataEditor editor(false, list, listSize, nullptr, false);
-    QCOMPARE(editor.getData(), QStringList() << "s0"
+    QStringList before = numbered(4);
+    DataEditor filled(false, before, listSize, nullptr, false);
+    QCOMPARE(filled.getData(), QStringList() << "s0"
                                              << ""
                                              << "s2"
                                              << "s3");
-    QStringList data = QStringList() << "7"
-                                     << "a"
-                                     << "b"
-                                     << "x";
-    editor.setData(data);
-    QCOMPARE(editor.getData(), QStringList() << "7"
-                                             << ""
-                                             << "a:b"
-                                             << "x");
+    filled.setData(row);
+    QCOMPARE(describe(cellsOf(filled).at(1)), QString("QLabel 85 " + written).trimmed());
+    QCOMPARE(filled.getData(), QStringList() << "7"
+                                             << "" << written << "x");
+    QCOMPARE(filled.getText(cellsOf(filled).at(0)), QString("7"));
+    QCOMPARE(filled.getText(cellsOf(filled).at(2)), QString("x"));
 }
 
 void TestDataEditor::dataComesBackAsItWasWritten()
@@ -529,78 +507,57 @@ void TestDataEditor::rowNumber()
     QCOMPARE(listener.seen, QStringList() << "clicked " + n << "changed " + n << "clicked " + n);
 }
 
-void TestDataEditor::pressOnTheFrameEmitsClickedOnce()
+void TestDataEditor::tapsAreReported_data()
 {
-    QStringList list = QStringList() << "N4"
-                                     << "a"
-                                     << "b";
-    DataEditor editor(false, list, listSize, nullptr, false);
-    RowListener listener(&editor);
-    QTest::mousePress(&editor, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
-    QCOMPARE(listener.seen, QStringList() << "clicked 4");
+    QTest::addColumn<QString>("row");
+    QTest::addColumn<int>("cell");
+    QTest::addColumn<QString>("offered");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("seen");
+    QTest::addColumn<QString>("rowAfter");
+
+    const int frame = -1;
+    const QString none;
+    QTest::newRow("the frame") << "N4|a|b" << frame << none << none << "clicked 4"
+                               << "N4|a|b";
+    QTest::newRow("a passive cell, which lets it through")
+        << "N4|a|b" << 1 << none << none << "clicked 4"
+        << "N4|a|b";
+    QTest::newRow("a clickable cell") << "N4|a|b" << 0 << none << none << "clicked 4"
+                                      << "N4|a|b";
+    QTest::newRow("a field, the change before the tap") << "N4|a|1.5" << 2 << "1.5"
+                                                        << "2"
+                                                        << "changed 4|clicked 4"
+                                                        << "N4|a|2";
+    QTest::newRow("a field, cancelled") << "N4|a|1.5" << 2 << "1.5" << none << "clicked 4"
+                                        << "N4|a|1.5";
+    QTest::newRow("a field with a key, which keeps the bare answer") << "1|a|X:1.5" << 2 << "1.5"
+                                                                     << "2.50"
+                                                                     << "changed 1|clicked 1"
+                                                                     << "1|a|2.50";
 }
 
-void TestDataEditor::pressOnAPassiveCellReachesTheRow()
+void TestDataEditor::tapsAreReported()
 {
-    QStringList list = QStringList() << "N4"
-                                     << "a"
-                                     << "b";
+    QFETCH(QString, row);
+    QFETCH(int, cell);
+    QFETCH(QString, offered);
+    QFETCH(QString, answer);
+    QFETCH(QString, seen);
+    QFETCH(QString, rowAfter);
+    QStringList list = row.split('|');
     DataEditor editor(false, list, listSize, nullptr, false);
     RowListener listener(&editor);
-    QTest::mousePress(cellsOf(editor).at(1), Qt::LeftButton);
-    QCOMPARE(listener.seen, QStringList() << "clicked 4");
-}
-
-void TestDataEditor::tapOnAClickableCellEmitsClickedOnce()
-{
-    QStringList list = QStringList() << "N4"
-                                     << "a"
-                                     << "b";
-    DataEditor editor(false, list, listSize, nullptr, false);
-    RowListener listener(&editor);
-    QTest::mouseClick(cellsOf(editor).at(0), Qt::LeftButton);
-    QCOMPARE(listener.seen, QStringList() << "clicked 4");
-}
-
-void TestDataEditor::tapOnAFieldReportsTheChangeThenTheTap()
-{
-    QStringList list = QStringList() << "N4"
-                                     << "a"
-                                     << "1.5";
-    DataEditor editor(false, list, listSize, nullptr, false);
-    RowListener listener(&editor);
-    DeviceLog::acceptWith("2");
-    QTest::mousePress(cellsOf(editor).at(2), Qt::LeftButton);
-    QCOMPARE(listener.seen, QStringList() << "changed 4"
-                                          << "clicked 4");
-    QCOMPARE(editor.getData(), QStringList() << "N4"
-                                             << "a"
-                                             << "2");
-}
-
-void TestDataEditor::cancelledFieldReportsTheTapAlone()
-{
-    QStringList list = QStringList() << "N4"
-                                     << "a"
-                                     << "1.5";
-    DataEditor editor(false, list, listSize, nullptr, false);
-    RowListener listener(&editor);
-    DeviceLog::cancel();
-    QTest::mousePress(cellsOf(editor).at(2), Qt::LeftButton);
-    QCOMPARE(listener.seen, QStringList() << "clicked 4");
-    QCOMPARE(editor.getData(), list);
-}
-
-void TestDataEditor::editedCellKeepsTheBareAnswer()
-{
-    QStringList list = QStringList() << "1"
-                                     << "a"
-                                     << "X:1.5";
-    DataEditor editor(false, list, listSize, nullptr, false);
-    DeviceLog::acceptWith("2.50");
-    QTest::mousePress(cellsOf(editor).at(2), Qt::LeftButton);
-    QVERIFY(DeviceLog::calls().contains("NumericKeypad.setText(1.5)"));
-    QCOMPARE(editor.getData().at(2), QString("2.50"));
+    if (!answer.isEmpty())
+        DeviceLog::acceptWith(answer);
+    else if (!offered.isEmpty())
+        DeviceLog::cancel();
+    QWidget *const touched = cell < 0 ? &editor : cellsOf(editor).at(cell);
+    QTest::mouseClick(touched, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+    QCOMPARE(listener.seen, seen.split('|'));
+    QCOMPARE(editor.getData(), rowAfter.split('|'));
+    QCOMPARE(DeviceLog::calls().contains("NumericKeypad.setText(" + offered + ')'),
+             !offered.isEmpty());
 }
 
 void TestDataEditor::rowOfFourHasNoValidatorInColumnThree()
