@@ -19,8 +19,8 @@ const int mostChangedChars = 512 * 1024;
 DocumentRecorder::DocumentRecorder(QTextDocument *document, QObject *parent)
     : QObject(parent), m_document(document), m_size(size())
 {
-    connect(m_document, &QTextDocument::contentsChange, this, &DocumentRecorder::note);
-    connect(&m_timer, &QTimer::timeout, this, &DocumentRecorder::copyPiece);
+    connect(m_document, SIGNAL(contentsChange(int, int, int)), this, SLOT(note(int, int, int)));
+    connect(&m_timer, SIGNAL(timeout()), this, SLOT(copyPiece()));
 }
 
 void DocumentRecorder::copy()

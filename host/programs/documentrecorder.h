@@ -46,13 +46,15 @@ Q_SIGNALS:
     /// The document's text as it is now, with "\n" between its lines.
     void copied(const QString &text);
 
+private Q_SLOTS:
+    void note(int position, int removed, int added);
+    void copyPiece();
+
 private:
     enum State { Idle, Copying, Recording };
 
-    void note(int position, int removed, int added);
     void noteInCopy(const TextChange &change);
     void noteInRecord(const TextChange &change);
-    void copyPiece();
     QString textAt(int position, int count) const;
     int size() const;
 

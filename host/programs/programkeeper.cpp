@@ -3,11 +3,11 @@
 
 #include "programs/programkeeper.h"
 
+#include "base/hostcompat.h"
 #include "base/questioner.h"
 
 #include <QFileInfo>
 #include <QPointer>
-#include <QTimer>
 
 #include <memory>
 
@@ -26,11 +26,11 @@ ProgramKeeper::ProgramKeeper(Questioner *questioner, QObject *parent)
 void ProgramKeeper::keep(const QString &path, const Answer &answer)
 {
     if (!m_history) {
-        QTimer::singleShot(0, this, [answer] { answer(true); });
+        HostCompat::callLater(this, [answer] { answer(true); });
         return;
     }
     const std::shared_ptr<bool> isOver = std::make_shared<bool>(false);
-    QTimer::singleShot(patienceMs, this, [this, isOver] {
+    HostCompat::callAfter(patienceMs, this, [this, isOver] {
         if (!*isOver)
             Q_EMIT told(tr("One moment: the history takes in the program first."),
                         Message::Information, QLatin1String(waitCause));

@@ -3,6 +3,8 @@
 
 #include "programs/programopener.h"
 
+#include "base/hostcompat.h"
+#include "compat.h"
 #include "programs/programdirectory.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
@@ -17,7 +19,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTextDocument>
-#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -76,6 +77,31 @@ int commonEnd(const QString &a, const QString &b, int start)
         ++same;
     return same > 0 && a.at(a.size() - same).isLowSurrogate() ? same - 1 : same;
 }
+
+/// Runs the event loop until nothing was in hand for a moment.
+class QuietLoop : public QEventLoop
+{
+public:
+    explicit QuietLoop(const std::function<bool()> &isBusy) : m_isBusy(isBusy) {}
+
+    void wait()
+    {
+        startTimer(lookMs);
+        exec();
+    }
+
+protected:
+    void timerEvent(QTimerEvent *) override
+    {
+        m_quiet = m_isBusy() ? 0 : m_quiet + 1;
+        if (m_quiet == enoughQuiet)
+            quit();
+    }
+
+private:
+    const std::function<bool()> m_isBusy;
+    int m_quiet = 0;
+};
 
 } // namespace
 
@@ -141,16 +167,7 @@ bool ProgramOpener::isBusy() const
 void ProgramOpener::waitForEnd()
 {
     const QPointer<ProgramOpener> self(this);
-    QEventLoop loop;
-    QTimer timer;
-    int quiet = 0;
-    connect(&timer, &QTimer::timeout, &loop, [&] {
-        quiet = !self || !isBusy() ? quiet + 1 : 0;
-        if (quiet == enoughQuiet)
-            loop.quit();
-    });
-    timer.start(lookMs);
-    loop.exec();
+    QuietLoop([self] { return self && self->isBusy(); }).wait();
 }
 
 // What the text and the document have in common stays, so that a long program costs no more than
@@ -158,7 +175,8 @@ void ProgramOpener::waitForEnd()
 void ProgramOpener::put(const QString &text, int cursor)
 {
     QTextDocument *document = m_editor->document();
-    const QString old = document->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    const QString old =
+        Compat::rawText(document).replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
     if (old != text) {
         const int start = commonStart(old, text);
         const int end = commonEnd(old, text, start);
@@ -184,6 +202,6 @@ bool ProgramOpener::eventFilter(QObject *watched, QEvent *event)
     const QPointer<QDialog> shown(dialog);
     const QString name = m_name;
     m_name.clear();
-    QTimer::singleShot(0, dialog, [shown, name] { answer(shown, name); });
+    HostCompat::callLater(dialog, [shown, name] { answer(shown, name); });
     return false;
 }

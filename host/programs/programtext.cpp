@@ -7,18 +7,37 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 
-QString cleaned(const QVector<QStringRef> &lines)
+/// Goes through the lines of a text, which must outlive it.
+class Lines
 {
-    QStringList kept;
-    for (const QStringRef &line : lines) {
-        const QStringRef code = line.left(line.indexOf(QLatin1Char(';')));
-        if (!code.isEmpty())
-            kept.append(code.toString());
+public:
+    explicit Lines(const QString &text)
+        : m_at(text.constData()), m_end(text.constData() + text.size())
+    {}
+
+    /// What the loader leaves of the next lines: their code, as far as they have any.
+    QString takeCode(int lines)
+    {
+        QString code;
+        for (int i = 0; i < lines; ++i) {
+            const QChar *lineEnd = std::find(m_at, m_end, QLatin1Char('\n'));
+            const QChar *codeEnd = std::find(m_at, lineEnd, QLatin1Char(';'));
+            if (codeEnd != m_at && !code.isEmpty())
+                code += QLatin1Char('\n');
+            code.insert(code.size(), m_at, int(codeEnd - m_at));
+            m_at = lineEnd == m_end ? lineEnd : lineEnd + 1;
+        }
+        return code;
     }
-    return kept.join(QLatin1Char('\n'));
-}
+
+private:
+    const QChar *m_at;
+    const QChar *m_end;
+};
 
 // The first ones take what doesn't come out even.
 int pieceSize(int lines, int piece)
@@ -34,7 +53,7 @@ bool ProgramText::read(const QString &path, QString *text, QString *error, bool 
     QByteArray bytes;
     if (file.open(QIODevice::ReadOnly))
         bytes = file.readAll();
-    if (!file.isOpen() || file.error() != QFileDevice::NoError) {
+    if (!file.isOpen() || file.error() != QFile::NoError) {
         *error = file.errorString();
         return false;
     }
@@ -67,15 +86,12 @@ qint64 ProgramText::lines(const QString &text)
 
 QStringList ProgramText::loaded(const QString &text)
 {
-    const QVector<QStringRef> lines = text.splitRef(QLatin1Char('\n'));
-    if (lines.size() < loaderThreshold)
-        return {text};
+    const int count = int(lines(text));
+    if (count < loaderThreshold)
+        return QStringList(text);
+    Lines all(text);
     QStringList pieces;
-    int position = 0;
-    for (int i = 0; i < loaderPieces; ++i) {
-        const int size = pieceSize(lines.size(), i);
-        pieces.append(cleaned(lines.mid(position, size)));
-        position += size;
-    }
+    for (int i = 0; i < loaderPieces; ++i)
+        pieces.append(all.takeCode(pieceSize(count, i)));
     return pieces;
 }

@@ -3,11 +3,12 @@
 
 #include "programs/unsavedstore.h"
 
+#include "base/hostcompat.h"
+#include "base/sha256.h"
 #include "programs/gaptext.h"
 #include "storage/durablefile.h"
 #include "storage/filestamp.h"
 
-#include <QCryptographicHash>
 #include <QDataStream>
 #include <QFile>
 #include <QRegExp>
@@ -24,7 +25,6 @@ namespace {
 
 const char magic[] = "filarix-unsaved 1\n";
 const int magicBytes = sizeof magic - 1;
-const int hashBytes = 32;
 const int linkBytes = 16;
 const int pieceChars = 256 * 1024;
 // More than any text that the panel has the memory to show.
@@ -43,7 +43,7 @@ QString journalName(const QString &subject)
 
 void prepare(QDataStream *stream)
 {
-    stream->setVersion(QDataStream::Qt_5_6);
+    stream->setVersion(QDataStream::Qt_4_8);
 }
 
 bool isNarrow(const QString &text)
@@ -142,7 +142,7 @@ QList<QStringList> takeRows(QDataStream *stream)
 class SummedWriter
 {
 public:
-    explicit SummedWriter(DurableFile *file) : m_file(file), m_sum(QCryptographicHash::Sha256) {}
+    explicit SummedWriter(DurableFile *file) : m_file(file) {}
 
     bool put(const QByteArray &bytes)
     {
@@ -155,7 +155,7 @@ public:
 
 private:
     DurableFile *m_file;
-    QCryptographicHash m_sum;
+    Sha256 m_sum;
     qint64 m_bytes = 0;
 };
 
@@ -189,7 +189,7 @@ bool putWork(SummedWriter *writer, const KeptWork &work)
 
 bool parseWork(const QByteArray &bytes, KeptWork *work)
 {
-    QDataStream stream(bytes.mid(magicBytes, bytes.size() - magicBytes - hashBytes));
+    QDataStream stream(bytes.mid(magicBytes, bytes.size() - magicBytes - Sha256::size));
     prepare(&stream);
     FileStamp stamp;
     qint64 time = 0;
@@ -197,7 +197,7 @@ bool parseWork(const QByteArray &bytes, KeptWork *work)
     stream >> work->subject >> work->head >> stamp >> time;
     work->rows = takeRows(&stream);
     stream >> pieces;
-    work->time = QDateTime::fromMSecsSinceEpoch(time, Qt::UTC);
+    work->time = HostCompat::utcTime(time);
     for (int i = 0; i < pieces && stream.status() == QDataStream::Ok; ++i)
         work->text += takeText(&stream);
     const FileStamp now = stampOf(work->head.path);
@@ -229,7 +229,7 @@ bool readFile(const QString &path, QByteArray *bytes)
 
 QByteArray sumOf(const QByteArray &link, const QByteArray &payload)
 {
-    QCryptographicHash sum(QCryptographicHash::Sha256);
+    Sha256 sum;
     sum.addData(link);
     sum.addData(payload);
     return sum.result().left(linkBytes);
@@ -283,7 +283,7 @@ bool replay(const QByteArray &payload, GapText *text, KeptWork *work)
     if (stream.status() != QDataStream::Ok)
         return false;
     work->head = head;
-    work->time = QDateTime::fromMSecsSinceEpoch(time, Qt::UTC);
+    work->time = HostCompat::utcTime(time);
     return true;
 }
 
@@ -410,11 +410,11 @@ UnsavedStore::Reading UnsavedStore::read(const UnsavedSession &session, const QS
         const bool isThere = ::lstat(QFile::encodeName(path).constData(), &facts) == 0;
         return isThere ? Broken : Nothing;
     }
-    const int sumAt = bytes.size() - hashBytes;
+    const int sumAt = bytes.size() - Sha256::size;
     if (sumAt < magicBytes || !bytes.startsWith(magic))
         return Broken;
     const QByteArray sum = bytes.mid(sumAt);
-    QCryptographicHash hash(QCryptographicHash::Sha256);
+    Sha256 hash;
     hash.addData(bytes.constData(), sumAt);
     KeptWork kept;
     if (hash.result() != sum || !parseWork(bytes, &kept) || kept.subject != subject)

@@ -37,12 +37,10 @@ UnsavedWork::UnsavedWork(const QString &folder, QObject *parent)
     m_programTimer.setInterval(delayMs);
     m_stall.setInterval(stallMs);
     m_pause.setInterval(pauseMs);
-    connect(&m_programTimer, &QTimer::timeout, this, &UnsavedWork::lookAtProgram);
-    connect(&m_rowsTimer, &QTimer::timeout, this, &UnsavedWork::lookAtRows);
-    connect(&m_pause, &QTimer::timeout, this, &UnsavedWork::goOn);
-    // The work in hand is not given up: two writers would get in each other's way.
-    connect(&m_stall, &QTimer::timeout, this,
-            [this] { tellTrouble(tr("the storage does not answer")); });
+    connect(&m_programTimer, SIGNAL(timeout()), this, SLOT(lookAtProgram()));
+    connect(&m_rowsTimer, SIGNAL(timeout()), this, SLOT(lookAtRows()));
+    connect(&m_pause, SIGNAL(timeout()), this, SLOT(goOn()));
+    connect(&m_stall, SIGNAL(timeout()), this, SLOT(tellStall()));
 }
 
 UnsavedWork::~UnsavedWork() = default;
@@ -59,9 +57,9 @@ void UnsavedWork::watchProgram(QTextDocument *document, const std::function<Kept
     m_program.head = head;
     m_mayDrop = mayDrop;
     m_recorder = new DocumentRecorder(document, this);
-    connect(m_recorder, &DocumentRecorder::changed, this, &UnsavedWork::noteProgram);
-    connect(m_recorder, &DocumentRecorder::copied, this, &UnsavedWork::keepProgram);
-    connect(document, &QTextDocument::modificationChanged, this, &UnsavedWork::noteProgram);
+    connect(m_recorder, SIGNAL(changed()), this, SLOT(noteProgram()));
+    connect(m_recorder, SIGNAL(copied(QString)), this, SLOT(keepProgram(QString)));
+    connect(document, SIGNAL(modificationChanged(bool)), this, SLOT(noteProgram()));
     noteProgram();
 }
 
@@ -103,7 +101,7 @@ void UnsavedWork::keepNow()
     }
     // From the event loop, so that whoever asked for it hears it.
     if (isSettled())
-        QMetaObject::invokeMethod(this, &UnsavedWork::settled, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "settled", Qt::QueuedConnection);
 }
 
 bool UnsavedWork::flush(int ms)
@@ -119,8 +117,8 @@ bool UnsavedWork::flush(int ms)
 void UnsavedWork::waitUntilSettled(int ms)
 {
     QEventLoop loop;
-    connect(this, &UnsavedWork::settled, &loop, &QEventLoop::quit);
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    connect(this, SIGNAL(settled()), &loop, SLOT(quit()));
+    QTimer::singleShot(ms, &loop, SLOT(quit()));
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -304,6 +302,12 @@ void UnsavedWork::goOn()
         lookAtProgram();
     if (m_areRowsDue)
         lookAtRows();
+}
+
+// The work in hand is not given up: two writers would get in each other's way.
+void UnsavedWork::tellStall()
+{
+    tellTrouble(tr("the storage does not answer"));
 }
 
 void UnsavedWork::tellTrouble(const QString &text)

@@ -67,6 +67,14 @@ Q_SIGNALS:
     void told(const QString &text, Message::Tone tone, const QString &cause);
     void causeEnded(const QString &cause);
 
+private Q_SLOTS:
+    void noteProgram();
+    void lookAtProgram();
+    void keepProgram(const QString &text);
+    void lookAtRows();
+    void goOn();
+    void tellStall();
+
 private:
     typedef std::function<bool(UnsavedStore *)> Job;
 
@@ -89,11 +97,7 @@ private:
         QList<QStringList> kept;
     };
 
-    void noteProgram();
-    void lookAtProgram();
-    void keepProgram(const QString &text);
     void appendChanges();
-    void lookAtRows();
     void lookAt(Rows *rows);
     bool isProgramSettled() const;
     void waitUntilSettled(int ms);
@@ -102,7 +106,6 @@ private:
     void start(Subject *subject, bool keeps, const Job &job);
     void drop(Subject *subject);
     void end(Subject *subject, bool isDone, const QString &reason);
-    void goOn();
     void tellTrouble(const QString &text);
     void endTrouble();
 

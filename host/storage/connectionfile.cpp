@@ -11,7 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QTemporaryDir>
+
+#include <cstdlib>
 
 namespace {
 
@@ -56,12 +57,33 @@ QString addressKey(const QString &name)
 class PrivateFile
 {
 public:
-    QString path() const { return m_folder.filePath(QLatin1String("connections.ini")); }
+    PrivateFile()
+    {
+        QByteArray folder =
+            QFile::encodeName(QDir::temp().filePath(QLatin1String("filarix-XXXXXX")));
+        if (::mkdtemp(folder.data()))
+            m_folder = QFile::decodeName(folder);
+    }
+
+    ~PrivateFile()
+    {
+        if (m_folder.isEmpty())
+            return;
+        // The toolkit may have left a file of its own there.
+        QDir folder(m_folder);
+        const QStringList names = folder.entryList(QDir::Files | QDir::Hidden | QDir::System);
+        for (const QString &name : names)
+            folder.remove(name);
+        folder.rmdir(m_folder);
+    }
+
+    /// The file itself is not made.
+    QString path() const { return m_folder + QLatin1String("/connections.ini"); }
 
     bool write(const QByteArray &bytes)
     {
         QFile file(path());
-        return m_folder.isValid() && file.open(QIODevice::WriteOnly)
+        return !m_folder.isEmpty() && file.open(QIODevice::WriteOnly)
                && file.write(bytes) == bytes.size() && file.flush();
     }
 
@@ -72,7 +94,10 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder;
+    Q_DISABLE_COPY(PrivateFile)
+
+    /// Empty when none could be made.
+    QString m_folder;
 };
 
 void fill(QSettings *file)
@@ -113,7 +138,7 @@ bool readBytes(const QString &path, QByteArray *bytes, QString *error)
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         *bytes = file.readAll();
-    if (file.error() == QFileDevice::NoError)
+    if (file.error() == QFile::NoError)
         return true;
     *error = Words::tr("%1 cannot be read: %2.").arg(path, file.errorString());
     return false;

@@ -27,8 +27,8 @@ private:
 
 FileJob::FileJob(QObject *parent) : QObject(parent)
 {
-    connect(&m_work, &FileTaskRunner::ended, this, [this] { finish(m_done); });
-    connect(&m_work, &FileTaskRunner::stalled, this, [this] { finish(m_stalled); });
+    connect(&m_work, SIGNAL(ended()), this, SLOT(finishDone()));
+    connect(&m_work, SIGNAL(stalled()), this, SLOT(finishStalled()));
 }
 
 void FileJob::run(const Work &work, const Work &done, const Work &stalled)
@@ -55,7 +55,7 @@ void FileJob::wait()
     if (!isRunning())
         return;
     QEventLoop loop;
-    connect(this, &FileJob::finished, &loop, &QEventLoop::quit);
-    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    connect(this, SIGNAL(finished()), &loop, SLOT(quit()));
+    connect(this, SIGNAL(destroyed()), &loop, SLOT(quit()));
     loop.exec();
 }

@@ -36,6 +36,10 @@ Q_SIGNALS:
     /// What followed the work is done, too.
     void finished();
 
+private Q_SLOTS:
+    void finishDone() { finish(m_done); }
+    void finishStalled() { finish(m_stalled); }
+
 private:
     void finish(const Work &answer);
 

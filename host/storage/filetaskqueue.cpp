@@ -5,8 +5,8 @@
 
 FileTaskQueue::FileTaskQueue(QObject *parent) : QObject(parent)
 {
-    connect(&m_work, &FileTaskRunner::ended, this, [this] { end(true); });
-    connect(&m_work, &FileTaskRunner::stalled, this, [this] { end(false); });
+    connect(&m_work, SIGNAL(ended()), this, SLOT(noteEnd()));
+    connect(&m_work, SIGNAL(stalled()), this, SLOT(noteStall()));
 }
 
 void FileTaskQueue::run(const std::shared_ptr<FileTask> &task, const Answer &answer)

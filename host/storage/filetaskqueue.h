@@ -27,6 +27,10 @@ public:
     void run(const std::shared_ptr<FileTask> &task, const Answer &answer);
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
+private Q_SLOTS:
+    void noteEnd() { end(true); }
+    void noteStall() { end(false); }
+
 private:
     struct Job
     {

@@ -25,7 +25,7 @@ FileTaskRunner::FileTaskRunner(QObject *parent) : QObject(parent)
 {
     m_stall.setSingleShot(true);
     m_stall.setInterval(stallMs);
-    connect(&m_stall, &QTimer::timeout, this, &FileTaskRunner::giveUp);
+    connect(&m_stall, SIGNAL(timeout()), this, SLOT(giveUp()));
 }
 
 FileTaskRunner::~FileTaskRunner()

@@ -94,12 +94,14 @@ Q_SIGNALS:
     /// the thread may.
     void stalled();
 
+private Q_SLOTS:
+    void giveUp();
+
 private:
     enum Step { More, Last };
 
     void post();
     void answer(Step step);
-    void giveUp();
     void abandon();
     void close();
 

@@ -3,6 +3,8 @@
 
 #include "storage/filethread.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QThread>
@@ -11,6 +13,25 @@ namespace {
 
 // What a step takes on storage that answers. More would be a wait for storage that hangs.
 const int partingMs = 100;
+
+/// A function on its way into another thread.
+class CallEvent : public QEvent
+{
+public:
+    explicit CallEvent(const FileThread::Work &work) : QEvent(User), m_work(work) {}
+
+    void call() const { m_work(); }
+
+private:
+    const FileThread::Work m_work;
+};
+
+/// What lives in the thread.
+class Worker : public QObject
+{
+protected:
+    void customEvent(QEvent *event) override { static_cast<CallEvent *>(event)->call(); }
+};
 
 } // namespace
 
@@ -28,11 +49,11 @@ struct Q_DECL_HIDDEN FileThread::Link
 };
 
 FileThread::FileThread()
-    : m_link(std::make_shared<Link>()), m_thread(new QThread), m_worker(new QObject)
+    : m_link(std::make_shared<Link>()), m_thread(new QThread), m_worker(new Worker)
 {
     m_link->owner = this;
     m_worker->moveToThread(m_thread);
-    connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+    connect(m_thread, SIGNAL(finished()), m_worker, SLOT(deleteLater()));
     m_thread->start();
 }
 
@@ -46,21 +67,19 @@ FileThread::~FileThread()
     QThread *thread = m_thread;
     const Work last = m_last;
     m_last = Work();
-    QMetaObject::invokeMethod(
-        m_worker,
-        [thread, last] {
-            if (last)
-                last();
-            thread->quit();
-        },
-        Qt::QueuedConnection);
+    const auto end = [thread, last] {
+        if (last)
+            last();
+        thread->quit();
+    };
+    QCoreApplication::postEvent(m_worker, new CallEvent(end));
     if (m_thread->wait(m_givenUp ? 0 : partingMs)) {
         delete m_thread;
         return;
     }
     // To end a thread in the middle of a system call would take the program with it. It goes when
     // it is let go, or ends with the program.
-    connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
+    connect(m_thread, SIGNAL(finished()), m_thread, SLOT(deleteLater()));
     if (m_thread->isFinished())
         m_thread->deleteLater();
 }
@@ -74,7 +93,12 @@ void FileThread::post(const Work &work, const Work &answer)
         work();
         const QMutexLocker lock(&link->mutex);
         if (link->owner)
-            QMetaObject::invokeMethod(link->owner, answer, Qt::QueuedConnection);
+            QCoreApplication::postEvent(link->owner, new CallEvent(answer));
     };
-    QMetaObject::invokeMethod(m_worker, run, Qt::QueuedConnection);
+    QCoreApplication::postEvent(m_worker, new CallEvent(run));
+}
+
+void FileThread::customEvent(QEvent *event)
+{
+    static_cast<CallEvent *>(event)->call();
 }

@@ -37,6 +37,9 @@ public:
     /// Nobody waits for the work in hand any more.
     void giveUp() { m_givenUp = true; }
 
+protected:
+    void customEvent(QEvent *event) override;
+
 private:
     struct Link;
 

@@ -45,7 +45,7 @@ QString line(const QStringList &row)
     QStringList strings;
     for (const QString &text : row)
         strings.append(escaped(text));
-    const QString joined = strings.join(QLatin1Char('\t'));
+    const QString joined = strings.join(QLatin1String("\t"));
     return joined.startsWith(QLatin1Char('#')) ? QLatin1Char('\\') + joined : joined;
 }
 
@@ -77,7 +77,7 @@ bool RowFile::read(const QString &path, QList<QStringList> *rows, QString *error
         return false;
     }
     const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
+    if (file.error() != QFile::NoError) {
         *error = Words::tr("%1 cannot be read: %2.").arg(path, file.errorString());
         return false;
     }

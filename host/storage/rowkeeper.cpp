@@ -82,8 +82,7 @@ public:
         // The rights of a file that nobody could read are not worth keeping.
         if (isUnknown)
             QFile::setPermissions(file.temporaryPath(), QFile::permissions(file.temporaryPath())
-                                                            | QFileDevice::ReadOwner
-                                                            | QFileDevice::WriteOwner);
+                                                            | QFile::ReadOwner | QFile::WriteOwner);
         m_stored.isStored =
             file.commit([&] { return leave->take() && (!isUnknown || putAside(file.path())); });
         if (m_stored.isStored)

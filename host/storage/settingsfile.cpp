@@ -32,7 +32,16 @@ QByteArray bytesOf(const QString &path)
 
 bool isGeneral(const QByteArray &section)
 {
-    return section.compare(generalSection, Qt::CaseInsensitive) == 0;
+    return qstricmp(section.constData(), generalSection) == 0;
+}
+
+QByteArray joined(const QList<QByteArray> &lines)
+{
+    QByteArray text;
+    for (const QByteArray &line : lines)
+        text += line + '\n';
+    text.chop(1);
+    return text;
 }
 
 } // namespace
@@ -124,14 +133,14 @@ QByteArray SettingsFile::changed(const QByteArray &ini, const QString &key, cons
             place = lines.size();
     }
     if (line.isEmpty())
-        return lines.join('\n');
+        return joined(lines);
     if (place < 0) {
         // What stands before the first section is General's, too.
         lines.insert(0, generalSection);
         place = 1;
     }
     lines.insert(place, line);
-    return lines.join('\n');
+    return joined(lines);
 }
 
 SettingsFile::State SettingsFile::takeState()
