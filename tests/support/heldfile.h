@@ -6,7 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTimer>
+#include <QObject>
 
 #include <csignal>
 
@@ -47,22 +47,22 @@ private:
 };
 
 /// The longest time that the event loop has stood still.
-class LoopPulse
+class LoopPulse : public QObject
 {
 public:
     LoopPulse()
     {
-        QObject::connect(&m_timer, &QTimer::timeout,
-                         [this] { m_longest = qMax(m_longest, m_since.restart()); });
         m_since.start();
-        m_timer.start(5);
+        startTimer(5);
     }
 
     /// Milliseconds, up to now.
     qint64 longest() const { return qMax(m_longest, m_since.elapsed()); }
 
+protected:
+    void timerEvent(QTimerEvent *) override { m_longest = qMax(m_longest, m_since.restart()); }
+
 private:
-    QTimer m_timer;
     QElapsedTimer m_since;
     qint64 m_longest = 0;
 };

@@ -79,6 +79,20 @@ inline bool qCompare(const QBool &actual, const bool &expected, const char *actu
 } // namespace QTest
 #endif
 
+#if QT_VERSION < QT_VERSION_CHECK(5, 10, 0)
+namespace QTest {
+
+template<class Condition>
+bool qWaitFor(Condition isMet, int timeout = 5000)
+{
+    for (int waited = 0; !isMet() && waited < timeout; waited += 10)
+        qWait(10);
+    return isMet();
+}
+
+} // namespace QTest
+#endif
+
 namespace TestCompat {
 
 inline QPixmap grab(QWidget *widget)

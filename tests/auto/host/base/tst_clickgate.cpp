@@ -4,6 +4,7 @@
 #include "base/clickgate.h"
 #include "filarixtest.h"
 #include "modaldriver.h"
+#include "signalhook.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -68,7 +69,7 @@ void TestClickGate::holdsEachWayToPress()
     int held = 0;
     gate->onClick([&held] { ++held; });
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(TestCompat::waitForExposed(&dialog));
     dialog.activateWindow();
     QTRY_VERIFY(dialog.isActiveWindow());
 
@@ -96,10 +97,10 @@ void TestClickGate::fingerThatSlidesOffIsNoClick()
     int held = 0;
     gate->onClick([&held] { ++held; });
     button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QVERIFY(TestCompat::waitForExposed(&button));
     QSignalSpy released(&button, SIGNAL(released()));
     QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, QPoint(40, 20));
-    QMouseEvent away(QEvent::MouseMove, QPointF(300, 300), Qt::NoButton, Qt::LeftButton,
+    QMouseEvent away(QEvent::MouseMove, QPoint(300, 300), Qt::NoButton, Qt::LeftButton,
                      Qt::NoModifier);
     QApplication::sendEvent(&button, &away);
     QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, QPoint(300, 300));
@@ -197,7 +198,7 @@ void TestClickGate::clickInsideAPassingOneIsHeld()
 {
     QPushButton button("OK");
     int clicks = 0;
-    connect(&button, &QPushButton::clicked, &button, [&] {
+    SignalHook hook(&button, SIGNAL(clicked()), [&] {
         ++clicks;
         button.click();
         QCoreApplication::processEvents();
@@ -230,7 +231,7 @@ void TestClickGate::buttonMayGoWhileItIsHeld()
     gate->onClick([gate] { gate->pass(); });
     QPushButton *const own = button.data();
     bool gone = false;
-    connect(own, &QPushButton::clicked, qApp, [&] {
+    SignalHook hook(own, SIGNAL(clicked()), [&] {
         button.reset();
         gone = true;
     });

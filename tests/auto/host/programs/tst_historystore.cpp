@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "base/hostcompat.h"
+#include "base/sha256.h"
 #include "filarixtest.h"
 #include "programs/historystore.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 
@@ -104,7 +105,7 @@ void TestHistoryStore::versionsOfAProgramAreKept()
     const ProgramVersion version = store.versions().at(2);
     QCOMPARE(version.name, QString("other.cnc"));
     QCOMPARE(version.bytes, qint64(4));
-    QCOMPARE(version.hash, QCryptographicHash::hash("two\n", QCryptographicHash::Sha256));
+    QCOMPARE(version.hash, Sha256::hash("two\n"));
     QVERIFY(qAbs(version.stored.secsTo(QDateTime::currentDateTimeUtc())) < 60);
     QCOMPARE(version.stored.timeSpec(), Qt::UTC);
 }
@@ -173,7 +174,7 @@ void TestHistoryStore::fileThatWasNotTouchedIsNotReadAgain()
     const QString path = programDir() + "/coil.cnc";
     QCOMPARE(store.store(path, &error), HistoryStore::Known);
     // A file that cannot be read would tell.
-    QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions()));
+    QVERIFY(QFile::setPermissions(path, QFile::Permissions()));
     age(path);
     QCOMPARE(store.store(path, &error), HistoryStore::Failed);
     QVERIFY(error.contains("cannot read"));
@@ -379,15 +380,15 @@ void TestHistoryStore::folderThatTakesNothing()
     HistoryStore store(m_folder, HistoryStore::Limits());
     QString error;
     QVERIFY(store.open(&error));
-    QVERIFY(QFile::setPermissions(m_folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    QVERIFY(QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::ExeOwner));
     const QString path = programDir() + "/coil.cnc";
     writeFile(path, "one\n");
     age(path);
     QCOMPARE(store.store(path, &error), HistoryStore::Failed);
     QCOMPARE(error, QString("The history cannot keep coil.cnc: Permission denied."));
     QVERIFY(!store.holds(path));
-    QVERIFY(QFile::setPermissions(m_folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner
-                                                | QFileDevice::ExeOwner));
+    QVERIFY(
+        QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     // What could not be kept is tried again.
     QCOMPARE(store.store(path, &error), HistoryStore::Stored);
 }
@@ -469,11 +470,10 @@ void TestHistoryStore::killLosesNoVersionThatWasReported()
         QByteArrayList kept;
         const QList<ProgramVersion> versions = store.versions();
         for (const ProgramVersion &version : versions) {
-            QCOMPARE(QCryptographicHash::hash(contentOf(version), QCryptographicHash::Sha256),
-                     version.hash);
+            QCOMPARE(Sha256::hash(contentOf(version)), version.hash);
             kept.append(QByteArray::number(version.number) + ' ' + version.hash.toHex());
         }
-        for (const QByteArray &report : qAsConst(reported))
+        for (const QByteArray &report : HostCompat::readOnly(reported))
             QVERIFY2(kept.contains(report), report.constData());
         // One that was kept and not reported any more is no fault; anything half-made is.
         QVERIFY(kept.size() <= reported.size() + kill + 1);

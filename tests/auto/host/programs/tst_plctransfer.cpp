@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "base/sha256.h"
 #include "filarixtest.h"
 #include "filecalls.h"
 #include "programs/plctransfer.h"
+#include "signalhook.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -173,7 +174,7 @@ void TestPlcTransfer::eventLoopRunsBetweenThePieces()
     PlcTransfer transfer(m_plc);
     int turns = 0;
     QTimer other;
-    connect(&other, &QTimer::timeout, [&] { ++turns; });
+    const SignalHook hook(&other, SIGNAL(timeout()), [&] { ++turns; });
     QSignalSpy ends(&transfer, SIGNAL(finished(QString, qint64)));
     other.start(0);
     transfer.start(programDir() + "/coil.cnc");
@@ -307,7 +308,7 @@ void TestPlcTransfer::arrivalThatDiffersIsTakenOut()
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     const QString target = m_plc + "/coil.cnc";
     bool spoilt = false;
-    connect(&transfer, &PlcTransfer::progress, [&](int) {
+    const SignalHook hook(&transfer, SIGNAL(progress(int)), [&](int) {
         if (spoilt || !QFileInfo(target).exists())
             return;
         QFile file(target);
@@ -329,7 +330,7 @@ void TestPlcTransfer::stopKeepsWhatThePlcHad()
     PlcTransfer transfer(m_plc);
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     QSignalSpy stops(&transfer, SIGNAL(stopped(QString)));
-    connect(&transfer, &PlcTransfer::progress, [&](int percent) {
+    const SignalHook hook(&transfer, SIGNAL(progress(int)), [&](int percent) {
         if (percent >= 20 && percent < 50)
             transfer.stop();
     });
@@ -360,7 +361,7 @@ void TestPlcTransfer::stopAfterTheArrivalTellsThatNothingWasCompared()
     PlcTransfer transfer(m_plc);
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     QSignalSpy stops(&transfer, SIGNAL(stopped(QString)));
-    connect(&transfer, &PlcTransfer::progress, [&](int percent) {
+    const SignalHook hook(&transfer, SIGNAL(progress(int)), [&](int percent) {
         if (percent >= 60)
             transfer.stop();
     });
@@ -383,7 +384,7 @@ void TestPlcTransfer::stalledTransferFails()
     const QString target = m_plc + "/coil.cnc";
     const QByteArray pipe = QFile::encodeName(target);
     bool hangs = false;
-    connect(&transfer, &PlcTransfer::progress, [&](int) {
+    const SignalHook hook(&transfer, SIGNAL(progress(int)), [&](int) {
         if (!hangs && QFileInfo(target).isFile())
             hangs = QFile::remove(target) && ::mkfifo(pipe.constData(), 0600) == 0;
     });
@@ -416,7 +417,7 @@ void TestPlcTransfer::arrivalOfAnotherIsNotTakenOut()
     QSignalSpy failures(&transfer, SIGNAL(failed(QString)));
     const QString target = m_plc + "/coil.cnc";
     bool isReplaced = false;
-    connect(&transfer, &PlcTransfer::progress, [&](int) {
+    const SignalHook hook(&transfer, SIGNAL(progress(int)), [&](int) {
         if (isReplaced || !QFileInfo(target).exists())
             return;
         writeFile(m_plc + "/theirs", "of another panel\n");
@@ -435,7 +436,7 @@ void TestPlcTransfer::arrivalOfAnotherIsNotTakenOut()
 void TestPlcTransfer::copyThatChangedIsNotSent()
 {
     const QByteArray shown = longProgram();
-    const QByteArray hash = QCryptographicHash::hash(shown, QCryptographicHash::Sha256);
+    const QByteArray hash = Sha256::hash(shown);
     writeFile(m_plc + "/coil.cnc", "before\n");
     writeFile(programDir() + "/coil.cnc", shown);
     writeFile(home() + "/hmi/copy", QByteArray(shown).replace(shown.size() - 1, 1, "?"));

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "base/sha256.h"
 #include "filarixtest.h"
 #include "programs/programsnapshot.h"
+#include "signalhook.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -97,7 +98,7 @@ void TestProgramSnapshot::factsAndCopy()
     QCOMPARE(snapshot.facts().name, QString("coil.cnc"));
     QCOMPARE(snapshot.facts().bytes, qint64(bytes.size()));
     QTEST(int(snapshot.facts().lines), "lines");
-    QCOMPARE(snapshot.facts().hash, QCryptographicHash::hash(bytes, QCryptographicHash::Sha256));
+    QCOMPARE(snapshot.facts().hash, Sha256::hash(bytes));
     QCOMPARE(readFile(snapshot.copyPath()), bytes);
     QCOMPARE(snapshot.programPath(), m_path);
 }
@@ -162,7 +163,7 @@ void TestProgramSnapshot::programWrittenMeanwhileIsReadAgain()
     ProgramSnapshot snapshot(m_folder);
     QSignalSpy taken(&snapshot, SIGNAL(taken()));
     bool isWritten = false;
-    connect(&snapshot, &ProgramSnapshot::progress, [&](int percent) {
+    const SignalHook hook(&snapshot, SIGNAL(progress(int)), [&](int percent) {
         if (!isWritten && percent >= 20)
             writeFile(m_path, "after\n");
         isWritten = isWritten || percent >= 20;
@@ -181,8 +182,8 @@ void TestProgramSnapshot::programThatIsAlwaysWrittenFails()
     ProgramSnapshot snapshot(m_folder);
     QSignalSpy failures(&snapshot, SIGNAL(failed(QString)));
     int size = longProgram().size();
-    connect(&snapshot, &ProgramSnapshot::progress,
-            [&](int) { writeFile(m_path, QByteArray(++size, 'X')); });
+    const SignalHook hook(&snapshot, SIGNAL(progress(int)),
+                          [&](int) { writeFile(m_path, QByteArray(++size, 'X')); });
     snapshot.take(m_path);
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(failures.at(0).at(0).toString().contains("is being written"));
@@ -219,7 +220,7 @@ void TestProgramSnapshot::stopIsNoFailure()
     QSignalSpy taken(&snapshot, SIGNAL(taken()));
     QSignalSpy failures(&snapshot, SIGNAL(failed(QString)));
     QSignalSpy stops(&snapshot, SIGNAL(stopped(QString)));
-    connect(&snapshot, &ProgramSnapshot::progress, &snapshot, &ProgramSnapshot::stop);
+    const SignalHook hook(&snapshot, SIGNAL(progress(int)), [&] { snapshot.stop(); });
     snapshot.take(m_path);
     QTRY_COMPARE(stops.size(), 1);
     QCOMPARE(taken.size(), 0);
@@ -352,7 +353,7 @@ static int runOtherPanel(int order, int report, int argc, char **argv)
     const QCoreApplication application(argc, argv);
     ProgramSnapshot snapshot(FilarixTest::home() + "/hmi/outgoing");
     bool isTaken = false;
-    QObject::connect(&snapshot, &ProgramSnapshot::taken, [&] { isTaken = true; });
+    const SignalHook hook(&snapshot, SIGNAL(taken()), [&] { isTaken = true; });
     snapshot.take(FilarixTest::programDir() + "/coil.cnc");
     if (!QTest::qWaitFor([&] { return isTaken; }))
         return 1;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "signalhook.h"
 #include "stick/devicewatch.h"
 #include "stick/stick.h"
 
@@ -124,7 +125,7 @@ void TestDeviceWatch::deviceThatKeepsItWaitingStopsNothing()
     sinceLast.start();
     qint64 longest = 0;
     QTimer pulse;
-    connect(&pulse, &QTimer::timeout, this, [&] {
+    const SignalHook hook(&pulse, SIGNAL(timeout()), [&] {
         longest = qMax(longest, sinceLast.restart());
         watch->lookNow();
     });

@@ -305,14 +305,13 @@ void TestImportGuard::programDirectoryWithABlankIsRefused()
 void TestImportGuard::renamingThatFailsIsTold()
 {
     writeFile(programDir() + "/a b.cnc", "G01\n");
-    QFile::setPermissions(programDir(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(programDir(), QFile::ReadOwner | QFile::ExeOwner);
     ImportGuard guard(programDir(), "/mnt/Storage");
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ModalDriver driver;
     driver.press(QMessageBox::Yes);
     const ImportGuard::Settled settled = settle(&guard);
-    QFile::setPermissions(programDir(),
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(programDir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(settled, ImportGuard::NotSettled);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
@@ -488,7 +487,7 @@ void TestImportGuard::programThatTheHistoryCannotKeepGoesOnlyAfterAQuestion()
     writeFile(path, "G01\n");
     // Nobody can read it, so nobody can keep it; to delete it takes no more than the folder's
     // rights.
-    QFile::setPermissions(path, QFileDevice::Permissions());
+    QFile::setPermissions(path, QFile::Permissions());
     ProgramHistory history(programDir(), home() + "/hmi/history");
     ImportGuard guard(programDir(), "/mnt/Storage", &history);
     ImportManage manager(nullptr);

@@ -9,6 +9,11 @@
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
+#include <QAction>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextDocument>
+#include <QToolBar>
 #include <QToolButton>
 
 /// The library's window as a host makes it, with nothing left of it afterwards.
@@ -39,6 +44,33 @@ public:
     QString text() const
     {
         return Compat::rawText(document()).replace(QChar(QChar::ParagraphSeparator), QChar('\n'));
+    }
+    /// By the text on it; null when there is none.
+    QToolButton *button(const QString &text) const
+    {
+        const QList<QToolButton *> buttons = m_window->findChildren<QToolButton *>();
+        for (QToolButton *button : buttons) {
+            if (button->text() == text)
+                return button;
+        }
+        return nullptr;
+    }
+    /// As its bar does while it shows others.
+    void hideButton(const QString &text) const
+    {
+        const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
+        for (QToolBar *bar : bars) {
+            const QList<QAction *> actions = bar->actions();
+            for (QAction *action : actions)
+                action->setVisible(bar->widgetForAction(action) != button(text));
+        }
+    }
+    void press(const QString &text) const { button(text)->click(); }
+    /// Types a name into the library's picker, and presses OK.
+    static void pick(QWidget *dialog, const QString &name)
+    {
+        dialog->findChild<QLineEdit *>()->setText(name);
+        dialog->findChildren<QPushButton *>().first()->click();
     }
     bool isModified() const { return document()->isModified(); }
 
