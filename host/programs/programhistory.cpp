@@ -202,7 +202,7 @@ class Q_DECL_HIDDEN ProgramHistory::Restore : public FileTask
 {
 public:
     Restore(const ProgramVersion &version, const QString &programDir,
-            const std::shared_ptr<HistoryStore> &store)
+            const std::shared_ptr<HistoryStore> &store, int writerPatienceMs)
         : m_version(version)
         , m_programDir(programDir)
         , m_targetPath(m_programDir.filePath(version.name))
@@ -210,6 +210,7 @@ public:
                                          + HostCompat::uniqueName()))
         , m_halfPath(m_folder + QLatin1Char('/') + version.name)
         , m_store(store)
+        , m_writerPatienceMs(writerPatienceMs)
         , m_source(version.path)
     {}
 
@@ -237,6 +238,7 @@ private:
     const QString m_folder;
     const QString m_halfPath;
     const std::shared_ptr<HistoryStore> m_store;
+    const int m_writerPatienceMs;
     QFile m_source;
     QScopedPointer<DurableFile> m_half;
     Sha256 m_hash;
@@ -356,7 +358,7 @@ bool ProgramHistory::Restore::isKept(const QString &path) const
         const HistoryStore::Outcome outcome = m_store->store(path, &error);
         if (outcome == HistoryStore::Stored || outcome == HistoryStore::Known)
             return true;
-        if (outcome == HistoryStore::Failed || writing.hasExpired(writerMs))
+        if (outcome == HistoryStore::Failed || writing.hasExpired(m_writerPatienceMs))
             return false;
         HostCompat::sleep(HistoryStore::restMs / 5);
     }
@@ -390,6 +392,7 @@ ProgramHistory::ProgramHistory(const QString &programDir, const QString &folder,
     , m_programDir(programDir)
     , m_store(std::make_shared<HistoryStore>(folder, limits))
     , m_patienceMs(patienceMs)
+    , m_writerPatienceMs(writerMs)
 {
     connect(&m_scanWork, SIGNAL(ended()), this, SLOT(endScan()));
     connect(&m_scanWork, SIGNAL(stalled()), this, SLOT(loseScan()));
@@ -601,7 +604,7 @@ void ProgramHistory::beginRestore()
                               "restore yet. Switch the panel off and on.")
                                .arg(m_wanted.name),
                            Message::Warning);
-    m_restore = std::make_shared<Restore>(m_wanted, m_programDir, m_store);
+    m_restore = std::make_shared<Restore>(m_wanted, m_programDir, m_store, m_writerPatienceMs);
     m_restoreWork.start(m_restore);
 }
 

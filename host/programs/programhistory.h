@@ -68,6 +68,11 @@ public:
     void setStallTime(int ms);
     /// Milliseconds after which everything counts as settled; 20 seconds at first.
     void setPatience(int ms) { m_patienceMs = ms; }
+    /// Milliseconds from one look at the directory to the next; 1000 at first.
+    void setLookInterval(int ms) { m_pollTimer.setInterval(ms); }
+    /// Milliseconds for which a restore waits for whoever writes to the program; 3000 at first.
+    /// The next restore goes by it.
+    void setWriterPatience(int ms) { m_writerPatienceMs = ms; }
 
 Q_SIGNALS:
     void versionsChanged();
@@ -126,6 +131,7 @@ private:
     QList<Waiter> m_waiters;
     QElapsedTimer m_unsettledFor;
     int m_patienceMs;
+    int m_writerPatienceMs;
     int m_looks = 0;
     int m_endedLook = 0;
     /// The last one that somebody did not wait for.

@@ -5,6 +5,7 @@
 #include "filecalls.h"
 #include "heldfile.h"
 #include "programs/programhistory.h"
+#include "signalhook.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -69,6 +70,7 @@ private:
     ProgramVersion versionOf(const QByteArray &bytes) const;
     QString lastTold() const;
     QStringList hidden() const;
+    void save(const QByteArray &bytes) const;
     void saveInPlace(const QByteArray &bytes) const;
     Message::Tone lastTone() const;
 
@@ -111,7 +113,7 @@ void TestProgramHistory::cleanup()
 void TestProgramHistory::start(const HistoryStore::Limits &limits)
 {
     m_history.reset(new ProgramHistory(programDir(), m_folder, limits));
-    m_told.reset(new QSignalSpy(m_history.data(), &ProgramHistory::told));
+    m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, Message::Tone, QString))));
 }
 
 // Everything is kept, and that makes so many versions.
@@ -151,6 +153,13 @@ QStringList TestProgramHistory::hidden() const
     return names.filter(QRegExp("^\\."));
 }
 
+// A while ago, so that the history takes it in without waiting for a writer to end.
+void TestProgramHistory::save(const QByteArray &bytes) const
+{
+    writeFile(m_path, bytes);
+    age(m_path);
+}
+
 // As the library does: into the file that has the name. For any thread.
 void TestProgramHistory::saveInPlace(const QByteArray &bytes) const
 {
@@ -182,6 +191,7 @@ void TestProgramHistory::programsOfTheStartAreKept()
 void TestProgramHistory::savesAreKept()
 {
     start();
+    m_history->setLookInterval(50);
     // Nobody says that something changed: the history looks by itself.
     for (const char *bytes : {"one\n", "two\n"}) {
         writeFile(m_path, bytes);
@@ -202,10 +212,10 @@ void TestProgramHistory::whatIsNoProgramIsNotKept()
 
 void TestProgramHistory::overwrittenVersionComesBack()
 {
-    writeFile(m_path, "the good one\n");
+    save("the good one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "saved over it\n");
+    save("saved over it\n");
     QVERIFY(isKept(2));
     m_history->restore(versionOf("the good one\n"));
     QTRY_COMPARE(m_told->size(), 1);
@@ -224,7 +234,7 @@ void TestProgramHistory::overwrittenVersionComesBack()
 
 void TestProgramHistory::removedProgramComesBack()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
     QVERIFY(QFile::remove(m_path));
@@ -239,7 +249,7 @@ void TestProgramHistory::removedProgramComesBack()
 
 void TestProgramHistory::restoreKeepsWhatIsThereFirst()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
     // Saved a moment ago, and nobody has looked since.
@@ -254,11 +264,11 @@ void TestProgramHistory::restoreThatCannotKeepWhatIsThereIsRefused()
 {
     HistoryStore::Limits limits;
     limits.bytes = 1000;
-    writeFile(m_path, "one\n");
+    save("one\n");
     start(limits);
     QVERIFY(isKept(1));
     const QByteArray large(501, 'x');
-    writeFile(m_path, large);
+    save(large);
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 2);
     QVERIFY(m_told->first().at(0).toString().contains("too large"));
@@ -272,10 +282,10 @@ void TestProgramHistory::restoreThatCannotKeepWhatIsThereIsRefused()
 void TestProgramHistory::longRestoreTellsItsProgressAndStops()
 {
     const QByteArray bytes = QByteArray("G01 X1.5 Y-2\n").repeated(100000);
-    writeFile(m_path, bytes);
+    save(bytes);
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "saved over it\n");
+    save("saved over it\n");
     QVERIFY(isKept(2));
     QSignalSpy worked(m_history.data(), SIGNAL(worked(QString, int)));
     const ProgramVersion version = m_history->versions().first();
@@ -285,9 +295,9 @@ void TestProgramHistory::longRestoreTellsItsProgressAndStops()
     QCOMPARE(worked.last().at(1).toInt(), 100);
     QCOMPARE(readFile(m_path), bytes);
 
-    writeFile(m_path, "saved over it again\n");
-    connect(m_history.data(), &ProgramHistory::worked, m_history.data(),
-            &ProgramHistory::stopRestoring);
+    save("saved over it again\n");
+    const SignalHook hook(m_history.data(), SIGNAL(worked(QString, int)),
+                          [this] { m_history->stopRestoring(); });
     m_history->restore(version);
     QTRY_COMPARE(m_told->size(), 2);
     QVERIFY(lastTold().contains("Stopped"));
@@ -297,10 +307,10 @@ void TestProgramHistory::longRestoreTellsItsProgressAndStops()
 
 void TestProgramHistory::damagedVersionIsNotBroughtBack()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
     const ProgramVersion version = m_history->versions().first();
     writeFile(version.path, readFile(version.path).replace("one", "ono"));
@@ -313,7 +323,7 @@ void TestProgramHistory::damagedVersionIsNotBroughtBack()
 
 void TestProgramHistory::versionThatWentMeanwhileIsTold()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
     const ProgramVersion version = m_history->versions().first();
@@ -322,7 +332,7 @@ void TestProgramHistory::versionThatWentMeanwhileIsTold()
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains("not in the history any more"));
     // The next one is not held up by it.
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
     m_history->restore(m_history->versions().last());
     QTRY_COMPARE(m_told->size(), 2);
@@ -331,11 +341,11 @@ void TestProgramHistory::versionThatWentMeanwhileIsTold()
 
 void TestProgramHistory::restoreIntoAFolderThatTakesNothing()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    const QFileDevice::Permissions usual = QFile::permissions(programDir());
-    QVERIFY(QFile::setPermissions(programDir(), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    const QFile::Permissions usual = QFile::permissions(programDir());
+    QVERIFY(QFile::setPermissions(programDir(), QFile::ReadOwner | QFile::ExeOwner));
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains("cannot be written"));
@@ -362,7 +372,7 @@ void TestProgramHistory::halfRestoredFileOfAKilledProgramGoes()
 void TestProgramHistory::historyThatCannotBeKeptIsToldOnce()
 {
     writeFile(home() + "/hmi", "a file where the folder should be");
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains(m_folder));
@@ -371,13 +381,14 @@ void TestProgramHistory::historyThatCannotBeKeptIsToldOnce()
     QVERIFY(isKept(0));
     QCOMPARE(m_told->size(), 1);
     // It goes on by itself once it can.
+    m_history->setLookInterval(50);
     QVERIFY(QFile::remove(home() + "/hmi"));
     QTRY_COMPARE(m_history->versions().size(), 1);
 }
 
 void TestProgramHistory::storageThatHangsIsTold()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     // A program that hangs when it is opened: the system waits until the lease is given back.
     std::signal(SIGIO, SIG_IGN);
     QFile leased(m_path);
@@ -385,7 +396,7 @@ void TestProgramHistory::storageThatHangsIsTold()
     QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
     m_history.reset(new ProgramHistory(programDir(), m_folder));
     m_history->setStallTime(200);
-    m_told.reset(new QSignalSpy(m_history.data(), &ProgramHistory::told));
+    m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, Message::Tone, QString))));
     QTRY_COMPARE(m_told->size(), 1);
     QVERIFY(lastTold().contains("stopped answering"));
     // Nobody is kept from working by it.
@@ -415,7 +426,7 @@ void TestProgramHistory::waiterIsCalledWhenAllOfThatMomentIsKept()
     for (int i = 0; i < 8; ++i) {
         const QByteArray bytes = QByteArray::number(i);
         m_history->scan();
-        writeFile(m_path, bytes);
+        save(bytes);
         int calls = 0;
         QByteArray kept;
         m_history->whenSettled(this, [&] {
@@ -453,7 +464,7 @@ void TestProgramHistory::waiterIsCalledWhenAProgramCannotBeKept()
 
 void TestProgramHistory::waiterIsCalledWhenTheStorageIsLost()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     std::signal(SIGIO, SIG_IGN);
     QFile leased(m_path);
     QVERIFY(leased.open(QIODevice::ReadWrite));
@@ -479,7 +490,8 @@ void TestProgramHistory::waiterIsCalledWhenAWriterDoesNotEnd()
     m_history->setPatience(500);
     QTimer writer;
     QByteArray bytes;
-    connect(&writer, &QTimer::timeout, this, [&] { writeFile(m_path, bytes += "more\n"); });
+    const SignalHook hook(&writer, SIGNAL(timeout()),
+                          [&] { writeFile(m_path, bytes += "more\n"); });
     writeFile(m_path, "more\n");
     writer.start(10);
     QElapsedTimer timer;
@@ -500,6 +512,7 @@ void TestProgramHistory::lookThatNobodyWaitedForKeepsNothing()
 {
     const QString slow = programDir() + "/slow.cnc";
     writeFile(slow, "before\n");
+    age(slow);
     start();
     QTRY_VERIFY(m_history->isSettled());
     QVERIFY(m_history->isKept("coil.cnc"));
@@ -547,17 +560,18 @@ void TestProgramHistory::causeEndsWhenTheProgramIsKeptOrGone()
     QFETCH(QByteArray, later);
     HistoryStore::Limits limits;
     limits.bytes = 1000;
-    writeFile(m_path, QByteArray(501, 'x'));
+    save(QByteArray(501, 'x'));
     start(limits);
-    QSignalSpy ends(m_history.data(), &ProgramHistory::causeEnded);
+    QSignalSpy ends(m_history.data(), SIGNAL(causeEnded(QString)));
     QVERIFY(isKept(0));
     QVERIFY(isKept(0));
     QCOMPARE(m_told->size(), 1);
     QCOMPARE(ends.size(), 0);
+    m_history->setLookInterval(50);
     if (later.isNull())
         QVERIFY(QFile::remove(m_path));
     else
-        writeFile(m_path, later);
+        save(later);
     QTRY_COMPARE(ends.size(), 1);
     QCOMPARE(ends.first().first().toString(), QString("history:coil.cnc"));
     QCOMPARE(m_told->size(), 1);
@@ -566,10 +580,10 @@ void TestProgramHistory::causeEndsWhenTheProgramIsKeptOrGone()
 
 void TestProgramHistory::restoreKeepsThePermissions()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QCOMPARE(::chmod(QFile::encodeName(m_path).constData(), 0640), 0);
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 1);
@@ -592,10 +606,10 @@ void TestProgramHistory::saveRightBeforeTheRenameIsKept()
 {
     QFETCH(bool, isRightBefore);
     QFETCH(bool, canExchange);
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
     std::atomic<int> saves{0};
     // Of each two, the first asks for an exchange.
@@ -628,10 +642,10 @@ void TestProgramHistory::saveRightBeforeTheRenameIsKept()
 
 void TestProgramHistory::saveThatGoesOnIsKept()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
     std::thread saving;
     QByteArray saved;
@@ -664,13 +678,14 @@ void TestProgramHistory::saveThatGoesOnIsKept()
 
 void TestProgramHistory::saveWithoutEndIsLeftInPlace()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
     std::thread saving;
     std::atomic<bool> isEnough{false};
+    m_history->setWriterPatience(400);
     FileCalls::beforeRename = [&](const QByteArray &, const QByteArray &to) {
         if (to != QFile::encodeName(m_path) || saving.joinable())
             return 0;
@@ -694,7 +709,7 @@ void TestProgramHistory::saveWithoutEndIsLeftInPlace()
 
 void TestProgramHistory::programThatComesBackMeanwhileIsKept()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
     QVERIFY(QFile::remove(m_path));
@@ -716,7 +731,7 @@ void TestProgramHistory::programThatComesBackMeanwhileIsKept()
 
 void TestProgramHistory::linkIsNotReplaced()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
     QVERIFY(QFile::remove(m_path));
@@ -732,7 +747,7 @@ void TestProgramHistory::linkIsNotReplaced()
 
 void TestProgramHistory::whatAKilledRestoreHeldIsTakenIn()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     const QString held = programDir() + "/.filarix-restored-1a2b/coil.cnc";
     writeFile(held, "saved in the last moment\n");
     const struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
@@ -746,12 +761,12 @@ void TestProgramHistory::whatAKilledRestoreHeldIsTakenIn()
 
 void TestProgramHistory::stalledSyncBringsNothingBack()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
-    writeFile(m_path, "three\n");
+    save("three\n");
     QVERIFY(isKept(3));
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
     const std::shared_ptr<QAtomicInt> hangs = std::make_shared<QAtomicInt>();
@@ -778,10 +793,10 @@ void TestProgramHistory::stalledSyncBringsNothingBack()
 
 void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     start();
     QVERIFY(isKept(1));
-    writeFile(m_path, "two\n");
+    save("two\n");
     QVERIFY(isKept(2));
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
     const QByteArray program = QFile::encodeName(m_path);
@@ -811,7 +826,7 @@ static volatile std::sig_atomic_t leaseIsWanted = 0;
 
 void TestProgramHistory::nobodyWaitsForStorageThatHangs()
 {
-    writeFile(m_path, "one\n");
+    save("one\n");
     leaseIsWanted = 0;
     std::signal(SIGIO, [](int) { leaseIsWanted = 1; });
     QFile leased(m_path);
