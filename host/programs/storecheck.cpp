@@ -149,7 +149,9 @@ void StoreCheck::writeElsewhere(const QString &folder)
             return miss(tr("the stick stopped answering"));
         }
         if (!task->isStored())
-            return miss(tr("neither here nor on the stick (%1)").arg(task->reason()));
+            return miss(task->reason().isEmpty()
+                            ? tr("neither here nor on the stick, whose file differs")
+                            : tr("neither here nor on the stick (%1)").arg(task->reason()));
         m_otherPath = task->path();
         end(StoredElsewhere);
     });

@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "base/hostcompat.h"
 #include "devicelog.h"
 #include "filarixtest.h"
+#include "filecalls.h"
 #include "guards/programguard.h"
 #include "heldfile.h"
 #include "modaldriver.h"
+#include "programwindow.h"
 #include "scriptquestioner.h"
-#include "wgcodeediter.h"
-#include "wmmainwindow.h"
+#include "signalhook.h"
 
 #include <QDialog>
 #include <QDir>
@@ -20,13 +22,12 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTextDocument>
-#include <QTimer>
-#include <QToolBar>
 #include <QToolButton>
 
 #include <atomic>
 #include <csignal>
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -49,6 +50,34 @@ public:
 
 private:
     rlimit m_old;
+};
+
+// Files that hold something else by the time at which they are read back.
+class DecayingDisk
+{
+public:
+    explicit DecayingDisk(const QByteArray &first, const QByteArray &second = QByteArray())
+    {
+        FileCalls::beforeSync = [this, first, second](const QByteArray &path) {
+            if (path == first || path == second)
+                decay(path);
+        };
+    }
+    ~DecayingDisk() { FileCalls::reset(); }
+
+    int decays() const { return m_decays; }
+
+private:
+    Q_DISABLE_COPY(DecayingDisk)
+
+    void decay(const QByteArray &path)
+    {
+        const int handle = ::open(path.constData(), O_WRONLY);
+        m_decays += handle >= 0 && ::pwrite(handle, "X", 1, 0) == 1;
+        ::close(handle);
+    }
+
+    std::atomic<int> m_decays{0};
 };
 
 QByteArray numbered(int lines, const QByteArray &end = "\n")
@@ -86,6 +115,8 @@ private Q_SLOTS:
     void writeErrorIsToldAndTheDocumentIsModifiedAgain_data();
     void writeErrorIsToldAndTheDocumentIsModifiedAgain();
     void tryingAgainStoresAllOfIt();
+    void whatIsWrittenAgainIsReadBack();
+    void whatTheStickHoldsIsReadBack();
     void savingElsewhereLeavesTheDocumentModified();
     void stickThatWasPulledMeanwhileGetsNothing();
     void newCommandWaitsForAStoredSave_data();
@@ -115,18 +146,18 @@ private Q_SLOTS:
     void failedRemovalIsTold();
 
 private:
-    QToolButton *button(const QString &text) const;
-    void press(const QString &text) { button(text)->click(); }
+    QToolButton *button(const QString &text) const { return m_program->button(text); }
+    void press(const QString &text) { m_program->press(text); }
     void open(const QString &name);
-    void hideSave();
-    static void pick(QWidget *dialog, const QString &name);
+    static void pick(QWidget *dialog, const QString &name) { ProgramWindow::pick(dialog, name); }
     static QString hint(QWidget *dialog) { return dialog->findChild<QLabel *>("hint")->text(); }
     static void giveUp(QWidget *dialog) { static_cast<QDialog *>(dialog)->reject(); }
-    QTextDocument *document() const { return m_window->findChild<WGCodeEditer *>()->document(); }
+    QTextDocument *document() const { return m_program->document(); }
     QString path(const QString &name) const { return programDir() + '/' + name; }
     bool wasTold(const QString &part, Message::Tone tone) const;
 
-    QScopedPointer<WMMainWindow> m_window;
+    QScopedPointer<ProgramWindow> m_program;
+    WMMainWindow *m_window = nullptr;
     QScopedPointer<ScriptQuestioner> m_questioner;
     QScopedPointer<ProgramGuard> m_guard;
     QScopedPointer<QSignalSpy> m_told;
@@ -138,9 +169,10 @@ void TestProgramGuard::init()
     DeviceLog::reset();
     qRegisterMetaType<Message::Tone>("Message::Tone");
     programDir();
-    m_window.reset(new WMMainWindow(nullptr, 0));
+    m_program.reset(new ProgramWindow);
+    m_window = m_program->window();
     m_questioner.reset(new ScriptQuestioner);
-    m_guard.reset(new ProgramGuard(m_window.data(), programDir(), m_questioner.data()));
+    m_guard.reset(new ProgramGuard(m_window, programDir(), m_questioner.data()));
     m_told.reset(new QSignalSpy(m_guard.data(), SIGNAL(told(QString, Message::Tone, QString))));
     m_window->show();
 }
@@ -149,30 +181,8 @@ void TestProgramGuard::cleanup()
 {
     m_told.reset();
     m_guard.reset();
-    m_window.reset();
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (QWidget *widget : topLevels) {
-        // The window leaves the buttons that no bar takes to nobody.
-        if (qobject_cast<QToolButton *>(widget))
-            delete widget;
-    }
+    m_program.reset();
     FilarixTest::cleanup();
-}
-
-QToolButton *TestProgramGuard::button(const QString &text) const
-{
-    const QList<QToolButton *> buttons = m_window->findChildren<QToolButton *>();
-    for (QToolButton *button : buttons) {
-        if (button->text() == text)
-            return button;
-    }
-    return nullptr;
-}
-
-void TestProgramGuard::pick(QWidget *dialog, const QString &name)
-{
-    dialog->findChild<QLineEdit *>()->setText(name);
-    dialog->findChildren<QPushButton *>().first()->click();
 }
 
 void TestProgramGuard::open(const QString &name)
@@ -313,28 +323,28 @@ void TestProgramGuard::partOfAProgramIsNeverSavedNorSent()
     open("coil.cnc");
     // What an abort leaves: whole pieces of the front part, and a clean document.
     WGCodeEditer *editor = m_window->findChild<WGCodeEditer *>();
-    QMetaObject::Connection abort =
-        connect(editor, &QPlainTextEdit::blockCountChanged, this, [this](int count) {
+    QScopedPointer<SignalHook> abort(
+        new SignalHook(editor, SIGNAL(blockCountChanged(int)), [](int count) {
             const QWidgetList topLevels = QApplication::topLevelWidgets();
             for (QWidget *widget : topLevels) {
                 QProgressDialog *progress = qobject_cast<QProgressDialog *>(widget);
                 if (progress && count > 100)
                     progress->cancel();
             }
-        });
+        }));
     ModalDriver driver;
     driver.then([](QWidget *dialog) { pick(dialog, "coil.cnc"); });
     driver.press(QMessageBox::Yes);
     press("Open");
     QTRY_COMPARE(int(m_guard->state().kind), int(ProgramState::Incomplete));
-    disconnect(abort);
+    abort.reset();
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(document()->blockCount() < 500);
     QVERIFY(!document()->isUndoAvailable());
     QVERIFY(m_guard->state().line().startsWith("Incomplete: 1001 lines in the file"));
 
     QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
-    QSignalSpy sent(m_window.data(), SIGNAL(signal_download(QString)));
+    QSignalSpy sent(m_window, SIGNAL(signal_download(QString)));
     m_window->insertLine("G99");
     press("Save");
     QTRY_COMPARE(ended.size(), 1);
@@ -398,15 +408,15 @@ void TestProgramGuard::screenIsHeldWhileAProgramIsLoaded()
     const QByteArray bytes = numbered(1000);
     writeFile(path("coil.cnc"), bytes);
     bool isPressed = false;
-    QSignalSpy sent(m_window.data(), SIGNAL(signal_download(QString)));
-    connect(m_window->findChild<WGCodeEditer *>(), &QPlainTextEdit::blockCountChanged, this,
-            [&](int count) {
-                if (isPressed || count < 100)
-                    return;
-                isPressed = true;
-                for (const char *key : {"New", "Open", "RM", "Save", "SaveAs", "D/L"})
-                    press(key);
-            });
+    QSignalSpy sent(m_window, SIGNAL(signal_download(QString)));
+    const SignalHook hook(m_window->findChild<WGCodeEditer *>(), SIGNAL(blockCountChanged(int)),
+                          [&](int count) {
+                              if (isPressed || count < 100)
+                                  return;
+                              isPressed = true;
+                              for (const char *key : {"New", "Open", "RM", "Save", "SaveAs", "D/L"})
+                                  press(key);
+                          });
     open("coil.cnc");
     QVERIFY(isPressed);
     QCOMPARE(m_told->size(), 6);
@@ -505,6 +515,55 @@ void TestProgramGuard::tryingAgainStoresAllOfIt()
     QCOMPARE(int(m_guard->state().kind), int(ProgramState::Plain));
 }
 
+// A disk that keeps other bytes than it was given, and says nothing of it.
+void TestProgramGuard::whatIsWrittenAgainIsReadBack()
+{
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    const QByteArray target = QFile::encodeName(path("coil.cnc"));
+    const DecayingDisk disk(target);
+    m_questioner->answers = {1, 1, 0};
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(!ended.first().first().toBool());
+    // Once as the library wrote it, and twice by the answer.
+    QCOMPARE(disk.decays(), 3);
+    QCOMPARE(m_questioner->asked.size(), 3);
+    for (const Question &question : m_questioner->asked)
+        QVERIFY2(question.text.contains("the file holds something else than the editor"),
+                 qPrintable(question.text));
+    QVERIFY(document()->isModified());
+    QCOMPARE(int(m_guard->state().kind), int(ProgramState::NotStored));
+    QVERIFY(!wasTold("saved", Message::Information));
+    QVERIFY(!m_guard->mayDownload(path("coil.cnc")));
+}
+
+void TestProgramGuard::whatTheStickHoldsIsReadBack()
+{
+    const QString stick = home() + "/stick";
+    QVERIFY(QDir().mkpath(stick));
+    m_guard->setOtherPlace([stick] { return stick; });
+    writeFile(path("coil.cnc"), "G01\n");
+    open("coil.cnc");
+    m_window->insertLine("G99");
+    const DecayingDisk disk(QFile::encodeName(path("coil.cnc")),
+                            QFile::encodeName(stick + "/coil.cnc"));
+    m_questioner->answers = {2, 0};
+    QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
+    press("Save");
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(!ended.first().first().toBool());
+    QCOMPARE(disk.decays(), 2);
+    QCOMPARE(m_questioner->asked.size(), 2);
+    QVERIFY2(m_questioner->asked.last().text.contains(
+                 "neither here nor on the stick, whose file differs"),
+             qPrintable(m_questioner->asked.last().text));
+    QVERIFY(document()->isModified());
+    QVERIFY(!wasTold("is on the stick", Message::Warning));
+}
+
 void TestProgramGuard::savingElsewhereLeavesTheDocumentModified()
 {
     // A folder takes the file's place after the library wrote it: the panel's own place is lost.
@@ -515,7 +574,7 @@ void TestProgramGuard::savingElsewhereLeavesTheDocumentModified()
     writeFile(path("coil.cnc"), "G01\n");
     open("coil.cnc");
     m_window->insertLine("G99");
-    connect(document(), &QTextDocument::modificationChanged, this, [this](bool isModified) {
+    const SignalHook hook(document(), SIGNAL(modificationChanged(bool)), [this](int isModified) {
         if (isModified)
             return;
         QFile::remove(path("coil.cnc"));
@@ -590,22 +649,12 @@ void TestProgramGuard::newCommandWaitsForAStoredSave()
 }
 
 // On a small panel the bar shows some of its buttons only, and the others are off.
-void TestProgramGuard::hideSave()
-{
-    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
-    for (QToolBar *bar : bars) {
-        const QList<QAction *> actions = bar->actions();
-        for (QAction *action : actions)
-            action->setVisible(bar->widgetForAction(action) != button("Save"));
-    }
-}
-
 void TestProgramGuard::commandThatTheBarHidesIsGivenAllTheSame()
 {
     writeFile(path("coil.cnc"), "G01\n");
     open("coil.cnc");
     m_window->insertLine("G99");
-    hideSave();
+    m_program->hideButton("Save");
     QVERIFY(!button("Save")->isEnabled());
     QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
     m_guard->save();
@@ -636,8 +685,8 @@ void TestProgramGuard::commandThatTheBarHidesWhileItWaitsIsGivenAllTheSame()
 {
     writeFile(path("coil.cnc"), "G01\n");
     m_guard->setHistory([this](const QString &, const ProgramKeeper::Kept &kept) {
-        hideSave();
-        QTimer::singleShot(0, this, [kept] { kept(QString()); });
+        m_program->hideButton("Save");
+        HostCompat::callLater(this, [kept] { kept(QString()); });
     });
     open("coil.cnc");
     m_window->insertLine("G99");
@@ -726,11 +775,11 @@ void TestProgramGuard::hangingStorageIsToldAndTheScreenAnswers()
     open("coil.cnc");
     m_guard->setStallTime(300);
     QScopedPointer<HeldFile> held;
-    const auto hang =
-        connect(document(), &QTextDocument::modificationChanged, this, [&](bool isModified) {
+    QScopedPointer<SignalHook> hang(
+        new SignalHook(document(), SIGNAL(modificationChanged(bool)), [&](int isModified) {
             if (!isModified && !held)
                 held.reset(new HeldFile(path("coil.cnc")));
-        });
+        }));
     m_window->insertLine("G99");
     QSignalSpy ended(m_guard.data(), SIGNAL(saveEnded(bool)));
     LoopPulse pulse;
@@ -747,7 +796,7 @@ void TestProgramGuard::hangingStorageIsToldAndTheScreenAnswers()
     QTRY_COMPARE(ended.size(), 2);
     QVERIFY(wasTold("The panel's storage does not answer.", Message::Warning));
     QVERIFY(pulse.longest() < 250);
-    disconnect(hang);
+    hang.reset();
     held.reset();
     press("Save");
     QTRY_COMPARE(ended.size(), 3);
@@ -989,8 +1038,8 @@ void TestProgramGuard::whatTheHistoryCannotKeepIsAskedAbout()
     QFETCH(int, answer);
     writeFile(path("coil.cnc"), "G01\n");
     open("coil.cnc");
-    m_guard->setHistory([](const QString &, const ProgramKeeper::Kept &kept) {
-        QTimer::singleShot(0, [kept] { kept("It is too large."); });
+    m_guard->setHistory([this](const QString &, const ProgramKeeper::Kept &kept) {
+        HostCompat::callLater(this, [kept] { kept("It is too large."); });
     });
     m_window->insertLine("G99");
     m_questioner->answers = {answer};
