@@ -6,6 +6,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QUuid>
+#include <QWidget>
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QWindow>
+#endif
 
 #include <ctime>
 
@@ -64,4 +68,15 @@ void HostCompat::sleep(int ms)
 QString HostCompat::uniqueName()
 {
     return QString::fromLatin1(QUuid::createUuid().toRfc4122().toHex());
+}
+
+void HostCompat::keepBefore(QWidget *window, const QWidget *host)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    if (window->windowHandle())
+        window->windowHandle()->setTransientParent(host->windowHandle());
+#else
+    Q_UNUSED(window);
+    Q_UNUSED(host);
+#endif
 }

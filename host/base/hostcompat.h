@@ -13,6 +13,8 @@
 
 #include <functional>
 
+class QWidget;
+
 namespace HostCompat {
 
 /// Runs \a function from the event loop, once. Nothing runs when \a context has gone by then. To be
@@ -26,6 +28,10 @@ void sleep(int ms);
 
 /// 32 hexadecimal digits that no other call gives, in this program or another.
 QString uniqueName();
+
+/// Has the window system keep \a window before \a host. Qt 4 has no way to ask for that: there
+/// nothing is done. Both are shown by now.
+void keepBefore(QWidget *window, const QWidget *host);
 
 /// Keeps an object's signals back while it lives, and leaves them as they were.
 class SignalBlocker

@@ -6,8 +6,26 @@
 
 #include "base/filarixhostglobal.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+
+/// A line of what the operator tells a thing by: "Checksum", "3F2A 91C0".
+struct QuestionFact
+{
+    QuestionFact() = default;
+    QuestionFact(const QString &key, const QString &heading, const QString &value, bool mayBreak)
+        : key(key), heading(heading), value(value), mayBreak(mayBreak)
+    {}
+
+    /// The line's name for programs, the same in every language: "checksum".
+    QString key;
+    QString heading;
+    QString value;
+    /// Whether a value that is too long for its line may take a second one. Otherwise the value
+    /// loses its middle: two names may differ at the end alone.
+    bool mayBreak = false;
+};
 
 /// A question to the operator, with its answers in words.
 struct Question
@@ -25,6 +43,12 @@ struct Question
     QStringList answers;
     /// What the question is about, one a line: programs and their times, say. Mostly none.
     QStringList things;
+    /// What the operator needs to see before an answer, under headings. Mostly none.
+    QList<QuestionFact> facts;
+
+    /// The text, and below it the things and the facts, for a host whose dialogs show nothing but
+    /// text.
+    QString plainText() const;
 };
 
 /// Asks the operator. A host that has dialogs of its own implements this one function.

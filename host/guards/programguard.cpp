@@ -7,7 +7,9 @@
 #include "base/hostcompat.h"
 #include "base/questioner.h"
 #include "guards/pickerguard.h"
+#include "programs/checkeddownload.h"
 #include "programs/programcomparison.h"
+#include "programs/programhistory.h"
 #include "programs/programname.h"
 #include "programs/programtext.h"
 #include "wgcodeediter.h"
@@ -80,6 +82,29 @@ ProgramGuard::ProgramGuard(WMMainWindow *window, const QString &programDir, Ques
 }
 
 ProgramGuard::~ProgramGuard() = default;
+
+void ProgramGuard::setHistory(ProgramHistory *history)
+{
+    setHistory([history](const QString &path, const ProgramKeeper::Kept &kept) {
+        const QString name = nameOf(path);
+        history->whenSettled(history,
+                             [history, name, kept] { kept(history->reasonNotKept(name)); });
+    });
+}
+
+void ProgramGuard::setDownload(CheckedDownload *download)
+{
+    m_download = download;
+    const QPointer<ProgramGuard> self(this);
+    download->setShown([self](const QString &path, QString *shown) {
+        if (!self || path != self->m_window->getCurrentFile())
+            return false;
+        *shown = self->text();
+        return true;
+    });
+    connect(m_window, SIGNAL(signal_download(QString)), this, SLOT(startDownload(QString)));
+    connect(download, SIGNAL(ended()), this, SLOT(endDownload()));
+}
 
 QString ProgramGuard::programPath(const QString &name) const
 {
@@ -197,6 +222,19 @@ bool ProgramGuard::mayDownload(const QString &path)
                             : m_state.refusal(),
                 Message::Warning, QLatin1String(refusedCause));
     return false;
+}
+
+void ProgramGuard::startDownload(const QString &path)
+{
+    if (!mayDownload(path))
+        return;
+    m_window->setDownloading(true);
+    m_download->start(path);
+}
+
+void ProgramGuard::endDownload()
+{
+    m_window->setDownloading(false);
 }
 
 // Opening

@@ -17,8 +17,10 @@
 #include <QObject>
 #include <QPointer>
 
+class CheckedDownload;
 class PickerGuard;
 class ProgramComparison;
+class ProgramHistory;
 class QMessageBox;
 class QPlainTextEdit;
 class Questioner;
@@ -44,10 +46,16 @@ public:
                  QObject *parent = nullptr);
     ~ProgramGuard() override;
 
-    /// Before a write, what stands there is kept by \a history.
+    /// Before a write, what stands there is kept in \a history, which must outlive the guard.
+    void setHistory(ProgramHistory *history);
+    /// Likewise, in a history of the host's own.
     void setHistory(const ProgramKeeper::History &history) { m_keeper.setHistory(history); }
     /// See StoreCheck::setOtherPlace().
     void setOtherPlace(const std::function<QString()> &folder) { m_check.setOtherPlace(folder); }
+    /// The window's Download key leads to \a download, and is off while one runs. The question is
+    /// told what the editor shows. \a download must outlive the guard.
+    void setDownload(CheckedDownload *download);
+    /// Milliseconds after which the panel's storage counts as one that does not answer.
     void setStallTime(int ms) { m_jobs.setStallTime(ms); }
 
     const ProgramState &state() const { return m_state; }
@@ -83,6 +91,8 @@ private Q_SLOTS:
     void noteFailure();
     void noteAbort();
     void noteRemoval();
+    void startDownload(const QString &path);
+    void endDownload();
 
 private:
     typedef WindowCommands::Command Command;
@@ -119,6 +129,7 @@ private:
     WMMainWindow *m_window;
     QPlainTextEdit *m_editor;
     Questioner *m_questioner;
+    CheckedDownload *m_download = nullptr;
     WindowCommands m_commands;
     WindowDialogs m_dialogs;
     FileTaskQueue m_jobs;

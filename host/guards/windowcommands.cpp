@@ -56,6 +56,8 @@ WindowCommands::WindowCommands(WMMainWindow *window, QObject *parent) : QObject(
 
 void WindowCommands::pass(Command command)
 {
+    if (!m_gates.contains(command))
+        return;
     m_passing = command;
     // The bar may have hidden it since it was pressed.
     QAbstractButton *button = m_gates.value(command)->button();
@@ -74,12 +76,16 @@ void WindowCommands::pass(Command command)
 
 void WindowCommands::drop(Command command)
 {
+    if (!m_gates.contains(command))
+        return;
     m_gates.value(command)->drop();
     switchOffHidden(command);
 }
 
 void WindowCommands::press(Command command)
 {
+    if (!m_gates.contains(command))
+        return;
     QAbstractButton *button = m_gates.value(command)->button();
     // A bar that has no room for all of its buttons switches off those that it hides.
     button->setEnabled(true);

@@ -58,8 +58,6 @@ public:
     bool isRunning() const { return m_work.isRunning(); }
     /// Copies the program at \a path; empty when it was never saved. Does nothing while work runs.
     void take(const QString &path);
-    /// Whether the program still is what was taken. Does nothing while work runs.
-    void compare();
     /// Ends a take().
     void stop();
     /// Takes the copy away.
@@ -72,6 +70,10 @@ public:
     ProgramFacts facts() const { return m_facts; }
 
     void setStallTime(int ms) { m_work.setStallTime(ms); }
+
+public Q_SLOTS:
+    /// Whether the program still is what was taken. Does nothing while work runs.
+    void compare();
 
 Q_SIGNALS:
     void progress(int percent);
