@@ -86,6 +86,8 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   programs/programsnapshot.h
   programs/programstate.h
   programs/storecheck.h
+  programs/unsavedoffer.h
+  programs/unsavedrows.h
   programs/unsavedsession.h
   programs/unsavedstore.h
   programs/unsavedwork.h

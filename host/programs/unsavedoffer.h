@@ -5,7 +5,6 @@
 #define UNSAVEDOFFER_H
 
 #include "base/filarixhostglobal.h"
-
 #include "base/message.h"
 #include "programs/keptwork.h"
 #include "programs/unsavedsession.h"
