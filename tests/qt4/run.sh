@@ -57,6 +57,11 @@ cmake --build --preset "$preset" --parallel "$(nproc)"
 cmake -S . -B build/no-panel -G Ninja -DFILARIX_HOST=OFF -DFILARIX_PANEL=OFF -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 echo "The panel program and its tests are for Qt 5 alone."
 reasons=(tests/qt4/left-out.txt)
-[ "$preset" = qt4 ] || reasons+=(tests/qt4/left-out-arm.txt)
+if [ "$machine" = ARM ]; then
+    reasons+=(tests/qt4/left-out-arm.txt)
+fi
+if readelf -d "$toolkit/lib/libQtGui.so.4" | grep 'NEEDED.*libX11' >/dev/null; then
+    reasons+=(tests/qt4/left-out-x11.txt)
+fi
 tests/support/left-out.sh "Qt $version" <(cat "${reasons[@]}") build/no-panel "$build"
 exec ctest --preset "$preset" --parallel "$(nproc)" --no-tests=error "$@"

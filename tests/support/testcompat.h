@@ -7,6 +7,7 @@
 // What QtTest of Qt 4.8 lacks of Qt 5.15's.
 
 #include <QApplication>
+#include <QDesktopWidget>
 #include <QHeaderView>
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QInputContext>
@@ -120,6 +121,16 @@ inline QImage onTheScreen(const QWidget *window)
     return QApplication::primaryScreen()->grabWindow(window->winId()).toImage();
 #else
     return QPixmap::grabWindow(window->winId()).toImage();
+#endif
+}
+
+/// The same of the whole screen.
+inline QImage screen()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QApplication::primaryScreen()->grabWindow(0).toImage();
+#else
+    return QPixmap::grabWindow(QApplication::desktop()->winId()).toImage();
 #endif
 }
 
