@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds PlcTransfer, ProgramHistory and HistoryDialog: how long each keeps the event loop.
+
 #include "filarixtest.h"
 #include "modaldriver.h"
 #include "programs/plctransfer.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds PanelProgram with all its screens and dialogs: whether every text has its room.
+
 #include "filarixtest.h"
 #include "look/look.h"
 #include "panelprogram.h"

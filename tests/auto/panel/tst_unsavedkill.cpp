@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds UnsavedWork: what is kept of a panel that is killed at any moment.
+
 #include "filarixtest.h"
 #include "guards/programguard.h"
 #include "programs/programopener.h"

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "look/glyphs.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+
+class TestPanelKey : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aKeyIsNeverSmallerThanAThumb_data();
+    void aKeyIsNeverSmallerThanAThumb();
+    void aLongWordMakesItWider();
+    void theTextFollowsTheLanguage();
+    void aKeyTakesNoFocus();
+};
+
+void TestPanelKey::aKeyIsNeverSmallerThanAThumb_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no text") << QString();
+    QTest::newRow("a letter") << "i";
+    QTest::newRow("a word") << "Variables";
+}
+
+void TestPanelKey::aKeyIsNeverSmallerThanAThumb()
+{
+    QFETCH(QString, text);
+    const PanelKey drawn(Glyphs::icon(Glyphs::Files), text);
+    const PanelKey plain(text);
+    for (const PanelKey *key : {&drawn, &plain}) {
+        QVERIFY(key->minimumSizeHint().width() >= Look::kTouch);
+        QVERIFY(key->minimumSizeHint().height() >= Look::kTouch);
+        QCOMPARE(key->minimumSizeHint(), key->sizeHint());
+        QCOMPARE(key->text(), text);
+    }
+    QCOMPARE(drawn.toolButtonStyle(),
+             text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+    QCOMPARE(plain.toolButtonStyle(), Qt::ToolButtonTextOnly);
+}
+
+void TestPanelKey::aLongWordMakesItWider()
+{
+    const PanelKey longer("The addresses of the connections");
+    QVERIFY(longer.sizeHint().width() > PanelKey("Edit").sizeHint().width());
+}
+
+void TestPanelKey::theTextFollowsTheLanguage()
+{
+    QString name = "Files";
+    PanelKey key(Glyphs::icon(Glyphs::Files), [&name] { return name; });
+    QCOMPARE(key.text(), QString("Files"));
+    name = "Dateien";
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&key, &change);
+    QCOMPARE(key.text(), QString("Dateien"));
+}
+
+void TestPanelKey::aKeyTakesNoFocus()
+{
+    QCOMPARE(PanelKey("Edit").focusPolicy(), Qt::NoFocus);
+}
+
+FILARIX_TEST_MAIN(TestPanelKey)
+#include "tst_panelkey.moc"

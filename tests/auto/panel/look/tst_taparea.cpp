@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "look/taparea.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+
+class TestTapArea : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aTouchOnAnyOfItsTextsIsOne();
+    void aFingerThatSlidesOffTouchesNothing();
+    void whatLiesBehindIsNotTouched();
+};
+
+void TestTapArea::aTouchOnAnyOfItsTextsIsOne()
+{
+    TapArea area;
+    area.resize(200, 60);
+    QLabel upper("upper", &area);
+    upper.setGeometry(0, 0, 200, 30);
+    QLabel lower("lower", &area);
+    lower.setGeometry(0, 30, 200, 30);
+    area.show();
+    QVERIFY(TestCompat::waitForExposed(&area));
+    QSignalSpy touched(&area, SIGNAL(touched()));
+    QTest::mouseClick(&upper, Qt::LeftButton);
+    QTest::mouseClick(&lower, Qt::LeftButton);
+    QTest::mouseClick(&area, Qt::LeftButton);
+    QCOMPARE(touched.size(), 3);
+}
+
+void TestTapArea::aFingerThatSlidesOffTouchesNothing()
+{
+    TapArea area;
+    area.resize(200, 60);
+    QSignalSpy touched(&area, SIGNAL(touched()));
+    QTest::mousePress(&area, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, QPoint(10, 80));
+    QCOMPARE(touched.size(), 0);
+}
+
+void TestTapArea::whatLiesBehindIsNotTouched()
+{
+    TapArea behind;
+    behind.resize(200, 60);
+    TapArea area;
+    area.setParent(&behind);
+    area.resize(100, 60);
+    QSignalSpy touched(&behind, SIGNAL(touched()));
+    QSignalSpy own(&area, SIGNAL(touched()));
+    QTest::mouseClick(&area, Qt::LeftButton);
+    QCOMPARE(own.size(), 1);
+    QCOMPARE(touched.size(), 0);
+}
+
+FILARIX_TEST_MAIN(TestTapArea)
+#include "tst_taparea.moc"

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "look/look.h"
+#include "look/tonemark.h"
+
+#include <QImage>
+#include <QLabel>
+#include <QPixmap>
+
+class TestToneMark : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aMarkHasTheGroundOfItsTone();
+    void aClearMarkKeepsItsPlace();
+    void aSheetCanAskForTheTone();
+};
+
+// Beside the drawing.
+static QColor groundOf(ToneMark *mark)
+{
+    return mark->grab().toImage().pixelColor(mark->width() / 2, 0);
+}
+
+void TestToneMark::aMarkHasTheGroundOfItsTone()
+{
+    ToneMark mark;
+    for (Message::Tone tone : {Message::Information, Message::Warning, Message::Alarm}) {
+        mark.setTone(tone);
+        QCOMPARE(groundOf(&mark), Look::ground(tone));
+    }
+}
+
+void TestToneMark::aClearMarkKeepsItsPlace()
+{
+    ToneMark mark;
+    const QImage empty = mark.grab().toImage();
+    const QSize size = mark.size();
+    mark.setTone(Message::Alarm);
+    QVERIFY(mark.grab().toImage() != empty);
+    mark.clear();
+    QCOMPARE(mark.grab().toImage(), empty);
+    QCOMPARE(mark.size(), size);
+}
+
+void TestToneMark::aSheetCanAskForTheTone()
+{
+    QLabel label;
+    label.setStyleSheet("[tone=\"alarm\"] { color: red; } [tone=\"none\"] { color: blue; }");
+    ToneMark::put(&label, Message::Alarm);
+    QCOMPARE(label.property("tone").toString(), QString("alarm"));
+    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+    ToneMark::putNone(&label);
+    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::blue));
+    ToneMark::put(&label, Message::Warning);
+    QCOMPARE(label.property("tone").toString(), QString("warning"));
+    ToneMark::put(&label, Message::Information);
+    QCOMPARE(label.property("tone").toString(), QString("information"));
+}
+
+FILARIX_TEST_MAIN(TestToneMark)
+#include "tst_tonemark.moc"
