@@ -10,12 +10,16 @@
 #include "shell/panelwindow.h"
 #include "stick/stick.h"
 #include "wgcodeediter.h"
+#include "wmmainwindow.h"
 
 #include <QAbstractButton>
 #include <QAbstractEventDispatcher>
+#include <QAbstractItemView>
 #include <QDir>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTextBlock>
+#include <QToolButton>
 
 #include <unistd.h>
 
@@ -27,6 +31,9 @@ const unsigned kHangSeconds = 180;
 const int kTriesToLeave = 100;
 const int kTriesToClose = 40;
 const int kNotes = 20;
+// In a hundred actions, those that go on with what somebody does to programs. By touches at random
+// alone hardly one is opened in a thousand.
+const int programWork = 12;
 const qint64 kNoteEveryMs = 60 * 1000;
 
 struct Key
@@ -219,6 +226,8 @@ void Monkey::choose()
 {
     noteMemory();
     ++m_actions;
+    if (chance(programWork))
+        return workOnPrograms();
     const int dice = random(100);
     const Hand::Tool tool = chance(40)   ? Hand::Finger
                             : chance(90) ? Hand::LeftButton
@@ -264,6 +273,77 @@ void Monkey::tap(QWidget *target)
             m_hand.press(there->mapToGlobal(there->rect().center()), Hand::LeftButton);
     });
     then([this] { m_hand.release(); });
+}
+
+// One touch on the way of somebody who opens, saves and removes programs.
+void Monkey::workOnPrograms()
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    if (!dialog)
+        return touchFileKey();
+    if (dialog->inherits("WFileDialog"))
+        return touchPicker(dialog);
+    if (!qobject_cast<QMessageBox *>(dialog) && !dialog->inherits("QuestionDialog"))
+        return;
+    const QList<QAbstractButton *> answers = dialog->findChildren<QAbstractButton *>();
+    if (!answers.isEmpty())
+        tap(answers.at(random(answers.size())));
+}
+
+void Monkey::touchFileKey()
+{
+    WMMainWindow *window = m_panel->findChild<WMMainWindow *>();
+    if (!window->isVisible())
+        return touchTab(tabs().first());
+    const char *const names[] = {"Open", "Open", "Save", "SaveAs", "RM"};
+    const QString wanted =
+        QCoreApplication::translate("WMMainWindow", names[random(countOf(names))]);
+    const QString more = QCoreApplication::translate("BarPager", "More");
+    QWidget *other = nullptr;
+    const QList<QToolButton *> keys = window->findChildren<QToolButton *>();
+    for (QToolButton *key : keys) {
+        if (key->isVisible() && key->text() == wanted)
+            return tap(key);
+        if (key->isVisible() && key->text() == more)
+            other = key;
+    }
+    // It may be on the bar's other page.
+    if (other)
+        tap(other);
+}
+
+// A name, and OK; at times a name that is typed.
+void Monkey::touchPicker(QWidget *picker)
+{
+    const QAbstractItemView *list = picker->findChild<QAbstractItemView *>();
+    const int rows = list && list->model() ? list->model()->rowCount(list->rootIndex()) : 0;
+    if (rows > 0 && chance(80)) {
+        const QModelIndex row = list->model()->index(random(rows), 0, list->rootIndex());
+        tap(list->viewport()->mapToGlobal(list->visualRect(row).center()), Hand::LeftButton);
+    } else {
+        const QString letter(QChar(ushort('a' + random(4))));
+        typeKey(letter.at(0).toUpper().unicode(), Qt::NoModifier, letter);
+    }
+    tap(picker->findChild<QPushButton *>());
+}
+
+// On a small panel the tabs are behind a key.
+void Monkey::touchTab(QWidget *tab)
+{
+    if (!tab->isVisible())
+        tap(m_panel->findChild<PanelKey *>(QLatin1String("menuKey")));
+    wait(5);
+    tap(tab);
+}
+
+QList<PanelKey *> Monkey::tabs() const
+{
+    QList<PanelKey *> tabs = m_panel->findChildren<PanelKey *>();
+    for (int i = tabs.size() - 1; i >= 0; --i) {
+        if (!tabs.at(i)->autoExclusive())
+            tabs.removeAt(i);
+    }
+    return tabs;
 }
 
 // Once, twice in the same place, or held.
@@ -443,20 +523,12 @@ void Monkey::checkScreens()
 {
     if (m_triesToClose > 0)
         return closePanel();
-    QList<PanelKey *> tabs = m_panel->findChildren<PanelKey *>();
-    for (int i = tabs.size() - 1; i >= 0; --i) {
-        if (!tabs.at(i)->autoExclusive())
-            tabs.removeAt(i);
-    }
-    if (m_checkedScreens == tabs.size())
+    const QList<PanelKey *> all = tabs();
+    if (m_checkedScreens == all.size())
         return checkTyping();
     // From the last to the first, which is the program's.
-    const int index = tabs.size() - 1 - m_checkedScreens++;
-    PanelKey *tab = tabs.at(index);
-    if (!tab->isVisible())
-        tap(m_panel->findChild<PanelKey *>(QLatin1String("menuKey")));
-    wait(5);
-    tap(tab);
+    PanelKey *tab = all.at(all.size() - 1 - m_checkedScreens++);
+    touchTab(tab);
     wait(5);
     then([this, tab] {
         if (isInterrupted())

@@ -15,10 +15,12 @@
 #include <functional>
 #include <random>
 
+class PanelKey;
 class PanelWindow;
 
-/// Touches the panel program and presses keys at random, wherever that leads; at the end it leaves
-/// every dialog as an operator would, and looks whether the program is still there for him.
+/// Touches the panel program and presses keys at random, wherever that leads; now and then it goes
+/// on with what opens, saves or removes a program. At the end it leaves every dialog as an operator
+/// would, and looks whether the program is still there for him.
 ///
 /// It acts whenever an event loop comes round, the loops of modal dialogs and of a long load
 /// included, and only when what it did before has been delivered: nothing waits on the clock.
@@ -63,6 +65,11 @@ private:
     void wait(int turns);
     void tap(const QPoint &point, Hand::Tool tool);
     void tap(QWidget *target);
+    void workOnPrograms();
+    void touchFileKey();
+    void touchPicker(QWidget *picker);
+    void touchTab(QWidget *tab);
+    QList<PanelKey *> tabs() const;
     void chooseTouch(Hand::Tool tool);
     void chooseDrag(Hand::Tool tool);
     void chooseKey();
