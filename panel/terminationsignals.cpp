@@ -12,7 +12,7 @@
 
 namespace {
 
-const int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+const int endingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // The handler may do next to nothing; a byte in a pipe wakes the event loop.
 int wakeUp[2] = {-1, -1};
@@ -32,13 +32,13 @@ TerminationSignals::TerminationSignals(QObject *parent) : QObject(parent)
         return;
     QSocketNotifier *notifier = new QSocketNotifier(wakeUp[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::drain);
-    for (int number : kSignals)
+    for (int number : endingSignals)
         std::signal(number, noteSignal);
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    for (int number : kSignals)
+    for (int number : endingSignals)
         std::signal(number, SIG_DFL);
     close(wakeUp[0]);
     close(wakeUp[1]);

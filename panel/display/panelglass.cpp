@@ -13,7 +13,7 @@
 
 namespace {
 
-const QPointF kHalfPixel(0.5, 0.5);
+const QPointF halfPixel(0.5, 0.5);
 
 /// Turns the surface about its corner and moves it back to 0,0.
 QTransform turnOf(const QSize &surface, int degrees)
@@ -71,14 +71,14 @@ QSize PanelGlass::turnedSize() const
 
 QPointF PanelGlass::toSurface(const QPointF &onGlass) const
 {
-    const QPointF point = m_turn.inverted().map(onGlass + kHalfPixel) - kHalfPixel;
+    const QPointF point = m_turn.inverted().map(onGlass + halfPixel) - halfPixel;
     return QPointF(qBound(0.0, point.x(), m_surface.width() - 1.0),
                    qBound(0.0, point.y(), m_surface.height() - 1.0));
 }
 
 QPointF PanelGlass::toGlass(const QPointF &onSurface) const
 {
-    return m_turn.map(onSurface + kHalfPixel) - kHalfPixel;
+    return m_turn.map(onSurface + halfPixel) - halfPixel;
 }
 
 void PanelGlass::paintEvent(QPaintEvent *event)

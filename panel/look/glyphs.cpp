@@ -156,7 +156,7 @@ public:
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
-        Glyphs::draw(m_glyph, painter, rect, color(mode, state));
+        Glyphs::draw(m_glyph, painter, rect, colour(mode, state));
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
@@ -171,7 +171,7 @@ public:
     QIconEngine *clone() const override { return new GlyphEngine(*this); }
 
 private:
-    QColor color(QIcon::Mode mode, QIcon::State state) const
+    QColor colour(QIcon::Mode mode, QIcon::State state) const
     {
         const bool disabled = mode == QIcon::Disabled;
         switch (m_ground) {
@@ -194,13 +194,13 @@ private:
 
 } // namespace
 
-void Glyphs::draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColor &color)
+void Glyphs::draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColor &colour)
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(rect.topLeft());
     painter->scale(rect.width() / grid, rect.height() / grid);
-    painter->setPen(QPen(color, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setPen(QPen(colour, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(shape(glyph));
     painter->restore();
 }

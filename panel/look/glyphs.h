@@ -53,7 +53,7 @@ enum Ground {
 };
 
 /// Draws one by hand, for a widget that paints itself.
-void draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColor &color);
+void draw(Glyph glyph, QPainter *painter, const QRect &rect, const QColor &colour);
 QIcon icon(Glyph glyph, Ground ground = OnStrip);
 
 } // namespace Glyphs

@@ -9,13 +9,13 @@
 
 namespace {
 
-const char kDressProperty[] = "lookDress";
+const char dressProperty[] = "lookDress";
 // Beside the values of Look::Dress.
-const int kLightGround = -1;
+const int lightGround = -1;
 
 Look::Style currentStyle = Look::Light;
 
-struct Colors
+struct Colours
 {
     // Screens and dialogs.
     QRgb paper;
@@ -39,7 +39,7 @@ struct Colors
     QRgb keyFaint;
 };
 
-const Colors colorTable[] = {
+const Colours colourTable[] = {
     {0xffeef1f5, 0xffffffff, 0xffe4eaf1, 0xff17202b, 0xff66727f, 0xffdfe5ec, 0xff1659a8,
      0xff17202b,                                     //
      0xff17202b, 0xff2b3a4a, 0xff1f2a36, 0xff8b9aab, //
@@ -50,24 +50,24 @@ const Colors colorTable[] = {
      0xff2f3b47, 0xff566473, 0xff1d4f86, 0xff232c35, 0xff8e9ba8},
 };
 
-const QRgb kAccent = 0xff1a6fd0;
-const QRgb kAccentPressed = 0xff0d4d99;
-const QRgb kInformation = 0xff23753a;
-const QRgb kWarning = 0xff8a5a00;
-const QRgb kAlarm = 0xffb92525;
-const QRgb kInformationOnStrip = 0xff7ddb98;
-const QRgb kWarningOnStrip = 0xffffc04d;
-const QRgb kAlarmOnStrip = 0xffff8a80;
-const QRgb kWhite = 0xffffffff;
+const QRgb accentRgb = 0xff1a6fd0;
+const QRgb accentPressed = 0xff0d4d99;
+const QRgb informationGround = 0xff23753a;
+const QRgb warningGround = 0xff8a5a00;
+const QRgb alarmGround = 0xffb92525;
+const QRgb informationOnStrip = 0xff7ddb98;
+const QRgb warningOnStrip = 0xffffc04d;
+const QRgb alarmOnStrip = 0xffff8a80;
+const QRgb white = 0xffffffff;
 
-const Colors &colors()
+const Colours &colours()
 {
-    return colorTable[currentStyle];
+    return colourTable[currentStyle];
 }
 
-QString hex(QRgb color)
+QString hex(QRgb colour)
 {
-    return QColor(color).name();
+    return QColor(colour).name();
 }
 
 QString stripSheet()
@@ -79,8 +79,8 @@ QString stripSheet()
                                "PanelKey:checked { background: %4; }"
                                "PanelKey:pressed { background: %5; }"
                                "PanelKey:disabled { color: %6; background: %7; }")
-        .arg(hex(colors().strip), hex(kWhite), hex(colors().stripKey), hex(kAccent),
-             hex(kAccentPressed), hex(colors().stripFaint), hex(colors().stripKeyOff));
+        .arg(hex(colours().strip), hex(white), hex(colours().stripKey), hex(accentRgb),
+             hex(accentPressed), hex(colours().stripFaint), hex(colours().stripKeyOff));
 }
 
 QString keyPanelSheet()
@@ -91,9 +91,9 @@ QString keyPanelSheet()
                                "PanelKey:pressed { color: %1; background: %6; }"
                                "PanelKey:checked:pressed { color: %4; background: %9; }"
                                "PanelKey:disabled { color: %7; background: %8; }")
-        .arg(hex(colors().text), hex(colors().key), hex(colors().keyEdge), hex(kWhite),
-             hex(kAccent), hex(colors().keyPressed), hex(colors().keyFaint), hex(colors().keyOff),
-             hex(kAccentPressed));
+        .arg(hex(colours().text), hex(colours().key), hex(colours().keyEdge), hex(white),
+             hex(accentRgb), hex(colours().keyPressed), hex(colours().keyFaint),
+             hex(colours().keyOff), hex(accentPressed));
 }
 
 // The rules by which the frames that \a frame selects have the ground of their tone.
@@ -103,7 +103,7 @@ QString toneRules(const QString &frame)
                                "%1[tone=\"information\"] { background: %2; }"
                                "%1[tone=\"warning\"] { background: %3; }"
                                "%1[tone=\"alarm\"] { background: %4; }")
-        .arg(frame, hex(kInformation), hex(kWarning), hex(kAlarm));
+        .arg(frame, hex(informationGround), hex(warningGround), hex(alarmGround));
 }
 
 QString messageRowSheet()
@@ -116,14 +116,14 @@ QString messageListSheet()
     return toneRules(QLatin1String("#message"))
            + QString::fromLatin1("#message QLabel { color: %1; background: transparent; }"
                                  "#message[tone=\"none\"] QLabel { color: %2; }")
-                 .arg(hex(kWhite), hex(colors().text));
+                 .arg(hex(white), hex(colours().text));
 }
 
 // The other roles go on following the application's palette, and what the widget has set itself
 // stays.
 void lighten(QWidget *widget)
 {
-    const Colors &light = colorTable[Look::Light];
+    const Colours &light = colourTable[Look::Light];
     QPalette palette = widget->palette();
     palette.setColor(QPalette::Base, QColor(currentStyle == Look::Dark ? light.paper : light.base));
     // The editor marks the current line with it, so it has to differ from the paper in bright
@@ -146,10 +146,10 @@ void Look::use(Style style)
     QApplication::setPalette(palette());
     const QWidgetList all = QApplication::allWidgets();
     for (QWidget *widget : all) {
-        const QVariant dress = widget->property(kDressProperty);
+        const QVariant dress = widget->property(dressProperty);
         if (!dress.isValid())
             continue;
-        if (dress.toInt() == kLightGround)
+        if (dress.toInt() == lightGround)
             lighten(widget);
         else
             widget->setStyleSheet(sheet(Dress(dress.toInt())));
@@ -184,13 +184,13 @@ bool Look::read(const QString &text, Style *style)
 
 void Look::dress(QWidget *widget, Dress dress)
 {
-    widget->setProperty(kDressProperty, int(dress));
+    widget->setProperty(dressProperty, int(dress));
     widget->setStyleSheet(sheet(dress));
 }
 
 void Look::keepLight(QWidget *widget)
 {
-    widget->setProperty(kDressProperty, kLightGround);
+    widget->setProperty(dressProperty, lightGround);
     lighten(widget);
 }
 
@@ -211,18 +211,18 @@ QString Look::sheet(Dress dress)
 
 QPalette Look::palette()
 {
-    const QColor text(colors().text);
-    const QColor faint(colors().faint);
+    const QColor text(colours().text);
+    const QColor faint(colours().faint);
     // The toolkit derives the shades of frames from the two.
-    QPalette palette(QColor(colors().button), QColor(colors().paper));
-    palette.setColor(QPalette::Base, QColor(colors().base));
-    palette.setColor(QPalette::AlternateBase, QColor(colors().alternate));
-    palette.setColor(QPalette::Highlight, QColor(kAccent));
-    palette.setColor(QPalette::HighlightedText, QColor(kWhite));
-    palette.setColor(QPalette::ToolTipBase, QColor(colors().base));
-    palette.setColor(QPalette::Link, QColor(colors().link));
-    palette.setColor(QPalette::LinkVisited, QColor(colors().link));
-    palette.setColor(QPalette::BrightText, QColor(kWhite));
+    QPalette palette(QColor(colours().button), QColor(colours().paper));
+    palette.setColor(QPalette::Base, QColor(colours().base));
+    palette.setColor(QPalette::AlternateBase, QColor(colours().alternate));
+    palette.setColor(QPalette::Highlight, QColor(accentRgb));
+    palette.setColor(QPalette::HighlightedText, QColor(white));
+    palette.setColor(QPalette::ToolTipBase, QColor(colours().base));
+    palette.setColor(QPalette::Link, QColor(colours().link));
+    palette.setColor(QPalette::LinkVisited, QColor(colours().link));
+    palette.setColor(QPalette::BrightText, QColor(white));
     for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText,
                                      QPalette::ToolTipText, QPalette::PlaceholderText}) {
         palette.setColor(role, role == QPalette::PlaceholderText ? faint : text);
@@ -233,21 +233,21 @@ QPalette Look::palette()
 
 QColor Look::ground(Message::Tone tone)
 {
-    return QColor(tone == Message::Alarm     ? kAlarm
-                  : tone == Message::Warning ? kWarning
-                                             : kInformation);
+    return QColor(tone == Message::Alarm     ? alarmGround
+                  : tone == Message::Warning ? warningGround
+                                             : informationGround);
 }
 
 QColor Look::onStrip(Message::Tone tone)
 {
-    return QColor(tone == Message::Alarm     ? kAlarmOnStrip
-                  : tone == Message::Warning ? kWarningOnStrip
-                                             : kInformationOnStrip);
+    return QColor(tone == Message::Alarm     ? alarmOnStrip
+                  : tone == Message::Warning ? warningOnStrip
+                                             : informationOnStrip);
 }
 
 QColor Look::accent()
 {
-    return kAccent;
+    return accentRgb;
 }
 
 QColor Look::changed()
@@ -257,25 +257,25 @@ QColor Look::changed()
 
 QColor Look::edge()
 {
-    return colors().edge;
+    return colours().edge;
 }
 
 QColor Look::keyText()
 {
-    return colors().text;
+    return colours().text;
 }
 
 QColor Look::keyFaint()
 {
-    return colors().keyFaint;
+    return colours().keyFaint;
 }
 
 QColor Look::stripText()
 {
-    return kWhite;
+    return white;
 }
 
 QColor Look::stripFaint()
 {
-    return colors().stripFaint;
+    return colours().stripFaint;
 }

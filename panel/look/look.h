@@ -25,7 +25,7 @@ class QWidget;
 namespace Look {
 
 /// Smallest side of anything that is meant to be touched, in pixels: 9 mm at 96 dpi are 34.
-const int kTouch = 40;
+const int smallestTouch = 40;
 
 enum Style { Light, Dark };
 

@@ -8,18 +8,18 @@
 
 namespace {
 
-const int kIcon = 22;
-const int kFontPixels = 11;
+const int iconSide = 22;
+const int fontPixels = 11;
 
 void setUp(PanelKey *key, const QString &text)
 {
     QFont font = key->font();
-    font.setPixelSize(kFontPixels);
+    font.setPixelSize(fontPixels);
     font.setBold(true);
     key->setFont(font);
     key->setText(text);
     key->setFocusPolicy(Qt::NoFocus);
-    key->setIconSize(QSize(kIcon, kIcon));
+    key->setIconSize(QSize(iconSide, iconSide));
 }
 
 } // namespace
@@ -45,7 +45,7 @@ PanelKey::PanelKey(const QString &text, QWidget *parent) : QToolButton(parent)
 
 QSize PanelKey::sizeHint() const
 {
-    return QToolButton::sizeHint().expandedTo(QSize(Look::kTouch + 4, Look::kTouch));
+    return QToolButton::sizeHint().expandedTo(QSize(Look::smallestTouch + 4, Look::smallestTouch));
 }
 
 QSize PanelKey::minimumSizeHint() const

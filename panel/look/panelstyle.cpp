@@ -15,17 +15,17 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption *option
     const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        return own.expandedTo(QSize(2 * Look::kTouch, Look::kTouch));
+        return own.expandedTo(QSize(2 * Look::smallestTouch, Look::smallestTouch));
     case CT_CheckBox:
     case CT_RadioButton:
     case CT_MenuItem:
     case CT_ComboBox:
-        return own.expandedTo(QSize(0, Look::kTouch));
+        return own.expandedTo(QSize(0, Look::smallestTouch));
     case CT_LineEdit:
         // The cells of a list take the height of their row.
         if (widget && widget->inherits("ComboLineEdit"))
             return own;
-        return own.expandedTo(QSize(0, Look::kTouch));
+        return own.expandedTo(QSize(0, Look::smallestTouch));
     default:
         return own;
     }

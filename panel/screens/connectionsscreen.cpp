@@ -25,9 +25,9 @@
 
 namespace {
 
-const int kWidePanel = 800;
-const int kNarrowPixels = 12;
-const int kAroundRows = 64;
+const int widePanel = 800;
+const int narrowPixels = 12;
+const int aroundRows = 64;
 
 // What messages are about.
 const QLatin1String ownFile("connections");
@@ -91,19 +91,19 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     m_table->setAlternatingRowColors(true);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(Look::kTouch - 6);
+    m_table->verticalHeader()->setDefaultSectionSize(Look::smallestTouch - 6);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(1, QHeaderView::Fixed);
     header->setSectionResizeMode(2, QHeaderView::Fixed);
-    m_table->setColumnWidth(1, Look::kTouch);
-    m_table->setColumnWidth(2, 2 * Look::kTouch);
+    m_table->setColumnWidth(1, Look::smallestTouch);
+    m_table->setColumnWidth(2, 2 * Look::smallestTouch);
     // A narrow panel has room for the names and the addresses, in smaller letters.
     if (QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow) {
         m_table->hideColumn(1);
         m_table->hideColumn(2);
         QFont font = m_table->font();
-        font.setPixelSize(kNarrowPixels);
+        font.setPixelSize(narrowPixels);
         m_table->setFont(font);
     }
 
@@ -212,10 +212,10 @@ void ConnectionsScreen::edit(const std::shared_ptr<Copy> &copy)
         // a narrow panel they are made for less than its width, and the dialog is widened.
         const int panel = QGuiApplication::primaryScreen()->availableSize().width();
         const SurfaceLoan tall(SurfaceLoan::tallPanel,
-                               panel < kWidePanel ? panel - kAroundRows : panel);
+                               panel < widePanel ? panel - aroundRows : panel);
         editor.reset(new ConnEditor(copy->path(), nullptr));
         editor->init_list();
-        editor->setFixedWidth(qMin(editor->width() + kAroundRows, panel));
+        editor->setFixedWidth(qMin(editor->width() + aroundRows, panel));
     }
     if (editor->exec() == QDialog::Accepted)
         store(copy, shownAddresses(*editor, copy->before));

@@ -107,7 +107,7 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
     keys->setSpacing(kGap);
     for (QPushButton *key : {cancel, send}) {
         key->setFont(sized(key->font(), kTitlePixels));
-        key->setMinimumHeight(Look::kTouch + 8);
+        key->setMinimumHeight(Look::smallestTouch + 8);
         keys->addWidget(key, 1);
     }
     grid->setRowStretch(grid->rowCount(), 1);

@@ -76,8 +76,8 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     m_grid->setColumnStretch(0, 1);
     // Keys of one width, where that leaves the texts room.
     if (!isNarrow()) {
-        m_grid->setColumnMinimumWidth(1, 2 * Look::kTouch);
-        m_grid->setColumnMinimumWidth(2, 2 * Look::kTouch);
+        m_grid->setColumnMinimumWidth(1, 2 * Look::smallestTouch);
+        m_grid->setColumnMinimumWidth(2, 2 * Look::smallestTouch);
     }
     m_grid->setColumnMinimumWidth(3, qMax(0, panelWidth() - kReach));
     setLayout(m_grid);

@@ -40,7 +40,7 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
     QPushButton *key = new QPushButton(text);
     key->setObjectName(QLatin1String(objectName));
     key->setAutoDefault(false);
-    key->setMinimumWidth(Look::kTouch);
+    key->setMinimumWidth(Look::smallestTouch);
     row->addWidget(key, text.size() == 1 ? 1 : 2);
     return key;
 }
@@ -65,7 +65,7 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     m_table->setTextElideMode(Qt::ElideMiddle);
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(Look::kTouch);
+    m_table->verticalHeader()->setDefaultSectionSize(Look::smallestTouch);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);

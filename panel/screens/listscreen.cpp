@@ -22,11 +22,11 @@
 namespace {
 
 // A list with a title is no wider: its title keeps the width that the library gives it.
-const int kTitledWidth = 480;
-const int kKeyPanelWidth = 3 * Look::kTouch;
-const int kKeyGap = 4;
-const int kLargeIcon = 36;
-const int kKeyStretch = 1000;
+const int titledWidth = 480;
+const int keyPanelWidth = 3 * Look::smallestTouch;
+const int keyGap = 4;
+const int largeIcon = 36;
+const int keyStretch = 1000;
 
 // What messages about a disk that does not do its work are about.
 const QLatin1String storage("storage");
@@ -72,9 +72,9 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
 
     QWidget *keyPanel = new QWidget;
     Look::dress(keyPanel, Look::KeyPanel);
-    m_keyGrid->setSpacing(kKeyGap);
+    m_keyGrid->setSpacing(keyGap);
     // On a small panel each pixel between the strips counts for one more row.
-    m_keyGrid->setContentsMargins(kKeyGap, kKeyGap / 2, kKeyGap, kKeyGap / 2);
+    m_keyGrid->setContentsMargins(keyGap, keyGap / 2, keyGap, keyGap / 2);
     keyPanel->setLayout(m_keyGrid);
 
     QBoxLayout *layout =
@@ -83,7 +83,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     layout->setSpacing(0);
     if (m_keysBeside) {
         m_area->setFixedWidth(m_list->width());
-        keyPanel->setMinimumWidth(2 * Look::kTouch);
+        keyPanel->setMinimumWidth(2 * Look::smallestTouch);
         layout->addWidget(m_area);
         layout->addWidget(keyPanel, 1);
     } else {
@@ -95,8 +95,8 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
 int ListScreen::listWidth(const QSize &surface) const
 {
     if (m_firstRow == 1)
-        return qMin(surface.width(), kTitledWidth);
-    return m_keysBeside ? surface.width() - kKeyPanelWidth : surface.width();
+        return qMin(surface.width(), titledWidth);
+    return m_keysBeside ? surface.width() - keyPanelWidth : surface.width();
 }
 
 PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &text)
@@ -104,14 +104,14 @@ PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &
     PanelKey *key = new PanelKey(icon, text);
     key->setSizePolicy(QSizePolicy::Expanding,
                        m_keysBeside ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    key->setMaximumHeight(2 * Look::kTouch);
+    key->setMaximumHeight(2 * Look::smallestTouch);
     if (m_keysBeside)
-        key->setIconSize(QSize(kLargeIcon, kLargeIcon));
+        key->setIconSize(QSize(largeIcon, largeIcon));
     const int line = m_keyCount / m_keyColumns;
     m_keyGrid->addWidget(key, line, m_keyCount % m_keyColumns);
     if (m_keysBeside) {
         // What is left when the keys are as high as they get lies below them, not between.
-        m_keyGrid->setRowStretch(line, kKeyStretch);
+        m_keyGrid->setRowStretch(line, keyStretch);
         m_keyGrid->setRowStretch(line + 1, 1);
     }
     ++m_keyCount;

@@ -12,7 +12,7 @@
 namespace {
 
 // A line and a button of the browser are a twenty-fourth of it, 34 pixels.
-const int kTallForLines = 24 * 34;
+const int tallForLines = 24 * 34;
 
 } // namespace
 
@@ -20,7 +20,7 @@ QString PathPicker::pick(const QString &title, const QString &folder)
 {
     QScopedPointer<FileDialog> dialog;
     {
-        const SurfaceLoan tall(kTallForLines);
+        const SurfaceLoan tall(tallForLines);
         dialog.reset(new FileDialog(QDir::AllEntries | QDir::NoDotAndDotDot, title,
                                     folder + QLatin1Char('/'), nullptr, Qt::WindowTitleHint));
     }

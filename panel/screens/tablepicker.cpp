@@ -16,7 +16,7 @@
 
 namespace {
 
-const int kValueWidth = 50;
+const int valueWidth = 50;
 
 } // namespace
 
@@ -38,12 +38,12 @@ TablePicker::TablePicker(const QString &title, const QStringList &keys,
     m_table->setShowGrid(false);
     m_table->setAlternatingRowColors(true);
     m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(Look::kTouch);
+    m_table->verticalHeader()->setDefaultSectionSize(Look::smallestTouch);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->horizontalHeader()->setDefaultSectionSize(kValueWidth);
+    m_table->horizontalHeader()->setDefaultSectionSize(valueWidth);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->setColumnWidth(0, Look::kTouch);
+    m_table->setColumnWidth(0, Look::smallestTouch);
     for (int row = 0; row < table.size(); ++row) {
         m_table->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
         m_table->setItem(row, 1, new QTableWidgetItem(table.at(row).name));

@@ -10,9 +10,9 @@
 
 namespace {
 
-const int kMovementStrings = 31;
+const int movementStrings = 31;
 // The cells that a row widget keeps for commands take four strings after the kind, no more.
-const int kCommandStrings = 5;
+const int commandStrings = 5;
 
 struct Words
 {
@@ -121,9 +121,9 @@ bool TaughtProgram::isValid(const QStringList &row)
 {
     const QString kind = row.value(0);
     if (kind == QLatin1String("Oth"))
-        return row.size() == kCommandStrings && row.at(3) == QLatin1String("Oth");
+        return row.size() == commandStrings && row.at(3) == QLatin1String("Oth");
     return (kind == QLatin1String("MJ") || kind == QLatin1String("ML"))
-           && row.size() == kMovementStrings;
+           && row.size() == movementStrings;
 }
 
 bool TaughtProgram::load(const QString &path, QList<QStringList> *rows, QString *error)

@@ -22,21 +22,21 @@
 
 namespace {
 
-const int kKeyColumns = 2;
+const int usualKeyColumns = 2;
 // A panel with room for a line of the four that page beside the list.
-const int kRoomy = 1000;
-const int kRoomyKeyColumns = 4;
-const int kKeysInALine = 9;
+const int roomy = 1000;
+const int roomyKeyColumns = 4;
+const int keysInALine = 9;
 // On a panel narrower than a line of them.
-const int kKeysInAShortLine = 5;
+const int keysInAShortLine = 5;
 
 int keyColumns(int width)
 {
     if (width < FilarixPanel::smallBelow)
-        return kKeysInAShortLine;
+        return keysInAShortLine;
     if (width < FilarixPanel::wideFrom)
-        return kKeysInALine;
-    return width < kRoomy ? kKeyColumns : kRoomyKeyColumns;
+        return keysInALine;
+    return width < roomy ? usualKeyColumns : roomyKeyColumns;
 }
 
 QIcon libraryIcon(const char *name)

@@ -14,9 +14,9 @@
 namespace {
 
 // Kind, number, nothing, name, value: the shape of a row with one wide field.
-const int kStrings = 5;
-const int kName = 3;
-const int kValue = 4;
+const int rowLength = 5;
+const int nameAt = 3;
+const int valueAt = 4;
 
 struct Variable
 {
@@ -25,7 +25,7 @@ struct Variable
 };
 
 // The list gives a name little more than a sixth of the panel's width.
-const Variable kDefaults[] = {
+const Variable defaultValues[] = {
     {"Wire", "0.50 mm"},  {"Window", "36.0 mm"}, {"Core", "12.0 mm"},  {"Layers", "28"},
     {"Turns", "2016"},    {"Tension", "6.0 N"},  {"T. step", "0.1 N"}, {"T. limit", "8.5 N"},
     {"Lead", "0.35 mm"},  {"Slow", "120 rpm"},   {"Lay", "480 rpm"},   {"Wind", "900 rpm"},
@@ -37,7 +37,7 @@ const Variable kDefaults[] = {
 QList<QStringList> defaults()
 {
     QList<QStringList> rows;
-    for (const Variable &variable : kDefaults)
+    for (const Variable &variable : defaultValues)
         rows.append({QLatin1String("DataEditor"), QString(), QString(),
                      QLatin1String(variable.name), QLatin1String(variable.value)});
     return rows;
@@ -46,7 +46,7 @@ QList<QStringList> defaults()
 QList<QStringList> emptied(QList<QStringList> rows)
 {
     for (QStringList &row : rows)
-        row[kValue].clear();
+        row[valueAt].clear();
     return rows;
 }
 
@@ -105,9 +105,9 @@ bool VariablesScreen::bringBack(const QString &, const QList<QStringList> &rows)
     bool isAny = false;
     for (QStringList &own : all) {
         for (const QStringList &row : rows) {
-            if (row.size() != kStrings || row.at(kName) != own.value(kName))
+            if (row.size() != rowLength || row.at(nameAt) != own.value(nameAt))
                 continue;
-            own[kValue] = row.at(kValue);
+            own[valueAt] = row.at(valueAt);
             isAny = true;
         }
     }
@@ -121,8 +121,8 @@ QString VariablesScreen::value(const QString &name) const
 {
     const QList<QStringList> all = rows();
     for (const QStringList &row : all) {
-        if (row.value(kName) == name)
-            return row.value(kValue);
+        if (row.value(nameAt) == name)
+            return row.value(valueAt);
     }
     return QString();
 }
@@ -137,14 +137,14 @@ void VariablesScreen::showRead(const RowKeeper::Loaded &loaded)
     QHash<QString, int> places;
     for (int i = 0; i < all.size(); ++i) {
         all[i][1] = QString::fromLatin1("N%1").arg(i);
-        places.insert(all.at(i).at(kName), i);
+        places.insert(all.at(i).at(nameAt), i);
     }
     for (const QStringList &row : loaded.rows) {
-        const int place = row.size() == kStrings ? places.value(row.at(kName), -1) : -1;
+        const int place = row.size() == rowLength ? places.value(row.at(nameAt), -1) : -1;
         if (place < 0)
             m_foreign.append(row);
         else
-            all[place][kValue] = row.at(kValue);
+            all[place][valueAt] = row.at(valueAt);
     }
     setRows(all);
     setLoading(false);

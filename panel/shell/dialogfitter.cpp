@@ -17,7 +17,7 @@
 
 namespace {
 
-const QSize kRoomyDialog(640, 440);
+const QSize roomyDialog(640, 440);
 
 // The toolkit leaves room for a window manager's frame, and without one a dialog that did not
 // choose its place stands above the middle.
@@ -102,7 +102,7 @@ void DialogFitter::fit(QDialog *dialog)
     const QRect panel = QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));
     if (dialog->inherits("ImportManage")) {
-        place.setSize(kRoomyDialog.boundedTo(panel.size()).expandedTo(place.size()));
+        place.setSize(roomyDialog.boundedTo(panel.size()).expandedTo(place.size()));
         place.moveCenter(panel.center());
     } else if (isMisplaced(dialog)) {
         place.moveCenter(panel.center());

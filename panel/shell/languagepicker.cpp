@@ -13,11 +13,11 @@
 
 namespace {
 
-const int kColumns = 2;
-const int kKeyWidth = 180;
-const int kKeyHeight = Look::kTouch + 10;
+const int columns = 2;
+const int keyWidth = 180;
+const int keyHeight = Look::smallestTouch + 10;
 // The dialog's margins and the spaces between the keys.
-const int kAround = 40;
+const int around = 40;
 
 } // namespace
 
@@ -26,8 +26,8 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
     setTitle(tr("Language"));
     QGridLayout *grid = new QGridLayout(this);
     grid->setSpacing(8);
-    const int room = QGuiApplication::primaryScreen()->availableSize().width() - kAround;
-    const QSize keySize(qMin(kKeyWidth, room / kColumns), kKeyHeight);
+    const int room = QGuiApplication::primaryScreen()->availableSize().width() - around;
+    const QSize keySize(qMin(keyWidth, room / columns), keyHeight);
     const QList<Languages::Language> languages = Languages::all();
     for (int i = 0; i < languages.size(); ++i) {
         const QString code = languages.at(i).code;
@@ -41,7 +41,7 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
             m_code = code;
             accept();
         });
-        grid->addWidget(key, i / kColumns, i % kColumns);
+        grid->addWidget(key, i / columns, i % columns);
         if (code == current)
             key->setFocus();
     }
@@ -49,7 +49,7 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
     cancel->setMinimumSize(keySize);
     cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    grid->addWidget(cancel, languages.size() / kColumns, languages.size() % kColumns);
+    grid->addWidget(cancel, languages.size() / columns, languages.size() % columns);
 
     const bool isDark = Look::style() == Look::Dark;
     QPushButton *look = new QPushButton(Glyphs::icon(Glyphs::Style, Glyphs::OnPaper),
@@ -61,5 +61,5 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
         reject();
         Q_EMIT lookWanted();
     });
-    grid->addWidget(look, grid->rowCount(), 0, 1, kColumns);
+    grid->addWidget(look, grid->rowCount(), 0, 1, columns);
 }

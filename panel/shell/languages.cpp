@@ -13,13 +13,13 @@
 
 namespace {
 
-const char kEnglish[] = "en";
-const char kKey[] = "language";
+const char english[] = "en";
+const char key[] = "language";
 
 } // namespace
 
 Languages::Languages(const QStringList &folders, Settings *settings, QObject *parent)
-    : QObject(parent), m_folders(folders), m_settings(settings), m_current(QLatin1String(kEnglish))
+    : QObject(parent), m_folders(folders), m_settings(settings), m_current(QLatin1String(english))
 {}
 
 Languages::~Languages()
@@ -29,7 +29,7 @@ Languages::~Languages()
 
 QList<Languages::Language> Languages::all()
 {
-    return {{QLatin1String(kEnglish), QLatin1String("English")},
+    return {{QLatin1String(english), QLatin1String("English")},
             {QLatin1String("de"), QLatin1String("Deutsch")},
             {QLatin1String("it"), QLatin1String("Italiano")},
             {QLatin1String("tr"), QString::fromUtf8("T\u00fcrk\u00e7e")},
@@ -48,7 +48,7 @@ QStringList Languages::codes()
 QString Languages::preferred() const
 {
     const QStringList known = codes();
-    const QString chosen = m_settings->choice(QLatin1String(kKey), known);
+    const QString chosen = m_settings->choice(QLatin1String(key), known);
     if (!chosen.isEmpty())
         return chosen;
     const QString system = QLocale().name();
@@ -56,7 +56,7 @@ QString Languages::preferred() const
         if (known.contains(code))
             return code;
     }
-    return QLatin1String(kEnglish);
+    return QLatin1String(english);
 }
 
 bool Languages::use(const QString &code)
@@ -66,7 +66,7 @@ bool Languages::use(const QString &code)
 
     QList<QTranslator *> loaded;
     bool isComplete = true;
-    if (code != QLatin1String(kEnglish)) {
+    if (code != QLatin1String(english)) {
         // A panel's own keypads, and a toolkit without its translations, speak as they can.
         const QPair<const char *, bool> files[] = {{"qtbase", false},
                                                    {"hmidevice-sim", false},
@@ -97,7 +97,7 @@ bool Languages::choose(const QString &code)
 {
     if (!use(code))
         return false;
-    m_settings->setChoice(QLatin1String(kKey), code);
+    m_settings->setChoice(QLatin1String(key), code);
     return true;
 }
 

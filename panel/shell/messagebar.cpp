@@ -80,9 +80,9 @@ void MessageBar::layOut()
     policy.setRetainSizeWhenHidden(true);
     m_key->setSizePolicy(policy);
     m_key->setMinimumWidth(keyWidth);
-    m_key->setFixedHeight(Look::kTouch);
+    m_key->setFixedHeight(Look::smallestTouch);
     // Each pixel more is taken from a row of the screens.
-    setFixedHeight(Look::kTouch);
+    setFixedHeight(Look::smallestTouch);
 }
 
 void MessageBar::showWork(const QString &text, int percent)

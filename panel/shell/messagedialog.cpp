@@ -60,7 +60,7 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
     QPushButton *key = new QPushButton(text);
     key->setObjectName(QLatin1String(objectName));
     key->setAutoDefault(false);
-    key->setMinimumSize(Look::kTouch, Look::kTouch);
+    key->setMinimumSize(Look::smallestTouch, Look::smallestTouch);
     row->addWidget(key, 1);
     return key;
 }
@@ -171,7 +171,7 @@ void MessageDialog::turn(int pages)
 {
     QScrollBar *bar = m_area->verticalScrollBar();
     // The last line of a page is the first of the next.
-    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - Look::kTouch));
+    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - Look::smallestTouch));
 }
 
 void MessageDialog::showState()

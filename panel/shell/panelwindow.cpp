@@ -26,9 +26,9 @@
 namespace {
 
 // Five of them and the key of the languages are as wide as the narrowest panel.
-const int kTabWidth = 74;
-const int kMenuTabWidth = 76;
-const int kStatusMs = 2000;
+const int tabWidth = 74;
+const int menuTabWidth = 76;
+const int statusMs = 2000;
 const int messageLine = 20;
 // Each pixel more is taken from a row of the screens.
 const int stripMargin = 1;
@@ -68,7 +68,7 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     m_shade->hide();
 
     connect(&m_statusTimer, &QTimer::timeout, this, &PanelWindow::refreshStatus);
-    m_statusTimer.start(kStatusMs);
+    m_statusTimer.start(statusMs);
 }
 
 PanelWindow::Shape PanelWindow::shapeOf(const QSize &surface)
@@ -175,7 +175,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     entry.tab = new PanelKey(icon, name);
     entry.tab->setCheckable(true);
     entry.tab->setAutoExclusive(true);
-    entry.tab->setMinimumWidth(kTabWidth);
+    entry.tab->setMinimumWidth(tabWidth);
     entry.tab->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     connect(entry.tab, &PanelKey::clicked, this, [this, index] { showScreen(index); });
     addTab(entry.tab);
@@ -249,7 +249,7 @@ void PanelWindow::tellTrouble()
 // Those of a menu go on in a second line where the first is full.
 void PanelWindow::addTab(PanelKey *tab)
 {
-    const int columns = hasMenu() ? qMax(1, width() / kMenuTabWidth) : INT_MAX;
+    const int columns = hasMenu() ? qMax(1, width() / menuTabWidth) : INT_MAX;
     const int count = m_tabs->count();
     m_tabs->addWidget(tab, count / columns, count % columns);
 }

@@ -110,7 +110,7 @@ QLayout *QuestionDialog::makeKeys(const QStringList &answers, int room)
         QPushButton *key = new QPushButton(answers.at(i));
         key->setObjectName(QString::fromLatin1("answer%1").arg(i));
         key->setFont(sized(key->font(), keyPixels));
-        key->setMinimumHeight(Look::kTouch);
+        key->setMinimumHeight(Look::smallestTouch);
         key->setAutoDefault(i == 0);
         key->setDefault(i == 0);
         connect(key, &QPushButton::clicked, this, [this, i] {

@@ -13,14 +13,14 @@
 
 namespace {
 
-const int kFontPixels = 12;
-const int kGlyph = 14;
-const int kGlyphGap = 3;
-const int kItemGap = 7;
-const int kSecondMs = 1000;
-const qint64 kMegabyte = 1024 * 1024;
-const qint64 kLowBytes = 30 * kMegabyte;
-const qint64 kFullBytes = kMegabyte;
+const int fontPixels = 12;
+const int glyphSide = 14;
+const int glyphGap = 3;
+const int itemGap = 7;
+const int secondMs = 1000;
+const qint64 megabyte = 1024 * 1024;
+const qint64 lowBytes = 30 * megabyte;
+const qint64 fullBytes = megabyte;
 
 QString dash()
 {
@@ -29,7 +29,7 @@ QString dash()
 
 QFont lineFont(QFont font)
 {
-    font.setPixelSize(kFontPixels);
+    font.setPixelSize(fontPixels);
     font.setBold(false);
     return font;
 }
@@ -40,7 +40,7 @@ StatusItem::StatusItem(Glyphs::Glyph glyph, QWidget *parent) : QLabel(parent), m
 {
     setFont(lineFont(font()));
     setTextFormat(Qt::PlainText);
-    setContentsMargins(kGlyph + kGlyphGap, 0, 0, 0);
+    setContentsMargins(glyphSide + glyphGap, 0, 0, 0);
 }
 
 void StatusItem::set(const QString &word, Message::Tone tone, const QString &meaning)
@@ -62,8 +62,9 @@ void StatusItem::paintEvent(QPaintEvent *event)
 {
     QLabel::paintEvent(event);
     QPainter painter(this);
-    const QColor color = m_hasTone ? Look::onStrip(m_tone) : Look::stripText();
-    Glyphs::draw(m_glyph, &painter, QRect(0, (height() - kGlyph) / 2, kGlyph, kGlyph), color);
+    const QColor colour = m_hasTone ? Look::onStrip(m_tone) : Look::stripText();
+    Glyphs::draw(m_glyph, &painter, QRect(0, (height() - glyphSide) / 2, glyphSide, glyphSide),
+                 colour);
 }
 
 StatusStrip::StatusStrip(bool roomy, QWidget *parent)
@@ -82,7 +83,7 @@ StatusStrip::StatusStrip(bool roomy, QWidget *parent)
 
     QHBoxLayout *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kItemGap);
+    row->setSpacing(itemGap);
     for (QWidget *item : {static_cast<QWidget *>(m_plc), static_cast<QWidget *>(m_stick),
                           static_cast<QWidget *>(m_storage), static_cast<QWidget *>(m_clock)})
         row->addWidget(item);
@@ -118,9 +119,9 @@ StatusStrip::Storage StatusStrip::storageOf(qint64 freeBytes)
 {
     if (freeBytes < 0)
         return StorageUnknown;
-    if (freeBytes < kFullBytes)
+    if (freeBytes < fullBytes)
         return StorageFull;
-    return freeBytes < kLowBytes ? StorageLow : StorageAmple;
+    return freeBytes < lowBytes ? StorageLow : StorageAmple;
 }
 
 void StatusStrip::showDevices(const DeviceState &state)
@@ -213,7 +214,7 @@ void StatusStrip::showStick()
 
 void StatusStrip::showStorage()
 {
-    const qint64 megabytes = m_devices.freeBytes / kMegabyte;
+    const qint64 megabytes = m_devices.freeBytes / megabyte;
     const QString room = megabytes < 1000 ? tr("%1 MB").arg(megabytes)
                                           : tr("%1 GB").arg(double(megabytes) / 1024, 0, 'f',
                                                             megabytes < 10 * 1024 ? 1 : 0);
@@ -237,5 +238,5 @@ void StatusStrip::tick()
 {
     const QTime now = QTime::currentTime();
     m_clock->setText(now.toString(QLatin1String(m_roomy ? "HH:mm:ss" : "HH:mm")));
-    m_clockTimer.start(kSecondMs - now.msec() % kSecondMs);
+    m_clockTimer.start(secondMs - now.msec() % secondMs);
 }

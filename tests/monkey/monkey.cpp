@@ -27,14 +27,14 @@ namespace {
 
 // What a loop that nobody serves any more takes at most. The largest program, loaded under the
 // sanitizers, is a matter of seconds.
-const unsigned kHangSeconds = 180;
-const int kTriesToLeave = 100;
-const int kTriesToClose = 40;
-const int kNotes = 20;
+const unsigned hangSeconds = 180;
+const int triesToLeave = 100;
+const int triesToClose = 40;
+const int notes = 20;
 // In a hundred actions, those that go on with what somebody does to programs. By touches at random
 // alone hardly one is opened in a thousand.
 const int programWork = 12;
-const qint64 kNoteEveryMs = 60 * 1000;
+const qint64 noteEveryMs = 60 * 1000;
 
 struct Key
 {
@@ -42,7 +42,7 @@ struct Key
     const char *text;
 };
 
-const Key kEditingKeys[] = {
+const Key editingKeys[] = {
     {Qt::Key_Return, "\r"},   {Qt::Key_Enter, "\r"}, {Qt::Key_Backspace, "\b"},
     {Qt::Key_Delete, "\x7f"}, {Qt::Key_Tab, "\t"},   {Qt::Key_Backtab, ""},
     {Qt::Key_Escape, "\x1b"}, {Qt::Key_Space, " "},  {Qt::Key_Left, ""},
@@ -52,9 +52,9 @@ const Key kEditingKeys[] = {
     {Qt::Key_Menu, ""},       {Qt::Key_Insert, ""},
 };
 
-const char kTyped[] = "GMXYZFNST0123456789.-+;,:/\\ abcxyz_'\"$*";
+const char typed[] = "GMXYZFNST0123456789.-+;,:/\\ abcxyz_'\"$*";
 // Their letters, with Control.
-const char kShortcuts[] = "ACVXZYFSNOPQKDU";
+const char shortcuts[] = "ACVXZYFSNOPQKDU";
 
 template<typename T, int count>
 constexpr int countOf(const T (&)[count])
@@ -190,7 +190,7 @@ void Monkey::act()
     QAbstractEventDispatcher::instance()->wakeUp();
     if (!Hand::isIdle())
         return;
-    alarm(kHangSeconds);
+    alarm(hangSeconds);
     m_witness.look(FilarixTest::programDir());
     noteDialog();
     if (Hand::activate(front()))
@@ -377,17 +377,17 @@ void Monkey::chooseKey()
 {
     const int dice = random(100);
     if (dice < 50) {
-        const QString text(QLatin1Char(kTyped[random(int(sizeof kTyped) - 1)]));
+        const QString text(QLatin1Char(typed[random(int(sizeof typed) - 1)]));
         typeKey(text.at(0).toUpper().unicode(), Qt::NoModifier, text);
     } else if (dice < 54) {
         const QString texts[] = {QString::fromUtf8("\u00e9"), QString::fromUtf8("\u7ebf"),
                                  QString::fromUtf8("\U0001f9f5")};
         typeKey(0, Qt::NoModifier, texts[random(countOf(texts))]);
     } else if (dice < 62) {
-        const char letter = kShortcuts[random(int(sizeof kShortcuts) - 1)];
+        const char letter = shortcuts[random(int(sizeof shortcuts) - 1)];
         typeKey(letter, Qt::ControlModifier, QString(QLatin1Char(char(letter - 'A' + 1))));
     } else {
-        const Key key = kEditingKeys[random(countOf(kEditingKeys))];
+        const Key key = editingKeys[random(countOf(editingKeys))];
         const Qt::KeyboardModifiers modifiers = chance(10)  ? Qt::ShiftModifier
                                                 : chance(5) ? Qt::ControlModifier
                                                             : Qt::NoModifier;
@@ -447,7 +447,7 @@ void Monkey::noteMemory()
     const qint64 position = byTime ? m_clock.elapsed() : m_actions;
     if (position < m_nextNote)
         return;
-    m_nextNote += byTime ? int(kNoteEveryMs) : qMax(1, m_plan.actions / kNotes);
+    m_nextNote += byTime ? int(noteEveryMs) : qMax(1, m_plan.actions / notes);
     const WGCodeEditer *editor = m_panel->findChild<WGCodeEditer *>();
     std::printf("%6lld s  %8d actions  %7.1f MB resident  %6.1f MB of heap in use  %7d lines  %5d "
                 "widgets\n",
@@ -485,7 +485,7 @@ bool Monkey::leaveDialog()
     }
     if (!dialog)
         return false;
-    if (++m_triesToLeave > kTriesToLeave) {
+    if (++m_triesToLeave > triesToLeave) {
         fail(QLatin1String("cannot be left: ") + nameOf(dialog));
         std::printf("monkey: %s\n", qPrintable(faults().join(QLatin1Char('\n'))));
         std::fflush(stdout);
@@ -571,7 +571,7 @@ void Monkey::checkTyping()
 // A download that runs has to end first; the panel says so and stays.
 void Monkey::closePanel()
 {
-    if (++m_triesToClose > kTriesToClose) {
+    if (++m_triesToClose > triesToClose) {
         fail(QLatin1String("the panel does not end"));
         QCoreApplication::quit();
         return;

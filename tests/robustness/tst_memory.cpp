@@ -32,7 +32,7 @@ namespace {
 
 // What a string or two of the toolkit take that happen to be longer; the smallest block for each of
 // twenty that come and go is more.
-const int kUnsettled = 256;
+const int unsettled = 256;
 
 typedef void (*Life)(bool shown);
 
@@ -210,7 +210,7 @@ qint64 TestMemory::growth(const std::function<void()> &lives)
 {
     const int tries = 4;
     qint64 least = std::numeric_limits<qint64>::max();
-    for (int i = 0; i < tries && least >= kUnsettled && !QTest::currentTestFailed(); ++i) {
+    for (int i = 0; i < tries && least >= unsettled && !QTest::currentTestFailed(); ++i) {
         const qint64 before = used();
         lives();
         const qint64 after = used();
@@ -251,12 +251,12 @@ void TestMemory::whatGoesLeavesNothing()
         for (int i = 0; i < count; ++i)
             lead(life, false);
     });
-    QVERIFY2(hidden < kUnsettled, qPrintable(QString::number(hidden)));
+    QVERIFY2(hidden < unsettled, qPrintable(QString::number(hidden)));
     const qint64 shown = growth([=] {
         for (int i = 0; i < 20; ++i)
             lead(life, true);
     });
-    QVERIFY2(shown < kUnsettled, qPrintable(QString::number(shown)));
+    QVERIFY2(shown < unsettled, qPrintable(QString::number(shown)));
 }
 
 void TestMemory::unplacedButtonsAreAllThatAWindowLeaves()
@@ -277,7 +277,7 @@ void TestMemory::unplacedButtonsAreAllThatAWindowLeaves()
         qDeleteAll(unplacedButtons());
         QCOMPARE(QApplication::allWidgets().size(), before.size());
     });
-    QVERIFY2(left < kUnsettled, qPrintable(QString::number(left)));
+    QVERIFY2(left < unsettled, qPrintable(QString::number(left)));
 }
 
 FILARIX_TEST_MAIN(TestMemory)

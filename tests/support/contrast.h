@@ -16,9 +16,9 @@
 /// equal colours, 21 for black on white. A text of usual size needs 4.5.
 namespace Contrast {
 
-const double kText = 4.5;
+const double textContrast = 4.5;
 /// For what is disabled, and so says that it can't be pressed.
-const double kDisabled = 3;
+const double disabledContrast = 3;
 
 inline double luminance(const QColor &color)
 {

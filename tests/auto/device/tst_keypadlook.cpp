@@ -74,7 +74,8 @@ void TestKeypadLook::keysAndLinesAreReadable()
     run(pad, [&] {
         Q_FOREACH (QAbstractButton *button, pad->findChildren<QAbstractButton *>()) {
             const QRect inside = button->rect().adjusted(5, 5, -5, -5);
-            const double wanted = button->isEnabled() ? Contrast::kText : Contrast::kDisabled;
+            const double wanted =
+                button->isEnabled() ? Contrast::textContrast : Contrast::disabledContrast;
             QVERIFY2(Contrast::drawn(button, inside) >= wanted, qPrintable(button->objectName()));
             button->setDown(true);
             QVERIFY2(Contrast::drawn(button, inside) >= wanted, qPrintable(button->objectName()));
@@ -87,15 +88,15 @@ void TestKeypadLook::keysAndLinesAreReadable()
             if (!label->isVisible() || line(pad, name).isEmpty())
                 continue;
             const QRect place(label->mapTo(pad, QPoint(0, 0)), label->size());
-            QVERIFY2(Contrast::drawn(pad, place) >= Contrast::kText, name);
+            QVERIFY2(Contrast::drawn(pad, place) >= Contrast::textContrast, name);
         }
         value(pad)->deselect();
         value(pad)->setText("123");
         QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6))
-                >= Contrast::kText);
+                >= Contrast::textContrast);
         value(pad)->selectAll();
         QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6))
-                >= Contrast::kText);
+                >= Contrast::textContrast);
     });
 }
 

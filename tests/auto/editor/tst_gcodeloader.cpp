@@ -169,7 +169,7 @@ void compareWithPlainCalls(const QString &text, const QString &before = QString(
     QCOMPARE(difference(editor, plain), QString());
 }
 
-/// Value of a line "Name:   123 kB" of the process's own figures, in bytes.
+/// Value of a line "Name:   123 b" of the process's own figures, in bytes.
 qint64 processMemory(const char *name)
 {
     const QByteArray status = FilarixTest::readFile(QLatin1String("/proc/self/status"));

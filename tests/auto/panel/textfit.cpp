@@ -23,9 +23,9 @@
 namespace {
 
 /// 9 mm at 96 dpi.
-const int kThumb = 34;
-const int kNarrow = 440;
-const int kAnyWidth = QWIDGETSIZE_MAX;
+const int thumb = 34;
+const int narrow = 440;
+const int anyWidth = QWIDGETSIZE_MAX;
 
 struct Exception
 {
@@ -38,29 +38,29 @@ struct Exception
 };
 
 const Exception exceptionTable[] = {
-    {Exception::Text, "title", "the name of a program; a touch tells it in full", kAnyWidth},
-    {Exception::Text, "messageText", "a touch on it shows it in full", kAnyWidth},
-    {Exception::Text, "fileState", "ends in a path; a touch shows it in full", kAnyWidth},
-    {Exception::Text, "stateLine", "its numbers stand first; a touch shows it in full", kAnyWidth},
-    {Exception::Text, "oldValue", "the value of before stands in the field in full", kAnyWidth},
+    {Exception::Text, "title", "the name of a program; a touch tells it in full", anyWidth},
+    {Exception::Text, "messageText", "a touch on it shows it in full", anyWidth},
+    {Exception::Text, "fileState", "ends in a path; a touch shows it in full", anyWidth},
+    {Exception::Text, "stateLine", "its numbers stand first; a touch shows it in full", anyWidth},
+    {Exception::Text, "oldValue", "the value of before stands in the field in full", anyWidth},
     {Exception::Place, "DataEditor", "the cells share their border lines, by the library's design",
-     kAnyWidth},
-    {Exception::Place, "shade", "lies over everything while a dialog waits", kAnyWidth},
-    {Exception::Place, "menu", "lies over the screens while the operator chooses", kAnyWidth},
+     anyWidth},
+    {Exception::Place, "shade", "lies over everything while a dialog waits", anyWidth},
+    {Exception::Place, "menu", "lies over the screens while the operator chooses", anyWidth},
     // The library lays its parts out for 440 pixels and more.
     {Exception::Text, "WMMainWindow", "the read-out beside the name has a fixed order and font",
-     kNarrow},
-    {Exception::Text, "WCopyDialog", "its widths are fixed", kNarrow},
-    {Exception::Text, "WFileDialog", "its font and its keys are fixed", kNarrow},
-    {Exception::Text, "WFindDialog", "fields and keys side by side", kNarrow},
-    {Exception::Place, "WGCodeEditer", "the scroll bar's fixed length", kNarrow},
-    {Exception::Text, "MJLine", "cells are shares of the width", kNarrow},
-    {Exception::Text, "DataEditor", "cells are shares of the width", kNarrow},
-    {Exception::Text, "ConnEditor", "cells and keys are shares of the width", kNarrow},
-    {Exception::Text, "ImportManage", "three columns side by side", kNarrow},
-    {Exception::Text, "FileDialog", "keys are shares of the width", kNarrow},
-    {Exception::Size, "FileDialog", "keys are shares of the width", kNarrow},
-    {Exception::Text, "QMessageBox", "three answers side by side", kNarrow},
+     narrow},
+    {Exception::Text, "WCopyDialog", "its widths are fixed", narrow},
+    {Exception::Text, "WFileDialog", "its font and its keys are fixed", narrow},
+    {Exception::Text, "WFindDialog", "fields and keys side by side", narrow},
+    {Exception::Place, "WGCodeEditer", "the scroll bar's fixed length", narrow},
+    {Exception::Text, "MJLine", "cells are shares of the width", narrow},
+    {Exception::Text, "DataEditor", "cells are shares of the width", narrow},
+    {Exception::Text, "ConnEditor", "cells and keys are shares of the width", narrow},
+    {Exception::Text, "ImportManage", "three columns side by side", narrow},
+    {Exception::Text, "FileDialog", "keys are shares of the width", narrow},
+    {Exception::Size, "FileDialog", "keys are shares of the width", narrow},
+    {Exception::Text, "QMessageBox", "three answers side by side", narrow},
 };
 
 int screenWidth = 0;
@@ -355,7 +355,7 @@ QString faultOfKey(const QWidget *widget)
 {
     if (!qobject_cast<const QAbstractButton *>(widget) || widget->width() <= 0)
         return QString();
-    if (widget->width() >= kThumb && widget->height() >= kThumb)
+    if (widget->width() >= thumb && widget->height() >= thumb)
         return QString();
     return QString::fromLatin1("%1x%2 is too small for a thumb")
         .arg(widget->width())

@@ -107,9 +107,9 @@ private:
 };
 
 // What a turn may take; a thumb notices more.
-static const double kLongestMs = 100;
+static const double longestTurnMs = 100;
 // Messages between threads, and what the toolkit looks up.
-static const qint64 kFewBytes = 64 * 1024;
+static const qint64 fewBytes = 64 * 1024;
 
 void TestResponsiveness::initTestCase()
 {
@@ -145,8 +145,8 @@ void TestResponsiveness::judge(const LoopWatch &watch)
     qInfo("longest turn %.1f ms of %d, %lld bytes", watch.longestMs(), watch.turns(),
           static_cast<long long>(watch.bytes()));
     QVERIFY(watch.turns() >= 2);
-    QVERIFY2(watch.longestMs() <= kLongestMs, qPrintable(QString::number(watch.longestMs())));
-    QVERIFY2(watch.bytes() >= 0 && watch.bytes() < kFewBytes,
+    QVERIFY2(watch.longestMs() <= longestTurnMs, qPrintable(QString::number(watch.longestMs())));
+    QVERIFY2(watch.bytes() >= 0 && watch.bytes() < fewBytes,
              qPrintable(QString::number(watch.bytes())));
 }
 
@@ -161,13 +161,13 @@ void TestResponsiveness::watchSeesALongTurn()
             ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
         while (time.tv_sec * 1000 + time.tv_nsec / 1000000 < start + 120);
     });
-    QTRY_VERIFY(watch.longestMs() > kLongestMs);
+    QTRY_VERIFY(watch.longestMs() > longestTurnMs);
 }
 
 void TestResponsiveness::watchSeesFilesBeingRead()
 {
     LoopWatch watch;
-    QVERIFY(watch.bytes() < kFewBytes);
+    QVERIFY(watch.bytes() < fewBytes);
     const QByteArray bytes = readFile(m_path);
     QVERIFY(watch.bytes() >= bytes.size());
 }

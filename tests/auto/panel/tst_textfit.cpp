@@ -58,7 +58,7 @@ private:
 namespace {
 
 /// Where a stick's folder has to be, for its files to count as the stick's.
-const char kStick[] = "/mnt/Storage.stick";
+const char stickFolder[] = "/mnt/Storage.stick";
 
 /// A text that the machine could bring, longer than any of our own.
 DeviceState widestState()
@@ -77,18 +77,18 @@ Options optionsFor(const QSize &size)
     options.rotation = size.width() < size.height() ? 90 : 0;
     options.look = QLatin1String("light");
     options.language = QLatin1String("en");
-    options.stickDir = QLatin1String(kStick);
+    options.stickDir = QLatin1String(stickFolder);
     return options;
 }
 
-const char kName[] = "stator-coil-left-4711.cnc";
-const char kReason[] = "No space left on device";
+const char programName[] = "stator-coil-left-4711.cnc";
+const char reason[] = "No space left on device";
 
 ProgramState stateOf(ProgramState::Kind kind)
 {
     ProgramState state;
     state.kind = kind;
-    state.name = QLatin1String(kName);
+    state.name = QLatin1String(programName);
     state.fileLines = 1000620;
     state.shownLines = 1000501;
     return state;
@@ -105,7 +105,7 @@ void TestTextFit::initTestCase()
 void TestTextFit::cleanup()
 {
     QFile::remove(Stick::marker());
-    emptyFolder(kStick);
+    emptyFolder(stickFolder);
     FilarixTest::cleanup();
 }
 
@@ -220,7 +220,7 @@ void TestTextFit::measureDialogs(const Measure &measure)
     measureMessages(measure);
 
     ProgramFacts facts;
-    facts.name = QLatin1String(kName);
+    facts.name = QLatin1String(programName);
     facts.lines = 1000620;
     facts.hash = QByteArray(32, '\x5a');
     DownloadQuestion download(facts, 1000501);
@@ -247,40 +247,41 @@ void TestTextFit::measureQuestions(const Measure &measure)
         {"save as shown",
          stateOf(ProgramState::Different).saveQuestion(),
          {cancel, text("ProgramGuard", "Save as shown"), otherName}},
-        {"disk full", notStored.arg(kName, kReason), ways},
+        {"disk full", notStored.arg(programName, reason), ways},
         {"stick full",
-         notStored.arg(kName,
-                       text("StoreCheck", "neither here nor on the stick (%1)").arg(kReason)),
+         notStored.arg(programName,
+                       text("StoreCheck", "neither here nor on the stick (%1)").arg(reason)),
          ways},
         {"other bytes",
-         notStored.arg(kName, text("StoreCheck", "the file holds something else than the editor")),
+         notStored.arg(programName,
+                       text("StoreCheck", "the file holds something else than the editor")),
          ways},
         {"cover",
          text("ProgramGuard",
               "%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?")
-             .arg(kName, "1000501", "2026-05-04 14:32", "1000620"),
+             .arg(programName, "1000501", "2026-05-04 14:32", "1000620"),
          {cancel, text("ProgramGuard", "Write over it")}},
         {"remove",
          text("ProgramGuard", "%1 is open, with changes that are not saved. They are lost with it.")
-             .arg(kName),
+             .arg(programName),
          {cancel, text("ProgramGuard", "Remove it")}},
         {"history full",
-         lost.arg(text("HistoryStore", "The history cannot keep %1: %2.").arg(kName, kReason),
-                  kName),
+         lost.arg(text("HistoryStore", "The history cannot keep %1: %2.").arg(programName, reason),
+                  programName),
          historyWays},
         {"history hangs",
          lost.arg(text("ProgramHistory",
                        "The panel's storage stopped answering: nothing goes into the history any "
                        "more. Switch the panel off and on."),
-                  kName),
+                  programName),
          historyWays},
-        {"a name of 255 letters", notStored.arg(QString(251, QLatin1Char('x')) + ".cnc", kReason),
+        {"a name of 255 letters", notStored.arg(QString(251, QLatin1Char('x')) + ".cnc", reason),
          ways},
         {text("UnsavedOffer", "Unsaved work"),
          text("UnsavedOffer", "This was not saved when the panel ended. Bring it back?"),
          {text("UnsavedOffer", "Keep for later"), text("UnsavedOffer", "Bring back"),
           text("UnsavedOffer", "Throw away")},
-         {text("UnsavedOffer", "%1, %2, lines: %3").arg(kName, "2026-05-04 14:32", "1000501"),
+         {text("UnsavedOffer", "%1, %2, lines: %3").arg(programName, "2026-05-04 14:32", "1000501"),
           text("TeachScreen", "%1, %2, instructions: %3")
               .arg("program-of-the-second-shift.teach", "2026-05-04 14:32", "99999"),
           text("VariablesScreen", "%1, %2, values: %3")
@@ -304,8 +305,8 @@ void TestTextFit::measureBoxes(const Measure &measure)
     } boxes[] = {
         {text("ImportGuard", "%1 What %2 is now could not be brought back. Go on all the same?")
              .arg(text("HistoryStore", "The history has no room for %1 beside the other programs.")
-                      .arg(kName),
-                  kName),
+                      .arg(programName),
+                  programName),
          QMessageBox::Yes | QMessageBox::Cancel},
         {text("PanelProgram", "Another panel works on the same programs. This one does not start."),
          QMessageBox::Ok},
@@ -323,7 +324,7 @@ void TestTextFit::measureMessages(const Measure &measure)
     show(&empty, "no messages", measure);
     log.tell(text("ProgramState", "Only a part of %1 is here: saving or sending it would lose the "
                                   "rest. Open it again, or save the part under another name.")
-                 .arg(kName),
+                 .arg(programName),
              Message::Warning);
     log.tell(text("PlcTransfer", "The PLC stopped answering while it took %1: which of the two it "
                                  "holds is not known. Check the PLC, then download once more.")

@@ -33,7 +33,7 @@
 
 namespace {
 
-const QSize kSurface(480, 272);
+const QSize surfaceSize(480, 272);
 
 QPoint middle(const QWidget *widget)
 {
@@ -48,7 +48,7 @@ class Screen : public QWidget
 public:
     Screen()
     {
-        setFixedSize(kSurface);
+        setFixedSize(surfaceSize);
         addKey("upper left", 0, 0);
         addKey("upper right", 380, 0);
         addKey("lower left", 0, 232);
@@ -89,7 +89,7 @@ private:
 /// A glass with the screen on it, and what a finger or a mouse does to the glass.
 struct Panel
 {
-    explicit Panel(int degrees) : glass(kSurface, degrees)
+    explicit Panel(int degrees) : glass(surfaceSize, degrees)
     {
         surface.reset(new PrimarySurface(&screen, true));
         glass.present(&screen);
@@ -243,7 +243,7 @@ void TestPanelGlass::corners()
     QFETCH(QSize, size);
     QFETCH(QPointF, upperLeft);
     QFETCH(QPointF, lowerRight);
-    const PanelGlass glass(kSurface, degrees);
+    const PanelGlass glass(surfaceSize, degrees);
     QCOMPARE(glass.size(), size);
     QCOMPARE(glass.toGlass(QPointF(0, 0)), upperLeft);
     QCOMPARE(glass.toGlass(QPointF(479, 271)), lowerRight);
@@ -260,7 +260,7 @@ void TestPanelGlass::surfaceIsTheScreen()
     QFETCH(int, degrees);
     const QRect before = QGuiApplication::primaryScreen()->geometry();
     const int screens = QGuiApplication::screens().size();
-    const QRect surface(QPoint(0, 0), kSurface);
+    const QRect surface(QPoint(0, 0), surfaceSize);
     {
         const Panel panel(degrees);
         QCOMPARE(QGuiApplication::primaryScreen()->geometry(), surface);
@@ -279,11 +279,11 @@ void TestPanelGlass::screenOfTheDesktopStaysAside()
 {
     Panel panel(90);
     QWindowSystemInterface::handlePrimaryScreenChanged(panel.glass.screen()->handle());
-    QCOMPARE(QGuiApplication::primaryScreen()->size(), kSurface);
+    QCOMPARE(QGuiApplication::primaryScreen()->size(), surfaceSize);
     QDialog dialog(&panel.screen);
     dialog.resize(100, 50);
     dialog.show();
-    QVERIFY(QRect(QPoint(0, 0), kSurface).contains(dialog.geometry()));
+    QVERIFY(QRect(QPoint(0, 0), surfaceSize).contains(dialog.geometry()));
     panel.click(&dialog);
 }
 
@@ -429,7 +429,7 @@ void TestPanelGlass::popupBesideTheSurfaceIsBroughtOntoIt()
     // On the platform's own screen there would be room.
     menu.popup(QPoint(600, 400));
     QTRY_VERIFY(menu.isVisible());
-    QVERIFY(QRect(QPoint(0, 0), kSurface).contains(menu.geometry()));
+    QVERIFY(QRect(QPoint(0, 0), surfaceSize).contains(menu.geometry()));
     panel.click(menu.mapToGlobal(menu.actionGeometry(menu.actions().constFirst()).center()));
     QCOMPARE(triggered.count(), 1);
     QVERIFY(!menu.isVisible());
@@ -464,7 +464,7 @@ void TestPanelGlass::keypad()
     ModalDriver driver;
     driver.then([&](QWidget *pad) {
         allowTopLevel(pad);
-        QVERIFY(QRect(QPoint(0, 0), kSurface).contains(pad->geometry()));
+        QVERIFY(QRect(QPoint(0, 0), surfaceSize).contains(pad->geometry()));
         Q_FOREACH (const QChar &key, keys)
             panel.click(pad->findChild<QWidget *>(QLatin1String("key_") + key));
         panel.click(pad->findChild<QWidget *>("key_ok"));
@@ -573,8 +573,8 @@ void TestPanelGlass::touchOfADisplayOfItsOwn()
     QFETCH(int, degrees);
     Panel panel(degrees);
     const QPointF onGlass = panel.glass.toGlass(middle(panel.screen.key("lower left")));
-    const QPointF place(onGlass.x() * kSurface.width() / panel.glass.width(),
-                        onGlass.y() * kSurface.height() / panel.glass.height());
+    const QPointF place(onGlass.x() * surfaceSize.width() / panel.glass.width(),
+                        onGlass.y() * surfaceSize.height() / panel.glass.height());
     panel.touch(nullptr, Qt::TouchPointPressed, place);
     panel.touch(nullptr, Qt::TouchPointReleased, place);
     QCOMPARE(panel.screen.pressed, QStringList("lower left"));

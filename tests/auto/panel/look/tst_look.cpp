@@ -102,7 +102,7 @@ void TestLook::paletteIsReadable()
         for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
             const double ratio = Contrast::ratio(palette.color(group, pair.first),
                                                  palette.color(group, pair.second));
-            QVERIFY2(ratio >= Contrast::kText,
+            QVERIFY2(ratio >= Contrast::textContrast,
                      qPrintable(
                          QString("role %1 on %2: %3").arg(pair.first).arg(pair.second).arg(ratio)));
         }
@@ -111,7 +111,7 @@ void TestLook::paletteIsReadable()
         const double ratio =
             Contrast::ratio(palette.color(QPalette::Disabled, QPalette::WindowText),
                             palette.color(QPalette::Disabled, ground));
-        QVERIFY2(ratio >= Contrast::kDisabled, qPrintable(QString::number(ratio)));
+        QVERIFY2(ratio >= Contrast::disabledContrast, qPrintable(QString::number(ratio)));
     }
 }
 
@@ -151,18 +151,18 @@ void TestLook::keysAreReadable()
     key->resize(90, 44);
     strip.show();
     const QRect inside = key->rect().adjusted(8, 6, -8, -6);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
     key->setDown(true);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
     key->setDown(false);
     key->setChecked(true);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
     key->setDown(true);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
     key->setDown(false);
     key->setChecked(false);
     key->setEnabled(false);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::kDisabled);
+    QVERIFY(Contrast::drawn(key, inside) >= Contrast::disabledContrast);
 }
 
 void TestLook::messagesAreReadable_data()
@@ -191,11 +191,12 @@ void TestLook::messagesAreReadable()
     log.closeAll();
     log.tell("The PLC does not answer.", tone);
     QLabel *text = bar.findChild<QLabel *>();
-    QVERIFY(Contrast::drawn(&bar, text->geometry()) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(&bar, text->geometry()) >= Contrast::textContrast);
     QWidget *mark = bar.findChild<ToneMark *>();
-    QVERIFY(Contrast::drawn(&bar, mark->geometry()) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(&bar, mark->geometry()) >= Contrast::textContrast);
     PanelKey *key = bar.findChild<PanelKey *>();
-    QVERIFY(Contrast::drawn(&bar, key->geometry().adjusted(8, 8, -8, -8)) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(&bar, key->geometry().adjusted(8, 8, -8, -8))
+            >= Contrast::textContrast);
 }
 
 void TestLook::messagesOfTheListAreReadable_data()
@@ -223,10 +224,11 @@ void TestLook::messagesOfTheListAreReadable()
         QCOMPARE(labels.size(), 2);
         for (QLabel *label : labels) {
             const QRect place(label->mapTo(&dialog, QPoint(0, 0)), label->size());
-            QVERIFY(Contrast::drawn(&dialog, place) >= Contrast::kText);
+            QVERIFY(Contrast::drawn(&dialog, place) >= Contrast::textContrast);
         }
         QWidget *mark = line->findChild<ToneMark *>();
-        QVERIFY(Contrast::drawn(mark, mark->rect().adjusted(3, 3, -3, -3)) >= Contrast::kText);
+        QVERIFY(Contrast::drawn(mark, mark->rect().adjusted(3, 3, -3, -3))
+                >= Contrast::textContrast);
     }
 }
 
@@ -248,7 +250,8 @@ void TestLook::stripColoursAreReadable()
     for (const QColor &color : {Look::stripText(), Look::changed(), Look::stripFaint(),
                                 Look::onStrip(Message::Information),
                                 Look::onStrip(Message::Warning), Look::onStrip(Message::Alarm)})
-        QVERIFY2(Contrast::ratio(color, ground) >= Contrast::kText, qPrintable(color.name()));
+        QVERIFY2(Contrast::ratio(color, ground) >= Contrast::textContrast,
+                 qPrintable(color.name()));
 }
 
 void TestLook::whatIsShownFollows()
@@ -277,7 +280,7 @@ void TestLook::whatIsShownFollows()
     QVERIFY(lightBase.lightness() > 192);
     // The glyph alone is the word's whole colour on a dark key.
     key->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    QVERIFY(Contrast::drawn(key, key->rect().adjusted(8, 6, -8, -6)) >= Contrast::kText);
+    QVERIFY(Contrast::drawn(key, key->rect().adjusted(8, 6, -8, -6)) >= Contrast::textContrast);
 
     Look::use(Look::Light);
     QCOMPARE(TestCompat::grab(&strip).toImage(), lightStrip);
@@ -297,10 +300,10 @@ void TestLook::editorStaysLight()
         const QPalette palette = editor.viewport()->palette();
         for (const QColor &word :
              {QColor(Qt::blue), QColor(Qt::darkMagenta), palette.color(QPalette::Text)})
-            QVERIFY(Contrast::ratio(word, palette.color(QPalette::Base)) >= Contrast::kText);
+            QVERIFY(Contrast::ratio(word, palette.color(QPalette::Base)) >= Contrast::textContrast);
         QVERIFY(
             Contrast::ratio(palette.color(QPalette::Text), palette.color(QPalette::AlternateBase))
-            >= Contrast::kText);
+            >= Contrast::textContrast);
         QCOMPARE(editor.palette().brush(QPalette::Inactive, QPalette::Highlight), selection);
         // What belongs to no text follows.
         QCOMPARE(editor.palette().color(QPalette::Window),

@@ -32,8 +32,8 @@ void TestPanelKey::aKeyIsNeverSmallerThanAThumb()
     const PanelKey drawn(Glyphs::icon(Glyphs::Files), text);
     const PanelKey plain(text);
     for (const PanelKey *key : {&drawn, &plain}) {
-        QVERIFY(key->minimumSizeHint().width() >= Look::kTouch);
-        QVERIFY(key->minimumSizeHint().height() >= Look::kTouch);
+        QVERIFY(key->minimumSizeHint().width() >= Look::smallestTouch);
+        QVERIFY(key->minimumSizeHint().height() >= Look::smallestTouch);
         QCOMPARE(key->minimumSizeHint(), key->sizeHint());
         QCOMPARE(key->text(), text);
     }

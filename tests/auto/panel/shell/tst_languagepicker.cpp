@@ -31,7 +31,7 @@ void TestLanguagePicker::eachLanguageHasAKeyWithItsOwnName()
     for (const Languages::Language &language : Languages::all()) {
         QVERIFY2(key(picker, "language_" + language.code), qPrintable(language.code));
         QCOMPARE(key(picker, "language_" + language.code)->text(), language.name);
-        QVERIFY(key(picker, "language_" + language.code)->minimumHeight() >= Look::kTouch);
+        QVERIFY(key(picker, "language_" + language.code)->minimumHeight() >= Look::smallestTouch);
     }
 }
 

@@ -77,7 +77,7 @@ void TestQuestionDialog::keysAreForGloves()
     QCOMPARE(keys.size(), 3);
     QVERIFY(keys.first()->isDefault());
     for (QPushButton *key : keys) {
-        QVERIFY(key->height() >= Look::kTouch);
+        QVERIFY(key->height() >= Look::smallestTouch);
         QVERIFY(dialog.rect().contains(key->geometry()));
     }
 }
