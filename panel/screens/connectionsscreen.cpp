@@ -10,6 +10,7 @@
 #include "listwidget.h"
 #include "look/look.h"
 #include "look/panelkey.h"
+#include "look/paneltable.h"
 #include "storage/writeleave.h"
 
 #include <QFile>
@@ -19,7 +20,6 @@
 #include <QScopedPointer>
 #include <QScreen>
 #include <QScrollArea>
-#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 
@@ -50,8 +50,8 @@ QStringList shownAddresses(const ConnEditor &editor, const ConnectionFile::Conte
 
 } // namespace
 
-/// What the library's dialog works on. Its memory of a file goes by the path: so that is a new one
-/// each time.
+/// The file that the library's dialog works on. The library remembers a file by its path, so each
+/// copy has a path of its own.
 struct ConnectionsScreen::Copy
 {
     QTemporaryDir folder;
@@ -81,17 +81,12 @@ struct ConnectionsScreen::Copy
 };
 
 ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
-    : PanelScreen(parent), m_filePath(filePath), m_table(new QTableWidget(0, 4))
+    : PanelScreen(parent)
+    , m_filePath(filePath)
+    , m_table(new PanelTable(0, 4, Look::smallestTouch - 6))
 {
     Look::dress(this, Look::KeyPanel);
-    m_table->setSelectionMode(QAbstractItemView::NoSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setFocusPolicy(Qt::NoFocus);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(Look::smallestTouch - 6);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(1, QHeaderView::Fixed);
@@ -208,7 +203,7 @@ void ConnectionsScreen::edit(const std::shared_ptr<Copy> &copy)
     showConnections();
     QScopedPointer<ConnEditor> editor;
     {
-        // The rows are as wide as the dialog, and lie in an area with margins and a scroll bar: on
+        // The rows are as wide as the dialog, and lie in an area with margins and a scroll bar. On
         // a narrow panel they are made for less than its width, and the dialog is widened.
         const int panel = QGuiApplication::primaryScreen()->availableSize().width();
         const SurfaceLoan tall(SurfaceLoan::tallPanel,

@@ -8,7 +8,7 @@
 #include "storage/connectionfile.h"
 #include "storage/filejob.h"
 
-class QTableWidget;
+class PanelTable;
 
 /// The machine's connections: what the connection file holds on the disk, and the library's dialog
 /// to change the addresses.
@@ -50,7 +50,7 @@ private:
     void showConnections();
 
     const QString m_filePath;
-    QTableWidget *m_table;
+    PanelTable *m_table;
     PanelKey *m_editKey;
     FileJob m_job;
     ConnectionFile::Contents m_contents;

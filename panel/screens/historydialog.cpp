@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/paneltable.h"
 #include "programs/programhistory.h"
 #include "programs/programsnapshot.h"
 
@@ -15,7 +16,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -48,27 +48,19 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
 } // namespace
 
 HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *parent)
-    : Dialog(parent), m_all(versions), m_table(new QTableWidget(0, kColumns))
+    : Dialog(parent), m_all(versions), m_table(new PanelTable(0, kColumns))
 {
     std::reverse(m_all.begin(), m_all.end());
     setTitle(tr("History"));
     m_table->setHorizontalHeaderLabels({tr("Program"), tr("Kept on"), tr("Checksum"), tr("Size")});
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->letChooseRow();
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
     m_table->setWordWrap(false);
     // Two names may differ at the end alone.
     m_table->setTextElideMode(Qt::ElideMiddle);
-    m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(Look::smallestTouch);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_table->horizontalHeader()->setHighlightSections(false);
     const QFontMetrics metrics(m_table->font());
     m_table->setColumnWidth(1, metrics.horizontalAdvance(QLatin1String("0000-00-00 00:00")) + 14);
     m_table->setColumnWidth(2, metrics.horizontalAdvance(QLatin1String("DDDD DDDD")) + 14);

@@ -8,7 +8,7 @@
 #include "programs/historystore.h"
 
 class QPushButton;
-class QTableWidget;
+class PanelTable;
 
 /// Lets the operator choose a version of a program to be brought back: the newest on top, a page at
 /// a time, all of them or those of one name.
@@ -33,7 +33,7 @@ private:
 
     QList<ProgramVersion> m_all;
     QList<ProgramVersion> m_shown;
-    QTableWidget *m_table;
+    PanelTable *m_table;
     QPushButton *m_onlyKey;
     QPushButton *m_backKey;
     QPushButton *m_forthKey;

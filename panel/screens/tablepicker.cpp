@@ -4,6 +4,7 @@
 #include "screens/tablepicker.h"
 
 #include "look/look.h"
+#include "look/paneltable.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -22,7 +22,7 @@ const int valueWidth = 50;
 
 TablePicker::TablePicker(const QString &title, const QStringList &keys,
                          const QList<TableEntry> &table, int current, QWidget *parent)
-    : Dialog(parent), m_table(new QTableWidget(table.size(), 2 + keys.size()))
+    : Dialog(parent), m_table(new PanelTable(table.size(), 2 + keys.size()))
 {
     setTitle(title);
     QLabel *heading = new QLabel(title);
@@ -31,18 +31,10 @@ TablePicker::TablePicker(const QString &title, const QStringList &keys,
     heading->setFont(font);
 
     m_table->setHorizontalHeaderLabels(QStringList() << tr("No.") << tr("Name") << keys);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setShowGrid(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(Look::smallestTouch);
+    m_table->letChooseRow();
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setDefaultSectionSize(valueWidth);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    m_table->horizontalHeader()->setHighlightSections(false);
     m_table->setColumnWidth(0, Look::smallestTouch);
     for (int row = 0; row < table.size(); ++row) {
         m_table->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));

@@ -7,7 +7,7 @@
 #include "dialog.h"
 #include "screens/machinedata.h"
 
-class QTableWidget;
+class PanelTable;
 
 /// Lets the operator choose an entry of a shared table.
 class TablePicker : public Dialog
@@ -23,7 +23,7 @@ public:
     int number() const;
 
 private:
-    QTableWidget *m_table;
+    PanelTable *m_table;
 };
 
 #endif // TABLEPICKER_H
