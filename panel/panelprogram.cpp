@@ -289,8 +289,8 @@ void PanelProgram::keepUnsavedWork()
     m_orderlyEnd.beforeEnd([this] { m_unsaved->flush(flushMs); });
 }
 
-// A panel is on for months: what dialogs and long programs left as gaps in the heap goes back to
-// the system, in a millisecond at most.
+// A panel is on for months. Dialogs and long programs leave gaps in the heap, which go back to the
+// system here, in a millisecond at most.
 void PanelProgram::tidyNowAndThen()
 {
     connect(&m_tidying, &QTimer::timeout, this, [] { malloc_trim(0); });

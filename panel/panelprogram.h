@@ -66,7 +66,7 @@ public:
     /// Plans the stops of \a tour at all screens.
     void plan(Tour *tour) const;
 
-    /// They exist once the panel has started.
+    /// The panel's parts exist once it has started.
     PanelWindow *window() const { return m_window.get(); }
     ProgramScreen *programScreen() const { return m_programs; }
     TeachScreen *teachScreen() const { return m_teach; }
@@ -120,7 +120,7 @@ private:
     ConnectionsScreen *m_connections = nullptr;
     FilesScreen *m_files = nullptr;
     DialogQuestioner m_questioner;
-    // They look at the screens.
+    // These two look at the screens.
     std::unique_ptr<UnsavedWork> m_unsaved;
     std::unique_ptr<UnsavedOffer> m_offer;
     QTimer m_tidying;

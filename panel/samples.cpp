@@ -12,7 +12,7 @@ bool copy(const QString &sample, const QString &target)
 {
     if (!QFile::copy(QLatin1String(":/samples/") + sample, target))
         return false;
-    // What comes out of the resource is read-only, and these are there to be edited.
+    // A file of the resource is read-only, and the samples are there to be edited.
     return QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
 }
 

@@ -13,11 +13,12 @@
 
 #include <memory>
 
-/// Brings about what the panel needs on its disks: the lock of its home, the program directory with
-/// the samples, the PLC's folder, the stick's samples, and an empty working directory.
+/// Brings about what the panel needs on its disks. That is the lock of its home, the program
+/// directory with the samples, the PLC's folder, the stick's samples, and an empty working
+/// directory.
 ///
 /// All of it is done beside the event loop. A disk that does not answer holds up the start for a
-/// moment and the screen never.
+/// moment, and the running panel never.
 ///
 ///     StartUp startUp(folders);
 ///     if (startUp.wait(300) == StartUp::Occupied)

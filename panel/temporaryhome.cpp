@@ -10,7 +10,7 @@ TemporaryHome::TemporaryHome()
     if (!isValid())
         return;
     qputenv("HOME", QFile::encodeName(path()));
-    // They may name folders of the home of before.
+    // These variables may name folders of the home of before.
     for (const char *folder : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
         qunsetenv(folder);
 }

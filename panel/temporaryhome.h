@@ -6,10 +6,11 @@
 
 #include <QTemporaryDir>
 
-/// A home for a walk without an operator, who may have programs of their own: it is the process's
-/// home from now on, and goes with all that lies in it.
+/// A home for a walk without an operator. The operator may have programs, which the walk would
+/// change.
 ///
-/// It comes before the application object, which looks into the home.
+/// It is the process's home from now on, and goes with all that lies in it. It comes before the
+/// application object, which looks into the home.
 class TemporaryHome
 {
 public:

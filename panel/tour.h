@@ -17,8 +17,8 @@ class QWidget;
 /// Works the panel without an operator and leaves a numbered PNG of what it shows. Where it goes is
 /// the TourPlan's.
 ///
-/// One step a tick of a timer, so the steps go on while a modal dialog waits: a step that opens
-/// one only posts the touch that does.
+/// One step a tick of a timer, so the steps go on while a modal dialog waits. A step that opens a
+/// dialog only posts the touch that does.
 class Tour : public QObject
 {
     Q_OBJECT

@@ -8,8 +8,8 @@
 
 /// One key of a keypad.
 ///
-/// It paints itself and takes nothing from the style or from a host's style sheet, so a keypad
-/// looks and measures the same over every program. It never takes the keyboard focus, which
+/// A key paints itself and takes nothing from the style or from a host's style sheet. So a keypad
+/// looks and measures the same over every program. A key never takes the keyboard focus, which
 /// belongs to the value.
 class KeyButton : public QAbstractButton
 {

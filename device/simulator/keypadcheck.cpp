@@ -25,8 +25,8 @@ bool isBetween(double value, double bottom, double top)
     return value >= bottom && value <= top;
 }
 
-/// A number on a keypad has a point, in every country; a validator of numbers reads the point of
-/// its own, and some take ours for the sign between thousands.
+/// A number on a keypad has a point, in every country. A validator of numbers reads the point of
+/// its own country, and some take ours for the sign between thousands.
 QString asTheValidatorReads(const QString &text, const QValidator *validator)
 {
     const bool isOfNumbers = qobject_cast<const QIntValidator *>(validator)

@@ -342,7 +342,8 @@ void KeypadFrame::showOldValue()
 {
     const QString old = m_request.text;
     m_oldValue->setText(old.isEmpty() ? tr("Was empty") : tr("Was: %1").arg(old));
-    // A line of G-code comes as its own hint; seen once it has the whole width.
+    // For a line of G-code the caller gives the line itself as the hint. It is shown once: the line
+    // above has the whole width.
     m_limit->setText(m_request.limit == old ? QString() : m_request.limit);
     m_limit->setVisible(!m_limit->text().isEmpty());
 }

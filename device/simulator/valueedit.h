@@ -17,8 +17,8 @@ struct TypingRules
     QString allowed;
 };
 
-/// The value that a keypad edits. It takes the keys of the keypad and of a keyboard alike, and
-/// makes its letters smaller, down to a readable size, so that a long text is seen whole.
+/// The value that a keypad edits. The field takes the keys of the keypad and of a keyboard alike.
+/// Its letters become smaller, down to a readable size, so that a long text is seen whole.
 class ValueEdit : public QLineEdit
 {
     Q_OBJECT

@@ -116,8 +116,8 @@ void GlassInput::turnTouch(Reports::TouchEvent *event) const
     event->flags |= Reports::WindowSystemEvent::NullWindow;
 }
 
-// What a desktop does when a window is pressed. It is not raised: that would hide a small dialog
-// behind the main window for good.
+// Activates a pressed window as a desktop does, but does not raise it: that would hide a small
+// dialog behind the main window for good.
 void GlassInput::activateAt(const QPointF &point) const
 {
     QWindow *window = QGuiApplication::topLevelAt(point.toPoint());

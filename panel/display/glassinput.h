@@ -12,9 +12,10 @@
 class PanelGlass;
 class TurnedPlatform;
 
-/// Turns back what the platform reports of the glass, before the toolkit looks at it: it is then
-/// about the surface, and names no window, so that the toolkit looks for the one under the point
-/// or the one with the focus. Installed from construction to destruction.
+/// Turns back what the platform reports of the glass, before the toolkit looks at it.
+///
+/// A report is about the surface then and names no window. The toolkit looks for the window under
+/// the point, or for the one with the focus. Installed from construction to destruction.
 class GlassInput : public QWindowSystemEventHandler
 {
 public:

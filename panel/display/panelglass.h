@@ -16,24 +16,25 @@ class TurnedPlatform;
 
 /// A display that is mounted turned, with all that the program shows upright on it.
 ///
-/// The windows of the program, the library's dialogs, message boxes, keypads and popups are windows
-/// of the toolkit, and a window can't be turned. So as long as the glass stands they are no windows
-/// of the platform: they live on a screen of their own (TurnedPlatform), which paints them into one
-/// picture, and the glass, the one window that the platform knows, shows that picture turned.
+/// The program's windows, the library's dialogs, message boxes, keypads and popups are windows of
+/// the toolkit, and no window can be turned. So as long as the glass stands they are no windows of
+/// the platform. They live on a display of their own (TurnedPlatform), which paints them into one
+/// picture. The glass is the one window that the platform knows, and shows that picture turned.
+///
 /// Mouse, touch and keys that reach the glass are turned back and go the toolkit's usual way from
-/// there, so that modal dialogs, popups and the focus work as ever.
+/// there. So modal dialogs, popups and the focus work as ever.
 ///
 ///     PanelGlass glass(QSize(480, 800), 90); // before the first widget
 ///     PanelWindow panel(QSize(480, 800));
 ///     glass.present(&panel);                 // a window of 800 by 480
 ///
-/// It goes after the last widget that was shown on it. There can be one at a time.
+/// The glass goes after the last widget that was shown on it. There can be one at a time.
 class PanelGlass : public QRasterWindow
 {
     Q_OBJECT
 
 public:
-    /// \a surface is what the program and its operator see, in pixels, at 0,0; the picture of it is
+    /// \a surface is what the program and its operator see, in pixels, at 0,0. The glass shows it
     /// turned clockwise by \a degrees: 0, 90, 180 or 270.
     PanelGlass(const QSize &surface, int degrees);
     ~PanelGlass() override;
@@ -41,7 +42,7 @@ public:
     /// Shows \a main and the glass, which takes its title; to close the glass is to close \a main.
     void present(QWidget *main);
 
-    /// What the glass shows, as it shows it.
+    /// The pixels of the glass, turned as the glass shows them.
     QImage picture() const;
     /// The middles of pixels, turned back and forth. A point beside the surface, as there is when
     /// the mouse is dragged off the glass, is taken for the nearest one on it.

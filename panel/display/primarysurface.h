@@ -11,12 +11,13 @@ class QWidget;
 
 /// Makes a window the surface of the panel: what the toolkit takes for its primary screen.
 ///
-/// On a panel the two are one. On a desktop the library would size and place its lists and
-/// dialogs by the desktop, and a program for a panel of 480 by 272 could not be judged there: so
-/// the toolkit's primary screen is given the window's rectangle, as long as the window stands,
-/// and follows it. The device library's keypads are told the same rectangle, in global
-/// coordinates, through the application's property "hmiScreen", and whether there is a touch
-/// screen through "hmiTouchScreen".
+/// On a panel the two are one. On a desktop the library would size and place its lists and dialogs
+/// by the desktop. So the toolkit's primary screen is given the window's rectangle as long as the
+/// window stands, and follows it. A program for a panel of 480 by 272 can be judged there then.
+///
+/// The device library's keypads learn the same rectangle, in global coordinates, by the
+/// application's property "hmiScreen". The property "hmiTouchScreen" says whether a touch screen is
+/// there.
 class PrimarySurface : public QObject
 {
     Q_OBJECT

@@ -101,7 +101,7 @@ TurnedPlatform::TurnedPlatform(const QSize &surface, QWindow *glass)
     , m_drawsPointer(displayIsOurs())
     , m_screen(new GlassScreen(surface, glass, m_drawsPointer))
 {
-    // The glass stays where it is when the only screen is another one.
+    // The glass stays where it is when the toolkit has another screen alone.
     m_glass->setScreen(QGuiApplication::primaryScreen());
     if (m_drawsPointer)
         m_glass->setCursor(Qt::BlankCursor);
@@ -127,8 +127,8 @@ TurnedPlatform::~TurnedPlatform()
     QWindowSystemInterface::flushWindowSystemEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-// The surface is the primary screen, and the platform's own are nowhere, or a popup whose corner
-// lies beside the surface would be put on one of them.
+// The surface is the primary screen, and the platform's own screens are nowhere. On one of them the
+// toolkit would put a popup whose corner lies beside the surface.
 void TurnedPlatform::standBefore()
 {
     if (QGuiApplication::primaryScreen() != m_screen->screen())
@@ -180,7 +180,7 @@ QPlatformWindow *TurnedPlatform::createPlatformWindow(QWindow *window) const
 {
     if (window == m_glass)
         return m_native->createPlatformWindow(window);
-    // It may have been on the platform's screen before.
+    // The window may have been on the platform's screen before.
     window->setScreen(m_screen->screen());
     return new QFbWindow(window);
 }

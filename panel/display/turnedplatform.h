@@ -16,10 +16,11 @@ class GlassScreen;
 
 /// The platform of the windows behind a PanelGlass.
 ///
-/// It stands before the platform that the program runs on, from construction to destruction. All
-/// windows but the glass are made here, on a screen that is the toolkit's primary one meanwhile:
-/// the toolkit's own compositor, which stacks, activates and paints them into one picture. What is
-/// not about windows, and the glass itself, stays with the platform that was there before.
+/// TurnedPlatform stands before the platform that the program runs on, from construction to
+/// destruction. It makes all windows but the glass, on a screen that is the toolkit's primary one
+/// meanwhile. That screen is the toolkit's own compositor, which stacks, activates and paints
+/// windows into one picture. The glass, and what is not about windows, stays with the platform
+/// behind.
 class TurnedPlatform : public QObject, public QPlatformIntegration
 {
     Q_OBJECT

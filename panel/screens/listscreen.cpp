@@ -110,7 +110,7 @@ PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &
     const int line = m_keyCount / m_keyColumns;
     m_keyGrid->addWidget(key, line, m_keyCount % m_keyColumns);
     if (m_keysBeside) {
-        // What is left when the keys are as high as they get lies below them, not between.
+        // The room that the keys leave at their full height lies below them, not between.
         m_keyGrid->setRowStretch(line, keyStretch);
         m_keyGrid->setRowStretch(line + 1, 1);
     }

@@ -19,9 +19,10 @@ class QLabel;
 class QScrollArea;
 class TListWidget;
 
-/// A screen around one of the library's paged lists: the list at the size of the panel, and a panel
-/// of keys beside it on a lying panel, below it on an upright or a small one. A file keeps the
-/// rows.
+/// A screen around one of the library's paged lists, at the size of the panel, with a file that
+/// keeps the rows.
+///
+/// The keys are beside the list on a wide panel, and below it on an upright or a small one.
 class ListScreen : public PanelScreen, public UnsavedRows
 {
     Q_OBJECT

@@ -93,8 +93,8 @@ void TeachScreen::loadFirst()
     keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showFirst(loaded); });
 }
 
-// A program that nobody can read is not taken for one that isn't there: in the place of the sample
-// there are no rows, and what stands in the file stays until the operator stores.
+// A program that nobody can read is not taken for one that isn't there. There are no rows then, not
+// those of the sample, and the file stays until the operator stores.
 void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
 {
     const bool isNew = loaded.state == RowKeeper::Loaded::Missing;
@@ -200,7 +200,7 @@ bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
         return false;
     if (path != m_file && QFileInfo(path).path() == QFileInfo(m_file).path()) {
         m_file = path;
-        // What that file holds was never shown.
+        // The rows of that file were never shown.
         markStored(QList<QStringList>());
     }
     m_selectKey->setChecked(false);
@@ -322,7 +322,7 @@ void TeachScreen::chooseSpeed(int row)
                 Message::Information);
 }
 
-// What the program screen's Tag copies is the point of the instruction that was touched last.
+// Tag on the program screen copies the point of the instruction that was touched last.
 void TeachScreen::followRow(int row)
 {
     m_machine->setCurrentPoint(list()->getJposIndex(row));

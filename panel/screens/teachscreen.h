@@ -8,8 +8,8 @@
 
 class MachineData;
 
-/// The taught program: the library's list of instructions with the host's shared tables behind its
-/// points and speeds, and a plain text file behind the list.
+/// The taught program: the library's list of instructions, with the host's shared tables behind its
+/// points and speeds.
 class TeachScreen : public ListScreen
 {
     Q_OBJECT

@@ -12,18 +12,19 @@
 class QDialog;
 class QWidget;
 
-/// Keeps dialogs on the panel, above it and apart from it: none slips behind the panel when that is
-/// touched, with a window manager or without, each gets an edge, as a panel has no window
-/// manager to draw one, one that is larger than the panel is made to fit when it is shown, one that
-/// the toolkit places stands in the middle, and the import manager, whose own size leaves a file
-/// name no room, gets most of the panel.
+/// Fits dialogs to the panel, with a window manager or without.
+///
+/// A dialog stays above the panel when the panel is touched. It gets an edge, which no window
+/// manager draws on a panel. A dialog that is larger than the panel is made smaller when it is
+/// shown, and one that the toolkit places stands in the middle. The import manager gets most of the
+/// panel: its own size leaves a file name no room.
 class DialogFitter : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches the application from now on. The panel is the primary screen, and \a panel, if any,
-    /// is the window that dialogs stay above.
+    /// Watches the application from now on. The panel is the toolkit's primary screen. Dialogs stay
+    /// above \a panel, which may be null.
     explicit DialogFitter(QWidget *panel);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -35,7 +36,7 @@ private:
     bool isPressOfPanel(const QObject *watched, QEvent::Type type) const;
 
     QWidget *const m_panel;
-    /// Those that are open, the last one shown at the end.
+    /// The open dialogs, the last one shown at the end.
     QList<QPointer<QDialog>> m_open;
 };
 

@@ -15,11 +15,11 @@ class PanelKey;
 class QProgressBar;
 class ToneMark;
 
-/// The place of the panel that says what the log has to say, or how long work goes on, with a key
-/// that closes the one and stops the other.
+/// The place of the panel for what the log has to say, or for how long work goes on. Its key closes
+/// a message and stops work.
 ///
-/// It has a place of its own and lies over nothing. A text that is too long for it ends in three
-/// dots, so a touch on it is to show the whole one.
+/// The bar has a place of its own and lies over nothing. A text that is too long for it ends in
+/// three dots, so a touch on it is to show the whole one.
 ///
 ///     MessageBar *bar = new MessageBar(&log, MessageBar::Row);
 ///     connect(bar, &MessageBar::touched, this, &PanelWindow::showMessages);
@@ -41,7 +41,7 @@ public:
     void endWork();
     bool isWorking() const { return m_isWorking; }
 
-    /// What it says about now; empty while it shows the last message at most.
+    /// The text of what it shows; empty while that is the last message at most.
     QString text() const { return m_text; }
     /// In a Line's case without a parent until it is placed.
     PanelKey *key() const { return m_key; }

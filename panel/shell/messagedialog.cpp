@@ -146,7 +146,7 @@ QWidget *MessageDialog::makeLine(const Message &message, bool stands) const
     return line;
 }
 
-// What is read keeps its place on the screen unless something newer comes on top.
+// The message that is read keeps its place unless something newer comes on top.
 void MessageDialog::fill()
 {
     const int place = m_area->verticalScrollBar()->value();

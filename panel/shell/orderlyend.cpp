@@ -23,7 +23,7 @@ void OrderlyEnd::end()
     QTimer::singleShot(0, this, &OrderlyEnd::goOn);
 }
 
-// One answer each time: what asked goes on between two of them, and may ask for more.
+// One answer each time: whoever asked goes on between two answers, and may ask for more.
 void OrderlyEnd::goOn()
 {
     if (m_time.elapsed() < patienceMs && (abortLoading() || answerInnermost())) {

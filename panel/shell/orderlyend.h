@@ -14,9 +14,9 @@ class QDialog;
 
 /// Ends the program without an operator, as a signal of the system asks for.
 ///
-/// What waits for an answer gets it first, the innermost first: questions their harmless one,
-/// dialogs and keypads that of Cancel, and a program that is being opened is aborted. Then what
-/// was registered runs, and the event loop ends.
+/// What waits for an answer gets it first, the innermost first. Questions get their harmless
+/// answer, dialogs and keypads that of Cancel, and a program that is being opened is aborted. Then
+/// the registered steps run, and the event loop ends.
 ///
 ///     OrderlyEnd orderlyEnd;
 ///     QObject::connect(&signals, &TerminationSignals::received, &orderlyEnd, &OrderlyEnd::end);

@@ -246,7 +246,7 @@ void PanelWindow::tellTrouble()
         m_log.tell(trouble, Message::Warning);
 }
 
-// Those of a menu go on in a second line where the first is full.
+// The tabs of a menu go on in a second line where the first is full.
 void PanelWindow::addTab(PanelKey *tab)
 {
     const int columns = hasMenu() ? qMax(1, width() / menuTabWidth) : INT_MAX;

@@ -25,12 +25,14 @@ class QStackedWidget;
 class Settings;
 class StatusStrip;
 
-/// The shell around the screens: which screen is up, its title and keys, the state of the devices,
-/// the clock, and what the screens have to say.
+/// The shell around the screens: which of them is up, its title and keys, the state of the devices,
+/// the clock, and the messages.
 ///
-/// Four shapes, by the surface: lying and wide (tabs in the top strip), upright (tabs at the foot,
-/// in reach of the thumbs), lying and small (tabs behind a Menu key, so that the screen gets every
-/// line there is), and upright and small (the same, with the state of the devices at the foot).
+/// Four shapes, by the surface. Lying and wide: the tabs are in the top strip. Upright: the tabs
+/// are at the foot, in reach of the thumbs. Lying and small: the tabs are behind a Menu key, so
+/// that the screen gets every line there is. Upright and small: the same, with the state of the
+/// devices at the foot.
+///
 /// Messages have a row of their own at the foot, and cover nothing. On a small panel they take the
 /// line of the devices' state while there are some. A touch on the row or on the title opens the
 /// last messages.
@@ -60,7 +62,7 @@ public:
     /// \a index counts from 0 in the order of addScreen().
     void showScreen(int index);
 
-    /// What the operator was told; whoever has something to say that is no screen tells it there.
+    /// What the operator was told. Whoever is no screen and has something to say tells it there.
     MessageLog *messages() { return &m_log; }
     MessageBar *messageBar() const { return m_messageBar; }
     StatusStrip *status() const { return m_status; }

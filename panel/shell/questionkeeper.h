@@ -22,9 +22,9 @@ public:
     /// Watches all message boxes of the application from now on. One for each program.
     explicit QuestionKeeper(QObject *parent = nullptr);
 
-    /// What exec() of \a box is to give when nobody pressed a button: No where there is one. Else
-    /// it is -1, from which the toolkit's static functions make Cancel, or the Cancel of the
-    /// library's own boxes, which hand it on as it is.
+    /// What exec() of \a box is to give when nobody pressed a button: No where there is one. The
+    /// library's own boxes, which hand the result on as it is, give Cancel. All others give -1,
+    /// from which the toolkit's static functions make Cancel.
     static int harmlessResult(const QMessageBox *box);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

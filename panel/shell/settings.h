@@ -15,12 +15,12 @@ class SettingsFile;
 
 /// What the operator has chosen for the panel program, in one INI file.
 ///
-/// A file that cannot be read as INI, or that holds a value nobody knows, is put aside under
-/// another name, never over an earlier one; what is right in it is kept. Where nothing can be
-/// written, a choice lasts until the program ends.
+/// A file that cannot be read as INI, or that holds an unknown value, is put aside under another
+/// name, never over an earlier one. What is right in it is kept. Where nothing can be written, a
+/// choice lasts until the program ends.
 ///
-/// The file is read and written beside the event loop, in the order of the calls: a disk that hangs
-/// never stops the screen, and of two choices the last one stays.
+/// The file is read and written beside the event loop, in the order of the calls. A disk that hangs
+/// never stops the panel, and of two choices the last one stays.
 ///
 ///     Settings settings("/home/panel/hmi/panel.ini");
 ///     const QString language = settings.choice("language", {"en", "de"});

@@ -155,7 +155,7 @@ void StatusStrip::noteEnd(bool failed)
     showPlc();
 }
 
-// What is wrong with a program says nothing of the PLC.
+// A fault of a program says nothing of the PLC.
 void StatusStrip::noteFailure(bool isPlcAtFault)
 {
     if (isPlcAtFault)
@@ -164,7 +164,7 @@ void StatusStrip::noteFailure(bool isPlcAtFault)
         noteStop();
 }
 
-// Nor does what the operator stopped.
+// A download that the operator stopped says nothing of the PLC.
 void StatusStrip::noteStop()
 {
     m_percent = -1;

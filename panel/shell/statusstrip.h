@@ -21,7 +21,7 @@ class StatusItem : public QLabel
 public:
     explicit StatusItem(Glyphs::Glyph glyph, QWidget *parent = nullptr);
 
-    /// \a meaning says it in full, for those who hear the screen.
+    /// \a meaning says it in full, for operators who have the panel read to them.
     void set(const QString &word, Message::Tone tone, const QString &meaning);
     /// The same for what is not known, or not there and need not be.
     void setToneless(const QString &word, const QString &meaning);
