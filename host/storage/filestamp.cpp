@@ -10,8 +10,8 @@
 
 namespace {
 
-const qint64 kNsPerSecond = 1000000000;
-const qint64 kNsPerMs = 1000000;
+const qint64 nsPerSecond = 1000000000;
+const qint64 nsPerMs = 1000000;
 
 FileStamp stamp(int result, const struct stat64 &info)
 {
@@ -20,8 +20,8 @@ FileStamp stamp(int result, const struct stat64 &info)
         return stamp;
     stamp.size = info.st_size;
     stamp.inode = qint64(info.st_ino);
-    stamp.modified = info.st_mtim.tv_sec * kNsPerSecond + info.st_mtim.tv_nsec;
-    stamp.changed = info.st_ctim.tv_sec * kNsPerSecond + info.st_ctim.tv_nsec;
+    stamp.modified = info.st_mtim.tv_sec * nsPerSecond + info.st_mtim.tv_nsec;
+    stamp.changed = info.st_ctim.tv_sec * nsPerSecond + info.st_ctim.tv_nsec;
     return stamp;
 }
 
@@ -43,5 +43,5 @@ FileStamp FileStamp::of(const QFile &openFile)
 
 qint64 FileStamp::age() const
 {
-    return QDateTime::currentMSecsSinceEpoch() - modified / kNsPerMs;
+    return QDateTime::currentMSecsSinceEpoch() - modified / nsPerMs;
 }

@@ -15,12 +15,12 @@
 
 namespace {
 
-const int kValuePixels = 24;
-const int kSmallestPixels = 14;
-const int kTitlePixels = 17;
-const int kMargin = 14;
-const int kGap = 14;
-const QSize kRoomy(520, 280);
+const int valuePixels = 24;
+const int smallestPixels = 14;
+const int titlePixels = 17;
+const int margin = 14;
+const int gap = 14;
+const QSize roomy(520, 280);
 
 QFont sized(QFont font, int pixels)
 {
@@ -33,8 +33,8 @@ QFont sized(QFont font, int pixels)
 // all loses its middle. Of two numbers neither may: they take a second line.
 void showValue(QLabel *label, const QString &text, int room, bool mayBreak)
 {
-    int pixels = kValuePixels;
-    while (pixels > kSmallestPixels
+    int pixels = valuePixels;
+    while (pixels > smallestPixels
            && QFontMetrics(sized(label->font(), pixels)).horizontalAdvance(text) > room)
         --pixels;
     label->setFont(sized(label->font(), pixels));
@@ -50,10 +50,10 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
 {
     setTitle(tr("Download"));
     QGridLayout *grid = new QGridLayout(this);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    grid->setHorizontalSpacing(kGap);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setHorizontalSpacing(gap);
     QLabel *heading = new QLabel(tr("Send this program to the PLC?"));
-    heading->setFont(sized(heading->font(), kTitlePixels));
+    heading->setFont(sized(heading->font(), titlePixels));
     heading->setWordWrap(true);
     grid->addWidget(heading, 0, 0, 1, 2);
 
@@ -73,13 +73,13 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
         {"checksum", tr("Checksum"), facts.checksum(), false},
     };
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
-    const QSize size = kRoomy.boundedTo(panel - QSize(8, 8));
+    const QSize size = roomy.boundedTo(panel - QSize(8, 8));
     // A narrow panel has the values below their headings.
     const bool isNarrow = panel.width() < FilarixPanel::smallBelow;
-    int room = size.width() - 2 * kMargin - kGap;
+    int room = size.width() - 2 * margin - gap;
     for (const auto &line : lines) {
         if (!isNarrow)
-            room = qMin(room, size.width() - 2 * kMargin - kGap
+            room = qMin(room, size.width() - 2 * margin - gap
                                   - fontMetrics().horizontalAdvance(line.heading) - 4);
     }
     for (const auto &line : lines) {
@@ -104,9 +104,9 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
     send->setAutoDefault(false);
     cancel->setDefault(true);
     QHBoxLayout *keys = new QHBoxLayout;
-    keys->setSpacing(kGap);
+    keys->setSpacing(gap);
     for (QPushButton *key : {cancel, send}) {
-        key->setFont(sized(key->font(), kTitlePixels));
+        key->setFont(sized(key->font(), titlePixels));
         key->setMinimumHeight(Look::smallestTouch + 8);
         keys->addWidget(key, 1);
     }

@@ -23,9 +23,9 @@
 
 namespace {
 
-const int kNarrowPixels = 12;
+const int narrowPixels = 12;
 // Farther away, a key is no longer seen to belong to its line.
-const int kReach = 800;
+const int reach = 800;
 // What messages are about.
 const QLatin1String stickCause("stick");
 
@@ -79,7 +79,7 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
         m_grid->setColumnMinimumWidth(1, 2 * Look::smallestTouch);
         m_grid->setColumnMinimumWidth(2, 2 * Look::smallestTouch);
     }
-    m_grid->setColumnMinimumWidth(3, qMax(0, panelWidth() - kReach));
+    m_grid->setColumnMinimumWidth(3, qMax(0, panelWidth() - reach));
     setLayout(m_grid);
 
     connect(m_plugKey, &PanelKey::clicked, this, &FilesScreen::plug);
@@ -138,7 +138,7 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     QFont font = name->font();
     font.setBold(true);
     if (isNarrow())
-        font.setPixelSize(kNarrowPixels);
+        font.setPixelSize(narrowPixels);
     name->setFont(font);
     ElidedLabel *state = new ElidedLabel;
     // The end of a path may not fit; a touch tells it in full.

@@ -22,9 +22,9 @@
 
 namespace {
 
-const QSize kRoomy(720, 560);
-const int kColumns = 4;
-const int kWideFrom = 600;
+const QSize roomy(720, 560);
+const int columns = 4;
+const int wideFrom = 600;
 
 QHBoxLayout *addKeyRow(QVBoxLayout *column)
 {
@@ -48,7 +48,7 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
 } // namespace
 
 HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *parent)
-    : Dialog(parent), m_all(versions), m_table(new PanelTable(0, kColumns))
+    : Dialog(parent), m_all(versions), m_table(new PanelTable(0, columns))
 {
     std::reverse(m_all.begin(), m_all.end());
     setTitle(tr("History"));
@@ -95,7 +95,7 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     connect(m_table->verticalScrollBar(), &QScrollBar::rangeChanged, this,
             &HistoryDialog::showState);
     fill();
-    resize(kRoomy.boundedTo(panel - QSize(8, 8)));
+    resize(roomy.boundedTo(panel - QSize(8, 8)));
 }
 
 ProgramVersion HistoryDialog::version() const
@@ -107,7 +107,7 @@ ProgramVersion HistoryDialog::version() const
 void HistoryDialog::resizeEvent(QResizeEvent *event)
 {
     // The name comes first.
-    m_table->setColumnHidden(2, width() < kWideFrom);
+    m_table->setColumnHidden(2, width() < wideFrom);
     m_table->setColumnHidden(3, width() < FilarixPanel::smallBelow);
     Dialog::resizeEvent(event);
 }

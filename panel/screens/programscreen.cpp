@@ -36,7 +36,7 @@
 namespace {
 
 // Work that takes less is over before anybody has read that it is done.
-const int kPatienceMs = 300;
+const int patienceMs = 300;
 // Longer than a healthy disk takes for the largest program.
 const int closingPatienceMs = 5000;
 const int closingTickMs = 50;
@@ -294,7 +294,7 @@ void ProgramScreen::askForDownload()
 // Most programs are copied in the twinkling of an eye.
 void ProgramScreen::showCopying(int percent)
 {
-    if (m_copyingFor.elapsed() >= kPatienceMs)
+    if (m_copyingFor.elapsed() >= patienceMs)
         Q_EMIT worked(tr("The program is made ready: %1 %").arg(percent), percent);
 }
 
