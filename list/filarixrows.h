@@ -452,7 +452,11 @@ inline QList<Problem> checkRows(const QList<QStringList> &rows, int firstIndex)
 inline QList<Problem> warningsFor(const QStringList &row, int index)
 {
     QList<Problem> warnings;
-    if (!isInstruction(row.value(Kind)) || !checkRow(row, index).isEmpty())
+    const QString kind = row.value(Kind);
+    if (!isInstruction(kind))
+        return warnings;
+    const bool isWellFormed = checkRow(row, index).isEmpty();
+    if (!isWellFormed)
         return warnings;
     if (index != 0 && Detail::hasLetter(row.at(Num)))
         warnings << Problem(index, Num, NumReadsAsZero);

@@ -5,6 +5,7 @@
 #include "wgcodeediter.h"
 #include "whighlighter.h"
 
+#include <QPointer>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void marksStayWhateverHappensToTheText();
     void aHighlighterTakenOffColoursNothing();
     void marksAreTakenWhileAnotherDocumentIsSet();
+    void marksOutliveTheDocumentWithTheirHighlighter();
 };
 
 namespace {
@@ -211,6 +213,22 @@ void TestErrorMarks::marksAreTakenWhileAnotherDocumentIsSet()
     editor.setDocument(own);
     QCOMPARE(formats(editor, 0).size(), 2);
     QCOMPARE(marks(editor).size(), 2);
+}
+
+void TestErrorMarks::marksOutliveTheDocumentWithTheirHighlighter()
+{
+    QObject keeper;
+    WGCodeEditer editor(nullptr);
+    QPointer<WHighlighter> highlighter = highlighterOf(editor);
+    highlighter->setParent(&keeper);
+    QTextDocument other;
+    other.setDocumentLayout(new QPlainTextDocumentLayout(&other));
+    editor.setDocument(&other); // and the editor's own is gone
+    QVERIFY(highlighter);
+    QVERIFY(!highlighter->document());
+    editor.addErrorCode(2, QLatin1String("^"));
+    editor.highlightErrorCode(); // there is nothing to colour
+    QCOMPARE(highlighter->errorLines.keys(), QList<int>() << 2);
 }
 
 FILARIX_TEST_MAIN(TestErrorMarks)

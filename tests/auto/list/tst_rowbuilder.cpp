@@ -494,6 +494,10 @@ void TestRowBuilder::otherRowsOfOneLengthMakeAList()
         odd[3] =
             length == 4 ? QStringList(rows.at(3) + numbers(1, 1)) : rows.at(3).mid(0, length - 1);
         QVERIFY(checkRows(odd, 0) == QList<Problem>() << Problem(3, odd.at(3).size(), WrongLength));
+        // One that no list shows is found once, and does not decide for the others.
+        odd = rows;
+        odd[0] = rows.at(0) + numbers(1, 7);
+        QVERIFY(checkRows(odd, 0) == QList<Problem>() << Problem(0, odd.at(0).size(), WrongLength));
         rows[0] = goodRow(0);
         QCOMPARE(checkRows(rows, 0).size(), length == 5 ? 0 : 19);
     }
