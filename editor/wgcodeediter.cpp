@@ -6,19 +6,17 @@
 #include "blockformatter_p.h"
 #include "compat.h"
 #include "gcodesymbols.h"
+#include "pieceappender_p.h"
 #include "waqp.h"
 #include "wcopydialog.h"
 #include "wfinddialog.h"
 #include "whighlighter.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QResizeEvent>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTime>
 #include <QtDebug>
@@ -33,130 +31,6 @@ const int chunkThreshold = 500;
 const int chunkCount = 50;
 /// Pixels of the gutter beside the digits.
 const int gutterMargin = 3;
-
-/// Milliseconds between two paintings of the editor while a program goes in.
-const int paintInterval = 200;
-
-/// Set on an editor while PieceAppender works on it.
-const char isAppendingName[] = "_filarix_isAppending";
-
-/// Takes many pieces of text at the end of an editor, as appendPlainText() does, but spares it the
-/// work of being looked at between them: painting, and laying out the last page to know how far it
-/// scrolls. The editor's own state comes back on every way out. What a parent holds back is the
-/// parent's business: updatesEnabled() would report it, and it would then stick to the editor.
-class PieceAppender
-{
-public:
-    PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter)
-        : m_view(view)
-        , m_formatter(formatter)
-        , m_wasEnabled(!view->testAttribute(Qt::WA_ForceUpdatesDisabled))
-        , m_wasCentring(view->centerOnScroll())
-    {
-        m_view->setProperty(isAppendingName, true);
-        m_time.start();
-        rest();
-    }
-    ~PieceAppender()
-    {
-        if (!m_view)
-            return;
-        wake();
-        m_view->setProperty(isAppendingName, QVariant());
-    }
-
-    static bool isAtWorkOn(const QPlainTextEdit *view)
-    {
-        return view->property(isAppendingName).toBool();
-    }
-
-    void append(const QString &text);
-
-    /// Serves events; the view is up to date meanwhile if the last time is long ago. False when a
-    /// receiver deleted the view.
-    bool processEvents();
-
-private:
-    void appendUnseen(const QString &text);
-    void rest();
-    void wake();
-    QScrollBar *bar() const { return m_view->verticalScrollBar(); }
-
-    // A receiver of an event may delete the view, give it another scroll bar, or another document
-    // and with it no formatter.
-    QPointer<QPlainTextEdit> m_view;
-    QPointer<BlockFormatter> m_formatter;
-    bool m_wasEnabled;
-    bool m_wasCentring;
-    bool m_followsEnd;
-    int m_restingValue;
-    QElapsedTimer m_time;
-};
-
-bool PieceAppender::processEvents()
-{
-    const bool isDue = m_wasEnabled && m_time.elapsed() >= paintInterval;
-    if (isDue)
-        wake();
-    QCoreApplication::processEvents();
-    if (!m_view)
-        return false;
-    if (isDue)
-        m_time.restart();
-    else if (bar()->value() != m_restingValue)
-        wake(); // it was scrolled, perhaps to the end
-    else
-        return true;
-    rest();
-    return true;
-}
-
-void PieceAppender::rest()
-{
-    m_view->setUpdatesEnabled(false);
-    m_followsEnd = bar()->value() == bar()->maximum();
-    // A view that may scroll its last line to the centre knows its range without any layout.
-    Compat::setCenterOnScroll(m_view, true);
-    m_restingValue = bar()->value();
-}
-
-void PieceAppender::wake()
-{
-    const bool isWhereItWas = bar()->value() == m_restingValue;
-    Compat::setCenterOnScroll(m_view, m_wasCentring);
-    // A view at its end stays there while text is appended, unless it was scrolled meanwhile.
-    if (m_followsEnd && isWhereItWas && m_view->isVisible())
-        bar()->setValue(bar()->maximum());
-    m_view->setUpdatesEnabled(m_wasEnabled);
-}
-
-void PieceAppender::append(const QString &text)
-{
-    QTextDocument *const document = m_view->document();
-    if (m_formatter)
-        m_formatter->expect(text, document->isEmpty() ? 0 : document->characterCount());
-    if (m_wasCentring || !m_view->isVisible())
-        m_view->appendPlainText(text);
-    else
-        appendUnseen(text);
-    if (m_formatter)
-        m_formatter->stopExpecting();
-}
-
-/// What appendPlainText() does, without its following of the end.
-void PieceAppender::appendUnseen(const QString &text)
-{
-    const QTextCursor own = m_view->textCursor();
-    QTextCursor cursor(m_view->document());
-    cursor.beginEditBlock();
-    cursor.movePosition(QTextCursor::End);
-    if (m_view->document()->isEmpty())
-        cursor.setCharFormat(own.charFormat());
-    else
-        cursor.insertBlock(own.blockFormat(), own.charFormat());
-    cursor.insertText(text);
-    cursor.endEditBlock();
-}
 
 /// The position just behind the next \a count line ends from \a from on; text.size() + 1 when the
 /// text has no more of them, as if one stood at its end.
