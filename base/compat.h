@@ -85,13 +85,10 @@ inline QString translateUtf8(const char *context, const char *text)
 #endif
 }
 
-/// Qt 4 notes how a view scrolls and reckons with it at the next change of the text only.
-inline void setCenterOnScroll(QPlainTextEdit *view, bool on)
+/// The plain layout of Qt 5 takes what was removed from a document for a part of what has changed.
+inline int removedCountsAsChanged()
 {
-    view->setCenterOnScroll(on);
-#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
-    QMetaObject::invokeMethod(view, "_q_adjustScrollbars", Qt::DirectConnection);
-#endif
+    return QT_VERSION >= QT_VERSION_CHECK(5, 0, 0) ? 1 : 0;
 }
 
 /// A new highlighter of Qt 4 colours the document once events are served, unless the document has

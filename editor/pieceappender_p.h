@@ -6,45 +6,137 @@
 
 #include "blockformatter_p.h"
 
-#include <QElapsedTimer>
+#include <QBasicTimer>
+#include <QByteArray>
+#include <QFont>
+#include <QObject>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QScrollBar>
 #include <QString>
+#include <QVector>
 
-/// Takes many pieces of text at the end of an editor, as appendPlainText() does, but spares it the
-/// work of being looked at between them: painting, and laying out the last page to know how far it
-/// scrolls. The editor's own state comes back on every way out. What a parent holds back is the
-/// parent's business: updatesEnabled() would report it, and it would then stick to the editor.
-class PieceAppender
+#include <functional>
+
+class QAbstractTextDocumentLayout;
+
+/// What only a view itself may ask of its base class.
+struct ViewAccess
 {
-public:
-    PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter);
-    ~PieceAppender();
+    std::function<QTextBlock()> firstVisibleBlock;
+    std::function<QPointF()> contentOffset;
+    /// Lays out what lies between the top of the view and the block, as far as two pages.
+    std::function<QRectF(const QTextBlock &block)> geometry;
+    /// Shows the line that the vertical scroll bar stands at.
+    std::function<void()> showScrolledLine;
+};
 
-    static bool isAtWorkOn(const QPlainTextEdit *view);
+/// Appends many pieces of text to an editor, as appendPlainText() does, with the same result after
+/// each: in the document, in the view, and in what their signals tell.
+///
+/// What it spares is painting, which comes every 200 ms at the most, and laying out lines to learn
+/// what is known without: that they are as high as all the others and narrower than the pane. Where
+/// that is not known, lines are laid out as the toolkit does.
+///
+/// Nothing of the view is switched off meanwhile. Two reactions of the view to its document go
+/// through this object: to scroll bars that have to fit, and to lines that have to be painted.
+class PieceAppender : public QObject
+{
+    Q_OBJECT
+
+public:
+    PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter, const ViewAccess &access);
+    ~PieceAppender() override;
 
     void append(const QString &text);
 
-    /// Serves events; the view is up to date meanwhile if the last time is long ago. False when a
-    /// receiver deleted the view.
-    bool processEvents();
+    /// Whether what asks for painting has to wait: it is painted soon, with all the rest.
+    static bool holdsPaintingOf(const QPlainTextEdit *view);
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private Q_SLOTS:
+    void adjustScrollBars();
+    void repaintContents(const QRectF &rect);
+    void noteUpdate(const QRectF &rect);
+    void settleBlockCount(int from, int removed, int added);
 
 private:
+    bool canAppend(const QString &text) const;
+    void takeReactions();
+    void giveReactionsBack();
+    void watchDocument();
+    void leaveDocument();
     void appendUnseen(const QString &text);
-    void rest();
-    void wake();
+    void insert(const QString &text);
+
+    bool isAtEnd();
+    void fitScrollBars();
+    bool fitScrollBarsByKnowledge();
+    void setRangeUnseen(QScrollBar *scrollBar, int maximum);
+    void setPageStepUnseen(QScrollBar *scrollBar, int step);
+    void followEnd();
+    bool scrollUnseen(int value);
+    bool findDistance(const QTextBlock &top, const QTextBlock &target, int *distance);
+
+    void forget();
+    void learnText(const QString &text, int revisionBefore);
+    void learnPage();
+    void layOutSkipped();
+    void layOutAhead(int added);
+    bool isCurrent() const;
+    bool isKnown(const QTextBlock &block);
+    bool areKnown(const QTextBlock &top, const QTextBlock &target, int *steps);
+    void noteLayout(int first, int last);
+    void noteLayoutFrom(int top);
+    void findWidest(int first, int last);
+    qreal documentWidth() const;
+    QRectF geometry(const QTextBlock &block);
+    qreal offsetAt(const QTextBlock &top) const;
+    bool startsAt(const QTextBlock &top) const;
+
+    void requestUpdate(const QRect &rect, int dy);
+    void paintLater();
+    void paintWindowLater();
+    void paintNow();
+
+    QTextDocument *document() const { return m_view->document(); }
     QScrollBar *bar() const { return m_view->verticalScrollBar(); }
 
     // A receiver of an event may delete the view, give it another scroll bar, or another document
     // and with it no formatter.
     QPointer<QPlainTextEdit> m_view;
     QPointer<BlockFormatter> m_formatter;
-    bool m_wasEnabled;
-    bool m_wasCentring;
-    bool m_followsEnd;
-    int m_restingValue;
-    QElapsedTimer m_time;
+    const ViewAccess m_access;
+    QPointer<QObject> m_control;        ///< whose reactions go through here
+    QPointer<QTextDocument> m_document; ///< that is watched
+    QPointer<QAbstractTextDocumentLayout> m_layout;
+    PieceAppender *m_outer;     ///< the one at work on another view, or on the same
+    QBasicTimer m_timer;        ///< runs while there is something to paint
+    QPointer<QWidget> m_window; ///< that waits with it
+    bool m_isRelaidOut;
+
+    bool m_isHolding; ///< painting
+    bool m_isInserting;
+    bool m_leavesBars; ///< as they are, until the piece is in
+    int m_blocks;      ///< before the piece
+
+    // What is known of the blocks from m_firstKnown on, to the end of the document of m_revision;
+    // of none if that is -1.
+    int m_firstKnown;
+    int m_revision;
+    QVector<int> m_widths;
+    int m_lineHeight;
+    QFont m_font;
+
+    // What the layout may take for the block with the widest line.
+    qreal m_width;          ///< of the document
+    QVector<int> m_widest;  ///< blocks as wide as that; none if no line counted so far
+    QByteArray m_passed;    ///< by the distance from the last block: 1 if it is another
+    QVector<int> m_skipped; ///< blocks that the toolkit would have laid out
+    int m_firstOfPage;      ///< of the blocks that were looked at last to fit the scroll bars
+    int m_lastOfPage;
 };
 
 #endif // PIECEAPPENDER_P_H

@@ -12,11 +12,12 @@
 #include "wfinddialog.h"
 #include "whighlighter.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
 #include <QProgressDialog>
-#include <QResizeEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTime>
 #include <QtDebug>
@@ -45,6 +46,15 @@ int behindLines(const QString &text, int from, int count)
     }
     return position;
 }
+
+#ifdef FILARIX_HAS_VIEWPORT_MARGINS
+bool isShownAsNeeded(const QScrollBar *bar, Qt::ScrollBarPolicy policy, const QWidget *view)
+{
+    const bool isNeeded = policy == Qt::ScrollBarAlwaysOn
+                          || (policy == Qt::ScrollBarAsNeeded && bar->minimum() < bar->maximum());
+    return bar->isVisibleTo(view) == isNeeded;
+}
+#endif
 
 /// Whether \a highlighter is still there. The document owns it, and a host may have set its own.
 bool isThere(const WHighlighter *highlighter, const QTextDocument *document)
@@ -203,7 +213,14 @@ void WGCodeEditer::readGCode(QString text)
     }
 
     QProgressDialog progress(QLatin1String("Load Files:"), QLatin1String("Abort check"), 0, total);
-    PieceAppender appender(this, formatterOf(highlighter, document()));
+    const ViewAccess access = {
+        [this]() { return firstVisibleBlock(); },
+        [this]() { return contentOffset(); },
+        [this](const QTextBlock &block) { return blockBoundingGeometry(block); },
+        [this]() { QPlainTextEdit::scrollContentsBy(0, 0); },
+    };
+    PieceAppender appender(this, formatterOf(highlighter, document()), access);
+    const QPointer<WGCodeEditer> self(this);
     int position = 0;
     int from = 0;
     Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
@@ -222,7 +239,8 @@ void WGCodeEditer::readGCode(QString text)
             appender.append(result);
         position += n;
         progress.setValue(position);
-        if (!appender.processEvents() || progress.wasCanceled())
+        QCoreApplication::processEvents();
+        if (!self || progress.wasCanceled())
             break;
     }
     qDebug() << "Elapsed:" << time.elapsed();
@@ -296,9 +314,11 @@ void WGCodeEditer::updateLineNumberAreaWidth(int)
 {
     const QMargins margins(lineNumberAreaWidth(), 0, 0, 0);
 #ifdef FILARIX_HAS_VIEWPORT_MARGINS
-    // Equal ones lay the scroll area out as well, and a scroll bar that is due appears at once. It
-    // can wait until a program is in.
-    if (PieceAppender::isAtWorkOn(this) && viewportMargins() == margins)
+    // Setting them lays the whole scroll area out again, at every full update of the view. That
+    // changes something where a scroll bar is still to come or go: then at once, not in its turn.
+    if (viewportMargins() == margins
+        && isShownAsNeeded(horizontalScrollBar(), horizontalScrollBarPolicy(), this)
+        && isShownAsNeeded(verticalScrollBar(), verticalScrollBarPolicy(), this))
         return;
 #endif
     setViewportMargins(margins);
@@ -320,7 +340,9 @@ void WGCodeEditer::highlightCurrentLine()
 
 void WGCodeEditer::updateLineNumberArea(QRect rect, int dy)
 {
-    if (dy != 0)
+    if (PieceAppender::holdsPaintingOf(this))
+        ; // it is painted with all the rest
+    else if (dy != 0)
         lineNumberArea->scroll(0, dy);
     else
         lineNumberArea->update(0, rect.y(), lineNumberArea->width(), rect.height());
@@ -424,15 +446,7 @@ void WGCodeEditer::mouseDoubleClickEvent(QMouseEvent *event)
 
 void WGCodeEditer::resizeEvent(QResizeEvent *event)
 {
-    const QSize size = event->size();
-    if (PieceAppender::isAtWorkOn(this) && lineWrapMode() == NoWrap) {
-        // The gutter gets wider as a program goes in. To the base class a new width means to lay
-        // every line out anew; without wrapping the width is of no account to a line.
-        QResizeEvent sameWidth(size, QSize(size.width(), event->oldSize().height()));
-        QPlainTextEdit::resizeEvent(&sameWidth);
-    } else {
-        QPlainTextEdit::resizeEvent(event);
-    }
+    QPlainTextEdit::resizeEvent(event);
     const QRect area = contentsRect();
     lineNumberArea->setGeometry(area.left(), area.top(), lineNumberAreaWidth(), area.height());
 }

@@ -19,6 +19,7 @@
 #include <QTextCodec>
 #include <QTranslator>
 #include <QVector>
+#include <QWheelEvent>
 #include <QWidget>
 #if defined(Q_WS_QWS)
 #include <QWSServer>
@@ -132,6 +133,19 @@ inline QImage screen()
 #else
     return QPixmap::grabWindow(QApplication::desktop()->winId()).toImage();
 #endif
+}
+
+/// Turns the wheel over the middle of \a widget, a notch of 120 away from the user if positive.
+inline void turnWheel(QWidget *widget, int delta)
+{
+    const QPoint middle = widget->rect().center();
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    QWheelEvent event(middle, widget->mapToGlobal(middle), QPoint(), QPoint(0, delta), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+#else
+    QWheelEvent event(middle, widget->mapToGlobal(middle), delta, Qt::NoButton, Qt::NoModifier);
+#endif
+    QApplication::sendEvent(widget, &event);
 }
 
 inline QHeaderView::ResizeMode sectionResizeMode(const QHeaderView *header, int section)
