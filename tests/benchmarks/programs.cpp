@@ -22,10 +22,21 @@ const int million = 1000000;
 
 // Loading
 
-void measureLoad(Report &report, int lines, int rounds)
+const char narrowLoad[] = "load";
+const char wideLoad[] = "load, some lines wide";
+
+/// Each 500th line is wider than the pane.
+QString widened(const QString &program)
 {
-    const QString work = QLatin1String("load");
-    const QString text = sampleProgram(lines);
+    QStringList lines = program.split(QLatin1Char('\n'));
+    for (int i = 500; i < lines.size(); i += 500)
+        lines[i] = QString(lines.at(i) + QLatin1Char(' ')).repeated(4);
+    return lines.join(QLatin1String("\n"));
+}
+
+void measureLoad(Report &report, const char *name, const QString &text, int lines, int rounds)
+{
+    const QString work = QLatin1String(name);
     Contest contest(work, lines);
     Q_FOREACH (const QString &name, editors()) {
         contest.add(name, [name, &text]() {
@@ -40,9 +51,18 @@ void measureLoad(Report &report, int lines, int rounds)
     contest.run(report, rounds, lines < million);
 }
 
+void compareWideLoads(Report &report)
+{
+    const QString work = QLatin1String(wideLoad);
+    for (const int lines : {2000, 10000, 100000, million}) {
+        report.compare(work, lines, shipped, lines, floor);
+        report.compare(work, lines, shipped, lines, plain);
+    }
+}
+
 void compareLoads(Report &report)
 {
-    const QString work = QLatin1String("load");
+    const QString work = QLatin1String(narrowLoad);
     const struct
     {
         int lines;
@@ -256,12 +276,20 @@ private:
 
 void measureLoads(Report &report, const Extent &extent)
 {
-    measureLoad(report, 2000, 15);
-    measureLoad(report, 10000, 11);
-    measureLoad(report, 100000, 7);
-    if (!extent.isQuick)
-        measureLoad(report, million, 3);
+    const struct
+    {
+        int lines;
+        int rounds;
+    } sizes[] = {{2000, 15}, {10000, 11}, {100000, 7}, {million, 3}};
+    for (const auto &size : sizes) {
+        if (extent.isQuick && size.lines == million)
+            continue;
+        const QString text = sampleProgram(size.lines);
+        measureLoad(report, narrowLoad, text, size.lines, size.rounds);
+        measureLoad(report, wideLoad, widened(text), size.lines, size.rounds);
+    }
     compareLoads(report);
+    compareWideLoads(report);
     const int largest = extent.isQuick ? 100000 : million;
     measureGap(report, largest, 3);
     measureRehighlight(report, largest, 3);
