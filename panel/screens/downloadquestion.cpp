@@ -5,7 +5,6 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
-#include "programs/programsnapshot.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -45,50 +44,34 @@ void showValue(QLabel *label, const QString &text, int room, bool mayBreak)
 
 } // namespace
 
-DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines, QWidget *parent)
-    : Dialog(parent)
+DownloadQuestion::DownloadQuestion(const Question &question, QWidget *parent) : Dialog(parent)
 {
-    setTitle(tr("Download"));
+    setTitle(question.title);
     QGridLayout *grid = new QGridLayout(this);
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setHorizontalSpacing(gap);
-    QLabel *heading = new QLabel(tr("Send this program to the PLC?"));
+    QLabel *heading = new QLabel(question.text);
     heading->setFont(sized(heading->font(), titlePixels));
     heading->setWordWrap(true);
     grid->addWidget(heading, 0, 0, 1, 2);
 
-    const struct
-    {
-        const char *objectName;
-        QString heading;
-        QString value;
-        bool mayBreak;
-    } lines[] = {
-        {"name", tr("Program"), facts.name.simplified(), false},
-        {"lines", tr("Lines"),
-         shownLines < 0 || shownLines == facts.lines
-             ? QString::number(facts.lines)
-             : tr("%1 in the file, %2 shown").arg(facts.lines).arg(shownLines),
-         true},
-        {"checksum", tr("Checksum"), facts.checksum(), false},
-    };
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
     const QSize size = roomy.boundedTo(panel - QSize(8, 8));
     // A narrow panel has the values below their headings.
     const bool isNarrow = panel.width() < FilarixPanel::smallBelow;
     int room = size.width() - 2 * margin - gap;
-    for (const auto &line : lines) {
+    for (const QuestionFact &fact : question.facts) {
         if (!isNarrow)
             room = qMin(room, size.width() - 2 * margin - gap
-                                  - fontMetrics().horizontalAdvance(line.heading) - 4);
+                                  - fontMetrics().horizontalAdvance(fact.heading) - 4);
     }
-    for (const auto &line : lines) {
+    for (const QuestionFact &fact : question.facts) {
         const int row = grid->rowCount();
         QLabel *value = new QLabel;
-        value->setObjectName(QLatin1String(line.objectName));
+        value->setObjectName(fact.key);
         value->setTextFormat(Qt::PlainText);
-        showValue(value, line.value, room, line.mayBreak);
-        grid->addWidget(new QLabel(line.heading), row, 0);
+        showValue(value, fact.value, room, fact.mayBreak);
+        grid->addWidget(new QLabel(fact.heading), row, 0);
         if (isNarrow)
             grid->addWidget(value, row + 1, 0, 1, 2);
         else
@@ -96,9 +79,9 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
     }
     grid->setColumnStretch(1, 1);
 
-    QPushButton *send = new QPushButton(tr("Send"));
+    QPushButton *send = new QPushButton(question.answers.at(1));
     send->setObjectName(QLatin1String("send"));
-    QPushButton *cancel = new QPushButton(tr("Cancel"));
+    QPushButton *cancel = new QPushButton(question.answers.at(0));
     cancel->setObjectName(QLatin1String("cancel"));
     // A press on Return that was meant for something else must not move the machine.
     send->setAutoDefault(false);
@@ -117,4 +100,12 @@ DownloadQuestion::DownloadQuestion(const ProgramFacts &facts, qint64 shownLines,
 
     const int height = qMax(size.height(), grid->heightForWidth(size.width()));
     resize(size.width(), qMin(height, panel.height() - 8));
+}
+
+int DownloadQuestioner::ask(const Question &question)
+{
+    if (question.facts.isEmpty())
+        return DialogQuestioner::ask(question);
+    DownloadQuestion dialog(question);
+    return dialog.exec() == QDialog::Accepted ? 1 : 0;
 }

@@ -5,20 +5,25 @@
 #define DOWNLOADQUESTION_H
 
 #include "dialog.h"
+#include "shell/questiondialog.h"
 
-struct ProgramFacts;
-
-/// Asks whether this very program is to go to the machine: its name, how long it is, and a checksum
-/// that can be held next to the one of another panel or PC. Accepted when it is.
+/// A question of two answers, with facts to compare by eye: whether this very program is to go to
+/// the machine. The facts are its name, its length and a checksum that can be held next to the one
+/// of another panel or PC. Accepted by the second answer.
 class DownloadQuestion : public Dialog
 {
     Q_OBJECT
 
 public:
-    /// \a shownLines are in the editor; -1 when the program isn't there. Both numbers are shown
-    /// when they differ.
-    explicit DownloadQuestion(const ProgramFacts &facts, qint64 shownLines = -1,
-                              QWidget *parent = nullptr);
+    /// The facts' values stand in labels with their keys as object names.
+    explicit DownloadQuestion(const Question &question, QWidget *parent = nullptr);
+};
+
+/// Asks by DownloadQuestions where there are facts, and by QuestionDialogs elsewhere.
+class DownloadQuestioner : public DialogQuestioner
+{
+public:
+    int ask(const Question &question) override;
 };
 
 #endif // DOWNLOADQUESTION_H

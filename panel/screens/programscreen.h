@@ -4,13 +4,12 @@
 #ifndef PROGRAMSCREEN_H
 #define PROGRAMSCREEN_H
 
-#include "programs/programsnapshot.h"
 #include "shell/panelscreen.h"
 
-#include <QElapsedTimer>
 #include <QScopedPointer>
 #include <QSet>
 
+class CheckedDownload;
 class MachineData;
 class PlcTransfer;
 class ProgramGuard;
@@ -23,12 +22,9 @@ class WMMainWindow;
 
 /// The G-code screen: the library's window as a host uses it.
 ///
-/// The host's part is the download, the line that Tag copies, the modified mark, keys for what no
-/// bar of the window holds, and a ProgramGuard, whose word on the program stays in view above it.
-///
-/// A download goes in three steps, each beside the event loop: a private copy of the program is
-/// taken, the operator is asked whether it is the right one, and the copy is sent. In the end the
-/// operator is told if the program itself has become another one meanwhile.
+/// The host's part is a CheckedDownload, the line that Tag copies, the modified mark, keys for what
+/// no bar of the window holds, and a ProgramGuard, whose word on the program stays in view above
+/// the window.
 class ProgramScreen : public PanelScreen
 {
     Q_OBJECT
@@ -52,8 +48,8 @@ public:
     /// The library's window.
     WMMainWindow *programWindow() const { return m_window; }
     WGCodeEditer *editor() const { return m_editor; }
-    PlcTransfer *transfer() const { return m_transfer; }
-    ProgramSnapshot *snapshot() const { return m_snapshot; }
+    CheckedDownload *download() const { return m_download; }
+    PlcTransfer *transfer() const;
     ProgramGuard *guard() const { return m_guard; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -65,14 +61,6 @@ protected:
     void retranslate() override;
 
 private:
-    void startDownload(const QString &path);
-    void askForDownload();
-    void showCopying(int percent);
-    void showSending(int percent);
-    void endSent(ProgramSnapshot::Verdict verdict);
-    void endFailed(const QString &reason);
-    void endStopped(const QString &text);
-    void endDownload(const QString &text, Message::Tone tone, const QString &cause = QString());
     void insertTaughtPoint();
     void find();
     void showState();
@@ -83,12 +71,10 @@ private:
     QSet<QToolButton *> m_spareButtons;
     WMMainWindow *m_window;
     WGCodeEditer *m_editor;
-    PlcTransfer *m_transfer;
-    ProgramSnapshot *m_snapshot;
     const QScopedPointer<Questioner> m_questioner;
+    CheckedDownload *m_download;
     ProgramGuard *m_guard;
     StateLine *m_stateLine;
-    QElapsedTimer m_copyingFor;
 };
 
 #endif // PROGRAMSCREEN_H

@@ -4,6 +4,7 @@
 #ifndef DEVICECAUSES_H
 #define DEVICECAUSES_H
 
+#include "programs/checkeddownload.h"
 #include "stick/devicewatch.h"
 
 /// Tells from the state of the devices when what a message was about is over.
@@ -18,7 +19,7 @@ public:
     using QObject::QObject;
 
     /// The PLC fails or is away: over when it answers again.
-    static QString plc() { return QStringLiteral("plc"); }
+    static QString plc() { return CheckedDownload::plcCause(); }
     /// The stick that is in, or the lack of one: over when a stick comes or goes.
     static QString stick() { return QStringLiteral("stick"); }
     /// The programs' file system is full, or nearly: over when it has more room again.

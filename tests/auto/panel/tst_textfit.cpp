@@ -6,7 +6,7 @@
 #include "filarixtest.h"
 #include "look/look.h"
 #include "panelprogram.h"
-#include "programs/programsnapshot.h"
+#include "programs/downloadfacts.h"
 #include "programs/programstate.h"
 #include "screens/downloadquestion.h"
 #include "shell/messagedialog.h"
@@ -219,14 +219,24 @@ void TestTextFit::measureDialogs(const Measure &measure)
     measureBoxes(measure);
     measureMessages(measure);
 
-    ProgramFacts facts;
-    facts.name = QLatin1String(programName);
-    facts.lines = 1000620;
-    facts.hash = QByteArray(32, '\x5a');
-    DownloadQuestion download(facts, 1000501);
+    DownloadFacts facts;
+    facts.program.name = QLatin1String(programName);
+    facts.program.lines = 1000620;
+    facts.program.hash = QByteArray(32, '\x5a');
+    facts.standing = DownloadFacts::Cleaned;
+    facts.shownLines = 1000501;
+    DownloadQuestion download(facts.question());
     show(&download, "download with two numbers", measure);
     const QString lines = download.findChild<QLabel *>("lines")->text();
     QVERIFY2(lines.contains("1000620") && lines.contains("1000501"), qPrintable(lines));
+    facts.shownLines = facts.program.lines;
+    for (const DownloadFacts::Standing standing :
+         {DownloadFacts::Cleaned, DownloadFacts::Different, DownloadFacts::NotCompared}) {
+        facts.standing = standing;
+        DownloadQuestion other(facts.question());
+        show(&other, "download of what is shown otherwise", measure);
+        QVERIFY(other.findChild<QLabel *>("lines")->text() != QString::number(facts.shownLines));
+    }
 }
 
 void TestTextFit::measureQuestions(const Measure &measure)

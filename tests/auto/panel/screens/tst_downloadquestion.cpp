@@ -3,7 +3,8 @@
 
 #include "filarixtest.h"
 #include "look/panelstyle.h"
-#include "programs/programsnapshot.h"
+#include "modaldriver.h"
+#include "programs/downloadfacts.h"
 #include "screens/downloadquestion.h"
 
 #include <QGuiApplication>
@@ -23,15 +24,16 @@ private Q_SLOTS:
     void returnDoesNotSend();
     void longNamesAreToldApartByTheirEnds();
     void keysAreForThumbs();
+    void questionerAsksByThem();
 };
 
-static ProgramFacts facts(const QString &name = "coil.cnc")
+static Question asked(const QString &name = "coil.cnc")
 {
-    ProgramFacts facts;
-    facts.name = name;
-    facts.lines = 20000;
-    facts.hash = QByteArray::fromHex("3f2a91c0ffff");
-    return facts;
+    DownloadFacts facts;
+    facts.program.name = name;
+    facts.program.lines = 20000;
+    facts.program.hash = QByteArray::fromHex("3f2a91c0ffff");
+    return facts.question();
 }
 
 static QString text(const DownloadQuestion &question, const char *name)
@@ -46,7 +48,7 @@ void TestDownloadQuestion::initTestCase()
 
 void TestDownloadQuestion::showsWhatAProgramIsToldBy()
 {
-    const DownloadQuestion question(facts());
+    const DownloadQuestion question(asked());
     QCOMPARE(text(question, "name"), QString("coil.cnc"));
     QCOMPARE(text(question, "lines"), QString("20000"));
     QCOMPARE(text(question, "checksum"), QString("3F2A 91C0"));
@@ -63,7 +65,7 @@ void TestDownloadQuestion::keysAnswer_data()
 void TestDownloadQuestion::keysAnswer()
 {
     QFETCH(QString, key);
-    DownloadQuestion question(facts());
+    DownloadQuestion question(asked());
     question.show();
     QTest::mouseClick(question.findChild<QPushButton *>(key), Qt::LeftButton);
     QVERIFY(!question.isVisible());
@@ -72,7 +74,7 @@ void TestDownloadQuestion::keysAnswer()
 
 void TestDownloadQuestion::returnDoesNotSend()
 {
-    DownloadQuestion question(facts());
+    DownloadQuestion question(asked());
     question.show();
     QTest::keyClick(&question, Qt::Key_Return);
     QCOMPARE(question.result(), int(QDialog::Rejected));
@@ -81,8 +83,8 @@ void TestDownloadQuestion::returnDoesNotSend()
 void TestDownloadQuestion::longNamesAreToldApartByTheirEnds()
 {
     const QString name = QString("a").repeated(120);
-    const DownloadQuestion first(facts(name + "-1.cnc"));
-    const DownloadQuestion second(facts(name + "-2.cnc"));
+    const DownloadQuestion first(asked(name + "-1.cnc"));
+    const DownloadQuestion second(asked(name + "-2.cnc"));
     QVERIFY(text(first, "name").endsWith("-1.cnc"));
     QVERIFY(text(second, "name").endsWith("-2.cnc"));
     QVERIFY(first.sizeHint().width() <= QGuiApplication::primaryScreen()->size().width());
@@ -90,7 +92,7 @@ void TestDownloadQuestion::longNamesAreToldApartByTheirEnds()
 
 void TestDownloadQuestion::keysAreForThumbs()
 {
-    DownloadQuestion question(facts());
+    DownloadQuestion question(asked());
     // As small as on the smallest panel.
     question.resize(472, 264);
     question.show();
@@ -107,6 +109,30 @@ void TestDownloadQuestion::keysAreForThumbs()
         QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
         QVERIFY2(label->height() >= label->fontMetrics().height(), qPrintable(label->text()));
     }
+}
+
+void TestDownloadQuestion::questionerAsksByThem()
+{
+    DownloadQuestioner questioner;
+    ModalDriver driver;
+    for (const char *key : {"send", "cancel"}) {
+        driver.then([key](QWidget *dialog) {
+            QVERIFY(qobject_cast<DownloadQuestion *>(dialog));
+            QTest::mouseClick(dialog->findChild<QPushButton *>(key), Qt::LeftButton);
+        });
+    }
+    QCOMPARE(questioner.ask(asked()), 1);
+    QCOMPARE(questioner.ask(asked()), 0);
+    // One that is closed by something else is answered harmlessly.
+    driver.reject();
+    QCOMPARE(questioner.ask(asked()), 0);
+    // Without facts it is any other question.
+    driver.then([](QWidget *dialog) {
+        QVERIFY(qobject_cast<QuestionDialog *>(dialog));
+        QTest::mouseClick(dialog->findChild<QPushButton *>("answer2"), Qt::LeftButton);
+    });
+    QCOMPARE(questioner.ask({"Save", "Save it?", {"No", "Yes", "Elsewhere"}}), 2);
+    QVERIFY2(driver.finished(), driver.report());
 }
 
 FILARIX_TEST_MAIN(TestDownloadQuestion)

@@ -6,8 +6,7 @@
 #include "guards/programguard.h"
 #include "look/panelkey.h"
 #include "modaldriver.h"
-#include "programs/plctransfer.h"
-#include "programs/programsnapshot.h"
+#include "programs/checkeddownload.h"
 #include "screens/machinedata.h"
 #include "screens/programscreen.h"
 #include "shell/messagelog.h"
@@ -24,10 +23,6 @@
 #include <QToolButton>
 #include <QWindow>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 class TestProgramScreen : public FilarixTest
 {
     Q_OBJECT
@@ -40,12 +35,8 @@ private Q_SLOTS:
     void failedDownloadGivesTheKeyBack();
     void messageOfThePlcEndsWithADownload();
     void stoppedDownloadGivesTheKeyBack();
-    void stopBeforeTheComparisonWarnsUntilADownloadIsCompared();
     void questionShowsWhatIsOnTheDisk();
     void refusedDownloadSendsNothing();
-    void whatWasShownIsSent_data();
-    void whatWasShownIsSent();
-    void stalledDownloadGivesTheKeyBack();
     void modifiedMarkFollowsTheDocument();
     void tagInsertsWhatIsNotInForce();
     void tagTellsWhenNothingIsLeft();
@@ -58,6 +49,7 @@ private Q_SLOTS:
     void undoKeyIsOffAfterOpening();
     void stateStaysInView();
     void questionShowsBothNumbers();
+    void questionTellsOfOtherLines();
     void partIsSentByNoWay();
 
 private:
@@ -220,34 +212,7 @@ void TestProgramScreen::stoppedDownloadGivesTheKeyBack()
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(!window->isDownloading());
     QVERIFY(!QFileInfo(m_plc + "/coil.cnc").exists());
-    QVERIFY(!QFileInfo(m_screen->snapshot()->copyPath()).exists());
-}
-
-void TestProgramScreen::stopBeforeTheComparisonWarnsUntilADownloadIsCompared()
-{
-    writeFile(programDir() + "/coil.cnc", QByteArray(50 * PlcTransfer::pieceBytes, 'X'));
-    WMMainWindow *window = m_screen->programWindow();
-    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
-    QSignalSpy ends(m_screen, SIGNAL(causeEnded(QString)));
-    const auto stopping =
-        connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, [this](int percent) {
-            if (percent >= 60)
-                m_screen->stopWork();
-        });
-    ModalDriver driver;
-    answer(&driver, "send");
-    Q_EMIT window->signal_download(programDir() + "/coil.cnc");
-    QTRY_COMPARE(told.size(), 1);
-    QCOMPARE(told.first().at(1).value<Message::Tone>(), Message::Warning);
-    QCOMPARE(told.first().at(2).toString(), QString("plc"));
-    QCOMPARE(ends.size(), 0);
-    disconnect(stopping);
-    answer(&driver, "send");
-    Q_EMIT window->signal_download(programDir() + "/coil.cnc");
-    QTRY_COMPARE(told.size(), 2);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(ends.size(), 1);
-    QCOMPARE(ends.first().first().toString(), QString("plc"));
+    QVERIFY(!QFileInfo(m_screen->download()->snapshot()->copyPath()).exists());
 }
 
 void TestProgramScreen::questionShowsWhatIsOnTheDisk()
@@ -283,73 +248,7 @@ void TestProgramScreen::refusedDownloadSendsNothing()
     QVERIFY(told.at(0).at(0).toString().contains("Nothing was sent"));
     QVERIFY(button("D/L")->isEnabled());
     QVERIFY(QDir(m_plc).entryList(QDir::Files | QDir::Hidden).isEmpty());
-    QVERIFY(!QFileInfo(m_screen->snapshot()->copyPath()).exists());
-}
-
-void TestProgramScreen::whatWasShownIsSent_data()
-{
-    QTest::addColumn<bool>("duringTheQuestion");
-    QTest::addColumn<bool>("isRemoved");
-    QTest::addColumn<QString>("word");
-    QTest::newRow("saved again during the question") << true << false << "has changed";
-    QTest::newRow("removed during the question") << true << true << "is gone";
-    QTest::newRow("saved again during the transfer") << false << false << "has changed";
-    QTest::newRow("removed during the transfer") << false << true << "is gone";
-}
-
-void TestProgramScreen::whatWasShownIsSent()
-{
-    QFETCH(bool, duringTheQuestion);
-    QFETCH(bool, isRemoved);
-    QFETCH(QString, word);
-    const QString path = programDir() + "/coil.cnc";
-    const QByteArray bytes = QByteArray("G01 X1\n").repeated(20000);
-    writeFile(path, bytes);
-    const auto touch = [&] {
-        if (isRemoved)
-            QFile::remove(path);
-        else
-            writeFile(path, "another\n");
-    };
-    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
-    if (!duringTheQuestion)
-        connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, touch);
-    ModalDriver driver;
-    driver.then([&](QWidget *dialog) {
-        if (duringTheQuestion)
-            touch();
-        QTest::mouseClick(dialog->findChild<QPushButton *>("send"), Qt::LeftButton);
-    });
-    Q_EMIT m_screen->programWindow()->signal_download(path);
-    QTRY_COMPARE(told.size(), 1);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(readFile(m_plc + "/coil.cnc"), bytes);
-    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
-    QVERIFY2(told.at(0).at(0).toString().contains(word), qPrintable(told.at(0).at(0).toString()));
-    QVERIFY(button("D/L")->isEnabled());
-}
-
-void TestProgramScreen::stalledDownloadGivesTheKeyBack()
-{
-    // A PLC whose folder hangs when what arrived is opened: nobody writes into the pipe.
-    writeFile(programDir() + "/coil.cnc", "G01\n");
-    const QString target = m_plc + "/coil.cnc";
-    const QByteArray pipe = QFile::encodeName(target);
-    m_screen->transfer()->setStallTime(200);
-    connect(m_screen->transfer(), &PlcTransfer::progress, m_screen, [&](int) {
-        if (QFileInfo(target).isFile() && QFile::remove(target))
-            ::mkfifo(pipe.constData(), 0600);
-    });
-    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone)));
-    ModalDriver driver;
-    answer(&driver, "send");
-    Q_EMIT m_screen->programWindow()->signal_download(programDir() + "/coil.cnc");
-    QTRY_COMPARE(told.size(), 1);
-    QVERIFY2(driver.finished(), driver.report());
-    QVERIFY(button("D/L")->isEnabled());
-    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
-    QVERIFY(told.at(0).at(0).toString().contains("Check the PLC"));
-    ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK));
+    QVERIFY(!QFileInfo(m_screen->download()->snapshot()->copyPath()).exists());
 }
 
 void TestProgramScreen::modifiedMarkFollowsTheDocument()
@@ -502,6 +401,22 @@ void TestProgramScreen::questionShowsBothNumbers()
     });
     QTest::mouseClick(button("D/L"), Qt::LeftButton);
     QTRY_COMPARE(lines, QString("602 in the file, 600 shown"));
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+// As many lines, and yet another program than the one on the screen.
+void TestProgramScreen::questionTellsOfOtherLines()
+{
+    open("coil.cnc", "G01\nG02\n");
+    writeFile(programDir() + "/coil.cnc", "G01\nG03\n");
+    QString lines;
+    ModalDriver driver;
+    driver.then([&](QWidget *dialog) {
+        lines = dialog->findChild<QLabel *>("lines")->text();
+        dialog->close();
+    });
+    QTest::mouseClick(button("D/L"), Qt::LeftButton);
+    QTRY_COMPARE(lines, QString("3 in the file, others shown"));
     QVERIFY2(driver.finished(), driver.report());
 }
 
