@@ -38,6 +38,17 @@
 #define QTRY_VERIFY(expression) QTRY_VERIFY_WITH_TIMEOUT(expression, 5000)
 #endif
 
+#ifndef QTRY_VERIFY2_WITH_TIMEOUT
+#define QTRY_VERIFY2_WITH_TIMEOUT(expression, description, timeout)                                \
+    do {                                                                                           \
+        for (int waited = 0; !(expression) && waited < (timeout); waited += 10)                    \
+            QTest::qWait(10);                                                                      \
+        QVERIFY2(expression, description);                                                         \
+    } while (0)
+#define QTRY_VERIFY2(expression, description)                                                      \
+    QTRY_VERIFY2_WITH_TIMEOUT(expression, description, 5000)
+#endif
+
 #ifndef QTRY_COMPARE_WITH_TIMEOUT
 #define QTRY_COMPARE_WITH_TIMEOUT(expression, expected, timeout)                                   \
     do {                                                                                           \

@@ -700,8 +700,10 @@ void TestProgramGuard::saveOverAFileThatHasChangedAsks_data()
     QTest::addColumn<bool>("isReplaced");
     QTest::addColumn<int>("answer");
     for (bool isReplaced : {false, true}) {
-        QTest::addRow("cancel, %d", isReplaced) << isReplaced << 0;
-        QTest::addRow("as shown, %d", isReplaced) << isReplaced << 1;
+        QTest::newRow(isReplaced ? "cancel, another file" : "cancel, the same file")
+            << isReplaced << 0;
+        QTest::newRow(isReplaced ? "as shown, another file" : "as shown, the same file")
+            << isReplaced << 1;
     }
 }
 
@@ -845,6 +847,7 @@ void TestProgramGuard::bareNameGetsASuffixProposed()
     ModalDriver driver;
     driver.then([this](QWidget *dialog) {
         QLineEdit *field = dialog->findChild<QLineEdit *>();
+        QTRY_COMPARE(field->text(), QString("program.cnc"));
         pick(dialog, "rotor");
         QTRY_COMPARE(field->text(), QString("rotor.cnc"));
         QVERIFY(dialog->isVisible());
@@ -857,6 +860,7 @@ void TestProgramGuard::bareNameGetsASuffixProposed()
     QTRY_VERIFY(wasTold("rotor saved", Message::Information));
     QVERIFY2(driver.finished(), driver.report());
     driver.then([this](QWidget *dialog) {
+        QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("rotor"));
         pick(dialog, "stator");
         QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("stator.cnc"));
         QTest::keyClick(dialog->findChild<QLineEdit *>(), Qt::Key_Return);

@@ -17,6 +17,8 @@
 #include <QSignalSpy>
 
 Q_DECLARE_METATYPE(WindowDialogs::Picker)
+Q_DECLARE_METATYPE(QDialog *)
+Q_DECLARE_METATYPE(QMessageBox *)
 
 class TestWindowDialogs : public FilarixTest
 {

@@ -60,9 +60,9 @@ static QByteArray contentOf(const ProgramVersion &version)
                                                                        : QByteArray();
 }
 
-static QByteArrayList contents(const HistoryStore &store)
+static QList<QByteArray> contents(const HistoryStore &store)
 {
-    QByteArrayList all;
+    QList<QByteArray> all;
     const QList<ProgramVersion> versions = store.versions();
     for (const ProgramVersion &version : versions)
         all.append(contentOf(version));
@@ -98,10 +98,10 @@ void TestHistoryStore::versionsOfAProgramAreKept()
     QCOMPARE(put(&store, "other.cnc", "two\n"), HistoryStore::Stored);
     // Back to what it was is a version again: the last one is what the program is.
     QCOMPARE(put(&store, "coil.cnc", "one\n"), HistoryStore::Stored);
-    QCOMPARE(contents(store), QByteArrayList() << "one\n"
-                                               << "two\n"
-                                               << "two\n"
-                                               << "one\n");
+    QCOMPARE(contents(store), QList<QByteArray>() << "one\n"
+                                                  << "two\n"
+                                                  << "two\n"
+                                                  << "one\n");
     const ProgramVersion version = store.versions().at(2);
     QCOMPARE(version.name, QString("other.cnc"));
     QCOMPARE(version.bytes, qint64(4));
@@ -161,7 +161,7 @@ void TestHistoryStore::fileThatWasJustWrittenWaits()
     QVERIFY(!store.holds(path));
     QTRY_VERIFY(store.store(path, &error) != HistoryStore::Restless);
     QVERIFY(store.holds(path));
-    QCOMPARE(contents(store), QByteArrayList() << "half of i");
+    QCOMPARE(contents(store), QList<QByteArray>() << "half of i");
     QVERIFY(store.holds(programDir() + "/none.cnc"));
 }
 
@@ -214,8 +214,8 @@ void TestHistoryStore::orderIsThatOfStoringWhateverTheClock()
     writeFile(path, bytes);
     HistoryStore again(m_folder, HistoryStore::Limits());
     QVERIFY(again.open(&error));
-    QCOMPARE(contents(again), QByteArrayList() << "one"
-                                               << "two");
+    QCOMPARE(contents(again), QList<QByteArray>() << "one"
+                                                  << "two");
     QCOMPARE(again.versions().first().stored.date().year(), 2126);
 }
 
@@ -228,9 +228,9 @@ void TestHistoryStore::countIsBounded()
     QVERIFY(store.open(&error));
     for (const char *bytes : {"1", "2", "3", "4", "5"})
         QCOMPARE(put(&store, "coil.cnc", bytes), HistoryStore::Stored);
-    QCOMPARE(contents(store), QByteArrayList() << "3"
-                                               << "4"
-                                               << "5");
+    QCOMPARE(contents(store), QList<QByteArray>() << "3"
+                                                  << "4"
+                                                  << "5");
     QCOMPARE(QDir(m_folder).entryList(QDir::Files | QDir::Hidden).size(), 3);
 }
 
@@ -263,16 +263,16 @@ void TestHistoryStore::newestOfEachNameOutlivesTheCount()
     for (const char *name : {"a.cnc", "b.cnc", "c.cnc", "d.cnc"})
         QCOMPARE(put(&store, name, name), HistoryStore::Stored);
     // More names than versions: none is lost.
-    QCOMPARE(contents(store), QByteArrayList() << "a.cnc"
-                                               << "b.cnc"
-                                               << "c.cnc"
-                                               << "d.cnc");
+    QCOMPARE(contents(store), QList<QByteArray>() << "a.cnc"
+                                                  << "b.cnc"
+                                                  << "c.cnc"
+                                                  << "d.cnc");
     // Another version of one of them takes the place of its own last.
     QCOMPARE(put(&store, "d.cnc", "changed"), HistoryStore::Stored);
-    QCOMPARE(contents(store), QByteArrayList() << "a.cnc"
-                                               << "b.cnc"
-                                               << "c.cnc"
-                                               << "changed");
+    QCOMPARE(contents(store), QList<QByteArray>() << "a.cnc"
+                                                  << "b.cnc"
+                                                  << "c.cnc"
+                                                  << "changed");
 }
 
 void TestHistoryStore::newestGoesWhenTheBytesAskForIt()
@@ -284,7 +284,7 @@ void TestHistoryStore::newestGoesWhenTheBytesAskForIt()
     QVERIFY(store.open(&error));
     for (const char *name : {"a.cnc", "b.cnc", "c.cnc"})
         QCOMPARE(put(&store, name, QByteArray(400, *name)), HistoryStore::Stored);
-    QCOMPARE(contents(store), QByteArrayList() << QByteArray(400, 'b') << QByteArray(400, 'c'));
+    QCOMPARE(contents(store), QList<QByteArray>() << QByteArray(400, 'b') << QByteArray(400, 'c'));
 }
 
 void TestHistoryStore::tooLargeProgramIsNeverKnown()
@@ -327,7 +327,7 @@ void TestHistoryStore::whatIsNoVersionIsLeftAlone()
     writeFile(m_folder + "/0000000007.version", QByteArray(whole).replace("\nsha256", "\nsha255"));
     HistoryStore store(m_folder, HistoryStore::Limits());
     QVERIFY(store.open(&error));
-    QCOMPARE(contents(store), QByteArrayList() << "one\n");
+    QCOMPARE(contents(store), QList<QByteArray>() << "one\n");
     QCOMPARE(QDir(m_folder).entryList(QDir::Files).size(), 8);
     // And is not written over.
     QCOMPARE(put(&store, "coil.cnc", "two\n"), HistoryStore::Stored);
@@ -420,12 +420,12 @@ static int saveForEver(const QString &folder, const QString &path)
 
 /// Lets that program run until it has reported \a reports versions, kills it some microseconds
 /// later, and gives back all that it had reported.
-static QByteArrayList reportsUntilTheKill(const QString &folder, const QString &path, int reports,
-                                          unsigned microseconds)
+static QList<QByteArray> reportsUntilTheKill(const QString &folder, const QString &path,
+                                             int reports, unsigned microseconds)
 {
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0)
-        return QByteArrayList();
+        return QList<QByteArray>();
     const pid_t child = ::fork();
     if (child == 0) {
         ::dup2(ends[1], STDOUT_FILENO);
@@ -446,7 +446,7 @@ static QByteArrayList reportsUntilTheKill(const QString &folder, const QString &
             all.append(buffer, int(count));
     }
     ::close(ends[0]);
-    QByteArrayList lines = all.split('\n');
+    QList<QByteArray> lines = all.split('\n');
     lines.removeLast();
     return lines;
 }
@@ -454,12 +454,12 @@ static QByteArrayList reportsUntilTheKill(const QString &folder, const QString &
 void TestHistoryStore::killLosesNoVersionThatWasReported()
 {
     const QString path = programDir() + "/coil.cnc";
-    QByteArrayList reported;
+    QList<QByteArray> reported;
     unsigned seed = 1;
     for (int kill = 0; reported.size() < 200; ++kill) {
         seed = seed * 1103515245u + 12345u;
         const int reports = 1 + int(seed >> 16) % 16;
-        const QByteArrayList more =
+        const QList<QByteArray> more =
             reportsUntilTheKill(m_folder, path, reports, (seed >> 8) % 2000);
         QVERIFY2(more.size() >= reports, qPrintable(QString::number(kill)));
         reported += more;
@@ -467,7 +467,7 @@ void TestHistoryStore::killLosesNoVersionThatWasReported()
         HistoryStore store(m_folder, HistoryStore::Limits());
         QString error;
         QVERIFY2(store.open(&error), qPrintable(error));
-        QByteArrayList kept;
+        QList<QByteArray> kept;
         const QList<ProgramVersion> versions = store.versions();
         for (const ProgramVersion &version : versions) {
             QCOMPARE(Sha256::hash(contentOf(version)), version.hash);

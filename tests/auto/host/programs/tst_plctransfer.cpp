@@ -14,6 +14,8 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include <atomic>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -95,13 +97,13 @@ public:
 
     bool holds(const QByteArray &path)
     {
-        if (!path.startsWith(m_folder + '/') || !m_hasHung.testAndSetOrdered(0, 1))
+        if (!path.startsWith(m_folder + '/') || m_hasHung.exchange(true))
             return false;
         const std::shared_ptr<QSemaphore> gate = m_gate;
         gate->acquire();
         return true;
     }
-    bool isHanging() const { return m_hasHung.load() && !m_isReleased; }
+    bool isHanging() const { return m_hasHung && !m_isReleased; }
     void release()
     {
         m_isReleased = true;
@@ -111,7 +113,7 @@ public:
 private:
     const QByteArray m_folder;
     const std::shared_ptr<QSemaphore> m_gate;
-    QAtomicInt m_hasHung;
+    std::atomic<bool> m_hasHung{false};
     bool m_isReleased = false;
 };
 

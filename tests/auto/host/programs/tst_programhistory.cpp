@@ -769,9 +769,9 @@ void TestProgramHistory::stalledSyncBringsNothingBack()
     save("three\n");
     QVERIFY(isKept(3));
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
-    const std::shared_ptr<QAtomicInt> hangs = std::make_shared<QAtomicInt>();
+    const std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
     FileCalls::beforeSync = [gate, hangs](const QByteArray &path) {
-        if (path.contains(".filarix-restored") && hangs->testAndSetOrdered(0, 1))
+        if (path.contains(".filarix-restored") && !hangs->exchange(true))
             gate->acquire();
     };
     m_history->setStallTime(300);
@@ -800,9 +800,9 @@ void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
     QVERIFY(isKept(2));
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
     const QByteArray program = QFile::encodeName(m_path);
-    const std::shared_ptr<QAtomicInt> hangs = std::make_shared<QAtomicInt>();
+    const std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
     FileCalls::beforeRename = [gate, hangs, program](const QByteArray &, const QByteArray &to) {
-        if (to == program && hangs->testAndSetOrdered(0, 1))
+        if (to == program && !hangs->exchange(true))
             gate->acquire();
         return 0;
     };

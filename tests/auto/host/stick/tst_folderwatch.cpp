@@ -10,6 +10,8 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 
+#include <atomic>
+
 class TestFolderWatch : public FilarixTest
 {
     Q_OBJECT
@@ -53,11 +55,11 @@ void TestFolderWatch::missingFolderIsKnownToBeMissing()
 void TestFolderWatch::looksOnceMoreAfterALookThatIsUnderWay()
 {
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
-    const std::shared_ptr<QAtomicInt> looks = std::make_shared<QAtomicInt>();
+    const std::shared_ptr<std::atomic<int>> looks = std::make_shared<std::atomic<int>>(0);
     FolderWatch watch([gate, looks] {
         gate->acquire();
         FolderState state;
-        state.files = looks->fetchAndAddOrdered(1) + 1;
+        state.files = ++*looks;
         return state;
     });
     for (int i = 0; i < 5; ++i)
@@ -65,7 +67,7 @@ void TestFolderWatch::looksOnceMoreAfterALookThatIsUnderWay()
     gate->release(5);
     QTRY_COMPARE(watch.state().files, 2);
     QCoreApplication::processEvents();
-    QCOMPARE(looks->loadAcquire(), 2);
+    QCOMPARE(looks->load(), 2);
     QCOMPARE(gate->available(), 3);
 }
 
