@@ -46,7 +46,7 @@ void PickerGuard::proposeForSaving(const QString &name)
 {
     m_isForSaving = true;
     // The dialog proposes its first file when it handles the showing, which is still to come.
-    HostCompat::callAfter(0, this, [this, name] {
+    HostCompat::callLater(this, [this, name] {
         m_field->setText(name);
         m_field->selectAll();
     });
