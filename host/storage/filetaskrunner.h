@@ -77,12 +77,14 @@ public:
     bool isRunning() const { return bool(m_task); }
     /// Does nothing while another task runs. The task is closed in the thread when it ends.
     void start(const std::shared_ptr<FileTask> &task);
-    /// Lets the step in hand end, and no other begin.
-    void stop();
     void setStallTime(int ms) { m_stall.setInterval(ms); }
     /// Whether a task that was given up still makes a change: who starts the next one now cannot
     /// know what there will be in the end.
     bool hasChangeUnderWay() const { return m_uncertain && m_uncertain->isChanging(); }
+
+public Q_SLOTS:
+    /// Lets the step in hand end, and no other begin.
+    void stop();
 
 Q_SIGNALS:
     void progressed(int percent);

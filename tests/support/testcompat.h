@@ -14,6 +14,7 @@
 #endif
 #include <QMetaMethod>
 #include <QPixmap>
+#include <QStringList>
 #include <QStyle>
 #include <QTest>
 #include <QTextCodec>
@@ -60,6 +61,7 @@
 #endif
 
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+Q_DECLARE_METATYPE(QList<QStringList>)
 Q_DECLARE_METATYPE(QVector<int>)
 
 // QCOMPARE of two types that are one to Qt 5.

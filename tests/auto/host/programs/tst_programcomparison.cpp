@@ -57,7 +57,7 @@ void TestProgramComparison::piecesAreTheLoaders()
     editor.readGCode(text);
     QStringList kept = ProgramText::loaded(text);
     kept.removeAll(QString());
-    QCOMPARE(kept.join('\n'), editor.toPlainText());
+    QCOMPARE(kept.join("\n"), editor.toPlainText());
     const auto verdict = ProgramComparison::judge(text, editor.toPlainText());
     QVERIFY(verdict == ProgramComparison::Same || verdict == ProgramComparison::Cleaned);
     QCOMPARE(ProgramText::loaded(text).size() == 1,

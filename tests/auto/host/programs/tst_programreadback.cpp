@@ -3,7 +3,6 @@
 
 #include "filarixtest.h"
 #include "programs/programreadback.h"
-#include "programs/programwrite.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,9 +23,6 @@ private Q_SLOTS:
     void unexplainedDifferenceHasNone();
     void missingFileHasItsReason();
     void probeLeavesNothingBehind();
-    void writeReplacesTheWholeOnly();
-    void writeBesideAllCoversNothing();
-    void abandonedWriteReplacesNothing();
 
 private:
     static QString path() { return programDir() + "/coil.cnc"; }
@@ -92,41 +88,6 @@ void TestProgramReadback::probeLeavesNothingBehind()
 {
     writeFile(path(), "something else");
     ProgramReadback(path(), "G01\n").step();
-    QCOMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden), QStringList("coil.cnc"));
-}
-
-void TestProgramReadback::writeReplacesTheWholeOnly()
-{
-    writeFile(path(), "G01\n");
-    ::chmod(QFile::encodeName(path()), 0640);
-    ProgramWrite write(path(), "G02\nG03\n");
-    QVERIFY(!write.step());
-    QVERIFY(write.isStored());
-    QCOMPARE(readFile(path()), QByteArray("G02\nG03\n"));
-    struct stat now = {};
-    ::stat(QFile::encodeName(path()), &now);
-    QCOMPARE(int(now.st_mode & 0777), 0640);
-}
-
-void TestProgramReadback::writeBesideAllCoversNothing()
-{
-    writeFile(path(), "G01\n");
-    ProgramWrite write(path(), "G02\n", ProgramWrite::BesideAll);
-    write.step();
-    QVERIFY(write.isStored());
-    QCOMPARE(write.path(), programDir() + "/coil_2.cnc");
-    QCOMPARE(readFile(path()), QByteArray("G01\n"));
-    QCOMPARE(readFile(write.path()), QByteArray("G02\n"));
-}
-
-void TestProgramReadback::abandonedWriteReplacesNothing()
-{
-    writeFile(path(), "G01\n");
-    ProgramWrite write(path(), "G02\n");
-    QVERIFY(write.abandon());
-    write.step();
-    QVERIFY(!write.isStored());
-    QCOMPARE(readFile(path()), QByteArray("G01\n"));
     QCOMPARE(QDir(programDir()).entryList(QDir::Files | QDir::Hidden), QStringList("coil.cnc"));
 }
 

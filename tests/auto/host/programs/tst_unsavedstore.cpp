@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds KeptWork, too.
+
+#include "base/hostcompat.h"
 #include "filarixtest.h"
 #include "programs/unsavedstore.h"
 
@@ -62,7 +65,7 @@ static KeptWork program(const QString &text)
     KeptWork work;
     work.subject = "program";
     work.head.path = FilarixTest::programDir() + "/coil.cnc";
-    work.time = QDateTime::fromMSecsSinceEpoch(1700000000123, Qt::UTC);
+    work.time = HostCompat::utcTime(Q_INT64_C(1700000000123));
     work.text = text;
     return work;
 }
@@ -134,7 +137,7 @@ void TestUnsavedStore::rowsAndHeadComeBack()
     work.head.cursor = 77;
     work.head.state.insert("lines", "12");
     work.head.state.insert("", QString(QChar()));
-    work.time = QDateTime::fromMSecsSinceEpoch(1700000000123, Qt::UTC);
+    work.time = HostCompat::utcTime(Q_INT64_C(1700000000123));
     work.rows = {{"MJ", "1", "", QString::fromUtf8("\u00fc")}, {}, {"\t\n\\"}};
     {
         UnsavedStore store(m_folder);

@@ -181,11 +181,11 @@ void TestDurableFile::fullDiskLeavesTheOldFile()
 void TestDurableFile::folderThatTakesNothing()
 {
     writeFile(m_path, "old\n");
-    QVERIFY(QFile::setPermissions(m_folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    QVERIFY(QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::ExeOwner));
     QString error;
     const bool isReplaced = replace(m_path, "new\n", &error);
-    QVERIFY(QFile::setPermissions(m_folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner
-                                                | QFileDevice::ExeOwner));
+    QVERIFY(
+        QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(!isReplaced);
     QCOMPARE(error, QString("Permission denied"));
     QVERIFY(!replace("/usr/bin/coil.cnc", "new\n", &error));

@@ -4,7 +4,6 @@
 #include "filarixtest.h"
 #include "heldfile.h"
 #include "storage/filejob.h"
-#include "storage/writeleave.h"
 
 #include <QSemaphore>
 #include <QThread>
@@ -21,7 +20,6 @@ private Q_SLOTS:
     void workThatHangsIsGivenUp();
     void waitEndsWhenTheWorkIsGivenUp();
     void jobMayGoWhileItsWorkHangs();
-    void firstToDecideAboutAWriteWins();
 };
 
 static const int stallMs = 100;
@@ -115,16 +113,6 @@ void TestFileJob::jobMayGoWhileItsWorkHangs()
     const std::weak_ptr<QSemaphore> held = gate;
     gate.reset();
     QTRY_VERIFY(held.expired());
-}
-
-void TestFileJob::firstToDecideAboutAWriteWins()
-{
-    WriteLeave written;
-    QVERIFY(written.take());
-    QVERIFY(!written.withdraw());
-    WriteLeave withdrawn;
-    QVERIFY(withdrawn.withdraw());
-    QVERIFY(!withdrawn.take());
 }
 
 FILARIX_TEST_MAIN(TestFileJob)

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds FileTask, too.
+
 #include "filarixtest.h"
 #include "storage/filetaskrunner.h"
 
@@ -9,17 +11,19 @@
 #include <QSignalSpy>
 #include <QThread>
 
+#include <atomic>
+
 /// What a task did, alive as long as anybody asks.
 struct Record
 {
-    QAtomicInt steps;
-    QAtomicInt closes;
-    QAtomicInt inMainThread;
+    std::atomic<int> steps{0};
+    std::atomic<int> closes{0};
+    std::atomic<int> inMainThread{0};
     /// A step that this bars hangs.
     QSemaphore gate;
     /// What the task was told when it asked whether it may change something.
-    QAtomicInt mayChange{-1};
-    QAtomicInt closedInMainThread;
+    std::atomic<int> mayChange{-1};
+    std::atomic<int> closedInMainThread{0};
 };
 
 static bool isMainThread()
@@ -37,8 +41,8 @@ public:
     bool step() override
     {
         if (isMainThread())
-            m_record->inMainThread.ref();
-        m_record->steps.ref();
+            ++m_record->inMainThread;
+        ++m_record->steps;
         if (m_isGated)
             m_record->gate.acquire();
         return ++m_done < m_steps;
@@ -46,9 +50,9 @@ public:
     int percent() const override { return 100 * m_done / m_steps; }
     void close() override
     {
-        m_record->closes.ref();
+        ++m_record->closes;
         if (isMainThread())
-            m_record->closedInMainThread.ref();
+            ++m_record->closedInMainThread;
     }
 
 private:
@@ -70,7 +74,7 @@ public:
 
     bool step() override
     {
-        m_record->steps.ref();
+        ++m_record->steps;
         if (m_place == Before)
             m_record->gate.acquire();
         const bool mayChange = beginChange();
@@ -81,7 +85,7 @@ public:
             endChange();
         return true;
     }
-    void close() override { m_record->closes.ref(); }
+    void close() override { ++m_record->closes; }
 
 private:
     const Place m_place;
@@ -129,7 +133,7 @@ void TestFileTaskRunner::stopLetsNoOtherStepBegin()
     FileTaskRunner work;
     QSignalSpy ends(&work, SIGNAL(ended()));
     QSignalSpy stops(&work, SIGNAL(stopped()));
-    connect(&work, &FileTaskRunner::progressed, &work, &FileTaskRunner::stop);
+    connect(&work, SIGNAL(progressed(int)), &work, SLOT(stop()));
     work.start(std::make_shared<CountingTask>(1000, record));
     QTRY_COMPARE(stops.size(), 1);
     QVERIFY(!work.isRunning());

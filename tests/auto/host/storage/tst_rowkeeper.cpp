@@ -66,8 +66,7 @@ void TestRowKeeper::init()
 void TestRowKeeper::cleanup()
 {
     m_keeper.reset();
-    QFile::setPermissions(m_folder,
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     FilarixTest::cleanup();
 }
 
@@ -108,7 +107,7 @@ void TestRowKeeper::storedRowsComeBack()
 static void makeForbidden(const QString &path)
 {
     FilarixTest::writeFile(path, "# mine\n");
-    QFile::setPermissions(path, QFileDevice::Permissions());
+    QFile::setPermissions(path, QFile::Permissions());
 }
 
 static void makePipe(const QString &path)
@@ -153,7 +152,7 @@ void TestRowKeeper::brokenFileIsPutAsideBeforeTheWrite()
     QCOMPARE(readFile(m_path), m_bytes);
     QCOMPARE(load().state, RowKeeper::Loaded::Read);
     if (QFileInfo(stored.asidePath).isDir())
-        QDir(stored.asidePath).removeRecursively();
+        emptyFolder(stored.asidePath);
 }
 
 void TestRowKeeper::asideNamesAreNeverUsedTwice()
@@ -181,13 +180,13 @@ void TestRowKeeper::fileThatWasNeverReadIsPutAside()
 void TestRowKeeper::fileThatWasReadIsReplaced()
 {
     writeFile(m_path, "# mine\n");
-    QFile::setPermissions(m_path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
     QCOMPARE(load().state, RowKeeper::Loaded::Read);
     const RowKeeper::Stored stored = store(m_rows);
     QVERIFY(stored.isStored);
     QVERIFY(stored.asidePath.isEmpty());
     QCOMPARE(QDir(m_folder).entryList(QDir::Files | QDir::Hidden), QStringList("rows.txt"));
-    QVERIFY(!(QFile::permissions(m_path) & QFileDevice::ReadOther));
+    QVERIFY(!(QFile::permissions(m_path) & QFile::ReadOther));
 }
 
 // Killed between putting aside and writing, say.
@@ -215,7 +214,7 @@ void TestRowKeeper::linkStaysALink()
 void TestRowKeeper::folderThatTakesNoNameRefusesTheStore()
 {
     writeFile(m_path, "broken");
-    QFile::setPermissions(m_folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::ExeOwner);
     const RowKeeper::Stored stored = store(m_rows);
     QVERIFY(!stored.isStored);
     QVERIFY2(stored.error.contains("Permission denied"), qPrintable(stored.error));
