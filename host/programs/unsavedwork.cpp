@@ -35,6 +35,7 @@ UnsavedWork::UnsavedWork(const QString &folder, QObject *parent)
     for (QTimer *timer : {&m_programTimer, &m_stall, &m_pause})
         timer->setSingleShot(true);
     m_programTimer.setInterval(delayMs);
+    m_rowsTimer.setInterval(rowsMs);
     m_stall.setInterval(stallMs);
     m_pause.setInterval(pauseMs);
     connect(&m_programTimer, SIGNAL(timeout()), this, SLOT(lookAtProgram()));
@@ -74,7 +75,13 @@ void UnsavedWork::watchRows(const QString &subject, UnsavedRows *list)
     };
     rows->list = list;
     m_rows.push_back(std::move(rows));
-    m_rowsTimer.start(rowsMs);
+    m_rowsTimer.start();
+}
+
+void UnsavedWork::setDelay(int ms)
+{
+    m_programTimer.setInterval(ms);
+    m_rowsTimer.setInterval(ms);
 }
 
 bool UnsavedWork::isSettled() const

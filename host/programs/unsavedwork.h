@@ -54,7 +54,11 @@ public:
     /// The operator has given up all that is not saved; waits until it is gone, \a ms milliseconds
     /// at most. Nothing is watched any more.
     void giveUp(int ms);
-    void setDelay(int ms) { m_programTimer.setInterval(ms); }
+    /// From a change of the program to the begin of its writing, and from one look at the rows to
+    /// the next, in milliseconds.
+    void setDelay(int ms);
+    /// After a failure the disk is left alone for \a ms milliseconds.
+    void setPause(int ms) { m_pause.setInterval(ms); }
     /// A disk that takes longer for one thing is reported.
     void setStallTime(int ms) { m_stall.setInterval(ms); }
 

@@ -81,6 +81,11 @@ int FilarixTest::scaled(int full, int least)
     return qMax(full / FILARIX_TEST_SCALE, least);
 }
 
+bool FilarixTest::isLongRun()
+{
+    return qgetenv("FILARIX_TEST_LONG") == "1";
+}
+
 int FilarixTest::patience(int milliseconds)
 {
     return milliseconds * FILARIX_TEST_SCALE;

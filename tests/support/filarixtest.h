@@ -38,6 +38,9 @@ public:
     /// as on a PC; its FILARIX_TEST_SCALE-th part, \a least at the least, where they are slower by
     /// that factor. It makes a test smaller, never what it checks.
     static int scaled(int full, int least = 1);
+    /// Whether this is the long run, FILARIX_TEST_LONG=1, for which nobody waits: as many cases as
+    /// prove a thing, where the others take as many as find what breaks it soon.
+    static bool isLongRun();
     /// A limit of time, longer by the same factor.
     static int patience(int milliseconds);
     /// Whether the sanitizers are built in, whose runtime keeps freed memory and adds its own.

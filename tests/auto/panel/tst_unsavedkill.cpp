@@ -36,7 +36,8 @@
 
 namespace {
 
-const int kills = 300;
+const int kills = 40;
+const int killsOfTheLongRun = 300;
 const int sideBySide = 4;
 const qint64 longestLifeMs = 2500;
 const qint64 mostLostMs = 2000;
@@ -366,7 +367,7 @@ void TestUnsavedKill::judge(const QString &home, qint64 killed)
 
 void TestUnsavedKill::killTakesTwoSecondsAtTheMost()
 {
-    const int all = scaled(kills, 20);
+    const int all = scaled(isLongRun() ? killsOfTheLongRun : kills, 20);
     int started = 0;
     int ended = 0;
     std::vector<Run> runs;
