@@ -69,10 +69,13 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   base/filarixhostglobal.h
   base/message.h
   base/questioner.h
+  guards/finddialogfitter.h
   guards/finddialogkeypad.h
   guards/programguard.h
   guards/windowcommands.h
   guards/windowdialogs.h
+  programs/checkeddownload.h
+  programs/downloadfacts.h
   programs/historystore.h
   programs/keptwork.h
   programs/plctransfer.h

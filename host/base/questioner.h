@@ -28,7 +28,7 @@ struct QuestionFact
 };
 
 /// A question to the operator, with its answers in words.
-struct Question
+struct FILARIX_HOST_EXPORT Question
 {
     Question() = default;
     Question(const QString &title, const QString &text, const QStringList &answers,
