@@ -4,51 +4,66 @@
 #ifndef SAFEDOWNLOAD_H
 #define SAFEDOWNLOAD_H
 
-#include "storedprogram.h"
+#include "guards/programguard.h"
+#include "programs/checkeddownload.h"
 #include "wmmainwindow.h"
 
 //! [safe download]
-/// Answers the window's D/L button. A program goes to the machine only if it is stored and is the
-/// one on the screen, and the button comes back however the transfer ends.
-class SafeDownload : public QObject
+/// The window's D/L button sends its program to the folder \a plcDir: the bytes that the operator
+/// has agreed to and no others, compared when they are there. \a copyDir is for private copies.
+inline CheckedDownload *addDownload(ProgramGuard *guard, const QString &plcDir,
+                                    const QString &copyDir, Questioner *questioner)
+{
+    CheckedDownload *download = new CheckedDownload(plcDir, copyDir, questioner, guard);
+    guard->setDownload(download);
+    return download;
+}
+//! [safe download]
+
+//! [own transfer]
+/// The same for a machine that takes no files: \a transfer carries a copy over that nobody changes
+/// meanwhile, and says whether it went well. The button comes back however that ends.
+class OwnTransfer : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit SafeDownload(WMMainWindow *window) : QObject(window), m_window(window)
+    typedef std::function<bool(const QString &copyPath, const ProgramFacts &facts)> Transfer;
+
+    OwnTransfer(WMMainWindow *window, ProgramGuard *guard, const QString &copyDir,
+                const Transfer &transfer)
+        : QObject(guard), m_window(window), m_guard(guard), m_copy(copyDir), m_transfer(transfer)
     {
-        connect(window, SIGNAL(signal_download(QString)), SLOT(send(QString)));
+        connect(window, SIGNAL(signal_download(QString)), SLOT(copy(QString)));
+        connect(&m_copy, SIGNAL(taken()), SLOT(send()));
+        connect(&m_copy, SIGNAL(failed(QString)), SIGNAL(failed(QString)));
     }
 
-protected:
-    /// Carries \a program over; what is saved meanwhile does not change it. In a host that serves
-    /// events during the transfer the greyed button keeps a second one from starting.
-    virtual bool transfer(const QByteArray &program) = 0;
-    /// Tells the operator.
-    virtual void tell(const QString &text) = 0;
+Q_SIGNALS:
+    void failed(const QString &reason);
 
 private Q_SLOTS:
-    void send(const QString &path)
+    void copy(const QString &path)
     {
-        if (path.isEmpty())
-            return tell(tr("Save the program first."));
-        const StoredProgram stored(m_window->findChild<WGCodeEditer *>(), path);
-        if (!stored.isShownAsItIs() && !stored.isShownCleaned())
-            return tell(tr("The stored program is not the one on the screen."));
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return tell(tr("The program cannot be read."));
-
+        if (m_guard->mayDownload(path))
+            m_copy.take(path);
+    }
+    void send()
+    {
         m_window->setDownloading(true);
-        const bool isTaken = transfer(file.readAll());
+        const bool isTaken = m_transfer(m_copy.copyPath(), m_copy.facts());
         m_window->setDownloading(false);
+        m_copy.drop();
         if (!isTaken)
-            tell(tr("The machine did not take the program."));
+            Q_EMIT failed(tr("The machine did not take the program."));
     }
 
 private:
     WMMainWindow *m_window;
+    ProgramGuard *m_guard;
+    ProgramSnapshot m_copy;
+    const Transfer m_transfer;
 };
-//! [safe download]
+//! [own transfer]
 
 #endif // SAFEDOWNLOAD_H

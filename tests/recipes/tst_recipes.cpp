@@ -3,13 +3,12 @@
 
 #include "editbuttons.h"
 #include "filarixtest.h"
+#include "fillrows.h"
 #include "languageswitch.h"
 #include "marktranslator.h"
 #include "modaldriver.h"
 #include "modifiedmark.h"
 #include "plcerror.h"
-#include "rowfile.h"
-#include "safedownload.h"
 #include "wfiledialog.h"
 #include "windowthatgoes.h"
 
@@ -102,36 +101,6 @@ QList<QStringList> taught(int count)
     return rows;
 }
 
-class RecordingDownload : public SafeDownload
-{
-public:
-    explicit RecordingDownload(WMMainWindow *window)
-        : SafeDownload(window), accepts(true), wasGreyed(false), m_window(window)
-    {}
-
-    bool accepts;
-    bool wasGreyed;
-    QList<QByteArray> sent;
-    QStringList told;
-
-protected:
-    bool transfer(const QByteArray &program) override
-    {
-        wasGreyed = m_window->isDownloading();
-        sent.append(program);
-        return accepts;
-    }
-    void tell(const QString &text) override { told.append(text); }
-
-private:
-    WMMainWindow *m_window;
-};
-
-void pressDownload(Host &host)
-{
-    host.button("D/L")->click();
-}
-
 } // namespace
 
 /// The recipes of the documentation, run as hosts would.
@@ -150,18 +119,8 @@ private Q_SLOTS:
     void languageSwitchReachesTheWindowAndBack();
     void languageIsLoadedFromAFile();
     void languageThatIsMissingChangesNothing();
-    void downloadSendsWhatIsStoredAndShown();
-    void downloadOfALongProgramSendsItsComments();
-    void downloadGivesTheButtonBackAfterAFailure();
-    void downloadRefusesWhatIsNotOnTheScreen();
-    void downloadRefusesAProgramThatIsHalfLoaded();
-    void downloadRefusesAProgramWithoutAFile();
     void windowThatGoesLeavesNothingBehind();
     void windowIsTakenAwayFromUnderALoad();
-    void exportedRowsComeBack();
-    void importRefusesRowsThatAListWouldTake();
-    void importOfAMissingFileLeavesTheList();
-    void exportThatFailsLeavesTheFile();
     void manyRowsMakeOnePageOfWidgets();
 };
 
@@ -287,80 +246,6 @@ void TestRecipes::languageThatIsMissingChangesNothing()
     QVERIFY(host.button("+Open"));
 }
 
-void TestRecipes::downloadSendsWhatIsStoredAndShown()
-{
-    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
-    Host host;
-    RecordingDownload download(&host.window);
-    host.open("part.cnc");
-    pressDownload(host);
-    QCOMPARE(download.sent, QList<QByteArray>() << "G01 X1\nM2\n");
-    QCOMPARE(download.told, QStringList());
-    QVERIFY(download.wasGreyed);
-    QVERIFY(!host.window.isDownloading());
-    QVERIFY(host.button("D/L")->isEnabled());
-}
-
-void TestRecipes::downloadOfALongProgramSendsItsComments()
-{
-    writeFile(pathOf("long.cnc"), longProgram());
-    Host host;
-    RecordingDownload download(&host.window);
-    host.open("long.cnc");
-    pressDownload(host);
-    QCOMPARE(download.sent, QList<QByteArray>() << longProgram());
-}
-
-void TestRecipes::downloadGivesTheButtonBackAfterAFailure()
-{
-    writeFile(pathOf("part.cnc"), "M2\n");
-    Host host;
-    RecordingDownload download(&host.window);
-    download.accepts = false;
-    host.open("part.cnc");
-    pressDownload(host);
-    QCOMPARE(download.told.size(), 1);
-    QVERIFY(!host.window.isDownloading());
-}
-
-void TestRecipes::downloadRefusesWhatIsNotOnTheScreen()
-{
-    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
-    Host host;
-    RecordingDownload download(&host.window);
-    host.open("part.cnc");
-    host.editor()->insertLine("G01 X2");
-    ModalDriver driver;
-    driver.press(QMessageBox::Discard);
-    pressDownload(host);
-    QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(download.sent, QList<QByteArray>());
-    QCOMPARE(download.told.size(), 1);
-}
-
-void TestRecipes::downloadRefusesAProgramThatIsHalfLoaded()
-{
-    writeFile(pathOf("long.cnc"), longProgram());
-    Host host;
-    RecordingDownload download(&host.window);
-    host.open("long.cnc");
-    // What an abort leaves: the front part, under the file's name, without a mark.
-    host.editor()->setPlainText(host.editor()->toPlainText().left(500));
-    host.editor()->document()->setModified(false);
-    pressDownload(host);
-    QCOMPARE(download.sent, QList<QByteArray>());
-    QCOMPARE(download.told.size(), 1);
-}
-
-void TestRecipes::downloadRefusesAProgramWithoutAFile()
-{
-    Host host;
-    RecordingDownload download(&host.window);
-    pressDownload(host);
-    QCOMPARE(download.sent, QList<QByteArray>());
-    QCOMPARE(download.told.size(), 1);
-}
-
 void TestRecipes::windowThatGoesLeavesNothingBehind()
 {
     const QList<QWidget *> before = QApplication::allWidgets();
@@ -413,65 +298,6 @@ void TestRecipes::windowIsTakenAwayFromUnderALoad()
     QVERIFY(alarm.hasRung);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!alarm.m_window);
-}
-
-void TestRecipes::exportedRowsComeBack()
-{
-    QStringList titleRow = title();
-    TListWidget list(titleRow, nullptr);
-    QList<QStringList> rows = taught(30);
-    rows[4][FilarixRows::Ins] = QString::fromUtf8("tab\tand\nline\r\n \\t end ä");
-    fillRows(&list, rows);
-    const RowFile file(home() + "/taught.rows");
-    QVERIFY(file.exportRows(&list, 1));
-    QCOMPARE(QDir(home()).entryList(QStringList("taught*")), QStringList("taught.rows"));
-
-    QStringList otherTitle = title();
-    TListWidget other(otherTitle, nullptr);
-    QStringList old = taught(1).first();
-    other.addWidget(old, true, false);
-    QCOMPARE(file.importRows(&other, 1), QString());
-    QCOMPARE(other.count(), 31);
-    for (int i = 1; i < other.count(); ++i)
-        QCOMPARE(other.getContent(i), rows.at(i - 1));
-}
-
-void TestRecipes::importRefusesRowsThatAListWouldTake()
-{
-    QStringList titleRow = title();
-    TListWidget list(titleRow, nullptr);
-    QList<QStringList> rows = taught(3);
-    rows[1][FilarixRows::ZValue] = "1:5";
-    fillRows(&list, rows);
-    const RowFile file(home() + "/taught.rows");
-    QVERIFY(file.exportRows(&list, 1));
-
-    QStringList otherTitle = title();
-    TListWidget other(otherTitle, nullptr);
-    QStringList old = taught(1).first();
-    other.addWidget(old, true, false);
-    QVERIFY(file.importRows(&other, 1).contains("row 2, position 8"));
-    QCOMPARE(other.count(), 2);
-}
-
-void TestRecipes::importOfAMissingFileLeavesTheList()
-{
-    QStringList titleRow = title();
-    TListWidget list(titleRow, nullptr);
-    fillRows(&list, taught(3));
-    QVERIFY(!RowFile(home() + "/none.rows").importRows(&list, 1).isEmpty());
-    QCOMPARE(list.count(), 4);
-}
-
-void TestRecipes::exportThatFailsLeavesTheFile()
-{
-    QStringList titleRow = title();
-    TListWidget list(titleRow, nullptr);
-    const QString path = home() + "/taught.rows";
-    writeFile(path, "as it was");
-    QVERIFY(QDir(home()).mkdir("taught.rows.new")); // no file can take this name
-    QVERIFY(!RowFile(path).exportRows(&list, 1));
-    QCOMPARE(readFile(path), QByteArray("as it was"));
 }
 
 void TestRecipes::manyRowsMakeOnePageOfWidgets()

@@ -1,0 +1,357 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "filarixtest.h"
+#include "guardedwindow.h"
+#include "keptunsaved.h"
+#include "modaldriver.h"
+#include "programwindow.h"
+#include "safedownload.h"
+#include "scriptquestioner.h"
+#include "storedrows.h"
+
+#include <QDir>
+#include <QProgressDialog>
+#include <QSignalSpy>
+
+namespace {
+
+QStringList title()
+{
+    return FilarixRows::titleRow("Instr.", "Point", "Speed", "Z", "T");
+}
+
+QList<QStringList> taught(int count)
+{
+    QList<QStringList> rows;
+    for (int i = 1; i <= count; ++i) {
+        FilarixRows::InstructionRow move(FilarixRows::InstructionRow::Linear, "Wind");
+        move.setJpos("P", i % 8).setV("V", 1).setZ("Z", "1.5").setT("T", "0").setRes("one layer");
+        rows.append(move.row(i));
+    }
+    return rows;
+}
+
+QString pathOf(const char *name)
+{
+    return FilarixTest::programDir() + QLatin1Char('/') + QLatin1String(name);
+}
+
+/// 600 lines: a comment before each 20 of code.
+QByteArray longProgram()
+{
+    QByteArray program;
+    for (int i = 1; i <= 600; ++i)
+        program += i % 20 == 1 ? QByteArray("; layer\n") : "G01 X" + QByteArray::number(i) + "\n";
+    return program;
+}
+
+/// A host with a guarded window and a history.
+class GuardedHost
+{
+public:
+    GuardedHost()
+        : history(FilarixTest::programDir(), FilarixTest::home() + "/history")
+        , guard(guardWindow(host.window(), &questioner, &history))
+    {}
+
+    void open(const char *name)
+    {
+        ModalDriver driver;
+        driver.then([name](QWidget *dialog) { ProgramWindow::pick(dialog, name); });
+        host.press("Open");
+        QTRY_COMPARE(host.window()->getCurrentFile(), pathOf(name));
+        QTRY_VERIFY(!guard->isBusy());
+        QVERIFY2(driver.finished(), driver.report());
+    }
+
+    ScriptQuestioner questioner;
+    ProgramWindow host;
+    ProgramHistory history;
+    ProgramGuard *guard;
+};
+
+} // namespace
+
+/// The recipes of the documentation that take the companion, run as hosts would.
+class TestHostRecipes : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void guardKnowsHowTheProgramStands();
+    void guardKeepsWhatASaveCovers();
+    void downloadSendsWhatWasAgreedTo();
+    void downloadOfALongProgramSendsItsComments();
+    void downloadThatIsRefusedSendsNothing();
+    void ownTransferGetsTheStoredProgram();
+    void ownTransferRefusesAProgramThatIsHalfLoaded();
+    void ownTransferRefusesAProgramWithoutAFile();
+    void ownTransferGivesTheButtonBackAfterAFailure();
+    void unsavedWorkComesBack();
+    void exportedRowsComeBack();
+    void importRefusesRowsThatAListWouldTake();
+    void importOfAMissingFileLeavesTheList();
+    void exportThatFailsTellsWhy();
+};
+
+void TestHostRecipes::guardKnowsHowTheProgramStands()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    GuardedHost host;
+    host.open("long.cnc");
+    QCOMPARE(int(host.guard->state().kind), int(ProgramState::Cleaned));
+    QVERIFY(!host.guard->state().line().isEmpty());
+}
+
+void TestHostRecipes::guardKeepsWhatASaveCovers()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
+    GuardedHost host;
+    host.open("part.cnc");
+    host.host.editor()->insertLine("G01 X2");
+    QSignalSpy saved(host.guard, SIGNAL(saveEnded(bool)));
+    host.guard->save();
+    QTRY_COMPARE(saved.size(), 1);
+    QVERIFY(saved.first().first().toBool());
+    QTRY_COMPARE(host.history.versions().size(), 2);
+    QVERIFY(readFile(host.history.versions().first().path).endsWith("G01 X1\nM2\n"));
+}
+
+void TestHostRecipes::downloadSendsWhatWasAgreedTo()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
+    QVERIFY(QDir(home()).mkdir("plc"));
+    GuardedHost host;
+    host.questioner.answers << 1;
+    CheckedDownload *download =
+        addDownload(host.guard, home() + "/plc", home() + "/outgoing", &host.questioner);
+    host.open("part.cnc");
+    QSignalSpy ended(download, SIGNAL(ended()));
+    host.host.press("D/L");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(readFile(home() + "/plc/part.cnc"), QByteArray("G01 X1\nM2\n"));
+    QCOMPARE(host.questioner.asked.size(), 1);
+    QVERIFY(!host.questioner.asked.first().plainText().isEmpty());
+    QTRY_VERIFY(!host.host.window()->isDownloading());
+}
+
+void TestHostRecipes::downloadOfALongProgramSendsItsComments()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    QVERIFY(QDir(home()).mkdir("plc"));
+    GuardedHost host;
+    host.questioner.answers << 1;
+    CheckedDownload *download =
+        addDownload(host.guard, home() + "/plc", home() + "/outgoing", &host.questioner);
+    host.open("long.cnc");
+    QSignalSpy ended(download, SIGNAL(ended()));
+    host.host.press("D/L");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(readFile(home() + "/plc/long.cnc"), longProgram());
+}
+
+void TestHostRecipes::downloadThatIsRefusedSendsNothing()
+{
+    writeFile(pathOf("part.cnc"), "M2\n");
+    QVERIFY(QDir(home()).mkdir("plc"));
+    GuardedHost host;
+    CheckedDownload *download =
+        addDownload(host.guard, home() + "/plc", home() + "/outgoing", &host.questioner);
+    host.open("part.cnc");
+    QSignalSpy ended(download, SIGNAL(ended()));
+    host.host.press("D/L");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(host.questioner.asked.size(), 1);
+    QVERIFY(QDir(home() + "/plc").entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+/// What a machine got.
+struct Machine
+{
+    bool accepts = true;
+    bool wasGreyed = false;
+    QList<QByteArray> taken;
+    QList<qint64> lines;
+    QStringList told;
+};
+
+static OwnTransfer *addTransfer(const GuardedHost &host, Machine *machine)
+{
+    WMMainWindow *window = host.host.window();
+    return new OwnTransfer(window, host.guard, FilarixTest::home() + "/outgoing",
+                           [machine, window](const QString &copy, const ProgramFacts &facts) {
+                               machine->wasGreyed = window->isDownloading();
+                               machine->taken.append(FilarixTest::readFile(copy));
+                               machine->lines.append(facts.lines);
+                               return machine->accepts;
+                           });
+}
+
+void TestHostRecipes::ownTransferGetsTheStoredProgram()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    GuardedHost host;
+    Machine machine;
+    addTransfer(host, &machine);
+    host.open("long.cnc");
+    host.host.press("D/L");
+    QTRY_COMPARE(machine.taken.size(), 1);
+    QCOMPARE(machine.taken.first(), longProgram());
+    QCOMPARE(machine.lines.first(), qint64(601));
+    QVERIFY(machine.wasGreyed);
+    QVERIFY(!host.host.window()->isDownloading());
+}
+
+/// An operator who ends the loading in its middle.
+class Abort : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Abort(WGCodeEditer *editor)
+    {
+        connect(editor, SIGNAL(blockCountChanged(int)), SLOT(cancel(int)));
+    }
+
+private Q_SLOTS:
+    void cancel(int lines)
+    {
+        Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets()) {
+            QProgressDialog *progress = qobject_cast<QProgressDialog *>(widget);
+            if (progress && lines > 100)
+                progress->cancel();
+        }
+    }
+};
+
+void TestHostRecipes::ownTransferRefusesAProgramThatIsHalfLoaded()
+{
+    writeFile(pathOf("long.cnc"), QByteArray("G01 X1\n").repeated(9999));
+    GuardedHost host;
+    Machine machine;
+    addTransfer(host, &machine);
+    QSignalSpy told(host.guard, SIGNAL(told(QString, Message::Tone, QString)));
+    const Abort abort(host.host.editor());
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { ProgramWindow::pick(dialog, "long.cnc"); });
+    host.host.press("Open");
+    QTRY_COMPARE(int(host.guard->state().kind), int(ProgramState::Incomplete));
+    QTRY_VERIFY(!host.guard->isBusy());
+    told.clear();
+    host.host.press("D/L");
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(machine.taken.size(), 0);
+}
+
+void TestHostRecipes::ownTransferRefusesAProgramWithoutAFile()
+{
+    GuardedHost host;
+    Machine machine;
+    QSignalSpy failed(addTransfer(host, &machine), SIGNAL(failed(QString)));
+    host.host.press("D/L");
+    QTRY_COMPARE(failed.size(), 1);
+    QCOMPARE(machine.taken.size(), 0);
+}
+
+void TestHostRecipes::ownTransferGivesTheButtonBackAfterAFailure()
+{
+    writeFile(pathOf("part.cnc"), "M2\n");
+    GuardedHost host;
+    Machine machine;
+    machine.accepts = false;
+    QSignalSpy failed(addTransfer(host, &machine), SIGNAL(failed(QString)));
+    host.open("part.cnc");
+    host.host.press("D/L");
+    QTRY_COMPARE(failed.size(), 1);
+    QVERIFY(!host.host.window()->isDownloading());
+}
+
+void TestHostRecipes::unsavedWorkComesBack()
+{
+    writeFile(pathOf("part.cnc"), "M2\n");
+    const QString folder = home() + "/unsaved";
+    {
+        GuardedHost host;
+        UnsavedWork work(folder);
+        keepUnsaved(host.host.window(), host.guard, folder, &work, &host.questioner);
+        host.open("part.cnc");
+        host.host.editor()->insertLine("G01 X7");
+        QVERIFY(work.flush(10000));
+        QCOMPARE(host.questioner.asked.size(), 0);
+    }
+    GuardedHost host;
+    host.questioner.answers << 1;
+    UnsavedWork work(folder);
+    QSignalSpy ended(keepUnsaved(host.host.window(), host.guard, folder, &work, &host.questioner),
+                     SIGNAL(ended()));
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(host.questioner.asked.size(), 1);
+    QVERIFY(host.host.text().contains("G01 X7"));
+    QVERIFY(host.host.isModified());
+}
+
+void TestHostRecipes::exportedRowsComeBack()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    QList<QStringList> rows = taught(30);
+    rows[4][FilarixRows::Ins] = QString::fromUtf8("tab\tand\nline\r\n \\t end ä");
+    fillRows(&list, rows);
+    const QString path = home() + "/taught.rows";
+    QCOMPARE(exportRows(&list, 1, path), QString());
+    QCOMPARE(QDir(home()).entryList(QStringList("*taught*"), QDir::Files | QDir::Hidden),
+             QStringList("taught.rows"));
+
+    QStringList otherTitle = title();
+    TListWidget other(otherTitle, nullptr);
+    QStringList old = taught(1).first();
+    other.addWidget(old, true, false);
+    QCOMPARE(importRows(&other, 1, path), QString());
+    QCOMPARE(other.count(), 31);
+    for (int i = 1; i < other.count(); ++i)
+        QCOMPARE(other.getContent(i), rows.at(i - 1));
+}
+
+void TestHostRecipes::importRefusesRowsThatAListWouldTake()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    QList<QStringList> rows = taught(3);
+    rows[1][FilarixRows::ZValue] = "1:5";
+    fillRows(&list, rows);
+    const QString path = home() + "/taught.rows";
+    QCOMPARE(exportRows(&list, 1, path), QString());
+
+    QStringList otherTitle = title();
+    TListWidget other(otherTitle, nullptr);
+    QStringList old = taught(1).first();
+    other.addWidget(old, true, false);
+    QVERIFY(importRows(&other, 1, path).contains("row 2, position 8"));
+    QCOMPARE(other.count(), 2);
+}
+
+void TestHostRecipes::importOfAMissingFileLeavesTheList()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    fillRows(&list, taught(3));
+    QVERIFY(!importRows(&list, 1, home() + "/none.rows").isEmpty());
+    QCOMPARE(list.count(), 4);
+}
+
+void TestHostRecipes::exportThatFailsTellsWhy()
+{
+    QStringList titleRow = title();
+    TListWidget list(titleRow, nullptr);
+    QVERIFY(!exportRows(&list, 1, home() + "/none/taught.rows").isEmpty());
+    const QString folder = home() + "/taught.rows";
+    QVERIFY(QDir().mkdir(folder)); // no file can take this name
+    QVERIFY(!exportRows(&list, 1, folder).isEmpty());
+    QCOMPARE(QDir(home()).entryList(QStringList("*taught*"),
+                                    QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList("taught.rows"));
+}
+
+FILARIX_TEST_MAIN(TestHostRecipes)
+#include "tst_hostrecipes.moc"
