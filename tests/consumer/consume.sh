@@ -15,6 +15,7 @@ build=$WORK/$1
 installed=$WORK/moved
 sources=$SOURCE/tests/consumer/host
 companion=OFF
+examples=$SOURCE/examples
 if [ "$1" != "$way" ]; then
     build=$WORK/with-$1
     installed=$WORK/companion
@@ -52,23 +53,28 @@ cmake_build() {
 libraries=$WORK/device/$LIBDIR
 case "$way" in
     cmake)
-        cmake_build -DCMAKE_PREFIX_PATH="$installed"
+        cmake_build -DCMAKE_PREFIX_PATH="$installed" -DEXAMPLES="$examples"
         ;;
     pkgconfig)
         PKG_CONFIG_PATH=$installed/$LIBDIR/pkgconfig:${PKG_CONFIG_PATH:-} \
             make -C "$build" -f "$project/Makefile" \
-            SOURCES="$sources" CXX="$CCACHE $CXX" "${make_options[@]}"
+            SOURCES="$sources" EXAMPLES="$examples" CXX="$CCACHE $CXX" "${make_options[@]}"
         libraries=$libraries:$installed/$LIBDIR
         ;;
     qmake)
         cd "$build"
-        QMAKEFEATURES=$installed/$FEATURES "$QMAKE" "$project/host.pro" \
-            QMAKE_CXX="$CCACHE $CXX" QMAKE_LINK="$CXX"
-        make
+        for file in "$project"/*.pro; do
+            QMAKEFEATURES=$installed/$FEATURES "$QMAKE" -o Makefile "$file" EXAMPLES="$examples" \
+                QMAKE_CXX="$CCACHE $CXX" QMAKE_LINK="$CXX"
+            make
+            make clean
+        done
         libraries=$libraries:$installed/$LIBDIR
         ;;
     subdirectory)
+        # One folder for both, so that the library is built once.
         project=$SOURCE/tests/consumer/subdirectory
+        build=$WORK/subdirectory
         cmake_build -DFILARIX_HOST=$companion -DFILARIX_SOURCE="$SOURCE" -DFILARIX_QT="$QT" \
             -DFILARIX_HMIDEVICE_LIBRARY="$DEVICE_LIBRARY"
         ;;
@@ -77,4 +83,11 @@ esac
 run=("$LAUNCHER")
 [ "$QT" = 5 ] || run+=("$TOOLKIT_LIBRARIES:$libraries")
 [ -z "${EMULATOR:-}" ] || run+=("$EMULATOR" "$EMULATOR_ROOT")
-LD_LIBRARY_PATH=$libraries exec "${run[@]}" "$build/host"
+case $1 in
+    companion/subdirectory) programs=(companion-host) ;;
+    companion/*) programs=(host safe-host) ;;
+    *) programs=(host) ;;
+esac
+for program in "${programs[@]}"; do
+    LD_LIBRARY_PATH=$libraries "${run[@]}" "$build/$program"
+done

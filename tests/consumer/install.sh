@@ -25,9 +25,11 @@ for component in runtime development l10n; do
     install --prefix "$WORK/prefix" --component "$component"
 done
 cp -a prefix moved
-for component in host host-development host-l10n; do
-    install --prefix "$WORK/prefix" --component "$component"
-done
+if [ "$HOST" = 1 ]; then
+    for component in host host-development host-l10n; do
+        install --prefix "$WORK/prefix" --component "$component"
+    done
+fi
 mv prefix companion
 DESTDIR=$WORK/sysroot install --prefix /usr
 install --prefix "$WORK/device" --component simulator
@@ -47,8 +49,10 @@ expect_files() {
 }
 lists=$SOURCE/tests/consumer/installed-files
 expect_files moved "$lists.txt"
-expect_files companion "$lists.txt" "$lists-host.txt"
-expect_files sysroot/usr "$lists.txt" "$lists-host.txt"
+all_lists=("$lists.txt")
+[ "$HOST" = 0 ] || all_lists+=("$lists-host.txt")
+expect_files companion "${all_lists[@]}"
+expect_files sysroot/usr "${all_lists[@]}"
 
 # The published headers are those of the exported classes, and four that stand beside them.
 {
@@ -59,7 +63,7 @@ find moved/include/filarix -type f -printf '%f\n' | LC_ALL=C sort \
     | diff -u expected-headers.txt - || fail "headers of other classes than the exported ones"
 
 # Those of the companion are the ones with something exported in them.
-(cd "$SOURCE/host" && grep -lr --include='*.h' FILARIX_HOST_EXPORT) | LC_ALL=C sort \
+[ "$HOST" = 0 ] || (cd "$SOURCE/host" && grep -lr --include='*.h' FILARIX_HOST_EXPORT) | LC_ALL=C sort \
     | diff -u - <(cd companion/include/filarix/host && find . -type f -printf '%P\n' | LC_ALL=C sort) \
     || fail "headers of other classes than the companion's exported ones"
 
@@ -72,7 +76,9 @@ stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel'
 for text in "$SOURCE" "$BUILD"; do
     ! grep -rIlF "$text" companion sysroot || fail "the files above name $text"
 done
-for name in Module Host; do
+libraries=(Module)
+[ "$HOST" = 0 ] || libraries+=(Host)
+for name in "${libraries[@]}"; do
     library=companion/$LIBDIR/libFilarix$name.so.1
     runpath=$(readelf -d "$library" | sed -n 's/.*R\(UN\)\?PATH.*\[\(.*\)\].*/\2/p')
     # shellcheck disable=SC2016
@@ -94,8 +100,10 @@ fi
 # Below a sysroot pkg-config names the folders there.
 pkg_config_path=$WORK/sysroot/usr/$LIBDIR/pkgconfig:${PKG_CONFIG_PATH:-}
 pkg_config_path+=:$(pkg-config --variable pc_path pkg-config)
+package=filarixmodule
+[ "$HOST" = 0 ] || package=filarixhost
 folders=$(PKG_CONFIG_SYSROOT_DIR=$WORK/sysroot PKG_CONFIG_LIBDIR=$pkg_config_path \
-    pkg-config --cflags-only-I --libs-only-L filarixhost)
+    pkg-config --cflags-only-I --libs-only-L "$package")
 has_folder() {
     local flag
     for flag in $folders; do
@@ -106,5 +114,5 @@ has_folder() {
     fail "below a sysroot pkg-config gives no $1$2 but $folders"
 }
 has_folder -I "$WORK/sysroot/usr/include/filarix"
-has_folder -I "$WORK/sysroot/usr/include/filarix/host"
+[ "$HOST" = 0 ] || has_folder -I "$WORK/sysroot/usr/include/filarix/host"
 has_folder -L "$WORK/sysroot/usr/$LIBDIR"

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+// A host that loses nothing: the G-code screen, with all of the companion between the operator and
+// what the library would lose without a word.
+
+#include "guards/finddialogfitter.h"
+#include "guards/finddialogkeypad.h"
+#include "guards/programguard.h"
+#include "programs/checkeddownload.h"
+#include "programs/programdirectory.h"
+#include "programs/programhistory.h"
+#include "programs/unsavedoffer.h"
+#include "programs/unsavedwork.h"
+#include "stick/devicewatch.h"
+#include "stick/importguard.h"
+#include "stick/stick.h"
+#include "wgcodeediter.h"
+#include "wmmainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+
+/// Asks by the toolkit's own box.
+class Boxes : public Questioner
+{
+public:
+    int ask(const Question &question) override
+    {
+        QMessageBox box(QMessageBox::Question, question.title, question.plainText());
+        QList<QAbstractButton *> buttons;
+        Q_FOREACH (const QString &answer, question.answers)
+            buttons.append(box.addButton(answer, QMessageBox::AcceptRole));
+        box.setEscapeButton(buttons.first()); // the harmless one
+        box.exec();
+        return qMax(0, buttons.indexOf(box.clickedButton()));
+    }
+};
+
+class SafeHost : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    SafeHost(const QString &own, const QString &plc)
+        : m_window(new WMMainWindow(this, 0))
+        , m_history(ProgramDirectory::path(), own + "/history")
+        , m_download(plc, own + "/outgoing", &m_boxes)
+        , m_guard(m_window, ProgramDirectory::path(), &m_boxes)
+        , m_files(ProgramDirectory::path(), Stick::mountPoint(), &m_history)
+        , m_devices([plc] { return DeviceWatch::lookAt(plc, ProgramDirectory::path()); })
+        , m_unsaved(own + "/unsaved")
+        , m_offer(own + "/unsaved", &m_unsaved, &m_boxes)
+    {
+        setCentralWidget(m_window);
+        QToolBar *bar = addToolBar(tr("Program"));
+        connect(bar->addAction(tr("Find")), SIGNAL(triggered()), SLOT(find()));
+        connect(bar->addAction(tr("Oldest version")), SIGNAL(triggered()), SLOT(bringBack()));
+
+        // What a save, a download, the stick or a delete would cover is kept before.
+        m_guard.setHistory(&m_history);
+        m_guard.setDownload(&m_download);
+        new FindDialogKeypad(this);
+        keepUnsavedWork();
+
+        QObject *const tellers[] = {&m_history, &m_download, &m_guard,
+                                    &m_files,   &m_unsaved,  &m_offer};
+        for (QObject *teller : tellers)
+            connect(teller, SIGNAL(told(QString, Message::Tone, QString)), SLOT(tell(QString)));
+        connect(&m_download, SIGNAL(worked(QString, int)), SLOT(tell(QString)));
+        connect(&m_guard, SIGNAL(stateChanged()), SLOT(showState()));
+        connect(&m_devices, SIGNAL(changed(DeviceState)), SLOT(lookAtStick(DeviceState)));
+    }
+
+    ~SafeHost() override { m_unsaved.flush(2000); }
+
+private Q_SLOTS:
+    void tell(const QString &text) { statusBar()->showMessage(text); }
+    void showState() { tell(m_guard.state().line()); }
+
+    void find()
+    {
+        m_window->findChild<WGCodeEditer *>()->findAndReplace();
+        FindDialogFitter::place(this);
+    }
+
+    /// A stick that was just plugged in has its names looked at before an operator uses them.
+    void lookAtStick(const DeviceState &state)
+    {
+        if (state.stickIn && !m_isStickIn)
+            m_files.settle();
+        m_isStickIn = state.stickIn;
+    }
+
+    /// The oldest version of the open program that the history has.
+    void bringBack()
+    {
+        Q_FOREACH (const ProgramVersion &version, m_history.versions())
+            if (m_window->getCurrentFile().endsWith('/' + version.name))
+                return m_history.restore(version);
+    }
+
+private:
+    /// Whatever ends the program: at its next start the operator is offered what was not saved.
+    void keepUnsavedWork()
+    {
+        ProgramGuard *guard = &m_guard;
+        const WMMainWindow *window = m_window;
+        m_unsaved.watchProgram(
+            m_window->findChild<WGCodeEditer *>()->document(),
+            [=] { return UnsavedOffer::headOf(window, guard->state().refusesSave()); },
+            [=] { return !guard->isBusy(); });
+        UnsavedOffer::Program program;
+        program.window = m_window;
+        program.isBusy = [=] { return guard->isBusy(); };
+        program.noteNew = [=] { guard->noteNewProgram(); };
+        m_offer.setProgram(program);
+        m_offer.start();
+    }
+
+    Boxes m_boxes;
+    WMMainWindow *m_window;
+    ProgramHistory m_history;
+    CheckedDownload m_download;
+    ProgramGuard m_guard;
+    ImportGuard m_files;
+    DeviceWatch m_devices;
+    UnsavedWork m_unsaved;
+    UnsavedOffer m_offer;
+    bool m_isStickIn = false;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QDir().mkpath(ProgramDirectory::path());
+    SafeHost host(QDir::home().filePath("safe-host"), QDir::home().filePath("plc"));
+    host.show();
+    return application.exec();
+}
+
+#include "main.moc"
