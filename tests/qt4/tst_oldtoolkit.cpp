@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -33,6 +34,7 @@ class TestOldToolkit : public FilarixTest
 
 private Q_SLOTS:
     void fontsOfTheEmbeddedOneComeFromOneFolder();
+    void hostNamesWhatStandsInForAFont();
     void windowsOfTheEmbeddedOneHaveTitleBars();
     void fullScreenLeavesTheTitleBarOut();
     void settingsOfTheEmbeddedOneLieInAFolderOfItsOwn();
@@ -54,6 +56,15 @@ void TestOldToolkit::fontsOfTheEmbeddedOneComeFromOneFolder()
         const QString pattern = QString(family).remove(' ').replace("Mono", "") + "*";
         QVERIFY2(!QDir(folder).entryList(QStringList(pattern)).isEmpty(), qPrintable(family));
     }
+}
+
+void TestOldToolkit::hostNamesWhatStandsInForAFont()
+{
+    const QString standIn("Liberation Sans");
+    QCOMPARE(QFontInfo(QFont("Arial")).family() == standIn, !isEmbedded());
+    QFont::insertSubstitution("Arial", standIn);
+    QCOMPARE(QFontInfo(QFont("Arial")).family(), standIn);
+    QFont::removeSubstitution("Arial");
 }
 
 void TestOldToolkit::windowsOfTheEmbeddedOneHaveTitleBars()
