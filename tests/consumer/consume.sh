@@ -2,11 +2,11 @@
 # SPDX-FileCopyrightText: 2026 The Filarix Module developers
 # SPDX-License-Identifier: MIT
 #
-# consume.sh [companion/]cmake|pkgconfig|qmake|subdirectory
+# consume.sh [companion/]cmake|pkgconfig|qmake|subdirectory|panel
 #
-# Builds the host against the library that install.sh left, or, by "subdirectory", takes the project
-# in whole, and runs it off-screen. With "companion/" the host links the companion. CMakeLists.txt sets
-# the environment.
+# Builds the host against the library that install.sh left, and runs it off-screen. By "subdirectory" it
+# takes the project in whole, by "panel" the library that packaging/qt4/build.sh builds. With "companion/"
+# the host links the companion. CMakeLists.txt sets the environment.
 set -euo pipefail
 
 way=${1##*/}
@@ -23,7 +23,7 @@ if [ "$1" != "$way" ]; then
     companion=ON
 fi
 # Their makefiles do not see the library's headers change.
-case "$way" in pkgconfig | qmake) rm -rf "$build" ;; esac
+case "$way" in pkgconfig | qmake | panel) rm -rf "$build" ;; esac
 mkdir -p "$build"
 
 # What a host tells of its toolkit; Qt 5 is found where the system has it.
@@ -49,6 +49,12 @@ cmake_build() {
     "$CMAKE" --build "$build" --parallel 2
 }
 
+# make_build LIBRARY MAKEFILE: against the library in that folder.
+make_build() {
+    PKG_CONFIG_PATH=$1/pkgconfig:${PKG_CONFIG_PATH:-} make -C "$build" -f "$2" \
+        SOURCES="$sources" EXAMPLES="$examples" CXX="$CCACHE $CXX" "${make_options[@]}"
+}
+
 # Only at run time is there a device library: hosts need none to link.
 libraries=$WORK/device/$LIBDIR
 case "$way" in
@@ -56,9 +62,7 @@ case "$way" in
         cmake_build -DCMAKE_PREFIX_PATH="$installed" -DEXAMPLES="$examples"
         ;;
     pkgconfig)
-        PKG_CONFIG_PATH=$installed/$LIBDIR/pkgconfig:${PKG_CONFIG_PATH:-} \
-            make -C "$build" -f "$project/Makefile" \
-            SOURCES="$sources" EXAMPLES="$examples" CXX="$CCACHE $CXX" "${make_options[@]}"
+        make_build "$installed/$LIBDIR" "$project/Makefile"
         libraries=$libraries:$installed/$LIBDIR
         ;;
     qmake)
@@ -77,6 +81,12 @@ case "$way" in
         build=$WORK/subdirectory
         cmake_build -DFILARIX_HOST=$companion -DFILARIX_SOURCE="$SOURCE" -DFILARIX_QT="$QT" \
             -DFILARIX_HMIDEVICE_LIBRARY="$DEVICE_LIBRARY"
+        ;;
+    panel)
+        BUILD=$build/library "$SOURCE/packaging/qt4/build.sh" "${TOOLKIT_LIBRARIES%/lib}" \
+            "$DEVICE_LIBRARY" "${CXX%g++}" "" "$build/root"
+        make_build "$build/root/usr/lib" "$SOURCE/tests/consumer/pkgconfig/Makefile"
+        libraries=$libraries:$build/root/usr/lib
         ;;
 esac
 
