@@ -21,6 +21,7 @@
 #include "messagebox.h"
 #include "mjline.h"
 #include "pushbutton.h"
+#include "samples.h"
 #include "scrollbar.h"
 #include "spinbox.h"
 #include "tlistwidget.h"
@@ -31,31 +32,11 @@
 #include <QDir>
 #include <QLabel>
 #include <QListView>
-#include <QSettings>
 #include <QTextStream>
 #include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
-
-const char program[] = "; stator coil, 3 layers\n"
-                       "G21\n"
-                       "G90 G00 X0 Y0 Z25.0\n"
-                       "T01 M06\n"
-                       "S1200 M03\n"
-                       "G01 X-12.5 Z3 F180.5\n"
-                       "G02 X10 Y20 I5.25 J-3\n"
-                       "G04 F0.3\n"
-                       "M05\n"
-                       "M30\n";
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("%s cannot be written", qPrintable(path));
-}
 
 /// A plain widget around \a widgets, side by side.
 QWidget *row(const QList<QWidget *> &widgets)
@@ -72,7 +53,7 @@ QWidget *mainWindow()
     WMMainWindow *window = new WMMainWindow(nullptr, 0);
     window->resize(800, 480);
     WGCodeEditer *editor = window->findChild<WGCodeEditer *>();
-    editor->readGCode(program);
+    editor->readGCode(Samples::program());
     editor->gotoLine(6);
     editor->highlightCurrentLine();
     return window;
@@ -82,7 +63,7 @@ QWidget *codeEditer()
 {
     WGCodeEditer *editor = new WGCodeEditer(nullptr);
     editor->resize(440, 330);
-    editor->readGCode(program);
+    editor->readGCode(Samples::program());
     editor->moveCursor(QTextCursor::Down);
     return editor;
 }
@@ -198,40 +179,17 @@ QWidget *listWidget()
     return stack;
 }
 
-QStringList movement(int index)
-{
-    FilarixRows::InstructionRow move(index % 2 ? FilarixRows::InstructionRow::Joint
-                                               : FilarixRows::InstructionRow::Linear,
-                                     index % 2 ? "Move" : "Wind");
-    move.setJpos("P", index % 5 + 1).setV("V", index % 3 + 1);
-    move.setZ("Z", QString::number(index * 0.5)).setT("T", "0.25").setRes("first layer");
-    const char *axes[] = {"X", "Y", "Z", "A", "B", "C", "v", "acc", "dec"};
-    for (int pair = 0; pair < FilarixRows::detailCount; ++pair)
-        move.setDetail(pair, axes[pair], QString::number((index + pair) * 12.5));
-    return move.row(index);
-}
-
 QWidget *pagedList()
 {
-    QStringList title = FilarixRows::titleRow("Instr.", "Point", "Speed", "Z", "T");
-    TListWidget *list = new TListWidget(title, nullptr);
-    list->setSize(QSize(480, 560));
-    for (int i = 1; i < 40; ++i) {
-        QStringList next = i == 5 ? FilarixRows::otherRow(i, "M10 clamp the wire") : movement(i);
-        list->addWidget(next, false, false);
-    }
-    QStringList none;
-    list->addWidget(none, true, true);
-    list->home();
-    list->setCurIndex(3, true);
+    TListWidget *list = Samples::list(QSize(480, 560));
     list->setFixedWidth(500);
     return list;
 }
 
 QWidget *instructionRow()
 {
-    QStringList closed = movement(7).mid(1);
-    QStringList open = movement(8).mid(1);
+    QStringList closed = Samples::movement(7).mid(1);
+    QStringList open = Samples::movement(8).mid(1);
     ListWidget *stack = new ListWidget(nullptr);
     const QSize size(480, 800);
     stack->addWidget(new MJLine(closed, size, stack));
@@ -266,30 +224,14 @@ QWidget *dataEditor()
 
 QWidget *connEditor()
 {
-    const QString path = QDir::home().filePath("connections.ini");
-    QSettings settings(path, QSettings::IniFormat);
-    settings.setValue("connect count", 2);
-    settings.setValue("Connect 0", "Winder");
-    settings.setValue("Connect 0 cid", 1);
-    settings.setValue("Connect 0 baud", 187500);
-    settings.setValue("Connect 0 addr", 2);
-    settings.setValue("Connect 0 com", 3);
-    settings.setValue("Connect 1", "Tension control");
-    settings.setValue("Connect 1 cid", 2);
-    settings.setValue("Connect 1 baud", 9600);
-    settings.setValue("Connect 1 addr", 3);
-    settings.setValue("Connect 1 com", 2);
-    settings.sync();
-    ConnEditor *editor = new ConnEditor(path, nullptr);
-    editor->init_list();
+    ConnEditor *editor = Samples::connections();
     editor->setFixedHeight(240);
     return editor;
 }
 
 QWidget *fileDialog()
 {
-    FileDialog *dialog = new FileDialog(QDir::AllEntries | QDir::NoDotAndDotDot, "Program",
-                                        "/mnt/Storage", nullptr, Qt::WindowTitleHint);
+    FileDialog *dialog = Samples::browser();
     dialog->setFixedHeight(300);
     return dialog;
 }
@@ -371,12 +313,7 @@ int main(int argc, char **argv)
     QFont font = QApplication::font();
     font.setPointSize(9);
     QApplication::setFont(font);
-    write(QDir::home().filePath("cnc/stator-coil.cnc"), program);
-    write(QDir::home().filePath("cnc/test-coil.cnc"), program);
-    write("/mnt/Storage/coils/rotor.cnc", program);
-    write("/mnt/Storage/cover.cnc", program);
-    write("/mnt/Storage/part.cnc", program);
-    write("/tmp/udiskattach", "");
+    Samples::writePrograms();
 
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     for (const Picture &picture : pictures) {
