@@ -183,8 +183,8 @@ void TestPanelProgram::whatASignalEndsIsOfferedAtTheNextStart()
     QTRY_COMPARE(HomeLock(lockPath()).take(), HomeLock::Own);
     ModalDriver driver;
     driver.then([](QWidget *question) {
-        QVERIFY(question->inherits("UnsavedQuestion"));
-        question->findChild<QPushButton *>("bringBack")->click();
+        QVERIFY(question->inherits("QuestionDialog"));
+        question->findChild<QPushButton *>("answer1")->click();
     });
     PanelProgram program(english(), QStringList());
     QCOMPARE(program.start(), PanelProgram::Started);

@@ -27,9 +27,12 @@ public:
 
     QString title() const override { return "rows"; }
     bool mayClose() override { return mayLoseChanges(title(), "Lose them?"); }
-    QString filePath() const override { return m_path; }
+    QString storePath() const override { return m_path; }
     QString storedText(int count) const override { return QString("stored %1").arg(count); }
     QString fileCause() const override { return "rows"; }
+    bool bringBack(const QString &, const QList<QStringList> &) override { return false; }
+    QString nameOf(const QString &) const override { return "rows"; }
+    QString describe(const QString &, const QString &, int) const override { return "rows"; }
 
     using ListScreen::addKey;
     using ListScreen::markStored;
