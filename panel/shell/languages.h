@@ -13,8 +13,8 @@ class Settings;
 
 /// The languages that the panel speaks, and the one in which it does now.
 ///
-/// A language has a translation each of the library, of its companion, of the keypads of the
-/// stand-in device library, of the panel program and of the toolkit. The widgets learn of a change
+/// A language has a translation each of the library, its companion, the panel program and the
+/// toolkit. The keypads of the stand-in device library have one, too. The widgets learn of a change
 /// by QEvent::LanguageChange.
 ///
 ///     Languages languages(folders, &settings);
