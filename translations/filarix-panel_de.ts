@@ -72,41 +72,6 @@
     </message>
 </context>
 <context>
-    <name>DownloadQuestion</name>
-    <message>
-        <source>Download</source>
-        <translation>Senden</translation>
-    </message>
-    <message>
-        <source>Send this program to the PLC?</source>
-        <translation>Dieses Programm zur SPS senden?</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation>Programm</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>Zeilen</translation>
-    </message>
-    <message>
-        <source>Checksum</source>
-        <translation>Prüfsumme</translation>
-    </message>
-    <message>
-        <source>Send</source>
-        <translation>Senden</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>%1 in the file, %2 shown</source>
-        <translation>%1 in der Datei, %2 gezeigt</translation>
-    </message>
-</context>
-<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -365,10 +330,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>%1 is in the PLC: %2 bytes, compared.</source>
-        <translation>%1 ist in der SPS: %2 Bytes, verglichen.</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>Unbenannt</translation>
     </message>
@@ -397,32 +358,12 @@
         <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
-        <source>%1 goes to the PLC: %2 %</source>
-        <translation>%1 wird zur SPS gesendet: %2 %</translation>
-    </message>
-    <message>
         <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
         <translation>Die Maschine steht schon auf Punkt %1 „%2“: nichts einzufügen.</translation>
     </message>
     <message>
         <source>Point %1 &quot;%2&quot; inserted: %3</source>
         <translation>Punkt %1 „%2“ eingefügt: %3</translation>
-    </message>
-    <message>
-        <source>Nothing was sent. The PLC keeps what it had.</source>
-        <translation>Nichts gesendet. Die SPS behält ihr bisheriges Programm.</translation>
-    </message>
-    <message>
-        <source>The program is made ready: %1 %</source>
-        <translation>Das Programm wird vorbereitet: %1 %</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel hat es sich seither geändert: erneut senden, um das neue zu senden.</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
-        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel ist es nicht mehr.</translation>
     </message>
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>

@@ -72,41 +72,6 @@
     </message>
 </context>
 <context>
-    <name>DownloadQuestion</name>
-    <message>
-        <source>Download</source>
-        <translation>Invio</translation>
-    </message>
-    <message>
-        <source>Send this program to the PLC?</source>
-        <translation>Inviare questo programma al PLC?</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation>Programma</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>Righe</translation>
-    </message>
-    <message>
-        <source>Checksum</source>
-        <translation>Checksum</translation>
-    </message>
-    <message>
-        <source>Send</source>
-        <translation>Invia</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>%1 in the file, %2 shown</source>
-        <translation>%1 nel file, %2 mostrate</translation>
-    </message>
-</context>
-<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -365,10 +330,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>%1 is in the PLC: %2 bytes, compared.</source>
-        <translation>%1 è nel PLC: %2 byte, confrontati.</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>Senza nome</translation>
     </message>
@@ -397,32 +358,12 @@
         <translation>%1 ha modifiche non salvate.</translation>
     </message>
     <message>
-        <source>%1 goes to the PLC: %2 %</source>
-        <translation>Invio di %1 al PLC: %2 %</translation>
-    </message>
-    <message>
         <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
         <translation>La macchina è già sul punto %1 &quot;%2&quot;: nulla da inserire.</translation>
     </message>
     <message>
         <source>Point %1 &quot;%2&quot; inserted: %3</source>
         <translation>Inserito il punto %1 &quot;%2&quot;: %3</translation>
-    </message>
-    <message>
-        <source>Nothing was sent. The PLC keeps what it had.</source>
-        <translation>Nulla è stato inviato. Il PLC conserva ciò che aveva.</translation>
-    </message>
-    <message>
-        <source>The program is made ready: %1 %</source>
-        <translation>Preparazione del programma: %1 %</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 è nel PLC come mostrato, %2. Sul pannello è cambiato da allora: inviarlo di nuovo per inviare il nuovo.</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
-        <translation>%1 è nel PLC come mostrato, %2. Sul pannello non c&apos;è più.</translation>
     </message>
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>

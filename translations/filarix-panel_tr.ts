@@ -72,41 +72,6 @@
     </message>
 </context>
 <context>
-    <name>DownloadQuestion</name>
-    <message>
-        <source>Download</source>
-        <translation>Yükleme</translation>
-    </message>
-    <message>
-        <source>Send this program to the PLC?</source>
-        <translation>Bu program PLC&apos;ye yüklensin mi?</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation>Program</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>Satırlar</translation>
-    </message>
-    <message>
-        <source>Checksum</source>
-        <translation>Sağlama</translation>
-    </message>
-    <message>
-        <source>Send</source>
-        <translation>Yükle</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
-        <source>%1 in the file, %2 shown</source>
-        <translation>Dosyada %1, ekranda %2</translation>
-    </message>
-</context>
-<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -365,10 +330,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>%1 is in the PLC: %2 bytes, compared.</source>
-        <translation>%1 PLC&apos;de: %2 bayt, karşılaştırıldı.</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>Adsız</translation>
     </message>
@@ -397,32 +358,12 @@
         <translation>%1 içinde kaydedilmemiş değişiklikler var.</translation>
     </message>
     <message>
-        <source>%1 goes to the PLC: %2 %</source>
-        <translation>%1 PLC&apos;ye yükleniyor: %2 %</translation>
-    </message>
-    <message>
         <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
         <translation>Makine zaten %1 &quot;%2&quot; noktasında: eklenecek bir şey yok.</translation>
     </message>
     <message>
         <source>Point %1 &quot;%2&quot; inserted: %3</source>
         <translation>%1 &quot;%2&quot; noktası eklendi: %3</translation>
-    </message>
-    <message>
-        <source>Nothing was sent. The PLC keeps what it had.</source>
-        <translation>Hiçbir şey yüklenmedi. PLC eski içeriğini korur.</translation>
-    </message>
-    <message>
-        <source>The program is made ready: %1 %</source>
-        <translation>Program hazırlanıyor: %1 %</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde o zamandan beri değişti: yenisi için yeniden yükleyin.</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
-        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde artık yok.</translation>
     </message>
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>

@@ -72,41 +72,6 @@
     </message>
 </context>
 <context>
-    <name>DownloadQuestion</name>
-    <message>
-        <source>Download</source>
-        <translation>下载</translation>
-    </message>
-    <message>
-        <source>Send this program to the PLC?</source>
-        <translation>将此程序下载到 PLC?</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation>程序</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>行数</translation>
-    </message>
-    <message>
-        <source>Checksum</source>
-        <translation>校验码</translation>
-    </message>
-    <message>
-        <source>Send</source>
-        <translation>下载</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>%1 in the file, %2 shown</source>
-        <translation>文件中 %1, 显示 %2</translation>
-    </message>
-</context>
-<context>
     <name>FilesScreen</name>
     <message>
         <source>Plug</source>
@@ -365,10 +330,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>%1 is in the PLC: %2 bytes, compared.</source>
-        <translation>%1 已在 PLC 中: %2 字节, 校验一致。</translation>
-    </message>
-    <message>
         <source>New program</source>
         <translation>新程序</translation>
     </message>
@@ -397,32 +358,12 @@
         <translation>%1 有未保存的更改。</translation>
     </message>
     <message>
-        <source>%1 goes to the PLC: %2 %</source>
-        <translation>正在将 %1 下载到 PLC: %2 %</translation>
-    </message>
-    <message>
         <source>The machine already stands as point %1 &quot;%2&quot; wants it: nothing to insert.</source>
         <translation>机器已在点 %1“%2”处: 无需插入。</translation>
     </message>
     <message>
         <source>Point %1 &quot;%2&quot; inserted: %3</source>
         <translation>已插入点 %1“%2”: %3</translation>
-    </message>
-    <message>
-        <source>Nothing was sent. The PLC keeps what it had.</source>
-        <translation>未下载。PLC 保持原有内容。</translation>
-    </message>
-    <message>
-        <source>The program is made ready: %1 %</source>
-        <translation>正在准备程序: %1 %</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 已按显示的内容下载到 PLC, %2。面板上的程序此后已更改: 如需新程序请重新下载。</translation>
-    </message>
-    <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
-        <translation>%1 已按显示的内容下载到 PLC, %2。面板上已没有此程序。</translation>
     </message>
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>

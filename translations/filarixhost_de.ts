@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CheckedDownload</name>
+    <message>
+        <source>The program is made ready: %1 %</source>
+        <translation>Das Programm wird vorbereitet: %1 %</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>Nichts gesendet. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>%1 wird zur SPS gesendet: %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 ist in der SPS: %2 Bytes, verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel hat es sich seither geändert: erneut senden, um das neue zu senden.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel ist es nicht mehr.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -38,6 +69,53 @@
     <message>
         <source>The addresses are not stored: %1.</source>
         <translation>Die Adressen sind nicht gespeichert: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadFacts</name>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>%1 in der Datei, %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 in the file, comments not shown</source>
+        <translation>%1 in der Datei, ohne Kommentare gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 in the file, others shown</source>
+        <translation>%1 in der Datei, andere gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 in the file, not compared</source>
+        <translation>%1 in der Datei, nicht verglichen</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>Dieses Programm zur SPS senden?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Prüfsumme</translation>
     </message>
 </context>
 <context>
@@ -608,6 +686,10 @@
     <message>
         <source>neither here nor on the stick, which is out</source>
         <translation>weder hier noch auf dem Stick, der nicht steckt</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, whose file differs</source>
+        <translation>weder hier noch auf dem Stick, dessen Datei abweicht</translation>
     </message>
 </context>
 <context>

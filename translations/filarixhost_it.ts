@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>CheckedDownload</name>
+    <message>
+        <source>The program is made ready: %1 %</source>
+        <translation>Preparazione del programma: %1 %</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>Nulla è stato inviato. Il PLC conserva ciò che aveva.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>Invio di %1 al PLC: %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 è nel PLC: %2 byte, confrontati.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 è nel PLC come mostrato, %2. Sul pannello è cambiato da allora: inviarlo di nuovo per inviare il nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 è nel PLC come mostrato, %2. Sul pannello non c&apos;è più.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -38,6 +69,53 @@
     <message>
         <source>The addresses are not stored: %1.</source>
         <translation>Gli indirizzi non sono salvati: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadFacts</name>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>%1 nel file, %2 mostrate</translation>
+    </message>
+    <message>
+        <source>%1 in the file, comments not shown</source>
+        <translation>%1 nel file, commenti non mostrati</translation>
+    </message>
+    <message>
+        <source>%1 in the file, others shown</source>
+        <translation>%1 nel file, mostrate altre</translation>
+    </message>
+    <message>
+        <source>%1 in the file, not compared</source>
+        <translation>%1 nel file, non confrontate</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Invio</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>Inviare questo programma al PLC?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Invia</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Checksum</translation>
     </message>
 </context>
 <context>
@@ -608,6 +686,10 @@
     <message>
         <source>neither here nor on the stick, which is out</source>
         <translation>né qui né sulla chiavetta, che non è inserita</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, whose file differs</source>
+        <translation>né qui né sulla chiavetta, il cui file è diverso</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>CheckedDownload</name>
+    <message>
+        <source>The program is made ready: %1 %</source>
+        <translation>Program hazırlanıyor: %1 %</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
+    </message>
+    <message>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>Hiçbir şey yüklenmedi. PLC eski içeriğini korur.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>%1 PLC&apos;ye yükleniyor: %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 PLC&apos;de: %2 bayt, karşılaştırıldı.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde o zamandan beri değişti: yenisi için yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde artık yok.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -38,6 +69,53 @@
     <message>
         <source>The addresses are not stored: %1.</source>
         <translation>Adresler kaydedilmedi: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadFacts</name>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>Dosyada %1, ekranda %2</translation>
+    </message>
+    <message>
+        <source>%1 in the file, comments not shown</source>
+        <translation>Dosyada %1, yorumlar gösterilmiyor</translation>
+    </message>
+    <message>
+        <source>%1 in the file, others shown</source>
+        <translation>Dosyada %1, ekranda başkaları</translation>
+    </message>
+    <message>
+        <source>%1 in the file, not compared</source>
+        <translation>Dosyada %1, karşılaştırılmadı</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Yükleme</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>Bu program PLC&apos;ye yüklensin mi?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Yükle</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Satırlar</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>Sağlama</translation>
     </message>
 </context>
 <context>
@@ -608,6 +686,10 @@
     <message>
         <source>neither here nor on the stick, which is out</source>
         <translation>ne burada ne de takılı olmayan bellekte</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, whose file differs</source>
+        <translation>ne burada ne de dosyası farklı olan bellekte</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>CheckedDownload</name>
+    <message>
+        <source>The program is made ready: %1 %</source>
+        <translation>正在准备程序: %1 %</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>下载已停止。PLC 保持原有内容。</translation>
+    </message>
+    <message>
+        <source>Nothing was sent. The PLC keeps what it had.</source>
+        <translation>未下载。PLC 保持原有内容。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the PLC: %2 %</source>
+        <translation>正在将 %1 下载到 PLC: %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC: %2 bytes, compared.</source>
+        <translation>%1 已在 PLC 中: %2 字节, 校验一致。</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
+        <translation>%1 已按显示的内容下载到 PLC, %2。面板上的程序此后已更改: 如需新程序请重新下载。</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
+        <translation>%1 已按显示的内容下载到 PLC, %2。面板上已没有此程序。</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -38,6 +69,53 @@
     <message>
         <source>The addresses are not stored: %1.</source>
         <translation>地址未保存: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadFacts</name>
+    <message>
+        <source>%1 in the file, %2 shown</source>
+        <translation>文件中 %1, 显示 %2</translation>
+    </message>
+    <message>
+        <source>%1 in the file, comments not shown</source>
+        <translation>文件中 %1, 未显示注释</translation>
+    </message>
+    <message>
+        <source>%1 in the file, others shown</source>
+        <translation>文件中 %1, 显示的是其他行</translation>
+    </message>
+    <message>
+        <source>%1 in the file, not compared</source>
+        <translation>文件中 %1, 未比较</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Send this program to the PLC?</source>
+        <translation>将此程序下载到 PLC?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>行数</translation>
+    </message>
+    <message>
+        <source>Checksum</source>
+        <translation>校验码</translation>
     </message>
 </context>
 <context>
@@ -608,6 +686,10 @@
     <message>
         <source>neither here nor on the stick, which is out</source>
         <translation>此处和已拔出的 U 盘都未保存</translation>
+    </message>
+    <message>
+        <source>neither here nor on the stick, whose file differs</source>
+        <translation>面板和 U 盘上都没有, U 盘上的文件不同</translation>
     </message>
 </context>
 <context>
