@@ -34,8 +34,10 @@ class FILARIX_HOST_EXPORT ClickGate : public QObject
 public:
     typedef std::function<void()> Answer;
 
+    /// Each click of \a button passes until onClick() is called.
     explicit ClickGate(QAbstractButton *button);
 
+    /// The button that the gate stands before.
     QAbstractButton *button() const;
 
     /// \a hold runs in the place of each click. It has to lead to one pass() or drop(), at once or
@@ -46,6 +48,7 @@ public:
     void pass();
     /// The click never was.
     void drop();
+    /// Whether a click is held at the moment.
     bool isHolding() const { return m_isHolding; }
 
 Q_SIGNALS:

@@ -8,18 +8,21 @@
 
 #include <QObject>
 
-/// Opens the character keypad on a touched field of the find dialog.
+/// Opens the character keypad on a touched field of the library's find dialog.
 ///
-/// The library's other fields open a keypad by themselves; those of its find dialog are for keys,
-/// and a panel may have none.
+/// The library's other fields open a keypad by themselves. The fields of the find dialog are made
+/// for keys, and a panel may have no keys.
+///
+///     new FindDialogKeypad(window);
 class FILARIX_HOST_EXPORT FindDialogKeypad : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches the application from now on.
+    /// Watches all find dialogs of the application, until \a parent takes the keypad along.
     explicit FindDialogKeypad(QObject *parent);
 
+    /// Takes nothing away from the field, unless the field went while the keypad was open.
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 

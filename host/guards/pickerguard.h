@@ -14,27 +14,34 @@ class QDialog;
 class QLabel;
 class QLineEdit;
 
-/// Stands between the OK of the library's program picker and the name that it takes: a name with a
-/// path, a hidden or an empty one is refused there, in words above the list.
+/// Stands between the OK of the library's program picker and the name that the dialog takes. A name
+/// with a path, a hidden name and an empty name are refused, in words above the list.
 ///
-/// The dialog owns its guard.
+/// The dialog owns its guard, and may have one at the most.
+///
+///     PickerGuard *guard = new PickerGuard(dialog);
+///     guard->onName([guard](const QString &name) { guard->pass(); });
 class PickerGuard : public QObject
 {
     Q_OBJECT
 
 public:
+    /// \a dialog is a WFileDialog: its first line edit holds the name, its first push button is OK.
     explicit PickerGuard(QDialog *dialog);
 
-    /// The dialog proposes \a name instead of its first file, and a name without a suffix gets one
-    /// proposed.
+    /// The dialog proposes \a name, once events are served, in the place of its first file. A name
+    /// without a suffix gets one proposed from now on.
     void proposeForSaving(const QString &name);
-    /// The names in the list.
+    /// The names in the dialog's list, in the order of the list.
     QStringList listedNames() const;
 
-    /// \a hold runs for each name that can be one, and leads to one pass() or drop().
+    /// \a hold runs for each name that a program can have, and leads to one pass() or drop(), at
+    /// once or later. Whoever holds a name for long keeps a QPointer to the guard.
     void onName(const std::function<void(const QString &)> &hold) { m_hold = hold; }
+    /// The dialog takes the name that is held.
     void pass();
-    /// The dialog stays as it is; \a reason, if there is one, is shown in it.
+    /// The dialog stays open. \a reason, a sentence, is shown above the list; an empty one shows
+    /// nothing.
     void drop(const QString &reason = QString());
 
 private:

@@ -28,9 +28,9 @@ class WMMainWindow;
 
 /// Shields an operator from what the library's program window loses without a word.
 ///
-/// It knows how what is shown stands to the file, compares both after each opening and each save,
-/// holds back what would lose something until the operator has said so, and has what a save
-/// replaces kept before. No file is touched in the thread that calls it.
+/// The guard compares the editor with the file after each opening and each save, and knows the
+/// state. A command that would lose something is held until the operator has agreed. What a save
+/// replaces is kept before. The guard touches no file in the caller's thread.
 ///
 ///     ProgramGuard guard(window, "/home/hmi/cnc", &questioner);
 ///     guard.setHistory(...);
@@ -40,8 +40,9 @@ class FILARIX_HOST_EXPORT ProgramGuard : public QObject
     Q_OBJECT
 
 public:
-    /// Of a window that was made just now. \a programDir is where the library keeps its programs.
-    /// \a questioner must outlive the guard.
+    /// \a window was made just now, and is given to one guard at the most. \a programDir is where
+    /// the library keeps its programs, ProgramDirectory::path(). \a window and \a questioner must
+    /// outlive the guard.
     ProgramGuard(WMMainWindow *window, const QString &programDir, Questioner *questioner,
                  QObject *parent = nullptr);
     ~ProgramGuard() override;
@@ -58,24 +59,27 @@ public:
     /// Milliseconds after which the panel's storage counts as one that does not answer.
     void setStallTime(int ms) { m_jobs.setStallTime(ms); }
 
+    /// How the editor stands to the program's file.
     const ProgramState &state() const { return m_state; }
-    /// A command is under way, or what came of it is still being looked at.
+    /// Whether a command is under way, or its outcome is still being looked at.
     bool isBusy() const;
-    /// A program is being loaded.
+    /// Whether a program is being loaded.
     bool isLoading() const { return m_commands.running() == WindowCommands::Open; }
-    /// Whether the program at \a path may be sent; tells why not.
+    /// Whether the program at \a path may be sent to the PLC. If not, told() says why.
     bool mayDownload(const QString &path);
-    /// The window was emptied by its own newFile(), not by its key.
+    /// To be called after the window's newFile(), which comes by no key that the guard would see.
     void noteNewProgram();
-    /// Saves as the Save key does, with all questions. Ends in one saveEnded().
+    /// Saves as the Save key does, with all questions. Ends in one saveEnded(), from the event
+    /// loop.
     void save();
 
 Q_SIGNALS:
+    /// \a text is for the operator. The causes are "program state" and "program refused".
     void told(const QString &text, Message::Tone tone, const QString &cause = QString());
     void causeEnded(const QString &cause);
     /// state() gives something else now.
     void stateChanged();
-    /// A save came to its end, given up or not.
+    /// A save came to its end. \a isStored: the disk was read back and holds the document.
     void saveEnded(bool isStored);
 
 private Q_SLOTS:

@@ -25,26 +25,32 @@ class FILARIX_HOST_EXPORT WindowCommands : public QObject
 public:
     enum Command { None, New, Open, Remove, Save, SaveAs, Download };
 
-    /// Of a window that was made just now: its buttons are told apart by their tool tips, of which
-    /// one follows the language of that moment.
+    /// \a window was made just now: its buttons are told apart by their tool tips, and one of these
+    /// follows the language of that moment. \a window must outlive this object, and is given to one
+    /// such object at the most.
     explicit WindowCommands(WMMainWindow *window, QObject *parent = nullptr);
 
-    /// \a hold runs in the place of each command, and leads to one pass() or drop().
+    /// \a hold runs in the place of each command, and leads to one pass() or drop(), at once or
+    /// later. Has to be called before the window is used.
     void onCommand(const std::function<void(Command)> &hold) { m_hold = hold; }
+    /// The window carries the held command out, from the event loop. Ends in one done() or lost().
     void pass(Command command);
+    /// The held command never was.
     void drop(Command command);
-    /// As if the operator pressed the command's button, which its bar may have hidden.
+    /// As if the operator pressed the command's button, even where the bar hides the button. Like
+    /// any press it is held first. None and a command that the window lacks do nothing, here and in
+    /// pass() and drop().
     void press(Command command);
 
-    /// The command that the library carries out at the moment; it may wait in a dialog.
+    /// The command that the window carries out at the moment, dialogs included; or None.
     Command running() const { return m_running; }
-    /// Or one is just about to be.
+    /// Whether a command runs, or has passed and is about to.
     bool isBusy() const { return m_running != None || m_passing != None; }
 
 Q_SIGNALS:
     /// A command that passed is over, with all its dialogs.
     void done(WindowCommands::Command command);
-    /// One that passed never ran: its button was disabled by then.
+    /// A command that passed never ran: its button was disabled by then.
     void lost(WindowCommands::Command command);
 
 private Q_SLOTS:

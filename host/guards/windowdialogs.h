@@ -11,10 +11,14 @@
 class QDialog;
 class QMessageBox;
 
-/// Sees the dialogs that the library's program window opens for its file commands. They have no
-/// parent, so they are found as they are shown.
+/// Sees the dialogs that the library's program window opens for its file commands. The dialogs have
+/// no parent, so each is found when it is shown, by its class, title and buttons.
 ///
-/// The signals come before the dialog's own handling of its showing.
+/// A signal comes before the dialog itself handles that it is shown. The dialogs stay the library's
+/// own. A dialog of another program part counts only if class, title and buttons are the same.
+///
+///     WindowDialogs dialogs;
+///     connect(&dialogs, SIGNAL(failed()), ...);
 class FILARIX_HOST_EXPORT WindowDialogs : public QObject
 {
     Q_OBJECT
@@ -22,22 +26,25 @@ class FILARIX_HOST_EXPORT WindowDialogs : public QObject
 public:
     enum Picker { OpenPicker, SavePicker, RemovePicker };
 
+    /// Watches the application from now on.
     explicit WindowDialogs(QObject *parent = nullptr);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
+    /// A program is to be picked: to be opened, to be written to, or to be removed.
     void pickerShown(QDialog *dialog, WindowDialogs::Picker picker);
-    /// Asks whether changes are to be saved first.
+    /// \a box asks whether changes are to be saved first.
     void saveQuestionShown(QMessageBox *box);
-    /// Asks whether the program that is open is to be read again.
+    /// \a box asks whether the program that is open is to be read again.
     void reloadQuestionShown(QMessageBox *box);
+    /// \a box asks whether a program is to be removed.
     void removeQuestionShown(QMessageBox *box);
-    /// The file was removed.
+    /// The program was removed.
     void removed();
-    /// A file could not be opened, to be read or to be written; the box says why.
+    /// A file could not be opened, for reading or for writing; the library's box says why.
     void failed();
-    /// A long program was given up while it was loaded.
+    /// The operator gave up a long program while the window loaded it.
     void loadAborted();
 
 private:

@@ -40,21 +40,25 @@ public:
         NotSettled
     };
 
-    /// Watches the application from now on. \a history must outlive the guard, if there is one.
+    /// Watches all import managers of the application from now on. \a programDir and \a stickDir
+    /// are the manager's two folders. Without a \a history programs are covered and deleted
+    /// unkept; a history must outlive the guard.
     ImportGuard(const QString &programDir, const QString &stickDir,
                 ProgramHistory *history = nullptr, QObject *parent = nullptr);
 
     /// Looks for unsafe names, asks whether to rename them, if there are any, and does it on Yes.
     /// Ends in \a then, from the event loop. Does nothing while the guard is busy.
     void settle(const std::function<void(Settled)> &then = [](Settled) {});
-    /// A press waits, or a question.
+    /// Whether a press waits, or a question.
     bool isBusy() const;
     /// Milliseconds after which the stick counts as one that does not answer.
     void setStallTime(int ms) { m_job.setStallTime(ms); }
 
+    /// Keeps no event back.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
+    /// \a text is for the operator. The cause is "stick", or none.
     void told(const QString &text, Message::Tone tone, const QString &cause = QString());
     void causeEnded(const QString &cause);
     /// Names were changed, or a command of a manager has ended.

@@ -29,20 +29,23 @@ public:
         Different
     };
 
+    /// Of a \a command for the file \a name, a bare name, between the two folders.
     TransferReport(Command command, const QString &programDir, const QString &stickDir,
                    const QString &name);
 
     Command command() const { return m_command; }
     QString name() const { return m_name; }
+    /// Whether the command makes no sense without a stick.
     bool needsStick() const { return m_command != DeleteFromPanel; }
-    /// Whether it may cover or take away a program of the panel.
+    /// Whether the command may cover or take away a program of the panel.
     bool changesPrograms() const
     {
         return m_command == CopyToPanel || m_command == DeleteFromPanel;
     }
 
-    /// Takes note of what is there. May wait for the stick, as judge() may.
+    /// Takes note of what is there. May wait for the stick.
     void lookBefore();
+    /// What became of it since lookBefore(). May wait for the stick, and reads both files.
     Outcome judge() const;
 
 private:
