@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QRegExp>
 #include <QScopedPointer>
 #include <QStringList>
 
@@ -20,6 +21,9 @@ private Q_SLOTS:
     void callMayEndItsContext();
     void callMayRunAnEventLoop();
     void utcTimeIsTheMoment();
+    void sleepingTakesItsTime();
+    void namesAreUnique();
+    void blockedSignalsAreLeftAsTheyWere();
 };
 
 void TestHostCompat::callsComeFromTheEventLoopInOrder()
@@ -95,6 +99,40 @@ void TestHostCompat::utcTimeIsTheMoment()
     const QDateTime time = HostCompat::utcTime(Q_INT64_C(1772627460123));
     QCOMPARE(time.timeSpec(), Qt::UTC);
     QCOMPARE(time.toString("yyyy-MM-dd HH:mm:ss.zzz"), QString("2026-03-04 12:31:00.123"));
+}
+
+void TestHostCompat::sleepingTakesItsTime()
+{
+    QElapsedTimer time;
+    time.start();
+    HostCompat::sleep(30);
+    QVERIFY(time.elapsed() >= 29);
+}
+
+void TestHostCompat::namesAreUnique()
+{
+    QStringList names;
+    for (int i = 0; i < 1000; ++i) {
+        const QString name = HostCompat::uniqueName();
+        QVERIFY2(QRegExp("[0-9a-f]{32}").exactMatch(name), qPrintable(name));
+        names.append(name);
+    }
+    QCOMPARE(names.removeDuplicates(), 0);
+}
+
+void TestHostCompat::blockedSignalsAreLeftAsTheyWere()
+{
+    QObject object;
+    {
+        const HostCompat::SignalBlocker blocker(&object);
+        QVERIFY(object.signalsBlocked());
+        {
+            const HostCompat::SignalBlocker again(&object);
+            QVERIFY(object.signalsBlocked());
+        }
+        QVERIFY(object.signalsBlocked());
+    }
+    QVERIFY(!object.signalsBlocked());
 }
 
 FILARIX_TEST_MAIN(TestHostCompat)

@@ -487,7 +487,7 @@ void TestProgramHistory::waiterIsCalledWhenAWriterDoesNotEnd()
     QVERIFY(!m_history->isKept("coil.cnc"));
     QTRY_VERIFY(m_history->isSettled());
     QVERIFY(m_history->isKept("coil.cnc"));
-    m_history->setPatience(500);
+    m_history->setPatience(250);
     QTimer writer;
     QByteArray bytes;
     const SignalHook hook(&writer, SIGNAL(timeout()),
@@ -499,7 +499,7 @@ void TestProgramHistory::waiterIsCalledWhenAWriterDoesNotEnd()
     int calls = 0;
     m_history->whenSettled(this, [&] { ++calls; });
     QTRY_COMPARE(calls, 1);
-    QVERIFY(timer.elapsed() >= 499);
+    QVERIFY(timer.elapsed() >= 249);
     QVERIFY(!m_history->isKept("coil.cnc"));
     writer.stop();
     m_history->whenSettled(this, [&] { ++calls; });
@@ -516,7 +516,7 @@ void TestProgramHistory::lookThatNobodyWaitedForKeepsNothing()
     start();
     QTRY_VERIFY(m_history->isSettled());
     QVERIFY(m_history->isKept("coil.cnc"));
-    m_history->setPatience(300);
+    m_history->setPatience(150);
     m_history->setStallTime(60000);
     writeFile(slow, "more\n");
     age(slow);
@@ -774,7 +774,7 @@ void TestProgramHistory::stalledSyncBringsNothingBack()
         if (path.contains(".filarix-restored") && !hangs->exchange(true))
             gate->acquire();
     };
-    m_history->setStallTime(300);
+    m_history->setStallTime(150);
     m_history->restore(versionOf("one\n"));
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(lastTone(), Message::Alarm);
@@ -806,7 +806,7 @@ void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
             gate->acquire();
         return 0;
     };
-    m_history->setStallTime(300);
+    m_history->setStallTime(150);
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(lastTone(), Message::Alarm);

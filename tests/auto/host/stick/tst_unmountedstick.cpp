@@ -14,8 +14,9 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
-/// The state after an unmount: the marker is still there, and so is the mount point, as a folder of
-/// the panel's own disk. The sandbox of this program has no file system there.
+/// Of Stick, DeviceWatch and ImportGuard: the state after an unmount. The marker is still there,
+/// and so is the mount point, as a folder of the panel's own disk. The sandbox of this program has
+/// no file system there.
 class TestUnmountedStick : public FilarixTest
 {
     Q_OBJECT
