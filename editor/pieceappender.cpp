@@ -24,6 +24,9 @@ const int passedLimit = 1 << 16;
 
 const char adjustName[] = "_q_adjustScrollbars";
 
+/// The width of a line that nobody has asked for.
+const int notGauged = LineGauge::unknown - 1;
+
 PieceAppender *innermost = nullptr;
 
 /// For a while, a flag has another value.
@@ -112,6 +115,7 @@ PieceAppender::PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter,
     , m_isInserting(false)
     , m_leavesBars(false)
     , m_blocks(0)
+    , m_top(0)
     , m_firstKnown(-1)
     , m_revision(0)
     , m_lineHeight(0)
@@ -171,7 +175,8 @@ void PieceAppender::appendUnseen(const QString &text)
     if (m_firstKnown >= 0 && !isCurrent())
         forget();
     const int top = m_access.firstVisibleBlock().blockNumber();
-    noteLayoutFrom(top);
+    if (top != m_top || documentWidth() != m_width)
+        noteLayoutFrom(top);
     const bool wasAtEnd = isAtEnd();
     layOutAhead(text.count(QLatin1Char('\n')) + 1);
     insert(text);
@@ -181,10 +186,12 @@ void PieceAppender::appendUnseen(const QString &text)
     }
     // The layout of the block that was the last is gone.
     m_lastOfPage = qMin(m_lastOfPage, m_blocks - 2);
-    noteLayoutFrom(top);
+    if (m_isRelaidOut || documentWidth() != m_width)
+        noteLayoutFrom(top);
     fitScrollBars();
     if (wasAtEnd)
         followEnd();
+    m_top = m_access.firstVisibleBlock().blockNumber();
     if (m_firstKnown < 0)
         learnPage();
     if (m_isRelaidOut)
@@ -552,7 +559,7 @@ bool PieceAppender::isCurrent() const
            && m_font == document()->defaultFont();
 }
 
-/// Notes how wide the lines of a piece are that has gone in.
+/// Notes that the lines of a piece have gone in and are as they were.
 void PieceAppender::learnText(const QString &text, int revisionBefore)
 {
     if (m_firstKnown < 0 || m_document != document())
@@ -562,16 +569,8 @@ void PieceAppender::learnText(const QString &text, int revisionBefore)
         m_widths.remove(0, qMin(keep, m_widths.size()));
         m_firstKnown += keep;
     }
-    LineGauge &gauge = LineGauge::of(m_font, m_view->viewport());
-    const QChar *const characters = text.constData();
-    int from = 0;
-    while (from <= text.size()) {
-        int end = text.indexOf(QLatin1Char('\n'), from);
-        if (end < 0)
-            end = text.size();
-        m_widths.append(gauge.width(characters + from, end - from));
-        from = end + 1;
-    }
+    const int count = text.count(QLatin1Char('\n')) + 1;
+    m_widths.insert(m_widths.size(), count, notGauged);
     const bool isAlone = revisionBefore == m_revision && document()->revision() == m_revision + 1;
     m_revision = document()->revision();
     if (!isAlone || m_firstKnown + m_widths.size() != document()->blockCount())
@@ -607,14 +606,26 @@ qreal PieceAppender::documentWidth() const
     return m_layout->documentSize().width();
 }
 
+/// At least the width of the lines of a block; most are never asked for.
+int PieceAppender::widthOf(const QTextBlock &block)
+{
+    const int at = block.blockNumber() - m_firstKnown;
+    if (at < 0 || at >= m_widths.size())
+        return LineGauge::unknown;
+    if (m_widths.at(at) == notGauged) {
+        const QString text = block.text();
+        m_widths[at] =
+            LineGauge::of(m_font, m_view->viewport()).width(text.constData(), text.size());
+    }
+    return m_widths.at(at);
+}
+
 /// Whether \a block is known to be as high as all the others. If it may matter to the width of the
 /// document, it is laid out.
 bool PieceAppender::isKnown(const QTextBlock &block)
 {
     const int number = block.blockNumber();
-    const int width = number < m_firstKnown
-                          ? int(LineGauge::unknown)
-                          : m_widths.value(number - m_firstKnown, LineGauge::unknown);
+    const int width = widthOf(block);
     const QTextLayout *const layout = block.layout();
     if (width == LineGauge::unknown || !block.isVisible() || block.lineCount() != 1
         || m_view->lineWrapMode() != QPlainTextEdit::NoWrap || !layout->preeditAreaText().isEmpty()

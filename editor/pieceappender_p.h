@@ -86,6 +86,7 @@ private:
     void layOutSkipped();
     void layOutAhead(int added);
     bool isCurrent() const;
+    int widthOf(const QTextBlock &block);
     bool isKnown(const QTextBlock &block);
     bool areKnown(const QTextBlock &top, const QTextBlock &target, int *steps);
     void noteLayout(int first, int last);
@@ -121,6 +122,7 @@ private:
     bool m_isInserting;
     bool m_leavesBars; ///< as they are, until the piece is in
     int m_blocks;      ///< before the piece
+    int m_top;         ///< block of the view, behind the last piece
 
     // What is known of the blocks from m_firstKnown on, to the end of the document of m_revision;
     // of none if that is -1.
