@@ -121,7 +121,8 @@ const struct
       "Remove %1?",
       "Success to remove file.",
       "Cannot read file %1:\n%2.",
-      "Cannot write file %1:\n%2."}},
+      "Cannot write file %1:\n%2.",
+      "It is a device or a pipe, not a file"}},
 };
 
 /// What stays English whatever the language, and on purpose: the one list of it.
