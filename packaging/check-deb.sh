@@ -45,11 +45,12 @@ step "a new Debian ($codename)"
 debootstrap --variant=minbase "$codename" "$debian" "$mirror" >"$scratch/debootstrap.log" \
     || { tail -n 20 "$scratch/debootstrap.log" >&2; fail "debootstrap"; }
 
-mkdir -p "$debian/packages" "$debian/consumer"
+mkdir -p "$debian/packages" "$debian/consumer/examples"
 cp "$packages"/*.deb "$debian/packages"
 (cd "$debian/packages" && dpkg-scanpackages --multiversion . >Packages 2>/dev/null)
 echo "deb [trusted=yes] file:/packages ./" >"$debian/etc/apt/sources.list.d/local.list"
 cp -r "$root/tests/consumer/"{host,cmake,pkgconfig,qmake,companion} "$debian/consumer"
+cp -r "$root/examples/safe-host" "$debian/consumer/examples"
 
 inside() {
     bwrap --bind "$debian" / --dev /dev --proc /proc --tmpfs /run --tmpfs /tmp --unshare-pid \
@@ -97,17 +98,19 @@ inside sh -eu -c '
     make' >"$scratch/hosts.log" 2>&1 || { tail -n 30 "$scratch/hosts.log" >&2; fail "hosts"; }
 
 step "hosts, with the companion"
-! inside cmake -S /consumer/companion/cmake -B companion-cmake >"$scratch/hosts.log" 2>&1 \
+! inside cmake -S /consumer/companion/cmake -B companion-cmake -DEXAMPLES=/consumer/examples \
+    >"$scratch/hosts.log" 2>&1 \
     || fail "the library's development package gives a companion"
 grep -q 'Host is not installed here' "$scratch/hosts.log" || fail "$(<"$scratch/hosts.log")"
 apt_install --no-install-recommends libfilarixhost-dev
 has_no_stand_in libfilarixhost-dev
 lacks_the_device_library_alone libFilarixHost.so.1
 inside sh -eu -c '
-    cmake -S /consumer/companion/cmake -B companion-cmake
+    cmake -S /consumer/companion/cmake -B companion-cmake -DEXAMPLES=/consumer/examples
     cmake --build companion-cmake
     mkdir companion-pkgconfig companion-qmake
-    make -C companion-pkgconfig -f /consumer/companion/pkgconfig/Makefile SOURCES=/consumer/companion
+    make -C companion-pkgconfig -f /consumer/companion/pkgconfig/Makefile \
+        SOURCES=/consumer/companion EXAMPLES=/consumer/examples
     cd companion-qmake
     /usr/lib/qt5/bin/qmake /consumer/companion/qmake/host.pro
     make' >"$scratch/hosts.log" 2>&1 || { tail -n 30 "$scratch/hosts.log" >&2; fail "hosts"; }
@@ -131,6 +134,9 @@ step "the hosts, with the translations"
 apt_install --no-install-recommends libfilarixmodule-l10n
 for way in {,companion-}{cmake,pkgconfig,qmake}; do
     inside "/root/$way/host" || fail "the $way host"
+done
+for way in cmake pkgconfig; do
+    inside "/root/companion-$way/safe-host" || fail "the $way safe host"
 done
 
 step "all packages, and none"
