@@ -12,6 +12,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <functional>
+
 class TestDocumentRecorder : public FilarixTest
 {
     Q_OBJECT
@@ -202,7 +204,7 @@ void TestDocumentRecorder::changesTooDearEndTheRecord()
     recorder.finishCopy();
     // In short lines: a long one takes the toolkit a time that grows with its square.
     const QString added =
-        letters == 1 ? QString("x") : QString(QString(63, 'x') + '\n').repeated(letters / 64);
+        letters == 1 ? QString("\n") : QString(QString(63, 'x') + '\n').repeated(letters / 64);
     for (int i = 0; i < changes; ++i)
         QTextCursor(m_document.data()).insertText(added);
     QVERIFY(!recorder.isRecording());
