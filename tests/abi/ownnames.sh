@@ -11,8 +11,9 @@ library=$1
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
+# What is instantiated of std's templates is the same wherever it is.
 "${NM:-nm}" -D --defined-only --without-symbol-versions "$library" | awk '{ print $NF }' \
-    | LC_ALL=C sort -u >"$scratch/own"
+    | grep -vE '^_Z+N?K?(T[ISV])?N?K?St' | LC_ALL=C sort -u >"$scratch/own"
 "${READELF:-readelf}" -rW "$library" | awk '$3 ~ /^R_/ && NF >= 5 { sub(/@.*/, "", $5); print $5 }' \
     | LC_ALL=C sort -u >"$scratch/looked-up"
 for list in own looked-up; do

@@ -312,6 +312,8 @@ void TestOrderlyEnd::nothingIsLostUnderAQuestion()
     });
     {
         Desk desk;
+        // What is cleared has come from its file.
+        QTRY_VERIFY(!desk.teach.isLoading() && !desk.variables.isLoading());
         desk.programs.editor()->document()->setModified(false);
         const Files before = operatorsFiles();
         look.start(5);
@@ -353,6 +355,7 @@ void TestOrderlyEnd::aLoadIsAborted()
     const QByteArray line = "G01 X1\n";
     writeFile(programDir() + "/long.cnc", line.repeated(lines));
     Desk desk;
+    QTRY_VERIFY(!desk.teach.isLoading() && !desk.variables.isLoading());
     const Files before = operatorsFiles();
     int lastLines = 0;
     bool isSignalled = false;
