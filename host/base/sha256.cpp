@@ -83,7 +83,8 @@ QByteArray Sha256::result() const
     whole.addData(end);
     QByteArray sum(size, '\0');
     for (int i = 0; i < 8; ++i)
-        qToBigEndian<quint32>(whole.m_state[i], reinterpret_cast<uchar *>(sum.data()) + 4 * i);
+        qToBigEndian<quint32>(whole.m_state[i],
+                              reinterpret_cast<uchar *>(sum.data()) + size_t(4) * i);
     return sum;
 }
 
@@ -91,7 +92,7 @@ void Sha256::addBlock(const uchar *block)
 {
     quint32 words[64];
     for (int i = 0; i < 16; ++i)
-        words[i] = qFromBigEndian<quint32>(block + 4 * i);
+        words[i] = qFromBigEndian<quint32>(block + size_t(4) * i);
     for (int i = 16; i < 64; ++i) {
         const quint32 before = words[i - 15];
         const quint32 last = words[i - 2];

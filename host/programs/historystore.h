@@ -52,7 +52,7 @@ public:
         int versions = 500;
         /// Twice what the import manager lets into the program directory, so that the newest of
         /// every program has its place.
-        qint64 bytes = 64 * 1024 * 1024;
+        qint64 bytes = qint64(64) * 1024 * 1024;
     };
 
     enum Outcome {

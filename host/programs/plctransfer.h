@@ -31,7 +31,7 @@ public:
     /// Bytes that move in one step.
     static const int pieceBytes = 16 * 1024;
     /// Bytes that a program may have.
-    static const qint64 largestProgram = 64 * 1024 * 1024;
+    static const qint64 largestProgram = qint64(64) * 1024 * 1024;
 
     /// The folder need not exist yet; a transfer into a missing one fails.
     explicit PlcTransfer(const QString &dropDir, QObject *parent = nullptr);
