@@ -112,7 +112,7 @@ QString takeFolder(const QString &name, const QString &value, QString *folder)
 
 QString takePrograms(const QString &name, const QString &value, Options *options)
 {
-    const QString reason = takeFolder(name, value, &options->programDir);
+    QString reason = takeFolder(name, value, &options->programDir);
     if (reason.isEmpty() && QFileInfo(options->programDir).fileName() != QLatin1String("cnc"))
         options->programDir = QDir(options->programDir).filePath(QLatin1String("cnc"));
     return reason;
@@ -207,7 +207,7 @@ QString takeAll(const QCommandLineParser &parser, Options *options)
 {
     for (const auto &known : knownOptions) {
         const QString name = QLatin1String(known.name);
-        const QString reason =
+        QString reason =
             parser.isSet(name) ? known.take(name, parser.value(name), options) : QString();
         if (!reason.isEmpty())
             return reason;

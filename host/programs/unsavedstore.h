@@ -23,7 +23,7 @@ class FILARIX_HOST_EXPORT UnsavedStore
 {
 public:
     /// Journals are no longer than this many bytes; keep() begins a new one.
-    static const qint64 longestJournal = 1024 * 1024;
+    static const qint64 longestJournal = qint64(1024) * 1024;
 
     enum Reading { Nothing, Whole, Broken };
 

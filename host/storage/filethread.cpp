@@ -72,6 +72,8 @@ FileThread::~FileThread()
             last();
         thread->quit();
     };
+    // Without memory for an event no program goes on.
+    // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new)
     QCoreApplication::postEvent(m_worker, new CallEvent(end));
     if (m_thread->wait(m_givenUp ? 0 : partingMs)) {
         delete m_thread;

@@ -128,7 +128,7 @@ QPainterPath pathOf(const char *drawing)
             continue;
         }
         numbers.append(word.toDouble());
-        if (numbers.size() < stroke->numbers)
+        if (!stroke || numbers.size() < stroke->numbers)
             continue;
         stroke->add(&path, numbers.constData());
         numbers.clear();

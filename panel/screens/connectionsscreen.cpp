@@ -114,7 +114,7 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     column->addWidget(m_table, 1);
     column->addWidget(m_editKey);
     read();
-    retranslate();
+    ConnectionsScreen::retranslate();
 }
 
 void ConnectionsScreen::retranslate()

@@ -48,7 +48,7 @@ QStringList Languages::codes()
 QString Languages::preferred() const
 {
     const QStringList known = codes();
-    const QString chosen = m_settings->choice(QLatin1String(key), known);
+    QString chosen = m_settings->choice(QLatin1String(key), known);
     if (!chosen.isEmpty())
         return chosen;
     const QString system = QLocale().name();

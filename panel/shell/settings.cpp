@@ -68,7 +68,7 @@ void Settings::takeIn()
 
 QString Settings::choice(const QString &key, const QStringList &known)
 {
-    const QString value = m_values.value(key);
+    QString value = m_values.value(key);
     if (value.isEmpty() && !m_values.contains(key))
         return QString();
     if (known.contains(value))

@@ -18,7 +18,7 @@ const int glyphSide = 14;
 const int glyphGap = 3;
 const int itemGap = 7;
 const int secondMs = 1000;
-const qint64 megabyte = 1024 * 1024;
+const qint64 megabyte = qint64(1024) * 1024;
 const qint64 lowBytes = 30 * megabyte;
 const qint64 fullBytes = megabyte;
 
@@ -217,7 +217,7 @@ void StatusStrip::showStorage()
     const qint64 megabytes = m_devices.freeBytes / megabyte;
     const QString room = megabytes < 1000 ? tr("%1 MB").arg(megabytes)
                                           : tr("%1 GB").arg(double(megabytes) / 1024, 0, 'f',
-                                                            megabytes < 10 * 1024 ? 1 : 0);
+                                                            megabytes < qint64(10) * 1024 ? 1 : 0);
     const QString name = tr("Storage");
     switch (storage()) {
     case StorageUnknown:
