@@ -46,11 +46,13 @@ void useProgramSide()
 {
     WMMainWindow window(nullptr, 90);
     Downloader downloader(&window);
-    // The two ways to connect find the same signal, and the same class.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    // The two ways to connect find the same signal.
     QStringList paths;
     check(QObject::connect(&window, &WMMainWindow::signal_download,
                            [&paths](const QString &path) { paths << path; }),
           "a signal is found by its address");
+#endif
     QObject *object = &window;
     check(qobject_cast<WMMainWindow *>(object), "a class is found by its meta-object");
     window.show();
@@ -63,7 +65,9 @@ void useProgramSide()
     check(editor->document()->findChild<WHighlighter *>(), "the document has its highlighter");
     QMetaObject::invokeMethod(&window, "signal_download", Q_ARG(QString, "/a/program.cnc"));
     check(downloader.sent() == "/a/program.cnc", "the host gets the program's path");
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
     check(paths == QStringList("/a/program.cnc"), "the host gets it either way");
+#endif
     check(downloader.wasBusy() && !window.isDownloading(), "the transfer is bracketed");
 }
 
