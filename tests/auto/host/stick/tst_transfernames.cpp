@@ -29,7 +29,7 @@ private Q_SLOTS:
     void proposalOfAnyNameIsSafeAndFree();
     void proposalOfALongNameIsNoLonger();
     void unsafeInListsWhatTheManagerWould();
-    void nameThatIsNoTextIsSeenByNeither();
+    void nameThatIsNoTextIsSeenByBothOrNeither();
     void renameNeverReplacesAFile();
     void renameTakesSafeNamesOnly();
 
@@ -213,16 +213,26 @@ void TestTransferNames::unsafeInListsWhatTheManagerWould()
     QCOMPARE(TransferNames::unsafeIn(stickDir() + "/nowhere"), noNames());
 }
 
-// A stick written in another encoding: what is no text can't be selected either.
-void TestTransferNames::nameThatIsNoTextIsSeenByNeither()
+// A stick written in another encoding: the check sees what can be selected, and no more.
+void TestTransferNames::nameThatIsNoTextIsSeenByBothOrNeither()
 {
     std::FILE *file = std::fopen("/mnt/Storage/\xff.cnc", "w");
     QVERIFY(file);
     std::fclose(file);
-    QCOMPARE(TransferNames::unsafeIn(stickDir()), noNames());
-    Manager manager;
-    QCOMPARE(Manager::shown(manager.usbView), noNames());
+    const QStringList unsafe = TransferNames::unsafeIn(stickDir());
+    QStringList shown;
+    {
+        Manager manager;
+        shown = Manager::shown(manager.usbView);
+    }
     QCOMPARE(std::remove("/mnt/Storage/\xff.cnc"), 0);
+    QCOMPARE(unsafe, shown);
+    // The embedded toolkit puts a mark in the place of what is no text.
+#if defined(Q_WS_QWS)
+    QCOMPARE(shown.size(), 1);
+#else
+    QCOMPARE(shown, noNames());
+#endif
 }
 
 void TestTransferNames::renameNeverReplacesAFile()
@@ -266,6 +276,9 @@ QStringList TestTransferNames::everythingElse()
         while (iterator.hasNext()) {
             const QString path = iterator.next();
             if (path.startsWith(programDir() + '/') || path.startsWith(stickDir() + '/'))
+                continue;
+            // The embedded toolkit's own cache of letters.
+            if (path.startsWith("/tmp/qtembedded-"))
                 continue;
             const QByteArray digest =
                 QCryptographicHash::hash(readFile(path), QCryptographicHash::Md5);
