@@ -22,7 +22,6 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTextBlock>
@@ -279,14 +278,11 @@ void TourPlan::visitFilesScreen(FilesScreen *screen)
     m_tour->picture(QLatin1String("files"));
     m_tour->then([screen] { QTimer::singleShot(0, screen, [screen] { screen->plug(); }); });
     // Without a folder that stands in for the stick nothing can be plugged, and nothing is asked.
-    m_tour->waitUntil([screen] {
-        return !screen->mayPlug() || qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    });
+    m_tour->waitUntil([screen] { return !screen->mayPlug() || topLevel("QuestionDialog"); });
     m_tour->picture(QLatin1String("stick-plugged"));
     m_tour->then([] {
-        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (box)
-            box->button(QMessageBox::Yes)->click();
+        if (QWidget *question = topLevel("QuestionDialog"))
+            question->findChild<QPushButton *>(QLatin1String("answer1"))->click();
     });
     m_tour->waitUntil([screen] { return !screen->guard()->isBusy(); });
     m_tour->picture(QLatin1String("stick-names"));

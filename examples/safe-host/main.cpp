@@ -53,7 +53,7 @@ public:
         , m_history(ProgramDirectory::path(), own + "/history")
         , m_download(plc, own + "/outgoing", &m_boxes)
         , m_guard(m_window, ProgramDirectory::path(), &m_boxes)
-        , m_files(ProgramDirectory::path(), Stick::mountPoint(), &m_history)
+        , m_files(ProgramDirectory::path(), Stick::mountPoint(), &m_boxes, &m_history)
         , m_devices([plc] { return DeviceWatch::lookAt(plc, ProgramDirectory::path()); })
         , m_unsaved(own + "/unsaved")
         , m_offer(own + "/unsaved", &m_unsaved, &m_boxes)

@@ -5,6 +5,7 @@
 
 #include "base/clickgate.h"
 #include "base/hostcompat.h"
+#include "base/questioner.h"
 #include "importmanage.h"
 #include "programs/programhistory.h"
 #include "stick/stick.h"
@@ -21,11 +22,11 @@
 
 namespace {
 
-// As many as a message box on the smallest panel has lines for.
+// As many as a question on the smallest panel has lines for.
 const int namesShown = 3;
+const int lettersShown = 24;
 // Longer, and an operator wonders whether the key was hit.
 const int momentMs = 300;
-const QLatin1String ownQuestion("importGuardQuestion");
 // What messages are about.
 const QLatin1String stickCause("stick");
 
@@ -62,21 +63,29 @@ QList<Unsafe> unsafeIn(const QString &folder)
     return files;
 }
 
-QString question(const QList<Unsafe> &files)
+// A name may hold anything, line ends too. Two names may differ at the end alone.
+QString shown(const QString &fileName)
 {
-    QStringList lines;
-    for (const Unsafe &file : files.mid(0, namesShown)) {
-        // A name may hold anything, line ends too.
-        QString name = file.name.simplified();
-        if (name.size() > 24)
-            name = name.left(21) + QLatin1String("...");
-        lines.append(name + QString::fromUtf8(" \u2192 ") + file.safeName);
-    }
+    const QString name = fileName.simplified();
+    if (name.size() <= lettersShown)
+        return name;
+    const QLatin1String gap("...");
+    const int kept = (lettersShown - 3) / 2;
+    return name.left(lettersShown - 3 - kept) + gap + name.right(kept);
+}
+
+Question question(const QList<Unsafe> &files)
+{
+    Question question(ImportGuard::tr("File names"),
+                      ImportGuard::tr("The transfer would not take these file names for what they "
+                                      "are. Nothing is copied or deleted until they are renamed."),
+                      {ImportGuard::tr("Leave them"), ImportGuard::tr("Rename")});
+    for (const Unsafe &file : files.mid(0, namesShown))
+        question.things.append(shown(file.name) + QString::fromUtf8(" \u2192 ")
+                               + shown(file.safeName));
     if (files.size() > namesShown)
-        lines.append(ImportGuard::tr("and %1 more").arg(files.size() - namesShown));
-    return ImportGuard::tr("The transfer would not take these file names for what they are. "
-                           "Rename?")
-           + QLatin1String("\n\n") + lines.join(QLatin1String("\n"));
+        question.things.append(ImportGuard::tr("and %1 more").arg(files.size() - namesShown));
+    return question;
 }
 
 QString chosenName(const QListView *view)
@@ -112,9 +121,13 @@ struct Q_DECL_HIDDEN ImportGuard::Look
     QList<Unsafe> unsafe;
 };
 
-ImportGuard::ImportGuard(const QString &programDir, const QString &stickDir,
+ImportGuard::ImportGuard(const QString &programDir, const QString &stickDir, Questioner *questioner,
                          ProgramHistory *history, QObject *parent)
-    : QObject(parent), m_programDir(programDir), m_stickDir(stickDir), m_history(history)
+    : QObject(parent)
+    , m_programDir(programDir)
+    , m_stickDir(stickDir)
+    , m_questioner(questioner)
+    , m_history(history)
 {
     qApp->installEventFilter(this);
 }
@@ -162,8 +175,7 @@ void ImportGuard::watch(ImportManage *manager)
 void ImportGuard::watch(QMessageBox *box)
 {
     QAbstractButton *yes = box->button(QMessageBox::Yes);
-    if (!yes || !qobject_cast<ImportManage *>(box->parentWidget())
-        || box->objectName() == ownQuestion || yes->findChild<ClickGate *>())
+    if (!yes || !qobject_cast<ImportManage *>(box->parentWidget()) || yes->findChild<ClickGate *>())
         return;
     const Gate gate = new ClickGate(yes);
     gate->onClick([this, gate] { confirm(gate); });
@@ -292,17 +304,23 @@ void ImportGuard::passUnlessLost(const Gate &gate)
 
 bool ImportGuard::mayLose(const QString &name)
 {
-    QMessageBox box(QMessageBox::Warning, tr("History"),
-                    tr("%1 What %2 is now could not be brought back. Go on all the same?")
-                        .arg(m_history->reasonNotKept(name), name),
-                    QMessageBox::Yes | QMessageBox::Cancel, QApplication::activeModalWidget());
-    box.setObjectName(ownQuestion);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Cancel);
+    const QString reason = m_history->reasonNotKept(name);
+    return isConfirmed({tr("History"),
+                        tr("%1 What %2 is now would be lost.").arg(reason, name),
+                        {tr("Cancel"), tr("All the same")}});
+}
+
+// Whether the operator wants the second of two answers. The guard may be gone by then, and nothing
+// is wanted any more.
+bool ImportGuard::isConfirmed(const Question &question)
+{
+    const QPointer<ImportGuard> guard(this);
     m_isAsking = true;
-    const bool isConfirmed = box.exec() == QMessageBox::Yes;
+    const int answer = m_questioner->ask(question);
+    if (!guard)
+        return false;
     m_isAsking = false;
-    return isConfirmed;
+    return answer == 1;
 }
 
 void ImportGuard::settle(const std::function<void(Settled)> &then)
@@ -325,17 +343,11 @@ void ImportGuard::settle(const std::function<void(Settled)> &then)
 
 void ImportGuard::ask(const Look &look, const std::function<void(Settled)> &then)
 {
-    QMessageBox box(QMessageBox::Warning, tr("File names"), question(look.unsafe),
-                    QMessageBox::Yes | QMessageBox::No, QApplication::activeModalWidget());
-    box.setObjectName(ownQuestion);
-    box.setTextFormat(Qt::PlainText);
     const QPointer<ImportGuard> guard(this);
-    m_isAsking = true;
-    const bool isConfirmed = box.exec() == QMessageBox::Yes;
+    const bool isWanted = isConfirmed(question(look.unsafe));
     if (!guard)
         return;
-    m_isAsking = false;
-    if (isConfirmed)
+    if (isWanted)
         return renameAll(look, then);
     Q_EMIT told(tr("Not renamed. Import and export stay closed until the names are safe."),
                 Message::Warning, stickCause);

@@ -17,6 +17,8 @@ class ClickGate;
 class ImportManage;
 class ProgramHistory;
 class QMessageBox;
+class Questioner;
+struct Question;
 
 /// Stands between the operator and the import manager's commands, which hand file names to the
 /// shell as they are, and write and delete without a look at what gets lost.
@@ -42,12 +44,13 @@ public:
 
     /// Watches all import managers of the application from now on. \a programDir and \a stickDir
     /// are the manager's two folders. Without a \a history programs are covered and deleted
-    /// unkept; a history must outlive the guard.
-    ImportGuard(const QString &programDir, const QString &stickDir,
+    /// unkept. \a questioner and a history must outlive the guard.
+    ImportGuard(const QString &programDir, const QString &stickDir, Questioner *questioner,
                 ProgramHistory *history = nullptr, QObject *parent = nullptr);
 
-    /// Looks for unsafe names, asks whether to rename them, if there are any, and does it on Yes.
-    /// Ends in \a then, from the event loop. Does nothing while the guard is busy.
+    /// Looks for unsafe names. If there are any, asks whether to rename them, and does so when the
+    /// operator wants it. Ends in \a then, from the event loop. Does nothing while the guard is
+    /// busy.
     void settle(const std::function<void(Settled)> &then = [](Settled) {});
     /// Whether a press waits, or a question.
     bool isBusy() const;
@@ -85,6 +88,7 @@ private:
     void waitForHistory(const Gate &gate);
     void passUnlessLost(const Gate &gate);
     bool mayLose(const QString &name);
+    bool isConfirmed(const Question &question);
     void ask(const Look &look, const std::function<void(Settled)> &then);
     void renameAll(const Look &look, const std::function<void(Settled)> &then);
     void tellOutcome(const TransferReport &report, TransferReport::Outcome outcome);
@@ -93,6 +97,7 @@ private:
 
     const QString m_programDir;
     const QString m_stickDir;
+    Questioner *m_questioner;
     ProgramHistory *m_history;
     FileJob m_job;
     FileThread m_reports;

@@ -54,7 +54,8 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     : PanelScreen(parent)
     , m_stick(stick)
     , m_history(history)
-    , m_guard(new ImportGuard(ProgramDirectory::path(), Stick::mountPoint(), history, this))
+    , m_guard(new ImportGuard(ProgramDirectory::path(), Stick::mountPoint(), &m_questioner, history,
+                              this))
     , m_stickWatch(new FolderWatch(looks.stick, this))
     , m_programWatch(new FolderWatch(looks.programs, this))
     , m_grid(new QGridLayout)

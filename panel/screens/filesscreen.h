@@ -5,6 +5,7 @@
 #define FILESSCREEN_H
 
 #include "shell/panelscreen.h"
+#include "shell/questiondialog.h"
 #include "stick/devicewatch.h"
 #include "stick/folderwatch.h"
 #include "storage/filejob.h"
@@ -88,6 +89,7 @@ private:
 
     Stick *m_stick;
     ProgramHistory *m_history;
+    DialogQuestioner m_questioner;
     ImportGuard *m_guard;
     FolderWatch *m_stickWatch;
     FolderWatch *m_programWatch;

@@ -89,8 +89,8 @@ walk "the stand-in for the stick hangs"
 rm "$hang"
 touch_text Files
 touch_text Plug
-touch_text Yes "File names"
-expect_gone Yes "File names"
+touch_text Rename "File names"
+expect_gone Rename "File names"
 end "the stick is in"
 [ ! -e /tmp/udiskattach ] || desk_fail "the stick left its marker behind"
 

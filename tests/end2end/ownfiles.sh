@@ -102,8 +102,8 @@ move_files() {
     touch_text Files
     touch_text Plug
     # The stand-in for the stick brings a name that is not safe.
-    touch_text Yes "File names"
-    expect_gone Yes "File names"
+    touch_text Rename "File names"
+    expect_gone Rename "File names"
     expect_text "All are safe for the transfer"
     echo "G00 X1" >"$stick/fresh.cnc"
     open_manager

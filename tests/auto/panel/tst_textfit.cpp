@@ -250,6 +250,8 @@ void TestTextFit::measureQuestions(const Measure &measure)
     const QStringList historyWays = {text("ProgramKeeper", "Cancel"),
                                      text("ProgramKeeper", "All the same")};
     const QString lost = text("ProgramKeeper", "%1 What %2 is now would be lost.");
+    const QString unsafeName =
+        QString::fromUtf8("left coil of...shift.cnc \u2192 left_coil_of...shift.cnc");
     const Question questions[] = {
         {"save as cleaned",
          stateOf(ProgramState::Cleaned).saveQuestion(),
@@ -296,6 +298,18 @@ void TestTextFit::measureQuestions(const Measure &measure)
               .arg("program-of-the-second-shift.teach", "2026-05-04 14:32", "99999"),
           text("VariablesScreen", "%1, %2, values: %3")
               .arg(text("VariablesScreen", "Variables"), "2026-05-04 14:32", "24")}},
+        {text("ImportGuard", "History"),
+         text("ImportGuard", "%1 What %2 is now would be lost.")
+             .arg(text("HistoryStore", "The history has no room for %1 beside the other programs.")
+                      .arg(programName),
+                  programName),
+         {text("ImportGuard", "Cancel"), text("ImportGuard", "All the same")}},
+        {text("ImportGuard", "File names"),
+         text("ImportGuard",
+              "The transfer would not take these file names for what they are. Nothing is copied "
+              "or deleted until they are renamed."),
+         {text("ImportGuard", "Leave them"), text("ImportGuard", "Rename")},
+         {unsafeName, unsafeName, unsafeName, text("ImportGuard", "and %1 more").arg(1000)}},
         {text("UnsavedOffer", "Unsaved work"),
          text("UnsavedOffer", "Throw the unsaved work away for good?"),
          {text("UnsavedOffer", "Cancel"), text("UnsavedOffer", "Throw away")}},
@@ -313,11 +327,6 @@ void TestTextFit::measureBoxes(const Measure &measure)
         QString text;
         QMessageBox::StandardButtons answers;
     } boxes[] = {
-        {text("ImportGuard", "%1 What %2 is now could not be brought back. Go on all the same?")
-             .arg(text("HistoryStore", "The history has no room for %1 beside the other programs.")
-                      .arg(programName),
-                  programName),
-         QMessageBox::Yes | QMessageBox::Cancel},
         {text("PanelProgram", "Another panel works on the same programs. This one does not start."),
          QMessageBox::Ok},
     };

@@ -127,7 +127,7 @@ void guardAWindow()
     WMMainWindow window(nullptr, 0);
     new FindDialogKeypad(&window);
     ProgramGuard guard(&window, ProgramDirectory::path(), &questioner);
-    ImportGuard importGuard(ProgramDirectory::path(), QLatin1String("/mnt/Storage"));
+    ImportGuard importGuard(ProgramDirectory::path(), QLatin1String("/mnt/Storage"), &questioner);
     UnsavedWork work(QDir::home().filePath(QLatin1String("unsaved")));
     check(!guard.isBusy() && !importGuard.isBusy() && work.isSettled(), "the guards stand");
     check(guard.mayDownload(QLatin1String("/a.cnc")), "what is shown is what is stored");

@@ -6,6 +6,7 @@
 #include "importmanage.h"
 #include "modaldriver.h"
 #include "programs/programhistory.h"
+#include "scriptquestioner.h"
 #include "stick/importguard.h"
 
 #include <QDir>
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void hostileNamesAreRenamedAndTouchNothing_data();
     void hostileNamesAreRenamedAndTouchNothing();
     void withoutRenamingNothingIsTransferred();
+    void questionShowsEachNameBesideItsProposal();
+    void guardMayGoWhileItAsks();
     void chosenNameOfAStickThatHasGoneIsRefused();
     void keysPressedByAKeyboardAreGuardedToo();
     void returnInAListIsGuardedToo();
@@ -48,7 +51,21 @@ private:
     static void chooseOnPanel(ImportManage *manager, const QString &name);
     static QPushButton *button(ImportManage *manager, const QString &text);
     static void chooseOnStick(ImportManage *manager, const QString &name);
-    QByteArray canary() const;
+
+    ScriptQuestioner m_questioner;
+};
+
+/// The guard goes while its question stands.
+class LeavingQuestioner : public Questioner
+{
+public:
+    int ask(const Question &) override
+    {
+        delete guard.data();
+        return 1;
+    }
+
+    QPointer<ImportGuard> guard;
 };
 
 void TestImportGuard::init()
@@ -61,6 +78,8 @@ void TestImportGuard::init()
     writeFile("/tmp/udiskattach", "");
     writeFile(home() + "/canary", "alive");
     QDir::setCurrent(home());
+    m_questioner.asked.clear();
+    m_questioner.answers.clear();
 }
 
 void TestImportGuard::cleanup()
@@ -122,7 +141,7 @@ void TestImportGuard::safeNamesPassWithoutAQuestion()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QCOMPARE(settle(&guard), ImportGuard::WereSafe);
     ImportManage manager(nullptr);
     manager.init();
@@ -151,18 +170,17 @@ void TestImportGuard::hostileNamesAreRenamedAndTouchNothing()
     QFETCH(QString, name);
     writeFile("/mnt/Storage/" + name, "G01\n");
     const QStringList before = QDir(home()).entryList(QDir::AllEntries | QDir::Hidden);
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
     chooseOnStick(&manager, name);
 
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
+    m_questioner.answers.append(1);
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QTRY_VERIFY2(driver.finished(), driver.report());
     QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(m_questioner.asked.size(), 1);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Information);
     QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
     const QStringList names = QDir("/mnt/Storage").entryList(QDir::Files | QDir::Hidden);
@@ -175,6 +193,7 @@ void TestImportGuard::hostileNamesAreRenamedAndTouchNothing()
     QTRY_COMPARE(readFile(programDir() + '/' + names.first()), QByteArray("G01\n"));
     QTRY_VERIFY(!guard.isBusy());
     chooseOnStick(&manager, names.first());
+    ModalDriver driver;
     driver.press(QMessageBox::Yes);
     QTest::mouseClick(button(&manager, "Del<"), Qt::LeftButton);
     QTRY_VERIFY2(driver.finished(), driver.report());
@@ -188,20 +207,54 @@ void TestImportGuard::withoutRenamingNothingIsTransferred()
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/a b.cnc", "G01\n");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
     chooseOnStick(&manager, "coil.cnc");
-    ModalDriver driver;
-    driver.press(QMessageBox::No);
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
-    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(m_questioner.asked.size(), 1);
     QTRY_VERIFY(isIdle(guard, manager));
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
     QCOMPARE(QDir("/mnt/Storage").entryList(QDir::Files).size(), 2);
+}
+
+void TestImportGuard::questionShowsEachNameBesideItsProposal()
+{
+    const QString longName = QString(100, 'a') + " the end";
+    for (const QString &name : {QString("a b.cnc"), QString("c d\n.cnc"), longName})
+        writeFile(programDir() + '/' + name, "G01\n");
+    writeFile("/mnt/Storage/e f", "G01\n");
+    writeFile("/mnt/Storage/g h", "G01\n");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
+    QCOMPARE(settle(&guard), ImportGuard::NotSettled);
+    QCOMPARE(m_questioner.asked.size(), 1);
+    const Question question = m_questioner.asked.first();
+    QCOMPARE(question.title, QString("File names"));
+    QCOMPARE(question.answers, QStringList() << "Leave them"
+                                             << "Rename");
+    QCOMPARE(question.things.size(), 4);
+    const QString arrow = QString::fromUtf8(" \u2192 ");
+    QVERIFY(question.things.contains("a b.cnc" + arrow + "a_b.cnc"));
+    QVERIFY(question.things.contains("c d .cnc" + arrow + "c_d.cnc"));
+    // Short enough for a line, with its end.
+    QVERIFY(
+        question.things.contains("aaaaaaaaaaa...aa the end" + arrow + "aaaaaaaaaaa...aa_the_end"));
+    QCOMPARE(question.things.last(), QString("and 2 more"));
+}
+
+void TestImportGuard::guardMayGoWhileItAsks()
+{
+    writeFile(programDir() + "/a b.cnc", "G01\n");
+    LeavingQuestioner questioner;
+    questioner.guard = new ImportGuard(programDir(), "/mnt/Storage", &questioner);
+    bool isAnswered = false;
+    questioner.guard->settle([&isAnswered](ImportGuard::Settled) { isAnswered = true; });
+    QTRY_VERIFY(!questioner.guard);
+    QVERIFY(!isAnswered);
+    QCOMPARE(QDir(programDir()).entryList(QDir::Files), QStringList("a b.cnc"));
 }
 
 void TestImportGuard::chosenNameOfAStickThatHasGoneIsRefused()
@@ -215,7 +268,7 @@ void TestImportGuard::chosenNameOfAStickThatHasGoneIsRefused()
     // The next stick has no such file, but the manager still shows the first one's names.
     emptyFolder("/mnt/Storage");
     manager.hide();
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     manager.show();
     QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
     QTRY_VERIFY(isIdle(guard, manager));
@@ -226,15 +279,13 @@ void TestImportGuard::keysPressedByAKeyboardAreGuardedToo()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/$(rm canary)", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
     chooseOnStick(&manager, "$(rm canary)");
-    ModalDriver driver;
-    driver.press(QMessageBox::No);
     QTest::keyClick(button(&manager, "<<"), Qt::Key_Space);
-    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(m_questioner.asked.size(), 1);
     QTRY_VERIFY(isIdle(guard, manager));
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
 }
@@ -244,7 +295,7 @@ void TestImportGuard::returnInAListIsGuardedToo()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile(programDir() + "/$(rm canary)", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -253,10 +304,8 @@ void TestImportGuard::returnInAListIsGuardedToo()
     programs->setCurrentIndex(
         static_cast<QDirModel *>(programs->model())->index(programDir() + "/$(rm canary)"));
     programs->setFocus();
-    ModalDriver driver;
-    driver.press(QMessageBox::No);
     QTest::keyClick(programs, Qt::Key_Return);
-    QTRY_VERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(m_questioner.asked.size(), 1);
     QTRY_VERIFY(isIdle(guard, manager));
     QCOMPARE(readFile(home() + "/canary"), QByteArray("alive"));
 }
@@ -265,7 +314,7 @@ void TestImportGuard::escapeLeavesWithoutAQuestion()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/a b.cnc", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -278,7 +327,7 @@ void TestImportGuard::quitIsNeverHeldBack()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/a b.cnc", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -290,7 +339,7 @@ void TestImportGuard::programDirectoryWithABlankIsRefused()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
-    ImportGuard guard(home() + "/a b/cnc", "/mnt/Storage");
+    ImportGuard guard(home() + "/a b/cnc", "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
@@ -306,13 +355,12 @@ void TestImportGuard::renamingThatFailsIsTold()
 {
     writeFile(programDir() + "/a b.cnc", "G01\n");
     QFile::setPermissions(programDir(), QFile::ReadOwner | QFile::ExeOwner);
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
-    ModalDriver driver;
-    driver.press(QMessageBox::Yes);
+    m_questioner.answers.append(1);
     const ImportGuard::Settled settled = settle(&guard);
     QFile::setPermissions(programDir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_questioner.asked.size(), 1);
     QCOMPARE(settled, ImportGuard::NotSettled);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
 }
@@ -322,7 +370,7 @@ void TestImportGuard::withoutAStickNothingIsTransferred()
     StrictMessages::expect("slot_checkUSB");
     writeFile("/mnt/Storage/coil.cnc", "G01\n");
     writeFile(programDir() + "/own.cnc", "G02\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     for (const char *key : {">>", "<<", "Del<"}) {
         ImportManage manager(nullptr);
@@ -347,7 +395,7 @@ void TestImportGuard::programIsDeletedWithoutAStick()
     StrictMessages::expect("slot_checkUSB");
     QFile::remove("/tmp/udiskattach");
     writeFile(programDir() + "/own.cnc", "G02\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -363,7 +411,7 @@ void TestImportGuard::whatWasDoneIsTold()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile(programDir() + "/own.cnc", "G02\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
@@ -410,7 +458,7 @@ void TestImportGuard::answeredNoIsNothingToTell()
     StrictMessages::expect("slot_checkUSB");
     writeFile(programDir() + "/own.cnc", "G02\n");
     writeFile("/mnt/Storage/own.cnc", "G03\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
@@ -436,7 +484,7 @@ void TestImportGuard::copyThatDoesNotFitIsAnAlarm()
 {
     StrictMessages::expect("slot_checkUSB");
     writeFile(programDir() + "/long.cnc", QByteArray(2 * 1024 * 1024, 'G'));
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();
@@ -459,7 +507,7 @@ void TestImportGuard::coverWaitsForTheHistory()
     writeFile(programDir() + "/coil.cnc", "G01 before\n");
     ProgramHistory history(programDir(), home() + "/hmi/history");
     QTRY_VERIFY(history.isSettled());
-    ImportGuard guard(programDir(), "/mnt/Storage", &history);
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner, &history);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
@@ -489,32 +537,32 @@ void TestImportGuard::programThatTheHistoryCannotKeepGoesOnlyAfterAQuestion()
     // rights.
     QFile::setPermissions(path, QFile::Permissions());
     ProgramHistory history(programDir(), home() + "/hmi/history");
-    ImportGuard guard(programDir(), "/mnt/Storage", &history);
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner, &history);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();
+    m_questioner.answers << 0 << 1;
     ModalDriver driver;
-    const auto yes = [](QWidget *box) {
-        QTest::mouseClick(static_cast<QMessageBox *>(box)->button(QMessageBox::Yes),
-                          Qt::LeftButton);
-    };
-    chooseOnPanel(&manager, "coil.cnc");
-    driver.then(yes);
-    driver.press(QMessageBox::Cancel);
-    // The library's own question has stayed open below ours.
     driver.then([&](QWidget *box) {
-        QVERIFY(QFileInfo(path).exists());
+        QPushButton *yes =
+            qobject_cast<QPushButton *>(static_cast<QMessageBox *>(box)->button(QMessageBox::Yes));
+        QTest::mouseClick(yes, Qt::LeftButton);
+        QTRY_COMPARE(m_questioner.asked.size(), 1);
         QTRY_VERIFY(!guard.isBusy());
-        yes(box);
+        // The library's own question stays open after a Cancel of ours.
+        QVERIFY(box->isVisible());
+        QVERIFY(QFileInfo(path).exists());
+        QTest::mouseClick(yes, Qt::LeftButton);
     });
-    driver.press(QMessageBox::Yes);
+    chooseOnPanel(&manager, "coil.cnc");
     QTest::mouseClick(button(&manager, ">Del"), Qt::LeftButton);
     QTRY_VERIFY(!QFileInfo(path).exists());
     QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(driver.boxes().size(), 2);
-    for (const ModalDriver::Box &box : driver.boxes()) {
-        QVERIFY(box.text.startsWith("The history cannot read coil.cnc: Permission denied."));
-        QCOMPARE(box.defaultButton, QMessageBox::Cancel);
+    QCOMPARE(m_questioner.asked.size(), 2);
+    for (const Question &question : m_questioner.asked) {
+        QVERIFY(question.text.startsWith("The history cannot read coil.cnc: Permission denied."));
+        QCOMPARE(question.answers, QStringList() << "Cancel"
+                                                 << "All the same");
     }
 }
 
@@ -524,7 +572,7 @@ void TestImportGuard::pressWaitsBesideTheEventLoop()
     for (int i = 0; i < 2000; ++i)
         writeFile(programDir() + QString("/coil-%1.cnc").arg(i), "G01\n");
     writeFile("/mnt/Storage/a.cnc", "G01\n");
-    ImportGuard guard(programDir(), "/mnt/Storage");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
     ImportManage manager(nullptr);
     manager.init();
     manager.show();

@@ -4,6 +4,7 @@
 #include "base/clickgate.h"
 #include "filarixtest.h"
 #include "importmanage.h"
+#include "scriptquestioner.h"
 #include "stick/devicewatch.h"
 #include "stick/importguard.h"
 #include "stick/stick.h"
@@ -53,7 +54,8 @@ void TestUnmountedStick::itIsNoStick()
 void TestUnmountedStick::nothingIsCopiedIntoTheFolder()
 {
     StrictMessages::expect("slot_checkUSB");
-    ImportGuard guard(programDir(), Stick::mountPoint());
+    ScriptQuestioner questioner;
+    ImportGuard guard(programDir(), Stick::mountPoint(), &questioner);
     QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
     ImportManage manager(nullptr);
     manager.init();

@@ -122,16 +122,20 @@ void TestFilesScreen::arrivingStickIsCheckedOnce()
     FilesScreen screen(&stick, m_history.data());
     screen.show();
     ModalDriver driver;
-    driver.press(QMessageBox::No);
+    driver.then([](QWidget *question) {
+        QVERIFY(question->findChild<QLabel *>("thing")->text().contains("a b.cnc"));
+        QTest::mouseClick(question->findChild<QPushButton *>("answer0"), Qt::LeftButton);
+    });
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
     QTRY_VERIFY2(driver.finished(), driver.report());
-    QVERIFY(driver.boxes().last().text.contains("a b.cnc"));
     QTRY_VERIFY(shows(screen, "not safe: 1"));
     screen.showDevices(DeviceWatch::lookAt(home(), programDir()));
     QTRY_VERIFY(!screen.guard()->isBusy());
     QVERIFY2(driver.finished(), driver.report());
 
-    driver.press(QMessageBox::Yes);
+    driver.then([](QWidget *question) {
+        QTest::mouseClick(question->findChild<QPushButton *>("answer1"), Qt::LeftButton);
+    });
     QTest::mouseClick(key(screen, "Rename"), Qt::LeftButton);
     QTRY_VERIFY2(driver.finished(), driver.report());
     QTRY_COMPARE(QDir(m_folder).entryList(QDir::Files), QStringList("a_b.cnc"));
