@@ -265,8 +265,7 @@ bool Stick::Simulation::link(QString *error)
     }
     if (removed)
         QDir().mkdir(mountPoint());
-    *error = Words::tr("The mount point %1 is not this program's to change. Start it by "
-                       "\"./run --stick DIR\" to try a stick.")
+    *error = Words::tr("The stick stays out: the mount point %1 is not this program's to change.")
                  .arg(mountPoint());
     return false;
 }

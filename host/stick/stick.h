@@ -17,8 +17,8 @@
 /// by the program: while it is in, the mount point is a link to the folder, whose own path has to
 /// begin like the mount point's ("/mnt/Storage.stick"), or the import manager won't take its files
 /// for the stick's. Otherwise, and where the mount point can't be replaced, plug() fails and says
-/// so in words; ./run --stick starts the program where both hold. A folder that was bound to the
-/// mount point from outside stays there, and only the marker comes and goes.
+/// so in words. A folder that was bound to the mount point from outside stays there, and only the
+/// marker comes and goes.
 ///
 /// All that follows asks for files, and belongs into a thread where a screen must not wait. A copy
 /// is the same stick, so work in a thread may own one.

@@ -220,7 +220,7 @@ void FilesScreen::plug()
                        if (error->isEmpty())
                            noteStick(true);
                        else
-                           Q_EMIT told(*error, Message::Warning, stickCause);
+                           tellRefusal(*error);
                        Q_EMIT stickMoved();
                    },
                    [this] { tellStall(); });
@@ -238,6 +238,14 @@ void FilesScreen::pull()
                    },
                    [this] { tellStall(); });
     showState();
+}
+
+// Its start script gives the panel a mount point and a marker of its own.
+void FilesScreen::tellRefusal(const QString &reason)
+{
+    Q_EMIT told(reason + QLatin1Char(' ')
+                    + tr("To try a stick, start the panel by \"./run --stick DIR\"."),
+                Message::Warning, stickCause);
 }
 
 void FilesScreen::tellStall()

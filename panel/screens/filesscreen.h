@@ -81,6 +81,7 @@ private:
     void pick();
     void lookAtFolders();
     void noteStick(bool isIn);
+    void tellRefusal(const QString &reason);
     void tellStall();
     void showState();
     void showStick();

@@ -173,6 +173,8 @@ void TestFilesScreen::stickThatCannotBePluggedIsTold()
     QTest::mouseClick(key(screen, "Plug"), Qt::LeftButton);
     QTRY_COMPARE(told.size(), 1);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+    const QString text = told.at(0).at(0).toString();
+    QVERIFY2(text.contains("/mnt/Storage") && text.contains("./run --stick"), qPrintable(text));
     QTRY_VERIFY(key(screen, "Plug")->isEnabled());
 }
 
