@@ -4,17 +4,17 @@
 #ifndef TAPAREA_H
 #define TAPAREA_H
 
-#include <QWidget>
+#include <QFrame>
 
 /// Texts that together are large enough for a thumb: a touch on any of them counts as one.
 ///
 ///     connect(block, &TapArea::touched, this, &Screen::tellInFull);
-class TapArea : public QWidget
+class TapArea : public QFrame
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    using QFrame::QFrame;
 
 Q_SIGNALS:
     void touched();

@@ -9,8 +9,8 @@
 #include "look/tonemark.h"
 #include "shell/messagelog.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
-#include <QMouseEvent>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -28,7 +28,7 @@ const int keyRestMs = 700;
 } // namespace
 
 MessageBar::MessageBar(MessageLog *log, Form form, QWidget *parent)
-    : QFrame(parent)
+    : TapArea(parent)
     , m_log(log)
     , m_form(form)
     , m_mark(form == Row ? new ToneMark : nullptr)
@@ -158,18 +158,7 @@ void MessageBar::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         refresh();
-    QFrame::changeEvent(event);
-}
-
-void MessageBar::mousePressEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void MessageBar::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (rect().contains(event->pos()))
-        Q_EMIT touched();
+    TapArea::changeEvent(event);
 }
 
 void MessageBar::press()

@@ -5,8 +5,8 @@
 #define MESSAGEBAR_H
 
 #include "base/message.h"
+#include "look/taparea.h"
 
-#include <QFrame>
 #include <QTimer>
 
 class ElidedLabel;
@@ -23,7 +23,7 @@ class ToneMark;
 ///
 ///     MessageBar *bar = new MessageBar(&log, MessageBar::Row);
 ///     connect(bar, &MessageBar::touched, this, &PanelWindow::showMessages);
-class MessageBar : public QFrame
+class MessageBar : public TapArea
 {
     Q_OBJECT
 
@@ -49,14 +49,11 @@ public:
 Q_SIGNALS:
     /// text() gives something else now.
     void changed();
-    void touched();
     /// The operator wants the work to be stopped.
     void stopped();
 
 protected:
     void changeEvent(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void layOut();
