@@ -46,6 +46,24 @@ QIcon libraryIcon(const char *name)
 
 } // namespace
 
+/// A table of the machine's, and the list's way to the number by which an instruction names an
+/// entry.
+struct TeachScreen::SharedTable
+{
+    QStringList keys;
+    QList<TableEntry> entries;
+    int (TListWidget::*numberIn)(int row) const;
+    void (TListWidget::*write)(int row, QStringList &values);
+};
+
+/// An entry that the operator chose, and how many instructions name it now. 0 is no choice.
+struct TeachScreen::Choice
+{
+    int number = 0;
+    QString name;
+    int rows = 0;
+};
+
 TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
                          QWidget *parent)
     : ListScreen(surface, TaughtProgram::titleRow(), keyColumns(surface.width()),
@@ -268,58 +286,53 @@ void TeachScreen::removeChosen()
     refreshStatus();
 }
 
-// The point that an instruction names is shared: a choice goes to every row that names it.
 void TeachScreen::choosePoint(int row)
 {
-    const int old = list()->getJposIndex(row);
-    TablePicker picker(tr("Point for instruction %1").arg(row), MachineData::pointKeys(),
-                       m_machine->points(), old);
-    if (picker.exec() != QDialog::Accepted || picker.number() == 0)
+    const Choice choice = choose(row, tr("Point for instruction %1").arg(row),
+                                 {MachineData::pointKeys(), m_machine->points(),
+                                  &TListWidget::getJposIndex, &TListWidget::setJpos});
+    if (choice.number == 0)
         return;
-    const TableEntry &point = m_machine->points().at(picker.number() - 1);
-    QStringList values = point.values;
-    values.append(QString::number(picker.number()));
-    int count = 0;
-    for (int i = firstRow(); i < list()->count(); ++i) {
-        if (i != row && (old < 1 || list()->getJposIndex(i) != old))
-            continue;
-        list()->setJpos(i, values);
-        ++count;
-    }
-    list()->reshow();
-    m_machine->setCurrentPoint(picker.number());
-    refreshStatus();
-    Q_EMIT told(tr("Instructions that now name point %1 \"%2\": %3.")
-                    .arg(picker.number())
-                    .arg(point.name)
-                    .arg(count),
-                Message::Information);
+    m_machine->setCurrentPoint(choice.number);
+    tellChoice(tr("Instructions that now name point %1 \"%2\": %3."), choice);
 }
 
 void TeachScreen::chooseSpeed(int row)
 {
-    const int old = list()->getVIndex(row);
-    TablePicker picker(tr("Speed for instruction %1").arg(row), MachineData::speedKeys(),
-                       m_machine->speeds(), old);
+    const Choice choice = choose(row, tr("Speed for instruction %1").arg(row),
+                                 {MachineData::speedKeys(), m_machine->speeds(),
+                                  &TListWidget::getVIndex, &TListWidget::setV});
+    if (choice.number != 0)
+        tellChoice(tr("Instructions that now name speed %1 \"%2\": %3."), choice);
+}
+
+// What an instruction names is shared: a choice goes to every row that names the same.
+TeachScreen::Choice TeachScreen::choose(int row, const QString &title, const SharedTable &table)
+{
+    Choice choice;
+    const int old = (list()->*table.numberIn)(row);
+    TablePicker picker(title, table.keys, table.entries, old);
     if (picker.exec() != QDialog::Accepted || picker.number() == 0)
-        return;
-    const TableEntry &speed = m_machine->speeds().at(picker.number() - 1);
-    QStringList values = speed.values;
-    values.append(QString::number(picker.number()));
-    int count = 0;
+        return choice;
+    choice.number = picker.number();
+    const TableEntry &entry = table.entries.at(choice.number - 1);
+    choice.name = entry.name;
+    QStringList values = entry.values;
+    values.append(QString::number(choice.number));
     for (int i = firstRow(); i < list()->count(); ++i) {
-        if (i != row && (old < 1 || list()->getVIndex(i) != old))
+        if (i != row && (old < 1 || (list()->*table.numberIn)(i) != old))
             continue;
-        list()->setV(i, values);
-        ++count;
+        (list()->*table.write)(i, values);
+        ++choice.rows;
     }
     list()->reshow();
     refreshStatus();
-    Q_EMIT told(tr("Instructions that now name speed %1 \"%2\": %3.")
-                    .arg(picker.number())
-                    .arg(speed.name)
-                    .arg(count),
-                Message::Information);
+    return choice;
+}
+
+void TeachScreen::tellChoice(const QString &text, const Choice &choice)
+{
+    Q_EMIT told(text.arg(choice.number).arg(choice.name).arg(choice.rows), Message::Information);
 }
 
 // Tag on the program screen copies the point of the instruction that was touched last.

@@ -41,6 +41,9 @@ protected:
     QString fileCause() const override;
 
 private:
+    struct SharedTable;
+    struct Choice;
+
     void showClearing(int percent);
     void loadFirst();
     void showFirst(const RowKeeper::Loaded &loaded);
@@ -53,6 +56,8 @@ private:
     void removeChosen();
     void choosePoint(int row);
     void chooseSpeed(int row);
+    Choice choose(int row, const QString &title, const SharedTable &table);
+    void tellChoice(const QString &text, const Choice &choice);
     void followRow(int row);
     bool mayLoseProgram(const QString &question);
 
