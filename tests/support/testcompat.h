@@ -4,10 +4,12 @@
 #ifndef TESTCOMPAT_H
 #define TESTCOMPAT_H
 
-// What QtTest of Qt 4.8 lacks of Qt 5.15's.
+// What QtTest of Qt 4.8 lacks of Qt 5.15's, and what either does otherwise than a test wants.
 
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QHeaderView>
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QInputContext>
@@ -18,6 +20,7 @@
 #include <QStyle>
 #include <QTest>
 #include <QTextCodec>
+#include <QTimer>
 #include <QTranslator>
 #include <QVector>
 #include <QWheelEvent>
@@ -29,36 +32,38 @@
 #include <QScreen>
 #endif
 
-#ifndef QTRY_VERIFY_WITH_TIMEOUT
+// The toolkits' own look every 50 milliseconds, or sleep between their looks, while events come
+// that what is waited for needs.
+#undef QTRY_VERIFY
+#undef QTRY_VERIFY_WITH_TIMEOUT
 #define QTRY_VERIFY_WITH_TIMEOUT(expression, timeout)                                              \
     do {                                                                                           \
-        for (int waited = 0; !(expression) && waited < (timeout); waited += 10)                    \
-            QTest::qWait(10);                                                                      \
+        for (int waited = 0; !(expression) && waited < (timeout); waited += 5)                     \
+            TestCompat::runEvents(5);                                                              \
         QVERIFY(expression);                                                                       \
     } while (0)
 #define QTRY_VERIFY(expression) QTRY_VERIFY_WITH_TIMEOUT(expression, 5000)
-#endif
 
-#ifndef QTRY_VERIFY2_WITH_TIMEOUT
+#undef QTRY_VERIFY2
+#undef QTRY_VERIFY2_WITH_TIMEOUT
 #define QTRY_VERIFY2_WITH_TIMEOUT(expression, description, timeout)                                \
     do {                                                                                           \
-        for (int waited = 0; !(expression) && waited < (timeout); waited += 10)                    \
-            QTest::qWait(10);                                                                      \
+        for (int waited = 0; !(expression) && waited < (timeout); waited += 5)                     \
+            TestCompat::runEvents(5);                                                              \
         QVERIFY2(expression, description);                                                         \
     } while (0)
 #define QTRY_VERIFY2(expression, description)                                                      \
     QTRY_VERIFY2_WITH_TIMEOUT(expression, description, 5000)
-#endif
 
-#ifndef QTRY_COMPARE_WITH_TIMEOUT
+#undef QTRY_COMPARE
+#undef QTRY_COMPARE_WITH_TIMEOUT
 #define QTRY_COMPARE_WITH_TIMEOUT(expression, expected, timeout)                                   \
     do {                                                                                           \
-        for (int waited = 0; !((expression) == (expected)) && waited < (timeout); waited += 10)    \
-            QTest::qWait(10);                                                                      \
+        for (int waited = 0; !((expression) == (expected)) && waited < (timeout); waited += 5)     \
+            TestCompat::runEvents(5);                                                              \
         QCOMPARE(expression, expected);                                                            \
     } while (0)
 #define QTRY_COMPARE(expression, expected) QTRY_COMPARE_WITH_TIMEOUT(expression, expected, 5000)
-#endif
 
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 Q_DECLARE_METATYPE(QList<QStringList>)
@@ -94,15 +99,39 @@ inline bool qCompare(const QBool &actual, const bool &expected, const char *actu
 } // namespace QTest
 #endif
 
+namespace TestCompat {
+
+/// Handles events for so many milliseconds, each as soon as it comes. No loop of its own, which
+/// would end at once behind a program that has quit.
+inline void runEvents(int milliseconds)
+{
+    QElapsedTimer since;
+    since.start();
+    QTimer wake;
+    wake.start(milliseconds);
+    while (since.elapsed() < milliseconds)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Whether the condition is met within so many milliseconds.
+template<class Condition>
+bool waitFor(Condition isMet, int timeout = 5000)
+{
+    for (int waited = 0; !isMet() && waited < timeout; waited += 5)
+        runEvents(5);
+    return isMet();
+}
+
+} // namespace TestCompat
+
 #if QT_VERSION < QT_VERSION_CHECK(5, 10, 0)
 namespace QTest {
 
 template<class Condition>
 bool qWaitFor(Condition isMet, int timeout = 5000)
 {
-    for (int waited = 0; !isMet() && waited < timeout; waited += 10)
-        qWait(10);
-    return isMet();
+    return TestCompat::waitFor(isMet, timeout);
 }
 
 } // namespace QTest

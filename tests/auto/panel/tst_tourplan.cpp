@@ -52,7 +52,7 @@ QStringList TestTourPlan::stops(Tour *tour)
     QSignalSpy finished(tour, SIGNAL(finished()));
     connect(tour, &Tour::arrived, tour, [&names](const QString &name) { names.append(name); });
     tour->start(10);
-    if (!QTest::qWaitFor([&finished] { return !finished.isEmpty(); }, patience(60000)))
+    if (!TestCompat::waitFor([&finished] { return !finished.isEmpty(); }, patience(60000)))
         names.append("never finished");
     return names;
 }

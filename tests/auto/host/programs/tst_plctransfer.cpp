@@ -521,7 +521,7 @@ void TestPlcTransfer::renameThatHangsIsToldAsNotKnown()
         transfer.start(programDir() + "/coil.cnc");
         return ends.size() > 0;
     };
-    QVERIFY2(QTest::qWaitFor(isSentInTheEnd), qPrintable(failures.last().at(0).toString()));
+    QVERIFY2(TestCompat::waitFor(isSentInTheEnd), qPrintable(failures.last().at(0).toString()));
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("the new one\n"));
 }
 

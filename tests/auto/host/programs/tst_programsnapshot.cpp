@@ -355,7 +355,7 @@ static int runOtherPanel(int order, int report, int argc, char **argv)
     bool isTaken = false;
     const SignalHook hook(&snapshot, SIGNAL(taken()), [&] { isTaken = true; });
     snapshot.take(FilarixTest::programDir() + "/coil.cnc");
-    if (!QTest::qWaitFor([&] { return isTaken; }))
+    if (!TestCompat::waitFor([&] { return isTaken; }))
         return 1;
     const QByteArray path = QFile::encodeName(snapshot.copyPath()) + '\n';
     if (::write(report, path.constData(), size_t(path.size())) != path.size())

@@ -76,7 +76,7 @@ struct Panel
         // What the machine's devices are says nothing of the languages, and changes meanwhile.
         program.deviceWatch()->disconnect();
         // With all that their files hold.
-        const bool areFilled = QTest::qWaitFor([this] {
+        const bool areFilled = TestCompat::waitFor([this] {
             return !program.teachScreen()->isLoading() && !program.variablesScreen()->isLoading()
                    && !program.connectionsScreen()->isBusy();
         });
