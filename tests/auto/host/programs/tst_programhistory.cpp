@@ -66,6 +66,7 @@ private Q_SLOTS:
 private:
     void start(const HistoryStore::Limits &limits = HistoryStore::Limits());
     bool isKept(int versions);
+    bool keep(std::initializer_list<const char *> versions);
     QByteArray lastContent() const;
     ProgramVersion versionOf(const QByteArray &bytes) const;
     QString lastTold() const;
@@ -120,8 +121,22 @@ void TestProgramHistory::start(const HistoryStore::Limits &limits)
 bool TestProgramHistory::isKept(int versions)
 {
     m_history->scan();
-    return QTest::qWaitFor([this] { return m_history->isSettled(); })
+    return TestCompat::waitFor([this] { return m_history->isSettled(); })
            && m_history->versions().size() == versions;
+}
+
+/// Starts a history, and saves the program's versions for it one after the other.
+bool TestProgramHistory::keep(std::initializer_list<const char *> versions)
+{
+    int saves = 0;
+    for (const char *version : versions) {
+        save(version);
+        if (saves == 0)
+            start();
+        if (!isKept(++saves))
+            return false;
+    }
+    return true;
 }
 
 QByteArray TestProgramHistory::lastContent() const
@@ -212,11 +227,7 @@ void TestProgramHistory::whatIsNoProgramIsNotKept()
 
 void TestProgramHistory::overwrittenVersionComesBack()
 {
-    save("the good one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("saved over it\n");
-    QVERIFY(isKept(2));
+    QVERIFY(keep({"the good one\n", "saved over it\n"}));
     m_history->restore(versionOf("the good one\n"));
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(lastTone(), Message::Information);
@@ -234,9 +245,7 @@ void TestProgramHistory::overwrittenVersionComesBack()
 
 void TestProgramHistory::removedProgramComesBack()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     QVERIFY(QFile::remove(m_path));
     QVERIFY(isKept(1));
     // And the directory with it.
@@ -249,9 +258,7 @@ void TestProgramHistory::removedProgramComesBack()
 
 void TestProgramHistory::restoreKeepsWhatIsThereFirst()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     // Saved a moment ago, and nobody has looked since.
     writeFile(m_path, "two\n");
     m_history->restore(m_history->versions().first());
@@ -307,11 +314,7 @@ void TestProgramHistory::longRestoreTellsItsProgressAndStops()
 
 void TestProgramHistory::damagedVersionIsNotBroughtBack()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("two\n");
-    QVERIFY(isKept(2));
+    QVERIFY(keep({"one\n", "two\n"}));
     const ProgramVersion version = m_history->versions().first();
     writeFile(version.path, readFile(version.path).replace("one", "ono"));
     m_history->restore(version);
@@ -323,9 +326,7 @@ void TestProgramHistory::damagedVersionIsNotBroughtBack()
 
 void TestProgramHistory::versionThatWentMeanwhileIsTold()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     const ProgramVersion version = m_history->versions().first();
     QVERIFY(QFile::remove(version.path));
     m_history->restore(version);
@@ -341,9 +342,7 @@ void TestProgramHistory::versionThatWentMeanwhileIsTold()
 
 void TestProgramHistory::restoreIntoAFolderThatTakesNothing()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     const QFile::Permissions usual = QFile::permissions(programDir());
     QVERIFY(QFile::setPermissions(programDir(), QFile::ReadOwner | QFile::ExeOwner));
     m_history->restore(m_history->versions().first());
@@ -358,8 +357,7 @@ void TestProgramHistory::halfRestoredFileOfAKilledProgramGoes()
     writeFile(programDir() + "/.filarix-restored", "whole, but without its name");
     const QString half = ".filarix-coil.cnc.abcdef012345";
     writeFile(programDir() + '/' + half, "half");
-    const struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
-    ::utimensat(AT_FDCWD, QFile::encodeName(programDir() + '/' + half).constData(), times, 0);
+    age(programDir() + '/' + half);
     writeFile(programDir() + "/.filarix-restored-12/" + half, "half");
     // Somebody may be writing that one.
     const QString young = ".filarix-coil.cnc.abcdef012346";
@@ -389,11 +387,8 @@ void TestProgramHistory::historyThatCannotBeKeptIsToldOnce()
 void TestProgramHistory::storageThatHangsIsTold()
 {
     save("one\n");
-    // A program that hangs when it is opened: the system waits until the lease is given back.
-    std::signal(SIGIO, SIG_IGN);
-    QFile leased(m_path);
-    QVERIFY(leased.open(QIODevice::ReadWrite));
-    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+    const HeldFile held(m_path);
+    QVERIFY(held.isHeld());
     m_history.reset(new ProgramHistory(programDir(), m_folder));
     m_history->setStallTime(200);
     m_told.reset(new QSignalSpy(m_history.data(), SIGNAL(told(QString, Message::Tone, QString))));
@@ -403,7 +398,6 @@ void TestProgramHistory::storageThatHangsIsTold()
     QVERIFY(m_history->isSettled());
     m_history->scan();
     QVERIFY(m_history->isSettled());
-    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_UNLCK), 0);
 }
 
 void TestProgramHistory::settledOnlyWhenAllIsKept()
@@ -465,10 +459,8 @@ void TestProgramHistory::waiterIsCalledWhenAProgramCannotBeKept()
 void TestProgramHistory::waiterIsCalledWhenTheStorageIsLost()
 {
     save("one\n");
-    std::signal(SIGIO, SIG_IGN);
-    QFile leased(m_path);
-    QVERIFY(leased.open(QIODevice::ReadWrite));
-    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+    const HeldFile held(m_path);
+    QVERIFY(held.isHeld());
     m_history.reset(new ProgramHistory(programDir(), m_folder));
     m_history->setStallTime(200);
     int calls = 0;
@@ -478,7 +470,6 @@ void TestProgramHistory::waiterIsCalledWhenTheStorageIsLost()
     m_history->whenSettled(this, [&] { ++calls; });
     QCOMPARE(calls, 1);
     QTRY_COMPARE(calls, 2);
-    QCOMPARE(::fcntl(leased.handle(), F_SETLEASE, F_UNLCK), 0);
 }
 
 void TestProgramHistory::waiterIsCalledWhenAWriterDoesNotEnd()
@@ -580,9 +571,7 @@ void TestProgramHistory::causeEndsWhenTheProgramIsKeptOrGone()
 
 void TestProgramHistory::restoreKeepsThePermissions()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     save("two\n");
     QCOMPARE(::chmod(QFile::encodeName(m_path).constData(), 0640), 0);
     m_history->restore(m_history->versions().first());
@@ -606,11 +595,7 @@ void TestProgramHistory::saveRightBeforeTheRenameIsKept()
 {
     QFETCH(bool, isRightBefore);
     QFETCH(bool, canExchange);
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("two\n");
-    QVERIFY(isKept(2));
+    QVERIFY(keep({"one\n", "two\n"}));
     std::atomic<int> saves{0};
     // Of each two, the first asks for an exchange.
     int renames = 0;
@@ -642,11 +627,7 @@ void TestProgramHistory::saveRightBeforeTheRenameIsKept()
 
 void TestProgramHistory::saveThatGoesOnIsKept()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("two\n");
-    QVERIFY(isKept(2));
+    QVERIFY(keep({"one\n", "two\n"}));
     std::thread saving;
     QByteArray saved;
     for (int i = 0; i < 20; ++i)
@@ -678,11 +659,7 @@ void TestProgramHistory::saveThatGoesOnIsKept()
 
 void TestProgramHistory::saveWithoutEndIsLeftInPlace()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("two\n");
-    QVERIFY(isKept(2));
+    QVERIFY(keep({"one\n", "two\n"}));
     std::thread saving;
     std::atomic<bool> isEnough{false};
     m_history->setWriterPatience(400);
@@ -709,9 +686,7 @@ void TestProgramHistory::saveWithoutEndIsLeftInPlace()
 
 void TestProgramHistory::programThatComesBackMeanwhileIsKept()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     QVERIFY(QFile::remove(m_path));
     QVERIFY(isKept(1));
     int calls = 0;
@@ -731,9 +706,7 @@ void TestProgramHistory::programThatComesBackMeanwhileIsKept()
 
 void TestProgramHistory::linkIsNotReplaced()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
+    QVERIFY(keep({"one\n"}));
     QVERIFY(QFile::remove(m_path));
     writeFile(home() + "/elsewhere.cnc", "theirs\n");
     QVERIFY(QFile::link(home() + "/elsewhere.cnc", m_path));
@@ -750,8 +723,7 @@ void TestProgramHistory::whatAKilledRestoreHeldIsTakenIn()
     save("one\n");
     const QString held = programDir() + "/.filarix-restored-1a2b/coil.cnc";
     writeFile(held, "saved in the last moment\n");
-    const struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
-    ::utimensat(AT_FDCWD, QFile::encodeName(held).constData(), times, 0);
+    age(held);
     start();
     QVERIFY(isKept(2));
     QCOMPARE(versionOf("saved in the last moment\n").name, QString("coil.cnc"));
@@ -761,13 +733,7 @@ void TestProgramHistory::whatAKilledRestoreHeldIsTakenIn()
 
 void TestProgramHistory::stalledSyncBringsNothingBack()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("two\n");
-    QVERIFY(isKept(2));
-    save("three\n");
-    QVERIFY(isKept(3));
+    QVERIFY(keep({"one\n", "two\n", "three\n"}));
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
     const std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
     FileCalls::beforeSync = [gate, hangs](const QByteArray &path) {
@@ -793,11 +759,7 @@ void TestProgramHistory::stalledSyncBringsNothingBack()
 
 void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
 {
-    save("one\n");
-    start();
-    QVERIFY(isKept(1));
-    save("two\n");
-    QVERIFY(isKept(2));
+    QVERIFY(keep({"one\n", "two\n"}));
     const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
     const QByteArray program = QFile::encodeName(m_path);
     const std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
