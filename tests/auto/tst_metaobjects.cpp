@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds the meta-object of each exported class.
+
 #include "checkbox.h"
 #include "combobox.h"
 #include "combolineedit.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds the Designer plugin: a form that uic compiled.
+
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "ui_form.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds the Designer plugin.
+
 #include "filarixtest.h"
 
 #include <QBuffer>

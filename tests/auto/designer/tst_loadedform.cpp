@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds the Designer plugin: a form that a host loads at run time.
+
 #include "checkbox.h"
 #include "combobox.h"
 #include "dataeditor.h"

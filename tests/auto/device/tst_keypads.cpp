@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds KeypadDialog, KeypadFrame, KeypadLayout, KeypadLabel, KeypadCheck, KeyButton and ValueEdit,
+// by way of the three keypads.
+
 #include "keypadtest.h"
 
 #include <hmidevice/characterkeypad.h>

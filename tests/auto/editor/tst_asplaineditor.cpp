@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WGCodeEditer, beside the toolkit's own editor.
+
 #include "compat.h"
 #include "filarixtest.h"
 #include "plaineditor.h"

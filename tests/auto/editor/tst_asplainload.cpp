@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds PieceAppender and LineGauge: a load shows what the toolkit's own editor shows.
+
 #include "filarixtest.h"
 #include "plaineditor.h"
 #include "wgcodeediter.h"

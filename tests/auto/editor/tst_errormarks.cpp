@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WHighlighter and WGCodeEditer: the marks of faulty lines.
+
 #include "filarixtest.h"
 #include "wgcodeediter.h"
 #include "whighlighter.h"

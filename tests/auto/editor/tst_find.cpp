@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WFindDialog and WGCodeEditer: search and replacement.
+
 #include "filarixtest.h"
 #include "lineedit.h"
 #include "marktranslator.h"

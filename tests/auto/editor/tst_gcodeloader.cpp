@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WGCodeEditer's loader.
+
 #include "filarixtest.h"
 #include "openwindow.h"
 #include "waqp.h"

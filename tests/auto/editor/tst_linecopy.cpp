@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WGCodeEditer and WCopyDialog: copy and paste of whole lines.
+
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "modaldriver.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds the icons, images/robot.qrc.
+
 #include "filarixtest.h"
 
 #include <QColor>

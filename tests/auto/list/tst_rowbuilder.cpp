@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds InstructionRow, Problem and the other functions of filarixrows.h.
+
 #include "filarixrows.h"
 
 #include "dataeditor.h"

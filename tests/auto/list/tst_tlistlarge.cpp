@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds TListWidget: a program far longer than a page.
+
 #include "filarixtest.h"
 #include "rowfixture.h"
 #include "rowprobe.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds TListWidget, beside a plain model of it.
+
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "listmodel.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds ImportManage: a stick that is full.
+
 #include "managerfixture.h"
 #include "modaldriver.h"
 

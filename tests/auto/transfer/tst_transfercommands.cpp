@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds ImportManage: its command lines.
+
 #include "managerfixture.h"
 #include "modaldriver.h"
 #include "shell.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds the translations: the .ts files, and whether their texts fit.
+
 #include "conneditor.h"
 #include "filarixtest.h"
 #include "filedialog.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WMMainWindow: its command bars.
+
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "marktranslator.h"

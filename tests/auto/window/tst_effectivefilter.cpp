@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WMMainWindow: the words in force, WordsInForce, Rule and Scanner.
+
 #include "filarixtest.h"
 #include "wgcodeediter.h"
 #include "whighlighter.h"

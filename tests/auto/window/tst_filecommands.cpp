@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WMMainWindow: opening, saving and removing files.
+
 #include "filarixtest.h"
 #include "marktranslator.h"
 #include "modaldriver.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds WMMainWindow and WGCodeEditer: lines that are edited on a keypad.
+
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "modaldriver.h"

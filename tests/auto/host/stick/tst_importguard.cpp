@@ -103,7 +103,7 @@ ImportGuard::Settled TestImportGuard::settle(ImportGuard *guard)
 {
     int result = -1;
     guard->settle([&result](ImportGuard::Settled settled) { result = settled; });
-    if (!QTest::qWaitFor([&result] { return result >= 0; }))
+    if (!TestCompat::waitFor([&result] { return result >= 0; }))
         qFatal("The guard does not answer.");
     return ImportGuard::Settled(result);
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds ImportGuard, DeviceWatch and Stick: a stick that the system has unmounted.
+
 #include "base/clickgate.h"
 #include "filarixtest.h"
 #include "importmanage.h"
