@@ -4,6 +4,7 @@
 #include "programs/plctransfer.h"
 
 #include "base/sha256.h"
+#include "programs/downloadsource.h"
 #include "storage/durablefile.h"
 #include "storage/filestamp.h"
 
@@ -29,11 +30,10 @@ class Q_DECL_HIDDEN PlcTransfer::Task : public FileTask
 public:
     Task(const QString &programPath, const QString &copyPath, const QString &dropDir,
          const QByteArray &hash)
-        : m_program(programPath)
-        , m_name(m_program.fileName())
-        , m_source(copyPath.isEmpty() ? programPath : copyPath)
+        : m_folder(QFileInfo(programPath).path())
+        , m_source(programPath, copyPath)
         , m_dropDir(dropDir)
-        , m_targetPath(QDir(dropDir).filePath(m_name))
+        , m_targetPath(QDir(dropDir).filePath(m_source.name()))
         , m_shownHash(hash)
     {}
 
@@ -47,7 +47,7 @@ public:
     qint64 size() const { return m_size; }
     /// The program has taken its name in the PLC's folder.
     bool hasArrived() const { return m_hasArrived; }
-    QString name() const { return m_name; }
+    QString name() const { return m_source.name(); }
     /// Lets the task end with that error, before it began.
     void refuse(const QString &error) { m_error = error; }
 
@@ -64,9 +64,8 @@ private:
     bool fail(const QString &error);
     bool failAtPlc(const QString &error);
 
-    const QFileInfo m_program;
-    const QString m_name;
-    QFile m_source;
+    const QString m_folder;
+    DownloadSource m_source;
     const QString m_dropDir;
     const QString m_targetPath;
     const QByteArray m_shownHash;
@@ -105,26 +104,20 @@ bool PlcTransfer::Task::step()
 
 bool PlcTransfer::Task::open()
 {
-    if (m_program.filePath().isEmpty())
-        return fail(tr("There is no program to download yet. Save it under a name first."));
-    const QString name = m_program.fileName();
-    const QFileInfo source(m_source.fileName());
-    if (!source.exists())
-        return fail(
-            tr("The program %1 is gone from the panel. Save it again, then download.").arg(name));
-    if (!source.isFile())
-        return fail(tr("%1 is not a program file.").arg(name));
+    const QString reasonMissing = m_source.reasonMissing();
+    if (!reasonMissing.isEmpty())
+        return fail(reasonMissing);
     if (!QFileInfo(m_dropDir).isDir())
         return failAtPlc(tr("The PLC does not answer: there is no folder %1.").arg(m_dropDir));
-    if (QFileInfo(m_dropDir).canonicalFilePath() == QFileInfo(m_program.path()).canonicalFilePath())
+    if (QFileInfo(m_dropDir).canonicalFilePath() == QFileInfo(m_folder).canonicalFilePath())
         return fail(tr("The PLC folder is the program directory itself. Choose another one."));
-    if (source.size() > largestProgram)
+    if (m_source.file().size() > largestProgram)
         return fail(tr("The program %1 is larger than the PLC takes (%2 MB).")
-                        .arg(name)
+                        .arg(name())
                         .arg(largestProgram / (qint64(1024) * 1024)));
-    if (!m_source.open(QIODevice::ReadOnly))
-        return fail(tr("The program %1 cannot be read: %2.").arg(name, m_source.errorString()));
-    m_size = m_source.size();
+    if (!m_source.file().open(QIODevice::ReadOnly))
+        return fail(m_source.reasonUnread());
+    m_size = m_source.file().size();
     sweep();
     m_target.reset(new DurableFile(m_targetPath));
     if (!m_target->open())
@@ -151,10 +144,10 @@ void PlcTransfer::Task::sweep()
 
 bool PlcTransfer::Task::sendPiece()
 {
-    const QByteArray piece = m_source.read(std::min<qint64>(pieceBytes, m_size - m_position));
+    const QByteArray piece =
+        m_source.file().read(std::min<qint64>(pieceBytes, m_size - m_position));
     if (piece.isEmpty() && m_position < m_size)
-        return fail(tr("The program %1 cannot be read: %2.")
-                        .arg(m_program.fileName(), m_source.errorString()));
+        return fail(m_source.reasonUnread());
     m_hash.addData(piece);
     if (!m_target->write(piece))
         return failAtPlc(tr("The PLC does not take the program: %1.").arg(m_target->errorString()));
@@ -191,7 +184,7 @@ bool PlcTransfer::Task::commit()
 bool PlcTransfer::Task::openArrived()
 {
     m_arrived.setFileName(m_targetPath);
-    if (!m_arrived.open(QIODevice::ReadOnly) || !m_source.seek(0))
+    if (!m_arrived.open(QIODevice::ReadOnly) || !m_source.file().seek(0))
         return failAtPlc(
             tr("What arrived in the PLC cannot be read back: %1.").arg(m_arrived.errorString()));
     m_stage = Comparing;
@@ -202,7 +195,7 @@ bool PlcTransfer::Task::comparePiece()
 {
     // At the end of the program one more read has to find the end of the file.
     const QByteArray piece = m_arrived.read(pieceBytes);
-    const QByteArray sent = m_source.read(std::min<qint64>(pieceBytes, m_size - m_position));
+    const QByteArray sent = m_source.file().read(std::min<qint64>(pieceBytes, m_size - m_position));
     if (piece != sent)
         return takeOut();
     m_position += piece.size();
@@ -236,7 +229,7 @@ int PlcTransfer::Task::percent() const
 
 void PlcTransfer::Task::close()
 {
-    m_source.close();
+    m_source.file().close();
     m_arrived.close();
     m_target.reset();
 }
@@ -297,7 +290,7 @@ void PlcTransfer::endStopped()
     m_task.reset();
     Q_EMIT stopped(m_isUncompared ? tr("The download was stopped before the program in the PLC was "
                                        "compared. Download it once more.")
-                                  : tr("The download was stopped. The PLC keeps what it had."));
+                                  : DownloadSource::stoppedText());
 }
 
 void PlcTransfer::endStalled()

@@ -5,6 +5,7 @@
 
 #include "base/hostcompat.h"
 #include "base/sha256.h"
+#include "programs/downloadsource.h"
 #include "storage/filestamp.h"
 
 #include <QDir>
@@ -149,7 +150,7 @@ class Q_DECL_HIDDEN ProgramSnapshot::Task : public FileTask
 public:
     Task(const QString &path, const std::shared_ptr<Copy> &copy) : m_source(path), m_copy(copy)
     {
-        m_facts.name = QFileInfo(path).fileName();
+        m_facts.name = m_source.name();
     }
 
     bool step() override;
@@ -166,7 +167,7 @@ private:
     bool readPiece();
     bool fail(const QString &error);
 
-    QFile m_source;
+    DownloadSource m_source;
     const std::shared_ptr<Copy> m_copy;
     FileStamp m_stamp;
     Sha256 m_hash;
@@ -178,23 +179,17 @@ private:
 
 bool ProgramSnapshot::Task::step()
 {
-    return m_source.isOpen() ? readPiece() : open();
+    return m_source.file().isOpen() ? readPiece() : open();
 }
 
 bool ProgramSnapshot::Task::open()
 {
-    if (m_source.fileName().isEmpty())
-        return fail(tr("There is no program to download yet. Save it under a name first."));
-    const QFileInfo info(m_source.fileName());
-    if (!info.exists())
-        return fail(tr("The program %1 is gone from the panel. Save it again, then download.")
-                        .arg(m_facts.name));
-    if (!info.isFile())
-        return fail(tr("%1 is not a program file.").arg(m_facts.name));
-    if (!m_source.open(QIODevice::ReadOnly))
-        return fail(
-            tr("The program %1 cannot be read: %2.").arg(m_facts.name, m_source.errorString()));
-    m_stamp = FileStamp::of(m_source);
+    const QString reasonMissing = m_source.reasonMissing();
+    if (!reasonMissing.isEmpty())
+        return fail(reasonMissing);
+    if (!m_source.file().open(QIODevice::ReadOnly))
+        return fail(m_source.reasonUnread());
+    m_stamp = FileStamp::of(m_source.file());
     m_hash = Sha256();
     m_facts.bytes = 0;
     m_facts.lines = 1;
@@ -207,10 +202,10 @@ bool ProgramSnapshot::Task::open()
 bool ProgramSnapshot::Task::readPiece()
 {
     // Up to where the end was at first: one that moves on could be followed for ever.
-    const QByteArray piece = m_source.read(qMin<qint64>(pieceBytes, m_stamp.size - m_facts.bytes));
-    if (m_source.error() != QFile::NoError)
-        return fail(
-            tr("The program %1 cannot be read: %2.").arg(m_facts.name, m_source.errorString()));
+    const QByteArray piece =
+        m_source.file().read(qMin<qint64>(pieceBytes, m_stamp.size - m_facts.bytes));
+    if (m_source.file().error() != QFile::NoError)
+        return fail(m_source.reasonUnread());
     m_facts.bytes += piece.size();
     m_facts.lines += piece.count('\n');
     m_hash.addData(piece);
@@ -221,8 +216,9 @@ bool ProgramSnapshot::Task::readPiece()
         return true;
 
     m_facts.hash = m_hash.result();
-    m_isWhole = m_stamp == FileStamp::of(m_source) && m_stamp == FileStamp::of(m_source.fileName());
-    m_source.close();
+    m_isWhole = m_stamp == FileStamp::of(m_source.file())
+                && m_stamp == FileStamp::of(m_source.file().fileName());
+    m_source.file().close();
     if (m_isWhole)
         return false;
     if (++m_tries < mostTries)
@@ -238,7 +234,7 @@ int ProgramSnapshot::Task::percent() const
 
 void ProgramSnapshot::Task::close()
 {
-    m_source.close();
+    m_source.file().close();
     // One that came too late for whoever wanted it goes, too.
     if (m_copy && (!m_isWhole || isGivenUp()))
         m_copy->remove();
@@ -329,7 +325,7 @@ void ProgramSnapshot::end()
 void ProgramSnapshot::endStopped()
 {
     m_task.reset();
-    Q_EMIT stopped(tr("The download was stopped. The PLC keeps what it had."));
+    Q_EMIT stopped(DownloadSource::stoppedText());
 }
 
 void ProgramSnapshot::endStalled()

@@ -185,7 +185,7 @@ void TestLanguages::everyLanguageIsSpoken()
     QVERIFY(translated("WMMainWindow", "Open") != "Open");
     QVERIFY(translated("PanelWindow", "Connections") != "Connections");
     const char stopped[] = "The download was stopped. The PLC keeps what it had.";
-    QVERIFY(translated("PlcTransfer", stopped) != stopped);
+    QVERIFY(translated("DownloadSource", stopped) != stopped);
     QVERIFY(translated("KeypadCheck", "Not a number") != "Not a number");
     QVERIFY(translated("QPlatformTheme", "Cancel") != "Cancel");
 
