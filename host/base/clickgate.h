@@ -16,8 +16,8 @@ class QButtonGroup;
 /// Stands between a button and what its click does, for a host that has something to see to first.
 ///
 /// However the button is pressed, by a touch, by Return, a shortcut or a program, the gate is asked
-/// before anybody hears of the click. It may hold the click for as long as it needs, while the
-/// event loop runs, and then let it through, or drop it:
+/// before anybody hears of the click. The gate may hold the click for as long as it needs, while
+/// the event loop runs, and then let it through, or drop it:
 ///
 ///     ClickGate *gate = new ClickGate(button);
 ///     gate->onClick([gate, history] {
@@ -40,13 +40,13 @@ public:
     /// The button that the gate stands before.
     QAbstractButton *button() const;
 
-    /// \a hold runs in the place of each click. It has to lead to one pass() or drop(), at once or
-    /// later; clicks that come meanwhile count for nothing.
+    /// \a hold runs in the place of each click. Each \a hold has to lead to one pass() or drop(),
+    /// at once or later. Clicks that come meanwhile count for nothing.
     void onClick(const Answer &hold) { m_hold = hold; }
-    /// Lets the click that is held through: the button is clicked, from the event loop. A button
-    /// that has gone or is disabled by now isn't.
+    /// Lets the held click through: the button is clicked, from the event loop. A button that has
+    /// gone or is disabled by now is not clicked.
     void pass();
-    /// The click never was.
+    /// Drops the held click: nobody hears of it.
     void drop();
     /// Whether a click is held at the moment.
     bool isHolding() const { return m_isHolding; }

@@ -29,8 +29,8 @@ void sleep(int ms);
 /// 32 hexadecimal digits that no other call gives, in this program or another.
 QString uniqueName();
 
-/// Has the window system keep \a window before \a host. Qt 4 has no way to ask for that: there
-/// nothing is done. Both are shown by now.
+/// Has the window system keep \a window before \a host; both have to be shown by now. Qt 4 has no
+/// way to ask for that, and nothing is done there.
 void keepBefore(QWidget *window, const QWidget *host);
 
 /// Keeps an object's signals back while it lives, and leaves them as they were.

@@ -21,7 +21,7 @@
 ///     void causeEnded(const QString &cause);
 struct FILARIX_HOST_EXPORT Message
 {
-    /// How urgent it is. The one scale for messages, states and questions.
+    /// How urgent a message is. The one scale for messages, states and questions.
     enum Tone {
         Information, ///< Went as wanted, or is good to know. Passes by itself.
         Warning,     ///< The operator should see to it. Stays until it is closed or its cause ends.
@@ -32,9 +32,10 @@ struct FILARIX_HOST_EXPORT Message
     QString text;
     Tone tone = Information;
     /// What the message is about, for the program alone: "plc", "storage". The next message of the
-    /// same cause takes its place, and it goes when the cause ends. Empty: it stands for itself.
+    /// same cause takes this one's place, and the message goes when the cause ends. A message
+    /// without a cause stands for itself.
     QString cause;
-    /// When it was told, in the panel's time.
+    /// When the message was told, in the panel's time.
     QDateTime time;
 };
 

@@ -59,7 +59,8 @@ public:
     virtual ~Questioner() = default;
 
     /// The number of the answer, from 0. A question that is closed in any other way, by a signal to
-    /// the program, say, is answered by 0. May run an event loop.
+    /// the program, say, is answered by 0. May run an event loop; whoever asks has to be ready to
+    /// be gone afterwards.
     virtual int ask(const Question &question) = 0;
 
 private:

@@ -25,7 +25,7 @@ public:
     void addData(const QByteArray &bytes) { addData(bytes.constData(), bytes.size()); }
     /// \a length in bytes.
     void addData(const char *bytes, int length);
-    /// Of all bytes so far. More may follow.
+    /// The checksum of all bytes so far. More may follow.
     QByteArray result() const;
 
     static QByteArray hash(const QByteArray &bytes);

@@ -20,8 +20,8 @@ class FILARIX_HOST_EXPORT FindDialogFitter
 public:
     /// Gives the dialogs their texts in the language that is installed now.
     static void retranslate();
-    /// Puts the dialogs that are visible into the lower right corner of \a host, which the starts
-    /// of the lines leave free, and before the window of \a host.
+    /// Puts the visible dialogs before the window of \a host, into its lower right corner: the
+    /// starts of the lines stay in view.
     static void place(const QWidget *host);
 };
 

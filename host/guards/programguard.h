@@ -49,7 +49,7 @@ public:
 
     /// Before a write, what stands there is kept in \a history, which must outlive the guard.
     void setHistory(ProgramHistory *history);
-    /// Likewise, in a history of the host's own.
+    /// Likewise, in a \a history of the host's own.
     void setHistory(const ProgramKeeper::History &history) { m_keeper.setHistory(history); }
     /// See StoreCheck::setOtherPlace().
     void setOtherPlace(const std::function<QString()> &folder) { m_check.setOtherPlace(folder); }

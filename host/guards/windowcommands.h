@@ -35,7 +35,7 @@ public:
     void onCommand(const std::function<void(Command)> &hold) { m_hold = hold; }
     /// The window carries the held command out, from the event loop. Ends in one done() or lost().
     void pass(Command command);
-    /// The held command never was.
+    /// Drops the held command: the window hears nothing of it.
     void drop(Command command);
     /// As if the operator pressed the command's button, even where the bar hides the button. Like
     /// any press it is held first. None and a command that the window lacks do nothing, here and in

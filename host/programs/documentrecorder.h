@@ -27,11 +27,11 @@ public:
     /// \a document must outlive the recorder.
     explicit DocumentRecorder(QTextDocument *document, QObject *parent = nullptr);
 
-    /// Begins the copy anew; the changes that were not taken are in it.
+    /// Begins the copy anew. The copy has the changes in it that were not taken.
     void copy();
     /// Forgets the copy and the changes, and takes nothing down until copy() is called again.
     void stop();
-    /// Ends the copy at once, if it is still being made.
+    /// Ends a copy that is still being made, at once.
     void finishCopy();
     bool isCopying() const { return m_state == Copying; }
     /// Whether there was a copy, and all changes since are known.

@@ -26,7 +26,7 @@ public:
         NotCompared ///< The file could not be read a second time.
     };
 
-    /// Of the file that would be sent.
+    /// Facts of the file that would be sent.
     ProgramFacts program;
     Standing standing = NotShown;
     /// As the editor counts; -1 when the editor doesn't show the program.

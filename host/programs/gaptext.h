@@ -8,8 +8,8 @@
 
 #include <QString>
 
-/// A long text that takes many changes. Each costs as much as it lies away from the one before,
-/// not as much as the text is long.
+/// A long text that takes many changes. A change costs as much as it lies away from the change
+/// before, not as much as the text is long.
 class GapText
 {
 public:

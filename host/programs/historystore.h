@@ -18,29 +18,32 @@
 /// One version of one program, as the history keeps it.
 struct ProgramVersion
 {
-    /// Counts up from 1 over all programs. It gives the order: a panel's clock may be set back.
+    /// Counts up from 1 over all programs. The number gives the order: a panel's clock may be set
+    /// back.
     qint64 number = 0;
     QString name;
-    /// When the history took it in, UTC.
+    /// When the history took the version in, UTC.
     QDateTime stored;
     qint64 bytes = 0;
     /// SHA-256 of the bytes.
     QByteArray hash;
-    /// The file that holds it, and where in it the program begins.
+    /// The file that holds the version, and the byte of the file, from 0, at which the program
+    /// begins.
     QString path;
     qint64 offset = 0;
 };
 
 /// Versions of programs in a folder of their own, one file each.
 ///
-/// A version's file is written beside its place, forced to the disk and renamed, so that it is
-/// there complete or not at all, whenever the power goes; store() tells that a version is kept only
-/// after that. Its head is text, then come the program's bytes as they are.
+/// A version's file is written beside its place, forced to the disk and renamed. Whenever the power
+/// goes, the file is there complete or not at all. store() tells that a version is kept only after
+/// that. The head of the file is text, then come the program's bytes as they are.
 ///
-/// What goes when there is too much: the oldest, but of each program the newest stays as long as
-/// the newest ones alone are within the bytes.
+/// Where there is too much, the oldest version goes. The newest version of each program stays as
+/// long as the newest ones alone are within the bytes.
 ///
-/// It needs no event loop. Threads may share it: a second caller waits for the first one.
+/// The store needs no event loop. Threads may share a store: a second caller waits for the first
+/// one.
 class FILARIX_HOST_EXPORT HistoryStore
 {
     Q_DECLARE_TR_FUNCTIONS(HistoryStore)
@@ -72,7 +75,7 @@ public:
     bool open(QString *error);
     bool isOpen() const;
 
-    /// Takes in the file at \a path, under its name, if that holds something new.
+    /// Takes in the file at \a path, under its name, if the file holds something new.
     Outcome store(const QString &path, QString *error);
 
     /// Whether the version that stands at \a path is kept, as store() found it; also when there is

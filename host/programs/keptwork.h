@@ -23,7 +23,7 @@ struct FILARIX_HOST_EXPORT TextChange
 /// What unsaved work belongs to, and how it stood.
 struct FILARIX_HOST_EXPORT KeptHead
 {
-    /// The file; empty for none.
+    /// Path of the file that the work belongs to; empty for none.
     QString path;
     int cursor = 0;
     /// What the screen has to know besides, in its own words.
@@ -41,11 +41,11 @@ struct FILARIX_HOST_EXPORT KeptWork
     /// Which screen, in a word of small letters: "program".
     QString subject;
     KeptHead head;
-    /// In UTC.
+    /// When the work was kept, in UTC.
     QDateTime time;
-    /// Of a program. Its lines end in "\n", the last one in nothing.
+    /// The text of a program. Its lines end in "\n", the last one in nothing.
     QString text;
-    /// Of a list.
+    /// The rows of a list.
     QList<QStringList> rows;
     /// Whether the file was written, came or went since the work was kept.
     bool isFileChanged = false;

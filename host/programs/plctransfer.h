@@ -9,13 +9,13 @@
 
 /// Copies one program into the drop folder that stands for the PLC.
 ///
-/// It goes in pieces, beside the event loop: the screen stays alive however slow the folder is. The
-/// program takes its name in the folder only once it is complete, and is then read back and
-/// compared byte by byte with what was sent.
+/// The program goes in pieces, beside the event loop: the screen stays alive however slow the
+/// folder is. A complete program takes its name in the folder, and no other does. Then the file is
+/// read back and compared byte by byte with what was sent.
 ///
-/// A transfer that hangs is given up, and changes nothing from then on. If it hangs in the middle
-/// of the one step that gives the program its name, the operator is told that nobody knows, and no
-/// other begins before that step has come back.
+/// A transfer that hangs is given up, and changes nothing from then on. If the one step hangs that
+/// gives the program its name, the operator is told that nobody knows. No other transfer begins
+/// before that step has come back.
 ///
 /// Each start() ends in exactly one finished(), stopped() or failed(), never before start() has
 /// returned.

@@ -30,11 +30,11 @@ public:
     bool step() override;
 
     Verdict verdict() const { return m_verdict; }
-    /// As the editor counts, one more than there are line ends.
+    /// Lines as the editor counts, one more than there are line ends.
     qint64 fileLines() const { return m_fileLines; }
     qint64 shownLines() const { return m_shownLines; }
     QString error() const { return m_error; }
-    /// Of the file as it was before it was read.
+    /// The stamp of the file as it was before it was read.
     FileStamp stamp() const { return m_stamp; }
 
     /// What a file of this text counts as.

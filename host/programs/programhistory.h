@@ -19,8 +19,8 @@
 /// Keeps what the programs were: each version that stands in the program directory goes into a
 /// HistoryStore, and can be brought back.
 ///
-/// It looks at the directory's sizes and times every second, and at once when scan() is called, and
-/// reads what changed. All of that happens in a thread.
+/// The history looks at the directory's sizes and times every second, and at once when scan() is
+/// called. What changed is read. All of that happens in a thread.
 ///
 /// Whoever is about to write over a program, or to take one away, waits for the history first:
 ///
@@ -43,10 +43,10 @@ public:
     /// Whether everything that stood in the program directory at the last scan() is kept by now, or
     /// was told to be impossible. Also when that takes longer than anybody waits.
     bool isSettled() const;
-    /// Looks now, and calls \a then from the event loop once everything that stood in the program
-    /// directory at this call is kept, or was told to be impossible. Also when that takes longer
-    /// than anybody waits, and at once when the storage is lost: isKept() tells. Never before this
-    /// has returned, and not at all once \a context is gone.
+    /// Looks now. Calls \a then from the event loop once all that stands in the program directory
+    /// now is kept, or was told to be impossible. Also calls when that takes longer than anybody
+    /// waits, and at once when the storage is lost: isKept() tells. Never calls before this has
+    /// returned, and not at all once \a context is gone.
     void whenSettled(QObject *context, const std::function<void()> &then);
     /// Whether the program \a name was kept as it stood at the last look, or was not there. Nothing
     /// is kept before the first look has ended.

@@ -20,7 +20,8 @@ class FILARIX_HOST_EXPORT ProgramKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// Told in a sentence why what stands there can't be kept; with an empty one it is.
+    /// Gets the reason why what stands there can't be kept, a sentence for the operator. An empty
+    /// reason: it is kept.
     typedef std::function<void(const QString &reason)> Kept;
     /// A history's way to take in the file at \a path, and to tell when it has.
     typedef std::function<void(const QString &path, const Kept &kept)> History;

@@ -18,7 +18,7 @@ class FILARIX_HOST_EXPORT ProgramName
 public:
     /// ".cnc".
     static QString suffix();
-    /// For a program that has no name yet.
+    /// What is proposed for a program that has no name yet.
     static QString first();
     /// Why no program can have this name, a sentence for the operator; empty when one can.
     static QString complaint(const QString &name);
@@ -27,7 +27,7 @@ public:
     /// \a name if it isn't among \a taken, or else with a number: "program_2.cnc". Names that
     /// differ in case alone count as one.
     static QString freeOne(const QString &name, const QStringList &taken);
-    /// For what is there of a program: "coil-part.cnc" for "coil.cnc".
+    /// A name for the part of a program that is there: "coil-part.cnc" for "coil.cnc".
     static QString ofPart(const QString &name);
 };
 

@@ -23,7 +23,7 @@ public:
 
     /// NoFile: a folder, a link, a device.
     Kind kind() const { return m_kind; }
-    /// As the editor counts; 0 when the file can't be read.
+    /// Lines as the editor counts; 0 when the file can't be read.
     qint64 lines() const { return m_lines; }
     QDateTime written() const { return m_written; }
     FileStamp stamp() const { return m_stamp; }

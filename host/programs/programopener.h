@@ -30,8 +30,8 @@ public:
                            QObject *parent = nullptr);
 
     /// Presses Open and waits, with the event loop running; whether the program at \a path is the
-    /// window's afterwards. It has to stand in the program directory. What the window asks besides,
-    /// about changes say, is the operator's to answer.
+    /// window's afterwards. The program has to stand in the program directory. What the window asks
+    /// besides, about changes say, is the operator's to answer.
     bool open(const QString &path);
     /// Makes \a text the document's, in one step that Undo takes back, with the cursor at
     /// \a cursor. The document is modified then, unless that was its text before.

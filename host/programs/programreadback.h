@@ -9,7 +9,7 @@
 
 #include <QString>
 
-/// Finds out whether a program that was just saved is on the disk: forces the file there, reads it
+/// Finds out whether a program that was just saved is on the disk. Forces the file there, reads it
 /// back, and compares the bytes with those of the document's text.
 class ProgramReadback : public FileTask
 {
@@ -23,7 +23,7 @@ public:
     QString reason() const { return m_reason; }
     /// Whether the encoding of the files has all characters of the text.
     bool isFaithful() const { return m_isFaithful; }
-    /// Of the file that was read back.
+    /// The stamp of the file that was read back.
     FileStamp stamp() const { return m_stamp; }
 
 private:

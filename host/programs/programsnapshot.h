@@ -21,9 +21,9 @@ struct FILARIX_HOST_EXPORT ProgramFacts
     /// SHA-256 of the bytes.
     QByteArray hash;
 
-    /// The first eight digits of the hash in groups of four: "3F2A 91C0". Short enough to be
-    /// compared by eye, and the same as `sha256sum` shows on any PC; by accident two programs share
-    /// them once in four thousand million.
+    /// The first eight digits of the hash in groups of four: "3F2A 91C0". They are short enough to
+    /// be compared by eye, and the same as `sha256sum` shows on any PC. By accident two programs
+    /// share these digits once in four thousand million.
     QString checksum() const { return checksum(hash); }
     static QString checksum(const QByteArray &hash);
 };
@@ -49,8 +49,8 @@ public:
     /// Bytes that move in one step.
     static const int pieceBytes = 64 * 1024;
 
-    /// \a folder, made if it is missing, is for copies alone; what a panel left there that runs no
-    /// more goes.
+    /// \a folder is for copies alone, and made if it is missing. Copies of panels that run no more
+    /// are removed.
     explicit ProgramSnapshot(const QString &folder, QObject *parent = nullptr);
     /// Takes the copy away.
     ~ProgramSnapshot() override;

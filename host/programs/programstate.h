@@ -25,9 +25,9 @@ public:
     };
 
     Kind kind = Plain;
-    /// Of the program.
+    /// The program's bare name.
     QString name;
-    /// As the editor counts.
+    /// Lines as the editor counts, in the file and in the editor.
     qint64 fileLines = 0;
     qint64 shownLines = 0;
     /// Why a save failed, or a file couldn't be compared; in the system's words.

@@ -24,7 +24,7 @@ bool read(const QString &path, QString *text, QString *error, bool *isFaithful);
 QByteArray encoded(const QString &text);
 /// The text that the library reads from bytes.
 QString decoded(const QByteArray &bytes);
-/// As the editor's read-out counts: one more than there are line ends.
+/// Lines as the editor's read-out counts: one more than there are line ends.
 qint64 lines(const QString &text);
 /// What the loader puts into the editor, piece by piece; one piece for a program that it doesn't
 /// clean. A piece of nothing but comments is empty, and adds no line.

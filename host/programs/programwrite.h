@@ -27,7 +27,7 @@ public:
     /// from any thread, at any time.
     bool abandon() { return m_leave.withdraw(); }
 
-    /// It was read back, too.
+    /// Whether the file holds the program; the file was read back.
     bool isStored() const { return m_isStored; }
     /// See ProgramReadback.
     bool isFaithful() const { return m_isFaithful; }

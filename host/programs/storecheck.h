@@ -16,8 +16,8 @@ class FileTaskQueue;
 class Questioner;
 class QTextDocument;
 
-/// Follows up one save of a document until it is on the disk, or the operator lets it be: reads it
-/// back, and offers to write it again or elsewhere when it isn't there.
+/// Follows up one save of a document until the disk has the document, or the operator lets it be.
+/// Reads the file back, and offers to write the document again or elsewhere where the two differ.
 ///
 /// A document whose save failed is modified again.
 class FILARIX_HOST_EXPORT StoreCheck : public QObject
@@ -39,18 +39,18 @@ public:
     void setOtherPlace(const std::function<QString()> &folder) { m_otherPlace = folder; }
 
     bool isRunning() const { return m_isRunning; }
-    /// The library has just written \a text there.
+    /// Checks the file at \a path, to which the library has just written \a text.
     void check(const QString &path, const QString &text);
-    /// Writes \a text there once more, by the safe way.
+    /// Writes \a text to the file at \a path once more, by the safe way.
     void write(const QString &path, const QString &text);
 
     QString path() const { return m_path; }
-    /// Of the file that was stored; invalid when none was.
+    /// The stamp of the file that was stored; invalid when none was.
     FileStamp stamp() const { return m_stamp; }
     QString text() const { return m_text; }
     /// Whether the files' encoding has all characters of the text.
     bool isFaithful() const { return m_isFaithful; }
-    /// Why it is not stored, in the system's words.
+    /// Why the document is not stored, in the system's words.
     QString reason() const { return m_reason; }
     QString otherPath() const { return m_otherPath; }
 

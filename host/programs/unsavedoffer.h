@@ -23,8 +23,8 @@ class WMMainWindow;
 
 /// Looks for the unsaved work of earlier runs, offers it to the operator, and brings it back.
 ///
-/// The disk is looked at beside the event loop. What was brought back is kept anew by this run
-/// before it goes from where it was; what was not is offered again at the next start.
+/// The disk is looked at beside the event loop. Work that was brought back is kept anew by this run
+/// before the old files go. Other work is offered again at the next start.
 ///
 ///     UnsavedOffer *offer = new UnsavedOffer(folder, unsavedWork, questioner, this);
 ///     offer->setProgram(program);

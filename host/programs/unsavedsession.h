@@ -13,17 +13,19 @@
 
 /// The folder in which one run of the program keeps its unsaved work.
 ///
-/// A lock holds it for as long as the run lasts, however that ends; a folder that nobody holds was
-/// left by a run that was killed, or whose work was to be kept. For a FileThread, not the screen's.
+/// A lock holds the folder for as long as the run lasts, however the run ends. A folder that nobody
+/// holds was left by a run that was killed, or whose work was to be kept. All calls may wait for
+/// the disk, and belong into a FileThread.
 class FILARIX_HOST_EXPORT UnsavedSession
 {
 public:
     typedef std::shared_ptr<UnsavedSession> Pointer;
 
-    /// A new one in \a folder, which is made; null, with the reason in errno, when that fails.
+    /// A new session in \a folder, which is made. Null, with the reason in errno, when that fails.
     static Pointer make(const QString &folder);
-    /// Those in \a folder that nobody else holds, the newest first, and no more than an operator
-    /// would look through. They are held from now on. Empty ones are cleared away.
+    /// The sessions in \a folder that nobody else holds, the newest first, and no more than an
+    /// operator would look through. These sessions are held from now on. Empty ones are cleared
+    /// away.
     static QList<Pointer> left(const QString &folder);
 
     /// Lets go of the folder; what is in it stays.

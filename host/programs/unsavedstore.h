@@ -14,9 +14,9 @@
 /// Unsaved work on the disk, so that a power cut takes the last moment of it at most.
 ///
 /// Each subject has a file that is written as a whole, and a journal behind it. A change of a long
-/// text is appended to the journal: it costs as much as the change is long. What was torn off at
-/// the journal's end by a power cut is left out on reading, and so is a journal that belongs to an
-/// earlier file than the one beside it.
+/// text is appended to the journal, and costs as much as the change is long. Reading leaves out
+/// what a power cut has torn at the journal's end. It leaves out a journal that belongs to an
+/// earlier file than the one beside it, too.
 ///
 /// One caller at a time, in a FileThread. Nothing is made on the disk before there is work to keep.
 class FILARIX_HOST_EXPORT UnsavedStore
@@ -33,13 +33,14 @@ public:
 
     /// Writes the work of its subject as a whole.
     bool keep(const KeptWork &work);
-    /// Adds to what keep() wrote. False also when the journal is full, or broke off: keep() then.
+    /// Adds \a changes to what keep() wrote. False also when the journal is full, or broke off;
+    /// then keep() has to follow.
     bool append(const QString &subject, const KeptHead &head, const QList<TextChange> &changes);
     /// The subject has no unsaved work any more. A folder that is empty then goes, too.
     bool drop(const QString &subject);
     /// Why the last call failed, in the system's words; empty when keep() will do.
     QString errorString() const;
-    /// Of all files, since the store was made.
+    /// Bytes written to all files since the store was made.
     qint64 bytesWritten() const { return m_bytesWritten; }
 
     /// What the session keeps of \a subject.

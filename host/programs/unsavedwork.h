@@ -23,14 +23,14 @@ class UnsavedStore;
 /// Keeps the unsaved work of all screens on the disk, at most two seconds behind the operator.
 ///
 /// Nothing is written while nothing changes, and what is saved is dropped. The disk is written to
-/// beside the event loop, one thing at a time; a disk that is full or hangs is told once and holds
+/// beside the event loop, one thing at a time. A disk that is full or hangs is told once, and holds
 /// nobody up.
 class FILARIX_HOST_EXPORT UnsavedWork : public QObject
 {
     Q_OBJECT
 
 public:
-    /// From a change to the begin of its writing, in milliseconds.
+    /// Milliseconds from a change to the begin of its writing.
     static const int delayMs = 700;
 
     /// Work is kept in \a folder.
@@ -59,7 +59,7 @@ public:
     void setDelay(int ms);
     /// After a failure the disk is left alone for \a ms milliseconds.
     void setPause(int ms) { m_pause.setInterval(ms); }
-    /// A disk that takes longer for one thing is reported.
+    /// Milliseconds after which a disk that still works on one thing is reported.
     void setStallTime(int ms) { m_stall.setInterval(ms); }
 
     /// The subject that watchProgram() is about.
@@ -89,7 +89,7 @@ private:
         std::function<KeptHead()> head;
         /// The head that was written last.
         KeptHead keptHead;
-        /// There may be files of it.
+        /// There may be files of the subject.
         bool mayBeKept = false;
         /// What was to be written last is.
         bool isWritten = true;

@@ -30,8 +30,8 @@ struct FILARIX_HOST_EXPORT DeviceState
 
 Q_DECLARE_METATYPE(DeviceState)
 
-/// Looks at the devices every second, in a thread of its own: a folder on a network or on a dying
-/// stick may keep whoever asks for it waiting, and that must not be the screen.
+/// Looks at the devices every second, in a thread of its own. A folder on a network or on a dying
+/// stick may keep whoever asks for it waiting, and the screen must not wait.
 ///
 ///     DeviceWatch watch([plcDir] { return DeviceWatch::lookAt(plcDir, programDir); });
 ///     connect(&watch, SIGNAL(changed(DeviceState)), strip, SLOT(showDevices(DeviceState)));
@@ -50,8 +50,8 @@ public:
     /// The PLC's folder, the stick and the file system of \a programDir, now. May wait for them.
     static DeviceState lookAt(const QString &plcDir, const QString &programDir);
 
-    /// What the last look has seen; nothing of anything before the first one has come back, and
-    /// again when one is overdue for seconds.
+    /// What the last look has seen. Nothing is known before the first look has come back, and while
+    /// a look is overdue for seconds.
     DeviceState state() const { return m_state; }
 
 public Q_SLOTS:

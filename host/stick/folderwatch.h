@@ -23,8 +23,8 @@ struct FolderState
     int unsafeNames = 0;
 };
 
-/// Looks at a folder in a thread of its own, when it is asked to: a stick that hangs keeps the
-/// thread waiting, and nobody else.
+/// Looks at a folder on request, in a thread of its own: a stick that hangs keeps the thread
+/// waiting, and nobody else.
 ///
 ///     FolderWatch watch([dir] { return FolderWatch::lookAt(dir); });
 ///     connect(&watch, SIGNAL(changed()), ...);

@@ -20,15 +20,16 @@ class QMessageBox;
 class Questioner;
 struct Question;
 
-/// Stands between the operator and the import manager's commands, which hand file names to the
+/// Stands between the operator and the import manager's commands. These hand file names to the
 /// shell as they are, and write and delete without a look at what gets lost.
 ///
 /// Each press on a transfer key of a manager waits, while the panel goes on, until both folders
-/// were looked at: every name there has to be safe, and so have the chosen ones, which may be names
-/// of a stick that has gone. Where names are not, the operator is asked whether to rename them.
-/// Without a stick there are no transfers. Before a program is covered or deleted, the history
-/// takes it in; a program that it can't keep goes only after a question. What a command has come to
-/// is told.
+/// were looked at. Every name there has to be safe, and so has the chosen one, which may be of a
+/// stick that has gone. Where names are not safe, the operator is asked whether to rename them.
+/// Without a stick there are no transfers.
+///
+/// Before a program is covered or deleted, the history takes the program in. A program that the
+/// history can't keep goes only after a question. What a command has come to is told.
 class FILARIX_HOST_EXPORT ImportGuard : public QObject
 {
     Q_OBJECT

@@ -10,18 +10,18 @@
 
 #include <memory>
 
-/// The USB stick, as the library's import manager looks for it: a file system at the mount point,
-/// and a marker file while it is plugged.
+/// The USB stick, as the library's import manager looks for one: a file system at the mount point,
+/// and a marker file.
 ///
 /// On a panel the system sees to both. Here a folder can stand in for the stick, plugged and pulled
-/// by the program: while it is in, the mount point is a link to the folder, whose own path has to
-/// begin like the mount point's ("/mnt/Storage.stick"), or the import manager won't take its files
-/// for the stick's. Otherwise, and where the mount point can't be replaced, plug() fails and says
+/// by the program. Meanwhile the mount point is a link to the folder. The folder's own path has to
+/// begin like the mount point's ("/mnt/Storage.stick"). The import manager takes no other files for
+/// the stick's. Where the path doesn't, or the mount point can't be replaced, plug() fails and says
 /// so in words. A folder that was bound to the mount point from outside stays there, and only the
 /// marker comes and goes.
 ///
-/// All that follows asks for files, and belongs into a thread where a screen must not wait. A copy
-/// is the same stick, so work in a thread may own one.
+/// All functions ask for files, and belong into a thread where a screen must not wait. A copy is
+/// the same stick, so work in a thread may own a copy.
 class FILARIX_HOST_EXPORT Stick
 {
 public:

@@ -9,8 +9,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The host's check of file names, made before a folder is offered to the import manager: that one
-/// hands paths to the shell without quotes. See docs/security.md.
+/// The host's check of file names, made before a folder is offered to the import manager. The
+/// manager hands paths to the shell without quotes: see docs/security.md.
 ///
 ///     Q_FOREACH (const QString &name, TransferNames::unsafeIn(stick)) {
 ///         const QString safe = TransferNames::proposal(name, QDir(stick).entryList());

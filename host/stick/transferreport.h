@@ -29,7 +29,7 @@ public:
         Different
     };
 
-    /// Of a \a command for the file \a name, a bare name, between the two folders.
+    /// Reports a \a command for the file \a name, a bare name, between the two folders.
     TransferReport(Command command, const QString &programDir, const QString &stickDir,
                    const QString &name);
 
@@ -45,7 +45,7 @@ public:
 
     /// Takes note of what is there. May wait for the stick.
     void lookBefore();
-    /// What became of it since lookBefore(). May wait for the stick, and reads both files.
+    /// What became of the command since lookBefore(). May wait for the stick, and reads both files.
     Outcome judge() const;
 
 private:

@@ -48,9 +48,9 @@ const int mostConnections = 1000;
 /// What the file holds. A missing one is made first, with the connections of a typical winding
 /// machine.
 FILARIX_HOST_EXPORT Contents read(const QString &path);
-/// Writes the bytes that were edited in the place of \a before, and reads them back; the reason in
-/// words when the file does not hold \a wanted then, connection by connection. Nothing is replaced
-/// when somebody else has changed the file since, or when \a mayReplace says no.
+/// Writes the bytes that were edited in the place of \a before, and reads them back. Returns the
+/// reason in words when the file does not hold \a wanted then, connection by connection. Nothing is
+/// replaced when somebody else has changed the file since, or when \a mayReplace says no.
 FILARIX_HOST_EXPORT QString store(const QString &path, const QByteArray &before,
                                   const QByteArray &bytes, const QStringList &wanted,
                                   const std::function<bool()> &mayReplace);

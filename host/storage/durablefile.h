@@ -24,7 +24,7 @@ class FILARIX_HOST_EXPORT DurableFile
 {
 public:
     explicit DurableFile(const QString &path);
-    /// What was not committed goes.
+    /// Removes a new file that was not committed.
     ~DurableFile();
 
     /// Makes the new file beside the path, hidden. It gets the permissions and the owner of
@@ -32,8 +32,9 @@ public:
     bool open(const QString &model = QString());
     bool isOpen() const { return m_handle >= 0; }
     bool write(const QByteArray &bytes);
-    /// Forces the bytes to the disk, asks \a mayReplace, the last that can prevent it, and gives
-    /// the file its name. Once a file, after which it is closed.
+    /// Forces the bytes to the disk, asks \a mayReplace, and gives the file its name. After that
+    /// question nothing prevents the new name any more. To be called once for each file, which is
+    /// closed then.
     bool commit(const std::function<bool()> &mayReplace = std::function<bool()>());
     /// Drops the new file.
     void cancel();
@@ -43,7 +44,7 @@ public:
 
     /// The path that is written to.
     QString path() const { return m_path; }
-    /// Of the new file, while there is one.
+    /// The path of the new file, while there is one; empty otherwise.
     QString temporaryPath() const { return m_temporaryPath; }
     /// Why the last call failed, in the system's words: "No space left on device". Empty when
     /// mayReplace said no.

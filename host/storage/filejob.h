@@ -24,16 +24,16 @@ public:
     explicit FileJob(QObject *parent = nullptr);
 
     bool isRunning() const { return m_work.isRunning(); }
-    /// Runs \a work in a thread, and then \a done from the event loop. \a stalled runs in its place
-    /// when the work does not return in time; nobody waits for it any more then. \a work has to own
-    /// what it uses. Does nothing while other work runs.
+    /// Runs \a work in a thread, and then \a done from the event loop. \a stalled runs in the place
+    /// of \a done when the work does not return in time; nobody waits for the work any more then.
+    /// \a work has to own what it uses. Does nothing while other work runs.
     void run(const Work &work, const Work &done, const Work &stalled);
     /// Runs the event loop until the work has ended or is given up.
     void wait();
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
 Q_SIGNALS:
-    /// What followed the work is done, too.
+    /// The work has ended or is given up, and what followed it is done.
     void finished();
 
 private Q_SLOTS:

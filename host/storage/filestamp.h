@@ -23,7 +23,7 @@ struct FILARIX_HOST_EXPORT FileStamp
     qint64 modified = 0;
     qint64 changed = 0;
 
-    /// Of a regular file or an open one; size -1 when there is none.
+    /// The stamp of a regular file, or of an open one; size -1 when there is none.
     static FileStamp of(const QString &path);
     static FileStamp of(const QFile &openFile);
 

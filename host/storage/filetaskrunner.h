@@ -14,8 +14,8 @@
 
 /// Long work on files, cut into steps.
 ///
-/// All of it runs in a FileThread, one step at a time; between two steps nothing does, so whoever
-/// started the work may read it then.
+/// The steps run in a FileThread, one at a time. Between two steps nothing runs, so whoever started
+/// the work may read the task then.
 ///
 /// A task that is given up, because a step hangs, changes nothing from then on, however late the
 /// step comes back. For that it asks before whatever others can see, right before it does so:
@@ -34,19 +34,21 @@ public:
     virtual bool step() = 0;
     /// How much is done, 0 to 100.
     virtual int percent() const { return 0; }
-    /// Lets go of all files: the work ended, or will not go on. In the thread, maybe repeatedly.
+    /// Lets go of all files: the work ended, or will not go on. Called in the thread, maybe
+    /// repeatedly.
     virtual void close() {}
 
     /// Takes the right to change anything away, for ever; never waits.
     void giveUp();
     bool isGivenUp() const { return m_state & GivenUp; }
-    /// Whether a change was being made when the task was given up: it may happen, or not.
+    /// Whether a change was being made when the task was given up: the change may happen, or not.
     bool isUncertain() const { return m_isUncertain; }
     /// Whether a change is being made at this moment.
     bool isChanging() const { return m_state & Changing; }
 
 protected:
-    /// In the thread: whether something may be changed now. Then endChange() has to follow.
+    /// Whether something may be changed now; to be called in the thread. After a yes endChange()
+    /// has to follow.
     bool beginChange();
     void endChange();
 
@@ -78,8 +80,8 @@ public:
     /// Does nothing while another task runs. The task is closed in the thread when it ends.
     void start(const std::shared_ptr<FileTask> &task);
     void setStallTime(int ms) { m_stall.setInterval(ms); }
-    /// Whether a task that was given up still makes a change: who starts the next one now cannot
-    /// know what there will be in the end.
+    /// Whether a task that was given up still makes a change. Whoever starts the next task now
+    /// cannot know what there will be in the end.
     bool hasChangeUnderWay() const { return m_uncertain && m_uncertain->isChanging(); }
 
 public Q_SLOTS:
@@ -88,12 +90,12 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void progressed(int percent);
-    /// The task said that there is nothing more to do.
+    /// The task has said that there is nothing more to do.
     void ended();
-    /// stop() came before that.
+    /// stop() came before the end of the task.
     void stopped();
-    /// A step did not return in time. It was given up: of the task, nobody may touch any more what
-    /// the thread may.
+    /// A step did not return in time. The task was given up: nobody but the thread may touch it any
+    /// more, apart from what is made for several threads.
     void stalled();
 
 private Q_SLOTS:

@@ -10,8 +10,9 @@
 #include <QList>
 #include <QStringList>
 
-/// Reads and stores the rows of a screen beside the event loop, and loses none of what stood in
-/// their file: what the keeper has not read, or can't read, is put aside before it is replaced.
+/// Reads and stores the rows of a screen beside the event loop, and loses nothing that stood in
+/// their file. A file that the keeper has not read, or can't read, is put aside before it is
+/// replaced.
 ///
 ///     RowKeeper keeper("Taught program", &TaughtProgram::load);
 ///     keeper.load(path, [this](const RowKeeper::Loaded &loaded) { ... });
@@ -20,7 +21,7 @@ class FILARIX_HOST_EXPORT RowKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// Runs in a thread; false, with the reason in words, for a file that is not of its kind.
+    /// Reads a file in a thread. False, with the reason in words, for a file of another kind.
     typedef std::function<bool(const QString &path, QList<QStringList> *rows, QString *error)>
         Reader;
 
@@ -39,7 +40,7 @@ public:
 
         State state = Missing;
         QList<QStringList> rows;
-        /// Why there are no rows, in words; of Broken and Stalled.
+        /// Why there are no rows, in words. Set for Broken and Stalled.
         QString error;
     };
 
@@ -47,7 +48,7 @@ public:
     struct Stored
     {
         bool isStored = false;
-        /// Why not, in words.
+        /// Why the rows are not stored, in words.
         QString error;
         /// Where the file went that had not been read; empty when there was none.
         QString asidePath;

@@ -30,7 +30,7 @@ public:
     explicit SettingsFile(const QString &path) : m_path(path) {}
 
     void read();
-    /// Renames the file, to a name that nothing has.
+    /// Renames a file to a name that nothing has yet.
     void putAside();
     /// Stores the choices: those of General are replaced by \a values, all else in the file stays.
     /// An empty value takes its key away.
@@ -39,7 +39,7 @@ public:
     /// What is known of the file by now. A trouble is told once.
     State takeState();
 
-    /// Each begin() is followed by an end() in the thread; settle() waits until all have been.
+    /// Each begin() is followed by an end() in the thread; settle() waits until all ends have come.
     void begin();
     void end();
     bool settle(int ms);

@@ -13,7 +13,7 @@
 class FILARIX_HOST_EXPORT WriteLeave
 {
 public:
-    /// The write may replace the file, and nobody can keep it from that any more.
+    /// The write may replace the file, and nobody can keep the write from that any more.
     bool take() { return change(Taken); }
     /// The write will replace nothing.
     bool withdraw() { return change(Withdrawn); }
