@@ -44,10 +44,10 @@ bool displayIsOurs()
 
 } // namespace
 
-class GlassScreen : public QFbScreen
+class GlassDisplay : public QFbScreen
 {
 public:
-    GlassScreen(const QSize &surface, QWindow *glass, bool drawsPointer)
+    GlassDisplay(const QSize &surface, QWindow *glass, bool drawsPointer)
         : m_dpi(glass->screen()->handle()->logicalDpi()), m_glassCursor(glass)
     {
         const qreal scale = QHighDpiScaling::factor(static_cast<QScreen *>(nullptr));
@@ -99,7 +99,7 @@ TurnedPlatform::TurnedPlatform(const QSize &surface, QWindow *glass)
     : m_native(QGuiApplicationPrivate::platform_integration)
     , m_glass(glass)
     , m_drawsPointer(displayIsOurs())
-    , m_screen(new GlassScreen(surface, glass, m_drawsPointer))
+    , m_screen(new GlassDisplay(surface, glass, m_drawsPointer))
 {
     // The glass stays where it is when the toolkit has another screen alone.
     m_glass->setScreen(QGuiApplication::primaryScreen());

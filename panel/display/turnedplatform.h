@@ -12,7 +12,7 @@
 #include <qpa/qplatformintegration.h>
 #include <qpa/qplatformnativeinterface.h>
 
-class GlassScreen;
+class GlassDisplay;
 
 /// The platform of the windows behind a PanelGlass.
 ///
@@ -67,7 +67,7 @@ private:
     QPlatformIntegration *const m_native;
     QWindow *const m_glass;
     const bool m_drawsPointer;
-    GlassScreen *const m_screen;
+    GlassDisplay *const m_screen;
     mutable QPlatformNativeInterface m_noNativeInterface;
 };
 
