@@ -23,9 +23,9 @@ function(filarix_set_timeout name seconds)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds})
 endfunction()
 
-# filarix_label(NAME): a test of the companion or of the panel program says so.
+# filarix_label(NAME): a test says which room of ours it is about, "host", "panel" or "editor", say.
 function(filarix_label name)
-  if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/tests/auto/(host|panel)(/|$)")
+  if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/tests/auto/([a-z]+)(/|$)")
     set_property(TEST ${name} APPEND PROPERTY LABELS ${CMAKE_MATCH_1})
   endif()
 endfunction()

@@ -5,7 +5,7 @@
 
 Compares gcovr's JSON report with docs/coverage.md. A branch of the library that no test takes has to be
 named there with its reason, and what is named there has to be untaken. Of a file of the companion or of
-the panel program no more branches may be untaken than the table of figures says. Everything else is
+the panel program hardly more branches may be untaken than the table of figures says. Everything else is
 printed, and the status is 1. With --update the table is written anew; reasons are for people to write.
 """
 
@@ -18,8 +18,12 @@ import sys
 ENTRY = re.compile(r"^- `(?P<file>[^`]+)`, `(?P<function>[^`]+)`: `(?P<text>[^`]+)`, "
                    r"(?P<untaken>\d+) of (?P<all>\d+):\s+(?P<reason>[^\s-])", re.MULTILINE)
 BEGIN, END = "<!-- figures -->", "<!-- end of figures -->"
-# What is bounded by its figures; each branch of all else has its reason.
-BOUNDED = ("host/", "panel/")
+# What is bounded by its figures; each branch of all else has its reason. The two files of the editor
+# only look whether a shorter way may be gone, and go the toolkit's own where anything is unusual.
+BOUNDED = ("host/", "panel/", "editor/linegauge.cpp", "editor/pieceappender.cpp")
+# What threads, clocks and signals meet is not the same in each run: so many more may be untaken, by the
+# file's branches, than the table says. A file that the table doesn't have yet may leave a fifth.
+SLACK, LEAST_SLACK, NEW = 0.05, 2, 0.2
 FOLDER_ROW = re.compile(r"^\| \*\*(?P<folder>[^*|]+/)\*\* \|")
 FILE_ROW = re.compile(r"^\| (?P<file>[^*|]+) \| (?P<all>\d+) \| (?P<taken>\d+) \|")
 
@@ -67,7 +71,7 @@ def read_page(page):
 
 
 def read_bounds(page):
-    """How many branches of a bounded file may be untaken."""
+    """How many branches of a bounded file were untaken."""
     bounds, folder = {}, ""
     for line in page.split(BEGIN)[1].split(END)[0].splitlines():
         found = FOLDER_ROW.match(line)
@@ -75,7 +79,7 @@ def read_bounds(page):
             folder = found["folder"]
             continue
         found = FILE_ROW.match(line)
-        if found and folder.startswith(BOUNDED):
+        if found and (folder + found["file"]).startswith(BOUNDED):
             bounds[folder + found["file"]] = int(found["all"]) - int(found["taken"])
     return bounds
 
@@ -83,8 +87,9 @@ def read_bounds(page):
 def over_bounds(figures, bounds):
     over = []
     for file, (taken, total) in sorted(figures.items()):
-        if file.startswith(BOUNDED) and total - taken > bounds.get(file, 0):
-            over.append(f"- `{file}`: {total - taken} untaken, {bounds.get(file, 0)} allowed")
+        allowed = bounds.get(file, int(NEW * total)) + max(LEAST_SLACK, int(SLACK * total))
+        if file.startswith(BOUNDED) and total - taken > allowed:
+            over.append(f"- `{file}`: {total - taken} untaken, {allowed} allowed")
     return over
 
 
