@@ -41,6 +41,8 @@ private Q_SLOTS:
     void whatWasDoneIsTold();
     void answeredNoIsNothingToTell();
     void copyThatDoesNotFitIsAnAlarm();
+    void copyThatFailsIsTold();
+    void coverThatLosesTheOldOneIsAnAlarm();
     void coverWaitsForTheHistory();
     void programThatTheHistoryCannotKeepGoesOnlyAfterAQuestion();
     void pressWaitsBesideTheEventLoop();
@@ -66,6 +68,20 @@ public:
     }
 
     QPointer<ImportGuard> guard;
+};
+
+/// Takes files away while its question stands, and goes on.
+class TakingQuestioner : public Questioner
+{
+public:
+    int ask(const Question &) override
+    {
+        while (!paths.isEmpty())
+            QFile::remove(paths.takeFirst());
+        return 1;
+    }
+
+    QStringList paths;
 };
 
 void TestImportGuard::init()
@@ -498,6 +514,56 @@ void TestImportGuard::copyThatDoesNotFitIsAnAlarm()
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
     QVERIFY(told.at(0).at(0).toString().contains("long.cnc"));
     QCOMPARE(told.at(0).at(2).toString(), QString("stick"));
+}
+
+void TestImportGuard::copyThatFailsIsTold()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile(programDir() + "/own.cnc", "G02\n");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnPanel(&manager, "own.cnc");
+    ModalDriver driver;
+    driver.press(QMessageBox::Ok); // the library says that the copy failed
+    QTest::mouseClick(button(&manager, ">>"), Qt::LeftButton);
+    // Taken away while the guard looks at the folders.
+    QVERIFY(QFile::remove(programDir() + "/own.cnc"));
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(told.at(0).at(0).toString(), QString("own.cnc was not copied."));
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+}
+
+// Both files go while the operator is asked about a program that the history cannot keep.
+void TestImportGuard::coverThatLosesTheOldOneIsAnAlarm()
+{
+    StrictMessages::expect("slot_checkUSB");
+    writeFile(programDir() + "/own.cnc", "G02\n");
+    QFile::setPermissions(programDir() + "/own.cnc", QFile::Permissions());
+    writeFile("/mnt/Storage/own.cnc", "G03\n");
+    ProgramHistory history(programDir(), home() + "/hmi/history");
+    TakingQuestioner questioner;
+    questioner.paths << programDir() + "/own.cnc"
+                     << "/mnt/Storage/own.cnc";
+    ImportGuard guard(programDir(), "/mnt/Storage", &questioner, &history);
+    QSignalSpy told(&guard, SIGNAL(told(QString, Message::Tone, QString)));
+    ImportManage manager(nullptr);
+    manager.init();
+    manager.show();
+    chooseOnStick(&manager, "own.cnc");
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    driver.press(QMessageBox::Ok); // the library says that the copy failed
+    QTest::mouseClick(button(&manager, "<<"), Qt::LeftButton);
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(questioner.paths.isEmpty());
+    const QString text = told.at(0).at(0).toString();
+    QVERIFY2(text.contains("bring it back from the history"), qPrintable(text));
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
 }
 
 void TestImportGuard::coverWaitsForTheHistory()

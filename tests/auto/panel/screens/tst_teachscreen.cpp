@@ -42,7 +42,8 @@ private Q_SLOTS:
     void touchedRowSetsThePointThatTagCopies();
     void editOnTheKeypadIsStoredAndLoaded();
     void loadKeyPicksAFile();
-    void brokenFileLeavesTheScreenAsItIs();
+    void fileThatIsNoneLeavesTheScreenAsItIs_data();
+    void fileThatIsNoneLeavesTheScreenAsItIs();
     void missingFileShowsTheSample();
     void unreadableProgramIsToldAndPutAside_data();
     void unreadableProgramIsToldAndPutAside();
@@ -414,13 +415,22 @@ void TestTeachScreen::loadKeyPicksAFile()
     QCOMPARE(m_list->getContent(1), rows.first());
 }
 
-void TestTeachScreen::brokenFileLeavesTheScreenAsItIs()
+void TestTeachScreen::fileThatIsNoneLeavesTheScreenAsItIs_data()
 {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("broken") << "broken.teach";
+    QTest::newRow("missing") << "missing.teach";
+}
+
+void TestTeachScreen::fileThatIsNoneLeavesTheScreenAsItIs()
+{
+    QFETCH(QString, name);
     const int before = m_list->count();
     writeFile(home() + "/broken.teach", "G01 X10\n");
     QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
-    m_screen->load(home() + "/broken.teach");
+    m_screen->load(home() + '/' + name);
     QTRY_COMPARE(told.size(), 1);
+    QVERIFY(told.at(0).at(0).toString().contains(name));
     QCOMPARE(m_list->count(), before);
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QCOMPARE(m_screen->title(), QString("program.teach"));
