@@ -10,8 +10,8 @@
 class QPushButton;
 class PanelTable;
 
-/// Lets the operator choose a version of a program to be brought back: the newest on top, a page at
-/// a time, all of them or those of one name.
+/// Lets the operator choose a version of a program to be brought back. The versions stand with the
+/// newest on top, a page at a time, all of them or those of one name.
 class HistoryDialog : public Dialog
 {
     Q_OBJECT

@@ -22,9 +22,9 @@ class WMMainWindow;
 
 /// The G-code screen: the library's window as a host uses it.
 ///
-/// The host's part is a CheckedDownload, the line that Tag copies, the modified mark, keys for what
-/// no bar of the window holds, and a ProgramGuard, whose word on the program stays in view above
-/// the window.
+/// The host's part is a CheckedDownload, the line that Tag copies, the modified mark, and keys for
+/// what no bar of the window holds. A ProgramGuard is part of it, too: its word on the program
+/// stays in view above the window.
 class ProgramScreen : public PanelScreen
 {
     Q_OBJECT
