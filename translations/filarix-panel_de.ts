@@ -177,6 +177,10 @@
         <source>The panel&apos;s storage does not answer.</source>
         <translation>Der Speicher des Panels antwortet nicht.</translation>
     </message>
+    <message>
+        <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
+        <translation>Um einen Stick auszuprobieren, das Panel mit „./run --stick DIR“ starten.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>

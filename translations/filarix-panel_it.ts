@@ -177,6 +177,10 @@
         <source>The panel&apos;s storage does not answer.</source>
         <translation>La memoria del pannello non risponde.</translation>
     </message>
+    <message>
+        <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
+        <translation>Per provare una chiavetta, avviare il pannello con &quot;./run --stick DIR&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>

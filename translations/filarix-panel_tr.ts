@@ -177,6 +177,10 @@
         <source>The panel&apos;s storage does not answer.</source>
         <translation>Panelin belleği yanıt vermiyor.</translation>
     </message>
+    <message>
+        <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
+        <translation>Bellek denemek için paneli &quot;./run --stick DIR&quot; ile başlatın.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>

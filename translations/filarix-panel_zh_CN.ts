@@ -177,6 +177,10 @@
         <source>The panel&apos;s storage does not answer.</source>
         <translation>面板存储器无应答。</translation>
     </message>
+    <message>
+        <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
+        <translation>要试用 U 盘, 请用“./run --stick DIR”启动面板。</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>

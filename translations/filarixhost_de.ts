@@ -119,6 +119,29 @@
     </message>
 </context>
 <context>
+    <name>DownloadSource</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryStore</name>
     <message>
         <source>The history has no place: the folder %1 cannot be made.</source>
@@ -146,10 +169,6 @@
     <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
-    </message>
-    <message>
-        <source>The transfer would not take these file names for what they are. Rename?</source>
-        <translation>Die Übertragung würde diese Dateinamen falsch verstehen. Umbenennen?</translation>
     </message>
     <message>
         <source>File names</source>
@@ -220,8 +239,28 @@
         <translation>Die Kopie von %1 weicht vom Original ab. Ist noch Platz? Noch einmal kopieren.</translation>
     </message>
     <message>
-        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
-        <translation>%1 Was %2 jetzt ist, ließe sich nicht zurückholen. Trotzdem weiter?</translation>
+        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
+        <translation>Die Übertragung würde diese Dateinamen falsch verstehen. Bis sie umbenannt sind, wird nichts kopiert oder gelöscht.</translation>
+    </message>
+    <message>
+        <source>Leave them</source>
+        <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 Der jetzige Stand von %2 ginge verloren.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Trotzdem</translation>
     </message>
 </context>
 <context>
@@ -234,22 +273,6 @@
 <context>
     <name>PlcTransfer</name>
     <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
-    </message>
-    <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 ist keine Programmdatei.</translation>
-    </message>
-    <message>
         <source>The PLC does not answer: there is no folder %1.</source>
         <translation>Die SPS antwortet nicht: Der Ordner %1 fehlt.</translation>
     </message>
@@ -260,10 +283,6 @@
     <message>
         <source>The program %1 is larger than the PLC takes (%2 MB).</source>
         <translation>Das Programm %1 ist größer, als die SPS annimmt (%2 MB).</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
     </message>
     <message>
         <source>The PLC does not take the program: %1.</source>
@@ -497,32 +516,12 @@
 <context>
     <name>ProgramSnapshot</name>
     <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>Noch kein Programm zum Senden. Erst unter einem Namen speichern.</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>Das Programm %1 ist nicht mehr auf dem Panel. Erneut speichern, dann senden.</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 ist keine Programmdatei.</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
-    </message>
-    <message>
         <source>The program %1 cannot be held for the download: %2.</source>
         <translation>Das Programm %1 lässt sich nicht zum Senden bereitlegen: %2.</translation>
     </message>
     <message>
         <source>The program %1 is being written. Download it when that is over.</source>
         <translation>Das Programm %1 wird gerade geschrieben. Danach senden.</translation>
-    </message>
-    <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
     </message>
     <message>
         <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
@@ -641,8 +640,8 @@
         <translation>Die Markierung %1 lässt sich nicht anlegen: %2.</translation>
     </message>
     <message>
-        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
-        <translation>Der Einhängepunkt %1 gehört nicht diesem Programm. Um einen Stick auszuprobieren, mit „./run --stick DIR“ starten.</translation>
+        <source>The stick stays out: the mount point %1 is not this program&apos;s to change.</source>
+        <translation>Der Stick bleibt draußen: Der Einhängepunkt %1 gehört nicht diesem Programm.</translation>
     </message>
 </context>
 <context>

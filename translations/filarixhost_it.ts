@@ -119,6 +119,29 @@
     </message>
 </context>
 <context>
+    <name>DownloadSource</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il programma %1: %2.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryStore</name>
     <message>
         <source>The history has no place: the folder %1 cannot be made.</source>
@@ -146,10 +169,6 @@
     <message>
         <source>and %1 more</source>
         <translation>e altri %1</translation>
-    </message>
-    <message>
-        <source>The transfer would not take these file names for what they are. Rename?</source>
-        <translation>Il trasferimento interpreterebbe male questi nomi di file. Rinominarli?</translation>
     </message>
     <message>
         <source>File names</source>
@@ -220,8 +239,28 @@
         <translation>La copia di %1 è diversa dall&apos;originale. C&apos;è ancora spazio? Copiarlo di nuovo.</translation>
     </message>
     <message>
-        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
-        <translation>%1 Ciò che %2 è ora non si potrebbe recuperare. Continuare comunque?</translation>
+        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
+        <translation>Il trasferimento interpreterebbe male questi nomi di file. Finché non sono rinominati, nulla viene copiato o eliminato.</translation>
+    </message>
+    <message>
+        <source>Leave them</source>
+        <translation>Lascia così</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 Lo stato attuale di %2 andrebbe perso.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Comunque</translation>
     </message>
 </context>
 <context>
@@ -234,22 +273,6 @@
 <context>
     <name>PlcTransfer</name>
     <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
-    </message>
-    <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 non è un file di programma.</translation>
-    </message>
-    <message>
         <source>The PLC does not answer: there is no folder %1.</source>
         <translation>Il PLC non risponde: manca la cartella %1.</translation>
     </message>
@@ -260,10 +283,6 @@
     <message>
         <source>The program %1 is larger than the PLC takes (%2 MB).</source>
         <translation>Il programma %1 è più grande di quanto il PLC accetta (%2 MB).</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>Impossibile leggere il programma %1: %2.</translation>
     </message>
     <message>
         <source>The PLC does not take the program: %1.</source>
@@ -497,32 +516,12 @@
 <context>
     <name>ProgramSnapshot</name>
     <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>Nessun programma da inviare. Salvarlo prima con un nome.</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>Il programma %1 non è più sul pannello. Salvarlo di nuovo, poi inviarlo.</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 non è un file di programma.</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>Impossibile leggere il programma %1: %2.</translation>
-    </message>
-    <message>
         <source>The program %1 cannot be held for the download: %2.</source>
         <translation>Impossibile tenere pronto il programma %1 per l&apos;invio: %2.</translation>
     </message>
     <message>
         <source>The program %1 is being written. Download it when that is over.</source>
         <translation>Il programma %1 è in fase di scrittura. Inviarlo quando è finita.</translation>
-    </message>
-    <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
     </message>
     <message>
         <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
@@ -641,8 +640,8 @@
         <translation>Impossibile creare il segnale %1: %2.</translation>
     </message>
     <message>
-        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
-        <translation>Il punto di montaggio %1 non appartiene a questo programma. Per provare una chiavetta, avviarlo con &quot;./run --stick DIR&quot;.</translation>
+        <source>The stick stays out: the mount point %1 is not this program&apos;s to change.</source>
+        <translation>La chiavetta resta fuori: il punto di montaggio %1 non appartiene a questo programma.</translation>
     </message>
 </context>
 <context>

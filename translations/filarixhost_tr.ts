@@ -119,6 +119,29 @@
     </message>
 </context>
 <context>
+    <name>DownloadSource</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>Henüz yüklenecek program yok. Önce bir adla kaydedin.</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>%1 programı panelde yok. Yeniden kaydedip yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 bir program dosyası değil.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>%1 programı okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
+    </message>
+</context>
+<context>
     <name>HistoryStore</name>
     <message>
         <source>The history has no place: the folder %1 cannot be made.</source>
@@ -146,10 +169,6 @@
     <message>
         <source>and %1 more</source>
         <translation>ve %1 tane daha</translation>
-    </message>
-    <message>
-        <source>The transfer would not take these file names for what they are. Rename?</source>
-        <translation>Aktarım bu dosya adlarını yanlış anlar. Yeniden adlandırılsın mı?</translation>
     </message>
     <message>
         <source>File names</source>
@@ -220,8 +239,28 @@
         <translation>%1 kopyası aslından farklı. Yer var mı? Yeniden kopyalayın.</translation>
     </message>
     <message>
-        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
-        <translation>%1 %2 dosyasının şimdiki hâli geri getirilemez. Yine de devam edilsin mi?</translation>
+        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
+        <translation>Aktarım bu dosya adlarını yanlış anlar. Adlar değiştirilene kadar hiçbir şey kopyalanmaz veya silinmez.</translation>
+    </message>
+    <message>
+        <source>Leave them</source>
+        <translation>Böyle kalsın</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Adlandır</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 %2 dosyasının şimdiki hâli kaybolur.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>Yine de</translation>
     </message>
 </context>
 <context>
@@ -234,22 +273,6 @@
 <context>
     <name>PlcTransfer</name>
     <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
-    </message>
-    <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>Henüz yüklenecek program yok. Önce bir adla kaydedin.</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>%1 programı panelde yok. Yeniden kaydedip yükleyin.</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 bir program dosyası değil.</translation>
-    </message>
-    <message>
         <source>The PLC does not answer: there is no folder %1.</source>
         <translation>PLC yanıt vermiyor: %1 klasörü yok.</translation>
     </message>
@@ -260,10 +283,6 @@
     <message>
         <source>The program %1 is larger than the PLC takes (%2 MB).</source>
         <translation>%1 programı PLC&apos;nin alabileceğinden büyük (%2 MB).</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>%1 programı okunamıyor: %2.</translation>
     </message>
     <message>
         <source>The PLC does not take the program: %1.</source>
@@ -497,32 +516,12 @@
 <context>
     <name>ProgramSnapshot</name>
     <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>Henüz yüklenecek program yok. Önce bir adla kaydedin.</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>%1 programı panelde yok. Yeniden kaydedip yükleyin.</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 bir program dosyası değil.</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>%1 programı okunamıyor: %2.</translation>
-    </message>
-    <message>
         <source>The program %1 cannot be held for the download: %2.</source>
         <translation>%1 programı yükleme için hazır tutulamıyor: %2.</translation>
     </message>
     <message>
         <source>The program %1 is being written. Download it when that is over.</source>
         <translation>%1 programı şu anda yazılıyor. Bitince yükleyin.</translation>
-    </message>
-    <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
     </message>
     <message>
         <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
@@ -641,8 +640,8 @@
         <translation>%1 işareti oluşturulamıyor: %2.</translation>
     </message>
     <message>
-        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
-        <translation>%1 bağlama noktası bu programın değiştirebileceği bir yer değil. Bellek denemek için &quot;./run --stick DIR&quot; ile başlatın.</translation>
+        <source>The stick stays out: the mount point %1 is not this program&apos;s to change.</source>
+        <translation>Bellek takılmadı: %1 bağlama noktası bu programın değiştirebileceği bir yer değil.</translation>
     </message>
 </context>
 <context>

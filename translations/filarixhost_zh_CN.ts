@@ -119,6 +119,29 @@
     </message>
 </context>
 <context>
+    <name>DownloadSource</name>
+    <message>
+        <source>There is no program to download yet. Save it under a name first.</source>
+        <translation>还没有可下载的程序。请先命名保存。</translation>
+    </message>
+    <message>
+        <source>The program %1 is gone from the panel. Save it again, then download.</source>
+        <translation>面板上已没有程序 %1。请重新保存后下载。</translation>
+    </message>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 不是程序文件。</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>无法读取程序 %1: %2。</translation>
+    </message>
+    <message>
+        <source>The download was stopped. The PLC keeps what it had.</source>
+        <translation>下载已停止。PLC 保持原有内容。</translation>
+    </message>
+</context>
+<context>
     <name>HistoryStore</name>
     <message>
         <source>The history has no place: the folder %1 cannot be made.</source>
@@ -146,10 +169,6 @@
     <message>
         <source>and %1 more</source>
         <translation>以及另外 %1 个</translation>
-    </message>
-    <message>
-        <source>The transfer would not take these file names for what they are. Rename?</source>
-        <translation>传输无法正确识别这些文件名。是否重命名?</translation>
     </message>
     <message>
         <source>File names</source>
@@ -220,8 +239,28 @@
         <translation>%1 的副本与原文件不同。空间是否足够? 请重新复制。</translation>
     </message>
     <message>
-        <source>%1 What %2 is now could not be brought back. Go on all the same?</source>
-        <translation>%1 %2 现在的内容将无法恢复。仍要继续吗?</translation>
+        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
+        <translation>传输会误解这些文件名。重命名之前不会复制或删除任何文件。</translation>
+    </message>
+    <message>
+        <source>Leave them</source>
+        <translation>保持不变</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>%1 What %2 is now would be lost.</source>
+        <translation>%1 %2 的现有内容将丢失。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>All the same</source>
+        <translation>仍然继续</translation>
     </message>
 </context>
 <context>
@@ -234,22 +273,6 @@
 <context>
     <name>PlcTransfer</name>
     <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>下载已停止。PLC 保持原有内容。</translation>
-    </message>
-    <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>还没有可下载的程序。请先命名保存。</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>面板上已没有程序 %1。请重新保存后下载。</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 不是程序文件。</translation>
-    </message>
-    <message>
         <source>The PLC does not answer: there is no folder %1.</source>
         <translation>PLC 无应答: 文件夹 %1 不存在。</translation>
     </message>
@@ -260,10 +283,6 @@
     <message>
         <source>The program %1 is larger than the PLC takes (%2 MB).</source>
         <translation>程序 %1 超过 PLC 的容量 (%2 MB)。</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>无法读取程序 %1: %2。</translation>
     </message>
     <message>
         <source>The PLC does not take the program: %1.</source>
@@ -497,32 +516,12 @@
 <context>
     <name>ProgramSnapshot</name>
     <message>
-        <source>There is no program to download yet. Save it under a name first.</source>
-        <translation>还没有可下载的程序。请先命名保存。</translation>
-    </message>
-    <message>
-        <source>The program %1 is gone from the panel. Save it again, then download.</source>
-        <translation>面板上已没有程序 %1。请重新保存后下载。</translation>
-    </message>
-    <message>
-        <source>%1 is not a program file.</source>
-        <translation>%1 不是程序文件。</translation>
-    </message>
-    <message>
-        <source>The program %1 cannot be read: %2.</source>
-        <translation>无法读取程序 %1: %2。</translation>
-    </message>
-    <message>
         <source>The program %1 cannot be held for the download: %2.</source>
         <translation>无法为下载准备程序 %1: %2。</translation>
     </message>
     <message>
         <source>The program %1 is being written. Download it when that is over.</source>
         <translation>程序 %1 正在写入。请稍后下载。</translation>
-    </message>
-    <message>
-        <source>The download was stopped. The PLC keeps what it had.</source>
-        <translation>下载已停止。PLC 保持原有内容。</translation>
     </message>
     <message>
         <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then download once more.</source>
@@ -641,8 +640,8 @@
         <translation>无法创建标记 %1: %2。</translation>
     </message>
     <message>
-        <source>The mount point %1 is not this program&apos;s to change. Start it by &quot;./run --stick DIR&quot; to try a stick.</source>
-        <translation>挂载点 %1 不归本程序更改。要试用 U 盘, 请用“./run --stick DIR”启动。</translation>
+        <source>The stick stays out: the mount point %1 is not this program&apos;s to change.</source>
+        <translation>U 盘未插入: 挂载点 %1 不归本程序更改。</translation>
     </message>
 </context>
 <context>
