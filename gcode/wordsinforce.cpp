@@ -34,6 +34,18 @@ int indexOf(const Characters &characters, QChar character)
     return -1;
 }
 
+/// What QTextBlock::text() gives, with fewer ways through the document's trees.
+QString textOf(const QTextBlock &block)
+{
+    QTextBlock::iterator at = block.begin();
+    if (at.atEnd())
+        return QString();
+    QString text = at.fragment().text();
+    for (++at; !at.atEnd(); ++at)
+        text += at.fragment().text();
+    return text;
+}
+
 } // namespace
 
 WordsInForce::WordsInForce(const QStringList &names, const QTextDocument *document, int line)
@@ -59,16 +71,23 @@ void WordsInForce::lookUp(const QTextDocument *document, int line)
 {
     if (line < 0)
         return;
+    // Each look into the trees of a long document takes its time: nothing is asked for in advance.
+    QTextBlock block = document->findBlockByLineNumber(line);
+    if (!block.isValid())
+        block = document->findBlockByLineNumber(document->lineCount() - 1);
+    if (!block.isValid())
+        return; // all is hidden
+    readBlock(block);
+    if (wanted.isEmpty())
+        return;
+
     const int blocks = document->blockCount();
-    const int lines = document->lineCount();
     // A block that is hidden has no line, one that is wrapped has several: only the blocks know.
-    const int blocksToRead = lines == blocks ? qMax(nearLines, blocks / nearShare) : blocks;
-    QTextBlock block = document->findBlockByLineNumber(qMin(line, lines - 1));
-    for (int i = 0; i < blocksToRead && block.isValid() && !wanted.isEmpty(); ++i) {
-        if (block.lineCount() > 0) {
-            const QString text = block.text();
-            readLine(text.constData(), text.constData() + text.size());
-        }
+    const bool isEven = document->lineCount() == blocks;
+    const int blocksToRead = isEven ? qMax(nearLines, blocks / nearShare) : blocks;
+    block = block.previous();
+    for (int i = 1; i < blocksToRead && block.isValid() && !wanted.isEmpty(); ++i) {
+        readBlock(block);
         block = block.previous();
     }
     if (!block.isValid() || wanted.isEmpty())
@@ -76,6 +95,15 @@ void WordsInForce::lookUp(const QTextDocument *document, int line)
 
     const QString text = Compat::rawText(document);
     readText(text.constData(), text.constData() + block.position() + block.length() - 1);
+}
+
+/// Reads a block, unless it is hidden or none.
+void WordsInForce::readBlock(const QTextBlock &block)
+{
+    if (block.lineCount() <= 0)
+        return;
+    const QString text = textOf(block);
+    readLine(text.constData(), text.constData() + text.size());
 }
 
 /// Reads lines of a document's text from the last one upward.

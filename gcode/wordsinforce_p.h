@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVarLengthArray>
 
+class QTextBlock;
 class QTextDocument;
 
 /// The values that G-code words have at a line of a program, because the line itself or the nearest
@@ -42,6 +43,7 @@ private:
     bool mayBeWanted(QChar character) const;
     void updateWantedBits();
     void lookUp(const QTextDocument *document, int line);
+    void readBlock(const QTextBlock &block);
     void readText(const QChar *begin, const QChar *end);
     void readLine(const QChar *begin, const QChar *end);
     void readWord(const QChar *begin, const QChar *end);
