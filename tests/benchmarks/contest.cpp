@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 
 double median(const Samples &samples)
@@ -49,6 +50,19 @@ double cpuOf(const std::function<void()> &work)
     work();
     return cpuMilliseconds() - before;
 }
+
+namespace {
+
+/// The C library puts off putting small pieces of freed memory together until somebody asks for a
+/// large one. Who comes next must not pay for what another one left.
+void tidyMemory()
+{
+    const std::size_t large = 1u << 20;
+    void *volatile memory = std::malloc(large);
+    std::free(memory);
+}
+
+} // namespace
 
 void settle()
 {
@@ -174,6 +188,7 @@ void Contest::run(Report &report, int rounds, bool warmUp)
 {
     for (int round = warmUp ? -1 : 0; round < rounds; ++round) {
         for (int i = 0; i < m_subjects.size(); ++i) {
+            tidyMemory();
             const double cost = m_subjects[i].run();
             if (round >= 0)
                 m_subjects[i].figure.samples.append(cost);

@@ -272,6 +272,28 @@ private:
     PlainFilter m_filter;
 };
 
+/// What there is to call of the toolkit for the cursor's line, and nothing else.
+class BareLine
+{
+public:
+    explicit BareLine(int lines) { fill(&m_editor, filterProgram(lines)); }
+
+    double cost(int times)
+    {
+        return cpuOf([&]() {
+                   for (int i = 0; i < times; ++i) {
+                       const int line = m_editor.textCursor().blockNumber();
+                       m_length += m_editor.document()->findBlockByLineNumber(line).text().size();
+                   }
+               })
+               * 1e3 / times;
+    }
+
+private:
+    QPlainTextEdit m_editor;
+    qint64 m_length = 0; // so that nothing is optimised away
+};
+
 } // namespace
 
 void measureLoads(Report &report, const Extent &extent)
@@ -351,10 +373,18 @@ void measureFilter(Report &report, const Extent &extent)
         growth.add(before, [&]() { return own.cost(line, times); });
         const QString plainBefore = QLatin1String("plain, 1000 lines");
         growth.add(plainBefore, [&]() { return other.cost(line, times); });
+        BareLine bareLine(1000);
+        BareLine longestBareLine(largest);
+        const QString bare = QLatin1String("bare calls");
+        growth.add(bare, [&]() { return longestBareLine.cost(times); });
+        const QString bareBefore = QLatin1String("bare calls, 1000 lines");
+        growth.add(bareBefore, [&]() { return bareLine.cost(times); });
         growth.run(report, 9, true);
         report.compare(nearWork, largest, shipped, largest, plain, 0.4);
         report.compare(nearWork, largest, shipped, largest, before, 1.3);
         report.compare(nearWork, largest, plain, largest, plainBefore);
+        report.compare(nearWork, largest, bare, largest, bareBefore);
+        report.compare(nearWork, largest, bare, largest, before);
     }
 }
 
