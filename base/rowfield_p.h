@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class QHBoxLayout;
 class QWidget;
 
 /// The cells of rows, whatever their class.
@@ -22,6 +23,10 @@ enum Type {
 /// A new cell with a fixed width in pixels, which takes its height from the layout.
 QWidget *create(QWidget *parent, int type, const QString &text, int width,
                 const QString &styleSheet);
+
+/// A layout for the cells of a line. It must lie in a widget of fixed height: a new text in a cell
+/// does not lay it out anew.
+QHBoxLayout *createLine();
 
 /// Writes a cell by its class: a label or a ComboLineEdit. Any other, and null, is left alone.
 /// A field emits neither clicked() nor changed().

@@ -50,9 +50,8 @@ const FieldPlace collapsePlace = {31, 11.0f, 12.0f};
 const FieldPlace detailAreaPlace = {33, 1.026f, 12.0f};
 
 template<class Layout>
-Layout *leftLayout()
+Layout *alignedLeft(Layout *layout)
 {
-    Layout *layout = new Layout;
     layout->setAlignment(Qt::AlignLeft);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -165,7 +164,7 @@ void MJLine::createFirstLine(const QStringList &row)
 
     m_firstLine = new QWidget(this);
     m_firstLine->setFixedHeight(RowGeometry::lineHeight(m_size.height()));
-    QHBoxLayout *layout = leftLayout<QHBoxLayout>();
+    QHBoxLayout *layout = alignedLeft(RowField::createLine());
     layout->addWidget(m_numLabel);
     layout->addWidget(m_insLabel);
     layout->addWidget(m_jposLabel);
@@ -237,17 +236,17 @@ void MJLine::createLine2()
     m_collapseLabel = createWidget(collapsePlace.index, Compat::translateUtf8("MJLine", closeArrow),
                                    collapsePlace.widthFactor, collapsePlace.heightFactor);
 
-    QHBoxLayout *upper = leftLayout<QHBoxLayout>();
+    QHBoxLayout *upper = alignedLeft(new QHBoxLayout);
     for (int k = 0; k < 5; ++k)
         upper->addWidget(m_details[k]);
-    QHBoxLayout *lower = leftLayout<QHBoxLayout>();
+    QHBoxLayout *lower = alignedLeft(new QHBoxLayout);
     for (int k = 5; k < detailCount; ++k)
         lower->addWidget(m_details[k]);
     lower->addWidget(m_resEdit);
-    QVBoxLayout *lines = leftLayout<QVBoxLayout>();
+    QVBoxLayout *lines = alignedLeft(new QVBoxLayout);
     lines->addLayout(upper);
     lines->addLayout(lower);
-    QHBoxLayout *outer = leftLayout<QHBoxLayout>();
+    QHBoxLayout *outer = alignedLeft(new QHBoxLayout);
     outer->addWidget(m_collapseLabel);
     outer->addLayout(lines);
 
