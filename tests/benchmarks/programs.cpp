@@ -335,7 +335,7 @@ void measureFilter(Report &report, const Extent &extent)
         contest.add(shipped, [&]() { return own.cost(nowhere, 5) / 50000; });
         contest.add(plain, [&]() { return other.cost(nowhere, 1) / 50000; });
         contest.run(report, 7, true);
-        report.compare(farWork, 50000, shipped, 50000, plain, 0.08);
+        report.compare(farWork, 50000, shipped, 50000, plain, 0.07);
 
         ShippedFilter longest(largest);
         PlainFilterSubject longestOther(largest);
@@ -347,7 +347,7 @@ void measureFilter(Report &report, const Extent &extent)
         const QString plainBefore = QLatin1String("plain, 50000 lines");
         growth.add(plainBefore, [&]() { return other.cost(nowhere, 1) / 50000; });
         growth.run(report, 5, true);
-        report.compare(farWork, largest, shipped, largest, plain, 0.08);
+        report.compare(farWork, largest, shipped, largest, plain, 0.07);
         report.compare(farWork, largest, shipped, largest, before);
         report.compare(farWork, largest, plain, largest, plainBefore);
     }
