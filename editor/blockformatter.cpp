@@ -13,6 +13,9 @@
 
 namespace {
 
+/// Lines of more words are rare.
+const int keptRanges = 16;
+
 /// The lines of a text that was inserted, in step with the blocks that it became.
 class LinesInStep
 {
@@ -82,16 +85,6 @@ Compat::FormatRanges aroundPreedit(const Compat::FormatRanges &ranges, const QTe
     return result;
 }
 
-/// A copy that has the memory it needs and no more.
-Compat::FormatRanges exactCopy(const Compat::FormatRanges &ranges)
-{
-    Compat::FormatRanges copy;
-    copy.reserve(ranges.size());
-    for (const QTextLayout::FormatRange &range : ranges)
-        copy.append(range);
-    return copy;
-}
-
 } // namespace
 
 BlockFormatter::BlockFormatter(WHighlighter *highlighter)
@@ -103,8 +96,11 @@ BlockFormatter::BlockFormatter(WHighlighter *highlighter)
     , m_hasSeenAChange(false)
     , m_expectedPosition(0)
 {
-    Q_FOREACH (const WHighlighter::WHighlightingRule &rule, highlighter->rules())
-        m_formats.append(rule.format);
+    Q_FOREACH (const WHighlighter::WHighlightingRule &rule, highlighter->rules()) {
+        if (!m_formats.contains(rule.format))
+            m_formats.append(rule.format);
+        m_formatOfRule.append(m_formats.indexOf(rule.format));
+    }
     // Ours comes before the toolkit's. Should a toolkit react in another way, it goes on colouring
     // by itself.
     if (!disconnectToolkit())
@@ -184,10 +180,10 @@ void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &las
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
         const int length = block.length() - 1;
         if (const QChar *line = lines.lineOf(block, length))
-            findRanges(line, length);
+            findWords(line, length);
         else
-            findRanges(block.text().constData(), length);
-        const bool keepsAny = marking == AnyColours && !m_ranges.isEmpty();
+            findWords(block.text().constData(), length);
+        const bool keepsAny = marking == AnyColours && !m_words.isEmpty();
         if (setRanges(block) || keepsAny) {
             if (!firstChanged.isValid())
                 firstChanged = block;
@@ -202,35 +198,83 @@ void BlockFormatter::formatBlocks(const QTextBlock &first, const QTextBlock &las
     }
 }
 
-/// Finds the ranges of a text; neighbours of one format are one range.
-void BlockFormatter::findRanges(const QChar *text, int size)
+void BlockFormatter::findWords(const QChar *text, int size)
 {
-    m_ranges.clear();
+    m_words.clear();
     for (GCodeWords::Scanner words(text, size); words.next();) {
-        const QTextCharFormat &format = m_formats.at(words.rule());
-        if (!m_ranges.isEmpty()) {
-            QTextLayout::FormatRange &before = m_ranges.last();
-            if (before.start + before.length == words.start() && before.format == format) {
-                before.length += words.length();
+        const Word word = {words.start(), words.length(), m_formatOfRule.at(words.rule())};
+        if (!m_words.isEmpty()) {
+            Word &before = m_words[m_words.size() - 1];
+            if (before.start + before.length == word.start && before.format == word.format) {
+                before.length += word.length;
                 continue;
             }
         }
-        QTextLayout::FormatRange range;
-        range.start = words.start();
-        range.length = words.length();
-        range.format = format;
-        m_ranges.append(range);
+        m_words.append(word);
     }
 }
 
 bool BlockFormatter::setRanges(const QTextBlock &block)
 {
     QTextLayout *const layout = block.layout();
-    if (!layout->preeditAreaText().isEmpty())
-        m_ranges = aroundPreedit(m_ranges, *layout);
-    if (areEqual(m_ranges, Compat::formats(layout)))
+    const Compat::FormatRanges before = Compat::formats(layout);
+    if (layout->preeditAreaText().isEmpty()) {
+        if (areSet(before))
+            return false;
+        Compat::setFormats(layout, ranges());
+        return true;
+    }
+    const Compat::FormatRanges wanted = aroundPreedit(ranges(), *layout);
+    if (areEqual(wanted, before))
         return false;
-    Compat::setFormats(layout, exactCopy(m_ranges));
+    Compat::setFormats(layout, wanted);
+    return true;
+}
+
+/// The words as the toolkit takes them. Ranges are made once for each number of words, and then
+/// filled anew: most lines have the same formats in the same order, and to copy one costs as much
+/// as to find a word. They have the memory that they need: a layout keeps a copy as large as they
+/// are.
+Compat::FormatRanges BlockFormatter::ranges()
+{
+    const int count = m_words.size();
+    if (count > keptRanges) {
+        Compat::FormatRanges many;
+        fill(&many);
+        return many;
+    }
+    if (m_ranges.isEmpty())
+        m_ranges.resize(keptRanges + 1);
+    fill(&m_ranges[count]);
+    return m_ranges.at(count);
+}
+
+void BlockFormatter::fill(Compat::FormatRanges *ranges) const
+{
+    ranges->reserve(m_words.size());
+    while (ranges->size() < m_words.size())
+        ranges->append(QTextLayout::FormatRange());
+    Compat::FormatRanges::iterator range = ranges->begin();
+    for (const Word &word : m_words) {
+        range->start = word.start;
+        range->length = word.length;
+        if (range->format != m_formats.at(word.format))
+            range->format = m_formats.at(word.format);
+        ++range;
+    }
+}
+
+bool BlockFormatter::areSet(const Compat::FormatRanges &ranges) const
+{
+    if (ranges.size() != m_words.size())
+        return false;
+    for (int i = 0; i < ranges.size(); ++i) {
+        const Word &word = m_words.at(i);
+        const QTextLayout::FormatRange &range = ranges.at(i);
+        if (range.start != word.start || range.length != word.length
+            || range.format != m_formats.at(word.format))
+            return false;
+    }
     return true;
 }
 

@@ -12,6 +12,7 @@
 #include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextDocument>
+#include <QVarLengthArray>
 #include <QVector>
 
 class WHighlighter;
@@ -59,8 +60,18 @@ private:
     bool disconnectToolkit();
     bool isHighlighted() const;
     void formatBlocks(const QTextBlock &first, const QTextBlock &last, Marking marking);
-    void findRanges(const QChar *text, int size);
+    void findWords(const QChar *text, int size);
     bool setRanges(const QTextBlock &block);
+    Compat::FormatRanges ranges();
+    void fill(Compat::FormatRanges *ranges) const;
+    bool areSet(const Compat::FormatRanges &ranges) const;
+
+    struct Word
+    {
+        int start;
+        int length;
+        int format; ///< index of m_formats
+    };
 
     WHighlighter *m_highlighter;
     QPointer<QTextDocument> m_document; // a host may give the highlighter another one
@@ -69,7 +80,9 @@ private:
     const int m_toolkitSlot;
     bool m_hasSeenAChange;
     QVector<QTextCharFormat> m_formats;
-    Compat::FormatRanges m_ranges; // of the block at hand
+    QVector<int> m_formatOfRule;
+    QVarLengthArray<Word, 32> m_words; // of the block at hand; neighbours of one format are one
+    QVector<Compat::FormatRanges> m_ranges; // that were handed out last, by their number
     QString m_expectedText;
     int m_expectedPosition;
 };

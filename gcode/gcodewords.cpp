@@ -52,7 +52,7 @@ const RuleByCharacter &ruleByCharacter()
 
 bool isZeroToNine(QChar c)
 {
-    return c.unicode() >= '0' && c.unicode() <= '9';
+    return ushort(c.unicode() - '0') <= 9;
 }
 
 const QChar *behindDigits(const QChar *at, const QChar *end)
@@ -88,17 +88,19 @@ Scanner::Scanner(const QChar *text, int size)
 bool Scanner::next()
 {
     const RuleByCharacter &ruleOf = ruleByCharacter();
-    while (m_at != m_end) {
-        m_word = m_at++;
-        m_rule = ruleOf[*m_word];
-        if (m_rule == noRule)
+    for (const QChar *word = m_at; word != m_end; ++word) {
+        const int rule = ruleOf[*word];
+        if (rule == noRule)
             continue;
-        const QChar *const behind = behindShape(m_at, m_end, rules[m_rule].shape);
-        if (behind == m_at)
+        const QChar *const behind = behindShape(word + 1, m_end, rules[rule].shape);
+        if (behind == word + 1)
             continue;
+        m_word = word;
         m_at = behind;
+        m_rule = rule;
         return true;
     }
+    m_at = m_end;
     return false;
 }
 
