@@ -144,12 +144,12 @@ bool PieceAppender::holdsPaintingOf(const QPlainTextEdit *view)
     return false;
 }
 
-void PieceAppender::append(const QString &text)
+void PieceAppender::append(const QString &text, int lineCount)
 {
     if (m_formatter)
         m_formatter->expect(text, document()->isEmpty() ? 0 : document()->characterCount());
-    if (canAppend(text)) {
-        appendUnseen(text);
+    if (canAppend(lineCount)) {
+        appendUnseen(text, lineCount);
     } else {
         leaveDocument();
         m_view->appendPlainText(text);
@@ -159,16 +159,15 @@ void PieceAppender::append(const QString &text)
 }
 
 /// Whether there is anything to spare, and the result is known to be the toolkit's.
-bool PieceAppender::canAppend(const QString &text) const
+bool PieceAppender::canAppend(int lineCount) const
 {
     const QTextCursor cursor = m_view->textCursor();
     return m_control && m_view->viewport()->isVisible() && m_view->viewport()->updatesEnabled()
-           && !m_view->centerOnScroll() && document()->maximumBlockCount() == 0
-           && text.contains(QLatin1Char('\n')) && cursor.charFormat().propertyCount() == 0
-           && cursor.blockFormat().propertyCount() == 0;
+           && !m_view->centerOnScroll() && document()->maximumBlockCount() == 0 && lineCount > 1
+           && cursor.charFormat().propertyCount() == 0 && cursor.blockFormat().propertyCount() == 0;
 }
 
-void PieceAppender::appendUnseen(const QString &text)
+void PieceAppender::appendUnseen(const QString &text, int lineCount)
 {
     watchDocument();
     m_isRelaidOut = false;
@@ -178,8 +177,8 @@ void PieceAppender::appendUnseen(const QString &text)
     if (top != m_top || documentWidth() != m_width)
         noteLayoutFrom(top);
     const bool wasAtEnd = isAtEnd();
-    layOutAhead(text.count(QLatin1Char('\n')) + 1);
-    insert(text);
+    layOutAhead(lineCount);
+    insert(text, lineCount);
     if (m_layout != document()->documentLayout()) {
         QMetaObject::invokeMethod(m_view, adjustName, Qt::DirectConnection);
         return; // a receiver has set another document, or another layout
@@ -324,7 +323,7 @@ void PieceAppender::timerEvent(QTimerEvent *event)
 // A piece
 
 /// What appendPlainText() does to the document.
-void PieceAppender::insert(const QString &text)
+void PieceAppender::insert(const QString &text, int lineCount)
 {
     const Flagged holding(m_isHolding, true);
     const Flagged inserting(m_isInserting, true);
@@ -341,7 +340,7 @@ void PieceAppender::insert(const QString &text)
         cursor.insertBlock(own.blockFormat(), own.charFormat());
     cursor.insertText(text);
     cursor.endEditBlock();
-    learnText(text, revision);
+    learnText(lineCount, revision);
 }
 
 /// Tells the layout of the new blocks before the toolkit does, so that it keeps the document's size
@@ -560,7 +559,7 @@ bool PieceAppender::isCurrent() const
 }
 
 /// Notes that the lines of a piece have gone in and are as they were.
-void PieceAppender::learnText(const QString &text, int revisionBefore)
+void PieceAppender::learnText(int lineCount, int revisionBefore)
 {
     if (m_firstKnown < 0 || m_document != document())
         return;
@@ -569,8 +568,7 @@ void PieceAppender::learnText(const QString &text, int revisionBefore)
         m_widths.remove(0, qMin(keep, m_widths.size()));
         m_firstKnown += keep;
     }
-    const int count = text.count(QLatin1Char('\n')) + 1;
-    m_widths.insert(m_widths.size(), count, notGauged);
+    m_widths.insert(m_widths.size(), lineCount, notGauged);
     const bool isAlone = revisionBefore == m_revision && document()->revision() == m_revision + 1;
     m_revision = document()->revision();
     if (!isAlone || m_firstKnown + m_widths.size() != document()->blockCount())

@@ -48,7 +48,8 @@ public:
     PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter, const ViewAccess &access);
     ~PieceAppender() override;
 
-    void append(const QString &text);
+    /// The text has \a lineCount lines.
+    void append(const QString &text, int lineCount);
 
     /// Whether what asks for painting has to wait: it is painted soon, with all the rest.
     static bool holdsPaintingOf(const QPlainTextEdit *view);
@@ -63,13 +64,13 @@ private Q_SLOTS:
     void settleBlockCount(int from, int removed, int added);
 
 private:
-    bool canAppend(const QString &text) const;
+    bool canAppend(int lineCount) const;
     void takeReactions();
     void giveReactionsBack();
     void watchDocument();
     void leaveDocument();
-    void appendUnseen(const QString &text);
-    void insert(const QString &text);
+    void appendUnseen(const QString &text, int lineCount);
+    void insert(const QString &text, int lineCount);
 
     bool isAtEnd();
     void fitScrollBars();
@@ -81,7 +82,7 @@ private:
     bool findDistance(const QTextBlock &top, const QTextBlock &target, int *distance);
 
     void forget();
-    void learnText(const QString &text, int revisionBefore);
+    void learnText(int lineCount, int revisionBefore);
     void learnPage();
     void layOutSkipped();
     void layOutAhead(int added);

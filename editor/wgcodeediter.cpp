@@ -33,18 +33,75 @@ const int chunkCount = 50;
 /// Pixels of the gutter beside the digits.
 const int gutterMargin = 3;
 
-/// The position just behind the next \a count line ends from \a from on; text.size() + 1 when the
-/// text has no more of them, as if one stood at its end.
-int behindLines(const QString &text, int from, int count)
+/// Cuts a program into pieces, without comments and without empty lines.
+///
+/// Only one piece at a time is there: all of them would take as much memory again as the document.
+/// The text goes as the document comes, but it is not copied for each piece.
+class ProgramCutter
 {
-    int position = from;
-    for (int i = 0; i < count; ++i) {
-        const int lineEnd = text.indexOf(QLatin1Char('\n'), position);
-        if (lineEnd < 0)
-            return text.size() + 1;
-        position = lineEnd + 1;
+public:
+    explicit ProgramCutter(QString &text) : m_text(text), m_line(0), m_comment(-1), m_lineCount(0)
+    {}
+
+    /// What stays of the next \a count lines.
+    QString next(int count);
+
+    /// The number of lines in the piece.
+    int lineCount() const { return m_lineCount; }
+
+private:
+    int behindCode(int lineEnd);
+    void letGo();
+
+    QString &m_text;
+    int m_line;    ///< start of the line that comes next
+    int m_comment; ///< the first mark of one that has been looked for; often behind that line
+    int m_lineCount;
+};
+
+QString ProgramCutter::next(int count)
+{
+    QString piece;
+    m_lineCount = 0;
+    int uncopied = m_line; // lines that stay whole are copied together
+    for (int i = 0; i < count && m_line <= m_text.size(); ++i) {
+        const int found = m_text.indexOf(QLatin1Char('\n'), m_line);
+        const int lineEnd = found < 0 ? m_text.size() : found;
+        const int codeEnd = behindCode(lineEnd);
+        const bool isKept = codeEnd > m_line;
+        if (!isKept || codeEnd < lineEnd) {
+            piece.append(m_text.midRef(uncopied, codeEnd - uncopied));
+            if (isKept)
+                piece.append(QLatin1Char('\n'));
+            uncopied = lineEnd + 1;
+        }
+        m_lineCount += isKept;
+        m_line = lineEnd + 1;
     }
-    return position;
+    piece.append(m_text.midRef(uncopied, m_line - uncopied));
+    if (piece.endsWith(QLatin1Char('\n')))
+        piece.chop(1);
+    letGo();
+    return piece;
+}
+
+/// Where the code of the next line ends: at a comment, or with the line.
+int ProgramCutter::behindCode(int lineEnd)
+{
+    if (m_comment < m_line) {
+        const int found = m_text.indexOf(QLatin1Char(';'), m_line);
+        m_comment = found < 0 ? m_text.size() : found;
+    }
+    return qMin(m_comment, lineEnd);
+}
+
+void ProgramCutter::letGo()
+{
+    if (m_line <= m_text.size() / 2)
+        return;
+    m_text = m_text.mid(m_line);
+    m_line = 0;
+    m_comment = -1;
 }
 
 #ifdef FILARIX_HAS_VIEWPORT_MARGINS
@@ -205,7 +262,7 @@ void WGCodeEditer::readGCode(QString text)
     QTime time;
     time.start();
 
-    const int total = text.count(QLatin1Char('\n')) + 1;
+    const int total = int(std::count(text.constBegin(), text.constEnd(), QLatin1Char('\n'))) + 1;
     if (total < chunkThreshold) {
         setPlainText(text);
         qDebug() << "Elapsed:" << time.elapsed();
@@ -221,22 +278,12 @@ void WGCodeEditer::readGCode(QString text)
     };
     PieceAppender appender(this, formatterOf(highlighter, document()), access);
     const QPointer<WGCodeEditer> self(this);
+    ProgramCutter cutter(text);
     int position = 0;
-    int from = 0;
     Q_FOREACH (int n, WAQP::chunkSizes(total, chunkCount)) {
-        // Only one piece at a time is cut into lines: a list of all lines would take as much memory
-        // again as the document.
-        const int behind = behindLines(text, from, n);
-        const QString result =
-            preproccess(text.mid(from, behind - 1 - from).split(QLatin1Char('\n')));
-        from = behind;
-        // The text goes as the document comes, but it is not copied for each piece.
-        if (from > text.size() / 2) {
-            text = text.mid(from);
-            from = 0;
-        }
-        if (!result.isEmpty())
-            appender.append(result);
+        const QString piece = cutter.next(n);
+        if (!piece.isEmpty())
+            appender.append(piece, cutter.lineCount());
         position += n;
         progress.setValue(position);
         QCoreApplication::processEvents();
