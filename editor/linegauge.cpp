@@ -5,11 +5,12 @@
 
 #include <QPaintDevice>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-const short notMeasured = -1;
+const int notMeasured = -2;
 
 } // namespace
 
@@ -28,41 +29,44 @@ void LineGauge::measure(const QFont &font, QPaintDevice *device)
     m_font = font;
     m_dpi = device->logicalDpiY();
     m_metrics = QFontMetricsF(QFont(font, device));
-    for (int i = 0; i < count; ++i) {
-        const QChar character(first + i);
-        const qreal advance = m_metrics.width(character);
-        const bool addsUp = m_metrics.inFont(character) && advance >= 0;
-        m_advances[i] = addsUp ? int(std::ceil(advance * fraction)) : int(unknown);
-        for (int k = 0; k < count; ++k)
-            m_pairs[i][k] = notMeasured;
-    }
+    std::fill(m_steps[0], m_steps[0] + (count + 1) * count, notMeasured);
 }
 
 int LineGauge::width(const QChar *text, int size)
 {
     int sum = fraction; // the layout rounds in its own way
-    int before = -1;
+    int before = count;
     for (int i = 0; i < size; ++i) {
         const int at = int(text[i].unicode()) - first;
-        if (at < 0 || at >= count || m_advances[at] == unknown)
+        if (at < 0 || at >= count)
             return unknown;
-        sum += m_advances[at];
-        if (before >= 0)
-            sum += pair(before, at);
+        int &wider = m_steps[before][at];
+        if (wider == notMeasured)
+            wider = step(before, at);
+        if (wider == unknown)
+            return unknown;
+        sum += wider;
         before = at;
     }
     return sum / fraction + 1;
 }
 
-/// By how much two characters stand farther apart than they are wide. That they come closer counts
-/// for nothing: between the colours of two words they do not.
-int LineGauge::pair(int left, int right)
+int LineGauge::advance(int at) const
 {
-    short &wider = m_pairs[left][right];
-    if (wider == notMeasured) {
-        const QString both = QString(QChar(first + left)) + QChar(first + right);
-        const qreal width = m_metrics.width(both) * fraction;
-        wider = short(qMax(0, int(std::ceil(width)) - m_advances[left] - m_advances[right]));
-    }
-    return wider;
+    const QChar character(first + at);
+    const qreal advance = m_metrics.width(character);
+    const bool addsUp = m_metrics.inFont(character) && advance >= 0;
+    return addsUp ? int(std::ceil(advance * fraction)) : int(unknown);
+}
+
+/// That two characters come closer counts for nothing: between the colours of two words they do
+/// not.
+int LineGauge::step(int before, int at)
+{
+    const int own = advance(at);
+    if (before == count || own == unknown)
+        return own;
+    const QString both = QString(QChar(first + before)) + QChar(first + at);
+    const int width = int(std::ceil(m_metrics.width(both) * fraction));
+    return qMax(own, width - advance(before));
 }

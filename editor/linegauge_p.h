@@ -27,14 +27,15 @@ private:
 
     LineGauge() : m_metrics(QFont()) {}
     void measure(const QFont &font, QPaintDevice *device);
-    int pair(int left, int right);
+    int advance(int at) const;
+    int step(int before, int at);
 
     QFont m_font;
     QFontMetricsF m_metrics;
     int m_dpi;
-    // In parts of a pixel.
-    int m_advances[count];
-    short m_pairs[count][count];
+    /// By how much a character makes a line longer, in parts of a pixel: by the one before it, or,
+    /// in the last row, as the first of the line.
+    int m_steps[count + 1][count];
 };
 
 #endif // LINEGAUGE_P_H

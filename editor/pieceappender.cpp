@@ -120,6 +120,7 @@ PieceAppender::PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter,
     , m_revision(0)
     , m_lineHeight(0)
     , m_width(0)
+    , m_asked(-1)
     , m_firstOfPage(-1)
     , m_lastOfPage(-1)
 {
@@ -258,8 +259,14 @@ void PieceAppender::leaveDocument()
 
 void PieceAppender::adjustScrollBars()
 {
-    if (!m_leavesBars)
+    if (m_leavesBars)
+        return;
+    if (m_asked < 0) {
         QMetaObject::invokeMethod(m_view, adjustName, Qt::DirectConnection);
+        return;
+    }
+    noteAsked();
+    fitScrollBars();
 }
 
 /// What the view does when its document wants to be painted.
@@ -340,7 +347,7 @@ void PieceAppender::insert(const QString &text, int lineCount)
         cursor.insertBlock(own.blockFormat(), own.charFormat());
     cursor.insertText(text);
     cursor.endEditBlock();
-    learnText(lineCount, revision);
+    learnText(text, lineCount, revision);
 }
 
 /// Tells the layout of the new blocks before the toolkit does, so that it keeps the document's size
@@ -407,10 +414,11 @@ bool PieceAppender::fitScrollBarsByKnowledge()
     int count = 0;
     const QTextBlock last = document()->lastBlock();
     QTextBlock block = last;
+    int number = last.blockNumber();
     {
         const Silenced silenced(m_layout);
-        for (;; block = block.previous()) {
-            if (!block.isValid() || !isKnown(block))
+        for (;; block = block.previous(), --number) {
+            if (!block.isValid() || !isKnown(block, number))
                 return false;
             y += m_lineHeight;
             if (y > visible)
@@ -418,7 +426,7 @@ bool PieceAppender::fitScrollBarsByKnowledge()
             ++count;
         }
     }
-    m_firstOfPage = block.blockNumber();
+    m_firstOfPage = number;
     m_lastOfPage = last.blockNumber();
 
     const int width = int(document()->size().width());
@@ -559,7 +567,7 @@ bool PieceAppender::isCurrent() const
 }
 
 /// Notes that the lines of a piece have gone in and are as they were.
-void PieceAppender::learnText(int lineCount, int revisionBefore)
+void PieceAppender::learnText(const QString &text, int lineCount, int revisionBefore)
 {
     if (m_firstKnown < 0 || m_document != document())
         return;
@@ -571,8 +579,34 @@ void PieceAppender::learnText(int lineCount, int revisionBefore)
     m_widths.insert(m_widths.size(), lineCount, notGauged);
     const bool isAlone = revisionBefore == m_revision && document()->revision() == m_revision + 1;
     m_revision = document()->revision();
-    if (!isAlone || m_firstKnown + m_widths.size() != document()->blockCount())
+    if (isAlone && m_firstKnown + m_widths.size() == document()->blockCount())
+        gaugeEnds(text, lineCount);
+    else
         forget();
+}
+
+/// Gauges the lines of the piece that are on the pages before and behind it: they will be asked
+/// for, and to read them back from the document costs more.
+void PieceAppender::gaugeEnds(const QString &text, int lineCount)
+{
+    const int page = m_view->viewport()->height() / qMax(1, m_lineHeight) + 3;
+    int *const widths = m_widths.data() + m_widths.size() - lineCount;
+    LineGauge &gauge = LineGauge::of(m_font, m_view->viewport());
+    const QChar *const chars = text.constData();
+    int at = 0;
+    int line = 0;
+    for (; line < qMin(page, lineCount); ++line) {
+        const int found = text.indexOf(QLatin1Char('\n'), at);
+        const int end = found < 0 ? text.size() : found;
+        widths[line] = gauge.width(chars + at, end - at);
+        at = end + 1;
+    }
+    int end = text.size();
+    for (int i = lineCount - 1; i >= qMax(line, lineCount - page); --i) {
+        const int start = text.lastIndexOf(QLatin1Char('\n'), end - 1) + 1;
+        widths[i] = gauge.width(chars + start, end - start);
+        end = start - 1;
+    }
 }
 
 /// Notes what there is to know of the last page, which was just laid out.
@@ -605,9 +639,9 @@ qreal PieceAppender::documentWidth() const
 }
 
 /// At least the width of the lines of a block; most are never asked for.
-int PieceAppender::widthOf(const QTextBlock &block)
+int PieceAppender::widthOf(const QTextBlock &block, int number)
 {
-    const int at = block.blockNumber() - m_firstKnown;
+    const int at = number - m_firstKnown;
     if (at < 0 || at >= m_widths.size())
         return LineGauge::unknown;
     if (m_widths.at(at) == notGauged) {
@@ -620,10 +654,9 @@ int PieceAppender::widthOf(const QTextBlock &block)
 
 /// Whether \a block is known to be as high as all the others. If it may matter to the width of the
 /// document, it is laid out.
-bool PieceAppender::isKnown(const QTextBlock &block)
+bool PieceAppender::isKnown(const QTextBlock &block, int number)
 {
-    const int number = block.blockNumber();
-    const int width = widthOf(block);
+    const int width = widthOf(block, number);
     const QTextLayout *const layout = block.layout();
     if (width == LineGauge::unknown || !block.isVisible() || block.lineCount() != 1
         || m_view->lineWrapMode() != QPlainTextEdit::NoWrap || !layout->preeditAreaText().isEmpty()
@@ -638,11 +671,22 @@ bool PieceAppender::isKnown(const QTextBlock &block)
             m_skipped.append(number);
         return true;
     }
+    m_asked = number;
     m_layout->blockBoundingRect(block);
+    noteAsked();
+    return true;
+}
+
+void PieceAppender::noteAsked()
+{
+    const int number = m_asked;
+    m_asked = -1;
+    if (number < 0)
+        return;
+    const int distance = document()->blockCount() - 1 - number;
     if (distance < m_passed.size())
         m_passed[distance] = 1;
     noteLayout(number, number);
-    return true;
 }
 
 /// Lays out what was skipped of the page and could be taken for the widest once there are so many
@@ -730,18 +774,18 @@ void PieceAppender::findWidest(int first, int last)
 /// lines below \a top it takes it to be.
 bool PieceAppender::areKnown(const QTextBlock &top, const QTextBlock &target, int *steps)
 {
-    if (!isCurrent() || !isKnown(top))
+    const int first = top.blockNumber();
+    if (!isCurrent() || !isKnown(top, first))
         return false;
-    const int count = target.blockNumber() - top.blockNumber();
+    const int count = target.blockNumber() - first;
+    const int far = 2 * m_view->viewport()->height();
     QTextBlock block = top;
-    for (*steps = 0;
-         *steps < count && (*steps - 1) * m_lineHeight <= 2 * m_view->viewport()->height();
-         ++*steps) {
+    for (*steps = 0; *steps < count && (*steps - 1) * m_lineHeight <= far; ++*steps) {
         block = block.next();
-        if (!isKnown(block))
+        if (!isKnown(block, first + *steps + 1))
             return false;
     }
-    return count >= 0 && isKnown(target);
+    return count >= 0 && isKnown(target, first + count);
 }
 
 /// How far below the pane's upper edge \a top starts, if nothing of it is scrolled out.

@@ -82,13 +82,15 @@ private:
     bool findDistance(const QTextBlock &top, const QTextBlock &target, int *distance);
 
     void forget();
-    void learnText(int lineCount, int revisionBefore);
+    void learnText(const QString &text, int lineCount, int revisionBefore);
+    void gaugeEnds(const QString &text, int lineCount);
     void learnPage();
     void layOutSkipped();
     void layOutAhead(int added);
     bool isCurrent() const;
-    int widthOf(const QTextBlock &block);
-    bool isKnown(const QTextBlock &block);
+    int widthOf(const QTextBlock &block, int number);
+    bool isKnown(const QTextBlock &block, int number);
+    void noteAsked();
     bool areKnown(const QTextBlock &top, const QTextBlock &target, int *steps);
     void noteLayout(int first, int last);
     void noteLayoutFrom(int top);
@@ -137,6 +139,7 @@ private:
     qreal m_width;          ///< of the document
     QVector<int> m_widest;  ///< blocks as wide as that; none if no line counted so far
     QByteArray m_passed;    ///< by the distance from the last block: 1 if it is another
+    int m_asked;            ///< block that is being laid out here; none if that is -1
     QVector<int> m_skipped; ///< blocks that the toolkit would have laid out
     int m_firstOfPage;      ///< of the blocks that were looked at last to fit the scroll bars
     int m_lastOfPage;
