@@ -40,10 +40,10 @@ int LineGauge::width(const QChar *text, int size)
         const int at = int(text[i].unicode()) - first;
         if (at < 0 || at >= count)
             return unknown;
-        int &wider = m_steps[before][at];
-        if (wider == notMeasured)
+        int wider = m_steps[before][at];
+        if (wider < 0)
             wider = step(before, at);
-        if (wider == unknown)
+        if (wider < 0)
             return unknown;
         sum += wider;
         before = at;
@@ -63,10 +63,14 @@ int LineGauge::advance(int at) const
 /// not.
 int LineGauge::step(int before, int at)
 {
-    const int own = advance(at);
-    if (before == count || own == unknown)
-        return own;
+    int &step = m_steps[before][at];
+    if (step != notMeasured)
+        return step;
+    step = advance(at);
+    if (before == count || step == unknown)
+        return step;
     const QString both = QString(QChar(first + before)) + QChar(first + at);
     const int width = int(std::ceil(m_metrics.width(both) * fraction));
-    return qMax(own, width - advance(before));
+    step = qMax(step, width - advance(before));
+    return step;
 }

@@ -23,6 +23,7 @@ const int paintInterval = 200;
 const int passedLimit = 1 << 16;
 
 const char adjustName[] = "_q_adjustScrollbars";
+const char showOrHideName[] = "_q_showOrHideScrollBars";
 
 /// The width of a line that nobody has asked for.
 const int notGauged = LineGauge::unknown - 1;
@@ -91,6 +92,13 @@ bool isColourOnly(const QTextLayout *layout)
     return true;
 }
 
+bool isShownAsNeeded(const QScrollBar *bar, Qt::ScrollBarPolicy policy, const QWidget *view)
+{
+    const bool isNeeded = policy == Qt::ScrollBarAlwaysOn
+                          || (policy == Qt::ScrollBarAsNeeded && bar->minimum() < bar->maximum());
+    return bar->isVisibleTo(view) == isNeeded;
+}
+
 bool isPlain(const QTextBlock &block)
 {
     if (block.charFormat().propertyCount() > 0 || block.blockFormat().propertyCount() > 0)
@@ -143,6 +151,12 @@ bool PieceAppender::holdsPaintingOf(const QPlainTextEdit *view)
             return true;
     }
     return false;
+}
+
+bool PieceAppender::areBarsAsNeeded(const QPlainTextEdit *view)
+{
+    return isShownAsNeeded(view->horizontalScrollBar(), view->horizontalScrollBarPolicy(), view)
+           && isShownAsNeeded(view->verticalScrollBar(), view->verticalScrollBarPolicy(), view);
 }
 
 void PieceAppender::append(const QString &text, int lineCount)
@@ -219,14 +233,32 @@ void PieceAppender::takeReactions()
         connect(child, SIGNAL(updateRequest(QRectF)), SLOT(repaintContents(QRectF)));
         connect(child, SIGNAL(documentSizeChanged(QSizeF)), SLOT(adjustScrollBars()));
         m_control = child;
+        takeReactionTo(m_view->horizontalScrollBar());
+        takeReactionTo(m_view->verticalScrollBar());
         return;
     }
+}
+
+void PieceAppender::takeReactionTo(QScrollBar *scrollBar)
+{
+    if (!disconnect(scrollBar, SIGNAL(rangeChanged(int, int)), m_view,
+                    SLOT(_q_showOrHideScrollBars())))
+        return;
+    connect(scrollBar, SIGNAL(rangeChanged(int, int)), SLOT(showOrHideScrollBars()));
+    m_bars.append(scrollBar);
 }
 
 void PieceAppender::giveReactionsBack()
 {
     if (!m_view || !m_control)
         return;
+    Q_FOREACH (const QPointer<QScrollBar> &scrollBar, m_bars) {
+        if (!scrollBar)
+            continue;
+        scrollBar->disconnect(this);
+        connect(scrollBar, SIGNAL(rangeChanged(int, int)), m_view, SLOT(_q_showOrHideScrollBars()),
+                Qt::QueuedConnection);
+    }
     m_control->disconnect(this);
     connect(m_control, SIGNAL(updateRequest(QRectF)), m_view, SLOT(_q_repaintContents(QRectF)));
     connect(m_control, SIGNAL(documentSizeChanged(QSizeF)), m_view, SLOT(_q_adjustScrollbars()));
@@ -267,6 +299,13 @@ void PieceAppender::adjustScrollBars()
     }
     noteAsked();
     fitScrollBars();
+}
+
+/// The view lays itself out at each new range; that changes nothing but where a bar comes or goes.
+void PieceAppender::showOrHideScrollBars()
+{
+    if (!areBarsAsNeeded(m_view))
+        QMetaObject::invokeMethod(m_view, showOrHideName, Qt::QueuedConnection);
 }
 
 /// What the view does when its document wants to be painted.
@@ -340,7 +379,7 @@ void PieceAppender::insert(const QString &text, int lineCount)
     m_blocks = document()->blockCount();
     QTextCursor cursor(document());
     cursor.beginEditBlock();
-    cursor.movePosition(QTextCursor::End);
+    cursor.movePosition(QTextCursor::End); // lays the first line out, as the toolkit does
     if (document()->isEmpty())
         cursor.setCharFormat(own.charFormat());
     else
@@ -603,7 +642,7 @@ void PieceAppender::gaugeEnds(const QString &text, int lineCount)
     }
     int end = text.size();
     for (int i = lineCount - 1; i >= qMax(line, lineCount - page); --i) {
-        const int start = text.lastIndexOf(QLatin1Char('\n'), end - 1) + 1;
+        const int start = end > 0 ? text.lastIndexOf(QLatin1Char('\n'), end - 1) + 1 : 0;
         widths[i] = gauge.width(chars + start, end - start);
         end = start - 1;
     }

@@ -34,12 +34,13 @@ struct ViewAccess
 /// Appends many pieces of text to an editor, as appendPlainText() does, with the same result after
 /// each: in the document, in the view, and in what their signals tell.
 ///
-/// What it spares is painting, which comes every 200 ms at the most, and laying out lines to learn
-/// what is known without: that they are as high as all the others and narrower than the pane. Where
-/// that is not known, lines are laid out as the toolkit does.
+/// What it spares is painting, which comes every 200 ms at the most, and laying
+/// out lines to learn what is known without: that they are as high as all the others and narrower
+/// than the pane. Where that is not known, lines are laid out as the toolkit does.
 ///
-/// Nothing of the view is switched off meanwhile. Two reactions of the view to its document go
-/// through this object: to scroll bars that have to fit, and to lines that have to be painted.
+/// Nothing of the view is switched off meanwhile. Three reactions of the view go through this
+/// object: to scroll bars that have to fit, to those that have to come or go, and to lines that
+/// have to be painted.
 class PieceAppender : public QObject
 {
     Q_OBJECT
@@ -54,11 +55,15 @@ public:
     /// Whether what asks for painting has to wait: it is painted soon, with all the rest.
     static bool holdsPaintingOf(const QPlainTextEdit *view);
 
+    /// Whether neither scroll bar is still to come or to go.
+    static bool areBarsAsNeeded(const QPlainTextEdit *view);
+
 protected:
     void timerEvent(QTimerEvent *event) override;
 
 private Q_SLOTS:
     void adjustScrollBars();
+    void showOrHideScrollBars();
     void repaintContents(const QRectF &rect);
     void noteUpdate(const QRectF &rect);
     void settleBlockCount(int from, int removed, int added);
@@ -66,6 +71,7 @@ private Q_SLOTS:
 private:
     bool canAppend(int lineCount) const;
     void takeReactions();
+    void takeReactionTo(QScrollBar *scrollBar);
     void giveReactionsBack();
     void watchDocument();
     void leaveDocument();
@@ -113,6 +119,7 @@ private:
     QPointer<QPlainTextEdit> m_view;
     QPointer<BlockFormatter> m_formatter;
     const ViewAccess m_access;
+    QList<QPointer<QScrollBar>> m_bars; ///< whose reactions go through here
     QPointer<QObject> m_control;        ///< whose reactions go through here
     QPointer<QTextDocument> m_document; ///< that is watched
     QPointer<QAbstractTextDocumentLayout> m_layout;

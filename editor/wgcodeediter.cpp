@@ -104,15 +104,6 @@ void ProgramCutter::letGo()
     m_comment = -1;
 }
 
-#ifdef FILARIX_HAS_VIEWPORT_MARGINS
-bool isShownAsNeeded(const QScrollBar *bar, Qt::ScrollBarPolicy policy, const QWidget *view)
-{
-    const bool isNeeded = policy == Qt::ScrollBarAlwaysOn
-                          || (policy == Qt::ScrollBarAsNeeded && bar->minimum() < bar->maximum());
-    return bar->isVisibleTo(view) == isNeeded;
-}
-#endif
-
 /// Whether \a highlighter is still there. The document owns it, and a host may have set its own.
 bool isThere(const WHighlighter *highlighter, const QTextDocument *document)
 {
@@ -363,9 +354,7 @@ void WGCodeEditer::updateLineNumberAreaWidth(int)
 #ifdef FILARIX_HAS_VIEWPORT_MARGINS
     // Setting them lays the whole scroll area out again, at every full update of the view. That
     // changes something where a scroll bar is still to come or go: then at once, not in its turn.
-    if (viewportMargins() == margins
-        && isShownAsNeeded(horizontalScrollBar(), horizontalScrollBarPolicy(), this)
-        && isShownAsNeeded(verticalScrollBar(), verticalScrollBarPolicy(), this))
+    if (viewportMargins() == margins && PieceAppender::areBarsAsNeeded(this))
         return;
 #endif
     setViewportMargins(margins);
