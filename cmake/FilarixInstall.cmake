@@ -69,6 +69,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   base/filarixhostglobal.h
   base/message.h
   base/questioner.h
+  guards/errormarks.h
   guards/finddialogfitter.h
   guards/finddialogkeypad.h
   guards/programguard.h

@@ -4,6 +4,7 @@
 #include "filarixtest.h"
 #include "guardedwindow.h"
 #include "keptunsaved.h"
+#include "markedlines.h"
 #include "modaldriver.h"
 #include "programwindow.h"
 #include "safedownload.h"
@@ -84,6 +85,7 @@ class TestHostRecipes : public FilarixTest
 private Q_SLOTS:
     void guardKnowsHowTheProgramStands();
     void guardKeepsWhatASaveCovers();
+    void findingsStayMarkedAndAreGoneTo();
     void downloadSendsWhatWasAgreedTo();
     void downloadOfALongProgramSendsItsComments();
     void downloadThatIsRefusedSendsNothing();
@@ -119,6 +121,27 @@ void TestHostRecipes::guardKeepsWhatASaveCovers()
     QVERIFY(saved.first().first().toBool());
     QTRY_COMPARE(host.history.versions().size(), 2);
     QVERIFY(readFile(host.history.versions().first().path).endsWith("G01 X1\nM2\n"));
+}
+
+void TestHostRecipes::findingsStayMarkedAndAreGoneTo()
+{
+    ProgramWindow host;
+    WGCodeEditer *editor = host.editor();
+    editor->setPlainText("G01 X1\nG01 X\nG01 X3\nG99\n");
+    ErrorMarks marks(editor);
+    QMap<int, QString> findings;
+    findings.insert(2, "a number is missing");
+    findings.insert(4, "unknown word");
+    showFindings(&marks, editor, findings);
+    QCOMPARE(editor->getCurRowNumber(), 2);
+    editor->insertBefore();
+    QCOMPARE(goToFinding(&marks, editor, 3), QString("unknown word"));
+    QCOMPARE(editor->getCurRowNumber(), 5);
+    QCOMPARE(goToFinding(&marks, editor, 5), QString("a number is missing"));
+    QCOMPARE(editor->getCurRowNumber(), 3);
+    showFindings(&marks, editor, QMap<int, QString>());
+    QCOMPARE(goToFinding(&marks, editor, 0), QString());
+    QCOMPARE(editor->getCurRowNumber(), 3);
 }
 
 void TestHostRecipes::downloadSendsWhatWasAgreedTo()
