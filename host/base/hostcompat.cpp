@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTextCodec>
 #include <QUuid>
 #include <QWidget>
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
@@ -68,6 +69,28 @@ void HostCompat::sleep(int ms)
 QString HostCompat::uniqueName()
 {
     return QString::fromLatin1(QUuid::createUuid().toRfc4122().toHex());
+}
+
+bool HostCompat::fromUtf8(const QByteArray &bytes, QString *text)
+{
+    QTextCodec::ConverterState state;
+    *text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars == 0 && state.remainingChars == 0 && !text->contains(QChar::Null))
+        return true;
+    text->clear();
+    return false;
+}
+
+bool HostCompat::isWellFormed(const QString &text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isWide = text.at(i).isHighSurrogate();
+        if (text.at(i).isLowSurrogate()
+            || (isWide && !(i + 1 < text.size() && text.at(i + 1).isLowSurrogate())))
+            return false;
+        i += isWide;
+    }
+    return true;
 }
 
 void HostCompat::keepBefore(QWidget *window, const QWidget *host)

@@ -29,6 +29,12 @@ void sleep(int ms);
 /// 32 hexadecimal digits that no other call gives, in this program or another.
 QString uniqueName();
 
+/// Reads \a bytes as text; false, with no text, when they are no UTF-8, hold a null or end within a
+/// character.
+bool fromUtf8(const QByteArray &bytes, QString *text);
+/// Whether no half of a wide character in \a text stands without the other.
+bool isWellFormed(const QString &text);
+
 /// Has the window system keep \a window before \a host; both have to be shown by now. Qt 4 has no
 /// way to ask for that, and nothing is done there.
 void keepBefore(QWidget *window, const QWidget *host);

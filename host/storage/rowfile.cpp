@@ -3,11 +3,11 @@
 
 #include "storage/rowfile.h"
 
+#include "base/hostcompat.h"
 #include "storage/durablefile.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QTextCodec>
 
 namespace {
 
@@ -81,10 +81,8 @@ bool RowFile::read(const QString &path, QList<QStringList> *rows, QString *error
         *error = Words::tr("%1 cannot be read: %2.").arg(path, file.errorString());
         return false;
     }
-    QTextCodec::ConverterState state;
-    const QString text =
-        QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || text.contains(QChar::Null)) {
+    QString text;
+    if (!HostCompat::fromUtf8(bytes, &text)) {
         *error = Words::tr("%1 is not a text file.").arg(path);
         return false;
     }

@@ -24,6 +24,10 @@ private Q_SLOTS:
     void sleepingTakesItsTime();
     void namesAreUnique();
     void blockedSignalsAreLeftAsTheyWere();
+    void textIsReadFromWholeUtf8Alone_data();
+    void textIsReadFromWholeUtf8Alone();
+    void halvesOfACharacterAreFound_data();
+    void halvesOfACharacterAreFound();
 };
 
 void TestHostCompat::callsComeFromTheEventLoopInOrder()
@@ -133,6 +137,53 @@ void TestHostCompat::blockedSignalsAreLeftAsTheyWere()
         QVERIFY(object.signalsBlocked());
     }
     QVERIFY(!object.signalsBlocked());
+}
+
+void TestHostCompat::textIsReadFromWholeUtf8Alone_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isText");
+    QTest::newRow("nothing") << QByteArray() << true;
+    QTest::newRow("letters") << QByteArray("G01\n") << true;
+    QTest::newRow("wide") << QByteArray("\xf0\x9f\x98\x80") << true;
+    QTest::newRow("Latin-1") << QByteArray("sp\xfcle") << false;
+    QTest::newRow("null") << QByteArray("a\0b", 3) << false;
+    QTest::newRow("cut off") << QByteArray("sp\xc3") << false;
+    QTest::newRow("cut off, wide") << QByteArray("a\xf0\x9f\x98") << false;
+    QTest::newRow("too long for its character") << QByteArray("\xc0\xaf") << false;
+    QTest::newRow("half a character") << QByteArray("\xed\xa0\x80") << false;
+}
+
+void TestHostCompat::textIsReadFromWholeUtf8Alone()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, isText);
+    QString text("before");
+    QCOMPARE(HostCompat::fromUtf8(bytes, &text), isText);
+    QCOMPARE(text, isText ? QString::fromUtf8(bytes) : QString());
+}
+
+void TestHostCompat::halvesOfACharacterAreFound_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isWellFormed");
+    const QString high(QChar(0xd83d));
+    const QString low(QChar(0xde00));
+    QTest::newRow("nothing") << QString() << true;
+    QTest::newRow("letters") << QString("ab") << true;
+    QTest::newRow("both") << "a" + high + low + "b" << true;
+    QTest::newRow("two of both") << high + low + high + low << true;
+    QTest::newRow("the first") << high << false;
+    QTest::newRow("the second") << low << false;
+    QTest::newRow("the wrong way round") << low + high << false;
+    QTest::newRow("the first twice") << high + high + low << false;
+}
+
+void TestHostCompat::halvesOfACharacterAreFound()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isWellFormed);
+    QCOMPARE(HostCompat::isWellFormed(text), isWellFormed);
 }
 
 FILARIX_TEST_MAIN(TestHostCompat)

@@ -87,6 +87,7 @@ void TestRowFile::fileThatCannotBeRead_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("missing") << QByteArray();
     QTest::newRow("not UTF-8") << QByteArray("MJ\t\xff\xfe\n");
+    QTest::newRow("cut off within a character") << QByteArray("MJ\tsp\xc3");
     QTest::newRow("binary") << QByteArray("MJ\0\1\2", 5);
 }
 
