@@ -72,9 +72,12 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/errormarks.h
   guards/finddialogfitter.h
   guards/finddialogkeypad.h
+  guards/fittedlist.h
   guards/programguard.h
+  guards/rowwatcher.h
   guards/windowcommands.h
   guards/windowdialogs.h
+  guards/windowprogram.h
   programs/checkeddownload.h
   programs/downloadfacts.h
   programs/historystore.h
@@ -110,6 +113,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   storage/filethread.h
   storage/rowfile.h
   storage/rowkeeper.h
+  storage/rowtext.h
   storage/settingsfile.h
   storage/writeleave.h
 )

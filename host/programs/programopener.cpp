@@ -116,7 +116,7 @@ ProgramOpener::ProgramOpener(WMMainWindow *window, const std::function<bool()> &
 bool ProgramOpener::open(const QString &path)
 {
     const QFileInfo file(path);
-    if (file.path() != ProgramDirectory::path() || file.fileName().isEmpty())
+    if (!m_window || file.path() != ProgramDirectory::path() || file.fileName().isEmpty())
         return false;
     const bool isOpen = m_window->getCurrentFile() == path;
     if (isOpen && !isModified())
@@ -137,6 +137,8 @@ bool ProgramOpener::open(const QString &path)
         return false;
     qApp->removeEventFilter(this);
     m_name.clear();
+    if (!m_window || !m_editor)
+        return false;
     // With changes, whoever was asked about them has said no.
     if (m_window->getCurrentFile() != path || isModified())
         return false;

@@ -7,6 +7,7 @@
 #include "base/filarixhostglobal.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -24,7 +25,8 @@ class FILARIX_HOST_EXPORT ProgramOpener : public QObject
     Q_OBJECT
 
 public:
-    /// \a isBusy says whether the host still has a command of the window in hand, if it ever has.
+    /// \a window may go first. \a isBusy says whether the host still has a command of the window in
+    /// hand, if it ever has.
     explicit ProgramOpener(WMMainWindow *window,
                            const std::function<bool()> &isBusy = std::function<bool()>(),
                            QObject *parent = nullptr);
@@ -48,9 +50,9 @@ private:
     bool isBusy() const;
     void waitForEnd();
 
-    WMMainWindow *m_window;
+    QPointer<WMMainWindow> m_window;
     std::function<bool()> m_isBusy;
-    WGCodeEditer *m_editor;
+    QPointer<WGCodeEditer> m_editor;
     QString m_name;
 };
 

@@ -1,15 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "devicelog.h"
 #include "filarixtest.h"
 #include "guardedwindow.h"
 #include "keptunsaved.h"
 #include "markedlines.h"
 #include "modaldriver.h"
+#include "openedprogram.h"
 #include "programwindow.h"
+#include "rowprobe.h"
+#include "rowsforothers.h"
 #include "safedownload.h"
 #include "scriptquestioner.h"
 #include "storedrows.h"
+#include "watchedrows.h"
 
 #include <QDir>
 #include <QProgressDialog>
@@ -85,6 +90,7 @@ class TestHostRecipes : public FilarixTest
 private Q_SLOTS:
     void guardKnowsHowTheProgramStands();
     void guardKeepsWhatASaveCovers();
+    void programIsOpenedAtARow();
     void findingsStayMarkedAndAreGoneTo();
     void downloadSendsWhatWasAgreedTo();
     void downloadOfALongProgramSendsItsComments();
@@ -98,6 +104,8 @@ private Q_SLOTS:
     void importRefusesRowsThatAListWouldTake();
     void importOfAMissingFileLeavesTheList();
     void exportThatFailsTellsWhy();
+    void taughtScreenFillsItsPlaceAndTellsOfEdits();
+    void spreadsheetsAndServersGetAndGiveRows();
 };
 
 void TestHostRecipes::guardKnowsHowTheProgramStands()
@@ -121,6 +129,17 @@ void TestHostRecipes::guardKeepsWhatASaveCovers()
     QVERIFY(saved.first().first().toBool());
     QTRY_COMPARE(host.history.versions().size(), 2);
     QVERIFY(readFile(host.history.versions().first().path).endsWith("G01 X1\nM2\n"));
+}
+
+void TestHostRecipes::programIsOpenedAtARow()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nG01 X2\nM2\n");
+    GuardedHost host;
+    QVERIFY(openAt(host.host.window(), "part.cnc", 2, host.guard));
+    QCOMPARE(host.host.window()->getCurrentFile(), pathOf("part.cnc"));
+    QCOMPARE(host.host.editor()->getCurRowNumber(), 2);
+    QVERIFY(!openAt(host.host.window(), "none.cnc", 1, host.guard));
+    QCOMPARE(host.host.window()->getCurrentFile(), pathOf("part.cnc"));
 }
 
 void TestHostRecipes::findingsStayMarkedAndAreGoneTo()
@@ -377,6 +396,39 @@ void TestHostRecipes::exportThatFailsTellsWhy()
     QCOMPARE(QDir(home()).entryList(QStringList("*taught*"),
                                     QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList("taught.rows"));
+}
+
+void TestHostRecipes::taughtScreenFillsItsPlaceAndTellsOfEdits()
+{
+    DeviceLog::reset();
+    TaughtScreen screen(taught(10));
+    screen.resize(620, 300);
+    screen.show();
+    QVERIFY(TestCompat::waitForExposed(&screen));
+    QTRY_VERIFY(screen.list()->width() > 560);
+    QCoreApplication::processEvents();
+    QSignalSpy edited(&screen, SIGNAL(edited(int, QStringList)));
+    DeviceLog::acceptWith("2.5");
+    RowProbe::tap(RowView(qobject_cast<MJLine *>(screen.list()->itemAt(3))).cell(RowView::Z));
+    QCOMPARE(edited.size(), 1);
+    QCOMPARE(edited.first().at(0).toInt(), 3);
+    QCOMPARE(edited.first().at(1).toStringList().at(FilarixRows::ZValue), QString("2.5"));
+}
+
+void TestHostRecipes::spreadsheetsAndServersGetAndGiveRows()
+{
+    const QString path = home() + "/taught.csv";
+    QCOMPARE(writeCsv(path, taught(2)), QString());
+    QCOMPARE(readFile(path), RowText::toCsv(taught(2)));
+    QVERIFY(!writeCsv(home() + "/none/taught.csv", taught(2)).isEmpty());
+
+    QString error;
+    QCOMPARE(rowsFromServer(RowText::toJson(taught(3)), 1, &error), taught(3));
+    QCOMPARE(error, QString());
+    QVERIFY(rowsFromServer(RowText::toJson(taught(3)), 0, &error).isEmpty());
+    QVERIFY(!error.isEmpty());
+    QVERIFY(rowsFromServer("{}", 1, &error).isEmpty());
+    QVERIFY(error.contains("JSON"));
 }
 
 FILARIX_TEST_MAIN(TestHostRecipes)

@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTextDocument>
 #include <QToolBar>
@@ -28,7 +29,7 @@ public:
 
     ~ProgramWindow()
     {
-        delete m_window;
+        delete m_window.data();
         const QWidgetList topLevels = QApplication::topLevelWidgets();
         for (QWidget *widget : topLevels) {
             // The window leaves the buttons that no bar takes to nobody.
@@ -77,7 +78,8 @@ public:
 private:
     Q_DISABLE_COPY(ProgramWindow)
 
-    WMMainWindow *m_window;
+    /// A test may take it away.
+    QPointer<WMMainWindow> m_window;
 };
 
 #endif // PROGRAMWINDOW_H
