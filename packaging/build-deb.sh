@@ -5,7 +5,8 @@
 # build-deb.sh [DIRECTORY]
 #
 # Builds the Debian packages by dpkg-buildpackage and leaves them in DIRECTORY, build/packages if
-# none is given. It works on a copy of the tree, where packaging/debian is in its place.
+# none is given. The packages of an earlier build go, and nothing else that lies there. It works on a
+# copy of the tree, where packaging/debian is in its place.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 output=$(realpath -m "${1:-$root/build/packages}")
@@ -28,6 +29,6 @@ mv "$copy/packaging/debian" "$copy/debian"
 cd "$copy"
 DEB_BUILD_OPTIONS="terse parallel=$(nproc)" dpkg-buildpackage --no-sign
 mkdir -p "$output"
-rm -f "$output"/*
+"$root/packaging/clear-packages.sh" "$output" "$root/packaging/debian/control"
 find "$scratch" -maxdepth 1 -type f -exec mv -t "$output" {} +
 ls -l "$output"
