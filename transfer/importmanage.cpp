@@ -182,7 +182,11 @@ int ImportManage::copyFile(const QString &srcDir, const QString &srcName, const 
 
 int ImportManage::deleteFile(const QString &dir, const QString &name)
 {
-    return runCommand("rm " + Compat::toAscii(join(dir, name)) + ' ' + "-rf");
+    const QString path = join(dir, name);
+    // What a tool of the system refuses here, the smaller ones of some panels would carry out.
+    if (QDir::cleanPath(path) == QLatin1String("/"))
+        return runCommand("false");
+    return runCommand("rm " + Compat::toAscii(path) + ' ' + "-rf");
 }
 
 void ImportManage::slot_copyFromHmiToUsb()

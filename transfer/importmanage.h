@@ -64,7 +64,8 @@ public:
                  const QString &dstName);
 
     /// Deletes dir/name, a directory with all that is in it. A file that is already gone is a
-    /// success. Same remark on names and same result as copyFile().
+    /// success. Same remark on names and same result as copyFile(). Of the root folder nothing is
+    /// deleted, and that is a failure.
     int deleteFile(const QString &dir, const QString &name);
 
 public Q_SLOTS:

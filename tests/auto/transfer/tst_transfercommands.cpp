@@ -68,6 +68,8 @@ private Q_SLOTS:
     void failingSyncIsNotNoticed();
     void deletingWhatIsGoneIsASuccess();
     void deletingADirectoryTakesAllThatIsInIt();
+    void rootFolderIsNeverDeleted_data();
+    void rootFolderIsNeverDeleted();
     void processingIsOnTheScreenBeforeTheCommandRuns();
 
     void nothingSelected_data() { addWays(true, true); }
@@ -370,6 +372,39 @@ void TestTransferCommands::deletingADirectoryTakesAllThatIsInIt()
     Manager manager;
     QCOMPARE(manager.dialog.deleteFile(stickDir(), "folder"), 0);
     QVERIFY(!QFile::exists(stickDir() + "/folder"));
+}
+
+void TestTransferCommands::rootFolderIsNeverDeleted_data()
+{
+    QTest::addColumn<QString>("dir");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("nothing") << ""
+                             << "";
+    QTest::newRow("its name") << "/"
+                              << "";
+    QTest::newRow("its name as a file's") << ""
+                                          << "/";
+    QTest::newRow("itself") << "/"
+                            << ".";
+    QTest::newRow("above a folder") << "/mnt"
+                                    << "..";
+}
+
+/// Where the tool would not refuse. The rest goes as ever: the words on the screen, and the sync.
+void TestTransferCommands::rootFolderIsNeverDeleted()
+{
+    QFETCH(QString, dir);
+    QFETCH(QString, name);
+    Shell::standIn("rm", "echo deleted >> /tmp/tools.log\n");
+    Manager manager;
+    QCOMPARE(manager.dialog.deleteFile(dir, name), 1 << 8);
+    QCOMPARE(manager.status->text(), QString("Processing..."));
+    QCOMPARE(Shell::toolCalls(), QStringList("sync"));
+    // Below it everything is the caller's to say.
+    QCOMPARE(manager.dialog.deleteFile(dir, "part.cnc"), 0);
+    QCOMPARE(Shell::toolCalls(), QStringList() << "sync"
+                                               << "deleted"
+                                               << "sync");
 }
 
 namespace {
