@@ -14,9 +14,10 @@
 #   simulator       the stand-in device library with its translations
 #   panel           filarix-panel with its manual page and its translations
 #   doc             documentation for hosts' developers
+#   licence         the text that goes along with all of them
 #
-# A plain install takes the first six, or the first three where the companion is not built. The first
-# three alone make a whole library. The others are installed by name only, so that the stand-in never
+# A plain install takes the first six and the licence, or the first three where the companion is not
+# built. The first three alone make a whole library. The others are installed by name only, so that the stand-in never
 # reaches a panel by accident. Everything may be moved as a whole, lie in a sysroot or be
 # installed with DESTDIR: the packages find their files from where they are themselves.
 
@@ -250,5 +251,6 @@ if(TARGET filarix-panel)
   endif()
 endif()
 
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT licence)
 install(FILES docs/abi.md docs/security.md
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT doc EXCLUDE_FROM_ALL)

@@ -113,3 +113,9 @@ function(filarix_target_defaults target)
     set_target_properties(${target} PROPERTIES CXX_STANDARD 17)
   endif()
 endfunction()
+
+# A host that takes in the sources compiles them with its own warnings: what we ship stays clean under
+# the usual ones.
+function(filarix_strict_warnings target)
+  target_compile_options(${target} PRIVATE -Wshadow -Wpedantic)
+endfunction()

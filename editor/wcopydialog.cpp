@@ -68,11 +68,11 @@ void WCopyDialog::setCurrentLine(int line)
     currentLineLabel->setText(QString::number(line));
 }
 
-void WCopyDialog::setRange(int minimum, int maximum)
+void WCopyDialog::setRange(int least, int most)
 {
-    this->minimum = minimum;
-    this->maximum = maximum;
-    countEdit->setValidator(new QIntValidator(minimum, maximum, this));
+    minimum = least;
+    maximum = most;
+    countEdit->setValidator(new QIntValidator(least, most, this));
     countEdit->setText(QLatin1String("1"));
 }
 

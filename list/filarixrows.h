@@ -199,7 +199,9 @@ enum Fault {
 struct Problem
 {
     /// Takes the three as they are.
-    Problem(int row, int position, Fault fault) : row(row), position(position), fault(fault) {}
+    Problem(int rowIndex, int rowPosition, Fault whatIsWrong)
+        : row(rowIndex), position(rowPosition), fault(whatIsWrong)
+    {}
 
     int row;      ///< The row's index.
     int position; ///< Where in the row, as it counts there; the row's length where that is wrong.

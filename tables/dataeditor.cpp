@@ -138,16 +138,16 @@ QWidget *DataEditor::cellAt(int column) const
 
 QStringList DataEditor::getData()
 {
-    QStringList data;
-    data << getText(m_firstCell);
+    QStringList texts;
+    texts << getText(m_firstCell);
     if (sharesSecondCell())
-        data << QString();
-    data << getText(m_secondCell);
+        texts << QString();
+    texts << getText(m_secondCell);
     for (int column = firstFurtherColumn(); column < m_count; ++column)
-        data << getText(cellAt(column));
-    while (data.size() > m_count)
-        data.removeLast();
-    return data;
+        texts << getText(cellAt(column));
+    while (texts.size() > m_count)
+        texts.removeLast();
+    return texts;
 }
 
 QString DataEditor::secondText(const QStringList &list) const

@@ -40,9 +40,9 @@ public:
         Keypad::setVisible(visible);
         // The dialog's first focus event selects the whole text; begin() has the last word.
         if (visible && !wasVisible)
-            open();
+            appear();
         else if (wasVisible && !visible)
-            close();
+            disappear();
     }
 
     void accept() override
@@ -111,15 +111,14 @@ private:
                       : QApplication::desktop()->availableGeometry();
     }
 
-    // The older toolkit's open() is not virtual.
-    void open() // NOLINT(modernize-use-override)
+    void appear()
     {
         this->activateWindow();
         m_frame->setFocus();
         m_frame->begin();
     }
 
-    void close()
+    void disappear()
     {
         m_frame->end();
         this->setAttribute(Qt::WA_Resized, false);

@@ -31,7 +31,9 @@ public Q_SLOTS:
         const QStringList unsafe =
             unsafeNames("/mnt/Storage") + unsafeNames(QDir::home().filePath("cnc"));
         if (!unsafe.isEmpty()) {
-            MessageBox::critical(this, tr("Files"),
+            // A parent is to be a dialog: the box goes with it, by a signal that a plain widget
+            // lacks.
+            MessageBox::critical(nullptr, tr("Files"),
                                  tr("Rename these files first:\n%1").arg(unsafe.join("\n")));
             return;
         }

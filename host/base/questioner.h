@@ -14,8 +14,9 @@
 struct QuestionFact
 {
     QuestionFact() = default;
-    QuestionFact(const QString &key, const QString &heading, const QString &value, bool mayBreak)
-        : key(key), heading(heading), value(value), mayBreak(mayBreak)
+    QuestionFact(const QString &factKey, const QString &factHeading, const QString &factValue,
+                 bool mayValueBreak)
+        : key(factKey), heading(factHeading), value(factValue), mayBreak(mayValueBreak)
     {}
 
     /// The line's name for programs, the same in every language: "checksum".
@@ -31,9 +32,9 @@ struct QuestionFact
 struct FILARIX_HOST_EXPORT Question
 {
     Question() = default;
-    Question(const QString &title, const QString &text, const QStringList &answers,
-             const QStringList &things = QStringList())
-        : title(title), text(text), answers(answers), things(things)
+    Question(const QString &aTitle, const QString &aText, const QStringList &theAnswers,
+             const QStringList &theThings = QStringList())
+        : title(aTitle), text(aText), answers(theAnswers), things(theThings)
     {}
 
     QString title;

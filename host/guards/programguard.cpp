@@ -528,10 +528,10 @@ void ProgramGuard::askForTarget(const QPointer<PickerGuard> &picker, const QStri
         return;
     if (!mayWrite)
         return picker->drop();
-    m_keeper.keep(programPath(name), [this, picker, name](bool mayWrite) {
+    m_keeper.keep(programPath(name), [this, picker, name](bool isKept) {
         if (!picker)
             return;
-        if (!mayWrite)
+        if (!isKept)
             return picker->drop();
         m_target = programPath(name);
         picker->pass();

@@ -80,7 +80,11 @@ case "$way" in
         project=$SOURCE/tests/consumer/subdirectory
         build=$WORK/subdirectory
         cmake_build -DFILARIX_HOST=$companion -DFILARIX_SOURCE="$SOURCE" -DFILARIX_QT="$QT" \
-            -DFILARIX_HMIDEVICE_LIBRARY="$DEVICE_LIBRARY"
+            -DFILARIX_HMIDEVICE_LIBRARY="$DEVICE_LIBRARY" -DBUILD_SHARED_LIBS=OFF 2>&1 | tee "$build/log"
+        grep -q 'are shared libraries' "$build/log" || {
+            echo "consume: BUILD_SHARED_LIBS=OFF passes without a word" >&2
+            exit 1
+        }
         ;;
     panel)
         BUILD=$build/library "$SOURCE/packaging/qt4/build.sh" "${TOOLKIT_LIBRARIES%/lib}" \

@@ -30,6 +30,6 @@ done
 qt_flags=$(pkg-config --cflags "$QT_GUI_PACKAGE" | sed 's/-I/-isystem /g')
 # shellcheck disable=SC2086 # flags are words
 printf '%s\0' headers/*.cpp | xargs -0 -P 2 -n 1 -I{} \
-    $CCACHE "$CXX" -std=c++11 -fPIC -Wall -Wextra -Wpedantic -Woverloaded-virtual -Werror \
+    $CCACHE "$CXX" -std=c++11 -fPIC -Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Werror \
     -DQT_NO_KEYWORDS -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII \
     -Icompanion/include/filarix -Icompanion/include/filarix/host $qt_flags -c {} -o {}.o

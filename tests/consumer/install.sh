@@ -21,7 +21,7 @@ install() {
     "$CMAKE" --install "$BUILD" "$@" >>install.log
 }
 : >install.log
-for component in runtime development l10n; do
+for component in runtime development l10n licence; do
     install --prefix "$WORK/prefix" --component "$component"
 done
 cp -a prefix moved
