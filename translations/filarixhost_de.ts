@@ -622,6 +622,21 @@
     </message>
 </context>
 <context>
+    <name>RowText</name>
+    <message>
+        <source>This is not a text file.</source>
+        <translation>Das ist keine Textdatei.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as CSV.</source>
+        <translation>Zeile %1 ist nicht als CSV geschrieben.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as JSON of rows.</source>
+        <translation>Zeile %1 ist nicht als JSON mit Zeilen geschrieben.</translation>
+    </message>
+</context>
+<context>
     <name>Stick</name>
     <message>
         <source>The stick is the panel&apos;s own: plug it into the panel.</source>

@@ -622,6 +622,21 @@
     </message>
 </context>
 <context>
+    <name>RowText</name>
+    <message>
+        <source>This is not a text file.</source>
+        <translation>Questo non è un file di testo.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as CSV.</source>
+        <translation>La riga %1 non è scritta come CSV.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as JSON of rows.</source>
+        <translation>La riga %1 non è scritta come JSON di righe.</translation>
+    </message>
+</context>
+<context>
     <name>Stick</name>
     <message>
         <source>The stick is the panel&apos;s own: plug it into the panel.</source>

@@ -622,6 +622,21 @@
     </message>
 </context>
 <context>
+    <name>RowText</name>
+    <message>
+        <source>This is not a text file.</source>
+        <translation>Bu bir metin dosyası değil.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as CSV.</source>
+        <translation>Satır %1 CSV olarak yazılmamış.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as JSON of rows.</source>
+        <translation>Satır %1 satırlardan oluşan JSON olarak yazılmamış.</translation>
+    </message>
+</context>
+<context>
     <name>Stick</name>
     <message>
         <source>The stick is the panel&apos;s own: plug it into the panel.</source>

@@ -622,6 +622,21 @@
     </message>
 </context>
 <context>
+    <name>RowText</name>
+    <message>
+        <source>This is not a text file.</source>
+        <translation>这不是文本文件。</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as CSV.</source>
+        <translation>第 %1 行不是 CSV 格式。</translation>
+    </message>
+    <message>
+        <source>Line %1 is not written as JSON of rows.</source>
+        <translation>第 %1 行不是行数据的 JSON 格式。</translation>
+    </message>
+</context>
+<context>
     <name>Stick</name>
     <message>
         <source>The stick is the panel&apos;s own: plug it into the panel.</source>
