@@ -63,6 +63,9 @@ set(FILARIX_PUBLIC_HEADERS
   window/wmmainwindow.h
 )
 
+# And the one that the build writes.
+set(FILARIX_VERSION_HEADER "${CMAKE_CURRENT_BINARY_DIR}/version/filarixversion.h")
+
 # The same of the companion: every header with an exported class or function, and no other. What is
 # left out may change without a host noticing.
 set(FILARIX_HOST_PUBLIC_HEADERS
@@ -144,7 +147,7 @@ install(TARGETS FilarixModule filarix_qt_gui
   EXPORT FilarixModuleTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     COMPONENT runtime NAMELINK_COMPONENT development)
-install(FILES ${FILARIX_PUBLIC_HEADERS}
+install(FILES ${FILARIX_PUBLIC_HEADERS} "${FILARIX_VERSION_HEADER}"
   DESTINATION "${FILARIX_INSTALL_HEADERDIR}" COMPONENT development)
 
 # find_package(FilarixModule)

@@ -9,6 +9,7 @@
 #include <dataeditor.h>
 #include <doublespinbox.h>
 #include <filarixrows.h>
+#include <filarixversion.h>
 #include <filedialog.h>
 #include <groupbox.h>
 #include <importmanage.h>
@@ -40,6 +41,22 @@ void check(bool condition, const char *what)
         return;
     std::fprintf(stderr, "host: not so: %s\n", what);
     ++failures;
+}
+
+#if FILARIX_VERSION < FILARIX_VERSION_CHECK(1, 0, 0)
+#error "A version is older than the first one."
+#endif
+
+void compareVersions()
+{
+    check(FILARIX_VERSION
+              == FILARIX_VERSION_MAJOR * 65536 + FILARIX_VERSION_MINOR * 256
+                     + FILARIX_VERSION_PATCH,
+          "a version is one number");
+    check(FILARIX_VERSION_CHECK(1, 2, 3) > FILARIX_VERSION_CHECK(1, 1, 255), "they compare");
+#ifdef PACKAGE_VERSION
+    check(!qstrcmp(FILARIX_VERSION_STR, PACKAGE_VERSION), "the package and its header agree");
+#endif
 }
 
 void useProgramSide()
@@ -149,6 +166,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     swapIcons();
+    compareVersions();
     useProgramSide();
     useListSide();
     useTheRest();
