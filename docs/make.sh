@@ -33,4 +33,5 @@ if grep -qi warning qhelpgenerator.log; then
     exit 1
 fi
 rm -rf runtime
-exec "$here/check-html.sh" html "$4"
+"$here/check-html.sh" html "$4"
+exec "$here/check-questions.py" --seeded html
