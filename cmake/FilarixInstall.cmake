@@ -247,8 +247,23 @@ if(TARGET filarix-panel)
   set_target_properties(filarix-panel PROPERTIES INSTALL_RPATH "$ORIGIN/${libdir_from_bindir}")
   install(TARGETS filarix-panel
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel EXCLUDE_FROM_ALL)
-  install(FILES panel/filarix-panel.1
+  # What tells the version has it from project(), and its date from the changelog.
+  file(STRINGS CHANGELOG.md heading REGEX "^## ${PROJECT_VERSION}, " LIMIT_COUNT 1)
+  if(NOT heading MATCHES ", ([0-9]+-[0-9]+-[0-9]+)$")
+    message(FATAL_ERROR "CHANGELOG.md has no section \"${PROJECT_VERSION}, <date>\"")
+  endif()
+  set(FILARIX_RELEASE_DATE "${CMAKE_MATCH_1}")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md)
+  configure_file(panel/filarix-panel.1.in filarix-panel.1 @ONLY)
+  configure_file(panel/desktop/org.filarix.panel.metainfo.xml.in org.filarix.panel.metainfo.xml @ONLY)
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarix-panel.1"
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT panel EXCLUDE_FROM_ALL)
+  install(FILES panel/desktop/filarix-panel.desktop
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/applications" COMPONENT panel EXCLUDE_FROM_ALL)
+  install(FILES panel/desktop/filarix-panel.svg
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps" COMPONENT panel EXCLUDE_FROM_ALL)
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/org.filarix.panel.metainfo.xml"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo" COMPONENT panel EXCLUDE_FROM_ALL)
   if(FILARIX_TRANSLATIONS)
     filarix_install_translations(filarix-panel COMPONENT panel EXCLUDE_FROM_ALL)
   endif()

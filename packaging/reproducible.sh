@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Filarix Module developers
+# SPDX-License-Identifier: MIT
+#
+# reproducible.sh
+#
+# Builds library and companion twice, from copies of the tree in two folders with names of different
+# length, without the compiler's cache, and fails unless all that is installed is equal, byte for byte.
+set -euo pipefail
+root=$(dirname "$(dirname "$(readlink -f "$0")")")
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+# build NAME [FLAG]
+build() {
+    local tree=$scratch/$1/filarix-module
+    mkdir -p "$tree"
+    # What was removed and not committed is listed, and not there.
+    git -C "$root" ls-files -z --cached --others --exclude-standard \
+        | tar -C "$root" --null -T - --ignore-failed-read -c 2>/dev/null | tar -C "$tree" -x
+    cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DFILARIX_CCACHE=OFF \
+        -DFILARIX_PANEL=OFF -DFILARIX_SIMULATOR=OFF -DFILARIX_DESIGNER=OFF -DFILARIX_EXAMPLES=OFF \
+        -DFILARIX_TESTS=OFF >"$scratch/log" 2>&1 || { cat "$scratch/log" >&2; exit 1; }
+    cmake --build "$tree/build" --parallel "$(nproc)" >"$scratch/log" 2>&1 \
+        || { tail -n 30 "$scratch/log" >&2; exit 1; }
+    DESTDIR=$scratch/$1/image cmake --install "$tree/build" --prefix /usr >/dev/null
+}
+
+build one
+build another-and-longer
+files=$(find "$scratch/one/image" -type f | wc -l)
+[ "$files" -gt 50 ] || { echo "reproducible: only $files files were installed" >&2; exit 1; }
+diff -rq "$scratch/one/image" "$scratch/another-and-longer/image" || {
+    echo "reproducible: the files above differ from build to build" >&2
+    exit 1
+}
+echo "$files files are equal, byte for byte"
