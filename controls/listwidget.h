@@ -27,7 +27,8 @@ public:
 
     /// Appends a row, which counts with the height() that it has now. Null is ignored.
     void addWidget(QWidget *widget);
-    /// Inserts a row at \a index, counted from 0; a negative one appends. Null is ignored.
+    /// Inserts a row at \a index, counted from 0; a negative one, or one behind the end, appends.
+    /// Null is ignored.
     void insertWidget(int index, QWidget *widget);
 
     /// Takes the row at \a index out and returns it: alive, still a child, and where it stood on
@@ -57,7 +58,8 @@ public:
     void setContentsMargins(int left, int top, int right, int bottom);
 
     /// Takes all rows out, without deleting them, and hides the stack: whoever fills it anew has
-    /// to show it.
+    /// to show it. The rows stay children of the stack, and go with it unless the caller deletes
+    /// them or gives them another parent.
     void clear();
 
     /// Sums the heights anew. To be called after a row has changed its height.

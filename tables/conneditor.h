@@ -18,7 +18,8 @@ class QSettings;
 ///
 /// OK stores the addresses in the connection file, Cancel doesn't. An address that holds a port is
 /// stored without it as soon as the table is filled. A file that is missing or can't be read shows
-/// as a table without connections, and one that can't be written is not reported.
+/// as a table without connections, and one that can't be written is not reported. The page "Files
+/// and keys" tells what the file holds.
 ///
 ///     ConnEditor editor(settingsPath, this);
 ///     editor.init_list();
@@ -36,7 +37,8 @@ public:
     /// are shown.
     void init_list();
 
-    /// Makes both buttons higher: a ninth of the screen's height instead of a thirteenth.
+    /// Makes both buttons higher, at any time: a ninth of the screen's height instead of a
+    /// thirteenth.
     void settp04button();
 
 public Q_SLOTS:

@@ -32,7 +32,7 @@ public:
     ///
     /// In a row of 4 strings, and in a title row of more than 8, the strings 1 and 2 share a cell:
     /// it shows string 2, or string 1 if that is empty. A title row of more than 8 strings has a
-    /// cell for every second string only.
+    /// cell for every second string only. Strings behind the 34th have no cell.
     DataEditor(bool isTitle, QStringList &list, QSize size, QWidget *parent, bool connectionRow);
     /// A row of a number, a name and one text to edit, 4 strings, for a table of 480 by 800 pixels:
     /// what a form made with Qt Designer asks for. \a row can give it another shape.

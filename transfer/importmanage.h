@@ -59,7 +59,8 @@ public:
 
     /// Copies srcDir/srcName to dstDir/dstName. Characters beyond Latin-1 become "?", and blanks
     /// and shell characters are not quoted.
-    /// \returns the status as `system` gives it: 0 is success.
+    /// \returns the status as `system` gives it: 0 is success. It is that of the shell alone: a
+    /// `sync` that fails behind it is not told.
     int copyFile(const QString &srcDir, const QString &srcName, const QString &dstDir,
                  const QString &dstName);
 

@@ -11,15 +11,16 @@
 /// Opens the character keypad on a touched field of the library's find dialog.
 ///
 /// The library's other fields open a keypad by themselves. The fields of the find dialog are made
-/// for keys, and a panel may have no keys.
+/// for keys, and a panel may have no keys. One serves all windows of the application: a second one
+/// would open the keypad twice.
 ///
-///     new FindDialogKeypad(window);
+///     new FindDialogKeypad(qApp);
 class FILARIX_HOST_EXPORT FindDialogKeypad : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches all find dialogs of the application, until \a parent takes the keypad along.
+    /// Watches all find dialogs of the application until it is deleted, mostly by \a parent.
     explicit FindDialogKeypad(QObject *parent);
 
     /// Takes nothing away from the field, unless the field went while the keypad was open.

@@ -70,7 +70,7 @@ public:
     /// To be called after the window's newFile(), which comes by no key that the guard would see.
     void noteNewProgram();
     /// Saves as the Save key does, with all questions. Ends in one saveEnded(), from the event
-    /// loop.
+    /// loop. To be called while nothing else isBusy().
     void save();
 
 Q_SIGNALS:

@@ -44,6 +44,12 @@ struct ProgramVersion
 ///
 /// The store needs no event loop. Threads may share a store: a second caller waits for the first
 /// one.
+///
+///     HistoryStore store("/home/hmi/hmi/history", HistoryStore::Limits());
+///     QString error;
+///     if (store.open(&error)
+///         && store.store("/home/hmi/cnc/coil.cnc", &error) == HistoryStore::Stored)
+///         show(store.versions().last());
 class FILARIX_HOST_EXPORT HistoryStore
 {
     Q_DECLARE_TR_FUNCTIONS(HistoryStore)

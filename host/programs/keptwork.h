@@ -12,7 +12,7 @@
 #include <QString>
 #include <QStringList>
 
-/// In a text, \a removed characters at \a position gave way to \a added.
+/// In a text, \a removed characters at \a position, from 0, gave way to \a added.
 struct FILARIX_HOST_EXPORT TextChange
 {
     int position = 0;
@@ -25,6 +25,7 @@ struct FILARIX_HOST_EXPORT KeptHead
 {
     /// Path of the file that the work belongs to; empty for none.
     QString path;
+    /// Characters before the cursor.
     int cursor = 0;
     /// What the screen has to know besides, in its own words.
     QMap<QString, QString> state;

@@ -15,6 +15,12 @@ class Questioner;
 
 /// Sees to it before a write that what stands there is kept in a history, or that the operator has
 /// confirmed its loss.
+///
+///     ProgramKeeper keeper(&questioner);
+///     keeper.setHistory([](const QString &path, const ProgramKeeper::Kept &kept) {
+///         kept(copyAside(path) ? QString() : QString("The disk is full."));
+///     });
+///     keeper.keep(path, [this](bool mayWrite) { if (mayWrite) writeTheFile(); });
 class FILARIX_HOST_EXPORT ProgramKeeper : public QObject
 {
     Q_OBJECT

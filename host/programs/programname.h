@@ -18,7 +18,7 @@ class FILARIX_HOST_EXPORT ProgramName
 public:
     /// ".cnc".
     static QString suffix();
-    /// What is proposed for a program that has no name yet.
+    /// What is proposed for a program that has no name yet: "program.cnc".
     static QString first();
     /// Why no program can have this name, a sentence for the operator; empty when one can.
     static QString complaint(const QString &name);

@@ -20,6 +20,10 @@ class WMMainWindow;
 /// The window knows one way to a program: its own Open, which asks for a name. The opener answers
 /// that question before anybody sees it, so the window has the file, the title and the download
 /// that belong to the program.
+///
+///     ProgramOpener opener(window);
+///     if (!opener.open(ProgramDirectory::path() + "/coil.cnc"))
+///         tell("The program is not open.");
 class FILARIX_HOST_EXPORT ProgramOpener : public QObject
 {
     Q_OBJECT

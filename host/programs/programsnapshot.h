@@ -69,6 +69,7 @@ public:
     QString copyPath() const;
     ProgramFacts facts() const { return m_facts; }
 
+    /// Milliseconds without progress after which work fails; FileTaskRunner::stallMs at first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
 public Q_SLOTS:

@@ -19,7 +19,11 @@ class QTextDocument;
 /// Follows up one save of a document until the disk has the document, or the operator lets it be.
 /// Reads the file back, and offers to write the document again or elsewhere where the two differ.
 ///
-/// A document whose save failed is modified again.
+/// A document whose save failed is modified again. ProgramGuard has one for its window; one save at
+/// a time, until ended().
+///
+///     StoreCheck check(editor->document(), &queue, &questioner);
+///     check.check(path, editor->toPlainText());
 class FILARIX_HOST_EXPORT StoreCheck : public QObject
 {
     Q_OBJECT

@@ -24,7 +24,11 @@ class UnsavedStore;
 ///
 /// Nothing is written while nothing changes, and what is saved is dropped. The disk is written to
 /// beside the event loop, one thing at a time. A disk that is full or hangs is told once, and holds
-/// nobody up.
+/// nobody up. UnsavedOffer brings the work back at the next start.
+///
+///     UnsavedWork work("/home/hmi/hmi/unsaved");
+///     work.watchProgram(editor->document(),
+///                       [window] { return UnsavedOffer::headOf(window, false); });
 class FILARIX_HOST_EXPORT UnsavedWork : public QObject
 {
     Q_OBJECT
@@ -49,7 +53,8 @@ public:
     bool isSettled() const;
     /// Begins to write what is not yet written; settled() comes when that is done.
     void keepNow();
-    /// Writes at once what is not yet written, and waits for it, \a ms milliseconds at most.
+    /// Writes at once what is not yet written, and waits for it, \a ms milliseconds at most;
+    /// whether all of it is on the disk then.
     bool flush(int ms);
     /// The operator has given up all that is not saved; waits until it is gone, \a ms milliseconds
     /// at most. Nothing is watched any more.

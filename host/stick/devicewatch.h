@@ -21,8 +21,10 @@ struct FILARIX_HOST_EXPORT DeviceState
     bool isKnown = false;
     /// Whether the folder that stands for the PLC is there.
     bool plcReachable = false;
+    /// Stick::isPresent().
     bool stickIn = false;
-    /// What is left for programs, in the file system of their directory; -1 when it can't be told.
+    /// Bytes that are left for programs, in the file system of their directory; -1 when it can't be
+    /// told.
     qint64 freeBytes = -1;
 
     bool operator==(const DeviceState &other) const;
@@ -59,6 +61,7 @@ public Q_SLOTS:
     void lookNow();
 
 Q_SIGNALS:
+    /// A look has seen something else than the one before, or is overdue.
     void changed(const DeviceState &state);
 
 private Q_SLOTS:

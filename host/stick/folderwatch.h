@@ -17,7 +17,9 @@ struct FolderState
     /// Whether anything below is true: not so before the first look.
     bool isKnown = false;
     bool isThere = false;
+    /// Files and links to such, neither hidden ones nor those of folders in it.
     int files = 0;
+    /// The sum of their sizes.
     qint64 bytes = 0;
     /// Files whose names the transfer would not take for what they are.
     int unsafeNames = 0;
@@ -40,10 +42,10 @@ public:
     explicit FolderWatch(const Probe &probe, QObject *parent = nullptr);
     ~FolderWatch() override;
 
-    /// The plain files in \a folder, now. May wait for it.
+    /// The files in \a folder, now. May wait for it.
     static FolderState lookAt(const QString &folder);
 
-    /// As of the last look.
+    /// As of the last look that has come back.
     FolderState state() const { return m_state; }
     /// Whether a look has been under way for seconds.
     bool isOverdue() const { return m_isOverdue; }

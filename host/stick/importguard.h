@@ -24,12 +24,14 @@ struct Question;
 /// shell as they are, and write and delete without a look at what gets lost.
 ///
 /// Each press on a transfer key of a manager waits, while the panel goes on, until both folders
-/// were looked at. Every name there has to be safe, and so has the chosen one, which may be of a
+/// were looked at. Every name there has to be safe, and so have the chosen ones, which may be of a
 /// stick that has gone. Where names are not safe, the operator is asked whether to rename them.
 /// Without a stick there are no transfers.
 ///
 /// Before a program is covered or deleted, the history takes the program in. A program that the
 /// history can't keep goes only after a question. What a command has come to is told.
+///
+///     new ImportGuard(ProgramDirectory::path(), Stick::mountPoint(), &questioner, &history, window);
 class FILARIX_HOST_EXPORT ImportGuard : public QObject
 {
     Q_OBJECT
@@ -38,6 +40,7 @@ public:
     enum Settled {
         /// All names were safe.
         WereSafe,
+        /// All names are safe by now.
         Renamed,
         /// Names are left that are not safe, or nobody knows.
         NotSettled
@@ -50,8 +53,8 @@ public:
                 ProgramHistory *history = nullptr, QObject *parent = nullptr);
 
     /// Looks for unsafe names. If there are any, asks whether to rename them, and does so when the
-    /// operator wants it. Ends in \a then, from the event loop. Does nothing while the guard is
-    /// busy.
+    /// operator wants it. Ends in \a then, from the event loop. While the guard is busy nothing is
+    /// done, and \a then never comes.
     void settle(const std::function<void(Settled)> &then = [](Settled) {});
     /// Whether a press waits, or a question.
     bool isBusy() const;

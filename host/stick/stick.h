@@ -29,10 +29,13 @@ public:
     /// The last copy that goes pulls it, and puts the mount point back as it was.
     explicit Stick(const QString &folder = QString());
 
+    /// FilarixPanel::stickDir, without a slash at the end.
     static QString mountPoint();
+    /// FilarixPanel::stickMarker.
     static QString marker();
 
     bool isSimulated() const { return !folder().isEmpty(); }
+    /// The folder that stands in for the stick; empty for a real one.
     QString folder() const;
     /// Whether the marker is there, and something at the mount point: a file system, or the folder
     /// that stands in for one. A folder that an unmount has left there is no stick.

@@ -10,7 +10,13 @@
 #include <QString>
 
 /// What a command of the import manager has come to, judged by what lies in the folders before and
-/// after: the manager tells nobody.
+/// after: the manager tells nobody. ImportGuard does this by itself.
+///
+///     TransferReport report(TransferReport::CopyToPanel, programDir, stickDir, "coil.cnc");
+///     report.lookBefore();
+///     runTheCommand();
+///     if (report.judge() == TransferReport::Different)
+///         tell("The copy is not what was to be copied.");
 class FILARIX_HOST_EXPORT TransferReport
 {
 public:

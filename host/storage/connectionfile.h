@@ -18,6 +18,14 @@
 /// The toolkit's settings answer by path from a memory of their own, which is ahead of the disk
 /// when that is full. So each look goes through a private copy of what was read from the disk. All
 /// of these functions may wait for the disk.
+///
+/// The library's table edits a private copy, by ConnEditor on a file in a folder of its own; what
+/// it made of that is stored with a look at the disk:
+///
+///     const ConnectionFile::Contents was = ConnectionFile::read(path);
+///     editACopyOf(was.bytes, &edited, &addresses);
+///     const QString error =
+///         ConnectionFile::store(path, was.bytes, edited, addresses, [] { return true; });
 namespace ConnectionFile {
 
 /// One connection, with its texts as the file has them.
@@ -34,6 +42,7 @@ struct Connection
 struct Contents
 {
     bool isThere = false;
+    /// The whole file.
     QByteArray bytes;
     QList<Connection> connections;
     /// How many the file says there are. No more than mostConnections are read.
@@ -45,12 +54,13 @@ struct Contents
 /// As many as the library's table shows.
 const int mostConnections = 1000;
 
-/// What the file holds. A missing one is made first, with the connections of a typical winding
-/// machine.
+/// What the file holds. A missing one is made first, its folder too, with the connections of a
+/// typical winding machine.
 FILARIX_HOST_EXPORT Contents read(const QString &path);
-/// Writes the bytes that were edited in the place of \a before, and reads them back. Returns the
-/// reason in words when the file does not hold \a wanted then, connection by connection. Nothing is
-/// replaced when somebody else has changed the file since, or when \a mayReplace says no.
+/// Writes \a bytes, which were edited, in the place of \a before, and reads them back. Returns the
+/// reason in words when the file does not hold the addresses \a wanted then, one for each connection
+/// in their order; else nothing. Nothing is replaced when somebody else has changed the file since,
+/// or when \a mayReplace, which has to be given, says no.
 FILARIX_HOST_EXPORT QString store(const QString &path, const QByteArray &before,
                                   const QByteArray &bytes, const QStringList &wanted,
                                   const std::function<bool()> &mayReplace);

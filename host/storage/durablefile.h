@@ -31,6 +31,7 @@ public:
     /// \a model, if that is there; without a model, of what stands at the path.
     bool open(const QString &model = QString());
     bool isOpen() const { return m_handle >= 0; }
+    /// Appends to the new file; false when that fails, and without an open() that succeeded.
     bool write(const QByteArray &bytes);
     /// Forces the bytes to the disk, asks \a mayReplace, and gives the file its name. After that
     /// question nothing prevents the new name any more. To be called once for each file, which is

@@ -26,10 +26,12 @@ public:
     bool isRunning() const { return m_work.isRunning(); }
     /// Runs \a work in a thread, and then \a done from the event loop. \a stalled runs in the place
     /// of \a done when the work does not return in time; nobody waits for the work any more then.
-    /// \a work has to own what it uses. Does nothing while other work runs.
+    /// \a work has to own what it uses. All three have to be given. Does nothing while other work
+    /// runs, and calls none of them then: see isRunning().
     void run(const Work &work, const Work &done, const Work &stalled);
     /// Runs the event loop until the work has ended or is given up.
     void wait();
+    /// Milliseconds after which the work counts as stalled; FileTaskRunner::stallMs at first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
 Q_SIGNALS:

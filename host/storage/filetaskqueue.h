@@ -11,7 +11,10 @@
 
 #include <functional>
 
-/// Runs FileTasks one after the other beside the event loop.
+/// Runs FileTasks one after the other beside the event loop, in the order of the calls.
+///
+///     const auto task = std::make_shared<ProgramComparison>(path, editor->toPlainText());
+///     queue.run(task, [task](bool hasEnded) { show(hasEnded ? task->verdict() : unknown); });
 class FILARIX_HOST_EXPORT FileTaskQueue : public QObject
 {
     Q_OBJECT
@@ -25,6 +28,7 @@ public:
     bool isRunning() const { return m_work.isRunning(); }
     /// \a answer comes from the event loop, once.
     void run(const std::shared_ptr<FileTask> &task, const Answer &answer);
+    /// Milliseconds that one step of a task may take; FileTaskRunner::stallMs at first.
     void setStallTime(int ms) { m_work.setStallTime(ms); }
 
 private Q_SLOTS:

@@ -79,6 +79,7 @@ public:
     bool isRunning() const { return bool(m_task); }
     /// Does nothing while another task runs. The task is closed in the thread when it ends.
     void start(const std::shared_ptr<FileTask> &task);
+    /// Milliseconds in place of stallMs.
     void setStallTime(int ms) { m_stall.setInterval(ms); }
     /// Whether a task that was given up still makes a change. Whoever starts the next task now
     /// cannot know what there will be in the end.

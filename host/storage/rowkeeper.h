@@ -54,6 +54,7 @@ public:
         QString asidePath;
     };
 
+    /// \a comment is the first line of the file: see RowFile. \a reader has to be given.
     RowKeeper(const QString &comment, const Reader &reader, QObject *parent = nullptr);
 
     bool isBusy() const { return m_job.isRunning(); }
@@ -64,6 +65,7 @@ public:
                const std::function<void(const Stored &)> &answer);
     /// Runs the event loop until the keeper has answered.
     void wait() { m_job.wait(); }
+    /// Milliseconds after which the storage counts as one that does not answer.
     void setStallTime(int ms) { m_job.setStallTime(ms); }
 
     /// What a file that was put aside is called: the first that is free of "name.broken",

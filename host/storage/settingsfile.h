@@ -12,15 +12,26 @@
 #include <QString>
 #include <QWaitCondition>
 
-/// The file behind Settings. One thread reads and writes it; any thread may ask for its state().
+/// A program's own choices in one file, INI format, which outlive a power cut. One thread reads and
+/// writes it, a FileThread say; any thread may ask for its state by takeState().
+///
+///     auto file = std::make_shared<SettingsFile>("/home/hmi/hmi/host.ini");
+///     thread.post([file] { file->read(); }, [this, file] { apply(file->takeState().values); });
+///     thread.post([file] { file->store({{"language", "de"}}); }, [] {});
 class FILARIX_HOST_EXPORT SettingsFile
 {
 public:
-    enum Trouble { None, PutAside, NotPutAside, NotStored };
+    enum Trouble {
+        None,
+        PutAside,    ///< The file could not be read, and lies at asidePath now.
+        NotPutAside, ///< Nor could it be renamed: nothing is stored from then on.
+        NotStored    ///< A write failed.
+    };
 
     /// What is known of the file.
     struct State
     {
+        /// By their keys; those of other sections than General as "section/key".
         QMap<QString, QString> values;
         QString asidePath;
         Trouble trouble = None;
@@ -29,6 +40,7 @@ public:
 
     explicit SettingsFile(const QString &path) : m_path(path) {}
 
+    /// In the thread. A file that is missing gives no values and is no trouble.
     void read();
     /// Renames a file to a name that nothing has yet.
     void putAside();
@@ -39,7 +51,8 @@ public:
     /// What is known of the file by now. A trouble is told once.
     State takeState();
 
-    /// Each begin() is followed by an end() in the thread; settle() waits until all ends have come.
+    /// Each begin() is followed by an end() in the thread. settle() waits until all ends have come,
+    /// \a ms milliseconds at most, and says whether they have.
     void begin();
     void end();
     bool settle(int ms);

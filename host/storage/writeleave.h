@@ -9,7 +9,11 @@
 #include <atomic>
 
 /// Decides between a write in a thread and whoever has stopped waiting for it: of take() and
-/// withdraw() the first one wins. So what was reported as not stored stays so.
+/// withdraw() the first one wins. So what was reported as not stored stays so. A
+/// std::shared_ptr to one goes to each side:
+///
+///     job.run([leave] { file.commit([leave] { return leave->take(); }); }, done,
+///             [leave] { tell(leave->withdraw() ? "It is not stored." : "Nobody knows."); });
 class FILARIX_HOST_EXPORT WriteLeave
 {
 public:
