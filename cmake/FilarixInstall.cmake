@@ -138,7 +138,11 @@ set(FILARIX_LINK_OPTIONS "")
 if(FILARIX_HMIDEVICE_LIBRARY OR TARGET HMIDevice)
   set(FILARIX_LINK_OPTIONS "-Wl,--allow-shlib-undefined")
 endif()
-set_target_properties(FilarixModule PROPERTIES EXPORT_NAME Module INSTALL_RPATH "$ORIGIN")
+#
+# The run path of a build is as long as its folder's name, and leaves its length behind when the install
+# step replaces it: relative to the file it is the same wherever the build is made.
+set_target_properties(FilarixModule PROPERTIES
+  EXPORT_NAME Module INSTALL_RPATH "$ORIGIN" BUILD_RPATH_USE_ORIGIN ON)
 target_include_directories(FilarixModule INTERFACE
   $<INSTALL_INTERFACE:${FILARIX_INSTALL_HEADERDIR}>)
 target_link_options(FilarixModule INTERFACE $<INSTALL_INTERFACE:${FILARIX_LINK_OPTIONS}>)
@@ -188,7 +192,8 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarixmodule.prf"
 # The companion: find_package(FilarixModule COMPONENTS Host), pkg-config filarixhost and
 # CONFIG += filarixhost.
 if(TARGET FilarixHost)
-  set_target_properties(FilarixHost PROPERTIES EXPORT_NAME Host INSTALL_RPATH "$ORIGIN")
+  set_target_properties(FilarixHost PROPERTIES
+    EXPORT_NAME Host INSTALL_RPATH "$ORIGIN" BUILD_RPATH_USE_ORIGIN ON)
   target_include_directories(FilarixHost INTERFACE
     $<INSTALL_INTERFACE:${FILARIX_INSTALL_HEADERDIR}/host>)
   install(TARGETS FilarixHost
@@ -244,7 +249,8 @@ if(TARGET HMIDevice)
 endif()
 if(TARGET filarix-panel)
   filarix_relative_path(libdir_from_bindir "${CMAKE_INSTALL_BINDIR}" "${CMAKE_INSTALL_LIBDIR}")
-  set_target_properties(filarix-panel PROPERTIES INSTALL_RPATH "$ORIGIN/${libdir_from_bindir}")
+  set_target_properties(filarix-panel PROPERTIES
+    INSTALL_RPATH "$ORIGIN/${libdir_from_bindir}" BUILD_RPATH_USE_ORIGIN ON)
   install(TARGETS filarix-panel
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel EXCLUDE_FROM_ALL)
   # What tells the version has it from project(), and its date from the changelog.

@@ -45,8 +45,9 @@ public:
         std::function<void()> noteNew;
     };
 
-    /// Looks in \a folder. \a work keeps what is brought back, and watches the program and the rows
-    /// that are named here. Both \a work and \a questioner must outlive the offer.
+    /// Looks in \a folder, the one that \a work keeps its work in. The host has \a work watch the
+    /// program and the rows that are named here before start(): what is brought back is kept by it.
+    /// Both \a work and \a questioner must outlive the offer.
     UnsavedOffer(const QString &folder, UnsavedWork *work, Questioner *questioner,
                  QObject *parent = nullptr);
     ~UnsavedOffer() override;
