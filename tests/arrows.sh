@@ -27,6 +27,7 @@ tables/
 window/
 host/base/
 host/storage/
+host/winding/
 host/programs/
 host/stick/
 host/guards/

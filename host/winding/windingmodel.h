@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef WINDINGMODEL_H
+#define WINDINGMODEL_H
+
+#include "base/filarixhostglobal.h"
+#include "winding/programinterpreter.h"
+
+#include <QMetaType>
+#include <QVector>
+
+/// One layer of a coil. Lengths in mm, positions along the bobbin as the traverse has them.
+struct FILARIX_HOST_EXPORT WindingLayer
+{
+    /// The program's lines of the first and the last move that lay it, from 1.
+    int firstLine = 0;
+    int lastLine = 0;
+    /// A program may wind one coil after another: which one, from 0.
+    int coil = 0;
+    /// Within the coil, from 0 at the core.
+    int level = 0;
+    /// The way the guide goes first: 1 for up, -1 for down.
+    int direction = 1;
+    /// Turns that lie below, of this coil and those before.
+    double firstTurn = 0;
+    double turns = 0;
+    /// Of the wire's middle, at the layer's two ends.
+    double left = 0;
+    double right = 0;
+    /// From wire to wire, of the layer's first move.
+    double pitch = 0;
+    /// Of the guide, when the layer began.
+    double guideDistance = 0;
+    /// Of the wire's middle round the coil.
+    double diameter = 0;
+    double wireLength = 0;
+    /// The wires lie in the grooves of the layer below, or bear one that lies so.
+    bool isNested = false;
+
+    double lastTurn() const { return firstTurn + turns; }
+};
+
+/// A coil in figures.
+struct FILARIX_HOST_EXPORT WindingTotals
+{
+    int layers = 0;
+    int coils = 0;
+    double turns = 0;
+    /// Turns of the spindle that lay no layer: while the guide stands, ties a wire off, or runs
+    /// in haste.
+    double looseTurns = 0;
+    /// Of all layers, in metres.
+    double wireLength = 0;
+    /// Of the conductor, in grams.
+    double mass = 0;
+    /// Of the conductor at 20 °C, in ohm.
+    double resistance = 0;
+    /// From the first block to the end. Waiting for the operator is not counted.
+    double seconds = 0;
+    /// The conductor's part of the space between core and flanges, 0 to 1, of the fullest coil.
+    double fillFactor = 0;
+    /// Of the thickest coil, in mm.
+    double outerDiameter = 0;
+    /// In mm, as reckoned with: the profile's, or else the first pitch.
+    double wireDiameter = 0;
+    double conductorDiameter = 0;
+    double highestTension = 0;
+    double highestSpeed = 0;
+    /// The first line that winds beyond the flange; 0 for none.
+    int overfullLine = 0;
+    /// Lines of the program.
+    int lines = 0;
+};
+
+/// A stretch of the run, from one point on.
+struct FILARIX_HOST_EXPORT WindingPlotPoint
+{
+    /// Turn or second where it begins.
+    double at = 0;
+    /// The least and the most within.
+    double low = 0;
+    double high = 0;
+};
+
+/// A place on the guide's path.
+struct FILARIX_HOST_EXPORT GuidePoint
+{
+    /// Traverse and guide's distance, in mm.
+    double x = 0;
+    double distance = 0;
+    /// The line of the move that ends here; the first line of several that were drawn together.
+    int line = 0;
+    /// The move winds, or went in haste.
+    bool isWinding = false;
+    bool isRapid = false;
+};
+
+/// What one line winds.
+struct FILARIX_HOST_EXPORT WindingPlace
+{
+    /// False for a line that moves nothing and lets no time pass.
+    bool isValid = false;
+    /// Index in WindingModel::layers(); -1 when the line lays no wire.
+    int layer = -1;
+    /// The guide's way, in mm.
+    double xFrom = 0;
+    double xTo = 0;
+    double distanceFrom = 0;
+    double distanceTo = 0;
+    double firstTurn = 0;
+    double lastTurn = 0;
+    /// Since the beginning, in seconds.
+    double begin = 0;
+    double end = 0;
+};
+
+/// The coil that a program winds, and how it is wound.
+///
+///     WindingModel model(profile);
+///     for each line: model.add(interpreter.add(reader.read(line)));
+///     model.finish();
+///
+/// A value: a copy costs next to nothing and may go to another thread. Its memory is bounded,
+/// however long the program is: beyond mostRecords moves, neighbours are kept together, so that a
+/// place found by line, and a line found by place, are off by as many moves at most; totals stay
+/// exact. Layers beyond mostLayers are in the totals alone.
+class FILARIX_HOST_EXPORT WindingModel
+{
+public:
+    static const int mostRecords = 1 << 18;
+    static const int mostLayers = 1 << 16;
+
+    enum Quantity {
+        TraversePosition, ///< mm
+        GuideDistance,    ///< mm
+        Speed,            ///< Of the spindle, in 1/min, with its ramps.
+        Tension           ///< N
+    };
+
+    enum Over { Turns, Time };
+
+    WindingModel();
+    explicit WindingModel(const MachineProfile &profile);
+
+    const MachineProfile &profile() const { return m_profile; }
+
+    /// The next block. Nothing happens in one behind the program's end.
+    void add(const WindingStep &step);
+    /// There are no more blocks: the last layer is closed. Nothing may be added any more.
+    void finish();
+
+    /// From the first one wound. Until finish(), those of the height that is being wound may still
+    /// be joined.
+    const QVector<WindingLayer> &layers() const { return m_layers; }
+    WindingTotals totals() const;
+    /// Of what is wound so far, over the wire, in mm; the core's when nothing is.
+    double outerDiameter() const;
+
+    /// The course of \a quantity in at most \a points stretches of equal length, those without a
+    /// change left out. Empty for a program that winds nothing (Turns) or takes no time.
+    QVector<WindingPlotPoint> plot(Quantity quantity, Over over, int points) const;
+    /// The guide's path in at most \a points, from where the guide stands first. Of a longer one,
+    /// neighbours are drawn together.
+    QVector<GuidePoint> path(int points) const;
+
+    /// \a line is from 1.
+    WindingPlace place(int line) const;
+    /// The line that lays wire at \a x, in mm, in the layer of this index, the nearest one if none
+    /// comes there; 0 when there is no such layer.
+    int lineAt(int layer, double x) const;
+    /// The line that lays the turn, from 0 on as in WindingLayer::firstTurn; 0 for one that is
+    /// none.
+    int lineAtTurn(double turn) const;
+    /// The line that is at work after so many seconds; 0 for none.
+    int lineAtTime(double seconds) const;
+    /// Index of the layer to which a turn belongs; -1 for none.
+    int layerAtTurn(double turn) const;
+
+private:
+    /// Where things stand behind a move, or behind several that are kept together.
+    struct Record
+    {
+        double turns;
+        double seconds;
+        float x;
+        float distance;
+        float tension;
+        float speed;
+        float lowestX;
+        float highestX;
+        float lowestTension;
+        float highestTension;
+        float lowestSpeed;
+        float highestSpeed;
+        int line;
+        /// How many moves are kept together, and what they do.
+        int moves;
+        bool isWinding;
+        bool isRapid;
+    };
+
+    double secondsOfMove(const WindingStep &step) const;
+    void turnSpindle(const WindingStep &step);
+    void setSpindle(double target);
+    double spin(double seconds);
+    double spinTurns(double turns);
+    void makeMove(const WindingStep &step);
+    void windInStep(const WindingStep &step);
+    void windByFeed(const WindingStep &step);
+    void lay(const WindingStep &step, double turns, double pitch);
+    void beginPass(const WindingStep &step, double pitch);
+    void closeHeight(double growth, bool isLast);
+    void joinPasses(int wanted);
+    void finishLayer(WindingLayer *layer);
+    double widthOfHeight() const;
+    void record(const WindingStep &step, bool isWinding);
+    void joinRecords();
+    void append(const Record &record);
+    int recordOfLine(int line) const;
+
+    MachineProfile m_profile;
+    QVector<WindingLayer> m_layers;
+    QVector<Record> m_records;
+    WindingTotals m_totals;
+};
+
+Q_DECLARE_METATYPE(WindingModel)
+
+#endif // WINDINGMODEL_H

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef WINDINGREVIEW_H
+#define WINDINGREVIEW_H
+
+#include "base/filarixhostglobal.h"
+#include "storage/filetaskrunner.h"
+#include "winding/windingmodel.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTextDocument>
+
+/// Who hears each block of a program while it is read, in order.
+class FILARIX_HOST_EXPORT BlockListener
+{
+public:
+    virtual ~BlockListener();
+
+    /// \a model has taken the step by then. All three belong to the caller.
+    virtual void add(const GCodeBlock &block, const WindingStep &step,
+                     const WindingModel &model) = 0;
+    /// There are no more blocks; \a model is finished.
+    virtual void finish(const WindingModel &model) = 0;
+};
+
+/// Reads, performs and winds a program in one pass, from pieces of text of any size. Keeps no line.
+class FILARIX_HOST_EXPORT ProgramReading
+{
+public:
+    /// \a listener may be null, and must live as long as pieces come.
+    explicit ProgramReading(const MachineProfile &profile, BlockListener *listener = nullptr);
+
+    /// A piece of a file. Lines end in "\n", or in "\r\n".
+    void addBytes(const char *bytes, qint64 count);
+    /// A piece of a document: whole lines, each of which ends in "\n".
+    void addLines(const QString &text);
+    /// One line, without its end.
+    void addLine(const QChar *text, int length);
+    /// The program is at its end: also of a last line without an end.
+    void finish();
+
+    const WindingModel &model() const { return m_model; }
+    /// Lines read so far.
+    int lines() const { return m_reader.line(); }
+
+private:
+    void addLine(const char *bytes, int length);
+    void hold(const char *bytes, qint64 count);
+    void perform(const GCodeBlock &block);
+
+    BlockReader m_reader;
+    ProgramInterpreter m_interpreter;
+    WindingModel m_model;
+    BlockListener *m_listener;
+    /// A line whose end has not come yet; of one that is too long to be read, the beginning.
+    QByteArray m_rest;
+    bool m_hasRest = false;
+};
+
+/// Reviews a program beside the event loop.
+///
+///     m_review.setListenerMaker(makeCheck); // a std::shared_ptr<BlockListener> each time
+///     connect(&m_review, SIGNAL(reviewed()), this, SLOT(showCoil()));
+///     m_review.start(editor->document());
+///
+/// Each start() ends in exactly one reviewed(), stopped() or failed(), never before start() has
+/// returned. One that comes while another is under way takes its place, and the other's end is not
+/// told.
+class FILARIX_HOST_EXPORT WindingReview : public QObject
+{
+    Q_OBJECT
+
+public:
+    typedef std::function<std::shared_ptr<BlockListener>()> ListenerMaker;
+
+    /// Time that one piece of a document may be copied in the thread of the screen, in ms.
+    static const int copyMs = 8;
+
+    explicit WindingReview(QObject *parent = nullptr);
+    /// Leaves a review under way behind; it changes nothing any more.
+    ~WindingReview() override;
+
+    /// For programs to come.
+    void setProfile(const MachineProfile &profile) { m_profile = profile; }
+    const MachineProfile &profile() const { return m_profile; }
+    /// Called at the beginning of each review, in this object's thread. What it makes hears the
+    /// blocks in a thread of its own, and nobody else may touch it before reviewed(). Without a
+    /// maker nobody hears.
+    void setListenerMaker(const ListenerMaker &maker) { m_maker = maker; }
+
+    /// Reads the file piece by piece; nothing of it is kept.
+    void start(const QString &path);
+    /// Copies the document's text in pieces of copyMs, and does all else in a thread. When the
+    /// document changes before all is copied, the review begins again with the new text.
+    void start(QTextDocument *document);
+    bool isRunning() const { return bool(m_run); }
+    /// In milliseconds: how long a file may give no answer.
+    void setStallTime(int ms) { m_files.setStallTime(ms); }
+
+    /// The coil of the program that was reviewed last; an empty one before.
+    const WindingModel &model() const { return m_model; }
+    /// Who heard that program; null without a maker.
+    std::shared_ptr<BlockListener> listener() const { return m_listener; }
+    /// QTextDocument::revision() of that program; -1 for a file.
+    int revision() const { return m_revision; }
+
+    /// Reviews a file in the calling thread. False with \a error, in words, when it cannot be read.
+    static bool read(const QString &path, ProgramReading *reading, QString *error);
+
+public Q_SLOTS:
+    /// Ends the review under way; what the one before gave stays.
+    void stop();
+
+Q_SIGNALS:
+    /// 0 to 100.
+    void progressed(int percent);
+    void reviewed();
+    void stopped();
+    /// \a reason is a sentence for the operator.
+    void failed(const QString &reason);
+
+private Q_SLOTS:
+    void endFile();
+    void endStalled();
+    void followChange(int position, int removed, int added);
+
+private:
+    struct Run;
+    class FileReview;
+
+    std::shared_ptr<Run> makeRun();
+    void abandon();
+    void copy();
+    void endCopy();
+    void take(const Run &run);
+
+    MachineProfile m_profile;
+    ListenerMaker m_maker;
+    std::shared_ptr<Run> m_run;
+    std::shared_ptr<FileReview> m_file;
+    FileTaskRunner m_files;
+    QScopedPointer<FileThread> m_thread;
+    QPointer<QTextDocument> m_document;
+    WindingModel m_model;
+    std::shared_ptr<BlockListener> m_listener;
+    int m_revision = -1;
+};
+
+#endif // WINDINGREVIEW_H
