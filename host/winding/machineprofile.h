@@ -220,7 +220,7 @@ public:
     /// Whether a program may ask for the tool; every one where the profile lists none.
     bool hasTool(int number) const;
     /// Bore of a guide tube in mm; 0 where the profile has none.
-    double tubeBore(int tool) const;
+    double tubeBore(int number) const;
 
     const MachineWire &wire() const { return m_wire; }
     const MachineBobbin &bobbin() const { return m_bobbin; }
@@ -243,7 +243,8 @@ private:
     };
 
     void addFunction(const MachineFunction &function);
-    void addAxis(const MachineAxis &axis);
+    bool addAxis(MachineAxis axis);
+    bool hasListedTool(int number) const;
 
     QString m_name;
     QVector<MachineAxis> m_axes;

@@ -103,14 +103,22 @@ private:
     struct Words;
 
     void readWords(const GCodeBlock &block, Words *words);
-    void readFunction(const MachineFunction &function, Words *words);
+    void readFunction(const GCodeWord &word, quint32 bit, Words *words);
+    void readValue(const GCodeWord &word, quint32 bit, Words *words);
+    void readAxis(const MachineAxis &axis, double value, Words *words);
     void applyModes(const Words &words);
+    void applySpindle();
     void dwell(const Words &words);
     void move(const Words &words);
     void moveAxes(const Words &words);
-    void end(const Words &words);
+    bool movesInMillimetres() const;
+    double lengthUnit() const;
+
+    static const int letters = 26;
 
     MachineProfile m_profile;
+    /// By letter, from 'A'.
+    MachineAxis m_axes[letters];
     WindingStep m_step;
 };
 

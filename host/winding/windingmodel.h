@@ -150,15 +150,15 @@ public:
     /// There are no more blocks: the last layer is closed. Nothing may be added any more.
     void finish();
 
-    /// From the first one wound. Until finish(), those of the height that is being wound may still
-    /// be joined.
+    /// From the first one wound. Before finish(), without what is wound at the guide's last
+    /// distance from the core: only the next one tells how many layers that makes.
     const QVector<WindingLayer> &layers() const { return m_layers; }
     WindingTotals totals() const;
     /// Of what is wound so far, over the wire, in mm; the core's when nothing is.
     double outerDiameter() const;
 
-    /// The course of \a quantity in at most \a points stretches of equal length, those without a
-    /// change left out. Empty for a program that winds nothing (Turns) or takes no time.
+    /// The course of \a quantity in \a points stretches of equal length. Empty for a program that
+    /// winds nothing (Turns) or takes no time.
     QVector<WindingPlotPoint> plot(Quantity quantity, Over over, int points) const;
     /// The guide's path in at most \a points, from where the guide stands first. Of a longer one,
     /// neighbours are drawn together.
@@ -200,29 +200,83 @@ private:
         bool isRapid;
     };
 
+    /// Of one quantity within a record: behind it, and the least and the most.
+    struct Span
+    {
+        double end;
+        double low;
+        double high;
+    };
+
+    double feedLength(const WindingStep &step) const;
     double secondsOfMove(const WindingStep &step) const;
-    void turnSpindle(const WindingStep &step);
-    void setSpindle(double target);
+    void followSpindle(const WindingStep &step);
     double spin(double seconds);
-    double spinTurns(double turns);
-    void makeMove(const WindingStep &step);
-    void windInStep(const WindingStep &step);
-    void windByFeed(const WindingStep &step);
-    void lay(const WindingStep &step, double turns, double pitch);
+    double spinFor(double turns);
+    double rampTo(double speed);
+    void turnLoose(double turns);
+    bool makeMove(const WindingStep &step);
+    bool windInStep(const WindingStep &step);
+    bool windByFeed(const WindingStep &step);
+    bool lay(const WindingStep &step, double turns, double pitch);
+    bool isTie(const WindingStep &step, double pitch, bool turnsBack) const;
+    bool turnsBack(const WindingStep &step) const;
+    void placePass(const WindingStep &step, bool turnsBack);
+    void beginCoil(double distance);
+    void beginHeight(double distance);
     void beginPass(const WindingStep &step, double pitch);
-    void closeHeight(double growth, bool isLast);
-    void joinPasses(int wanted);
-    void finishLayer(WindingLayer *layer);
-    double widthOfHeight() const;
-    void record(const WindingStep &step, bool isWinding);
-    void joinRecords();
+    void closeHeight(double growth);
+    int layersOfHeight(double growth) const;
+    double layerStep(double growth, int count) const;
+    void joinPasses(int count);
+    void addClosingTurn(WindingLayer *layer);
+    void closeLayer(const WindingLayer &layer);
+    double diameterAt(double distance, int level) const;
+    void record(const WindingStep &step, double speedBefore, bool isWinding);
     void append(const Record &record);
+    void joinRecords();
+    static Record joined(const Record &first, const Record &second);
+    static Span spanOf(const Record &record, Quantity quantity);
+    static double placeOf(const Record &record, Over over);
+    static GuidePoint pointOf(const Record &record, double x);
+    void appendGroup(int begin, int end, QVector<GuidePoint> *path) const;
     int recordOfLine(int line) const;
 
     MachineProfile m_profile;
     QVector<WindingLayer> m_layers;
     QVector<Record> m_records;
+    /// Moves that one record keeps together.
+    int m_movesPerRecord = 1;
     WindingTotals m_totals;
+
+    /// Of the spindle in 1/min: as it turns, and as it is told to; negative in reverse.
+    double m_speed = 0;
+    double m_target = 0;
+
+    /// 0 until the first pitch says it.
+    double m_wire = 0;
+    /// The passes of the guide at the height that is being wound.
+    QVector<WindingLayer> m_passes;
+    /// Where the last wire was laid, and the way there.
+    double m_lastX = 0;
+    int m_direction = 0;
+    /// Turns while the guide stood where it laid the last wire.
+    double m_standing = 0;
+    bool m_stands = false;
+    bool m_isTying = false;
+    /// Of the guide: where this coil's first layer and this height began, and where it would have
+    /// begun if the guide had drawn back for each layer.
+    double m_coreDistance = 0;
+    double m_heightDistance = 0;
+    double m_baseDistance = 0;
+    /// In this coil: layers that are closed, and their turns.
+    int m_level = 0;
+    double m_coilTurns = 0;
+    double m_fullestTurns = 0;
+    /// Passes that made one layer at the last height whose growth was seen; 0 before.
+    double m_passesPerLayer = 0;
+    /// The layer below was nested, or bears one that is.
+    bool m_isNestedAbove = false;
 };
 
 Q_DECLARE_METATYPE(WindingModel)
