@@ -46,8 +46,8 @@ public:
     int lines() const { return m_reader.line(); }
 
 private:
-    void addLine(const char *bytes, int length);
     void hold(const char *bytes, qint64 count);
+    void endHeld();
     void perform(const GCodeBlock &block);
 
     BlockReader m_reader;
@@ -66,8 +66,8 @@ private:
 ///     m_review.start(editor->document());
 ///
 /// Each start() ends in exactly one reviewed(), stopped() or failed(), never before start() has
-/// returned. One that comes while another is under way takes its place, and the other's end is not
-/// told.
+/// returned. One that comes while another is under way takes its place, and of the other nothing
+/// more is told.
 class FILARIX_HOST_EXPORT WindingReview : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ public:
     /// Leaves a review under way behind; it changes nothing any more.
     ~WindingReview() override;
 
-    /// For programs to come.
+    /// For programs to come; the samples' profile before.
     void setProfile(const MachineProfile &profile) { m_profile = profile; }
     const MachineProfile &profile() const { return m_profile; }
     /// Called at the beginning of each review, in this object's thread. What it makes hears the
@@ -97,7 +97,7 @@ public:
     void start(QTextDocument *document);
     bool isRunning() const { return bool(m_run); }
     /// In milliseconds: how long a file may give no answer.
-    void setStallTime(int ms) { m_files.setStallTime(ms); }
+    void setStallTime(int ms) { m_stallMs = ms; }
 
     /// The coil of the program that was reviewed last; an empty one before.
     const WindingModel &model() const { return m_model; }
@@ -110,7 +110,7 @@ public:
     static bool read(const QString &path, ProgramReading *reading, QString *error);
 
 public Q_SLOTS:
-    /// Ends the review under way; what the one before gave stays.
+    /// Ends the review under way, with stopped(); what the one before gave stays.
     void stop();
 
 Q_SIGNALS:
@@ -124,7 +124,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void endFile();
     void endStalled();
-    void followChange(int position, int removed, int added);
+    void followChange();
 
 private:
     struct Run;
@@ -132,17 +132,23 @@ private:
 
     std::shared_ptr<Run> makeRun();
     void abandon();
-    void copy();
-    void endCopy();
+    void leaveFile();
     void take(const Run &run);
+    void beginCopy();
+    void copyLater(const std::shared_ptr<Run> &run);
+    void copy();
+    QString copyPiece();
+    void endPiece(const std::shared_ptr<Run> &run, bool isLast);
 
     MachineProfile m_profile;
     ListenerMaker m_maker;
     std::shared_ptr<Run> m_run;
     std::shared_ptr<FileReview> m_file;
-    FileTaskRunner m_files;
+    FileTaskRunner *m_files = nullptr;
+    int m_stallMs = FileTaskRunner::stallMs;
     QScopedPointer<FileThread> m_thread;
     QPointer<QTextDocument> m_document;
+    bool m_hasChanged = false;
     WindingModel m_model;
     std::shared_ptr<BlockListener> m_listener;
     int m_revision = -1;
