@@ -199,6 +199,12 @@ QString withoutComment(const QString &line)
     return line;
 }
 
+QString textOf(double number)
+{
+    const int digits = 10;
+    return QString::number(number, 'g', digits);
+}
+
 bool isText(const QByteArray &bytes)
 {
     for (const char byte : bytes)
@@ -557,7 +563,7 @@ bool MachineProfileText::number(const QString &text, double minimum, double maxi
         *target = value;
         return true;
     }
-    fail(tr("\"%1\" is no number from %2 to %3.").arg(text).arg(minimum).arg(maximum, 0, 'f', -1));
+    fail(tr("\"%1\" is no number from %2 to %3.").arg(text, textOf(minimum), textOf(maximum)));
     return false;
 }
 
