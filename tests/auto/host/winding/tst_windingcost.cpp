@@ -5,7 +5,7 @@
 // most memory that a process ever had tells only once.
 
 #include "filarixtest.h"
-#include "winding/windingreview.h"
+#include "winding/programreading.h"
 
 #include <ctime>
 
