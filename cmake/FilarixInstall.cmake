@@ -120,6 +120,12 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   storage/rowtext.h
   storage/settingsfile.h
   storage/writeleave.h
+  winding/blockreader.h
+  winding/machineprofile.h
+  winding/programinterpreter.h
+  winding/programreading.h
+  winding/windingmodel.h
+  winding/windingreview.h
 )
 
 # The way from one installed folder to another.
