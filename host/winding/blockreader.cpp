@@ -90,6 +90,34 @@ inline bool isLetter(uint value)
     return (value | 0x20u) - 'a' < 26u;
 }
 
+/// A number as its digits come.
+struct Decimal
+{
+    void add(uint digit);
+    double value() const { return double(mantissa) / powersOfTen[decimals]; }
+
+    quint64 mantissa = 0;
+    /// Of the mantissa, without zeros in front.
+    int digits = 0;
+    int decimals = 0;
+    bool hasDigit = false;
+    bool hasPoint = false;
+    bool isTooLong = false;
+};
+
+/// Further decimals make no difference; further digits before the point are too many.
+void Decimal::add(uint digit)
+{
+    hasDigit = true;
+    if (digits == mostDigits || decimals == mostDigits) {
+        isTooLong = isTooLong || !hasPoint;
+        return;
+    }
+    mantissa = mantissa * 10 + digit;
+    digits += mantissa != 0;
+    decimals += hasPoint;
+}
+
 /// Reads one line into a block.
 template<class Character>
 class LineScanner
@@ -109,6 +137,7 @@ private:
     void scanOne(uint value);
     void scanWord();
     bool scanNumber(GCodeWord *word);
+    Decimal scanDigits();
     void skipNumber();
     void scanComment(uint opener);
     void scanStray();
@@ -173,8 +202,7 @@ void LineScanner<Character>::scanWord()
         addWord(word);
 }
 
-/// A sign or none, digits, a point or none: leaves word->length and value behind. False with a
-/// fault where that is no number.
+/// A sign or none, digits, a point or none. False with a fault where that is no number.
 template<class Character>
 bool LineScanner<Character>::scanNumber(GCodeWord *word)
 {
@@ -182,53 +210,40 @@ bool LineScanner<Character>::scanNumber(GCodeWord *word)
     const bool isNegative = at(m_at) == '-';
     if (isNegative || at(m_at) == '+')
         ++m_at;
-    quint64 mantissa = 0;
-    int digits = 0;  // those that are counted in the mantissa, leading zeros left out
-    int skipped = 0; // before the point, and behind the most digits
-    int decimals = 0;
-    bool hasDigit = false;
-    bool hasPoint = false;
-    for (;; ++m_at) {
-        const uint value = at(m_at);
-        if (value == '.' && !hasPoint) {
-            hasPoint = true;
-            continue;
-        }
-        if (!isDigit(value))
-            break;
-        hasDigit = true;
-        if (digits == mostDigits) {
-            skipped += !hasPoint;
-            continue;
-        }
-        mantissa = mantissa * 10 + (value - '0');
-        digits += mantissa != 0;
-        decimals += hasPoint;
-        if (decimals > mostDigits) {
-            // Zeros alone so far, and no digit behind can be told from them.
-            --decimals;
-            mantissa /= 10;
-        }
-    }
+    const Decimal number = scanDigits();
     const uint next = at(m_at);
-    if (next == '.' || next == '+' || next == '-' || (m_at > start && !hasDigit)) {
+    if (next == '.' || next == '+' || next == '-' || (m_at > start && !number.hasDigit)) {
         skipNumber();
         addFault(BlockFault::NumberMalformed, word->column, column() - word->column);
         return false;
     }
-    if (!hasDigit) {
+    if (!number.hasDigit) {
         addFault(BlockFault::NumberMissing, word->column, 1);
         return false;
     }
     word->length = column() - word->column;
-    word->value = double(mantissa) / powersOfTen[decimals];
-    if (skipped > 0 || word->value > GCodeBlock::largestValue) {
+    const double value = number.value();
+    if (number.isTooLong || value > GCodeBlock::largestValue) {
         addFault(BlockFault::NumberTooLarge, word->column, word->length);
         return false;
     }
-    if (isNegative)
-        word->value = -word->value;
+    word->value = isNegative ? -value : value;
     return true;
+}
+
+template<class Character>
+Decimal LineScanner<Character>::scanDigits()
+{
+    Decimal number;
+    for (;; ++m_at) {
+        const uint value = at(m_at);
+        if (isDigit(value))
+            number.add(value - '0');
+        else if (value == '.' && !number.hasPoint)
+            number.hasPoint = true;
+        else
+            return number;
+    }
 }
 
 template<class Character>

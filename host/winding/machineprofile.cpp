@@ -6,6 +6,7 @@
 #include "base/hostcompat.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -654,6 +655,12 @@ QByteArray MachineProfile::sampleText()
 
 MachineProfile MachineProfile::fromFile(const QString &path, QStringList *errors)
 {
+    // To open a pipe would be to wait for whoever writes to it.
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) {
+        *errors = QStringList(tr("%1 is no file.").arg(path));
+        return MachineProfile();
+    }
     QFile file(path);
     if (file.open(QIODevice::ReadOnly)) {
         // One byte more tells that there are too many.

@@ -134,7 +134,7 @@ void WindingReview::start(const QString &path)
     m_file = std::make_shared<FileReview>(path, m_run);
     m_files = new FileTaskRunner(this);
     m_files->setStallTime(m_stallMs);
-    connect(m_files, SIGNAL(progressed(int)), this, SIGNAL(progressed(int)));
+    connect(m_files, SIGNAL(progressed(int)), this, SLOT(tellProgress(int)));
     connect(m_files, SIGNAL(ended()), this, SLOT(endFile()));
     connect(m_files, SIGNAL(stalled()), this, SLOT(endStalled()));
     m_files->start(m_file);
@@ -170,6 +170,7 @@ void WindingReview::abandon()
         disconnect(m_document.data(), nullptr, this, nullptr);
     m_document = nullptr;
     m_hasChanged = false;
+    m_isBetweenPieces = false;
 }
 
 /// The step in hand may hang: nobody waits for it, and the runner goes when it is over.
@@ -218,6 +219,22 @@ void WindingReview::take(const Run &run)
     m_listener = run.listener;
     m_revision = run.revision;
     Q_EMIT reviewed();
+}
+
+WindingModel WindingReview::modelSoFar() const
+{
+    if (!m_run || !m_isBetweenPieces)
+        return WindingModel(m_profile);
+    WindingModel model = m_run->reading.model();
+    model.finish();
+    return model;
+}
+
+void WindingReview::tellProgress(int percent)
+{
+    m_isBetweenPieces = true;
+    Q_EMIT progressed(percent);
+    m_isBetweenPieces = false;
 }
 
 void WindingReview::beginCopy()
@@ -295,7 +312,7 @@ void WindingReview::endPiece(const std::shared_ptr<Run> &run, bool isLast)
         return;
     }
     const qint64 blocks = m_document ? m_document->blockCount() : 1;
-    Q_EMIT progressed(int(qMin<qint64>(wholePercent, wholePercent * run->copied / blocks)));
+    tellProgress(int(qMin<qint64>(wholePercent, wholePercent * run->copied / blocks)));
     // Whoever hears the progress may have started another review.
     if (run == m_run)
         copyLater(run);

@@ -54,6 +54,9 @@ public:
 
     /// The coil of the program that was reviewed last; an empty one before.
     const WindingModel &model() const { return m_model; }
+    /// In a slot of progressed(): the coil as far as it is wound by then. The next piece has to
+    /// copy it: ask for it a few times a second at most. At any other moment an empty one.
+    WindingModel modelSoFar() const;
     /// Who heard that program; null without a maker.
     std::shared_ptr<BlockListener> listener() const { return m_listener; }
     /// QTextDocument::revision() of that program; -1 for a file.
@@ -77,6 +80,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void endFile();
     void endStalled();
+    void tellProgress(int percent);
     void followChange();
 
 private:
@@ -102,6 +106,8 @@ private:
     QScopedPointer<FileThread> m_thread;
     QPointer<QTextDocument> m_document;
     bool m_hasChanged = false;
+    /// Progress is being told: the thread has nothing to do.
+    bool m_isBetweenPieces = false;
     WindingModel m_model;
     std::shared_ptr<BlockListener> m_listener;
     int m_revision = -1;

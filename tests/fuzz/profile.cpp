@@ -46,7 +46,8 @@ void checkWords(const MachineProfile &profile)
 
 } // namespace
 
-// The text of a profile: it is whole and makes sense, or it is told what is wrong and gives nothing.
+// The text of a profile: it is whole and makes sense, or it is told what is wrong and gives
+// nothing.
 void Fuzz::tryInput(QByteArray bytes)
 {
     QStringList errors;

@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
+
 class TestMachineProfile : public FilarixTest
 {
     Q_OBJECT
@@ -390,7 +392,12 @@ void TestMachineProfile::fileThatIsNone()
     QCOMPARE(errors.size(), 1);
     QVERIFY(errors.first().startsWith(home() + "/none.ini cannot be read: "));
     QVERIFY(!MachineProfile::fromFile(home(), &errors).isValid());
-    QCOMPARE(errors.size(), 1);
+    QCOMPARE(errors, QStringList(home() + " is no file."));
+    // A pipe that nobody writes to would be waited for.
+    const QString pipe = home() + "/pipe";
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QVERIFY(!MachineProfile::fromFile(pipe, &errors).isValid());
+    QCOMPARE(errors, QStringList(pipe + " is no file."));
 }
 
 void TestMachineProfile::fileIsRead()

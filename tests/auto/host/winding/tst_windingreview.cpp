@@ -38,6 +38,7 @@ private Q_SLOTS:
     void eachReviewHasAListenerOfItsOwn();
     void endOfTheObjectWhileWorkRuns();
     void fileThatNeverAnswersStalls();
+    void coilIsSeenWhileItGrows();
     void eventLoopIsNotHeld();
 };
 
@@ -59,6 +60,26 @@ static QByteArray longProgram(int lines)
         program += i % 40 < 20 ? "G33 X1 K0.5 ; there\n" : "G33 X-1 K0.5 ; and back\n";
     return program;
 }
+
+/// Looks at the coil each time that progress is told.
+class GrowthWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit GrowthWatch(WindingReview *review) : m_review(review)
+    {
+        connect(review, SIGNAL(progressed(int)), this, SLOT(look()));
+    }
+
+    QList<double> turns;
+
+private Q_SLOTS:
+    void look() { turns.append(m_review->modelSoFar().totals().turns); }
+
+private:
+    WindingReview *const m_review;
+};
 
 /// The thread's own work between two turns of its event loop, in ms of processor time.
 class LoopWatch : public QObject
@@ -392,6 +413,30 @@ void TestWindingReview::fileThatNeverAnswersStalls()
     *hold = false;
 }
 
+void TestWindingReview::coilIsSeenWhileItGrows()
+{
+    const QByteArray program = longProgram(scaled(100000, 20000));
+    writeFile(home() + "/long.cnc", program);
+    QTextDocument document(QString::fromLatin1(program));
+    WindingReview review;
+    QSignalSpy reviewed(&review, SIGNAL(reviewed()));
+    GrowthWatch watch(&review);
+    QCOMPARE(review.modelSoFar().totals().turns, 0.0);
+    review.start(&document);
+    QTRY_COMPARE_WITH_TIMEOUT(int(reviewed.count()), 1, patience(20000));
+    QVERIFY(!watch.turns.isEmpty());
+    const int looks = watch.turns.size();
+    review.start(home() + "/long.cnc");
+    QTRY_COMPARE_WITH_TIMEOUT(int(reviewed.count()), 2, patience(20000));
+    QVERIFY(watch.turns.size() > looks);
+    for (int i = 0; i < watch.turns.size(); ++i) {
+        QVERIFY(watch.turns.at(i) <= review.model().totals().turns);
+        QVERIFY(i == 0 || i == looks || watch.turns.at(i) >= watch.turns.at(i - 1));
+    }
+    QVERIFY(watch.turns.at(looks - 1) > 0);
+    QCOMPARE(review.modelSoFar().totals().turns, 0.0);
+}
+
 void TestWindingReview::eventLoopIsNotHeld()
 {
     QTextDocument document;
@@ -403,6 +448,7 @@ void TestWindingReview::eventLoopIsNotHeld()
     review.start(&document);
     QTRY_COMPARE_WITH_TIMEOUT(int(reviewed.count()), 1, patience(60000));
     QCOMPARE(review.model().totals().lines, document.blockCount());
+    qDebug("at most %.1f ms", watch.longestMs());
     QVERIFY2(watch.longestMs() < patience(50), qPrintable(QString::number(watch.longestMs())));
 }
 
