@@ -312,7 +312,7 @@ void WindingReview::endPiece(const std::shared_ptr<Run> &run, bool isLast)
         return;
     }
     const qint64 blocks = m_document ? m_document->blockCount() : 1;
-    tellProgress(int(qMin<qint64>(wholePercent, wholePercent * run->copied / blocks)));
+    tellProgress(int(qMin<qint64>(wholePercent, qint64(wholePercent) * run->copied / blocks)));
     // Whoever hears the progress may have started another review.
     if (run == m_run)
         copyLater(run);
