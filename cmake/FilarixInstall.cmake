@@ -13,6 +13,7 @@
 #   device-headers  the interface of the panel's device library, for hosts that use it themselves
 #   simulator       the stand-in device library with its translations
 #   panel           filarix-panel with its manual page and its translations
+#   check           filarix-check with its manual page
 #   doc             documentation for hosts' developers
 #   licence         the text that goes along with all of them
 #
@@ -282,5 +283,12 @@ if(TARGET filarix-panel)
 endif()
 
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT licence)
+if(TARGET filarix-check)
+  install(TARGETS filarix-check
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT check EXCLUDE_FROM_ALL)
+  install(FILES check/filarix-check.1
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT check EXCLUDE_FROM_ALL)
+endif()
+
 install(FILES docs/abi.md docs/security.md
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT doc EXCLUDE_FROM_ALL)

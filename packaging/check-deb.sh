@@ -9,6 +9,7 @@
 # Debian in a scratch folder, and in there, as people do who know nothing of this tree,
 #   - installs the library alone, which must bring no stand-in device library,
 #   - builds the hosts of tests/consumer with the development packages, no device library about,
+#   - installs the command that checks programs, and has it check some,
 #   - installs the panel program and lets it walk its screens,
 #   - installs the translations and runs the hosts,
 #   - installs the rest, asks the panel program for German and the Designer plugin for what it needs,
@@ -67,6 +68,14 @@ is_installed() {
     # shellcheck disable=SC2016 # dpkg-query's own placeholder
     inside dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null | grep -qx installed
 }
+# check_manual PROGRAM: its page has each option.
+check_manual() {
+    local manual option
+    manual=$(inside zcat "/usr/share/man/man1/$1.1.gz" | tr -d '\134') # its hyphens are escaped
+    for option in $(inside "$1" --help | grep -o '^ .*' | grep -oE '(^|[ ,])--[a-z-]+'); do
+        [[ $manual == *"$option"* ]] || fail "the manual page of $1 lacks $option"
+    done
+}
 has_no_stand_in() {
     if is_installed libhmidevice-sim || is_installed filarix-panel; then
         fail "$1 brings the stand-in device library"
@@ -115,6 +124,15 @@ inside sh -eu -c '
     /usr/lib/qt5/bin/qmake /consumer/companion/qmake/host.pro
     make' >"$scratch/hosts.log" 2>&1 || { tail -n 30 "$scratch/hosts.log" >&2; fail "hosts"; }
 
+step "the command"
+apt_install --no-install-recommends filarix-check
+has_no_stand_in filarix-check
+cp "$root"/panel/samples/*.cnc "$debian/root"
+inside sh -c 'filarix-check /root/*.cnc' || fail "filarix-check finds faults in the samples"
+! inside sh -c 'echo G99 | filarix-check -' >"$scratch/findings" || fail "filarix-check finds nothing"
+grep -q '^-:1:1: error: G99 ' "$scratch/findings" || fail "$(<"$scratch/findings")"
+check_manual filarix-check
+
 step "the panel program"
 apt_install --no-install-recommends filarix-panel
 is_installed libhmidevice-sim || fail "the panel program came without keypads"
@@ -123,10 +141,7 @@ inside filarix-panel --tour /root/tour --size 480x272 >"$scratch/tour.log" 2>&1 
 pictures=$(find "$debian/root/tour" -name '*.png' | wc -l)
 [ "$pictures" -ge 20 ] || fail "the tour left $pictures pictures"
 echo "$pictures pictures of its screens"
-manual=$(inside zcat /usr/share/man/man1/filarix-panel.1.gz | tr -d '\134') # its hyphens are escaped
-for option in $(inside filarix-panel --help | grep -o '^ .*' | grep -oE '(^|[ ,])--[a-z-]+'); do
-    [[ $manual == *"$option"* ]] || fail "the manual page lacks $option"
-done
+check_manual filarix-panel
 inside filarix-panel --tour /root/tour --language de >/dev/null 2>"$scratch/tour.log" \
     || fail "filarix-panel --tour --language de"
 grep -q 'for de is not installed' "$scratch/tour.log" || fail "German without libfilarixmodule-l10n"

@@ -4,7 +4,7 @@
 #
 # arrows.sh [FOLDER]
 #
-# Fails where a source of the library, of host/ or of panel/ includes a header that stands above it, and
+# Fails where a source of the library, of host/, of check/ or of panel/ includes a header that stands above it, and
 # where a header of host/ or of a folder of panel/ is not included by its folder and its name. FOLDER holds the sources; without it
 # they are this project's.
 set -euo pipefail
@@ -28,6 +28,7 @@ window/
 host/base/
 host/storage/
 host/winding/
+check/
 host/programs/
 host/stick/
 host/guards/

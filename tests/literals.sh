@@ -11,7 +11,7 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
-rooms=(base gcode window editor controls list tables transfer host panel)
+rooms=(base gcode window editor controls list tables transfer host check panel)
 home=base/filarixpanel.h
 literals='/mnt/Storage|/tmp/udiskattach|31457280|30 *\* *1024 *\* *1024|30 *<< *20|\b(400|760)[uUlL]*\b'
 # The same digits, meant otherwise.

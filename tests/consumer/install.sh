@@ -16,7 +16,7 @@ fail() {
 }
 
 cd "$WORK"
-rm -rf prefix moved companion sysroot device designer
+rm -rf prefix moved companion sysroot device designer check
 install() {
     "$CMAKE" --install "$BUILD" "$@" >>install.log
 }
@@ -34,6 +34,7 @@ mv prefix companion
 DESTDIR=$WORK/sysroot install --prefix /usr
 install --prefix "$WORK/device" --component simulator
 [ "$QT" = 4 ] || install --prefix "$WORK/designer" --component designer
+[ "$CHECK" = 0 ] || install --prefix "$WORK/check" --component check
 
 # The files, all of them and no other. A plain install brings both libraries.
 list_files() {
@@ -68,7 +69,7 @@ find moved/include/filarix -type f -printf '%f\n' | LC_ALL=C sort \
     || fail "headers of other classes than the companion's exported ones"
 
 # A plain install brings nothing that a panel must not have.
-stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel' -o -name '*_p.h' \
+stray=$(find sysroot -name '*HMIDevice*' -o -name 'hmidevice' -o -name '*-panel' -o -name '*-check' -o -name '*_p.h' \
     -o -name '*designer*')
 [ -z "$stray" ] || fail "in a plain install: $stray"
 
@@ -95,6 +96,15 @@ if [ "$QT" = 5 ]; then
     needed=$(readelf -d "$plugin" | sed -n 's/.*NEEDED.*\[\(.*\)\].*/\1/p' \
         | grep -vE '^(libQt5(Core|Gui|Widgets)|libstdc\+\+|libgcc_s|libm|libc)\.so' || true)
     [ -z "$needed" ] || fail "the Designer plugin needs $needed"
+fi
+
+# The command needs nothing of ours, and of Qt neither widgets nor a display.
+if [ "$CHECK" = 1 ]; then
+    files=$(cd check && find . -type f | LC_ALL=C sort)
+    [ "$files" = $'./bin/filarix-check\n./share/man/man1/filarix-check.1' ] || fail "the command: $files"
+    needed=$(readelf -d check/bin/filarix-check | sed -n 's/.*NEEDED.*\[\(.*\)\].*/\1/p' \
+        | grep -vE '^(libQt5(Core|Gui)|libstdc\+\+|libgcc_s|libm|libc)\.so' || true)
+    [ -z "$needed" ] || fail "the command needs $needed"
 fi
 
 # Below a sysroot pkg-config names the folders there.
