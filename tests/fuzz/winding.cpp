@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzz.h"
-#include "winding/programreading.h"
+#include "winding/programcheck.h"
 
 #include <cmath>
 
@@ -12,8 +12,11 @@ namespace {
 class Inspector : public BlockListener
 {
 public:
-    void add(const GCodeBlock &block, const WindingStep &step, const WindingModel &) override
+    explicit Inspector(const MachineProfile &profile) : m_check(profile) {}
+
+    void add(const GCodeBlock &block, const WindingStep &step, const WindingModel &model) override
     {
+        m_check.add(block, step, model);
         FUZZ_REQUIRE(block.line == ++m_lines && step.line == block.line);
         int behind = 1;
         for (const GCodeWord &word : block) {
@@ -28,12 +31,19 @@ public:
         for (int slot = 0; slot < MachineAxis::slotCount; ++slot)
             FUZZ_REQUIRE(std::isfinite(step.to[slot]));
     }
-    void finish(const WindingModel &) override { m_isFinished = true; }
+    void finish(const WindingModel &model) override
+    {
+        m_check.finish(model);
+        m_isFinished = true;
+    }
 
     int lines() const { return m_lines; }
     bool isFinished() const { return m_isFinished; }
 
+    const ProgramCheck &check() const { return m_check; }
+
 private:
+    ProgramCheck m_check;
     int m_lines = 0;
     bool m_isFinished = false;
 };
@@ -83,6 +93,19 @@ void checkQueries(const WindingModel &model)
     FUZZ_REQUIRE(model.plot(WindingModel::Tension, WindingModel::Turns, points).size() <= points);
 }
 
+void checkFindings(const ProgramCheck &check, int lines)
+{
+    FUZZ_REQUIRE(check.leftOut() >= 0);
+    int before = 0;
+    for (const Finding &finding : check.findings()) {
+        FUZZ_REQUIRE(finding.line >= qMax(1, before) && finding.line <= qMax(1, lines));
+        FUZZ_REQUIRE(finding.column >= 1 && finding.length >= 0);
+        FUZZ_REQUIRE(finding.severity == Finding::severityOf(finding.kind));
+        FUZZ_REQUIRE(!finding.text().isEmpty() && !finding.advice().isEmpty());
+        before = finding.line;
+    }
+}
+
 MachineProfile profileOf(QByteArray *bytes)
 {
     enum Source { Samples, Prompt, ByWire, Nested, OwnProfile, Count };
@@ -108,12 +131,13 @@ MachineProfile profileOf(QByteArray *bytes)
 /// Reads \a program in pieces of so many bytes.
 WindingModel read(const MachineProfile &profile, const QByteArray &program, int pieceBytes)
 {
-    Inspector inspector;
+    Inspector inspector(profile);
     ProgramReading reading(profile, &inspector);
     for (int at = 0; at < program.size(); at += pieceBytes)
         reading.addBytes(program.constData() + at, qMin(pieceBytes, program.size() - at));
     reading.finish();
     FUZZ_REQUIRE(inspector.isFinished() && inspector.lines() == reading.lines());
+    checkFindings(inspector.check(), reading.lines());
     return reading.model();
 }
 
