@@ -122,7 +122,9 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   storage/settingsfile.h
   storage/writeleave.h
   winding/blockreader.h
+  winding/finding.h
   winding/machineprofile.h
+  winding/programcheck.h
   winding/programinterpreter.h
   winding/programreading.h
   winding/windingmodel.h
