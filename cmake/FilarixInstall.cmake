@@ -256,19 +256,19 @@ if(TARGET HMIDevice)
     filarix_install_translations(hmidevice-sim COMPONENT simulator EXCLUDE_FROM_ALL)
   endif()
 endif()
+# What tells the version has it from project(), and its date from the changelog.
+file(STRINGS CHANGELOG.md heading REGEX "^## ${PROJECT_VERSION}, " LIMIT_COUNT 1)
+if(NOT heading MATCHES ", ([0-9]+-[0-9]+-[0-9]+)$")
+  message(FATAL_ERROR "CHANGELOG.md has no section \"${PROJECT_VERSION}, <date>\"")
+endif()
+set(FILARIX_RELEASE_DATE "${CMAKE_MATCH_1}")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md)
 if(TARGET filarix-panel)
   filarix_relative_path(libdir_from_bindir "${CMAKE_INSTALL_BINDIR}" "${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(filarix-panel PROPERTIES
     INSTALL_RPATH "$ORIGIN/${libdir_from_bindir}" BUILD_RPATH_USE_ORIGIN ON)
   install(TARGETS filarix-panel
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel EXCLUDE_FROM_ALL)
-  # What tells the version has it from project(), and its date from the changelog.
-  file(STRINGS CHANGELOG.md heading REGEX "^## ${PROJECT_VERSION}, " LIMIT_COUNT 1)
-  if(NOT heading MATCHES ", ([0-9]+-[0-9]+-[0-9]+)$")
-    message(FATAL_ERROR "CHANGELOG.md has no section \"${PROJECT_VERSION}, <date>\"")
-  endif()
-  set(FILARIX_RELEASE_DATE "${CMAKE_MATCH_1}")
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md)
   configure_file(panel/filarix-panel.1.in filarix-panel.1 @ONLY)
   configure_file(panel/desktop/org.filarix.panel.metainfo.xml.in org.filarix.panel.metainfo.xml @ONLY)
   install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarix-panel.1"
@@ -284,13 +284,15 @@ if(TARGET filarix-panel)
   endif()
 endif()
 
-install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT licence)
 if(TARGET filarix-check)
   install(TARGETS filarix-check
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT check EXCLUDE_FROM_ALL)
-  install(FILES check/filarix-check.1
+  configure_file(check/filarix-check.1.in filarix-check.1 @ONLY)
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/filarix-check.1"
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT check EXCLUDE_FROM_ALL)
 endif()
+
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT licence)
 
 install(FILES docs/abi.md docs/security.md
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT doc EXCLUDE_FROM_ALL)

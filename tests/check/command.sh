@@ -10,7 +10,7 @@ set -euo pipefail
 [ -n "${FILARIX_SANDBOX:-}" ] || { echo "to be run by sandbox.sh" >&2; exit 99; }
 program=$1
 samples=$2
-page=$(dirname "$(readlink -f "$0")")/../../check/filarix-check.1
+page=$(dirname "$(readlink -f "$0")")/../../check/filarix-check.1.in
 # A command has no display, and nothing of the kind makes a difference.
 unset QT_QPA_PLATFORM
 cd "$HOME"
