@@ -159,7 +159,7 @@ private:
     {
         const void *data = nullptr;
         static_assert(sizeof row == sizeof data, "one pointer");
-        std::memcpy(&data, &row, sizeof data);
+        std::memcpy(&data, reinterpret_cast<const char *>(&row), sizeof data);
         fetch(data);
     }
 
