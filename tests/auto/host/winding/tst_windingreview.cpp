@@ -441,7 +441,7 @@ void TestWindingReview::eventLoopIsNotHeld()
 {
     QTextDocument document;
     document.setUndoRedoEnabled(false);
-    document.setPlainText(QString::fromLatin1(longProgram(scaled(200000, 10000))));
+    document.setPlainText(QString::fromLatin1(longProgram(scaled(100000, 10000))));
     WindingReview review;
     QSignalSpy reviewed(&review, SIGNAL(reviewed()));
     LoopWatch watch;
