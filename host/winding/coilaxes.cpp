@@ -24,7 +24,7 @@ double niceStep(double span, int most)
     const double least = span / qMax(1, most);
     const double power = std::pow(10.0, std::floor(std::log10(least)));
     for (double factor : {1.0, 2.0, 5.0}) {
-        if (factor * power >= least * (1 - rounding))
+        if (factor * power >= least)
             return factor * power;
     }
     return 10 * power;
@@ -42,7 +42,10 @@ QVector<double> CoilAxes::ticks(double from, double to, int most)
     QVector<double> ticks;
     if (!(to > from) || most < 1)
         return ticks;
-    const double step = niceStep(to - from, most);
+    double step = niceStep(to - from, most);
+    // Both ends may be ticks, which is one more.
+    if (std::floor(to / step + rounding) - std::ceil(from / step - rounding) >= most)
+        step = niceStep(step * most * (1 + 2 * rounding), most);
     const double slack = step * rounding;
     for (double number = std::ceil((from - slack) / step); number * step <= to + slack; ++number)
         ticks.append(number * step);

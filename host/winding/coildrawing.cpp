@@ -15,10 +15,10 @@ const int longLine = 64;
 // In the order of CoilDrawing::Role, without the first one.
 const QRgb lightColours[CoilDrawing::roles - 1] = {
     0xffffffff, 0xff17202b, 0xff5c6874, 0xffdde3ea, 0xffc9d1da, 0xff66727f, 0xff40308f, 0xffffffff,
-    0xffd5dbe2, 0xff1659a8, 0xff23753a, 0xffa8480c, 0xff1659a8, 0xff23753a, 0xff8b98a6, 0xffc2185b};
+    0xffd5dbe2, 0xff1659a8, 0xff23753a, 0xffa8480c, 0xff1659a8, 0xff23753a, 0xff8b98a6, 0xff00695c};
 const QRgb darkColours[CoilDrawing::roles - 1] = {
     0xff12171c, 0xffe8edf2, 0xff9eabb8, 0xff27313b, 0xff3b4855, 0xff8e9ba8, 0xff7d6cf0, 0xff12171c,
-    0xff36414d, 0xff8ec3ff, 0xff7ddb98, 0xffffb066, 0xff8ec3ff, 0xff7ddb98, 0xff71808e, 0xffff6fae};
+    0xff36414d, 0xff8ec3ff, 0xff7ddb98, 0xffffb066, 0xff8ec3ff, 0xff7ddb98, 0xff71808e, 0xff5dffe0};
 // From the first layer, or the least tension, to the last.
 const QRgb lightScale[] = {0xff40308f, 0xff8e3a9d, 0xffcc4a6e, 0xffe87d3e, 0xffe3b023};
 const QRgb darkScale[] = {0xff7566e0, 0xffb364cc, 0xffe8708c, 0xffff9d57, 0xffffdc6b};
@@ -473,11 +473,12 @@ QByteArray CoilDrawing::svg(const Palette &palette) const
 qreal CoilDrawing::textWidth(const QString &text, float pixels, bool isBold)
 {
     const ushort firstWide = 0x2e80;
+    const QString broad = QLatin1String("mwMW");
     qreal width = 0;
     for (const QChar letter : text) {
-        if (letter.unicode() >= firstWide)
+        if (letter.unicode() >= firstWide || broad.contains(letter))
             width += 1.0;
-        else if (letter.isUpper() || letter == QLatin1Char('m') || letter == QLatin1Char('w'))
+        else if (letter.isUpper())
             width += 0.8;
         else if (letter.isSpace() || letter.isPunct())
             width += 0.42;
