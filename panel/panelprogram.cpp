@@ -15,8 +15,11 @@
 #include "programs/programhistory.h"
 #include "programs/unsavedoffer.h"
 #include "programs/unsavedwork.h"
+#include "screens/coilpreview.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
+#include "screens/previewpane.h"
+#include "screens/previewscreen.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -179,10 +182,21 @@ void PanelProgram::makeScreens()
     m_programs =
         new ProgramScreen(m_options.rotation, m_options.plcFolder(), m_folders.own, &m_machine);
     m_programs->setHistory(m_history.get());
+    makePreview();
     m_teach = new TeachScreen(surface, m_folders.own, &m_machine);
     m_variables = new VariablesScreen(surface, m_folders.own);
     m_connections = new ConnectionsScreen(ownPath("connections.ini"));
     m_files = new FilesScreen(&m_stick, m_history.get());
+}
+
+void PanelProgram::makePreview()
+{
+    m_preview.reset(new CoilPreview(m_programs->editor()->document()));
+    m_previewScreen = new PreviewScreen(m_preview.get(), m_window->size(),
+                                        [this] { return m_programs->title(); });
+    if (PreviewScreen::hasRoomBeside(m_window->size()))
+        m_programs->setBeside(m_previewScreen->paneBeside());
+    m_preview->readProfile(ownPath("machine.ini"));
 }
 
 void PanelProgram::addScreens()
@@ -194,6 +208,7 @@ void PanelProgram::addScreens()
         Glyphs::Glyph glyph;
     } screens[] = {
         {m_programs, QT_TRANSLATE_NOOP("PanelWindow", "Program"), Glyphs::Program},
+        {m_previewScreen, QT_TRANSLATE_NOOP("PanelWindow", "Preview"), Glyphs::Preview},
         {m_teach, QT_TRANSLATE_NOOP("PanelWindow", "Teach"), Glyphs::Teach},
         {m_variables, QT_TRANSLATE_NOOP("PanelWindow", "Variables"), Glyphs::Variables},
         {m_connections, QT_TRANSLATE_NOOP("PanelWindow", "Connections"), Glyphs::Connections},
@@ -224,6 +239,24 @@ void PanelProgram::connectScreens()
     connect(m_files, &FilesScreen::importWanted, programWindow,
             [programWindow] { QMetaObject::invokeMethod(programWindow, "importExport"); });
     m_window->status()->follow(m_programs->transfer());
+    connectPreview();
+}
+
+// A touch on the coil leads to its line, and the line at the cursor is marked in the coil.
+void PanelProgram::connectPreview()
+{
+    WGCodeEditer *const editor = m_programs->editor();
+    connect(m_programs, &PanelScreen::titleChanged, m_previewScreen, &PanelScreen::titleChanged);
+    connect(m_previewScreen, &PreviewScreen::lineWanted, this, [this, editor](int line) {
+        m_window->showScreen(m_programs);
+        editor->gotoLine(line);
+        editor->centerCursor();
+    });
+    const auto follow = [this, editor] {
+        m_previewScreen->setLine(editor->textCursor().blockNumber() + 1);
+    };
+    connect(editor, &QPlainTextEdit::cursorPositionChanged, m_previewScreen, follow);
+    follow();
 }
 
 void PanelProgram::connectStartUp()
@@ -309,6 +342,7 @@ void PanelProgram::plan(Tour *tour) const
 {
     TourPlan *plan = new TourPlan(m_window.get(), tour);
     plan->visitProgramScreen(m_programs);
+    plan->visitPreviewScreen(m_previewScreen, m_programs);
     plan->visitTeachScreen(m_teach);
     plan->visitVariablesScreen(m_variables);
     plan->visitConnectionsScreen(m_connections);

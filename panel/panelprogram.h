@@ -20,6 +20,7 @@
 
 #include <memory>
 
+class CoilPreview;
 class ConnectionsScreen;
 class DeviceWatch;
 class FilesScreen;
@@ -27,6 +28,7 @@ class ListScreen;
 class PanelGlass;
 class PanelScreen;
 class PanelWindow;
+class PreviewScreen;
 class ProgramHistory;
 class ProgramScreen;
 class TeachScreen;
@@ -69,6 +71,8 @@ public:
     /// The panel's parts exist once it has started.
     PanelWindow *window() const { return m_window.get(); }
     ProgramScreen *programScreen() const { return m_programs; }
+    PreviewScreen *previewScreen() const { return m_previewScreen; }
+    CoilPreview *coilPreview() const { return m_preview.get(); }
     TeachScreen *teachScreen() const { return m_teach; }
     VariablesScreen *variablesScreen() const { return m_variables; }
     ConnectionsScreen *connectionsScreen() const { return m_connections; }
@@ -84,9 +88,11 @@ private:
     void chooseLanguage();
     void makeWindow();
     void makeScreens();
+    void makePreview();
     void addScreens();
     void connectWindow();
     void connectScreens();
+    void connectPreview();
     void connectStartUp();
     void watchDevices();
     void offerUnsavedWork();
@@ -110,11 +116,14 @@ private:
     Stick m_stick;
     MachineData m_machine;
     std::unique_ptr<PanelGlass> m_glass;
+    // The panes of the window look at it to their end.
+    std::unique_ptr<CoilPreview> m_preview;
     std::unique_ptr<PanelWindow> m_window;
     std::unique_ptr<ProgramHistory> m_history;
     std::unique_ptr<DeviceWatch> m_watch;
     // The window's own.
     ProgramScreen *m_programs = nullptr;
+    PreviewScreen *m_previewScreen = nullptr;
     TeachScreen *m_teach = nullptr;
     VariablesScreen *m_variables = nullptr;
     ConnectionsScreen *m_connections = nullptr;

@@ -8,6 +8,8 @@
 #include "programs/programdirectory.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
+#include "screens/previewpane.h"
+#include "screens/previewscreen.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -31,13 +33,16 @@
 namespace {
 
 const int mostPages = 8;
+// Of the sample that is open.
+const int middleLine = 227;
 
 // The steps name a button by its English text; it may show that in another language.
 bool says(const QToolButton *button, const QString &text)
 {
     const QByteArray source = text.toLatin1();
-    for (const char *context : {"WMMainWindow", "BarPager", "PanelWindow", "ProgramScreen",
-                                "ListScreen", "TeachScreen", "ConnectionsScreen", "FilesScreen"}) {
+    for (const char *context :
+         {"WMMainWindow", "BarPager", "PanelWindow", "ProgramScreen", "ListScreen", "TeachScreen",
+          "ConnectionsScreen", "FilesScreen", "PreviewPane"}) {
         if (button->text() == QCoreApplication::translate(context, source))
             return true;
     }
@@ -142,6 +147,10 @@ void TourPlan::openProgram(ProgramScreen *screen)
         screen->editor()->setTextCursor(cursor);
         screen->editor()->centerCursor();
     });
+    m_tour->waitUntil([screen] {
+        const PreviewPane *beside = screen->findChild<PreviewPane *>();
+        return !beside || beside->isUpToDate();
+    });
     m_tour->picture(QLatin1String("program"));
 }
 
@@ -217,6 +226,50 @@ void TourPlan::showMessages()
     m_tour->closeDialog();
 }
 
+void TourPlan::visitPreviewScreen(PreviewScreen *screen, ProgramScreen *programs)
+{
+    // The program as it was before the stops that change it, at a line in the midst of it.
+    m_tour->then([programs] {
+        WGCodeEditer *editor = programs->editor();
+        while (editor->document()->isUndoAvailable())
+            editor->undo();
+        editor->setTextCursor(QTextCursor(editor->document()->findBlockByNumber(middleLine)));
+    });
+    showScreen(screen);
+    m_tour->waitUntil([screen] { return screen->pane()->isUpToDate(); });
+    m_tour->picture(QLatin1String("preview"));
+    showCoil(screen, QLatin1String("Tension"), QLatin1String("preview-tension"));
+    pressKey(screen, QLatin1String("Tension"));
+    pressKey(screen, QLatin1String("Zoom +"));
+    pressKey(screen, QLatin1String("Zoom +"));
+    showCoil(screen, QLatin1String("Zoom +"), QLatin1String("preview-closer"));
+    pressKey(screen, QLatin1String("Fit"));
+    showCoil(screen, QLatin1String("To line"), QLatin1String("preview-to-line"));
+    pressKey(screen, QLatin1String("To line"));
+    showCoil(screen, QLatin1String("Path"), QLatin1String("preview-path"));
+    showCoil(screen, QLatin1String("Curves"), QLatin1String("preview-curves"));
+    showCoil(screen, QLatin1String("Time"), QLatin1String("preview-curves-time"));
+    // A panel with room has the figures beside each picture.
+    m_tour->then([this, screen] {
+        if (QToolButton *figures = toolButton(screen, QLatin1String("Figures")))
+            Tour::tap(figures);
+    });
+    m_tour->then([] {});
+    m_tour->then([this, screen] {
+        if (screen->pane()->view() == PreviewPane::Figures)
+            m_tour->save(QLatin1String("preview-figures"));
+    });
+    pressKey(screen, QLatin1String("Coil"));
+}
+
+void TourPlan::showCoil(PreviewScreen *screen, const QString &key, const QString &name)
+{
+    pressKey(screen, key);
+    m_tour->then([] {});
+    m_tour->waitUntil([screen] { return screen->pane()->isUpToDate(); });
+    m_tour->picture(name);
+}
+
 void TourPlan::visitTeachScreen(TeachScreen *screen)
 {
     openMenu();
@@ -224,7 +277,7 @@ void TourPlan::visitTeachScreen(TeachScreen *screen)
         if (toolButton(m_panel, QLatin1String("Menu")))
             m_tour->save(QLatin1String("menu"));
     });
-    showScreen(1);
+    showScreen(screen);
     m_tour->picture(QLatin1String("teach"));
     pressCell(screen, 2, "Label", 0);
     m_tour->picture(QLatin1String("teach-open-row"));
@@ -252,7 +305,7 @@ void TourPlan::visitTeachScreen(TeachScreen *screen)
 
 void TourPlan::visitVariablesScreen(VariablesScreen *screen)
 {
-    showScreen(2);
+    showScreen(screen);
     m_tour->picture(QLatin1String("variables"));
     pressCell(screen, 1, "ComboLineEdit", 0);
     m_tour->picture(QLatin1String("variables-keypad"));
@@ -261,7 +314,7 @@ void TourPlan::visitVariablesScreen(VariablesScreen *screen)
 
 void TourPlan::visitConnectionsScreen(ConnectionsScreen *screen)
 {
-    showScreen(3);
+    showScreen(screen);
     m_tour->picture(QLatin1String("connections"));
     pressKey(screen, QLatin1String("Edit the addresses"));
     m_tour->waitUntil([] { return topLevel("ConnEditor") != nullptr; });
@@ -274,7 +327,7 @@ void TourPlan::visitConnectionsScreen(ConnectionsScreen *screen)
 
 void TourPlan::visitFilesScreen(FilesScreen *screen)
 {
-    showScreen(4);
+    showScreen(screen);
     m_tour->picture(QLatin1String("files"));
     m_tour->then([screen] { QTimer::singleShot(0, screen, [screen] { screen->plug(); }); });
     // Without a folder that stands in for the stick nothing can be plugged, and nothing is asked.
@@ -338,11 +391,11 @@ void TourPlan::openMenu()
     m_tour->then([] {});
 }
 
-void TourPlan::showScreen(int index)
+void TourPlan::showScreen(const PanelScreen *screen)
 {
-    m_tour->then([this, index] {
+    m_tour->then([this, screen] {
         m_panel->messages()->closeAll();
-        m_panel->showScreen(index);
+        m_panel->showScreen(screen);
     });
     m_tour->then([] {});
 }

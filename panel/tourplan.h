@@ -10,7 +10,9 @@
 class ConnectionsScreen;
 class FilesScreen;
 class ListScreen;
+class PanelScreen;
 class PanelWindow;
+class PreviewScreen;
 class ProgramScreen;
 class TeachScreen;
 class Tour;
@@ -33,6 +35,8 @@ public:
 
     /// The stops at each screen, in the order of the calls.
     void visitProgramScreen(ProgramScreen *screen);
+    /// Of the program that is open by then, without the changes made since.
+    void visitPreviewScreen(PreviewScreen *screen, ProgramScreen *programs);
     void visitTeachScreen(TeachScreen *screen);
     void visitVariablesScreen(VariablesScreen *screen);
     void visitConnectionsScreen(ConnectionsScreen *screen);
@@ -50,7 +54,8 @@ private:
     void showMessages();
     void pressTool(QWidget *among, const QString &text);
     void openMenu();
-    void showScreen(int index);
+    void showScreen(const PanelScreen *screen);
+    void showCoil(PreviewScreen *screen, const QString &key, const QString &name);
     void pressKey(QWidget *among, const QString &text, int nth = 0);
     void pressCell(ListScreen *screen, int row, const char *className, int nth);
     void turnBar(QWidget *window);

@@ -21,18 +21,20 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QEventLoop>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QTextDocument>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace {
 
 // Longer than a healthy disk takes for the largest program.
 const int closingPatienceMs = 5000;
 const int closingTickMs = 50;
+// The window keeps what its bars need.
+const int besideWidth = 440;
 
 QSet<QToolButton *> buttonsWithoutParent()
 {
@@ -68,11 +70,13 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     , m_guard(new ProgramGuard(m_window, ProgramDirectory::path(), m_questioner.data(), this))
     , m_stateLine(new StateLine)
 {
-    QVBoxLayout *layout = new QVBoxLayout(this);
+    QGridLayout *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_stateLine);
-    layout->addWidget(m_window, 1);
+    layout->addWidget(m_stateLine, 0, 0);
+    layout->addWidget(m_window, 1, 0);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
     Look::keepLight(m_editor);
     // The line is marked already, in the colour of before.
     QMetaObject::invokeMethod(m_editor, "highlightCurrentLine");
@@ -117,6 +121,14 @@ void ProgramScreen::setHistory(ProgramHistory *history)
     m_guard->setHistory(history);
 }
 
+void ProgramScreen::setBeside(QWidget *pane)
+{
+    m_beside = pane;
+    m_beside->setFixedWidth(besideWidth);
+    QGridLayout *grid = static_cast<QGridLayout *>(layout());
+    grid->addWidget(m_beside, 0, 1, 2, 1);
+}
+
 PlcTransfer *ProgramScreen::transfer() const
 {
     return m_download->transfer();
@@ -147,7 +159,14 @@ QList<PanelKey *> ProgramScreen::keys()
     connect(redoKey, &PanelKey::clicked, m_editor, &WGCodeEditer::redo);
     connect(m_editor, &WGCodeEditer::undoAvailable, undoKey, &PanelKey::setEnabled);
     connect(m_editor, &WGCodeEditer::redoAvailable, redoKey, &PanelKey::setEnabled);
-    return {findKey, undoKey, redoKey};
+    QList<PanelKey *> keys{findKey, undoKey, redoKey};
+    if (m_beside) {
+        keys.prepend(new PanelKey(Glyphs::icon(Glyphs::Coil), [] { return tr("Coil"); }));
+        keys.first()->setCheckable(true);
+        keys.first()->setChecked(true);
+        connect(keys.first(), &PanelKey::toggled, m_beside, &QWidget::setVisible);
+    }
+    return keys;
 }
 
 bool ProgramScreen::isWorking() const

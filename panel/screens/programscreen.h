@@ -39,6 +39,9 @@ public:
     /// What a save replaces is kept there first. \a history must outlive the screen.
     void setHistory(ProgramHistory *history);
 
+    /// Puts \a pane at the side of the window, and takes it over. A key hides and shows it.
+    void setBeside(QWidget *pane);
+
     QString title() const override;
     bool hasChanges() const override;
     QList<PanelKey *> keys() override;
@@ -75,6 +78,7 @@ private:
     CheckedDownload *m_download;
     ProgramGuard *m_guard;
     StateLine *m_stateLine;
+    QWidget *m_beside = nullptr;
 };
 
 #endif // PROGRAMSCREEN_H

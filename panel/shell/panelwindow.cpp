@@ -25,8 +25,8 @@
 
 namespace {
 
-// Five of them and the key of the languages are as wide as the narrowest panel.
-const int tabWidth = 74;
+// Six of them and the key of the languages are as wide as the narrowest panel.
+const int tabWidth = 60;
 const int menuTabWidth = 76;
 const int statusMs = 2000;
 const int messageLine = 20;
@@ -291,6 +291,14 @@ void PanelWindow::showScreen(int index)
             key->setVisible(i == index);
     }
     showTitle();
+}
+
+void PanelWindow::showScreen(const PanelScreen *screen)
+{
+    for (int i = 0; i < m_entries.size(); ++i) {
+        if (m_entries.at(i).screen == screen)
+            return showScreen(i);
+    }
 }
 
 void PanelWindow::showTitle()

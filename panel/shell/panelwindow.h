@@ -61,6 +61,8 @@ public:
     PanelScreen *currentScreen() const;
     /// \a index counts from 0 in the order of addScreen().
     void showScreen(int index);
+    /// Shows one of those that were added.
+    void showScreen(const PanelScreen *screen);
 
     /// What the operator was told. Whoever is no screen and has something to say tells it there.
     MessageLog *messages() { return &m_log; }

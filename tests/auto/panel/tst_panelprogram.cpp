@@ -10,6 +10,8 @@
 #include "samples.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
+#include "screens/previewpane.h"
+#include "screens/previewscreen.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -97,9 +99,9 @@ void TestPanelProgram::aStartedPanelHasItsScreens()
     QCOMPARE(program.start(), PanelProgram::Started);
     QVERIFY(program.window()->isVisible());
     QCOMPARE(program.window()->size(), QSize(800, 480));
-    const QList<PanelScreen *> screens{program.programScreen(), program.teachScreen(),
-                                       program.variablesScreen(), program.connectionsScreen(),
-                                       program.filesScreen()};
+    const QList<PanelScreen *> screens{program.programScreen(),     program.previewScreen(),
+                                       program.teachScreen(),       program.variablesScreen(),
+                                       program.connectionsScreen(), program.filesScreen()};
     for (int i = 0; i < screens.size(); ++i) {
         program.window()->showScreen(i);
         QCOMPARE(program.window()->currentScreen(), screens.at(i));
