@@ -92,7 +92,7 @@ bool isColourOnly(const QTextLayout *layout)
     return true;
 }
 
-bool isShownAsNeeded(const QScrollBar *bar, Qt::ScrollBarPolicy policy, const QWidget *view)
+bool isShownAsNeeded(const QScrollBar *bar, Qt::ScrollBarPolicy policy, QWidget *view)
 {
     const bool isNeeded = policy == Qt::ScrollBarAlwaysOn
                           || (policy == Qt::ScrollBarAsNeeded && bar->minimum() < bar->maximum());
@@ -153,7 +153,7 @@ bool PieceAppender::holdsPaintingOf(const QPlainTextEdit *view)
     return false;
 }
 
-bool PieceAppender::areBarsAsNeeded(const QPlainTextEdit *view)
+bool PieceAppender::areBarsAsNeeded(QPlainTextEdit *view)
 {
     return isShownAsNeeded(view->horizontalScrollBar(), view->horizontalScrollBarPolicy(), view)
            && isShownAsNeeded(view->verticalScrollBar(), view->verticalScrollBarPolicy(), view);

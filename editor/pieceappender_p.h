@@ -56,7 +56,7 @@ public:
     static bool holdsPaintingOf(const QPlainTextEdit *view);
 
     /// Whether neither scroll bar is still to come or to go.
-    static bool areBarsAsNeeded(const QPlainTextEdit *view);
+    static bool areBarsAsNeeded(QPlainTextEdit *view);
 
 protected:
     void timerEvent(QTimerEvent *event) override;
