@@ -16,8 +16,10 @@
 
 namespace {
 
-/// Milliseconds between two paintings of the editor while a program goes in.
+/// Milliseconds between two paintings of the editor while a program goes in; and until the first,
+/// which shows that it does.
 const int paintInterval = 200;
+const int firstPaintInterval = 50;
 
 /// Distances from the last block for which it is noted whether they were passed.
 const int passedLimit = 1 << 16;
@@ -118,6 +120,7 @@ PieceAppender::PieceAppender(QPlainTextEdit *view, BlockFormatter *formatter,
     , m_formatter(formatter)
     , m_access(access)
     , m_outer(innermost)
+    , m_hasPainted(false)
     , m_isRelaidOut(false)
     , m_isHolding(false)
     , m_isInserting(false)
@@ -338,7 +341,7 @@ void PieceAppender::requestUpdate(const QRect &rect, int dy)
 void PieceAppender::paintLater()
 {
     if (!m_timer.isActive())
-        m_timer.start(paintInterval, this);
+        m_timer.start(m_hasPainted ? paintInterval : firstPaintInterval, this);
 }
 
 /// A pane that got another size asks for painting by itself.
@@ -352,6 +355,7 @@ void PieceAppender::paintWindowLater()
 void PieceAppender::paintNow()
 {
     m_timer.stop();
+    m_hasPainted = true;
     if (m_view)
         m_view->update();
     if (m_window)

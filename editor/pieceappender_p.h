@@ -34,7 +34,7 @@ struct ViewAccess
 /// Appends many pieces of text to an editor, as appendPlainText() does, with the same result after
 /// each: in the document, in the view, and in what their signals tell.
 ///
-/// What it spares is painting, which comes every 200 ms at the most, and laying
+/// What it spares is painting, which comes every 200 ms at the most after the first one, and laying
 /// out lines to learn what is known without: that they are as high as all the others and narrower
 /// than the pane. Where that is not known, lines are laid out as the toolkit does.
 ///
@@ -126,6 +126,7 @@ private:
     PieceAppender *m_outer;     ///< the one at work on another view, or on the same
     QBasicTimer m_timer;        ///< runs while there is something to paint
     QPointer<QWidget> m_window; ///< that waits with it
+    bool m_hasPainted;          ///< since the first piece
     bool m_isRelaidOut;
 
     bool m_isHolding; ///< painting
