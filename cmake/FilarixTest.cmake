@@ -23,10 +23,10 @@ function(filarix_set_timeout name seconds)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds})
 endfunction()
 
-# filarix_label(NAME): a test says which room of ours it is about, "host", "panel" or "editor", say.
+# filarix_label(NAME): a test says which room it is about, "host", "panel" or "editor", say.
 function(filarix_label name)
-  if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/tests/auto/([a-z]+)(/|$)")
-    set_property(TEST ${name} APPEND PROPERTY LABELS ${CMAKE_MATCH_1})
+  if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/tests/(auto/)?([a-z]+)(/|$)")
+    set_property(TEST ${name} APPEND PROPERTY LABELS ${CMAKE_MATCH_2})
   endif()
 endfunction()
 

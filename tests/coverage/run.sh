@@ -14,7 +14,7 @@ export FILARIX_SANDBOX_WRITABLE=$build
 
 library=(base gcode window editor controls list tables transfer)
 # What counts branches, and no more. The program itself is the tour's.
-targets=(panel/filarix-panel)
+targets=(panel/filarix-panel tests/robustness/all)
 for folder in "${library[@]}" host panel; do
     [ ! -e "tests/auto/$folder/CMakeLists.txt" ] || targets+=("tests/auto/$folder/all")
 done
@@ -46,7 +46,7 @@ cmake --preset coverage
 cmake --build --preset coverage --parallel "$(nproc)" --target "${targets[@]}"
 
 find "$build" -name '*.gcda' -delete
-pass --label-regex "^($(IFS='|' && echo "${library[*]}"))\$"
+pass --label-regex "^(robustness|$(IFS='|' && echo "${library[*]}"))\$"
 count library.json "${library[@]}"
 pass --label-regex '^(host|panel)$' --exclude-regex "$left_out"
 pass --tests-regex "$walks"
