@@ -75,7 +75,7 @@ void CheckedDownload::start(const QString &path)
 
 void CheckedDownload::stop()
 {
-    m_isStopped = m_isComparing;
+    m_isStopped = m_isReading;
     m_snapshot.stop();
     m_transfer.stop();
 }
@@ -90,42 +90,73 @@ void CheckedDownload::showCopying(int percent)
 void CheckedDownload::lookAtShown()
 {
     m_isCopying = false;
+    m_isReading = true;
     m_facts.program = m_snapshot.facts();
     QString text;
     if (m_shown && m_shown(m_snapshot.programPath(), &text))
         compare(text);
     else
-        ask();
+        inspect();
 }
 
 // With the copy: the program itself may be another one by now.
 void CheckedDownload::compare(const QString &shownText)
 {
     m_facts.shownLines = ProgramText::lines(shownText);
-    m_isComparing = true;
     const std::shared_ptr<ProgramComparison> comparison =
         std::make_shared<ProgramComparison>(m_snapshot.copyPath(), shownText);
     m_jobs.run(comparison, [this, comparison](bool hasEnded) {
-        m_isComparing = false;
         // What stalled may not be looked at any more.
         m_facts.standing =
             hasEnded ? standingOf(comparison->verdict()) : DownloadFacts::NotCompared;
-        if (m_isStopped)
-            endStopped(tr("The download was stopped. The PLC keeps what it had."));
-        else
-            ask();
+        goOn([this] { inspect(); });
     });
+}
+
+// With the copy, too: those very bytes are sent.
+void CheckedDownload::inspect()
+{
+    const std::shared_ptr<ProgramInspection> inspection =
+        m_inspector ? m_inspector(m_snapshot.copyPath()) : std::shared_ptr<ProgramInspection>();
+    if (!inspection)
+        return ask();
+    m_jobs.run(inspection, [this, inspection](bool hasEnded) {
+        if (hasEnded)
+            m_facts.verdict = inspection->verdict();
+        else
+            m_facts.verdict.state = ProgramVerdict::Unfinished;
+        goOn([this] { ask(); });
+    });
+}
+
+void CheckedDownload::goOn(const std::function<void()> &next)
+{
+    if (!m_isStopped)
+        return next();
+    m_isReading = false;
+    endStopped(tr("The download was stopped. The PLC keeps what it had."));
 }
 
 void CheckedDownload::ask()
 {
+    m_isReading = false;
     const QPointer<CheckedDownload> self(this);
-    const bool mayGo = m_questioner->ask(m_facts.question()) == sendAnswer;
+    const bool mayGo = isAgreedTo();
     if (!self)
         return;
     if (!mayGo)
         return end(tr("Nothing was sent. The PLC keeps what it had."), Message::Information);
     m_transfer.start(m_snapshot.programPath(), m_snapshot.copyPath(), m_facts.program.hash);
+}
+
+// The first question may outlive this object, which is then gone without an answer.
+bool CheckedDownload::isAgreedTo()
+{
+    const QPointer<CheckedDownload> self(this);
+    const DownloadFacts facts = m_facts;
+    if (m_questioner->ask(facts.question()) != sendAnswer || facts.verdict.forbidsSending || !self)
+        return false;
+    return !facts.verdict.isDoubtful() || m_questioner->ask(facts.secondQuestion()) == sendAnswer;
 }
 
 void CheckedDownload::showSending(int percent)

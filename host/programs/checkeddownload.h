@@ -35,6 +35,8 @@ public:
     /// Gives the text that an editor shows of the program at \a path; false when the editor shows
     /// another one.
     typedef std::function<bool(const QString &path, QString *text)> Shown;
+    /// Makes the check of the program whose private copy is at \a path.
+    typedef std::function<std::shared_ptr<ProgramInspection>(const QString &path)> Inspector;
 
     /// Programs go to the folder \a plcDir, which may be missing until a download wants it. Copies
     /// wait in \a copyDir, a folder for them alone, made if it is missing. \a questioner must
@@ -44,6 +46,10 @@ public:
 
     /// Without \a shown the question tells nothing of an editor.
     void setShown(const Shown &shown) { m_shown = shown; }
+    /// Has each program checked before the question, which tells what was found. A program with
+    /// errors, or one that could not be checked, takes a second question. One whose verdict forbids
+    /// sending is not sent. Without \a inspector nothing is checked.
+    void setInspector(const Inspector &inspector) { m_inspector = inspector; }
 
     bool isRunning() const { return m_isRunning; }
     /// What the question is about; of the last download once that has ended.
@@ -87,7 +93,10 @@ private Q_SLOTS:
 
 private:
     void compare(const QString &shownText);
+    void inspect();
+    void goOn(const std::function<void()> &next);
     void ask();
+    bool isAgreedTo();
     void end(const QString &text, Message::Tone tone, const QString &cause = QString());
 
     ProgramSnapshot m_snapshot;
@@ -95,11 +104,13 @@ private:
     FileTaskQueue m_jobs;
     Questioner *m_questioner;
     Shown m_shown;
+    Inspector m_inspector;
     DownloadFacts m_facts;
     QElapsedTimer m_copyingFor;
     bool m_isRunning = false;
     bool m_isCopying = false;
-    bool m_isComparing = false;
+    /// The copy is read once more, to be compared and checked.
+    bool m_isReading = false;
     bool m_isStopped = false;
 };
 

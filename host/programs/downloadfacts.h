@@ -6,6 +6,7 @@
 
 #include "base/filarixhostglobal.h"
 #include "base/questioner.h"
+#include "programs/programinspection.h"
 #include "programs/programsnapshot.h"
 
 #include <QCoreApplication>
@@ -31,13 +32,18 @@ public:
     Standing standing = NotShown;
     /// As the editor counts; -1 when the editor doesn't show the program.
     qint64 shownLines = -1;
+    /// What a check says of that file.
+    ProgramVerdict verdict;
 
     /// The number of lines in words; with the editor's where the two differ, and a note where the
     /// numbers are equal but the lines aren't.
     QString lines() const;
-    /// Whether this program is to be sent: answer 0 is Cancel, answer 1 is Send. The facts have the
-    /// keys "name", "lines" and "checksum".
+    /// Whether this program is to be sent: answer 0 is Cancel, answer 1 is Send. A program that
+    /// must not be sent has the first answer alone. The facts have the keys "name", "lines" and
+    /// "checksum"; after a check there is "check", too.
     Question question() const;
+    /// What is asked after Send when the verdict is doubtful, with the same answers.
+    Question secondQuestion() const;
 };
 
 #endif // DOWNLOADFACTS_H

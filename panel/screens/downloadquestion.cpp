@@ -79,8 +79,10 @@ DownloadQuestion::DownloadQuestion(const Question &question, QWidget *parent) : 
     }
     grid->setColumnStretch(1, 1);
 
-    QPushButton *send = new QPushButton(question.answers.at(1));
+    // What must not be sent has no second answer: the key stays where it is, and is off.
+    QPushButton *send = new QPushButton(question.answers.value(1, tr("Send")));
     send->setObjectName(QLatin1String("send"));
+    send->setEnabled(question.answers.size() > 1);
     QPushButton *cancel = new QPushButton(question.answers.at(0));
     cancel->setObjectName(QLatin1String("cancel"));
     // A press on Return that was meant for something else must not move the machine.

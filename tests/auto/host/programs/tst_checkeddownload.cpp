@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QScopedPointer>
+#include <QSemaphore>
 #include <QSignalSpy>
 
 #include <fcntl.h>
@@ -35,6 +36,12 @@ private Q_SLOTS:
     void questionTellsHowTheEditorStands_data();
     void questionTellsHowTheEditorStands();
     void copyThatCannotBeReadAgainIsNotCompared();
+    void checkIsOfTheBytesThatAreSent();
+    void errorsTakeASecondTouch_data();
+    void errorsTakeASecondTouch();
+    void whatTheVerdictForbidsIsNotSent();
+    void checkThatHangsIsNoCheck();
+    void stopWhileCheckingAsksNothing();
     void stopWhileCopyingSendsNothing();
     void stopWhileComparingAsksNothing();
     void stopWhileSendingTakesTheProgramBack();
@@ -90,6 +97,33 @@ public:
 
     std::function<int()> act;
 };
+
+// Finds what the test says.
+class FixedInspection : public ProgramInspection
+{
+public:
+    explicit FixedInspection(const ProgramVerdict &verdict) : m_verdict(verdict) {}
+
+    bool step() override { return false; }
+    ProgramVerdict verdict() const override { return m_verdict; }
+
+private:
+    const ProgramVerdict m_verdict;
+};
+
+ProgramVerdict verdict(ProgramVerdict::State state, int errors = 0, int warnings = 0)
+{
+    ProgramVerdict verdict;
+    verdict.state = state;
+    verdict.errors = errors;
+    verdict.warnings = warnings;
+    return verdict;
+}
+
+CheckedDownload::Inspector finding(const ProgramVerdict &verdict)
+{
+    return [verdict](const QString &) { return std::make_shared<FixedInspection>(verdict); };
+}
 
 } // namespace
 
@@ -318,6 +352,115 @@ void TestCheckedDownload::copyThatCannotBeReadAgainIsNotCompared()
     QTRY_COMPARE(m_told->size(), 1);
     QCOMPARE(int(m_download->facts().standing), int(DownloadFacts::NotCompared));
     QCOMPARE(m_questioner.asked.first().facts.at(1).value, QString("2 in the file, not compared"));
+}
+
+void TestCheckedDownload::checkIsOfTheBytesThatAreSent()
+{
+    writeFile(m_path, "G01\n");
+    QByteArray checked;
+    m_download->setInspector([&](const QString &path) {
+        checked = readFile(path);
+        // Whoever writes it now writes what is not sent.
+        writeFile(m_path, "G02\n");
+        return std::make_shared<FixedInspection>(verdict(ProgramVerdict::Checked, 0, 1));
+    });
+    m_questioner.answers << send;
+    start();
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(checked, QByteArray("G01\n"));
+    QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("G01\n"));
+    QCOMPARE(m_questioner.asked.size(), 1);
+    QCOMPARE(m_questioner.asked.first().facts.last().value, QString("Errors: 0, warnings: 1"));
+}
+
+void TestCheckedDownload::errorsTakeASecondTouch_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("errors");
+    QTest::addColumn<int>("second");
+    QTest::addColumn<int>("asked");
+    QTest::addColumn<bool>("sent");
+    const int checked = ProgramVerdict::Checked;
+    const int unfinished = ProgramVerdict::Unfinished;
+    QTest::newRow("no error") << checked << 0 << 0 << 1 << true;
+    QTest::newRow("error, second thoughts") << checked << 2 << 0 << 2 << false;
+    QTest::newRow("error, sent all the same") << checked << 2 << send << 2 << true;
+    QTest::newRow("unfinished, second thoughts") << unfinished << 0 << 0 << 2 << false;
+    QTest::newRow("unfinished, sent all the same") << unfinished << 0 << send << 2 << true;
+}
+
+void TestCheckedDownload::errorsTakeASecondTouch()
+{
+    QFETCH(int, state);
+    QFETCH(int, errors);
+    QFETCH(int, second);
+    QFETCH(bool, sent);
+    writeFile(m_path, "G01\n");
+    m_download->setInspector(finding(verdict(ProgramVerdict::State(state), errors)));
+    m_questioner.answers << send << second;
+    start();
+    QTRY_COMPARE(m_told->size(), 1);
+    QTEST(int(m_questioner.asked.size()), "asked");
+    QCOMPARE(QFile::exists(m_plc + "/coil.cnc"), sent);
+}
+
+// A questioner of a host's own may answer what it was not asked.
+void TestCheckedDownload::whatTheVerdictForbidsIsNotSent()
+{
+    writeFile(m_path, "G01\n");
+    ProgramVerdict forbidden = verdict(ProgramVerdict::Checked, 1);
+    forbidden.forbidsSending = true;
+    m_download->setInspector(finding(forbidden));
+    m_questioner.answers << send << send;
+    start();
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(text(), QString("Nothing was sent. The PLC keeps what it had."));
+    QCOMPARE(m_questioner.asked.size(), 1);
+    QCOMPARE(m_questioner.asked.first().answers, QStringList("Cancel"));
+    QCOMPARE(sent(), QStringList());
+}
+
+void TestCheckedDownload::checkThatHangsIsNoCheck()
+{
+    class Hanging : public FixedInspection
+    {
+    public:
+        explicit Hanging(const std::shared_ptr<QSemaphore> &gate)
+            : FixedInspection(::verdict(ProgramVerdict::Checked)), m_gate(gate)
+        {}
+        bool step() override
+        {
+            m_gate->acquire();
+            return false;
+        }
+
+    private:
+        const std::shared_ptr<QSemaphore> m_gate;
+    };
+    writeFile(m_path, "G01\n");
+    const std::shared_ptr<QSemaphore> gate = std::make_shared<QSemaphore>();
+    m_download->setStallTime(200);
+    m_download->setInspector([&](const QString &) { return std::make_shared<Hanging>(gate); });
+    start();
+    QTRY_COMPARE(m_told->size(), 1);
+    gate->release();
+    QCOMPARE(m_questioner.asked.size(), 1);
+    QCOMPARE(int(m_download->facts().verdict.state), int(ProgramVerdict::Unfinished));
+    QCOMPARE(sent(), QStringList());
+}
+
+void TestCheckedDownload::stopWhileCheckingAsksNothing()
+{
+    writeFile(m_path, "G01\n");
+    m_questioner.answers << send;
+    m_download->setInspector([&](const QString &) {
+        QMetaObject::invokeMethod(m_download.data(), "stop", Qt::QueuedConnection);
+        return std::make_shared<FixedInspection>(verdict(ProgramVerdict::Checked));
+    });
+    start();
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(text(), QString("The download was stopped. The PLC keeps what it had."));
+    QVERIFY(m_questioner.asked.isEmpty());
 }
 
 void TestCheckedDownload::stopWhileCopyingSendsNothing()

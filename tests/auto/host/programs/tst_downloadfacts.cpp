@@ -14,6 +14,10 @@ private Q_SLOTS:
     void firstAnswerSendsNothing();
     void questionHoldsWhatAProgramIsToldBy();
     void nameStaysInOneLine();
+    void verdictIsAFact_data();
+    void verdictIsAFact();
+    void forbiddenProgramHasNoSecondAnswer();
+    void secondQuestionSaysWhy();
 };
 
 static DownloadFacts facts()
@@ -86,6 +90,61 @@ void TestDownloadFacts::nameStaysInOneLine()
     odd.program.name = "coil\n  two.cnc";
     QCOMPARE(odd.question().facts.first().value, QString("coil two.cnc"));
     QVERIFY(!odd.question().facts.first().mayBreak);
+}
+
+void TestDownloadFacts::verdictIsAFact_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("errors");
+    QTest::addColumn<int>("warnings");
+    QTest::addColumn<QString>("value");
+    const int checked = ProgramVerdict::Checked;
+    QTest::newRow("nothing") << checked << 0 << 0 << "Nothing found";
+    QTest::newRow("a warning") << checked << 0 << 1 << "Errors: 0, warnings: 1";
+    QTest::newRow("both") << checked << 2 << 1 << "Errors: 2, warnings: 1";
+    QTest::newRow("unfinished") << int(ProgramVerdict::Unfinished) << 0 << 0
+                                << "Not checked to the end";
+}
+
+void TestDownloadFacts::verdictIsAFact()
+{
+    QFETCH(int, state);
+    QFETCH(int, errors);
+    QFETCH(int, warnings);
+    DownloadFacts checked = facts();
+    checked.verdict.state = ProgramVerdict::State(state);
+    checked.verdict.errors = errors;
+    checked.verdict.warnings = warnings;
+    const QuestionFact fact = checked.question().facts.last();
+    QCOMPARE(fact.key, QString("check"));
+    QTEST(fact.value, "value");
+}
+
+void TestDownloadFacts::forbiddenProgramHasNoSecondAnswer()
+{
+    DownloadFacts forbidden = facts();
+    forbidden.verdict.state = ProgramVerdict::Checked;
+    forbidden.verdict.errors = 1;
+    forbidden.verdict.forbidsSending = true;
+    QCOMPARE(forbidden.question().answers, QStringList("Cancel"));
+    QCOMPARE(forbidden.question().text,
+             QString("This machine takes no program with errors. Mend them, then send it."));
+}
+
+void TestDownloadFacts::secondQuestionSaysWhy()
+{
+    DownloadFacts faulty = facts();
+    faulty.verdict.state = ProgramVerdict::Checked;
+    faulty.verdict.errors = 2;
+    QCOMPARE(faulty.secondQuestion().text,
+             QString("The check found errors: 2. The machine may stop or wind something else. "
+                     "Send it all the same?"));
+    QCOMPARE(faulty.secondQuestion().answers, faulty.question().answers);
+    faulty.verdict = ProgramVerdict();
+    faulty.verdict.state = ProgramVerdict::Unfinished;
+    QCOMPARE(faulty.secondQuestion().text,
+             QString("The program could not be checked to the end. Errors may be in it. "
+                     "Send it all the same?"));
 }
 
 FILARIX_TEST_MAIN(TestDownloadFacts)

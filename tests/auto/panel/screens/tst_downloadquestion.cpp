@@ -22,6 +22,7 @@ private Q_SLOTS:
     void keysAnswer_data();
     void keysAnswer();
     void returnDoesNotSend();
+    void forbiddenProgramHasItsKeyOff();
     void longNamesAreToldApartByTheirEnds();
     void keysAreForThumbs();
     void questionerAsksByThem();
@@ -78,6 +79,23 @@ void TestDownloadQuestion::returnDoesNotSend()
     question.show();
     QTest::keyClick(&question, Qt::Key_Return);
     QCOMPARE(question.result(), int(QDialog::Rejected));
+}
+
+// The key stays where it is: another one in its place would be pressed for it.
+void TestDownloadQuestion::forbiddenProgramHasItsKeyOff()
+{
+    DownloadFacts facts;
+    facts.verdict.state = ProgramVerdict::Checked;
+    facts.verdict.errors = 3;
+    facts.verdict.forbidsSending = true;
+    DownloadQuestion question(facts.question());
+    question.show();
+    QPushButton *send = question.findChild<QPushButton *>("send");
+    QCOMPARE(send->text(), QString("Send"));
+    QVERIFY(!send->isEnabled());
+    QTest::mouseClick(send, Qt::LeftButton);
+    QVERIFY(question.isVisible());
+    QCOMPARE(text(question, "check"), QString("Errors: 3, warnings: 0"));
 }
 
 void TestDownloadQuestion::longNamesAreToldApartByTheirEnds()
