@@ -128,6 +128,14 @@ QString takeStick(const QString &name, const QString &value, Options *options)
     return takeFolder(name, value, &options->stickDir);
 }
 
+QString takeProfile(const QString &name, const QString &value, Options *options)
+{
+    if (value.isEmpty())
+        return QString::fromLatin1("--%1 needs a file.").arg(name);
+    options->profile = absolutePath(value);
+    return QString();
+}
+
 QString takeTour(const QString &name, const QString &value, Options *options)
 {
     return takeFolder(name, value, &options->tourDir);
@@ -171,6 +179,10 @@ const struct
     {"stick", "DIR", &takeStick,
      "Folder that stands in for a USB stick, to be plugged and pulled on the Files screen. Where "
      "%2 belongs to the system, ./run --stick DIR starts the panel with one of its own."},
+    {"profile", "FILE", &takeProfile,
+     "The machine's profile: what its words mean, its bobbin and its limits, for the preview and the "
+     "check. Without it: machine.ini in the panel's folder; where there is none, the machine of the "
+     "sample programs."},
     {"tour", "DIR", &takeTour,
      "Walk all screens without an operator, leave a numbered PNG of each in DIR, and end. Needs no "
      "display. The walk has a home of its own, with a program directory and a PLC, that goes with "

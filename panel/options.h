@@ -34,6 +34,8 @@ struct Options
     QString plcDir;
     /// Absolute path of the folder that stands in for a USB stick; empty for the panel's own.
     QString stickDir;
+    /// Absolute path of the machine's profile; empty for the panel's own, or the built-in one.
+    QString profile;
     /// Code of the language to speak; empty for the operator's choice.
     QString language;
     /// "light" or "dark"; empty for the operator's choice.

@@ -52,6 +52,10 @@ enum Glyph {
     Clock,
     Grow,
     Export,
+    Check,
+    List,
+    Up,
+    Down,
     Inform,
     Warn,
     Alarm

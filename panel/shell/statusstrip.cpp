@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTime>
 
@@ -43,6 +44,12 @@ StatusItem::StatusItem(Glyphs::Glyph glyph, QWidget *parent) : QLabel(parent), m
     setContentsMargins(glyphSide + glyphGap, 0, 0, 0);
 }
 
+void StatusItem::setGlyph(Glyphs::Glyph glyph)
+{
+    m_glyph = glyph;
+    update();
+}
+
 void StatusItem::set(const QString &word, Message::Tone tone, const QString &meaning)
 {
     setToneless(word, meaning);
@@ -70,11 +77,14 @@ void StatusItem::paintEvent(QPaintEvent *event)
 StatusStrip::StatusStrip(bool roomy, QWidget *parent)
     : QWidget(parent)
     , m_roomy(roomy)
+    , m_check(new StatusItem(Glyphs::Check))
     , m_plc(new StatusItem(Glyphs::Plc))
     , m_stick(new StatusItem(Glyphs::Stick))
     , m_storage(new StatusItem(Glyphs::Storage))
     , m_clock(new QLabel)
 {
+    m_check->setObjectName(QLatin1String("checkState"));
+    m_check->hide();
     m_plc->setObjectName(QLatin1String("plcState"));
     m_stick->setObjectName(QLatin1String("stickState"));
     m_storage->setObjectName(QLatin1String("storageState"));
@@ -84,7 +94,7 @@ StatusStrip::StatusStrip(bool roomy, QWidget *parent)
     QHBoxLayout *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(itemGap);
-    for (QWidget *item : {static_cast<QWidget *>(m_plc), static_cast<QWidget *>(m_stick),
+    for (QWidget *item : {static_cast<QWidget *>(m_check), static_cast<QWidget *>(m_plc), static_cast<QWidget *>(m_stick),
                           static_cast<QWidget *>(m_storage), static_cast<QWidget *>(m_clock)})
         row->addWidget(item);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -135,6 +145,37 @@ void StatusStrip::showDevices(const DeviceState &state)
     showAll();
 }
 
+void StatusStrip::showCheck(Check check, int errors, int warnings)
+{
+    m_checkState = check;
+    m_errors = errors;
+    m_warnings = warnings;
+    m_check->show();
+    showCheck();
+}
+
+void StatusStrip::mousePressEvent(QMouseEvent *event)
+{
+    event->setAccepted(isOnCheck(event->pos()));
+}
+
+void StatusStrip::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->setAccepted(isOnCheck(event->pos()));
+    if (event->isAccepted())
+        Q_EMIT checkTouched();
+}
+
+// A thumb is wider than a number.
+bool StatusStrip::isOnCheck(const QPoint &point) const
+{
+    if (m_check->isHidden())
+        return false;
+    const int margin = qMax(0, (Look::smallestTouch - m_check->width()) / 2);
+    const QRect area = m_check->geometry().adjusted(-margin, 0, margin, 0);
+    return point.x() >= area.left() && point.x() <= area.right() && rect().contains(point);
+}
+
 void StatusStrip::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -173,6 +214,7 @@ void StatusStrip::noteStop()
 
 void StatusStrip::showAll()
 {
+    showCheck();
     showPlc();
     showStick();
     showStorage();
@@ -181,6 +223,20 @@ void StatusStrip::showAll()
 QString StatusStrip::named(const QString &name, const QString &word) const
 {
     return m_roomy ? name + QLatin1Char(' ') + word : word;
+}
+
+void StatusStrip::showCheck()
+{
+    const QString name = tr("Check");
+    m_check->setGlyph(m_errors > 0 ? Glyphs::Alarm : m_warnings > 0 ? Glyphs::Warn : Glyphs::Check);
+    if (m_checkState == CheckUnknown)
+        return m_check->setToneless(named(name, dash()), tr("Check: not known"));
+    const QString meaning = tr("Check: errors %1, warnings %2").arg(m_errors).arg(m_warnings);
+    if (m_errors > 0)
+        return m_check->set(named(name, QString::number(m_errors)), Message::Alarm, meaning);
+    if (m_warnings > 0)
+        return m_check->set(named(name, QString::number(m_warnings)), Message::Warning, meaning);
+    m_check->set(named(name, tr("ok")), Message::Information, tr("Check: nothing found"));
 }
 
 void StatusStrip::showPlc()

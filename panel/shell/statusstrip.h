@@ -21,6 +21,7 @@ class StatusItem : public QLabel
 public:
     explicit StatusItem(Glyphs::Glyph glyph, QWidget *parent = nullptr);
 
+    void setGlyph(Glyphs::Glyph glyph);
     /// \a meaning says it in full, for operators who have the panel read to them.
     void set(const QString &word, Message::Tone tone, const QString &meaning);
     /// The same for what is not known, or not there and need not be.
@@ -33,12 +34,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const Glyphs::Glyph m_glyph;
+    Glyphs::Glyph m_glyph;
     Message::Tone m_tone = Message::Information;
     bool m_hasTone = false;
 };
 
-/// The state of the PLC, of the stick and of the storage, and the clock, in one line.
+/// The state of the program, of the PLC, of the stick and of the storage, and the clock, in one
+/// line.
 ///
 /// Each state is told by a word and by a colour. What is not known is a dash.
 class StatusStrip : public QWidget
@@ -47,6 +49,7 @@ class StatusStrip : public QWidget
 
 public:
     enum Plc { PlcUnknown, PlcReady, PlcAway, PlcSending, PlcFailed };
+    enum Check { CheckUnknown, Checked };
     enum Storage { StorageUnknown, StorageAmple, StorageLow, StorageFull };
 
     /// Where there is room, a \a roomy one names the things, and its clock shows seconds.
@@ -61,11 +64,20 @@ public:
     /// program of a usual size can be stored.
     static Storage storageOf(qint64 freeBytes);
 
+    /// What the check says of the program. Nothing is shown of it before the first call.
+    void showCheck(Check check, int errors, int warnings);
+
+Q_SIGNALS:
+    /// The operator touched what the strip shows of the check.
+    void checkTouched();
+
 public Q_SLOTS:
     void showDevices(const DeviceState &state);
 
 protected:
     void changeEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void noteProgress(int percent);
@@ -73,17 +85,23 @@ private:
     void noteFailure(bool isPlcAtFault);
     void noteStop();
     void showAll();
+    void showCheck();
     void showPlc();
     void showStick();
     void showStorage();
+    bool isOnCheck(const QPoint &point) const;
     void tick();
     QString named(const QString &name, const QString &word) const;
 
     const bool m_roomy;
     DeviceState m_devices;
     bool m_isKnown = false;
+    Check m_checkState = CheckUnknown;
+    int m_errors = 0;
+    int m_warnings = 0;
     int m_percent = -1;
     bool m_hasFailed = false;
+    StatusItem *m_check;
     StatusItem *m_plc;
     StatusItem *m_stick;
     StatusItem *m_storage;

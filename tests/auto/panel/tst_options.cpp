@@ -43,6 +43,7 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
     QCOMPARE(options.plcDir, QString());
     QCOMPARE(options.tourDir, QString());
     QCOMPARE(options.language, QString());
+    QCOMPARE(options.profile, QString());
 }
 
 void TestOptions::allOptionsAreRead()
@@ -50,7 +51,7 @@ void TestOptions::allOptionsAreRead()
     const Options options =
         parse({"--rotation", "270", "--rotate", "90", "--size", "480x800", "--no-touch", "--look",
                "dark", "--programs", "/srv/hmi/cnc", "--plc=/srv/plc", "--stick", "/srv/stick",
-               "--language", "zh_CN"});
+               "--language", "zh_CN", "--profile", "/srv/machine.ini"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.turn, 90);
@@ -62,6 +63,7 @@ void TestOptions::allOptionsAreRead()
     QCOMPARE(options.stickDir, QString("/srv/stick"));
     QCOMPARE(options.plcFolder(), QString("/srv/plc"));
     QCOMPARE(options.language, QString("zh_CN"));
+    QCOMPARE(options.profile, QString("/srv/machine.ini"));
 }
 
 // It would change what it finds there.
@@ -190,7 +192,7 @@ void TestOptions::helpTellsEveryOption()
     const Options options = parse({"--help"});
     QCOMPARE(options.outcome, Options::ShowText);
     for (const char *option : {"--rotation", "--rotate", "--size", "--no-touch", "--programs",
-                               "--plc", "--stick", "--tour"})
+                               "--plc", "--stick", "--profile", "--tour"})
         QVERIFY2(options.text.contains(option), option);
     QVERIFY(options.text.contains("DIR/cnc"));
 }

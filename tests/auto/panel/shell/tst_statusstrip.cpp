@@ -28,6 +28,10 @@ private Q_SLOTS:
     void clockTicks();
     void wordsFollowTheLanguage();
     void thingsAreNamedWhereThereIsRoom();
+    void checkIsShownOnceItIsTold();
+    void checkIsTold_data();
+    void checkIsTold();
+    void touchOnTheCheckAsksForIt();
     void wordsKeepToTheirPlace();
 
 private:
@@ -258,6 +262,58 @@ void TestStatusStrip::thingsAreNamedWhereThereIsRoom()
 }
 
 // A word that grows must not push another out of the strip.
+void TestStatusStrip::checkIsShownOnceItIsTold()
+{
+    StatusStrip strip(false);
+    QVERIFY(item(strip, "checkState")->isHidden());
+    strip.showCheck(StatusStrip::CheckUnknown, 0, 0);
+    QVERIFY(!item(strip, "checkState")->isHidden());
+    QCOMPARE(item(strip, "checkState")->text(), QString::fromUtf8("\u2013"));
+    QVERIFY(!item(strip, "checkState")->hasTone());
+}
+
+void TestStatusStrip::checkIsTold_data()
+{
+    QTest::addColumn<int>("errors");
+    QTest::addColumn<int>("warnings");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("tone");
+    QTest::addColumn<QString>("meaning");
+    QTest::newRow("nothing") << 0 << 0 << "Check ok" << int(Message::Information)
+                             << "Check: nothing found";
+    QTest::newRow("warnings") << 0 << 3 << "Check 3" << int(Message::Warning)
+                              << "Check: errors 0, warnings 3";
+    QTest::newRow("errors") << 2 << 3 << "Check 2" << int(Message::Alarm)
+                            << "Check: errors 2, warnings 3";
+}
+
+void TestStatusStrip::checkIsTold()
+{
+    QFETCH(int, errors);
+    QFETCH(int, warnings);
+    StatusStrip strip(true);
+    strip.showCheck(StatusStrip::Checked, errors, warnings);
+    QTEST(item(strip, "checkState")->text(), "text");
+    QTEST(int(item(strip, "checkState")->tone()), "tone");
+    QTEST(item(strip, "checkState")->accessibleName(), "meaning");
+}
+
+// What is beside it belongs to whatever the strip stands on.
+void TestStatusStrip::touchOnTheCheckAsksForIt()
+{
+    StatusStrip strip(false);
+    QSignalSpy touched(&strip, SIGNAL(checkTouched()));
+    strip.show();
+    QTest::mouseClick(&strip, Qt::LeftButton, Qt::NoModifier, QPoint(2, strip.height() / 2));
+    QCOMPARE(touched.size(), 0);
+    strip.showCheck(StatusStrip::Checked, 12, 0);
+    QCoreApplication::processEvents();
+    QTest::mouseClick(item(strip, "checkState"), Qt::LeftButton);
+    QCOMPARE(touched.size(), 1);
+    QTest::mouseClick(item(strip, "storageState"), Qt::LeftButton);
+    QCOMPARE(touched.size(), 1);
+}
+
 void TestStatusStrip::wordsKeepToTheirPlace()
 {
     QWidget window;
@@ -268,9 +324,10 @@ void TestStatusStrip::wordsKeepToTheirPlace()
     window.resize(400, 40);
     window.show();
     strip->showDevices(devices(false, false, 3 * 1024 * 1024));
+    strip->showCheck(StatusStrip::Checked, 1234, 0);
     QCoreApplication::processEvents();
     const QList<QLabel *> labels = strip->findChildren<QLabel *>();
-    QCOMPARE(labels.size(), 4);
+    QCOMPARE(labels.size(), 5);
     for (QLabel *label : labels) {
         QVERIFY(strip->rect().contains(label->geometry()));
         QVERIFY(label->fontMetrics().horizontalAdvance(label->text())

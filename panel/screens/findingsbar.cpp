@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "screens/findingsbar.h"
+
+#include "look/elidedlabel.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+#include "look/tonemark.h"
+#include "screens/findingsdialog.h"
+#include "screens/programreview.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+
+namespace {
+
+const int textPixels = 14;
+const int textLines = 3;
+const int keyWidth = 46;
+const int sideMargin = 6;
+
+} // namespace
+
+FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
+    : QWidget(parent), m_review(review), m_mark(new ToneMark), m_text(new ElidedLabel)
+{
+    setObjectName(QLatin1String("findingsBar"));
+    setAttribute(Qt::WA_StyledBackground);
+    Look::dress(this, Look::KeyPanel);
+    m_text->setObjectName(QLatin1String("findingText"));
+    QFont font = m_text->font();
+    font.setPixelSize(textPixels);
+    m_text->setFont(font);
+    m_text->setLines(textLines);
+    m_text->setMinimumHeight(textLines * m_text->fontMetrics().lineSpacing());
+
+    QHBoxLayout *row = new QHBoxLayout(this);
+    row->setContentsMargins(sideMargin, 2, 2, 2);
+    row->setSpacing(4);
+    row->addWidget(m_mark);
+    TapArea *texts = new TapArea;
+    QHBoxLayout *inside = new QHBoxLayout(texts);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->addWidget(m_text);
+    row->addWidget(texts, 1);
+    m_backKey = addKey(row, "findingBack", Glyphs::Up, [] { return tr("Back"); });
+    m_nextKey = addKey(row, "findingNext", Glyphs::Down, [] { return tr("Next"); });
+    PanelKey *listKey = addKey(row, "findingList", Glyphs::List, [] { return tr("All"); });
+    PanelKey *closeKey = addKey(row, "findingClose", Glyphs::Close, [] { return tr("Close"); });
+
+    connect(texts, &TapArea::touched, this, &FindingsBar::listWanted);
+    connect(m_backKey, &PanelKey::clicked, this, [this] { goTo(previous()); });
+    connect(m_nextKey, &PanelKey::clicked, this, [this] { goTo(next()); });
+    connect(listKey, &PanelKey::clicked, this, &FindingsBar::listWanted);
+    connect(closeKey, &PanelKey::clicked, this, &FindingsBar::closeWanted);
+    connect(m_review, &ProgramReview::changed, this, &FindingsBar::takeChange);
+    showAll();
+}
+
+PanelKey *FindingsBar::addKey(QHBoxLayout *row, const char *name, Glyphs::Glyph glyph,
+                              const std::function<QString()> &text)
+{
+    PanelKey *key = new PanelKey(Glyphs::icon(glyph, Glyphs::OnKey), text);
+    key->setObjectName(QLatin1String(name));
+    key->setMinimumWidth(keyWidth);
+    row->addWidget(key);
+    return key;
+}
+
+// A line may have several.
+bool FindingsBar::isAtFinding() const
+{
+    return m_finding >= 0 && m_review->findings().at(m_finding).line == m_line;
+}
+
+int FindingsBar::next() const
+{
+    if (!isAtFinding())
+        return m_review->after(m_line);
+    return m_finding + 1 < m_review->findings().size() ? m_finding + 1 : -1;
+}
+
+int FindingsBar::previous() const
+{
+    return isAtFinding() ? m_finding - 1 : m_review->before(m_line);
+}
+
+QString FindingsBar::text() const
+{
+    return m_text->text();
+}
+
+void FindingsBar::goTo(int index)
+{
+    m_finding = index;
+    showAll();
+    if (index < 0)
+        return;
+    const Finding &finding = m_review->findings().at(index);
+    Q_EMIT placeWanted(finding.line, finding.column);
+}
+
+void FindingsBar::setLine(int line)
+{
+    m_line = line;
+    showAll();
+}
+
+// The findings are numbered anew: the one in view may be mended, or another one.
+void FindingsBar::takeChange()
+{
+    if (m_review->state() == ProgramReview::Checked || m_finding >= m_review->findings().size())
+        m_finding = -1;
+    showAll();
+}
+
+void FindingsBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        showAll();
+    QWidget::changeEvent(event);
+}
+
+void FindingsBar::showAll()
+{
+    m_backKey->setEnabled(previous() >= 0);
+    m_nextKey->setEnabled(next() >= 0);
+    if (m_finding < 0) {
+        m_mark->setTone(m_review->state() == ProgramReview::Off ? Message::Warning
+                                                                : Message::Information);
+        m_text->setText(m_review->summary());
+        return;
+    }
+    const Finding &finding = m_review->findings().at(m_finding);
+    m_mark->setTone(FindingsDialog::toneOf(finding.severity));
+    m_text->setText(tr("%1 of %2, line %3: %4 %5")
+                        .arg(m_finding + 1)
+                        .arg(m_review->findings().size())
+                        .arg(finding.line)
+                        .arg(finding.text(), finding.advice()));
+}

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "screens/findingsdialog.h"
+
+#include "look/glyphs.h"
+#include "look/look.h"
+#include "look/paneltable.h"
+#include "screens/programreview.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+const QSize roomy(720, 560);
+const int rowHeight = 44;
+const int textPixels = 14;
+const int margin = 6;
+
+QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
+{
+    QPushButton *key = new QPushButton(text);
+    key->setObjectName(QLatin1String(objectName));
+    key->setAutoDefault(false);
+    key->setMinimumSize(Look::smallestTouch, Look::smallestTouch);
+    row->addWidget(key, 1);
+    return key;
+}
+
+QIcon signOf(Finding::Severity severity)
+{
+    switch (severity) {
+    case Finding::Note:
+        return Glyphs::icon(Glyphs::Inform, Glyphs::OnPaper);
+    case Finding::Warning:
+        return Glyphs::icon(Glyphs::Warn, Glyphs::OnPaper);
+    case Finding::Error:
+        break;
+    }
+    return Glyphs::icon(Glyphs::Alarm, Glyphs::OnPaper);
+}
+
+} // namespace
+
+FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *parent)
+    : Dialog(parent), m_table(new PanelTable(0, 2, rowHeight))
+{
+    setTitle(tr("Check"));
+    QLabel *head = new QLabel(review->summary());
+    head->setObjectName(QLatin1String("summary"));
+    head->setWordWrap(true);
+    if (review->leftOut() > 0)
+        head->setText(tr("%1. The first %2 are listed.")
+                          .arg(review->summary())
+                          .arg(review->findings().size()));
+    QFont font = m_table->font();
+    font.setPixelSize(textPixels);
+    m_table->setFont(font);
+    m_table->horizontalHeader()->hide();
+    m_table->letChooseRow();
+    m_table->setWordWrap(true);
+    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    const QFontMetrics metrics(font);
+    m_table->setColumnWidth(0, metrics.horizontalAdvance(QLatin1String("0000000")) + 36);
+
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(margin);
+    column->addWidget(head);
+    column->addWidget(m_table, 1);
+    QHBoxLayout *keys = new QHBoxLayout;
+    keys->setSpacing(margin);
+    column->addLayout(keys);
+    m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
+    m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
+    QPushButton *closeKey = addKey(keys, tr("Close"), "close");
+
+    connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
+    connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
+    connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_table, &QTableWidget::cellClicked, this, &FindingsDialog::choose);
+    const QScrollBar *bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, &FindingsDialog::showState);
+    connect(bar, &QScrollBar::rangeChanged, this, &FindingsDialog::showState);
+    fill(review);
+    resize(roomy.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 8)));
+    // The one at the cursor, or the next, is in view.
+    const int nearest = review->after(line - 1);
+    if (nearest >= 0)
+        m_table->scrollToItem(m_table->item(nearest, 0), QAbstractItemView::PositionAtTop);
+}
+
+Message::Tone FindingsDialog::toneOf(Finding::Severity severity)
+{
+    switch (severity) {
+    case Finding::Note:
+        return Message::Information;
+    case Finding::Warning:
+        return Message::Warning;
+    case Finding::Error:
+        break;
+    }
+    return Message::Alarm;
+}
+
+void FindingsDialog::fill(const ProgramReview *review)
+{
+    const QVector<Finding> &findings = review->findings();
+    m_table->setRowCount(findings.size());
+    for (int row = 0; row < findings.size(); ++row) {
+        const Finding &finding = findings.at(row);
+        m_table->setItem(
+            row, 0,
+            new QTableWidgetItem(signOf(finding.severity), QString::number(finding.line)));
+        m_table->setItem(row, 1, new QTableWidgetItem(finding.text()));
+    }
+    showState();
+}
+
+void FindingsDialog::choose(int row)
+{
+    m_finding = row;
+    accept();
+}
+
+void FindingsDialog::turn(int pages)
+{
+    QScrollBar *bar = m_table->verticalScrollBar();
+    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - 1));
+}
+
+void FindingsDialog::showState()
+{
+    const QScrollBar *bar = m_table->verticalScrollBar();
+    m_backKey->setEnabled(bar->value() > bar->minimum());
+    m_forthKey->setEnabled(bar->value() < bar->maximum());
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef FINDINGSDIALOG_H
+#define FINDINGSDIALOG_H
+
+#include "base/message.h"
+#include "dialog.h"
+#include "winding/finding.h"
+
+class PanelTable;
+class ProgramReview;
+class QPushButton;
+
+/// All that the check found, a page at a time. A touch on a line chooses it, and ends the dialog.
+class FindingsDialog : public Dialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows the findings of this moment. \a line, from 1, is where the operator is.
+    FindingsDialog(const ProgramReview *review, int line, QWidget *parent = nullptr);
+
+    static Message::Tone toneOf(Finding::Severity severity);
+
+    /// The index of the finding that was chosen; -1 while none is.
+    int finding() const { return m_finding; }
+
+private:
+    void fill(const ProgramReview *review);
+    void choose(int row);
+    void turn(int pages);
+    void showState();
+
+    PanelTable *m_table;
+    QPushButton *m_backKey;
+    QPushButton *m_forthKey;
+    int m_finding = -1;
+};
+
+#endif // FINDINGSDIALOG_H

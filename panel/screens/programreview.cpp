@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "screens/programreview.h"
+
+#include "programs/windinginspection.h"
+#include "screens/coilpreview.h"
+
+#include <algorithm>
+
+namespace {
+
+ErrorMarks::Severity markOf(Finding::Severity severity)
+{
+    switch (severity) {
+    case Finding::Note:
+        return ErrorMarks::Note;
+    case Finding::Warning:
+        return ErrorMarks::Warning;
+    case Finding::Error:
+        break;
+    }
+    return ErrorMarks::Error;
+}
+
+} // namespace
+
+ProgramReview::ProgramReview(CoilPreview *preview, QPlainTextEdit *editor, QObject *parent)
+    : QObject(parent), m_preview(preview), m_marks(editor)
+{
+    m_preview->setCompanion([this] {
+        m_next = std::make_shared<ProgramCheck>(m_preview->profile());
+        return m_next;
+    });
+    connect(m_preview, &CoilPreview::settled, this, &ProgramReview::take);
+    connect(m_preview, &CoilPreview::changed, this, &ProgramReview::changed);
+    m_preview->setViewed(this, true);
+}
+
+ProgramReview::~ProgramReview()
+{
+    m_preview->setViewed(this, false);
+    m_preview->setCompanion(nullptr);
+}
+
+ProgramReview::State ProgramReview::state() const
+{
+    if (!m_preview->profileFaults().isEmpty())
+        return Off;
+    return m_check && m_preview->isCurrent() ? Checked : Waiting;
+}
+
+QString ProgramReview::summary() const
+{
+    switch (state()) {
+    case Off:
+        return tr("No check: the machine's profile has a fault.");
+    case Waiting:
+        return tr("The program is being checked.");
+    case Checked:
+        break;
+    }
+    if (m_findings.isEmpty())
+        return tr("Nothing found, by the rules of \"%1\".").arg(rules());
+    return tr("Errors: %1, warnings: %2").arg(errors()).arg(warnings());
+}
+
+QString ProgramReview::rules() const
+{
+    return m_preview->profile().name();
+}
+
+int ProgramReview::after(int line) const
+{
+    const auto found = std::find_if(m_findings.begin(), m_findings.end(),
+                                    [line](const Finding &finding) { return finding.line > line; });
+    return found == m_findings.end() ? -1 : int(found - m_findings.begin());
+}
+
+int ProgramReview::before(int line) const
+{
+    for (int i = m_findings.size() - 1; i >= 0; --i) {
+        if (m_findings.at(i).line < line)
+            return i;
+    }
+    return -1;
+}
+
+std::shared_ptr<ProgramInspection> ProgramReview::inspect(const QString &path) const
+{
+    return std::make_shared<WindingInspection>(path, m_preview->profile());
+}
+
+int ProgramReview::count(Finding::Severity severity) const
+{
+    return m_check ? m_check->count(severity) : 0;
+}
+
+void ProgramReview::take()
+{
+    m_check = m_next;
+    m_findings = m_check ? m_check->findings() : QVector<Finding>();
+    mark();
+    Q_EMIT changed();
+}
+
+// The worst of a line comes last, and stays.
+void ProgramReview::mark()
+{
+    m_marks.clear();
+    if (state() == Off)
+        return;
+    QVector<Finding> sorted = m_findings;
+    std::stable_sort(sorted.begin(), sorted.end(), [](const Finding &one, const Finding &other) {
+        return one.severity < other.severity;
+    });
+    for (const Finding &finding : qAsConst(sorted))
+        m_marks.mark(finding.line, markOf(finding.severity), finding.text());
+}
