@@ -180,8 +180,10 @@ const struct
      "Folder that stands in for a USB stick, to be plugged and pulled on the Files screen. Where "
      "%2 belongs to the system, ./run --stick DIR starts the panel with one of its own."},
     {"profile", "FILE", &takeProfile,
-     "The machine's profile: what its words mean, its bobbin and its limits, for the preview and the "
-     "check. Without it: machine.ini in the panel's folder; where there is none, the machine of the "
+     "The machine's profile: what its words mean, its bobbin and its limits, for the preview and "
+     "the "
+     "check. Without it: machine.ini in the panel's folder; where there is none, the machine of "
+     "the "
      "sample programs."},
     {"tour", "DIR", &takeTour,
      "Walk all screens without an operator, leave a numbered PNG of each in DIR, and end. Needs no "

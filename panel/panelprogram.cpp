@@ -20,6 +20,7 @@
 #include "screens/filesscreen.h"
 #include "screens/previewpane.h"
 #include "screens/previewscreen.h"
+#include "screens/programreview.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -196,7 +197,15 @@ void PanelProgram::makePreview()
                                         [this] { return m_programs->title(); });
     if (PreviewScreen::hasRoomBeside(m_window->size()))
         m_programs->setBeside(m_previewScreen->paneBeside());
-    m_preview->readProfile(ownPath("machine.ini"));
+    makeReview();
+    m_preview->readProfile(m_options.profile.isEmpty() ? ownPath("machine.ini")
+                                                       : m_options.profile);
+}
+
+void PanelProgram::makeReview()
+{
+    m_review.reset(new ProgramReview(m_preview.get(), m_programs->editor()));
+    m_programs->setReview(m_review.get());
 }
 
 void PanelProgram::addScreens()
@@ -240,6 +249,23 @@ void PanelProgram::connectScreens()
             [programWindow] { QMetaObject::invokeMethod(programWindow, "importExport"); });
     m_window->status()->follow(m_programs->transfer());
     connectPreview();
+    connectReview();
+}
+
+void PanelProgram::connectReview()
+{
+    StatusStrip *const status = m_window->status();
+    const auto show = [this, status] {
+        const bool isChecked = m_review->state() == ProgramReview::Checked;
+        status->showCheck(isChecked ? StatusStrip::Checked : StatusStrip::CheckUnknown,
+                          m_review->errors(), m_review->warnings());
+    };
+    connect(m_review.get(), &ProgramReview::changed, status, show);
+    show();
+    connect(status, &StatusStrip::checkTouched, this, [this] {
+        m_window->showScreen(m_programs);
+        m_programs->showFindings();
+    });
 }
 
 // A touch on the coil leads to its line, and the line at the cursor is marked in the coil.
@@ -249,8 +275,7 @@ void PanelProgram::connectPreview()
     connect(m_programs, &PanelScreen::titleChanged, m_previewScreen, &PanelScreen::titleChanged);
     connect(m_previewScreen, &PreviewScreen::lineWanted, this, [this, editor](int line) {
         m_window->showScreen(m_programs);
-        editor->gotoLine(line);
-        editor->centerCursor();
+        m_programs->goTo(line, 1);
     });
     const auto follow = [this, editor] {
         m_previewScreen->setLine(editor->textCursor().blockNumber() + 1);

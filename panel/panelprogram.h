@@ -30,6 +30,7 @@ class PanelScreen;
 class PanelWindow;
 class PreviewScreen;
 class ProgramHistory;
+class ProgramReview;
 class ProgramScreen;
 class TeachScreen;
 class Tour;
@@ -73,6 +74,7 @@ public:
     ProgramScreen *programScreen() const { return m_programs; }
     PreviewScreen *previewScreen() const { return m_previewScreen; }
     CoilPreview *coilPreview() const { return m_preview.get(); }
+    ProgramReview *programReview() const { return m_review.get(); }
     TeachScreen *teachScreen() const { return m_teach; }
     VariablesScreen *variablesScreen() const { return m_variables; }
     ConnectionsScreen *connectionsScreen() const { return m_connections; }
@@ -89,10 +91,12 @@ private:
     void makeWindow();
     void makeScreens();
     void makePreview();
+    void makeReview();
     void addScreens();
     void connectWindow();
     void connectScreens();
     void connectPreview();
+    void connectReview();
     void connectStartUp();
     void watchDevices();
     void offerUnsavedWork();
@@ -118,6 +122,7 @@ private:
     std::unique_ptr<PanelGlass> m_glass;
     // The panes of the window look at it to their end.
     std::unique_ptr<CoilPreview> m_preview;
+    std::unique_ptr<ProgramReview> m_review;
     std::unique_ptr<PanelWindow> m_window;
     std::unique_ptr<ProgramHistory> m_history;
     std::unique_ptr<DeviceWatch> m_watch;

@@ -10,6 +10,7 @@
 #include "screens/filesscreen.h"
 #include "screens/previewpane.h"
 #include "screens/previewscreen.h"
+#include "screens/programreview.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -42,7 +43,7 @@ bool says(const QToolButton *button, const QString &text)
     const QByteArray source = text.toLatin1();
     for (const char *context :
          {"WMMainWindow", "BarPager", "PanelWindow", "ProgramScreen", "ListScreen", "TeachScreen",
-          "ConnectionsScreen", "FilesScreen", "PreviewPane"}) {
+          "ConnectionsScreen", "FilesScreen", "PreviewPane", "FindingsBar"}) {
         if (button->text() == QCoreApplication::translate(context, source))
             return true;
     }
@@ -125,6 +126,7 @@ void TourPlan::visitProgramScreen(ProgramScreen *screen)
     m_tour->picture(QLatin1String("program-new"));
     openProgram(screen);
     changeProgram(screen);
+    checkProgram(screen);
     turnToOtherKeys(screen->programWindow());
     find();
     pressTool(screen->programWindow(), QLatin1String("New"));
@@ -167,6 +169,31 @@ void TourPlan::changeProgram(ProgramScreen *screen)
     m_tour->press([] { return pickerKey("rotor"); });
     m_tour->picture(QLatin1String("save-as"));
     m_tour->closeDialog();
+}
+
+// With two faults that go again.
+void TourPlan::checkProgram(ProgramScreen *screen)
+{
+    m_tour->then([screen] {
+        screen->programWindow()->insertLine(QLatin1String("G33 X18.50 Q2"));
+        screen->programWindow()->insertLine(QLatin1String("G01 X99 F800"));
+    });
+    m_tour->waitUntil([screen] {
+        const ProgramReview *review = screen->review();
+        return review->state() == ProgramReview::Checked && !review->findings().isEmpty();
+    });
+    m_tour->then([screen] { screen->showFindings(); });
+    m_tour->picture(QLatin1String("check"));
+    pressTool(screen, QLatin1String("Back"));
+    m_tour->picture(QLatin1String("check-finding"));
+    pressTool(screen, QLatin1String("All"));
+    m_tour->picture(QLatin1String("check-list"));
+    m_tour->closeDialog();
+    pressTool(screen, QLatin1String("Close"));
+    m_tour->then([screen] {
+        screen->editor()->undo();
+        screen->editor()->undo();
+    });
 }
 
 void TourPlan::turnToOtherKeys(WMMainWindow *window)

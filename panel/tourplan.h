@@ -46,6 +46,7 @@ public:
 
 private:
     void openProgram(ProgramScreen *screen);
+    void checkProgram(ProgramScreen *screen);
     void changeProgram(ProgramScreen *screen);
     void turnToOtherKeys(WMMainWindow *window);
     void find();

@@ -76,9 +76,14 @@ void ToneMark::paintEvent(QPaintEvent *)
     if (m_isClear)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Look::ground(m_tone));
-    painter.drawRoundedRect(rect(), corner, corner);
-    Glyphs::draw(glyphOf(m_tone), &painter, rect().adjusted(2, 2, -2, -2), Look::stripText());
+    draw(&painter, rect(), m_tone);
+}
+
+void ToneMark::draw(QPainter *painter, const QRect &rect, Message::Tone tone)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(Look::ground(tone));
+    painter->drawRoundedRect(rect, corner, corner);
+    Glyphs::draw(glyphOf(tone), painter, rect.adjusted(2, 2, -2, -2), Look::stripText());
 }

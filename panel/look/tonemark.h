@@ -8,6 +8,8 @@
 
 #include <QWidget>
 
+class QPainter;
+
 /// The tone of a message as a drawing on the tone's colour.
 class ToneMark : public QWidget
 {
@@ -19,6 +21,9 @@ public:
     void setTone(Message::Tone tone);
     /// Draws nothing, and keeps the place.
     void clear();
+
+    /// The same drawing on \a rect of something else.
+    static void draw(QPainter *painter, const QRect &rect, Message::Tone tone);
 
     /// Sets the property "tone" of a widget whose sheet asks for it: "information", "warning",
     /// "alarm"; "none" for a widget that shows no tone.

@@ -49,6 +49,7 @@ public:
     void readProfile(const QString &path);
     /// In the place of what a file says.
     void setProfile(const MachineProfile &profile);
+    const MachineProfile &profile() const { return m_review.profile(); }
     QStringList profileFaults() const { return m_profileFaults; }
 
     /// Whether \a viewer shows the coil at this moment: only then is anything read.

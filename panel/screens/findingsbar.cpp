@@ -3,6 +3,7 @@
 
 #include "screens/findingsbar.h"
 
+#include "filarixpanel.h"
 #include "look/elidedlabel.h"
 #include "look/look.h"
 #include "look/panelkey.h"
@@ -11,7 +12,9 @@
 #include "screens/programreview.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QScreen>
 
 namespace {
 
@@ -35,15 +38,22 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
     m_text->setLines(textLines);
     m_text->setMinimumHeight(textLines * m_text->fontMetrics().lineSpacing());
 
-    QHBoxLayout *row = new QHBoxLayout(this);
-    row->setContentsMargins(sideMargin, 2, 2, 2);
-    row->setSpacing(4);
-    row->addWidget(m_mark);
+    // A narrow panel has the keys below the text.
+    const bool isNarrow =
+        QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+    QBoxLayout *whole =
+        new QBoxLayout(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
+    whole->setContentsMargins(sideMargin, 2, 2, 2);
+    whole->setSpacing(4);
     TapArea *texts = new TapArea;
     QHBoxLayout *inside = new QHBoxLayout(texts);
     inside->setContentsMargins(0, 0, 0, 0);
+    inside->addWidget(m_mark);
     inside->addWidget(m_text);
-    row->addWidget(texts, 1);
+    whole->addWidget(texts, 1);
+    QHBoxLayout *row = new QHBoxLayout;
+    row->setSpacing(4);
+    whole->addLayout(row);
     m_backKey = addKey(row, "findingBack", Glyphs::Up, [] { return tr("Back"); });
     m_nextKey = addKey(row, "findingNext", Glyphs::Down, [] { return tr("Next"); });
     PanelKey *listKey = addKey(row, "findingList", Glyphs::List, [] { return tr("All"); });
@@ -122,13 +132,22 @@ void FindingsBar::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+// Of all that was found.
+Message::Tone FindingsBar::tone() const
+{
+    if (m_review->errors() > 0)
+        return Message::Alarm;
+    if (m_review->warnings() > 0 || m_review->state() == ProgramReview::Off)
+        return Message::Warning;
+    return Message::Information;
+}
+
 void FindingsBar::showAll()
 {
     m_backKey->setEnabled(previous() >= 0);
     m_nextKey->setEnabled(next() >= 0);
     if (m_finding < 0) {
-        m_mark->setTone(m_review->state() == ProgramReview::Off ? Message::Warning
-                                                                : Message::Information);
+        m_mark->setTone(tone());
         m_text->setText(m_review->summary());
         return;
     }

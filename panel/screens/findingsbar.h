@@ -4,6 +4,7 @@
 #ifndef FINDINGSBAR_H
 #define FINDINGSBAR_H
 
+#include "base/message.h"
 #include "look/glyphs.h"
 #include "look/taparea.h"
 
@@ -53,6 +54,7 @@ private:
     int next() const;
     int previous() const;
     void takeChange();
+    Message::Tone tone() const;
     void showAll();
 
     const ProgramReview *m_review;

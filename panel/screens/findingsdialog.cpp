@@ -3,15 +3,16 @@
 
 #include "screens/findingsdialog.h"
 
-#include "look/glyphs.h"
 #include "look/look.h"
 #include "look/paneltable.h"
+#include "look/tonemark.h"
 #include "screens/programreview.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -25,6 +26,7 @@ const QSize roomy(720, 560);
 const int rowHeight = 44;
 const int textPixels = 14;
 const int margin = 6;
+const int signSide = 22;
 
 QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
 {
@@ -38,21 +40,19 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
 
 QIcon signOf(Finding::Severity severity)
 {
-    switch (severity) {
-    case Finding::Note:
-        return Glyphs::icon(Glyphs::Inform, Glyphs::OnPaper);
-    case Finding::Warning:
-        return Glyphs::icon(Glyphs::Warn, Glyphs::OnPaper);
-    case Finding::Error:
-        break;
-    }
-    return Glyphs::icon(Glyphs::Alarm, Glyphs::OnPaper);
+    QPixmap sign(signSide, signSide);
+    sign.fill(Qt::transparent);
+    QPainter painter(&sign);
+    ToneMark::draw(&painter, sign.rect(), FindingsDialog::toneOf(severity));
+    return QIcon(sign);
 }
 
 } // namespace
 
 FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *parent)
-    : Dialog(parent), m_table(new PanelTable(0, 2, rowHeight))
+    : Dialog(parent)
+    , m_nearest(qMax(0, review->after(line - 1)))
+    , m_table(new PanelTable(0, 2, rowHeight))
 {
     setTitle(tr("Check"));
     QLabel *head = new QLabel(review->summary());
@@ -67,6 +67,8 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     m_table->setFont(font);
     m_table->horizontalHeader()->hide();
     m_table->letChooseRow();
+    m_table->setFocusPolicy(Qt::NoFocus);
+    m_table->setIconSize(QSize(signSide, signSide));
     m_table->setWordWrap(true);
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -96,10 +98,6 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     connect(bar, &QScrollBar::rangeChanged, this, &FindingsDialog::showState);
     fill(review);
     resize(roomy.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 8)));
-    // The one at the cursor, or the next, is in view.
-    const int nearest = review->after(line - 1);
-    if (nearest >= 0)
-        m_table->scrollToItem(m_table->item(nearest, 0), QAbstractItemView::PositionAtTop);
 }
 
 Message::Tone FindingsDialog::toneOf(Finding::Severity severity)
@@ -115,15 +113,23 @@ Message::Tone FindingsDialog::toneOf(Finding::Severity severity)
     return Message::Alarm;
 }
 
+// A table that was never laid out can't be scrolled.
+void FindingsDialog::showEvent(QShowEvent *event)
+{
+    Dialog::showEvent(event);
+    layout()->activate();
+    m_table->scrollTo(m_table->model()->index(m_nearest, 0), QAbstractItemView::PositionAtTop);
+}
+
 void FindingsDialog::fill(const ProgramReview *review)
 {
     const QVector<Finding> &findings = review->findings();
     m_table->setRowCount(findings.size());
+    const QIcon signs[] = {signOf(Finding::Note), signOf(Finding::Warning), signOf(Finding::Error)};
     for (int row = 0; row < findings.size(); ++row) {
         const Finding &finding = findings.at(row);
         m_table->setItem(
-            row, 0,
-            new QTableWidgetItem(signOf(finding.severity), QString::number(finding.line)));
+            row, 0, new QTableWidgetItem(signs[finding.severity], QString::number(finding.line)));
         m_table->setItem(row, 1, new QTableWidgetItem(finding.text()));
     }
     showState();

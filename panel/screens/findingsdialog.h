@@ -26,12 +26,17 @@ public:
     /// The index of the finding that was chosen; -1 while none is.
     int finding() const { return m_finding; }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void fill(const ProgramReview *review);
     void choose(int row);
     void turn(int pages);
     void showState();
 
+    /// The row of the finding at the operator's line, or of the next one.
+    const int m_nearest;
     PanelTable *m_table;
     QPushButton *m_backKey;
     QPushButton *m_forthKey;

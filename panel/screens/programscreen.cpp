@@ -3,6 +3,7 @@
 
 #include "screens/programscreen.h"
 
+#include "filarixpanel.h"
 #include "guards/finddialogfitter.h"
 #include "guards/programguard.h"
 #include "look/barpager.h"
@@ -11,7 +12,10 @@
 #include "programs/checkeddownload.h"
 #include "programs/programdirectory.h"
 #include "screens/downloadquestion.h"
+#include "screens/findingsbar.h"
+#include "screens/findingsdialog.h"
 #include "screens/machinedata.h"
+#include "screens/programreview.h"
 #include "shell/stateline.h"
 #include "stick/stick.h"
 #include "wgcodeediter.h"
@@ -23,6 +27,8 @@
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QScreen>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTimer>
 #include <QToolBar>
@@ -47,6 +53,11 @@ QSet<QToolButton *> buttonsWithoutParent()
     return buttons;
 }
 
+bool isNarrow()
+{
+    return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+}
+
 /// The window has buttons that it puts into no bar and gives to nobody: \a spare takes them.
 WMMainWindow *makeWindow(QWidget *parent, int rotation, QSet<QToolButton *> *spare)
 {
@@ -69,14 +80,14 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
                                      m_questioner.data(), this))
     , m_guard(new ProgramGuard(m_window, ProgramDirectory::path(), m_questioner.data(), this))
     , m_stateLine(new StateLine)
+    , m_layout(new QGridLayout(this))
 {
-    QGridLayout *layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_stateLine, 0, 0);
-    layout->addWidget(m_window, 1, 0);
-    layout->setRowStretch(1, 1);
-    layout->setColumnStretch(0, 1);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_stateLine, 0, 0);
+    m_layout->addWidget(m_window, 1, 0);
+    m_layout->setRowStretch(1, 1);
+    m_layout->setColumnStretch(0, 1);
     Look::keepLight(m_editor);
     // The line is marked already, in the colour of before.
     QMetaObject::invokeMethod(m_editor, "highlightCurrentLine");
@@ -121,12 +132,57 @@ void ProgramScreen::setHistory(ProgramHistory *history)
     m_guard->setHistory(history);
 }
 
+void ProgramScreen::setReview(const ProgramReview *review)
+{
+    m_review = review;
+    m_findings = new FindingsBar(review);
+    m_findings->hide();
+    m_layout->addWidget(m_findings, 2, 0);
+    m_download->setInspector([review](const QString &path) { return review->inspect(path); });
+    connect(m_findings, &FindingsBar::placeWanted, this, &ProgramScreen::goTo);
+    connect(m_findings, &FindingsBar::listWanted, this, &ProgramScreen::listFindings);
+    connect(m_findings, &FindingsBar::closeWanted, this, [this] { showFindings(false); });
+    connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &ProgramScreen::followCursor);
+}
+
+void ProgramScreen::showFindings(bool isWanted)
+{
+    m_findings->setVisible(isWanted);
+    if (m_checkKey)
+        m_checkKey->setChecked(isWanted);
+    if (isWanted)
+        followCursor();
+}
+
+void ProgramScreen::followCursor()
+{
+    m_findings->setLine(m_editor->textCursor().blockNumber() + 1);
+}
+
+void ProgramScreen::listFindings()
+{
+    FindingsDialog dialog(m_review, m_editor->textCursor().blockNumber() + 1);
+    dialog.exec();
+    if (dialog.finding() >= 0 && dialog.finding() < m_review->findings().size())
+        m_findings->goTo(dialog.finding());
+}
+
+void ProgramScreen::goTo(int line, int column)
+{
+    const QTextBlock block = m_editor->document()->findBlockByNumber(line - 1);
+    if (!block.isValid())
+        return;
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + qBound(0, column - 1, block.length() - 1));
+    m_editor->setTextCursor(cursor);
+    m_editor->centerCursor();
+}
+
 void ProgramScreen::setBeside(QWidget *pane)
 {
     m_beside = pane;
     m_beside->setFixedWidth(besideWidth);
-    QGridLayout *grid = static_cast<QGridLayout *>(layout());
-    grid->addWidget(m_beside, 0, 1, 2, 1);
+    m_layout->addWidget(m_beside, 0, 1, 3, 1);
 }
 
 PlcTransfer *ProgramScreen::transfer() const
@@ -160,6 +216,13 @@ QList<PanelKey *> ProgramScreen::keys()
     connect(m_editor, &WGCodeEditer::undoAvailable, undoKey, &PanelKey::setEnabled);
     connect(m_editor, &WGCodeEditer::redoAvailable, redoKey, &PanelKey::setEnabled);
     QList<PanelKey *> keys{findKey, undoKey, redoKey};
+    // On a narrow panel the title needs the room; a touch on the strip's faults does the same.
+    if (m_findings && !isNarrow()) {
+        m_checkKey = new PanelKey(Glyphs::icon(Glyphs::Check), [] { return tr("Check"); });
+        m_checkKey->setCheckable(true);
+        connect(m_checkKey, &PanelKey::clicked, this, &ProgramScreen::showFindings);
+        keys.prepend(m_checkKey);
+    }
     if (m_beside) {
         keys.prepend(new PanelKey(Glyphs::icon(Glyphs::Coil), [] { return tr("Coil"); }));
         keys.first()->setCheckable(true);

@@ -10,12 +10,15 @@
 #include <QSet>
 
 class CheckedDownload;
+class FindingsBar;
 class MachineData;
 class PlcTransfer;
 class ProgramGuard;
 class ProgramHistory;
+class ProgramReview;
 class Questioner;
 class StateLine;
+class QGridLayout;
 class QToolButton;
 class WGCodeEditer;
 class WMMainWindow;
@@ -39,6 +42,12 @@ public:
     /// What a save replaces is kept there first. \a history must outlive the screen.
     void setHistory(ProgramHistory *history);
 
+    /// Shows what \a review says of the program, and has downloads checked by the same rules.
+    /// \a review must outlive the screen. Before keys().
+    void setReview(const ProgramReview *review);
+    const ProgramReview *review() const { return m_review; }
+    FindingsBar *findingsBar() const { return m_findings; }
+
     /// Puts \a pane at the side of the window, and takes it over. A key hides and shows it.
     void setBeside(QWidget *pane);
 
@@ -59,6 +68,10 @@ public:
 
 public Q_SLOTS:
     void stopWork() override;
+    /// Shows the findings of the check below the program, or hides them.
+    void showFindings(bool isWanted = true);
+    /// Puts the cursor there, both from 1, in the middle of the editor.
+    void goTo(int line, int column);
 
 protected:
     void retranslate() override;
@@ -67,6 +80,8 @@ private:
     void insertTaughtPoint();
     void find();
     void showState();
+    void listFindings();
+    void followCursor();
     bool save();
     bool waitForGuard();
 
@@ -78,7 +93,11 @@ private:
     CheckedDownload *m_download;
     ProgramGuard *m_guard;
     StateLine *m_stateLine;
+    QGridLayout *m_layout;
     QWidget *m_beside = nullptr;
+    const ProgramReview *m_review = nullptr;
+    FindingsBar *m_findings = nullptr;
+    PanelKey *m_checkKey = nullptr;
 };
 
 #endif // PROGRAMSCREEN_H

@@ -94,8 +94,9 @@ StatusStrip::StatusStrip(bool roomy, QWidget *parent)
     QHBoxLayout *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(itemGap);
-    for (QWidget *item : {static_cast<QWidget *>(m_check), static_cast<QWidget *>(m_plc), static_cast<QWidget *>(m_stick),
-                          static_cast<QWidget *>(m_storage), static_cast<QWidget *>(m_clock)})
+    for (QWidget *item : {static_cast<QWidget *>(m_check), static_cast<QWidget *>(m_plc),
+                          static_cast<QWidget *>(m_stick), static_cast<QWidget *>(m_storage),
+                          static_cast<QWidget *>(m_clock)})
         row->addWidget(item);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
@@ -150,7 +151,7 @@ void StatusStrip::showCheck(Check check, int errors, int warnings)
     m_checkState = check;
     m_errors = errors;
     m_warnings = warnings;
-    m_check->show();
+    m_isCheckTold = true;
     showCheck();
 }
 
@@ -228,6 +229,10 @@ QString StatusStrip::named(const QString &name, const QString &word) const
 void StatusStrip::showCheck()
 {
     const QString name = tr("Check");
+    const bool isFaulty = m_errors > 0 || m_warnings > 0;
+    // On a small panel faults take the place of the clock, and there is no room for good news.
+    m_check->setVisible(m_isCheckTold && (m_roomy || isFaulty));
+    m_clock->setVisible(m_roomy || !isFaulty);
     m_check->setGlyph(m_errors > 0 ? Glyphs::Alarm : m_warnings > 0 ? Glyphs::Warn : Glyphs::Check);
     if (m_checkState == CheckUnknown)
         return m_check->setToneless(named(name, dash()), tr("Check: not known"));

@@ -64,7 +64,8 @@ public:
     /// program of a usual size can be stored.
     static Storage storageOf(qint64 freeBytes);
 
-    /// What the check says of the program. Nothing is shown of it before the first call.
+    /// What the check says of the program. Nothing is shown of it before the first call. A strip
+    /// that is not roomy shows faults alone, in the place of the clock.
     void showCheck(Check check, int errors, int warnings);
 
 Q_SIGNALS:
@@ -96,6 +97,7 @@ private:
     const bool m_roomy;
     DeviceState m_devices;
     bool m_isKnown = false;
+    bool m_isCheckTold = false;
     Check m_checkState = CheckUnknown;
     int m_errors = 0;
     int m_warnings = 0;

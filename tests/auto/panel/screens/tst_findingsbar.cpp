@@ -88,8 +88,7 @@ void TestFindingsBar::nextAndBackLeadFromOneToTheOther()
     }
     QVERIFY(!key("findingNext")->isEnabled());
     const Finding last = m_review->findings().last();
-    QCOMPARE(m_bar->text(),
-             QString("3 of 3, line 5: %1 %2").arg(last.text(), last.advice()));
+    QCOMPARE(m_bar->text(), QString("3 of 3, line 5: %1 %2").arg(last.text(), last.advice()));
     key("findingBack")->click();
     key("findingBack")->click();
     QCOMPARE(m_bar->finding(), 0);
@@ -122,6 +121,7 @@ void TestFindingsBar::keysAsk()
     QSignalSpy closed(m_bar.data(), SIGNAL(closeWanted()));
     key("findingList")->click();
     key("findingClose")->click();
+    m_bar->resize(480, 52);
     m_bar->show();
     QTest::mouseClick(m_bar->findChild<TapArea *>(), Qt::LeftButton);
     QCOMPARE(list.size(), 2);

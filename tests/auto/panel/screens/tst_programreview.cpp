@@ -86,9 +86,8 @@ void TestProgramReview::findingsAreCountedAndMarked()
     QCOMPARE(m_review->errors() + m_review->warnings(), 2);
     QCOMPARE(m_review->findings().at(0).line, 3);
     QCOMPARE(m_review->findings().at(1).line, 9);
-    QCOMPARE(m_review->summary(), QString("Errors: %1, warnings: %2")
-                                      .arg(m_review->errors())
-                                      .arg(m_review->warnings()));
+    QCOMPARE(m_review->summary(),
+             QString("Errors: %1, warnings: %2").arg(m_review->errors()).arg(m_review->warnings()));
     m_editor->show();
     QTRY_COMPARE(m_editor->extraSelections().size(), 2);
 }
