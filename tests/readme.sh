@@ -47,7 +47,7 @@ commands=$(section "Into a host's build" | block sh)
 [ "$(wc -l <<<"$commands")" -ge 3 ] || fail "no commands in README.md"
 while read -r command; do
     echo "$command"
-    (cd "$work/filarix" && bash -euc "${command//$place/$prefix}") >>"$work/log" 2>&1 || {
+    (cd "$work/filarix" && bash -euc "${command//$place/$prefix}") </dev/null >>"$work/log" 2>&1 || {
         tail -n 40 "$work/log" >&2
         fail "fails: $command"
     }
@@ -127,9 +127,10 @@ by_pkgconfig() {
 by_qmake() {
     local project="$work/qmake $1 $2"
     mkdir "$project"
+    # Of a standard that it does not know, qmake makes its own without a word.
     printf '%s\n' 'TARGET = host' "$(row qmake 2)" "SOURCES = $host/main.cpp" \
-        "HEADERS = $host/downloader.h" "QMAKE_CXXFLAGS += $strict" 'CONFIG -= c++11' \
-        "CONFIG += c++$2" >"$project/host.pro"
+        "HEADERS = $host/downloader.h" 'CONFIG -= c++11' "QMAKE_CXXFLAGS += $strict -std=c++$2" \
+        >"$project/host.pro"
     (
         cd "$project"
         env "$(row qmake 3)" qmake -qt=qt5 QMAKE_CXX="$1" QMAKE_LINK="$1"
