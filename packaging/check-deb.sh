@@ -157,6 +157,11 @@ done
 step "all packages, and none"
 mapfile -t names < <(sed -n 's/^Package: //p' "$debian/packages/Packages" | grep -v -- -dbgsym | sort -u)
 apt_install --no-install-recommends "${names[@]}"
+for file in doc/libfilarixmodule-doc/{html/search/search.js,recipes/fillrows.h,filarixmodule.qch} \
+    applications/filarix-panel.desktop icons/hicolor/scalable/apps/filarix-panel.svg \
+    metainfo/org.filarix.panel.metainfo.xml; do
+    [ -s "$debian/usr/share/$file" ] || fail "no package brings $file"
+done
 rm -r "$debian/root/tour"
 inside filarix-panel --tour /root/tour --language de >"$scratch/tour.log" 2>&1 \
     || { tail -n 20 "$scratch/tour.log" >&2; fail "filarix-panel --tour --language de"; }
