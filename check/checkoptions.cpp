@@ -6,11 +6,12 @@
 namespace {
 
 const char help[] =
-    "Usage: filarix-check [--profile P] [--json] FILE...\n"
+    "Usage: filarix-check [--profile P] [--json] [--svg OUT] FILE...\n"
     "Checks programs of a winding machine before they go to its panel.\n"
     "\n"
     "  --profile P    the machine, by its profile; without it: that of the samples\n"
     "  --json         one JSON document in place of lines\n"
+    "  --svg OUT      draw the coil of the one FILE into OUT\n"
     "  -h, --help     show this\n"
     "  -v, --version  tell the version\n"
     "\n"
@@ -68,6 +69,8 @@ private:
             m_options.asJson = true;
         else if (isOption(argument, "--profile"))
             return takeValue(argument, &m_options.profile);
+        else if (isOption(argument, "--svg"))
+            return takeValue(argument, &m_options.svg);
         else
             return "There is no option " + argument + ".";
         return QByteArray();
@@ -96,6 +99,8 @@ private:
             return "Which file?";
         if (m_options.files.contains(QByteArray()))
             return "The name of a file is empty.";
+        if (!m_options.svg.isEmpty() && m_options.files.size() > 1)
+            return "--svg draws the coil of one file.";
         if (m_options.files.count("-") > 1)
             return "The standard input can be read once.";
         return QByteArray();

@@ -24,6 +24,8 @@ struct CheckOptions
     bool asJson = false;
     /// Empty for the built-in one.
     QByteArray profile;
+    /// Empty when no picture is wanted.
+    QByteArray svg;
     /// At least one; "-" is the standard input.
     QList<QByteArray> files;
 

@@ -4,12 +4,15 @@
 #include "checkoptions.h"
 #include "checkreport.h"
 #include "programsource.h"
+#include "wholefile.h"
 
+#include "winding/coilpicture.h"
 #include "winding/programcheck.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -79,7 +82,19 @@ Status statusOf(const ProgramCheck &check)
     return check.count(Finding::Warning) > 0 ? Warnings : AllRight;
 }
 
-Status checkFile(const QByteArray &file, const MachineProfile &profile, CheckReport *report)
+bool draw(const WindingModel &model, const QByteArray &file, const QByteArray &svg)
+{
+    const QString title = QFileInfo(QFile::decodeName(file)).fileName();
+    const CoilDrawing sheet = CoilPicture::sheet(model, file == "-" ? QString() : title);
+    QByteArray reason;
+    if (WholeFile::write(svg, sheet.svg(CoilDrawing::lightPalette()), &reason))
+        return true;
+    complain(svg + ": " + reason);
+    return false;
+}
+
+Status checkFile(const QByteArray &file, const MachineProfile &profile, const QByteArray &svg,
+                 CheckReport *report)
 {
     ProgramCheck check(profile);
     ProgramReading reading(profile, &check);
@@ -90,7 +105,8 @@ Status checkFile(const QByteArray &file, const MachineProfile &profile, CheckRep
         return NotRead;
     }
     report->add(file, check, reading.model());
-    return statusOf(check);
+    const bool isDrawn = svg.isEmpty() || draw(reading.model(), file, svg);
+    return isDrawn ? statusOf(check) : NotRead;
 }
 
 Status run(const CheckOptions &options)
@@ -102,7 +118,7 @@ Status run(const CheckOptions &options)
     report.begin(profile.name());
     Status status = AllRight;
     for (const QByteArray &file : options.files)
-        status = qMax(status, checkFile(file, profile, &report));
+        status = qMax(status, checkFile(file, profile, options.svg, &report));
     report.end();
     return status;
 }

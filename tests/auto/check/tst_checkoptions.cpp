@@ -31,13 +31,14 @@ void TestCheckOptions::filesAndOptions()
     const CheckOptions plain = parsed("a.cnc");
     QVERIFY(plain.outcome == CheckOptions::Run);
     QCOMPARE(plain.files, QList<QByteArray>{"a.cnc"});
-    QVERIFY(!plain.asJson && plain.profile.isEmpty());
+    QVERIFY(!plain.asJson && plain.profile.isEmpty() && plain.svg.isEmpty());
 
     const CheckOptions all = parsed("a.cnc --profile m.ini --json b.cnc -");
     QVERIFY(all.outcome == CheckOptions::Run);
     QCOMPARE(all.files, (QList<QByteArray>{"a.cnc", "b.cnc", "-"}));
     QVERIFY(all.asJson);
     QCOMPARE(all.profile, QByteArray("m.ini"));
+    QCOMPARE(parsed("--svg coil.svg x").svg, QByteArray("coil.svg"));
     QCOMPARE(parsed("--profile=a=b x").profile, QByteArray("a=b"));
 }
 
@@ -89,6 +90,8 @@ void TestCheckOptions::refused_data()
     row("a.cnc --profile", "--profile needs");
     row("--profile= a.cnc", "--profile needs");
     row("- a.cnc -", "read once");
+    row("a.cnc --svg", "--svg needs");
+    row("a.cnc b.cnc --svg coil.svg", "one file");
 }
 
 void TestCheckOptions::refused()
@@ -106,7 +109,7 @@ void TestCheckOptions::refused()
 void TestCheckOptions::helpNamesEachOption()
 {
     const QByteArray help = parsed("--help").text;
-    for (const char *option : {"--profile", "--json", "--help", "--version"})
+    for (const char *option : {"--profile", "--json", "--svg", "--help", "--version"})
         QVERIFY2(help.contains(option), option);
     for (const QByteArray &line : help.split('\n'))
         QVERIFY2(line.size() <= 80, line.constData());
