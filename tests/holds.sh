@@ -11,7 +11,7 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
-rooms=(base gcode window editor controls list tables transfer device host panel)
+rooms=(base gcode window editor controls list tables transfer device host check panel)
 
 # Prints the words behind "// Holds" in the first lines of the tests given.
 held() { awk 'FNR > 6 { nextfile } /^\/\/ Holds / { on = 1 } !/^\/\// { on = 0 } on' "$@"; }

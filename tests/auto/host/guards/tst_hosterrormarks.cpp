@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+// Holds ErrorMarks. The library's own marks have taken the shorter name.
+
 #include "contrast.h"
 #include "filarixtest.h"
 #include "guards/errormarks.h"
