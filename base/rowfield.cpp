@@ -113,7 +113,7 @@ void setLabelText(QLabel *label, const QString &text)
     line->setHeld(false);
 }
 
-// By name, which holds for a host's classes too that derive from these. A Label is a QLabel.
+/// By name, which holds for a host's classes too that derive from these. A Label is a QLabel.
 QLabel *asLabel(QWidget *field)
 {
     return static_cast<QLabel *>(field->qt_metacast("QLabel"));

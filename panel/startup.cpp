@@ -46,8 +46,8 @@ struct StartUp::Work
     QString lockError;
 };
 
-// The import manager's commands run in the shell, and a file name can reach what is at hand there:
-// so there is little.
+/// The import manager's commands run in the shell, and a file name can reach what is at hand there:
+/// so there is little.
 void StartUp::Work::limitShell()
 {
     emptyFolder.reset(new QTemporaryDir);

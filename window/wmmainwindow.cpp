@@ -536,7 +536,7 @@ void WMMainWindow::createToolBar()
     editBar->addWidget(m_editBtn);
 }
 
-// The second tool bar does this work; construction never calls it.
+/// The second tool bar does this work; construction never calls it.
 void WMMainWindow::createEditBar()
 {
     if (!m_editBar)
@@ -551,7 +551,7 @@ void WMMainWindow::createEditBar()
     m_editBar->addWidget(m_editBtn);
 }
 
-// For a window that wants a status bar; construction never calls it.
+/// For a window that wants a status bar; construction never calls it.
 void WMMainWindow::createStatusBar()
 {
     m_statusBar = new QStatusBar(this);

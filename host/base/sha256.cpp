@@ -69,7 +69,7 @@ void Sha256::addData(const char *bytes, int length)
     m_restSize = length;
 }
 
-// A one, zeros up to the end of a block, and the length in bits in its last eight bytes.
+/// A one, zeros up to the end of a block, and the length in bits in its last eight bytes.
 QByteArray Sha256::result() const
 {
     Sha256 whole = *this;

@@ -89,7 +89,7 @@ void PickerGuard::check()
     m_hold(name);
 }
 
-// Not a second time for a name that the operator wants as it is, nor for a program that has it.
+/// Not a second time for a name that the operator wants as it is, nor for a program that has it.
 bool PickerGuard::wantsSuffix(const QString &name) const
 {
     return m_isForSaving && ProgramName::isBare(name) && name != m_bareName

@@ -34,8 +34,8 @@ QString nameOf(const QString &path)
     return QFileInfo(path).fileName();
 }
 
-// The document takes the number of steps that can be undone for its mark of being clean, and keeps
-// that number when the steps go: as many new ones would look like no change at all.
+/// The document takes the number of steps that can be undone for its mark of being clean, and keeps
+/// that number when the steps go: as many new ones would look like no change at all.
 void forgetUndo(QTextDocument *document)
 {
     document->clearUndoRedoStacks();
@@ -130,7 +130,7 @@ void ProgramGuard::setState(const ProgramState &state)
     Q_EMIT stateChanged();
 }
 
-// While a program is loaded the event loop serves the whole screen.
+/// While a program is loaded the event loop serves the whole screen.
 void ProgramGuard::hold(Command command)
 {
     if (m_commands.running() != WindowCommands::None)
@@ -196,7 +196,7 @@ void ProgramGuard::end(Command command)
     goOn();
 }
 
-// Of a document without a file nothing is left out.
+/// Of a document without a file nothing is left out.
 void ProgramGuard::noteNewProgram()
 {
     if (!m_window->getCurrentFile().isEmpty())
@@ -205,7 +205,7 @@ void ProgramGuard::noteNewProgram()
     setState(ProgramState());
 }
 
-// Commands that came while something was being looked at, one at a time.
+/// Commands that came while something was being looked at, one at a time.
 void ProgramGuard::goOn()
 {
     if (!m_waiting.isEmpty() && !isBusy())
@@ -322,7 +322,7 @@ void ProgramGuard::holdSave()
     });
 }
 
-// A restore, an import or another machine may have put something else there meanwhile.
+/// A restore, an import or another machine may have put something else there meanwhile.
 void ProgramGuard::noteFile(const ProgramOnDisk &file)
 {
     const FileStamp now = file.stamp();
@@ -428,7 +428,7 @@ void ProgramGuard::tellStored(StoreCheck::Outcome outcome)
     finishSave(outcome == StoreCheck::Stored);
 }
 
-// A command that waits for the save is given again: the library finds nothing to ask about now.
+/// A command that waits for the save is given again: the library finds nothing to ask about now.
 void ProgramGuard::finishSave(bool isStored)
 {
     const Command next = m_afterSave;
@@ -554,7 +554,7 @@ bool ProgramGuard::mayCover(const QString &name, const ProgramOnDisk &there)
            == 1;
 }
 
-// Saved before the library goes on and clears the editor: it could not tell whether all went well.
+/// Saved before the library goes on and clears the editor: it could not tell whether all went well.
 void ProgramGuard::guardSaveQuestion(QMessageBox *box)
 {
     ClickGate *gate = new ClickGate(box->button(QMessageBox::Save));

@@ -80,7 +80,7 @@ void CheckedDownload::stop()
     m_transfer.stop();
 }
 
-// Most programs are copied in the twinkling of an eye. The snapshot reads once more at the end.
+/// Most programs are copied in the twinkling of an eye. The snapshot reads once more at the end.
 void CheckedDownload::showCopying(int percent)
 {
     if (m_isCopying && m_copyingFor.elapsed() >= patienceMs)
@@ -99,7 +99,7 @@ void CheckedDownload::lookAtShown()
         inspect();
 }
 
-// With the copy: the program itself may be another one by now.
+/// With the copy: the program itself may be another one by now.
 void CheckedDownload::compare(const QString &shownText)
 {
     m_facts.shownLines = ProgramText::lines(shownText);
@@ -182,7 +182,7 @@ void CheckedDownload::endUnsent(const QString &reason)
         end(reason, Message::Warning);
 }
 
-// The next download that is compared ends what is told about an uncompared program.
+/// The next download that is compared ends what is told about an uncompared program.
 void CheckedDownload::endSendingStopped(const QString &text)
 {
     if (m_transfer.isUncompared())
@@ -212,7 +212,7 @@ void CheckedDownload::endSent(ProgramSnapshot::Verdict verdict)
     }
 }
 
-// Every way out of a download comes through here, so the host's key is always given back.
+/// Every way out of a download comes through here, so the host's key is always given back.
 void CheckedDownload::end(const QString &text, Message::Tone tone, const QString &cause)
 {
     m_snapshot.drop();

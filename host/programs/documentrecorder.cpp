@@ -55,7 +55,7 @@ QList<TextChange> DocumentRecorder::takeChanges()
     return changes;
 }
 
-// The document counts the end of its last line, which no text has.
+/// The document counts the end of its last line, which no text has.
 void DocumentRecorder::note(int position, int removed, int added)
 {
     const int before = m_size;
@@ -76,7 +76,7 @@ void DocumentRecorder::note(int position, int removed, int added)
     Q_EMIT changed();
 }
 
-// What lies behind the end of the copy comes into it later.
+/// What lies behind the end of the copy comes into it later.
 void DocumentRecorder::noteInCopy(const TextChange &change)
 {
     if (change.position >= m_copy.size())

@@ -35,7 +35,7 @@ QByteArray head(const ProgramVersion &version)
            + QByteArray::number(version.bytes) + "\nsha256 " + version.hash.toHex() + "\n\n";
 }
 
-// The value of the next line of a head; null when that is not the line of \a key.
+/// The value of the next line of a head; null when that is not the line of \a key.
 QByteArray value(QFile *file, const char *key)
 {
     const QByteArray line = file->readLine(longestLine);
@@ -214,7 +214,7 @@ void HistoryStore::trim()
     }
 }
 
-// The oldest that is not the newest of its name; only too many bytes make one of those go.
+/// The oldest that is not the newest of its name; only too many bytes make one of those go.
 int HistoryStore::firstToGo(bool overBytes) const
 {
     QHash<QString, int> newestOf;

@@ -126,7 +126,7 @@ bool PlcTransfer::Task::open()
     return true;
 }
 
-// What a panel that was switched off has left there, and nothing that is somebody else's.
+/// What a panel that was switched off has left there, and nothing that is somebody else's.
 void PlcTransfer::Task::sweep()
 {
     const QDir folder(m_dropDir);
@@ -202,7 +202,7 @@ bool PlcTransfer::Task::comparePiece()
     return !piece.isEmpty();
 }
 
-// Only what was sent: in a folder that others write to, the name may have passed on.
+/// Only what was sent: in a folder that others write to, the name may have passed on.
 bool PlcTransfer::Task::takeOut()
 {
     m_arrived.close();
@@ -220,7 +220,7 @@ bool PlcTransfer::Task::takeOut()
             .arg(name()));
 }
 
-// Both stages count alike.
+/// Both stages count alike.
 int PlcTransfer::Task::percent() const
 {
     const double part = m_size == 0 ? 1.0 : double(m_position) / m_size;

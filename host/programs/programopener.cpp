@@ -152,7 +152,7 @@ bool ProgramOpener::isModified() const
     return m_editor->document()->isModified();
 }
 
-// The library shows no other such dialog, and it is there before it is seen.
+/// The library shows no other such dialog, and it is there before it is seen.
 bool ProgramOpener::isLoading()
 {
     const QWidgetList widgets = QApplication::topLevelWidgets();
@@ -165,15 +165,15 @@ bool ProgramOpener::isBusy() const
     return QApplication::activeModalWidget() || (m_isBusy && m_isBusy());
 }
 
-// A host may hold the press for a while, and compare afterwards what came of it.
+/// A host may hold the press for a while, and compare afterwards what came of it.
 void ProgramOpener::waitForEnd()
 {
     const QPointer<ProgramOpener> self(this);
     QuietLoop([self] { return self && self->isBusy(); }).wait();
 }
 
-// What the text and the document have in common stays, so that a long program costs no more than
-// its changes.
+/// What the text and the document have in common stays, so that a long program costs no more than
+/// its changes.
 void ProgramOpener::put(const QString &text, int cursor)
 {
     QTextDocument *document = m_editor->document();

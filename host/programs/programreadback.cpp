@@ -47,8 +47,8 @@ bool ProgramReadback::readsBack(const QByteArray &bytes)
     return true;
 }
 
-// The library didn't look why its write failed. A second file of the same bytes meets the same
-// trouble, and tells.
+/// The library didn't look why its write failed. A second file of the same bytes meets the same
+/// trouble, and tells.
 void ProgramReadback::probe(const QByteArray &bytes)
 {
     DurableFile file(m_path);

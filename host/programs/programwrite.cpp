@@ -31,7 +31,7 @@ bool ProgramWrite::step()
     return false;
 }
 
-// What counts is what the disk gives back.
+/// What counts is what the disk gives back.
 void ProgramWrite::readBack()
 {
     ProgramReadback readback(m_path, m_text);

@@ -127,7 +127,7 @@ void StoreCheck::writeAgain()
     });
 }
 
-// Judged at the press: while the question stood the stick may have gone, and left its folder.
+/// Judged at the press: while the question stood the stick may have gone, and left its folder.
 void StoreCheck::lookAndWriteElsewhere(const QString &folder)
 {
     const std::shared_ptr<PlaceTask> task = std::make_shared<PlaceTask>(m_otherPlace);

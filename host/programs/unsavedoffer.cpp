@@ -27,7 +27,7 @@ QString incomplete()
     return QLatin1String("incomplete");
 }
 
-// A program that was saved a moment before the panel ended.
+/// A program that was saved a moment before the panel ended.
 bool isStored(const KeptWork &work)
 {
     if (work.subject != UnsavedWork::program() || !work.isFileThere)
@@ -39,8 +39,8 @@ bool isStored(const KeptWork &work)
     return QTextStream(&file).readAll() == work.text;
 }
 
-// Another host may have lists that this one knows nothing of: their work stays, and so does the
-// folder.
+/// Another host may have lists that this one knows nothing of: their work stays, and so does the
+/// folder.
 void removeIfEmpty(const UnsavedSession::Pointer &session)
 {
     const QStringList kept(QLatin1String("*.kept"));
@@ -142,8 +142,8 @@ void UnsavedOffer::takeIn(const QList<Found> &found)
     askNext();
 }
 
-// Not over a question that the operator reads just now, nor into a program that is loaded or saved,
-// nor before there are lists to fill.
+/// Not over a question that the operator reads just now, nor into a program that is loaded or
+/// saved, nor before there are lists to fill.
 bool UnsavedOffer::mayAsk() const
 {
     if (QApplication::activeModalWidget() || ProgramOpener::isLoading()
@@ -178,7 +178,7 @@ void UnsavedOffer::askNext()
     askNext();
 }
 
-// What is thrown away is asked about twice: there is no way back.
+/// What is thrown away is asked about twice: there is no way back.
 UnsavedOffer::Answer UnsavedOffer::ask(const Found &found)
 {
     const QPointer<UnsavedOffer> self(this);
@@ -205,7 +205,7 @@ UnsavedOffer::Answer UnsavedOffer::askOnce(const Found &found)
     return answer == BringBack || answer == ThrowAway ? Answer(answer) : Later;
 }
 
-// Work that is older still would cover this: it waits for the next start.
+/// Work that is older still would cover this: it waits for the next start.
 void UnsavedOffer::bringBack(const Found &found)
 {
     m_found.clear();
@@ -281,7 +281,7 @@ void UnsavedOffer::tellOfProgram(const KeptWork &work, bool isOpen)
         Q_EMIT told(tr("%1: brought back, not saved yet.").arg(name), Message::Information);
 }
 
-// This run keeps it by now, or the operator has saved it.
+/// This run keeps it by now, or the operator has saved it.
 void UnsavedOffer::removeOld()
 {
     disconnect(m_work, SIGNAL(settled()), this, SLOT(removeOld()));

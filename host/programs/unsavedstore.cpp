@@ -51,7 +51,7 @@ bool isNarrow(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x100; });
 }
 
-// Most programs need a byte a character.
+/// Most programs need a byte a character.
 void putText(QDataStream *stream, const QString &text)
 {
     const bool narrow = isNarrow(text);
@@ -103,7 +103,7 @@ FileStamp stampOf(const QString &path)
     return path.isEmpty() ? FileStamp() : FileStamp::of(path);
 }
 
-// The toolkit's own operators believe what a file says about the length of a list.
+/// The toolkit's own operators believe what a file says about the length of a list.
 void putRows(QDataStream *stream, const QList<QStringList> &rows)
 {
     *stream << qint32(rows.size());
@@ -171,7 +171,7 @@ QByteArray headBlock(const KeptWork &work)
     return block;
 }
 
-// A long text is not held in memory once more for the disk.
+/// A long text is not held in memory once more for the disk.
 bool putWork(SummedWriter *writer, const KeptWork &work)
 {
     if (!writer->put(magic) || !writer->put(headBlock(work)))
@@ -235,7 +235,7 @@ QByteArray sumOf(const QByteArray &link, const QByteArray &payload)
     return sum.result().left(linkBytes);
 }
 
-// Its checksum takes in that of what stands before, so a record fits in one place only.
+/// Its checksum takes in that of what stands before, so a record fits in one place only.
 QByteArray record(const KeptHead &head, qint64 time, const QList<TextChange> &changes,
                   QByteArray *link)
 {
@@ -287,7 +287,7 @@ bool replay(const QByteArray &payload, GapText *text, KeptWork *work)
     return true;
 }
 
-// To the first record that is not whole, or not of this journal.
+/// To the first record that is not whole, or not of this journal.
 void replayAll(const QByteArray &journal, QByteArray link, KeptWork *work)
 {
     GapText text(work->text);
@@ -461,7 +461,7 @@ bool UnsavedStore::openSession()
     return m_session || fail(errno);
 }
 
-// A power cut between the two leaves a journal of the file before, whose links don't fit.
+/// A power cut between the two leaves a journal of the file before, whose links don't fit.
 bool UnsavedStore::beginJournal(const QString &subject, const QByteArray &link)
 {
     const QByteArray path = QFile::encodeName(m_session->filePath(journalName(subject)));

@@ -129,7 +129,7 @@ void UnsavedWork::waitUntilSettled(int ms)
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-// Behind what is being written just now, and nothing comes after.
+/// Behind what is being written just now, and nothing comes after.
 void UnsavedWork::giveUp(int ms)
 {
     m_isOver = true;
@@ -311,7 +311,7 @@ void UnsavedWork::goOn()
         lookAtRows();
 }
 
-// The work in hand is not given up: two writers would get in each other's way.
+/// The work in hand is not given up: two writers would get in each other's way.
 void UnsavedWork::tellStall()
 {
     tellTrouble(tr("the storage does not answer"));

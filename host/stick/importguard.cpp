@@ -63,7 +63,7 @@ QList<Unsafe> unsafeIn(const QString &folder)
     return files;
 }
 
-// A name may hold anything, line ends too. Two names may differ at the end alone.
+/// A name may hold anything, line ends too. Two names may differ at the end alone.
 QString shown(const QString &fileName)
 {
     const QString name = fileName.simplified();
@@ -93,7 +93,7 @@ QString chosenName(const QListView *view)
     return view->currentIndex().data().toString();
 }
 
-// The programs' view comes first.
+/// The programs' view comes first.
 QString chosenName(const ImportManage *manager, TransferReport::Command command)
 {
     const bool isPanels =
@@ -148,7 +148,7 @@ bool ImportGuard::isBusy() const
     return isBusyBeside(Gate());
 }
 
-// A gate that asks holds already.
+/// A gate that asks holds already.
 bool ImportGuard::isBusyBeside(const Gate &gate) const
 {
     return m_job.isRunning() || m_isAsking || (m_held && m_held != gate && m_held->isHolding());
@@ -171,7 +171,7 @@ void ImportGuard::watch(ImportManage *manager)
     }
 }
 
-// A manager's question whether to cover or to delete.
+/// A manager's question whether to cover or to delete.
 void ImportGuard::watch(QMessageBox *box)
 {
     QAbstractButton *yes = box->button(QMessageBox::Yes);
@@ -181,7 +181,7 @@ void ImportGuard::watch(QMessageBox *box)
     gate->onClick([this, gate] { confirm(gate); });
 }
 
-// The path of the program directory becomes part of the command lines as it is, too.
+/// The path of the program directory becomes part of the command lines as it is, too.
 bool ImportGuard::isProgramDirSafe() const
 {
     return QRegExp(QLatin1String("[A-Za-z0-9_./+-]+")).exactMatch(m_programDir);
@@ -288,7 +288,7 @@ void ImportGuard::waitForHistory(const Gate &gate)
     m_history->whenSettled(gate, [this, gate] { passUnlessLost(gate); });
 }
 
-// The first press of two opens the question whether to cover or to delete.
+/// The first press of two opens the question whether to cover or to delete.
 void ImportGuard::passUnlessLost(const Gate &gate)
 {
     const bool isFirst = qobject_cast<ImportManage *>(gate->button()->window());
@@ -310,8 +310,8 @@ bool ImportGuard::mayLose(const QString &name)
                         {tr("Cancel"), tr("All the same")}});
 }
 
-// Whether the operator wants the second of two answers. The guard may be gone by then, and nothing
-// is wanted any more.
+/// Whether the operator wants the second of two answers. The guard may be gone by then, and nothing
+/// is wanted any more.
 bool ImportGuard::isConfirmed(const Question &question)
 {
     const QPointer<ImportGuard> guard(this);

@@ -34,7 +34,7 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(Stick)
 };
 
-// A blank stands there as "\\040".
+/// A blank stands there as "\\040".
 QByteArray unescaped(const QByteArray &field)
 {
     QByteArray result;
@@ -47,7 +47,7 @@ QByteArray unescaped(const QByteArray &field)
     return result;
 }
 
-// As the system lists them: to ask a file system itself could wait for it.
+/// As the system lists them: to ask a file system itself could wait for it.
 bool isMountPoint(const QString &path)
 {
     const int pointField = 4;
@@ -62,8 +62,8 @@ bool isMountPoint(const QString &path)
     return false;
 }
 
-// Never through a link that somebody else has laid in a folder open to all. Without a marker the
-// reason is in errno.
+/// Never through a link that somebody else has laid in a folder open to all. Without a marker the
+/// reason is in errno.
 bool makeMarker()
 {
     const QByteArray path = QFile::encodeName(Stick::marker());
@@ -153,7 +153,7 @@ void Stick::pull()
         m_simulation->pull();
 }
 
-// A stick that hangs keeps no program from ending: what is left to do then is left behind.
+/// A stick that hangs keeps no program from ending: what is left to do then is left behind.
 Stick::Simulation::~Simulation()
 {
     if (m_folder.isEmpty())
@@ -234,7 +234,7 @@ bool Stick::Simulation::isBound() const
            && point.st_dev == folder.st_dev && point.st_ino == folder.st_ino;
 }
 
-// The marker of a program like this one that was killed. Nobody else writes such a text.
+/// The marker of a program like this one that was killed. Nobody else writes such a text.
 bool Stick::Simulation::isMarkerAbandoned()
 {
     QFile file(marker());

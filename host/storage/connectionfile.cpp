@@ -126,7 +126,7 @@ QByteArray typicalBytes()
     return made.bytes();
 }
 
-// To open a pipe would wait for somebody to write into it.
+/// To open a pipe would wait for somebody to write into it.
 bool readBytes(const QString &path, QByteArray *bytes, QString *error)
 {
     const FileStamp stamp = FileStamp::of(path);

@@ -40,7 +40,7 @@ void FileJob::run(const Work &work, const Work &done, const Work &stalled)
     m_work.start(std::make_shared<OneStep>(work));
 }
 
-// By value: the answer may begin the next work, and may end the job's owner.
+/// By value: the answer may begin the next work, and may end the job's owner.
 void FileJob::finish(const Work &answer)
 {
     const Work held = answer;

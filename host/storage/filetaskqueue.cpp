@@ -21,7 +21,7 @@ void FileTaskQueue::begin()
     m_work.start(m_jobs.head().task);
 }
 
-// The answer may run an event loop, in which the next job does its work.
+/// The answer may run an event loop, in which the next job does its work.
 void FileTaskQueue::end(bool hasEnded)
 {
     const Answer answer = m_jobs.dequeue().answer;

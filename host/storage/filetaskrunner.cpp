@@ -81,7 +81,7 @@ void FileTaskRunner::answer(Step step)
     Q_EMIT stopped();
 }
 
-// In the thread: to close a file can take as long as to write it.
+/// In the thread: to close a file can take as long as to write it.
 void FileTaskRunner::close()
 {
     const std::shared_ptr<FileTask> task = m_task;
@@ -97,7 +97,7 @@ void FileTaskRunner::giveUp()
     Q_EMIT stalled();
 }
 
-// The task lets go of its files in the thread, when the step in hand has come back.
+/// The task lets go of its files in the thread, when the step in hand has come back.
 void FileTaskRunner::abandon()
 {
     const std::shared_ptr<FileTask> task = m_task;

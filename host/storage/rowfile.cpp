@@ -39,7 +39,7 @@ QString unescaped(const QString &text)
     return result;
 }
 
-// A row whose first string begins with "#" must not come back as a comment.
+/// A row whose first string begins with "#" must not come back as a comment.
 QString line(const QStringList &row)
 {
     QStringList strings;

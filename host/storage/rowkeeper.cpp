@@ -37,7 +37,7 @@ QString fileName(const QString &path)
     return QFileInfo(path).fileName();
 }
 
-// To open a pipe would wait for somebody to write into it.
+/// To open a pipe would wait for somebody to write into it.
 bool isReadable(const QString &path, QString *error)
 {
     const FileStamp stamp = FileStamp::of(path);

@@ -106,7 +106,7 @@ void SettingsFile::store(const QMap<QString, QString> &values)
     note(NotStored);
 }
 
-// What the disk holds counts, not what the calls said.
+/// What the disk holds counts, not what the calls said.
 bool SettingsFile::write()
 {
     QDir().mkpath(QFileInfo(m_path).path());

@@ -80,7 +80,7 @@ bool GlassInput::sendEvent(Reports::WindowSystemEvent *event)
     return QWindowSystemEventHandler::sendEvent(event);
 }
 
-// The drivers of a display that is this program's alone name no window.
+/// The drivers of a display that is this program's alone name no window.
 bool GlassInput::isAboutGlass(const Reports::UserEvent *event) const
 {
     return event->window == m_glass || event->nullWindow();
@@ -116,8 +116,8 @@ void GlassInput::turnTouch(Reports::TouchEvent *event) const
     event->flags |= Reports::WindowSystemEvent::NullWindow;
 }
 
-// Activates a pressed window as a desktop does, but does not raise it: that would hide a small
-// dialog behind the main window for good.
+/// Activates a pressed window as a desktop does, but does not raise it: that would hide a small
+/// dialog behind the main window for good.
 void GlassInput::activateAt(const QPointF &point) const
 {
     QWindow *window = QGuiApplication::topLevelAt(point.toPoint());

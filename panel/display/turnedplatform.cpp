@@ -127,8 +127,8 @@ TurnedPlatform::~TurnedPlatform()
     QWindowSystemInterface::flushWindowSystemEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-// The surface is the primary screen, and the platform's own screens are nowhere. On one of them the
-// toolkit would put a popup whose corner lies beside the surface.
+/// The surface is the primary screen, and the platform's own screens are nowhere. On one of them
+/// the toolkit would put a popup whose corner lies beside the surface.
 void TurnedPlatform::standBefore()
 {
     if (QGuiApplication::primaryScreen() != m_screen->screen())
@@ -197,7 +197,7 @@ Qt::WindowState TurnedPlatform::defaultWindowState(Qt::WindowFlags) const
     return Qt::WindowNoState;
 }
 
-// The native one takes any window for one of its own.
+/// The native one takes any window for one of its own.
 QPlatformNativeInterface *TurnedPlatform::nativeInterface() const
 {
     return &m_noNativeInterface;

@@ -31,7 +31,7 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     painter.drawText(area, int(alignment()), lines.join(QLatin1Char('\n')));
 }
 
-// The last one holds all that is left.
+/// The last one holds all that is left.
 QStringList ElidedLabel::linesIn(int width) const
 {
     QString rest = text();

@@ -96,7 +96,7 @@ QString keyPanelSheet()
              hex(colours().keyOff), hex(accentPressed));
 }
 
-// The rules by which the frames that \a frame selects have the ground of their tone.
+/// The rules by which the frames that \a frame selects have the ground of their tone.
 QString toneRules(const QString &frame)
 {
     return QString::fromLatin1("%1 { border: 0; border-radius: 6px; background: transparent; }"
@@ -119,8 +119,8 @@ QString messageListSheet()
                  .arg(hex(white), hex(colours().text));
 }
 
-// The other roles go on following the application's palette, and what the widget has set itself
-// stays.
+/// The other roles go on following the application's palette, and what the widget has set itself
+/// stays.
 void lighten(QWidget *widget)
 {
     const Colours &light = colourTable[Look::Light];

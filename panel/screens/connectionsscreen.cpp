@@ -33,7 +33,7 @@ const int aroundRows = 64;
 const QLatin1String ownFile("connections");
 const QLatin1String storage("storage");
 
-// Connections of one name share an address: the last one's.
+/// Connections of one name share an address: the last one's.
 QStringList shownAddresses(const ConnEditor &editor, const ConnectionFile::Contents &contents)
 {
     const ListWidget *list =
@@ -173,7 +173,7 @@ void ConnectionsScreen::tellStall()
                 Message::Alarm, storage);
 }
 
-// The file may have changed since the screen was filled.
+/// The file may have changed since the screen was filled.
 void ConnectionsScreen::beginEdit()
 {
     if (isBusy())

@@ -28,8 +28,8 @@ QFont sized(QFont font, int pixels)
     return font;
 }
 
-// As large as the text has room for. Two names may differ at the end alone, so what does not fit at
-// all loses its middle. Of two numbers neither may: they take a second line.
+/// As large as the text has room for. Two names may differ at the end alone, so what does not fit
+/// at all loses its middle. Of two numbers neither may: they take a second line.
 void showValue(QLabel *label, const QString &text, int room, bool mayBreak)
 {
     int pixels = valuePixels;

@@ -34,7 +34,7 @@ QHBoxLayout *addKeyRow(QVBoxLayout *column)
     return row;
 }
 
-// A word takes twice the room of an arrow.
+/// A word takes twice the room of an arrow.
 QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
 {
     QPushButton *key = new QPushButton(text);

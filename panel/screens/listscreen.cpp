@@ -210,7 +210,7 @@ void ListScreen::store()
                     [this, shown](const RowKeeper::Stored &stored) { noteStored(shown, stored); });
 }
 
-// The operator may have changed a row since.
+/// The operator may have changed a row since.
 void ListScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored)
 {
     if (!stored.isStored)
@@ -254,7 +254,7 @@ bool ListScreen::eventFilter(QObject *watched, QEvent *event)
     return PanelScreen::eventFilter(watched, event);
 }
 
-// As many rows a page as fit under the title.
+/// As many rows a page as fit under the title.
 void ListScreen::fitPage()
 {
     // The title is as high as a row that is not open.

@@ -33,8 +33,8 @@ void appendNumbered(QList<QStringList> *rows, QStringList row)
 
 } // namespace
 
-// The title's cells stand over the instruction, the point, the speed, Z and T. The list shows every
-// second of the texts from the third on.
+/// The title's cells stand over the instruction, the point, the speed, Z and T. The list shows
+/// every second of the texts from the third on.
 QStringList TaughtProgram::titleRow()
 {
     return {QLatin1String("Title"),

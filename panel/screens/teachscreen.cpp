@@ -99,7 +99,7 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     loadFirst();
 }
 
-// Rows that make way for those of a file are nothing to tell of.
+/// Rows that make way for those of a file are nothing to tell of.
 void TeachScreen::showClearing(int percent)
 {
     if (!isLoading())
@@ -111,8 +111,8 @@ void TeachScreen::loadFirst()
     keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showFirst(loaded); });
 }
 
-// A program that nobody can read is not taken for one that isn't there. There are no rows then, not
-// those of the sample, and the file stays until the operator stores.
+/// A program that nobody can read is not taken for one that isn't there. There are no rows then,
+/// not those of the sample, and the file stays until the operator stores.
 void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
 {
     const bool isNew = loaded.state == RowKeeper::Loaded::Missing;
@@ -123,8 +123,8 @@ void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
                tr("The list is empty. Try Load."));
 }
 
-// The list never fills its title row again. The title's cells are those of the row without its
-// first two words, its kind and its number.
+/// The list never fills its title row again. The title's cells are those of the row without its
+/// first two words, its kind and its number.
 void TeachScreen::retranslate()
 {
     QStringList cells = TaughtProgram::titleRow();
@@ -257,7 +257,7 @@ void TeachScreen::insertMovement(const QString &kind)
     insert(TaughtProgram::movement(kind, tr("Move"), m_machine->currentPoint(), 1, *m_machine));
 }
 
-// Below the current row, and in view.
+/// Below the current row, and in view.
 void TeachScreen::insert(QStringList row)
 {
     const int index = qMin(list()->getCurIndex() + 1, list()->count());
@@ -306,7 +306,7 @@ void TeachScreen::chooseSpeed(int row)
         tellChoice(tr("Instructions that now name speed %1 \"%2\": %3."), choice);
 }
 
-// What an instruction names is shared: a choice goes to every row that names the same.
+/// What an instruction names is shared: a choice goes to every row that names the same.
 TeachScreen::Choice TeachScreen::choose(int row, const QString &title, const SharedTable &table)
 {
     Choice choice;
@@ -335,7 +335,7 @@ void TeachScreen::tellChoice(const QString &text, const Choice &choice)
     Q_EMIT told(text.arg(choice.number).arg(choice.name).arg(choice.rows), Message::Information);
 }
 
-// Tag on the program screen copies the point of the instruction that was touched last.
+/// Tag on the program screen copies the point of the instruction that was touched last.
 void TeachScreen::followRow(int row)
 {
     m_machine->setCurrentPoint(list()->getJposIndex(row));

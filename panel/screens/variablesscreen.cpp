@@ -127,8 +127,8 @@ QString VariablesScreen::value(const QString &name) const
     return QString();
 }
 
-// The machine decides which variables there are; the file gives their values. Where it can't, there
-// are none: nobody shall take the values of a new machine for those of this one.
+/// The machine decides which variables there are; the file gives their values. Where it can't,
+/// there are none: nobody shall take the values of a new machine for those of this one.
 void VariablesScreen::showRead(const RowKeeper::Loaded &loaded)
 {
     const bool isKnown =

@@ -19,8 +19,8 @@ namespace {
 
 const QSize roomyDialog(640, 440);
 
-// The toolkit leaves room for a window manager's frame, and without one a dialog that did not
-// choose its place stands above the middle.
+/// The toolkit leaves room for a window manager's frame, and without one a dialog that did not
+/// choose its place stands above the middle.
 bool isMisplaced(const QDialog *dialog)
 {
     return !dialog->testAttribute(Qt::WA_Moved) && !Platform::hasWindowManager();
@@ -70,8 +70,8 @@ bool DialogFitter::isPressOfPanel(const QObject *watched, QEvent::Type type) con
            && watched == m_panel->windowHandle();
 }
 
-// A window manager keeps the dialog above the window that it belongs to. The native window is there
-// by now and not yet shown, when it tells the manager.
+/// A window manager keeps the dialog above the window that it belongs to. The native window is
+/// there by now and not yet shown, when it tells the manager.
 void DialogFitter::bind(QDialog *dialog)
 {
     if (!m_panel || !m_panel->windowHandle())
@@ -84,7 +84,7 @@ void DialogFitter::bind(QDialog *dialog)
         window->setTransientParent(m_panel->windowHandle());
 }
 
-// Where nobody manages the windows, each in its turn, so that the last one shown is on top.
+/// Where nobody manages the windows, each in its turn, so that the last one shown is on top.
 void DialogFitter::raiseAll()
 {
     const QList<QPointer<QDialog>> open = m_open;

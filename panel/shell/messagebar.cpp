@@ -130,7 +130,7 @@ void MessageBar::refresh()
     Q_EMIT changed();
 }
 
-// The last message stays to be read, without the urgency that it had.
+/// The last message stays to be read, without the urgency that it had.
 void MessageBar::showNothing()
 {
     const QList<Message> messages = m_log->messages();

@@ -39,7 +39,7 @@ QLabel *makeLabel(const QString &text, int pixels)
     return label;
 }
 
-// A label breaks its lines between words only; the name of a file may be one word of 255 letters.
+/// A label breaks its lines between words only; the name of a file may be one word of 255 letters.
 QString breakable(const QString &text)
 {
     QString result;
@@ -108,7 +108,7 @@ MessageDialog::MessageDialog(MessageLog *log, const QString &subject, QWidget *p
     resize(roomy.boundedTo(panelSize() - QSize(8, 8)));
 }
 
-// In one form for all languages: it can be sorted, and nobody takes the month for the day.
+/// In one form for all languages: it can be sorted, and nobody takes the month for the day.
 QString MessageDialog::shownTime(const QDateTime &time, const QDate &today)
 {
     const char *format = time.date() == today ? "HH:mm:ss" : "yyyy-MM-dd HH:mm:ss";
@@ -146,7 +146,7 @@ QWidget *MessageDialog::makeLine(const Message &message, bool stands) const
     return line;
 }
 
-// The message that is read keeps its place unless something newer comes on top.
+/// The message that is read keeps its place unless something newer comes on top.
 void MessageDialog::fill()
 {
     const int place = m_area->verticalScrollBar()->value();

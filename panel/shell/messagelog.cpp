@@ -122,7 +122,7 @@ int MessageLog::currentIndex() const
     return index;
 }
 
-// A message that says the same again is listed once where nothing came between.
+/// A message that says the same again is listed once where nothing came between.
 void MessageLog::takeOver(const Message &message)
 {
     for (Entry &entry : m_entries) {
@@ -134,7 +134,7 @@ void MessageLog::takeOver(const Message &message)
         m_entries.removeFirst();
 }
 
-// A message that still stands is not forgotten for one that has passed.
+/// A message that still stands is not forgotten for one that has passed.
 void MessageLog::trim()
 {
     if (m_entries.size() <= kept)

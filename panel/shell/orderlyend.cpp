@@ -23,7 +23,7 @@ void OrderlyEnd::end()
     QTimer::singleShot(0, this, &OrderlyEnd::goOn);
 }
 
-// One answer each time: whoever asked goes on between two answers, and may ask for more.
+/// One answer each time: whoever asked goes on between two answers, and may ask for more.
 void OrderlyEnd::goOn()
 {
     if (m_time.elapsed() < patienceMs && (abortLoading() || answerInnermost())) {
@@ -58,8 +58,8 @@ void OrderlyEnd::answer(QDialog *dialog)
     dialog->done(box ? QuestionKeeper::harmlessResult(box) : int(QDialog::Rejected));
 }
 
-// The editor takes long programs in piece by piece, and asks its progress dialog between them. The
-// dialog is there until the editor has come back.
+/// The editor takes long programs in piece by piece, and asks its progress dialog between them. The
+/// dialog is there until the editor has come back.
 bool OrderlyEnd::abortLoading()
 {
     bool isLoading = false;

@@ -246,7 +246,7 @@ void PanelWindow::tellTrouble()
         m_log.tell(trouble, Message::Warning);
 }
 
-// The tabs of a menu go on in a second line where the first is full.
+/// The tabs of a menu go on in a second line where the first is full.
 void PanelWindow::addTab(PanelKey *tab)
 {
     const int columns = hasMenu() ? qMax(1, width() / menuTabWidth) : INT_MAX;
@@ -254,7 +254,7 @@ void PanelWindow::addTab(PanelKey *tab)
     m_tabs->addWidget(tab, count / columns, count % columns);
 }
 
-// The tabs of a small panel, over the screen while the operator chooses.
+/// The tabs of a small panel, over the screen while the operator chooses.
 void PanelWindow::makeMenu()
 {
     m_menu = new QWidget(this);
@@ -334,7 +334,7 @@ void PanelWindow::showInFull(const QString &subject)
     dialog.exec();
 }
 
-// The state of the devices gives way: on a small panel there is one line for the two.
+/// The state of the devices gives way: on a small panel there is one line for the two.
 void PanelWindow::placeMessages()
 {
     m_status->setVisible(m_messageBar->text().isEmpty());

@@ -31,7 +31,7 @@ QFont sized(QFont font, int pixels)
     return font;
 }
 
-// A label breaks its lines between words only; the name of a file may be one word of 255 letters.
+/// A label breaks its lines between words only; the name of a file may be one word of 255 letters.
 QString breakable(const QString &text, const QFont &font, int width)
 {
     const QFontMetrics metrics(font);
@@ -47,8 +47,8 @@ QString breakable(const QString &text, const QFont &font, int width)
     return words.join(QLatin1Char(' '));
 }
 
-// Broken between its words where they have room. Two names may differ at the end alone, so a name
-// that has none loses its middle.
+/// Broken between its words where they have room. Two names may differ at the end alone, so a name
+/// that has none loses its middle.
 QLabel *makeLine(const QString &thing, int room)
 {
     QLabel *line = new QLabel;

@@ -81,8 +81,8 @@ QString Settings::choice(const QString &key, const QStringList &known)
     return QString();
 }
 
-// Success needs no word: the whole panel shows the choice at once. The disk's bytes are compared
-// all the same, and a difference is told.
+/// Success needs no word: the whole panel shows the choice at once. The disk's bytes are compared
+/// all the same, and a difference is told.
 void Settings::setChoice(const QString &key, const QString &value)
 {
     m_values[key] = value;

@@ -197,7 +197,7 @@ void StatusStrip::noteEnd(bool failed)
     showPlc();
 }
 
-// A fault of a program says nothing of the PLC.
+/// A fault of a program says nothing of the PLC.
 void StatusStrip::noteFailure(bool isPlcAtFault)
 {
     if (isPlcAtFault)
@@ -206,7 +206,7 @@ void StatusStrip::noteFailure(bool isPlcAtFault)
         noteStop();
 }
 
-// A download that the operator stopped says nothing of the PLC.
+/// A download that the operator stopped says nothing of the PLC.
 void StatusStrip::noteStop()
 {
     m_percent = -1;
@@ -294,7 +294,7 @@ void StatusStrip::showStorage()
     }
 }
 
-// The clock of a panel may be set at any moment: each second is looked up, none is counted.
+/// The clock of a panel may be set at any moment: each second is looked up, none is counted.
 void StatusStrip::tick()
 {
     const QTime now = QTime::currentTime();
