@@ -18,9 +18,9 @@ namespace {
 
 /// A cell says that it paints all of its rectangle, so that nothing behind it is painted for it.
 ///
-/// The toolkit takes that back whenever it polishes a cell with a style sheet by which the cell has
-/// round corners, a margin, or a colour that lets something through. By the meta-object, and to
-/// whoever asks for the class, a cell is what it is made from.
+/// The toolkit takes that back when it polishes a cell whose style sheet has round corners, a
+/// margin, or a colour that lets something through. By the meta-object, and to whoever asks for the
+/// class, a cell is what it is made from.
 template<class Base>
 class OpaqueCell : public Base
 {
@@ -83,8 +83,8 @@ bool isPlain(QChar c)
     return c.unicode() >= ' ' && c.unicode() <= '~' && c.unicode() != '<';
 }
 
-/// Whether a label wants the same height for both texts: neither is empty, and line breaks, tags
-/// and characters that may come from another font are the same.
+/// Whether a label wants the same height for both texts. Neither is empty then, and line breaks,
+/// tags and characters that may come from another font are the same.
 bool areOfOneHeight(const QString &one, const QString &other)
 {
     if (one.isEmpty() || other.isEmpty())

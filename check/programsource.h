@@ -15,9 +15,8 @@ namespace ProgramSource {
 const qint64 mostBytes = qint64(256) << 20;
 
 /// Reads the program \a name piece by piece into \a reading; "-" is the standard input. Takes
-/// files, and pipes that a shell opened; folders, devices and pipes with a name of their own are
-/// refused, so that "*.cnc" never waits for somebody to write. False with \a error, half a
-/// sentence.
+/// files, and pipes that a shell opened. Folders, devices and pipes with a name of their own are
+/// refused: "*.cnc" never waits for somebody to write. False with \a error, half a sentence.
 bool read(const QByteArray &name, ProgramReading *reading, QByteArray *error);
 
 } // namespace ProgramSource

@@ -13,8 +13,8 @@ const bool isDoubleExact = true;
 const bool isDoubleExact = false; // a quotient would be rounded twice
 #endif
 
-/// An integer of so many digits, and the power of ten that they are divided by, are both exact in a
-/// double; the quotient of the two is then the double nearest to the decimal number.
+/// An integer of so many digits is exact in a double, and so is the power of ten that divides it.
+/// The quotient of the two is then the double nearest to the decimal number.
 const int exactDigits = 15;
 const double powersOfTen[exactDigits + 1] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};

@@ -9,8 +9,8 @@
 
 /// The words of a G-code line that have a colour.
 ///
-/// Six rules say what such a word is, each by an expression and, next to it, by what the expression
-/// amounts to: a first character and the shape of what follows it. No character begins the words of
+/// Six rules say what such a word is, each by an expression. Next to it stands what the expression
+/// amounts to: a first character and the shape of what follows. No character begins the words of
 /// two rules, and none that begins a word can stand inside of one. So the words never overlap, and
 /// one pass over a line finds what the six expressions find one after the other.
 namespace GCodeWords {

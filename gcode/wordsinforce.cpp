@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Reading a block by itself costs about ten times its share of the whole text, so this is where
-/// taking the whole text begins to pay, and a little before.
+/// Reading a block by itself costs about ten times its share of the whole text. So taking the whole
+/// text begins to pay here, and a little before.
 const int nearShare = 64;
 const int nearLines = 256;
 

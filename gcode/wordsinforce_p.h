@@ -26,8 +26,8 @@ public:
     /// Looks all \a names up in one pass from text line \a line, from 0, up to the first one. Only
     /// names of one character are ever found; for a negative line none is.
     ///
-    /// The time goes by the distance of the farthest name, not by the length of the program: up to
-    /// a sixtieth of it block by block, and only beyond that over its whole text at once.
+    /// The time goes by the distance of the farthest name, not by the length of the program. A
+    /// sixtieth of the program is read block by block, and only then its whole text at once.
     WordsInForce(const QStringList &names, const QTextDocument *document, int line);
 
     /// Whether \a name was found with exactly this value. The value "nan" equals nothing.

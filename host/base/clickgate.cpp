@@ -9,9 +9,10 @@
 #include <QButtonGroup>
 #include <QPointer>
 
-/// A button says released() right before clicked(), whatever pressed it, but also when a finger
-/// slides off or the focus goes, with no click behind it. So its signals are blocked from
-/// released() on, and the group, whose signals they are not, tells whether there was a click.
+/// A button says released() right before clicked(), whatever pressed the button. It also does so
+/// when a finger slides off or the focus goes, and no click follows. So the button's signals are
+/// blocked from released() on. The group has signals of its own, which tell whether there was a
+/// click.
 ClickGate::ClickGate(QAbstractButton *button) : QObject(button), m_clicks(new QButtonGroup(this))
 {
     m_clicks->setExclusive(false);

@@ -12,7 +12,7 @@
 class TListWidget;
 
 /// A list of the library that fills its place. By itself a list keeps the width that it was made
-/// with, 480 pixels at the most; its setSize() widens the rows and leaves the title behind.
+/// with, 480 pixels at the most. setSize() widens its rows and leaves the title behind.
 ///
 ///     FittedList *taught = new FittedList(FilarixRows::titleRow(...));
 ///     layout->addWidget(taught);

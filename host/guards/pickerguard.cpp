@@ -89,7 +89,8 @@ void PickerGuard::check()
     m_hold(name);
 }
 
-/// Not a second time for a name that the operator wants as it is, nor for a program that has it.
+/// A name that the operator wants as it is gets no suffix at the second try, and neither does a
+/// name that a program has.
 bool PickerGuard::wantsSuffix(const QString &name) const
 {
     return m_isForSaving && ProgramName::isBare(name) && name != m_bareName

@@ -34,8 +34,8 @@ QString nameOf(const QString &path)
     return QFileInfo(path).fileName();
 }
 
-/// The document takes the number of steps that can be undone for its mark of being clean, and keeps
-/// that number when the steps go: as many new ones would look like no change at all.
+/// A document that counts as clean remembers how many steps can be undone, and keeps that number
+/// when the steps go. As many new steps would look like no change at all.
 void forgetUndo(QTextDocument *document)
 {
     document->clearUndoRedoStacks();
@@ -428,7 +428,7 @@ void ProgramGuard::tellStored(StoreCheck::Outcome outcome)
     finishSave(outcome == StoreCheck::Stored);
 }
 
-/// A command that waits for the save is given again: the library finds nothing to ask about now.
+/// Gives a command that waits for the save once more: the library finds nothing to ask about now.
 void ProgramGuard::finishSave(bool isStored)
 {
     const Command next = m_afterSave;
@@ -554,7 +554,8 @@ bool ProgramGuard::mayCover(const QString &name, const ProgramOnDisk &there)
            == 1;
 }
 
-/// Saved before the library goes on and clears the editor: it could not tell whether all went well.
+/// The program is saved before the library goes on and clears the editor: the library could not
+/// tell whether all went well.
 void ProgramGuard::guardSaveQuestion(QMessageBox *box)
 {
     ClickGate *gate = new ClickGate(box->button(QMessageBox::Save));

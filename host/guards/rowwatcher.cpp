@@ -63,7 +63,7 @@ void RowWatcher::listenTo(QObject *row)
         connect(row, SIGNAL(sg_content_change(int)), SLOT(report(int)), Qt::UniqueConnection);
 }
 
-/// The list heard of it before, and has taken the edit.
+/// The list heard of the edit before this object, and has taken it.
 void RowWatcher::report(int number)
 {
     QObject *row = sender();

@@ -22,17 +22,17 @@ namespace WindowProgram {
 /// The editor of \a window, a WMMainWindow or a widget that holds one. Null for none.
 FILARIX_HOST_EXPORT WGCodeEditer *editorOf(const QWidget *window);
 
-/// Opens the program at \a path as the operator would by the window's Open, but without the
-/// question for its name: file, title and download belong to it then. To load a text into the
-/// editor leaves getCurrentFile() empty, and D/L would send "".
+/// Opens the program at \a path as the window's Open does, without the question for a name. File,
+/// title and download belong to the program then. To load a text into the editor leaves
+/// getCurrentFile() empty, and D/L would send "".
 ///
 /// Waits, with the event loop running, and tells whether the program is the window's afterwards.
 /// What the window asks besides, about changes say, is the operator's to answer. The \a guard of
 /// the window, if it has one, goes on comparing and keeping.
 ///
-/// False, with the window as it was: where \a path is no file in the program directory, which is
-/// the only place that the window opens from; where the panel's storage does not answer; and while
-/// a dialog or another command is open.
+/// False, with the window as it was, where \a path is no file in the program directory: the window
+/// opens from no other place. The same where the panel's storage does not answer, and while a
+/// dialog or another command is open.
 FILARIX_HOST_EXPORT bool openProgram(WMMainWindow *window, const QString &path,
                                      ProgramGuard *guard = nullptr);
 

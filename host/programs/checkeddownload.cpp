@@ -80,7 +80,8 @@ void CheckedDownload::stop()
     m_transfer.stop();
 }
 
-/// Most programs are copied in the twinkling of an eye. The snapshot reads once more at the end.
+/// Most programs are copied before an operator could read this. The snapshot reads once more at the
+/// end.
 void CheckedDownload::showCopying(int percent)
 {
     if (m_isCopying && m_copyingFor.elapsed() >= patienceMs)
@@ -99,7 +100,7 @@ void CheckedDownload::lookAtShown()
         inspect();
 }
 
-/// With the copy: the program itself may be another one by now.
+/// Compares the shown text with the copy: the program itself may be another one by now.
 void CheckedDownload::compare(const QString &shownText)
 {
     m_facts.shownLines = ProgramText::lines(shownText);

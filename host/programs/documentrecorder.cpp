@@ -76,7 +76,7 @@ void DocumentRecorder::note(int position, int removed, int added)
     Q_EMIT changed();
 }
 
-/// What lies behind the end of the copy comes into it later.
+/// Text behind the end of the copy comes into the copy later.
 void DocumentRecorder::noteInCopy(const TextChange &change)
 {
     if (change.position >= m_copy.size())

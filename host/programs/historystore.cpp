@@ -214,7 +214,8 @@ void HistoryStore::trim()
     }
 }
 
-/// The oldest that is not the newest of its name; only too many bytes make one of those go.
+/// The oldest version that is not the newest of its name. Only too many bytes make the newest of a
+/// name go.
 int HistoryStore::firstToGo(bool overBytes) const
 {
     QHash<QString, int> newestOf;

@@ -126,7 +126,7 @@ bool PlcTransfer::Task::open()
     return true;
 }
 
-/// What a panel that was switched off has left there, and nothing that is somebody else's.
+/// Removes what a panel that was switched off has left there, and no file of somebody else.
 void PlcTransfer::Task::sweep()
 {
     const QDir folder(m_dropDir);
@@ -202,7 +202,8 @@ bool PlcTransfer::Task::comparePiece()
     return !piece.isEmpty();
 }
 
-/// Only what was sent: in a folder that others write to, the name may have passed on.
+/// Takes out only what was sent: in a folder that others write to, the name may belong to another
+/// file by now.
 bool PlcTransfer::Task::takeOut()
 {
     m_arrived.close();

@@ -43,7 +43,7 @@ QByteArray encoded(const QString &path)
     return QFile::encodeName(path);
 }
 
-/// Systems and file systems that cannot do it say so.
+/// Systems and file systems that cannot rename with flags say so.
 bool renameWith(const QString &from, const QString &to, unsigned flags)
 {
 #ifdef RENAME_EXCHANGE
@@ -150,7 +150,7 @@ bool ProgramHistory::Scan::openStore()
     return true;
 }
 
-/// There may be the one file of a version that a save has put there in the last moment.
+/// The folder may hold the file of a version that a save has put there in the last moment.
 void ProgramHistory::Scan::sweep(const QString &folder)
 {
     QDir dir(folder);
@@ -563,7 +563,7 @@ void ProgramHistory::serve(int look)
         m_patienceTimer.stop();
 }
 
-/// In the order in which they came, and so the first is the most patient.
+/// The waiters stand in the order in which they came, so the first one has waited longest.
 void ProgramHistory::serveThePatient()
 {
     while (!m_waiters.isEmpty() && m_waiters.first().since.hasExpired(m_patienceMs - 1)) {
@@ -654,7 +654,8 @@ void ProgramHistory::setSettled(bool isSettled)
     m_isSettled = isSettled;
 }
 
-/// In one form for all languages: it can be sorted, and nobody takes the month for the day.
+/// The date has one form in all languages: such dates can be sorted, and nobody takes the month for
+/// the day.
 QString ProgramHistory::shownDate(const ProgramVersion &version)
 {
     return version.stored.toLocalTime().toString(QLatin1String("yyyy-MM-dd HH:mm"));

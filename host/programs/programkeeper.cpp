@@ -13,7 +13,7 @@
 
 namespace {
 
-// What takes less is over before anybody has read about it.
+// Work that takes less time is over before anybody has read about it.
 const int patienceMs = 300;
 const char waitCause[] = "history wait";
 

@@ -39,7 +39,7 @@ private:
     const QChar *m_end;
 };
 
-/// The first ones take what doesn't come out even.
+/// The first pieces take the lines that are left over.
 int pieceSize(int lines, int piece)
 {
     return lines / ProgramText::loaderPieces + (piece < lines % ProgramText::loaderPieces ? 1 : 0);

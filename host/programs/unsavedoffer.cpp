@@ -142,8 +142,8 @@ void UnsavedOffer::takeIn(const QList<Found> &found)
     askNext();
 }
 
-/// Not over a question that the operator reads just now, nor into a program that is loaded or
-/// saved, nor before there are lists to fill.
+/// The offer never covers a question that the operator reads, and never changes a program that is
+/// being loaded or saved. The offer also waits for lists to fill.
 bool UnsavedOffer::mayAsk() const
 {
     if (QApplication::activeModalWidget() || ProgramOpener::isLoading()
@@ -281,7 +281,7 @@ void UnsavedOffer::tellOfProgram(const KeptWork &work, bool isOpen)
         Q_EMIT told(tr("%1: brought back, not saved yet.").arg(name), Message::Information);
 }
 
-/// This run keeps it by now, or the operator has saved it.
+/// This run keeps the old work by now, or the operator has saved it.
 void UnsavedOffer::removeOld()
 {
     disconnect(m_work, SIGNAL(settled()), this, SLOT(removeOld()));

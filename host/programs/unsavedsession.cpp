@@ -30,8 +30,8 @@ int openFolder(const QString &path)
                   O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
 }
 
-/// While it lives nobody else makes a session in the folder or looks for those that are left, so
-/// that a new one is not taken for a left one before it is held.
+/// While the lock lives nobody else makes a session in the folder or looks for those that are left.
+/// So a new session is not taken for a left one before somebody holds it.
 class FolderLock
 {
 public:

@@ -235,7 +235,8 @@ QByteArray sumOf(const QByteArray &link, const QByteArray &payload)
     return sum.result().left(linkBytes);
 }
 
-/// Its checksum takes in that of what stands before, so a record fits in one place only.
+/// The checksum of a record takes in that of what stands before, so a record fits in one place
+/// only.
 QByteArray record(const KeptHead &head, qint64 time, const QList<TextChange> &changes,
                   QByteArray *link)
 {
@@ -287,7 +288,7 @@ bool replay(const QByteArray &payload, GapText *text, KeptWork *work)
     return true;
 }
 
-/// To the first record that is not whole, or not of this journal.
+/// Replays up to the first record that is not whole, or not of this journal.
 void replayAll(const QByteArray &journal, QByteArray link, KeptWork *work)
 {
     GapText text(work->text);

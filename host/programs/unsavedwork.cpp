@@ -129,7 +129,7 @@ void UnsavedWork::waitUntilSettled(int ms)
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-/// Behind what is being written just now, and nothing comes after.
+/// The work is removed behind what is being written just now, and no write comes after.
 void UnsavedWork::giveUp(int ms)
 {
     m_isOver = true;

@@ -53,8 +53,8 @@ public:
     bool isSettled() const;
     /// Begins to write what is not yet written; settled() comes when that is done.
     void keepNow();
-    /// Writes at once what is not yet written, and waits for it, \a ms milliseconds at most;
-    /// whether all of it is on the disk then.
+    /// Writes at once what is not yet written, and waits for the disk, \a ms milliseconds at most.
+    /// True if all of it is on the disk then.
     bool flush(int ms);
     /// The operator has given up all that is not saved; waits until it is gone, \a ms milliseconds
     /// at most. Nothing is watched any more.

@@ -148,7 +148,7 @@ bool ImportGuard::isBusy() const
     return isBusyBeside(Gate());
 }
 
-/// A gate that asks holds already.
+/// A gate that asks holds its press already.
 bool ImportGuard::isBusyBeside(const Gate &gate) const
 {
     return m_job.isRunning() || m_isAsking || (m_held && m_held != gate && m_held->isHolding());

@@ -34,7 +34,7 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(Stick)
 };
 
-/// A blank stands there as "\\040".
+/// A blank stands in such a list as "\\040".
 QByteArray unescaped(const QByteArray &field)
 {
     QByteArray result;
@@ -47,7 +47,7 @@ QByteArray unescaped(const QByteArray &field)
     return result;
 }
 
-/// As the system lists them: to ask a file system itself could wait for it.
+/// The system's own list of mounts tells: to ask a file system itself could wait for that.
 bool isMountPoint(const QString &path)
 {
     const int pointField = 4;
@@ -62,8 +62,8 @@ bool isMountPoint(const QString &path)
     return false;
 }
 
-/// Never through a link that somebody else has laid in a folder open to all. Without a marker the
-/// reason is in errno.
+/// Makes the marker, never through a link that somebody else has laid in a folder open to all.
+/// Without a marker the reason is in errno.
 bool makeMarker()
 {
     const QByteArray path = QFile::encodeName(Stick::marker());
@@ -253,8 +253,8 @@ bool Stick::Simulation::isLinkTo(const QString &folder)
 bool Stick::Simulation::link(QString *error)
 {
     const QFileInfo point(mountPoint());
-    // The import manager looks through a link, and takes a file for the stick's only where the
-    // mount point's path is part of the file's own.
+    // The import manager looks through a link. A file is the stick's only where the mount point's
+    // path is part of the file's own.
     const bool isKnown = QFileInfo(m_folder).canonicalFilePath().contains(mountPoint());
     // An empty folder makes way and comes back at the end; a stick that is mounted there does not.
     const bool removed =

@@ -20,8 +20,8 @@
 class FILARIX_HOST_EXPORT TransferNames
 {
 public:
-    /// Whether every command line takes \a name for what it is: it starts with an ASCII letter,
-    /// digit or "_", and goes on with these, ".", "-" and "+".
+    /// Whether every command line takes \a name for what it is. Such a name starts with an ASCII
+    /// letter, a digit or "_", and goes on with these, ".", "-" and "+".
     static bool isSafe(const QString &name);
 
     /// A safe name that resembles \a name and differs from all of \a taken, upper and lower case

@@ -19,8 +19,8 @@
 /// when that is full. So each look goes through a private copy of what was read from the disk. All
 /// of these functions may wait for the disk.
 ///
-/// The library's table edits a private copy, by ConnEditor on a file in a folder of its own; what
-/// it made of that is stored with a look at the disk:
+/// The library's table edits a private copy, by ConnEditor on a file in a folder of its own. What
+/// ConnEditor made of the copy is stored with a look at the disk:
 ///
 ///     const ConnectionFile::Contents was = ConnectionFile::read(path);
 ///     editACopyOf(was.bytes, &edited, &addresses);
@@ -58,9 +58,9 @@ const int mostConnections = 1000;
 /// typical winding machine.
 FILARIX_HOST_EXPORT Contents read(const QString &path);
 /// Writes \a bytes, which were edited, in the place of \a before, and reads them back. Returns the
-/// reason in words when the file does not hold the addresses \a wanted then, one for each connection
-/// in their order; else nothing. Nothing is replaced when somebody else has changed the file since,
-/// or when \a mayReplace, which has to be given, says no.
+/// reason in words when the file does not hold the addresses \a wanted then, one for each
+/// connection in their order; else nothing. Nothing is replaced when somebody else has changed the
+/// file since, or when \a mayReplace, which has to be given, says no.
 FILARIX_HOST_EXPORT QString store(const QString &path, const QByteArray &before,
                                   const QByteArray &bytes, const QStringList &wanted,
                                   const std::function<bool()> &mayReplace);

@@ -81,7 +81,7 @@ void FileTaskRunner::answer(Step step)
     Q_EMIT stopped();
 }
 
-/// In the thread: to close a file can take as long as to write it.
+/// Files are closed in the thread: to close one can take as long as to write it.
 void FileTaskRunner::close()
 {
     const std::shared_ptr<FileTask> task = m_task;

@@ -12,8 +12,8 @@
 #include <QStringList>
 
 /// List rows in a plain text file of the host: one row a line, its strings parted by tabs. A
-/// backslash stands before "\", "t" for a tab and "n" for a line end, so every string comes back
-/// as it was. Lines that are empty or begin with "#" are left out on reading, so a row without
+/// backslash stands before "\", "t" for a tab and "n" for a line end, so every string comes back as
+/// it was. Lines that are empty or begin with "#" are left out on reading. So a row without
 /// strings, or of one empty string, does not come back. UTF-8. The functions may wait for the disk.
 namespace RowFile {
 

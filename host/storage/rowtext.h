@@ -20,9 +20,9 @@
 ///     if (!RowText::fromCsv(bytes, &rows, &error))
 ///         tell(error);
 ///
-/// The readers are strict, for a file may come from anywhere: what is not wholly well-formed gives
-/// an error that names the line, and leaves \a rows alone. They look at the form only. Whether a
-/// list takes such rows, FilarixRows::checkRows() says.
+/// The readers are strict, for a file may come from anywhere. What is not wholly well-formed gives
+/// an error that names the line, and leaves \a rows alone. The readers look at the form only.
+/// Whether a list takes such rows, FilarixRows::checkRows() says.
 namespace RowText {
 
 /// One row a line, its strings parted by \a separator: some countries' spreadsheets want ';'. What

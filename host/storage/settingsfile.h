@@ -51,8 +51,8 @@ public:
     /// What is known of the file by now. A trouble is told once.
     State takeState();
 
-    /// Each begin() is followed by an end() in the thread. settle() waits until all ends have come,
-    /// \a ms milliseconds at most, and says whether they have.
+    /// Each begin() is followed by an end() in the thread. settle() waits for all ends, \a ms
+    /// milliseconds at most, and says whether all have come.
     void begin();
     void end();
     bool settle(int ms);

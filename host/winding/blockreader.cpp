@@ -347,8 +347,8 @@ void LineScanner<Character>::addFault(BlockFault::Kind kind, int column, int len
     fault.length = length;
 }
 
-/// Makes the last fault longer when it is of this kind and ends where this one begins; one about
-/// too many words goes on to the last of them.
+/// Makes the last fault longer when it is of this kind and ends where the new one begins. A fault
+/// about too many words goes on to the last of them.
 template<class Character>
 void LineScanner<Character>::addOrWiden(BlockFault::Kind kind, int column, int length)
 {

@@ -98,7 +98,7 @@ public:
     /// The next line, without its line end; a "\r" at its end is none of it. What is given back
     /// belongs to the reader, and holds until the next call.
     const GCodeBlock &read(const QChar *text, int length);
-    /// The same from a file in UTF-8 or in an encoding of one byte a character: columns count the
+    /// The same from a file in UTF-8 or in an encoding of one byte a character. Columns count the
     /// characters that an editor would show for UTF-8.
     const GCodeBlock &read(const char *bytes, int length);
     const GCodeBlock &read(const QString &text) { return read(text.constData(), text.size()); }

@@ -13,7 +13,7 @@
 
 /// One thing that the check of a program found.
 ///
-/// A value. Its sentences are made when they are asked for, in the language of that moment.
+/// A value. Both sentences are made when somebody asks for them, in the language of that moment.
 struct FILARIX_HOST_EXPORT Finding
 {
     Q_DECLARE_TR_FUNCTIONS(Finding)

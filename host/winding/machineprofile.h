@@ -228,9 +228,9 @@ public:
     const MachineMotion &motion() const { return m_motion; }
     const MachineLayers &layers() const { return m_layers; }
 
-    /// Outer diameter in mm of an enamelled round wire after IEC 60317-0-1, the largest allowed,
-    /// for a nominal conductor diameter in mm and grade 1 or 2. 0 for a size that is none of the
-    /// standard.
+    /// The largest outer diameter in mm that IEC 60317-0-1 allows an enamelled round wire, for a
+    /// nominal conductor diameter in mm and grade 1 or 2. The result is 0 for a size that the
+    /// standard does not have.
     static double iecOuterDiameter(double conductorDiameter, int grade);
 
 private:

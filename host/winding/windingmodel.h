@@ -121,10 +121,10 @@ struct FILARIX_HOST_EXPORT WindingPlace
 ///     for each line: model.add(interpreter.add(reader.read(line)));
 ///     model.finish();
 ///
-/// A value: a copy costs next to nothing and may go to another thread. Its memory is bounded,
-/// however long the program is: beyond mostRecords moves, neighbours are kept together, so that a
-/// place found by line, and a line found by place, are off by as many moves at most; totals stay
-/// exact. Layers beyond mostLayers are in the totals alone.
+/// A value: a copy costs next to nothing and may go to another thread. The memory of a model is
+/// bounded, however long the program is: beyond mostRecords moves, neighbours are kept together. A
+/// place found by line, and a line found by place, are then off by as many moves at most. Totals
+/// stay exact. Layers beyond mostLayers are in the totals alone.
 class FILARIX_HOST_EXPORT WindingModel
 {
 public:
@@ -166,8 +166,8 @@ public:
 
     /// \a line is from 1.
     WindingPlace place(int line) const;
-    /// The line that lays wire at \a x, in mm, in the layer of this index, the nearest one if none
-    /// comes there; 0 when there is no such layer.
+    /// The line that lays wire at \a x, in mm, in the layer of this index, or the nearest such
+    /// line. The result is 0 when there is no such layer.
     int lineAt(int layer, double x) const;
     /// The line that lays the turn, from 0 on as in WindingLayer::firstTurn; 0 for one that is
     /// none.
@@ -264,8 +264,8 @@ private:
     double m_standing = 0;
     bool m_stands = false;
     bool m_isTying = false;
-    /// Of the guide: where this coil's first layer and this height began, and where it would have
-    /// begun if the guide had drawn back for each layer.
+    /// Distances of the guide: where this coil's first layer and this height began. The last one is
+    /// where the height would have begun had the guide drawn back for each layer.
     double m_coreDistance = 0;
     double m_heightDistance = 0;
     double m_baseDistance = 0;
