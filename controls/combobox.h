@@ -35,8 +35,8 @@ Q_SIGNALS:
 
 protected:
     /// Each Return press at the control flips a flag and opens the list only when that sets it. The
-    /// press that closes an open list goes to the list, so the next press at the control only
-    /// clears the flag and the one after it opens the list again.
+    /// press that closes an open list goes to the list. So the next press at the control only
+    /// clears the flag, and the one after that opens the list again.
     void keyPressEvent(QKeyEvent *event) override;
     /// Return and Enter as Space; other keys as they are.
     void keyReleaseEvent(QKeyEvent *event) override;

@@ -11,7 +11,7 @@
 class LineEdit;
 class QDoubleValidator;
 
-/// A spin box for decimal numbers whose every step is a finished edit: editingFinished() comes with
+/// A spin box for decimal numbers whose every step is a finished edit. editingFinished() comes with
 /// each arrow press and each press on a step button, not only with Return and the loss of the
 /// focus.
 ///

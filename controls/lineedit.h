@@ -10,7 +10,7 @@
 #include <QString>
 
 /// The kit's line edit: the field of the spin boxes, of an editable combo box and of the find
-/// dialog, and the one place where a panel's own treatment of a touch on a field would go.
+/// dialog. A panel's own treatment of a touch on a field would go here and nowhere else.
 ///
 /// A QLineEdit, owned by its parent.
 ///

@@ -8,9 +8,9 @@
 
 #include <QPushButton>
 
-/// A push button for panels with few keys: Return and Enter click it as Space does, the arrow keys
-/// leave it alone and the focus where it is, and the focus frame shows however the focus came,
-/// a touch included.
+/// A push button for panels with few keys. Return and Enter click the button as Space does; the
+/// arrow keys leave button and focus alone. The focus frame shows however the focus came, by a
+/// touch too.
 ///
 /// Otherwise a QPushButton, owned by its parent.
 ///

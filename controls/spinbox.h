@@ -11,7 +11,7 @@
 class LineEdit;
 class QIntValidator;
 
-/// A spin box whose every step is a finished edit: editingFinished() comes with each arrow press
+/// A spin box whose every step is a finished edit. editingFinished() comes with each arrow press
 /// and each press on a step button, not only with Return and the loss of the focus.
 ///
 /// Otherwise a QSpinBox, owned by its parent. Its field is a LineEdit that takes any integer while

@@ -9,12 +9,12 @@
 #include <QString>
 #include <QStringList>
 
-/// Rows for TListWidget: builds them, and finds what is wrong with one. A header alone; it needs
-/// Qt Core and nothing of the library.
+/// Rows for TListWidget: builds them, and finds what is wrong with one. This header needs Qt Core
+/// and nothing of the library.
 ///
-/// A list takes rows as it gets them and checks nothing, so one colon too many moves values to
-/// other fields, and a wrong number makes an edit land in another row. A host that builds its rows
-/// here, or checks what it reads from a file, is safe from that:
+/// A list takes rows as they come and checks nothing. One colon too many moves values to other
+/// fields, and a wrong number makes an edit land in another row. A host that builds its rows here,
+/// or checks what it reads from a file, is safe from that:
 ///
 ///     using namespace FilarixRows;
 ///     InstructionRow move(InstructionRow::Joint, "MOVJ");
@@ -445,9 +445,10 @@ inline QList<Problem> checkRows(const QList<QStringList> &rows, int firstIndex)
     return problems;
 }
 
-/// What may surprise in a row that is well-formed, as the row of index \a index: an "N" before the
-/// number of an instruction, as a list without a title writes it; a ":" in the free text, which the
-/// next edit cuts; a value of Z, T or a detail that is neither empty nor a number.
+/// What may surprise in a row that is well-formed, as the row of index \a index. An "N" before the
+/// number of an instruction does, as a list without a title writes it. So does a ":" in the free
+/// text, which the next edit cuts. So does a value of Z, T or a detail that is neither empty nor a
+/// number.
 ///
 ///     Q_FOREACH (const FilarixRows::Problem &problem, FilarixRows::warningsFor(row, i))
 ///         qWarning() << FilarixRows::describe(problem);

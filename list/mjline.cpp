@@ -255,8 +255,8 @@ void MJLine::createLine2()
     connect(m_resEdit, SIGNAL(changed(QString)), this, SLOT(on_vars1_change(QString)));
     for (int k = 0; k < detailCount; ++k) {
         connect(m_details[k], SIGNAL(clicked()), this, SLOT(on_lineEdit_clicked()));
-        // Detail 8 belongs to the V group, yet an edit of it empties the Jpos index: hosts see the
-        // V index survive, and count on it.
+        // Detail 8 belongs to the V group, yet an edit of detail 8 empties the Jpos index. Hosts
+        // see the V index survive, and count on that.
         const bool emptiesV = k == 6 || k == 7;
         connect(m_details[k], SIGNAL(changed(QString)), this,
                 emptiesV ? SLOT(on_v_change(QString)) : SLOT(on_jpos_change(QString)));

@@ -19,10 +19,11 @@ class QVBoxLayout;
 /// it, and adds nine detail values, a free text and an arrow to close it by. A row whose name is
 /// "Oth", and a title row, shows its embedded DataEditor in place of the first line.
 ///
-/// Rows come without their kind, as 30 strings: number, name, then a key and a value each of Jpos,
-/// V, Z and T, "Att", the free text with "_" for each blank, and a key and a value each of the nine
-/// details. Fields show key ":" value as one text, so a ":" within a key or a value shifts what
-/// follows it when the row is read back. Each signal carries the row's number, 0 if it is none.
+/// Rows come without their kind, as 30 strings. First come number and name, then a key and a value
+/// each of Jpos, V, Z and T. "Att" follows, the free text with "_" for each blank, and a key and a
+/// value each of the nine details. Fields show key ":" value as one text. So a ":" within a key or
+/// a value shifts what follows when the row is read back. Each signal carries the row's number, or
+/// 0 for a text that is no number.
 ///
 ///     QStringList row = program.at(i);
 ///     MJLine *line = new MJLine(row, list->size(), list);
@@ -32,7 +33,7 @@ class FILARIX_EXPORT MJLine : public QWidget
     Q_OBJECT
 
 public:
-    /// Builds the row from \a list, which is changed: with more than 9 strings an empty one is
+    /// Builds the row from \a list, and changes the list. With more than 9 strings an empty one is
     /// inserted at position 1, and empty ones are appended up to 35. A list of more than 9 strings
     /// whose first is "Title" makes a title row, and loses that word. \a size is the size in pixels
     /// of the whole list, from which all measures follow.

@@ -29,8 +29,8 @@ const int workingNum = 0;
 const int insertedPosition = 1;
 const int workingLength = 35;
 
-/// A list longer than this gets the inserted string: a new row is less strict than a refilled one,
-/// so a list of 10 to 19 strings lands one position further to the left when it is refilled.
+/// A list longer than this gets the inserted string. A new row is less strict than a refilled one.
+/// At a refill a list of 10 to 19 strings lands one position further to the left.
 const int buildLimit = 9;
 const int refillLimit = 19;
 

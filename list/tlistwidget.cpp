@@ -347,8 +347,8 @@ int TListWidget::pageEnd() const
     return int(qMax(end, qint64(m_startLine)));
 }
 
-/// Whether one of the last two rows before \a end is open while the row widgets just fill the
-/// page: three times as high, it hangs over the foot.
+/// Whether one of the last two rows before \a end is open while the row widgets just fill the page.
+/// An open row is three times as high, and hangs over the foot.
 bool TListWidget::isFootOpen(int end) const
 {
     if (getListPos(end) != ListWidget::count() || end < qint64(m_startLine) + m_totalLine - 2)

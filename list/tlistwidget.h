@@ -14,8 +14,8 @@
 class MJLine;
 class QMouseEvent;
 
-/// A teach program of any length on a small panel: every row is kept as a list of strings, and only
-/// the rows of the page have widgets, refilled as the page moves.
+/// A teach program of any length on a small panel. The list keeps every row as a list of strings.
+/// Only the rows of the page have widgets, refilled as the page moves.
 ///
 ///     QStringList title = QStringList() << "Title" << "Title" << columns;   // nine or more
 ///     TListWidget *list = new TListWidget(title, parent);
@@ -30,12 +30,12 @@ class QMouseEvent;
 ///
 /// A row reports itself by the number that it shows, so a host gives each row its index as number.
 /// Inserting and removing keep that up: they number the rows behind "3", "4" and so on under a
-/// title, "N3", "N4" without one. A table drops the "N" as it reports itself, but an instruction
-/// row does not and then reports 0: a list of instructions wants a title.
+/// title, "N3", "N4" without one. A table drops the "N" as it reports itself. An instruction row
+/// does not, and then reports 0: a list of instructions wants a title.
 ///
 /// An edit of the operator reaches the row at once: getContent() is always current, and no signal
-/// tells of it. The list belongs to its parent, the row widgets to the list; it never gives one
-/// away, and no pointer to one should outlive the event.
+/// tells of it. The list belongs to its parent, the row widgets to the list. The list never gives a
+/// row widget away, and no pointer to one should outlive the event.
 ///
 /// Failures are silent. An operation on a row that doesn't exist does nothing, and a query for one
 /// gives an empty answer.
@@ -60,24 +60,24 @@ public:
 
     /// Number of rows, the title included; ListWidget::count() is the number of row widgets.
     int count() const;
-    /// The slot of row \a i, whether or not the row is on the page: its place among the row
-    /// widgets, the title being in slot 0.
+    /// The slot of row \a i, its place among the row widgets, whether or not the row is on the
+    /// page. The title is in slot 0.
     int getListPos(int i) const;
     /// Moves a page that starts at or above row 0 to the first row under the title.
     void checkStartLine();
     /// Makes the page show what the rows, the page's start and length and the selection say. An
     /// open row at the foot of a full page pushes the first two rows of the page out.
     void reshow();
-    /// New rows get the width of \a s, and the page as many rows as fit its height: 14 for the
-    /// height of the screen, never fewer than 5, the title being one of them. Replaces all row
-    /// widgets but the title.
+    /// New rows get the width of \a s, and the page as many rows as fit its height. The height of
+    /// the screen holds 14 rows with the title; no page gets fewer than 5. Replaces all row widgets
+    /// but the title.
     void setSize(QSize s);
     /// \a n rows a page, the title not counted. 0 or less shows no row.
     void setTotalLine(int n);
 
-    /// A page up. Like all paging commands it closes the open rows that it comes to, and leaves the
-    /// current row as it is, on the page or not. At the end of the rows, or in a list shorter than
-    /// a page, they do nothing; none goes round.
+    /// A page up. All paging commands close the open rows that they come to, and leave the current
+    /// row as it is, on the page or not. At the end of the rows, or in a list shorter than a page,
+    /// the commands do nothing; none goes round.
     void prevPage();
     /// A page down; the last page may be a short one.
     void nextPage();
@@ -112,9 +112,9 @@ public:
     /// Parks a number; see getExtraIndex().
     void setExtraIndex(int index);
 
-    /// Appends a copy of \a row, ends a multiple selection, and makes the last page the page; with
+    /// Appends a copy of \a row, ends a multiple selection, and makes the last page the page. With
     /// \a refresh the row becomes current and the page is drawn. \a viewOnly leaves the rows as
-    /// they are and ignores \a row: so a host appends many rows with \a refresh false and draws
+    /// they are and ignores \a row. So a host appends many rows with \a refresh false, and draws
     /// them by one last call.
     void addWidget(QStringList &row, bool refresh, bool viewOnly);
     /// Inserts a copy of \a row at \a i, at the end if \a i is behind it, and makes it current.
@@ -149,9 +149,9 @@ public:
     /// The same for the Jpos index.
     int getJposIndex(int i) const;
     /// Writes the V values of an instruction row, and the V index if \a l holds a fourth string.
-    /// Fewer than three strings, or another kind of row, change nothing. The widget in slot 0 of a
-    /// list without a title, and in the last slot of one with a title, shows the values at its next
-    /// refill only.
+    /// Fewer than three strings, or another kind of row, change nothing. Without a title the widget
+    /// in slot 0 shows the values at its next refill only. With a title the widget in the last slot
+    /// does.
     void setV(int i, QStringList &l);
     /// The same for the six Jpos values, with the Jpos index as the seventh string.
     void setJpos(int i, QStringList &l);

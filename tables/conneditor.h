@@ -13,8 +13,8 @@ class ListWidget;
 class QPushButton;
 class QSettings;
 
-/// The dialog "Connect Table": the machine connections of a settings file, one row each, of which
-/// the operator can change the IP address and nothing else.
+/// The dialog "Connect Table": the machine connections of a settings file, one row each. The
+/// operator can change the IP address of a connection and nothing else.
 ///
 /// OK stores the addresses in the connection file, Cancel doesn't. An address that holds a port is
 /// stored without it as soon as the table is filled. A file that is missing or can't be read shows

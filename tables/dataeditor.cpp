@@ -13,8 +13,8 @@
 
 namespace {
 
-// A row is divided in elevenths: one for the number, one, two or all nine of the rest for the
-// second column, and what is left shared by the others.
+// A row is divided in elevenths. The number takes one, the second column one, two or nine, and the
+// other columns share what is left.
 const float oneEleventh = 11.0f;
 const float twoElevenths = 5.5f;
 const float nineElevenths = 1.2222222f; // 11 / 9

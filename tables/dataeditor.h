@@ -13,8 +13,8 @@
 /// One row of a table: a number, a name, and cells to read or to edit.
 ///
 /// The number of strings given at construction fixes the row's shape for good. Editable cells open
-/// an on-screen keypad when they are tapped. The first cell is the row's number, and the signals
-/// carry it: a leading "N" is dropped, and what is no number then counts as 0.
+/// an on-screen keypad when they are tapped. The first cell is the row's number, which the signals
+/// carry. A leading "N" is dropped, and what is no number then counts as 0.
 ///
 ///     QStringList row = QStringList() << "1" << "Tension" << "25.0";
 ///     DataEditor *editor = new DataEditor(false, row, list->size(), list, false);
@@ -30,21 +30,21 @@ public:
     /// cell can be edited then. In a \a connectionRow only the last cell can, and takes an IP
     /// address.
     ///
-    /// In a row of 4 strings, and in a title row of more than 8, the strings 1 and 2 share a cell:
-    /// it shows string 2, or string 1 if that is empty. A title row of more than 8 strings has a
-    /// cell for every second string only. Strings behind the 34th have no cell.
+    /// In a row of 4 strings, and in a title row of more than 8, the strings 1 and 2 share a cell.
+    /// The cell shows string 2, or string 1 if string 2 is empty. A title row of more than 8
+    /// strings has a cell for every second string only. Strings behind the 34th have no cell.
     DataEditor(bool isTitle, QStringList &list, QSize size, QWidget *parent, bool connectionRow);
-    /// A row of a number, a name and one text to edit, 4 strings, for a table of 480 by 800 pixels:
-    /// what a form made with Qt Designer asks for. \a row can give it another shape.
+    /// A row of a number, a name and one text to edit, 4 strings, for a table of 480 by 800 pixels.
+    /// A form made with Qt Designer asks for such a row. \a row can give another shape.
     explicit DataEditor(QWidget *parent, QStringList row = QStringList() << QString() << QString()
                                                                          << QString() << QString())
         : DataEditor(false, row, QSize(480, 800), parent, false)
     {}
     ~DataEditor() override;
 
-    /// Makes a cell and stores it through \a out: a clickable label (\a type 0), a passive one (1),
-    /// a field to edit (2) or an empty area (any other). \a ratio is the number of such cells that
-    /// would fill the table. The row owns the cell; it is not yet in the row's layout.
+    /// Makes a cell and stores a pointer through \a out. \a type 0 is a clickable label, 1 a
+    /// passive one, 2 a field to edit, any other an empty area. \a ratio is the number of such
+    /// cells that would fill the table. The row owns the cell; it is not yet in the row's layout.
     void CreateWidget(QWidget **out, int type, QString text, QString style, float ratio);
 
     /// The cells' texts, as many strings as the row was made from. Where two strings share a cell

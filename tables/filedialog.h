@@ -15,23 +15,23 @@ class Label;
 class QPushButton;
 class TListWidget;
 
-/// A browser for thumbs: a touch on a line makes that entry the current path, ">>" opens it if it
-/// is a directory, "<<" goes up.
+/// A browser for thumbs. A touch on a line makes that entry the current path. ">>" opens an entry
+/// that is a directory, "<<" goes up.
 ///
 ///     const QString path = FileDialog::getOpenFileName(this, tr("Program"), "/mnt/Storage",
 ///                                                      QDir::AllEntries | QDir::NoDotAndDotDot);
 ///     if (!path.isEmpty())
 ///         ...
 ///
-/// What may be picked is settled by the filter alone: whether the result is a file or a directory,
-/// or exists at all, is for the caller to find out.
+/// The filter alone settles what may be picked. The caller finds out whether the result is a file
+/// or a directory, or exists at all.
 class FILARIX_EXPORT FileDialog : public QDialog
 {
     Q_OBJECT
 
 public:
     /// A \a path that does not start with "/" counts from "/mnt/Storage/", and so does an empty
-    /// one. A directory is opened at its entries with or without a "/" at its end; without one, the
+    /// one. A directory is opened at its entries, with or without a "/" at its end. Without one the
     /// first touch replaces the directory's own name in the path. \a parent may be null.
     FileDialog(QDir::Filters filter, QString title, QString path, QWidget *parent,
                Qt::WindowFlags flags);

@@ -30,8 +30,8 @@ public:
     QString getTitle() const;
 
 protected:
-    /// Places the dialog before it is shown. With a parent it is centred on a box of the parent's
-    /// size at the origin, so a parent that stands elsewhere does not move it.
+    /// Places the dialog before it is shown. With a parent the dialog is centred on a box of the
+    /// parent's size at the origin. A parent that stands elsewhere does not move the dialog.
     void showEvent(QShowEvent *event) override;
 };
 

@@ -100,8 +100,8 @@ ImportManage::ImportManage(QWidget *parent)
     m_hmiDir = WAQP::getCncDir();
     m_usbDir = QLatin1String(FilarixPanel::stickDir);
 
-    // The toolkit refuses a slot without parentheses, and nothing starts the timer: the stick is
-    // looked for only by init(), so the panels never change under the operator's finger.
+    // The toolkit refuses a slot without parentheses, and nothing starts the timer. Only init()
+    // looks for the stick, so the panels never change under the operator's finger.
     QTimer *usbTimer = new QTimer(this);
     connect(usbTimer, SIGNAL(timeout()), this, "1slot_checkUSB");
 

@@ -14,7 +14,7 @@ class QLabel;
 class QListView;
 class QPushButton;
 
-/// The dialog with which the operator copies and deletes plain files: on the left the panel's
+/// The dialog with which the operator copies and deletes plain files. On the left is the panel's
 /// program directory ("Hmi"), on the right the USB stick at "/mnt/Storage" ("Usb").
 ///
 /// Copying and deleting is done by the shell's `cp`, `rm` and `sync`, which block the GUI thread

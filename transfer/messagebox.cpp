@@ -30,8 +30,8 @@ int MessageBox::warning(QWidget *parent, const QString &title, const QString &te
                         QMessageBox::StandardButton defaultButton)
 {
     MessageBox *box = create(parent, title, text);
-    // In this order the default is named before its button exists: the toolkit makes the choice,
-    // so a thumb on Return never answers Yes because a caller preferred it.
+    // In this order the default is named before its button exists, and so the toolkit chooses. A
+    // thumb on Return never answers Yes because a caller preferred Yes.
     box->setDefaultButton(defaultButton);
     box->setStandardButtons(buttons);
     box->setIcon(QMessageBox::Warning);

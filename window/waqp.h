@@ -14,8 +14,8 @@ class WAQP
 {
 public:
     /// The program directory, "cnc" in the user's home, with "/" as separator and no trailing one.
-    /// It is made if it is missing; if that fails the path is returned all the same, and the file
-    /// operations on it report their own errors.
+    /// A missing directory is made. If that fails the path is returned all the same, and file
+    /// operations in the directory report their own errors.
     static QString getCncDir();
 
     /// The default font with the given family and size in points, and weight 75 (bold) or 50.

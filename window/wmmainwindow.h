@@ -18,12 +18,12 @@ class QToolBar;
 class QToolButton;
 class WGCodeEditer;
 
-/// The G-code screen of a panel: a strip with the file's name and the cursor's position, the
-/// editor, and one or two tool bars with the commands.
+/// The G-code screen of a panel. A strip has the file's name and the cursor's position; the editor
+/// and one or two tool bars with the commands follow.
 ///
-/// The host creates one, places it in its own screen and owns it through the parent. It stores its
-/// size and position when it is destroyed. The library moves no data to the machine: the host
-/// answers signal_download() and brackets the transfer with setDownloading().
+/// The host creates a window, places it in its own screen and owns it through the parent. A window
+/// stores its size and position when it is destroyed. The library moves no data to the machine: the
+/// host answers signal_download() and brackets the transfer with setDownloading().
 ///
 ///     WMMainWindow *window = new WMMainWindow(screen, 90);
 ///     connect(window, SIGNAL(signal_download(QString)), SLOT(send(QString)));
@@ -32,8 +32,8 @@ class WGCodeEditer;
 /// The window title holds a "[*]" for changes. Nothing sets the mark unless the host connects the
 /// document's modificationChanged(bool) to the slot documentWasModified().
 ///
-/// While a long program is loaded and while one of its dialogs is open the window serves events, so
-/// a host's timers and slots run then, too. One that wants the window gone calls deleteLater(), at
+/// The window serves events while a long program is loaded and while one of its dialogs is open. A
+/// host's timers and slots run then, too. A slot that wants the window gone calls deleteLater(), at
 /// any time: the command under way ends there. To delete the window from a slot that its own load
 /// calls, such as one of the document's contentsChanged(), is an error.
 ///
@@ -70,10 +70,11 @@ public:
     /// Replaces the cursor's line by \a line.
     void updateGcode(QString line);
 
-    /// The words of \a line that would change something, given the lines from the cursor's upward:
-    /// a word is dropped when the nearest line that names it holds the same number. Empty when the
-    /// line adds nothing. A first word that holds a G is kept with the words that stay; without one
-    /// the result begins with a blank. Nothing is refused: a value that is not a number reads as 0.
+    /// The words of \a line that would change something, given the lines from the cursor's upward.
+    /// A word is dropped when the nearest line that names the word holds the same number. Empty
+    /// when the line adds nothing. A first word that holds a G is kept with the words that stay;
+    /// without one the result begins with a blank. Nothing is refused: a value that is not a number
+    /// reads as 0.
     QString getEffectiveString(QString line);
 
 Q_SIGNALS:

@@ -10,10 +10,10 @@ class QValidator;
 
 /// The on-screen keypad for numbers.
 ///
-/// One modal dialog for the whole process, owned by the device library. Every caller sets it up in
-/// full and runs exec(): 1 means that the operator accepted the text, which then stands in the
-/// property `text` of the object given by setObject(). The keypad keeps neither that object nor
-/// the validator alive, and forgets either when it goes.
+/// One modal dialog for the whole process, owned by the device library. Every caller sets the
+/// keypad up in full and runs exec(). 1 means that the operator accepted the text. The text then
+/// stands in the property `text` of the object given by setObject(). The keypad keeps neither that
+/// object nor the validator alive, and forgets either when it goes.
 class Q_DECL_EXPORT NumericKeypad : public QDialog
 {
 public:
