@@ -26,7 +26,7 @@
 namespace {
 
 // Six of them and the key of the languages are as wide as the narrowest panel.
-const int tabWidth = 60;
+const int tabWidth = 52;
 const int menuTabWidth = 76;
 const int statusMs = 2000;
 const int messageLine = 20;
