@@ -31,7 +31,8 @@ struct Question;
 /// Before a program is covered or deleted, the history takes the program in. A program that the
 /// history can't keep goes only after a question. What a command has come to is told.
 ///
-///     new ImportGuard(ProgramDirectory::path(), Stick::mountPoint(), &questioner, &history, window);
+///     new ImportGuard(ProgramDirectory::path(), Stick::mountPoint(), &questioner, &history,
+///     window);
 class FILARIX_HOST_EXPORT ImportGuard : public QObject
 {
     Q_OBJECT
