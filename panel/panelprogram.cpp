@@ -198,8 +198,10 @@ void PanelProgram::makePreview()
     if (PreviewScreen::hasRoomBeside(m_window->size()))
         m_programs->setBeside(m_previewScreen->paneBeside());
     makeReview();
-    m_preview->readProfile(m_options.profile.isEmpty() ? ownPath("machine.ini")
-                                                       : m_options.profile);
+    if (m_options.profile.isEmpty())
+        m_preview->readProfile(ownPath("machine.ini"));
+    else
+        m_preview->readProfile(m_options.profile, true);
 }
 
 void PanelProgram::makeReview()

@@ -9,6 +9,44 @@
     </message>
 </context>
 <context>
+    <name>CoilExport</name>
+    <message>
+        <source>Writing the picture to the stick</source>
+        <translation>Das Bild wird auf den Stick geschrieben</translation>
+    </message>
+    <message>
+        <source>Picture and totals are on the stick, in the folder %1.</source>
+        <translation>Bild und Werte sind auf dem Stick, im Ordner %1.</translation>
+    </message>
+    <message>
+        <source>There is no stick. Plug one in, then export once more.</source>
+        <translation>Kein Stick da. Einen einstecken, dann noch einmal exportieren.</translation>
+    </message>
+    <message>
+        <source>The stick was pulled out: the picture is not on it. Plug it in, then export once more.</source>
+        <translation>Der Stick wurde abgezogen: das Bild ist nicht darauf. Ihn einstecken, dann noch einmal exportieren.</translation>
+    </message>
+    <message>
+        <source>The picture is not on the stick: %1.</source>
+        <translation>Das Bild ist nicht auf dem Stick: %1.</translation>
+    </message>
+    <message>
+        <source>The export was stopped.</source>
+        <translation>Der Export wurde gestoppt.</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: whether the picture is on it is not known.</source>
+        <translation>Der Stick antwortet nicht: ob das Bild darauf ist, ist unbekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPreview</name>
+    <message>
+        <source>The panel&apos;s storage does not answer: the machine is not known.</source>
+        <translation>Der Speicher des Panels antwortet nicht: die Maschine ist unbekannt.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -69,6 +107,13 @@
     <message>
         <source>Loading ...</source>
         <translation>Wird geladen ...</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
     </message>
 </context>
 <context>
@@ -180,6 +225,44 @@
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>Um einen Stick auszuprobieren, das Panel mit „./run --stick DIR“ starten.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsBar</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 of %2, line %3: %4 %5</source>
+        <translation>%1 von %2, Zeile %3: %4 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDialog</name>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>%1. The first %2 are listed.</source>
+        <translation>%1. Die ersten %2 stehen in der Liste.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -330,6 +413,111 @@
         <source>The translation is not installed.</source>
         <translation>Die Übersetzung ist nicht installiert.</translation>
     </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Coil</source>
+        <translation>Spule</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Weg</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>To line</source>
+        <translation>Bis hier</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Zoom +</source>
+        <translation>Zoom +</translation>
+    </message>
+    <message>
+        <source>Zoom -</source>
+        <translation>Zoom -</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Zug</translation>
+    </message>
+    <message>
+        <source>Read: %1 %</source>
+        <translation>Gelesen: %1 %</translation>
+    </message>
+    <message>
+        <source>Reading the program ...</source>
+        <translation>Das Programm wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>There is no program yet. Open or write one, and its coil is shown here.</source>
+        <translation>Noch kein Programm da. Eines öffnen oder schreiben, dann steht seine Spule hier.</translation>
+    </message>
+    <message>
+        <source>This program winds no wire: no line moves the guide while the spindle turns.</source>
+        <translation>Dieses Programm wickelt keinen Draht: keine Zeile bewegt den Führer, während die Spindel dreht.</translation>
+    </message>
+    <message>
+        <source>The machine is not known, so no coil can be reckoned. %1</source>
+        <translation>Die Maschine ist unbekannt, so lässt sich keine Spule rechnen. %1</translation>
+    </message>
+    <message>
+        <source>Lines not understood in full: %1. First: %2</source>
+        <translation>Zeilen, nicht ganz verstanden: %1. Erste: %2</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Coil of %1</source>
+        <translation>Spule von %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramReview</name>
+    <message>
+        <source>No check: the machine&apos;s profile has a fault.</source>
+        <translation>Keine Prüfung: Das Profil der Maschine hat einen Fehler.</translation>
+    </message>
+    <message>
+        <source>The program is being checked.</source>
+        <translation>Das Programm wird geprüft.</translation>
+    </message>
+    <message>
+        <source>Nothing found, by the rules of &quot;%1&quot;.</source>
+        <translation>Nichts gefunden, nach den Regeln von &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Fehler: %1, Warnungen: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -372,6 +560,14 @@
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>
         <translation>Das Programm wird noch geladen oder gespeichert. Das Panel danach schließen.</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Spule</translation>
     </message>
 </context>
 <context>
@@ -497,6 +693,26 @@
     <message>
         <source>Storage</source>
         <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Check: not known</source>
+        <translation>Prüfung: nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Check: errors %1, warnings %2</source>
+        <translation>Prüfung: Fehler %1, Warnungen %2</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>Check: nothing found</source>
+        <translation>Prüfung: nichts gefunden</translation>
     </message>
 </context>
 <context>

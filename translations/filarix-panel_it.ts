@@ -9,6 +9,44 @@
     </message>
 </context>
 <context>
+    <name>CoilExport</name>
+    <message>
+        <source>Writing the picture to the stick</source>
+        <translation>Scrittura dell’immagine sulla chiavetta</translation>
+    </message>
+    <message>
+        <source>Picture and totals are on the stick, in the folder %1.</source>
+        <translation>Immagine e valori sono sulla chiavetta, nella cartella %1.</translation>
+    </message>
+    <message>
+        <source>There is no stick. Plug one in, then export once more.</source>
+        <translation>Nessuna chiavetta. Inserirne una, poi esportare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The stick was pulled out: the picture is not on it. Plug it in, then export once more.</source>
+        <translation>La chiavetta è stata tolta: l’immagine non c’è. Inserirla, poi esportare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The picture is not on the stick: %1.</source>
+        <translation>L’immagine non è sulla chiavetta: %1.</translation>
+    </message>
+    <message>
+        <source>The export was stopped.</source>
+        <translation>L’esportazione è stata fermata.</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: whether the picture is on it is not known.</source>
+        <translation>La chiavetta non risponde: non si sa se l’immagine c’è.</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPreview</name>
+    <message>
+        <source>The panel&apos;s storage does not answer: the machine is not known.</source>
+        <translation>La memoria del pannello non risponde: la macchina non è nota.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -69,6 +107,13 @@
     <message>
         <source>Loading ...</source>
         <translation>Caricamento ...</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Send</source>
+        <translation>Invia</translation>
     </message>
 </context>
 <context>
@@ -180,6 +225,44 @@
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>Per provare una chiavetta, avviare il pannello con &quot;./run --stick DIR&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsBar</name>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>%1 of %2, line %3: %4 %5</source>
+        <translation>%1 di %2, riga %3: %4 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDialog</name>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>%1. The first %2 are listed.</source>
+        <translation>%1. Sono elencati i primi %2.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -330,6 +413,111 @@
         <source>The translation is not installed.</source>
         <translation>La traduzione non è installata.</translation>
     </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Coil</source>
+        <translation>Bobina</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Corsa</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Curve</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Valori</translation>
+    </message>
+    <message>
+        <source>To line</source>
+        <translation>Fin qui</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Esporta</translation>
+    </message>
+    <message>
+        <source>Zoom +</source>
+        <translation>Zoom +</translation>
+    </message>
+    <message>
+        <source>Zoom -</source>
+        <translation>Zoom -</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Adatta</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Read: %1 %</source>
+        <translation>Letto: %1 %</translation>
+    </message>
+    <message>
+        <source>Reading the program ...</source>
+        <translation>Lettura del programma ...</translation>
+    </message>
+    <message>
+        <source>There is no program yet. Open or write one, and its coil is shown here.</source>
+        <translation>Ancora nessun programma. Aprirne o scriverne uno: la sua bobina appare qui.</translation>
+    </message>
+    <message>
+        <source>This program winds no wire: no line moves the guide while the spindle turns.</source>
+        <translation>Questo programma non avvolge filo: nessuna riga muove la guida mentre il mandrino gira.</translation>
+    </message>
+    <message>
+        <source>The machine is not known, so no coil can be reckoned. %1</source>
+        <translation>La macchina non è nota: nessuna bobina si può calcolare. %1</translation>
+    </message>
+    <message>
+        <source>Lines not understood in full: %1. First: %2</source>
+        <translation>Righe non capite del tutto: %1. Prima: %2</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Riga %1</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Coil of %1</source>
+        <translation>Bobina di %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramReview</name>
+    <message>
+        <source>No check: the machine&apos;s profile has a fault.</source>
+        <translation>Nessun controllo: il profilo della macchina ha un errore.</translation>
+    </message>
+    <message>
+        <source>The program is being checked.</source>
+        <translation>Il programma è in corso di controllo.</translation>
+    </message>
+    <message>
+        <source>Nothing found, by the rules of &quot;%1&quot;.</source>
+        <translation>Nessun problema, secondo le regole di &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Errori: %1, avvisi: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -372,6 +560,14 @@
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>
         <translation>Il programma è ancora in caricamento o salvataggio. Chiudere il pannello dopo.</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Bobina</translation>
     </message>
 </context>
 <context>
@@ -497,6 +693,26 @@
     <message>
         <source>Storage</source>
         <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>Check: not known</source>
+        <translation>Controllo: non noto</translation>
+    </message>
+    <message>
+        <source>Check: errors %1, warnings %2</source>
+        <translation>Controllo: errori %1, avvisi %2</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>Check: nothing found</source>
+        <translation>Controllo: nessun problema</translation>
     </message>
 </context>
 <context>

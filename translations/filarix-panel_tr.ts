@@ -9,6 +9,44 @@
     </message>
 </context>
 <context>
+    <name>CoilExport</name>
+    <message>
+        <source>Writing the picture to the stick</source>
+        <translation>Resim belleğe yazılıyor</translation>
+    </message>
+    <message>
+        <source>Picture and totals are on the stick, in the folder %1.</source>
+        <translation>Resim ve değerler bellekte, %1 klasöründe.</translation>
+    </message>
+    <message>
+        <source>There is no stick. Plug one in, then export once more.</source>
+        <translation>Bellek yok. Bir bellek takıp yeniden aktarın.</translation>
+    </message>
+    <message>
+        <source>The stick was pulled out: the picture is not on it. Plug it in, then export once more.</source>
+        <translation>Bellek çıkarıldı: resim üzerinde değil. Takıp yeniden aktarın.</translation>
+    </message>
+    <message>
+        <source>The picture is not on the stick: %1.</source>
+        <translation>Resim bellekte değil: %1.</translation>
+    </message>
+    <message>
+        <source>The export was stopped.</source>
+        <translation>Aktarma durduruldu.</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: whether the picture is on it is not known.</source>
+        <translation>Bellek yanıt vermiyor: resmin üzerinde olup olmadığı bilinmiyor.</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPreview</name>
+    <message>
+        <source>The panel&apos;s storage does not answer: the machine is not known.</source>
+        <translation>Panelin belleği yanıt vermiyor: makine bilinmiyor.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -69,6 +107,13 @@
     <message>
         <source>Loading ...</source>
         <translation>Yükleniyor ...</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Send</source>
+        <translation>Yükle</translation>
     </message>
 </context>
 <context>
@@ -180,6 +225,44 @@
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>Bellek denemek için paneli &quot;./run --stick DIR&quot; ile başlatın.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsBar</name>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>%1 of %2, line %3: %4 %5</source>
+        <translation>%1 / %2, satır %3: %4 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDialog</name>
+    <message>
+        <source>Check</source>
+        <translation>Denetim</translation>
+    </message>
+    <message>
+        <source>%1. The first %2 are listed.</source>
+        <translation>%1. İlk %2 tanesi listede.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
@@ -330,6 +413,111 @@
         <source>The translation is not installed.</source>
         <translation>Çeviri kurulu değil.</translation>
     </message>
+    <message>
+        <source>Preview</source>
+        <translation>Önizleme</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Coil</source>
+        <translation>Bobin</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Yol</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Eğriler</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Sayılar</translation>
+    </message>
+    <message>
+        <source>To line</source>
+        <translation>Buraya</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Aktar</translation>
+    </message>
+    <message>
+        <source>Zoom +</source>
+        <translation>Yakın +</translation>
+    </message>
+    <message>
+        <source>Zoom -</source>
+        <translation>Uzak -</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Sığdır</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Gergi</translation>
+    </message>
+    <message>
+        <source>Read: %1 %</source>
+        <translation>Okunan: %1 %</translation>
+    </message>
+    <message>
+        <source>Reading the program ...</source>
+        <translation>Program okunuyor ...</translation>
+    </message>
+    <message>
+        <source>There is no program yet. Open or write one, and its coil is shown here.</source>
+        <translation>Henüz program yok. Açın ya da yazın; bobini burada görünür.</translation>
+    </message>
+    <message>
+        <source>This program winds no wire: no line moves the guide while the spindle turns.</source>
+        <translation>Bu program tel sarmıyor: mil dönerken hiçbir satır kılavuzu oynatmıyor.</translation>
+    </message>
+    <message>
+        <source>The machine is not known, so no coil can be reckoned. %1</source>
+        <translation>Makine bilinmiyor, bobin hesaplanamaz. %1</translation>
+    </message>
+    <message>
+        <source>Lines not understood in full: %1. First: %2</source>
+        <translation>Tam anlaşılmayan satır: %1. İlki: %2</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Satır %1</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Coil of %1</source>
+        <translation>Bobin: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramReview</name>
+    <message>
+        <source>No check: the machine&apos;s profile has a fault.</source>
+        <translation>Denetim yok: makine profilinde hata var.</translation>
+    </message>
+    <message>
+        <source>The program is being checked.</source>
+        <translation>Program denetleniyor.</translation>
+    </message>
+    <message>
+        <source>Nothing found, by the rules of &quot;%1&quot;.</source>
+        <translation>&quot;%1&quot; kurallarına göre hiçbir şey bulunmadı.</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Hatalar: %1, uyarılar: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -372,6 +560,14 @@
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>
         <translation>Program hâlâ açılıyor ya da kaydediliyor. Paneli sonra kapatın.</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Denetim</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>Bobin</translation>
     </message>
 </context>
 <context>
@@ -497,6 +693,26 @@
     <message>
         <source>Storage</source>
         <translation>Depo</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Denetim</translation>
+    </message>
+    <message>
+        <source>Check: not known</source>
+        <translation>Denetim: bilinmiyor</translation>
+    </message>
+    <message>
+        <source>Check: errors %1, warnings %2</source>
+        <translation>Denetim: hata %1, uyarı %2</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>tamam</translation>
+    </message>
+    <message>
+        <source>Check: nothing found</source>
+        <translation>Denetim: sorun yok</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,44 @@
     </message>
 </context>
 <context>
+    <name>CoilExport</name>
+    <message>
+        <source>Writing the picture to the stick</source>
+        <translation>正在将图片写入U 盘</translation>
+    </message>
+    <message>
+        <source>Picture and totals are on the stick, in the folder %1.</source>
+        <translation>图片和数值已在U 盘的文件夹 %1 中。</translation>
+    </message>
+    <message>
+        <source>There is no stick. Plug one in, then export once more.</source>
+        <translation>没有U 盘。请插入U 盘后再次导出。</translation>
+    </message>
+    <message>
+        <source>The stick was pulled out: the picture is not on it. Plug it in, then export once more.</source>
+        <translation>U 盘已拔出，图片不在其中。请插入后再次导出。</translation>
+    </message>
+    <message>
+        <source>The picture is not on the stick: %1.</source>
+        <translation>图片未写入U 盘：%1。</translation>
+    </message>
+    <message>
+        <source>The export was stopped.</source>
+        <translation>导出已停止。</translation>
+    </message>
+    <message>
+        <source>The stick does not answer: whether the picture is on it is not known.</source>
+        <translation>U 盘没有响应，无法确定图片是否已写入。</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPreview</name>
+    <message>
+        <source>The panel&apos;s storage does not answer: the machine is not known.</source>
+        <translation>面板存储没有响应，机器未知。</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionsScreen</name>
     <message>
         <source>Connection</source>
@@ -69,6 +107,13 @@
     <message>
         <source>Loading ...</source>
         <translation>正在加载...</translation>
+    </message>
+</context>
+<context>
+    <name>DownloadQuestion</name>
+    <message>
+        <source>Send</source>
+        <translation>下载</translation>
     </message>
 </context>
 <context>
@@ -180,6 +225,44 @@
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>要试用 U 盘, 请用“./run --stick DIR”启动面板。</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsBar</name>
+    <message>
+        <source>Back</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1 of %2, line %3: %4 %5</source>
+        <translation>%1/%2，第 %3 行：%4 %5</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsDialog</name>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>%1. The first %2 are listed.</source>
+        <translation>%1。列出前 %2 项。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -330,6 +413,111 @@
         <source>The translation is not installed.</source>
         <translation>未安装该语言的翻译。</translation>
     </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Coil</source>
+        <translation>线圈</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>To line</source>
+        <translation>到此行</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Zoom +</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom -</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适合</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>张力</translation>
+    </message>
+    <message>
+        <source>Read: %1 %</source>
+        <translation>已读取：%1 %</translation>
+    </message>
+    <message>
+        <source>Reading the program ...</source>
+        <translation>正在读取程序 ...</translation>
+    </message>
+    <message>
+        <source>There is no program yet. Open or write one, and its coil is shown here.</source>
+        <translation>还没有程序。打开或编写程序后，线圈将显示在此。</translation>
+    </message>
+    <message>
+        <source>This program winds no wire: no line moves the guide while the spindle turns.</source>
+        <translation>此程序不绕线：主轴转动时没有任何一行移动导线器。</translation>
+    </message>
+    <message>
+        <source>The machine is not known, so no coil can be reckoned. %1</source>
+        <translation>机器未知，无法计算线圈。%1</translation>
+    </message>
+    <message>
+        <source>Lines not understood in full: %1. First: %2</source>
+        <translation>未完全识别的行：%1。首行：%2</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>第%1行</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Coil of %1</source>
+        <translation>%1 的线圈</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramReview</name>
+    <message>
+        <source>No check: the machine&apos;s profile has a fault.</source>
+        <translation>无法检查：机器配置文件有错误。</translation>
+    </message>
+    <message>
+        <source>The program is being checked.</source>
+        <translation>正在检查程序。</translation>
+    </message>
+    <message>
+        <source>Nothing found, by the rules of &quot;%1&quot;.</source>
+        <translation>按“%1”的规则未发现问题。</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>错误：%1，警告：%2</translation>
+    </message>
 </context>
 <context>
     <name>ProgramScreen</name>
@@ -372,6 +560,14 @@
     <message>
         <source>The program is still being loaded or saved. Close the panel after that.</source>
         <translation>程序仍在加载或保存。请稍后关闭面板。</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Coil</source>
+        <translation>线圈</translation>
     </message>
 </context>
 <context>
@@ -497,6 +693,26 @@
     <message>
         <source>Storage</source>
         <translation>存储</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Check: not known</source>
+        <translation>检查：未知</translation>
+    </message>
+    <message>
+        <source>Check: errors %1, warnings %2</source>
+        <translation>检查：错误 %1，警告 %2</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Check: nothing found</source>
+        <translation>检查：未发现问题</translation>
     </message>
 </context>
 <context>

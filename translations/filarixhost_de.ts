@@ -33,6 +33,104 @@
     </message>
 </context>
 <context>
+    <name>CoilFigures</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1:%2 min</source>
+        <translation>%1:%2 min</translation>
+    </message>
+    <message>
+        <source>%1:%2:%3 h</source>
+        <translation>%1:%2:%3 h</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Windungen</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Lagen</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>Spulen</translation>
+    </message>
+    <message>
+        <source>Wire length</source>
+        <translation>Drahtlänge</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Masse</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>Widerstand</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Outer diameter</source>
+        <translation>Außen-Ø</translation>
+    </message>
+    <message>
+        <source>Wire diameter</source>
+        <translation>Draht-Ø</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPicture</name>
+    <message>
+        <source>Tension %1</source>
+        <translation>Zug %1</translation>
+    </message>
+    <message>
+        <source>Layer 1</source>
+        <translation>Lage 1</translation>
+    </message>
+    <message>
+        <source>Coil %1 of %2</source>
+        <translation>Spule %1 von %2</translation>
+    </message>
+    <message>
+        <source>winding</source>
+        <translation>wickeln</translation>
+    </message>
+    <message>
+        <source>moving</source>
+        <translation>fahren</translation>
+    </message>
+    <message>
+        <source>rapid</source>
+        <translation>Eilgang</translation>
+    </message>
+    <message>
+        <source>Traverse</source>
+        <translation>Verlegung</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Drehzahl</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Zug</translation>
+    </message>
+    <message>
+        <source>turns</source>
+        <translation>Wdg.</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -117,6 +215,26 @@
         <source>Checksum</source>
         <translation>Prüfsumme</translation>
     </message>
+    <message>
+        <source>This machine takes no program with errors. Mend them, then send it.</source>
+        <translation>Diese Maschine nimmt kein Programm mit Fehlern. Erst beheben, dann senden.</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>The check found errors: %1. The machine may stop or wind something else.</source>
+        <translation>Die Prüfung fand Fehler: %1. Die Maschine kann anhalten oder anders wickeln.</translation>
+    </message>
+    <message>
+        <source>The program could not be checked to the end. Errors may be in it.</source>
+        <translation>Das Programm wurde nicht bis zum Ende geprüft. Es kann Fehler enthalten.</translation>
+    </message>
+    <message>
+        <source>Send it all the same?</source>
+        <translation>Trotzdem senden?</translation>
+    </message>
 </context>
 <context>
     <name>DownloadSource</name>
@@ -139,6 +257,257 @@
     <message>
         <source>The download was stopped. The PLC keeps what it had.</source>
         <translation>Die Übertragung wurde gestoppt. Die SPS behält ihr bisheriges Programm.</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>A control character stands here, which nobody sees.</source>
+        <translation>Hier steht ein Steuerzeichen, das niemand sieht.</translation>
+    </message>
+    <message>
+        <source>Delete it, or write the line anew.</source>
+        <translation>Löschen oder die Zeile neu schreiben.</translation>
+    </message>
+    <message>
+        <source>A character stands here that machines don&apos;t know.</source>
+        <translation>Hier steht ein Zeichen, das Maschinen nicht kennen.</translation>
+    </message>
+    <message>
+        <source>Write it anew: it may look like another one.</source>
+        <translation>Neu schreiben: Es kann einem anderen gleichen.</translation>
+    </message>
+    <message>
+        <source>The comment has a character that is not ASCII.</source>
+        <translation>Der Kommentar hat ein Zeichen, das nicht ASCII ist.</translation>
+    </message>
+    <message>
+        <source>Another panel may show another one in its place.</source>
+        <translation>Ein anderes Panel zeigt dafür vielleicht ein anderes.</translation>
+    </message>
+    <message>
+        <source>What stands here is no word.</source>
+        <translation>Was hier steht, ist kein Wort.</translation>
+    </message>
+    <message>
+        <source>Delete it, or put a &quot;;&quot; before a comment.</source>
+        <translation>Löschen, oder ein &quot;;&quot; vor den Kommentar setzen.</translation>
+    </message>
+    <message>
+        <source>The letter here has no number.</source>
+        <translation>Der Buchstabe hier hat keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Add the number, or delete the letter.</source>
+        <translation>Die Zahl ergänzen oder den Buchstaben löschen.</translation>
+    </message>
+    <message>
+        <source>The number here cannot be read.</source>
+        <translation>Die Zahl hier ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Write it with one point and one sign at most.</source>
+        <translation>Mit höchstens einem Punkt und einem Vorzeichen schreiben.</translation>
+    </message>
+    <message>
+        <source>The number here is too large for any machine.</source>
+        <translation>Die Zahl hier ist für jede Maschine zu groß.</translation>
+    </message>
+    <message>
+        <source>Correct the number.</source>
+        <translation>Die Zahl berichtigen.</translation>
+    </message>
+    <message>
+        <source>The comment that begins here has no end.</source>
+        <translation>Der Kommentar, der hier beginnt, hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Add a &quot;)&quot;, or begin it with &quot;;&quot;.</source>
+        <translation>Ein &quot;)&quot; ergänzen, oder mit &quot;;&quot; beginnen.</translation>
+    </message>
+    <message>
+        <source>The line has too many words: the rest is not read.</source>
+        <translation>Die Zeile hat zu viele Wörter: Der Rest wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>Use several lines.</source>
+        <translation>Mehrere Zeilen verwenden.</translation>
+    </message>
+    <message>
+        <source>The line is too long: the rest is not read.</source>
+        <translation>Die Zeile ist zu lang: Der Rest wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>%1 is unknown to this profile.</source>
+        <translation>%1 ist diesem Profil unbekannt.</translation>
+    </message>
+    <message>
+        <source>Correct it, or check with the profile of the machine.</source>
+        <translation>Berichtigen, oder mit dem Profil der Maschine prüfen.</translation>
+    </message>
+    <message>
+        <source>%1: the machine has no such guide tube.</source>
+        <translation>%1: Die Maschine hat kein solches Führungsrohr.</translation>
+    </message>
+    <message>
+        <source>Correct the number, or add the tube to the profile.</source>
+        <translation>Die Zahl berichtigen, oder das Rohr ins Profil aufnehmen.</translation>
+    </message>
+    <message>
+        <source>%1 does not count: another one stands in the line.</source>
+        <translation>%1 zählt nicht: In der Zeile steht noch eines.</translation>
+    </message>
+    <message>
+        <source>Keep one of them.</source>
+        <translation>Nur eines behalten.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 in one line contradict each other.</source>
+        <translation>%1 und %2 in einer Zeile widersprechen sich.</translation>
+    </message>
+    <message>
+        <source>Keep one of them, or use two lines.</source>
+        <translation>Eines behalten oder zwei Zeilen verwenden.</translation>
+    </message>
+    <message>
+        <source>%1 has no effect in this line.</source>
+        <translation>%1 bewirkt in dieser Zeile nichts.</translation>
+    </message>
+    <message>
+        <source>Delete it, or add what it belongs to.</source>
+        <translation>Löschen, oder ergänzen, wozu es gehört.</translation>
+    </message>
+    <message>
+        <source>%1 must not be negative.</source>
+        <translation>%1 darf nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>%1 moves, but no motion is in force.</source>
+        <translation>%1 bewegt, aber keine Bewegung ist in Kraft.</translation>
+    </message>
+    <message>
+        <source>Put a motion before it, such as %2.</source>
+        <translation>Eine Bewegung davor setzen, etwa %2.</translation>
+    </message>
+    <message>
+        <source>%1 moves without a feed.</source>
+        <translation>%1 bewegt ohne Vorschub.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the feed.</source>
+        <translation>%2 mit dem Vorschub ergänzen.</translation>
+    </message>
+    <message>
+        <source>%1 winds without a pitch.</source>
+        <translation>%1 wickelt ohne Steigung.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the pitch.</source>
+        <translation>%2 mit der Steigung ergänzen.</translation>
+    </message>
+    <message>
+        <source>%1 waits without a time.</source>
+        <translation>%1 wartet ohne Zeit.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the time.</source>
+        <translation>%2 mit der Zeit ergänzen.</translation>
+    </message>
+    <message>
+        <source>%1 waits for the spindle, which stands.</source>
+        <translation>%1 wartet auf die Spindel, die steht.</translation>
+    </message>
+    <message>
+        <source>Start the spindle before, by %2 and a speed.</source>
+        <translation>Die Spindel vorher starten, mit %2 und einer Drehzahl.</translation>
+    </message>
+    <message>
+        <source>%1 goes to %2, beyond the axis: its end is %3.</source>
+        <translation>%1 fährt auf %2, über die Achse hinaus: Ihr Ende ist %3.</translation>
+    </message>
+    <message>
+        <source>Correct the number or the position before.</source>
+        <translation>Die Zahl oder die Position davor berichtigen.</translation>
+    </message>
+    <message>
+        <source>%1 is faster than the spindle may turn: %2.</source>
+        <translation>%1 ist schneller, als die Spindel drehen darf: %2.</translation>
+    </message>
+    <message>
+        <source>Use a lower speed.</source>
+        <translation>Eine kleinere Drehzahl verwenden.</translation>
+    </message>
+    <message>
+        <source>The pitch %1 is above the limit of %2.</source>
+        <translation>Die Steigung %1 liegt über der Grenze von %2.</translation>
+    </message>
+    <message>
+        <source>Use a smaller pitch.</source>
+        <translation>Eine kleinere Steigung verwenden.</translation>
+    </message>
+    <message>
+        <source>The spindle turns at a tension of %1; the limit is %2.</source>
+        <translation>Die Spindel dreht bei einem Zug von %1; die Grenze ist %2.</translation>
+    </message>
+    <message>
+        <source>Use less tension: the wire may break.</source>
+        <translation>Weniger Zug verwenden: Der Draht kann reißen.</translation>
+    </message>
+    <message>
+        <source>The tension jumps by %1; the limit is %2.</source>
+        <translation>Der Zug springt um %1; die Grenze ist %2.</translation>
+    </message>
+    <message>
+        <source>Use several steps.</source>
+        <translation>Mehrere Schritte verwenden.</translation>
+    </message>
+    <message>
+        <source>The wire is laid at %1; the bobbin is from %2 to %3.</source>
+        <translation>Der Draht wird bei %1 gelegt; die Spule reicht von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>Stay between the flanges, or stop the spindle.</source>
+        <translation>Zwischen den Flanschen bleiben oder die Spindel anhalten.</translation>
+    </message>
+    <message>
+        <source>The coil grows over the flange, which has %1.</source>
+        <translation>Die Wicklung wächst über den Flansch von %1.</translation>
+    </message>
+    <message>
+        <source>Use fewer turns, a thinner wire or another bobbin.</source>
+        <translation>Weniger Windungen, dünneren Draht oder eine andere Spule verwenden.</translation>
+    </message>
+    <message>
+        <source>The winding begins before the wire is clamped.</source>
+        <translation>Das Wickeln beginnt, bevor der Draht geklemmt ist.</translation>
+    </message>
+    <message>
+        <source>Clamp the wire first, by %2.</source>
+        <translation>Den Draht vorher klemmen, mit %2.</translation>
+    </message>
+    <message>
+        <source>The program ends before the wire is cut.</source>
+        <translation>Das Programm endet, bevor der Draht geschnitten ist.</translation>
+    </message>
+    <message>
+        <source>Cut the wire first, by %1.</source>
+        <translation>Den Draht vorher schneiden, mit %1.</translation>
+    </message>
+    <message>
+        <source>The program has no end.</source>
+        <translation>Das Programm hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Add %1 as the last line.</source>
+        <translation>%1 als letzte Zeile ergänzen.</translation>
+    </message>
+    <message>
+        <source>The program has ended: this is never performed.</source>
+        <translation>Das Programm ist zu Ende: Dies wird nie ausgeführt.</translation>
+    </message>
+    <message>
+        <source>Delete it, or put the end behind it.</source>
+        <translation>Löschen, oder das Ende dahinter setzen.</translation>
     </message>
 </context>
 <context>
@@ -261,6 +630,121 @@
     <message>
         <source>All the same</source>
         <translation>Trotzdem</translation>
+    </message>
+</context>
+<context>
+    <name>MachineProfile</name>
+    <message>
+        <source>%1 is too large for a machine profile.</source>
+        <translation>%1 ist zu groß für ein Maschinenprofil.</translation>
+    </message>
+    <message>
+        <source>%1 is no text, and so no machine profile.</source>
+        <translation>%1 ist kein Text und damit kein Maschinenprofil.</translation>
+    </message>
+    <message>
+        <source>A line is a [section] or a key = value.</source>
+        <translation>Eine Zeile ist ein [Abschnitt] oder Schlüssel = Wert.</translation>
+    </message>
+    <message>
+        <source>There is no section [%1].</source>
+        <translation>Es gibt keinen Abschnitt [%1].</translation>
+    </message>
+    <message>
+        <source>A key stands before the first section.</source>
+        <translation>Ein Schlüssel steht vor dem ersten Abschnitt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice.</source>
+        <translation>„%1“ steht zweimal da.</translation>
+    </message>
+    <message>
+        <source>An axis is: letter = role, unit, minimum, maximum.</source>
+        <translation>Eine Achse ist: Buchstabe = Aufgabe, Einheit, Minimum, Maximum.</translation>
+    </message>
+    <message>
+        <source>Another axis is the %1 already.</source>
+        <translation>Eine andere Achse ist schon %1.</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is mm.</source>
+        <translation>Die Einheit dieser Achse ist mm.</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is N.</source>
+        <translation>Die Einheit dieser Achse ist N.</translation>
+    </message>
+    <message>
+        <source>There are too many axes.</source>
+        <translation>Es sind zu viele Achsen.</translation>
+    </message>
+    <message>
+        <source>A function is: G or M with a number = action, modal group.</source>
+        <translation>Eine Funktion ist: G oder M mit einer Zahl = Aktion, modale Gruppe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no letter.</source>
+        <translation>„%1“ ist kein Buchstabe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a tool, or stands there twice.</source>
+        <translation>„%1“ ist keine Werkzeugnummer oder steht zweimal da.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of IEC 60317, as &quot;0.250 grade 1&quot; is.</source>
+        <translation>„%1“ ist keine Größe der IEC 60317 wie „0.250 grade 1“.</translation>
+    </message>
+    <message>
+        <source>The letter %1 means something already.</source>
+        <translation>Der Buchstabe %1 hat schon eine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>„%1“ ist keine Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of: %2.</source>
+        <translation>„%1“ ist keins von: %2.</translation>
+    </message>
+    <message>
+        <source>%1: no axis is the traverse.</source>
+        <translation>%1: Keine Achse ist die Verlegung (traverse).</translation>
+    </message>
+    <message>
+        <source>%1: the bobbin needs a core and a width.</source>
+        <translation>%1: Der Spulenkörper braucht Kern und Breite.</translation>
+    </message>
+    <message>
+        <source>%1: the flange is narrower than the core.</source>
+        <translation>%1: Der Flansch ist kleiner als der Kern.</translation>
+    </message>
+    <message>
+        <source>%1: the conductor is wider than the wire.</source>
+        <translation>%1: Der Leiter ist dicker als der Draht.</translation>
+    </message>
+    <message>
+        <source>%1: a dwell needs &quot;dwell = letter&quot; in [words].</source>
+        <translation>%1: Eine Verweilzeit braucht „dwell = Buchstabe“ in [words].</translation>
+    </message>
+    <message>
+        <source>%1: the letter of the dwell means something already.</source>
+        <translation>%1: Der Buchstabe der Verweilzeit hat schon eine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>There is no key &quot;%1&quot; in [%2].</source>
+        <translation>In [%2] gibt es keinen Schlüssel „%1“.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 ist nicht lesbar: %2.</translation>
     </message>
 </context>
 <context>
@@ -572,6 +1056,21 @@
     </message>
 </context>
 <context>
+    <name>ProgramVerdict</name>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Fehler: %1, Warnungen: %2</translation>
+    </message>
+    <message>
+        <source>Not checked to the end</source>
+        <translation>Nicht bis zum Ende geprüft</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -782,6 +1281,21 @@
     <message>
         <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
         <translation>Ungespeichertes lässt sich nicht gegen Stromausfall sichern: %1. Bald speichern.</translation>
+    </message>
+</context>
+<context>
+    <name>WindingReview</name>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Das Programm %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then try once more.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr. Panel aus- und einschalten, dann erneut versuchen.</translation>
     </message>
 </context>
 </TS>

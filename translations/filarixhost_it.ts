@@ -33,6 +33,104 @@
     </message>
 </context>
 <context>
+    <name>CoilFigures</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1:%2 min</source>
+        <translation>%1:%2 min</translation>
+    </message>
+    <message>
+        <source>%1:%2:%3 h</source>
+        <translation>%1:%2:%3 h</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Spire</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>Bobine</translation>
+    </message>
+    <message>
+        <source>Wire length</source>
+        <translation>Filo</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Massa</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>Resistenza</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Riempimento</translation>
+    </message>
+    <message>
+        <source>Outer diameter</source>
+        <translation>Ø esterno</translation>
+    </message>
+    <message>
+        <source>Wire diameter</source>
+        <translation>Ø filo</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPicture</name>
+    <message>
+        <source>Tension %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>Layer 1</source>
+        <translation>Strato 1</translation>
+    </message>
+    <message>
+        <source>Coil %1 of %2</source>
+        <translation>Bobina %1 di %2</translation>
+    </message>
+    <message>
+        <source>winding</source>
+        <translation>avvolge</translation>
+    </message>
+    <message>
+        <source>moving</source>
+        <translation>muove</translation>
+    </message>
+    <message>
+        <source>rapid</source>
+        <translation>rapido</translation>
+    </message>
+    <message>
+        <source>Traverse</source>
+        <translation>Traslazione</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>turns</source>
+        <translation>spire</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -117,6 +215,26 @@
         <source>Checksum</source>
         <translation>Checksum</translation>
     </message>
+    <message>
+        <source>This machine takes no program with errors. Mend them, then send it.</source>
+        <translation>Questa macchina non accetta programmi con errori. Correggerli, poi inviare.</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>The check found errors: %1. The machine may stop or wind something else.</source>
+        <translation>Errori trovati dal controllo: %1. La macchina può fermarsi o avvolgere altro.</translation>
+    </message>
+    <message>
+        <source>The program could not be checked to the end. Errors may be in it.</source>
+        <translation>Il programma non è stato controllato fino in fondo. Può contenere errori.</translation>
+    </message>
+    <message>
+        <source>Send it all the same?</source>
+        <translation>Inviarlo comunque?</translation>
+    </message>
 </context>
 <context>
     <name>DownloadSource</name>
@@ -139,6 +257,257 @@
     <message>
         <source>The download was stopped. The PLC keeps what it had.</source>
         <translation>Invio interrotto. Il PLC conserva ciò che aveva.</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>A control character stands here, which nobody sees.</source>
+        <translation>Qui c&apos;è un carattere di controllo, che nessuno vede.</translation>
+    </message>
+    <message>
+        <source>Delete it, or write the line anew.</source>
+        <translation>Cancellarlo o riscrivere la riga.</translation>
+    </message>
+    <message>
+        <source>A character stands here that machines don&apos;t know.</source>
+        <translation>Qui c&apos;è un carattere che le macchine non conoscono.</translation>
+    </message>
+    <message>
+        <source>Write it anew: it may look like another one.</source>
+        <translation>Riscriverlo: può somigliare a un altro.</translation>
+    </message>
+    <message>
+        <source>The comment has a character that is not ASCII.</source>
+        <translation>Il commento ha un carattere non ASCII.</translation>
+    </message>
+    <message>
+        <source>Another panel may show another one in its place.</source>
+        <translation>Un altro pannello può mostrarne un altro.</translation>
+    </message>
+    <message>
+        <source>What stands here is no word.</source>
+        <translation>Quello che c&apos;è qui non è una parola.</translation>
+    </message>
+    <message>
+        <source>Delete it, or put a &quot;;&quot; before a comment.</source>
+        <translation>Cancellarlo, o mettere &quot;;&quot; prima del commento.</translation>
+    </message>
+    <message>
+        <source>The letter here has no number.</source>
+        <translation>Questa lettera non ha un numero.</translation>
+    </message>
+    <message>
+        <source>Add the number, or delete the letter.</source>
+        <translation>Aggiungere il numero o cancellare la lettera.</translation>
+    </message>
+    <message>
+        <source>The number here cannot be read.</source>
+        <translation>Questo numero non è leggibile.</translation>
+    </message>
+    <message>
+        <source>Write it with one point and one sign at most.</source>
+        <translation>Scriverlo con al massimo un punto e un segno.</translation>
+    </message>
+    <message>
+        <source>The number here is too large for any machine.</source>
+        <translation>Questo numero è troppo grande per ogni macchina.</translation>
+    </message>
+    <message>
+        <source>Correct the number.</source>
+        <translation>Correggere il numero.</translation>
+    </message>
+    <message>
+        <source>The comment that begins here has no end.</source>
+        <translation>Il commento che inizia qui non ha fine.</translation>
+    </message>
+    <message>
+        <source>Add a &quot;)&quot;, or begin it with &quot;;&quot;.</source>
+        <translation>Aggiungere &quot;)&quot;, o iniziarlo con &quot;;&quot;.</translation>
+    </message>
+    <message>
+        <source>The line has too many words: the rest is not read.</source>
+        <translation>La riga ha troppe parole: il resto non viene letto.</translation>
+    </message>
+    <message>
+        <source>Use several lines.</source>
+        <translation>Usare più righe.</translation>
+    </message>
+    <message>
+        <source>The line is too long: the rest is not read.</source>
+        <translation>La riga è troppo lunga: il resto non viene letto.</translation>
+    </message>
+    <message>
+        <source>%1 is unknown to this profile.</source>
+        <translation>%1 è sconosciuto a questo profilo.</translation>
+    </message>
+    <message>
+        <source>Correct it, or check with the profile of the machine.</source>
+        <translation>Correggerlo, o verificare con il profilo della macchina.</translation>
+    </message>
+    <message>
+        <source>%1: the machine has no such guide tube.</source>
+        <translation>%1: la macchina non ha questo tubo guida.</translation>
+    </message>
+    <message>
+        <source>Correct the number, or add the tube to the profile.</source>
+        <translation>Correggere il numero, o aggiungere il tubo al profilo.</translation>
+    </message>
+    <message>
+        <source>%1 does not count: another one stands in the line.</source>
+        <translation>%1 non conta: nella riga ce n&apos;è un altro.</translation>
+    </message>
+    <message>
+        <source>Keep one of them.</source>
+        <translation>Tenerne uno solo.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 in one line contradict each other.</source>
+        <translation>%1 e %2 nella stessa riga si contraddicono.</translation>
+    </message>
+    <message>
+        <source>Keep one of them, or use two lines.</source>
+        <translation>Tenerne uno, o usare due righe.</translation>
+    </message>
+    <message>
+        <source>%1 has no effect in this line.</source>
+        <translation>%1 non ha effetto in questa riga.</translation>
+    </message>
+    <message>
+        <source>Delete it, or add what it belongs to.</source>
+        <translation>Cancellarlo, o aggiungere ciò a cui appartiene.</translation>
+    </message>
+    <message>
+        <source>%1 must not be negative.</source>
+        <translation>%1 non può essere negativo.</translation>
+    </message>
+    <message>
+        <source>%1 moves, but no motion is in force.</source>
+        <translation>%1 muove, ma nessun movimento è attivo.</translation>
+    </message>
+    <message>
+        <source>Put a motion before it, such as %2.</source>
+        <translation>Mettere prima un movimento, come %2.</translation>
+    </message>
+    <message>
+        <source>%1 moves without a feed.</source>
+        <translation>%1 muove senza avanzamento.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the feed.</source>
+        <translation>Aggiungere %2 con l&apos;avanzamento.</translation>
+    </message>
+    <message>
+        <source>%1 winds without a pitch.</source>
+        <translation>%1 avvolge senza passo.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the pitch.</source>
+        <translation>Aggiungere %2 con il passo.</translation>
+    </message>
+    <message>
+        <source>%1 waits without a time.</source>
+        <translation>%1 attende senza un tempo.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the time.</source>
+        <translation>Aggiungere %2 con il tempo.</translation>
+    </message>
+    <message>
+        <source>%1 waits for the spindle, which stands.</source>
+        <translation>%1 attende il mandrino, che è fermo.</translation>
+    </message>
+    <message>
+        <source>Start the spindle before, by %2 and a speed.</source>
+        <translation>Avviare prima il mandrino, con %2 e una velocità.</translation>
+    </message>
+    <message>
+        <source>%1 goes to %2, beyond the axis: its end is %3.</source>
+        <translation>%1 va a %2, oltre l&apos;asse: la fine è a %3.</translation>
+    </message>
+    <message>
+        <source>Correct the number or the position before.</source>
+        <translation>Correggere il numero o la posizione precedente.</translation>
+    </message>
+    <message>
+        <source>%1 is faster than the spindle may turn: %2.</source>
+        <translation>%1 supera la velocità del mandrino: %2.</translation>
+    </message>
+    <message>
+        <source>Use a lower speed.</source>
+        <translation>Usare una velocità minore.</translation>
+    </message>
+    <message>
+        <source>The pitch %1 is above the limit of %2.</source>
+        <translation>Il passo %1 supera il limite di %2.</translation>
+    </message>
+    <message>
+        <source>Use a smaller pitch.</source>
+        <translation>Usare un passo minore.</translation>
+    </message>
+    <message>
+        <source>The spindle turns at a tension of %1; the limit is %2.</source>
+        <translation>Il mandrino gira con una tensione di %1; il limite è %2.</translation>
+    </message>
+    <message>
+        <source>Use less tension: the wire may break.</source>
+        <translation>Ridurre la tensione: il filo può rompersi.</translation>
+    </message>
+    <message>
+        <source>The tension jumps by %1; the limit is %2.</source>
+        <translation>La tensione salta di %1; il limite è %2.</translation>
+    </message>
+    <message>
+        <source>Use several steps.</source>
+        <translation>Usare più passi.</translation>
+    </message>
+    <message>
+        <source>The wire is laid at %1; the bobbin is from %2 to %3.</source>
+        <translation>Il filo va a %1; la bobina va da %2 a %3.</translation>
+    </message>
+    <message>
+        <source>Stay between the flanges, or stop the spindle.</source>
+        <translation>Restare tra le flange, o fermare il mandrino.</translation>
+    </message>
+    <message>
+        <source>The coil grows over the flange, which has %1.</source>
+        <translation>L&apos;avvolgimento supera la flangia di %1.</translation>
+    </message>
+    <message>
+        <source>Use fewer turns, a thinner wire or another bobbin.</source>
+        <translation>Usare meno spire, un filo più sottile o un&apos;altra bobina.</translation>
+    </message>
+    <message>
+        <source>The winding begins before the wire is clamped.</source>
+        <translation>L&apos;avvolgimento inizia prima che il filo sia bloccato.</translation>
+    </message>
+    <message>
+        <source>Clamp the wire first, by %2.</source>
+        <translation>Bloccare prima il filo, con %2.</translation>
+    </message>
+    <message>
+        <source>The program ends before the wire is cut.</source>
+        <translation>Il programma finisce prima che il filo sia tagliato.</translation>
+    </message>
+    <message>
+        <source>Cut the wire first, by %1.</source>
+        <translation>Tagliare prima il filo, con %1.</translation>
+    </message>
+    <message>
+        <source>The program has no end.</source>
+        <translation>Il programma non ha fine.</translation>
+    </message>
+    <message>
+        <source>Add %1 as the last line.</source>
+        <translation>Aggiungere %1 come ultima riga.</translation>
+    </message>
+    <message>
+        <source>The program has ended: this is never performed.</source>
+        <translation>Il programma è finito: questo non viene mai eseguito.</translation>
+    </message>
+    <message>
+        <source>Delete it, or put the end behind it.</source>
+        <translation>Cancellarlo, o mettere la fine dopo.</translation>
     </message>
 </context>
 <context>
@@ -261,6 +630,121 @@
     <message>
         <source>All the same</source>
         <translation>Comunque</translation>
+    </message>
+</context>
+<context>
+    <name>MachineProfile</name>
+    <message>
+        <source>%1 is too large for a machine profile.</source>
+        <translation>%1 è troppo grande per un profilo macchina.</translation>
+    </message>
+    <message>
+        <source>%1 is no text, and so no machine profile.</source>
+        <translation>%1 non è un testo, quindi non è un profilo macchina.</translation>
+    </message>
+    <message>
+        <source>A line is a [section] or a key = value.</source>
+        <translation>Una riga è una [sezione] o chiave = valore.</translation>
+    </message>
+    <message>
+        <source>There is no section [%1].</source>
+        <translation>La sezione [%1] non esiste.</translation>
+    </message>
+    <message>
+        <source>A key stands before the first section.</source>
+        <translation>Una chiave precede la prima sezione.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice.</source>
+        <translation>&quot;%1&quot; compare due volte.</translation>
+    </message>
+    <message>
+        <source>An axis is: letter = role, unit, minimum, maximum.</source>
+        <translation>Un asse è: lettera = ruolo, unità, minimo, massimo.</translation>
+    </message>
+    <message>
+        <source>Another axis is the %1 already.</source>
+        <translation>Un altro asse è già %1.</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is mm.</source>
+        <translation>L&apos;unità di questo asse è mm.</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is N.</source>
+        <translation>L&apos;unità di questo asse è N.</translation>
+    </message>
+    <message>
+        <source>There are too many axes.</source>
+        <translation>Ci sono troppi assi.</translation>
+    </message>
+    <message>
+        <source>A function is: G or M with a number = action, modal group.</source>
+        <translation>Una funzione è: G o M con un numero = azione, gruppo modale.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no letter.</source>
+        <translation>&quot;%1&quot; non è una lettera.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a tool, or stands there twice.</source>
+        <translation>&quot;%1&quot; non è un numero di utensile o compare due volte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of IEC 60317, as &quot;0.250 grade 1&quot; is.</source>
+        <translation>&quot;%1&quot; non è una misura della IEC 60317 come &quot;0.250 grade 1&quot;.</translation>
+    </message>
+    <message>
+        <source>The letter %1 means something already.</source>
+        <translation>La lettera %1 ha già un significato.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>&quot;%1&quot; non è un numero da %2 a %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of: %2.</source>
+        <translation>&quot;%1&quot; non è tra: %2.</translation>
+    </message>
+    <message>
+        <source>%1: no axis is the traverse.</source>
+        <translation>%1: nessun asse è il guidafilo (traverse).</translation>
+    </message>
+    <message>
+        <source>%1: the bobbin needs a core and a width.</source>
+        <translation>%1: il rocchetto richiede nucleo e larghezza.</translation>
+    </message>
+    <message>
+        <source>%1: the flange is narrower than the core.</source>
+        <translation>%1: la flangia è più piccola del nucleo.</translation>
+    </message>
+    <message>
+        <source>%1: the conductor is wider than the wire.</source>
+        <translation>%1: il conduttore è più grosso del filo.</translation>
+    </message>
+    <message>
+        <source>%1: a dwell needs &quot;dwell = letter&quot; in [words].</source>
+        <translation>%1: una sosta richiede &quot;dwell = lettera&quot; in [words].</translation>
+    </message>
+    <message>
+        <source>%1: the letter of the dwell means something already.</source>
+        <translation>%1: la lettera della sosta ha già un significato.</translation>
+    </message>
+    <message>
+        <source>There is no key &quot;%1&quot; in [%2].</source>
+        <translation>In [%2] non esiste la chiave &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, riga %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -572,6 +1056,21 @@
     </message>
 </context>
 <context>
+    <name>ProgramVerdict</name>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nessun problema</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Errori: %1, avvisi: %2</translation>
+    </message>
+    <message>
+        <source>Not checked to the end</source>
+        <translation>Controllo non completo</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -782,6 +1281,21 @@
     <message>
         <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
         <translation>Le modifiche non salvate non sono protette da un blackout: %1. Salvare presto.</translation>
+    </message>
+</context>
+<context>
+    <name>WindingReview</name>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il programma %1: %2.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then try once more.</source>
+        <translation>La memoria del pannello non risponde più. Spegnere e riaccendere il pannello, poi riprovare.</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,104 @@
     </message>
 </context>
 <context>
+    <name>CoilFigures</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1:%2 min</source>
+        <translation>%1:%2 dk</translation>
+    </message>
+    <message>
+        <source>%1:%2:%3 h</source>
+        <translation>%1:%2:%3 sa</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Sarım</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Kat</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>Bobinler</translation>
+    </message>
+    <message>
+        <source>Wire length</source>
+        <translation>Tel boyu</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>Kütle</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>Direnç</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Doluluk</translation>
+    </message>
+    <message>
+        <source>Outer diameter</source>
+        <translation>Dış çap</translation>
+    </message>
+    <message>
+        <source>Wire diameter</source>
+        <translation>Tel çapı</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPicture</name>
+    <message>
+        <source>Tension %1</source>
+        <translation>Gergi %1</translation>
+    </message>
+    <message>
+        <source>Layer 1</source>
+        <translation>Kat 1</translation>
+    </message>
+    <message>
+        <source>Coil %1 of %2</source>
+        <translation>Bobin %1 / %2</translation>
+    </message>
+    <message>
+        <source>winding</source>
+        <translation>sarma</translation>
+    </message>
+    <message>
+        <source>moving</source>
+        <translation>gitme</translation>
+    </message>
+    <message>
+        <source>rapid</source>
+        <translation>hızlı</translation>
+    </message>
+    <message>
+        <source>Traverse</source>
+        <translation>Gezdirme</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Devir</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Gergi</translation>
+    </message>
+    <message>
+        <source>turns</source>
+        <translation>sarım</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -117,6 +215,26 @@
         <source>Checksum</source>
         <translation>Sağlama</translation>
     </message>
+    <message>
+        <source>This machine takes no program with errors. Mend them, then send it.</source>
+        <translation>Bu makine hatalı program almaz. Önce düzeltin, sonra gönderin.</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Denetim</translation>
+    </message>
+    <message>
+        <source>The check found errors: %1. The machine may stop or wind something else.</source>
+        <translation>Denetimin bulduğu hatalar: %1. Makine durabilir ya da başka türlü sarabilir.</translation>
+    </message>
+    <message>
+        <source>The program could not be checked to the end. Errors may be in it.</source>
+        <translation>Program sonuna kadar denetlenemedi. Hatalar olabilir.</translation>
+    </message>
+    <message>
+        <source>Send it all the same?</source>
+        <translation>Yine de gönderilsin mi?</translation>
+    </message>
 </context>
 <context>
     <name>DownloadSource</name>
@@ -139,6 +257,257 @@
     <message>
         <source>The download was stopped. The PLC keeps what it had.</source>
         <translation>Yükleme durduruldu. PLC eski içeriğini korur.</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>A control character stands here, which nobody sees.</source>
+        <translation>Burada kimsenin görmediği bir denetim karakteri var.</translation>
+    </message>
+    <message>
+        <source>Delete it, or write the line anew.</source>
+        <translation>Silin ya da satırı yeniden yazın.</translation>
+    </message>
+    <message>
+        <source>A character stands here that machines don&apos;t know.</source>
+        <translation>Burada makinelerin bilmediği bir karakter var.</translation>
+    </message>
+    <message>
+        <source>Write it anew: it may look like another one.</source>
+        <translation>Yeniden yazın: başka bir karaktere benzeyebilir.</translation>
+    </message>
+    <message>
+        <source>The comment has a character that is not ASCII.</source>
+        <translation>Yorumda ASCII olmayan bir karakter var.</translation>
+    </message>
+    <message>
+        <source>Another panel may show another one in its place.</source>
+        <translation>Başka bir panel yerine başkasını gösterebilir.</translation>
+    </message>
+    <message>
+        <source>What stands here is no word.</source>
+        <translation>Burada yazılan bir komut sözcüğü değil.</translation>
+    </message>
+    <message>
+        <source>Delete it, or put a &quot;;&quot; before a comment.</source>
+        <translation>Silin ya da yorumdan önce &quot;;&quot; koyun.</translation>
+    </message>
+    <message>
+        <source>The letter here has no number.</source>
+        <translation>Buradaki harfin sayısı yok.</translation>
+    </message>
+    <message>
+        <source>Add the number, or delete the letter.</source>
+        <translation>Sayıyı ekleyin ya da harfi silin.</translation>
+    </message>
+    <message>
+        <source>The number here cannot be read.</source>
+        <translation>Buradaki sayı okunamıyor.</translation>
+    </message>
+    <message>
+        <source>Write it with one point and one sign at most.</source>
+        <translation>En çok bir nokta ve bir işaretle yazın.</translation>
+    </message>
+    <message>
+        <source>The number here is too large for any machine.</source>
+        <translation>Buradaki sayı her makine için çok büyük.</translation>
+    </message>
+    <message>
+        <source>Correct the number.</source>
+        <translation>Sayıyı düzeltin.</translation>
+    </message>
+    <message>
+        <source>The comment that begins here has no end.</source>
+        <translation>Burada başlayan yorumun sonu yok.</translation>
+    </message>
+    <message>
+        <source>Add a &quot;)&quot;, or begin it with &quot;;&quot;.</source>
+        <translation>&quot;)&quot; ekleyin ya da &quot;;&quot; ile başlatın.</translation>
+    </message>
+    <message>
+        <source>The line has too many words: the rest is not read.</source>
+        <translation>Satırda çok fazla sözcük var: kalanı okunmaz.</translation>
+    </message>
+    <message>
+        <source>Use several lines.</source>
+        <translation>Birden çok satır kullanın.</translation>
+    </message>
+    <message>
+        <source>The line is too long: the rest is not read.</source>
+        <translation>Satır çok uzun: kalanı okunmaz.</translation>
+    </message>
+    <message>
+        <source>%1 is unknown to this profile.</source>
+        <translation>%1 bu profilde bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>Correct it, or check with the profile of the machine.</source>
+        <translation>Düzeltin ya da makinenin profiliyle denetleyin.</translation>
+    </message>
+    <message>
+        <source>%1: the machine has no such guide tube.</source>
+        <translation>%1: makinede böyle bir kılavuz boru yok.</translation>
+    </message>
+    <message>
+        <source>Correct the number, or add the tube to the profile.</source>
+        <translation>Sayıyı düzeltin ya da boruyu profile ekleyin.</translation>
+    </message>
+    <message>
+        <source>%1 does not count: another one stands in the line.</source>
+        <translation>%1 sayılmaz: satırda bir tane daha var.</translation>
+    </message>
+    <message>
+        <source>Keep one of them.</source>
+        <translation>Yalnız birini bırakın.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 in one line contradict each other.</source>
+        <translation>Aynı satırda %1 ile %2 çelişiyor.</translation>
+    </message>
+    <message>
+        <source>Keep one of them, or use two lines.</source>
+        <translation>Birini bırakın ya da iki satır kullanın.</translation>
+    </message>
+    <message>
+        <source>%1 has no effect in this line.</source>
+        <translation>%1 bu satırda etkisiz.</translation>
+    </message>
+    <message>
+        <source>Delete it, or add what it belongs to.</source>
+        <translation>Silin ya da ait olduğu sözcüğü ekleyin.</translation>
+    </message>
+    <message>
+        <source>%1 must not be negative.</source>
+        <translation>%1 negatif olamaz.</translation>
+    </message>
+    <message>
+        <source>%1 moves, but no motion is in force.</source>
+        <translation>%1 hareket ediyor ama etkin bir hareket yok.</translation>
+    </message>
+    <message>
+        <source>Put a motion before it, such as %2.</source>
+        <translation>Önüne bir hareket koyun, örneğin %2.</translation>
+    </message>
+    <message>
+        <source>%1 moves without a feed.</source>
+        <translation>%1 ilerleme olmadan hareket ediyor.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the feed.</source>
+        <translation>%2 ile ilerlemeyi ekleyin.</translation>
+    </message>
+    <message>
+        <source>%1 winds without a pitch.</source>
+        <translation>%1 adım olmadan sarıyor.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the pitch.</source>
+        <translation>%2 ile adımı ekleyin.</translation>
+    </message>
+    <message>
+        <source>%1 waits without a time.</source>
+        <translation>%1 süre olmadan bekliyor.</translation>
+    </message>
+    <message>
+        <source>Add %2 with the time.</source>
+        <translation>%2 ile süreyi ekleyin.</translation>
+    </message>
+    <message>
+        <source>%1 waits for the spindle, which stands.</source>
+        <translation>%1 duran iş milini bekliyor.</translation>
+    </message>
+    <message>
+        <source>Start the spindle before, by %2 and a speed.</source>
+        <translation>Önce iş milini %2 ve bir hızla çalıştırın.</translation>
+    </message>
+    <message>
+        <source>%1 goes to %2, beyond the axis: its end is %3.</source>
+        <translation>%1, %2 konumuna gidiyor, eksenin sonu %3.</translation>
+    </message>
+    <message>
+        <source>Correct the number or the position before.</source>
+        <translation>Sayıyı ya da önceki konumu düzeltin.</translation>
+    </message>
+    <message>
+        <source>%1 is faster than the spindle may turn: %2.</source>
+        <translation>%1, iş milinin izin verilen hızından yüksek: %2.</translation>
+    </message>
+    <message>
+        <source>Use a lower speed.</source>
+        <translation>Daha düşük bir hız kullanın.</translation>
+    </message>
+    <message>
+        <source>The pitch %1 is above the limit of %2.</source>
+        <translation>%1 adımı %2 sınırının üstünde.</translation>
+    </message>
+    <message>
+        <source>Use a smaller pitch.</source>
+        <translation>Daha küçük bir adım kullanın.</translation>
+    </message>
+    <message>
+        <source>The spindle turns at a tension of %1; the limit is %2.</source>
+        <translation>İş mili %1 gerginlikle dönüyor; sınır %2.</translation>
+    </message>
+    <message>
+        <source>Use less tension: the wire may break.</source>
+        <translation>Gerginliği azaltın: tel kopabilir.</translation>
+    </message>
+    <message>
+        <source>The tension jumps by %1; the limit is %2.</source>
+        <translation>Gerginlik %1 atlıyor; sınır %2.</translation>
+    </message>
+    <message>
+        <source>Use several steps.</source>
+        <translation>Birden çok adımla gidin.</translation>
+    </message>
+    <message>
+        <source>The wire is laid at %1; the bobbin is from %2 to %3.</source>
+        <translation>Tel %1 konumuna seriliyor; makara %2 ile %3 arasında.</translation>
+    </message>
+    <message>
+        <source>Stay between the flanges, or stop the spindle.</source>
+        <translation>Flanşların arasında kalın ya da iş milini durdurun.</translation>
+    </message>
+    <message>
+        <source>The coil grows over the flange, which has %1.</source>
+        <translation>Sargı %1 çaplı flanşı aşıyor.</translation>
+    </message>
+    <message>
+        <source>Use fewer turns, a thinner wire or another bobbin.</source>
+        <translation>Daha az sarım, daha ince tel ya da başka makara kullanın.</translation>
+    </message>
+    <message>
+        <source>The winding begins before the wire is clamped.</source>
+        <translation>Sarma, tel sıkıştırılmadan başlıyor.</translation>
+    </message>
+    <message>
+        <source>Clamp the wire first, by %2.</source>
+        <translation>Önce teli %2 ile sıkıştırın.</translation>
+    </message>
+    <message>
+        <source>The program ends before the wire is cut.</source>
+        <translation>Program, tel kesilmeden bitiyor.</translation>
+    </message>
+    <message>
+        <source>Cut the wire first, by %1.</source>
+        <translation>Önce teli %1 ile kesin.</translation>
+    </message>
+    <message>
+        <source>The program has no end.</source>
+        <translation>Programın sonu yok.</translation>
+    </message>
+    <message>
+        <source>Add %1 as the last line.</source>
+        <translation>Son satır olarak %1 ekleyin.</translation>
+    </message>
+    <message>
+        <source>The program has ended: this is never performed.</source>
+        <translation>Program bitti: bu hiç yürütülmez.</translation>
+    </message>
+    <message>
+        <source>Delete it, or put the end behind it.</source>
+        <translation>Silin ya da sonu bunun arkasına koyun.</translation>
     </message>
 </context>
 <context>
@@ -261,6 +630,121 @@
     <message>
         <source>All the same</source>
         <translation>Yine de</translation>
+    </message>
+</context>
+<context>
+    <name>MachineProfile</name>
+    <message>
+        <source>%1 is too large for a machine profile.</source>
+        <translation>%1 bir makine profili için çok büyük.</translation>
+    </message>
+    <message>
+        <source>%1 is no text, and so no machine profile.</source>
+        <translation>%1 metin değil; makine profili olamaz.</translation>
+    </message>
+    <message>
+        <source>A line is a [section] or a key = value.</source>
+        <translation>Bir satır [bölüm] ya da anahtar = değer olur.</translation>
+    </message>
+    <message>
+        <source>There is no section [%1].</source>
+        <translation>[%1] bölümü yok.</translation>
+    </message>
+    <message>
+        <source>A key stands before the first section.</source>
+        <translation>İlk bölümden önce bir anahtar var.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice.</source>
+        <translation>&quot;%1&quot; iki kez yazılmış.</translation>
+    </message>
+    <message>
+        <source>An axis is: letter = role, unit, minimum, maximum.</source>
+        <translation>Bir eksen: harf = görev, birim, en az, en çok.</translation>
+    </message>
+    <message>
+        <source>Another axis is the %1 already.</source>
+        <translation>Başka bir eksen zaten %1.</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is mm.</source>
+        <translation>Bu eksenin birimi mm&apos;dir.</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is N.</source>
+        <translation>Bu eksenin birimi N&apos;dir.</translation>
+    </message>
+    <message>
+        <source>There are too many axes.</source>
+        <translation>Çok fazla eksen var.</translation>
+    </message>
+    <message>
+        <source>A function is: G or M with a number = action, modal group.</source>
+        <translation>Bir işlev: sayılı G ya da M = eylem, modal grup.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no letter.</source>
+        <translation>&quot;%1&quot; bir harf değil.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a tool, or stands there twice.</source>
+        <translation>&quot;%1&quot; takım numarası değil ya da iki kez yazılmış.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of IEC 60317, as &quot;0.250 grade 1&quot; is.</source>
+        <translation>&quot;%1&quot;, &quot;0.250 grade 1&quot; gibi bir IEC 60317 ölçüsü değil.</translation>
+    </message>
+    <message>
+        <source>The letter %1 means something already.</source>
+        <translation>%1 harfinin zaten bir anlamı var.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>&quot;%1&quot;, %2 ile %3 arasında bir sayı değil.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of: %2.</source>
+        <translation>&quot;%1&quot; şunlardan biri değil: %2.</translation>
+    </message>
+    <message>
+        <source>%1: no axis is the traverse.</source>
+        <translation>%1: hiçbir eksen tel dizme (traverse) değil.</translation>
+    </message>
+    <message>
+        <source>%1: the bobbin needs a core and a width.</source>
+        <translation>%1: makaranın göbeği ve genişliği eksik.</translation>
+    </message>
+    <message>
+        <source>%1: the flange is narrower than the core.</source>
+        <translation>%1: flanş göbekten küçük.</translation>
+    </message>
+    <message>
+        <source>%1: the conductor is wider than the wire.</source>
+        <translation>%1: iletken telden kalın.</translation>
+    </message>
+    <message>
+        <source>%1: a dwell needs &quot;dwell = letter&quot; in [words].</source>
+        <translation>%1: bekleme için [words] içinde &quot;dwell = harf&quot; gerekir.</translation>
+    </message>
+    <message>
+        <source>%1: the letter of the dwell means something already.</source>
+        <translation>%1: bekleme harfinin zaten bir anlamı var.</translation>
+    </message>
+    <message>
+        <source>There is no key &quot;%1&quot; in [%2].</source>
+        <translation>[%2] içinde &quot;%1&quot; anahtarı yok.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, satır %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 bir dosya değil.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 okunamıyor: %2.</translation>
     </message>
 </context>
 <context>
@@ -572,6 +1056,21 @@
     </message>
 </context>
 <context>
+    <name>ProgramVerdict</name>
+    <message>
+        <source>Nothing found</source>
+        <translation>Hiçbir şey bulunmadı</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Hatalar: %1, uyarılar: %2</translation>
+    </message>
+    <message>
+        <source>Not checked to the end</source>
+        <translation>Sonuna kadar denetlenmedi</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -782,6 +1281,21 @@
     <message>
         <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
         <translation>Kaydedilmeyenler elektrik kesintisine karşı saklanamıyor: %1. Kısa sürede kaydedin.</translation>
+    </message>
+</context>
+<context>
+    <name>WindingReview</name>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 bir program dosyası değil.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>%1 programı okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then try once more.</source>
+        <translation>Panelin belleği yanıt vermiyor. Paneli kapatıp açın, sonra yeniden deneyin.</translation>
     </message>
 </context>
 </TS>

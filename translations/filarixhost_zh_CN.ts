@@ -33,6 +33,104 @@
     </message>
 </context>
 <context>
+    <name>CoilFigures</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1:%2 min</source>
+        <translation>%1:%2 min</translation>
+    </message>
+    <message>
+        <source>%1:%2:%3 h</source>
+        <translation>%1:%2:%3 h</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>匝数</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层数</translation>
+    </message>
+    <message>
+        <source>Coils</source>
+        <translation>线圈数</translation>
+    </message>
+    <message>
+        <source>Wire length</source>
+        <translation>线长</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Resistance</source>
+        <translation>电阻</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>填充率</translation>
+    </message>
+    <message>
+        <source>Outer diameter</source>
+        <translation>外径</translation>
+    </message>
+    <message>
+        <source>Wire diameter</source>
+        <translation>线径</translation>
+    </message>
+</context>
+<context>
+    <name>CoilPicture</name>
+    <message>
+        <source>Tension %1</source>
+        <translation>张力 %1</translation>
+    </message>
+    <message>
+        <source>Layer 1</source>
+        <translation>第1层</translation>
+    </message>
+    <message>
+        <source>Coil %1 of %2</source>
+        <translation>线圈 %1/%2</translation>
+    </message>
+    <message>
+        <source>winding</source>
+        <translation>绕线</translation>
+    </message>
+    <message>
+        <source>moving</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>rapid</source>
+        <translation>快移</translation>
+    </message>
+    <message>
+        <source>Traverse</source>
+        <translation>横移</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>转速</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>张力</translation>
+    </message>
+    <message>
+        <source>turns</source>
+        <translation>匝</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionFile</name>
     <message>
         <source>%1 cannot be made: %2.</source>
@@ -117,6 +215,26 @@
         <source>Checksum</source>
         <translation>校验码</translation>
     </message>
+    <message>
+        <source>This machine takes no program with errors. Mend them, then send it.</source>
+        <translation>本机不接受有错误的程序。请先改正，再发送。</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>The check found errors: %1. The machine may stop or wind something else.</source>
+        <translation>检查发现错误：%1。机器可能停止或绕错。</translation>
+    </message>
+    <message>
+        <source>The program could not be checked to the end. Errors may be in it.</source>
+        <translation>程序未能检查完毕，可能有错误。</translation>
+    </message>
+    <message>
+        <source>Send it all the same?</source>
+        <translation>仍要发送吗？</translation>
+    </message>
 </context>
 <context>
     <name>DownloadSource</name>
@@ -139,6 +257,257 @@
     <message>
         <source>The download was stopped. The PLC keeps what it had.</source>
         <translation>下载已停止。PLC 保持原有内容。</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>A control character stands here, which nobody sees.</source>
+        <translation>此处有一个看不见的控制字符。</translation>
+    </message>
+    <message>
+        <source>Delete it, or write the line anew.</source>
+        <translation>请删除它, 或重写此行。</translation>
+    </message>
+    <message>
+        <source>A character stands here that machines don&apos;t know.</source>
+        <translation>此处有机床不认识的字符。</translation>
+    </message>
+    <message>
+        <source>Write it anew: it may look like another one.</source>
+        <translation>请重新输入: 它可能与别的字符相似。</translation>
+    </message>
+    <message>
+        <source>The comment has a character that is not ASCII.</source>
+        <translation>注释中有非 ASCII 字符。</translation>
+    </message>
+    <message>
+        <source>Another panel may show another one in its place.</source>
+        <translation>别的面板可能显示成另一个字符。</translation>
+    </message>
+    <message>
+        <source>What stands here is no word.</source>
+        <translation>此处的内容不是指令字。</translation>
+    </message>
+    <message>
+        <source>Delete it, or put a &quot;;&quot; before a comment.</source>
+        <translation>请删除, 或在注释前加 &quot;;&quot;。</translation>
+    </message>
+    <message>
+        <source>The letter here has no number.</source>
+        <translation>此处的字母没有数值。</translation>
+    </message>
+    <message>
+        <source>Add the number, or delete the letter.</source>
+        <translation>请补上数值, 或删除字母。</translation>
+    </message>
+    <message>
+        <source>The number here cannot be read.</source>
+        <translation>此处的数值无法读取。</translation>
+    </message>
+    <message>
+        <source>Write it with one point and one sign at most.</source>
+        <translation>最多只写一个小数点和一个符号。</translation>
+    </message>
+    <message>
+        <source>The number here is too large for any machine.</source>
+        <translation>此处的数值对任何机床都太大。</translation>
+    </message>
+    <message>
+        <source>Correct the number.</source>
+        <translation>请更正数值。</translation>
+    </message>
+    <message>
+        <source>The comment that begins here has no end.</source>
+        <translation>此处开始的注释没有结尾。</translation>
+    </message>
+    <message>
+        <source>Add a &quot;)&quot;, or begin it with &quot;;&quot;.</source>
+        <translation>请加 &quot;)&quot;, 或用 &quot;;&quot; 开头。</translation>
+    </message>
+    <message>
+        <source>The line has too many words: the rest is not read.</source>
+        <translation>此行指令字过多: 其余不读取。</translation>
+    </message>
+    <message>
+        <source>Use several lines.</source>
+        <translation>请分成多行。</translation>
+    </message>
+    <message>
+        <source>The line is too long: the rest is not read.</source>
+        <translation>此行太长: 其余不读取。</translation>
+    </message>
+    <message>
+        <source>%1 is unknown to this profile.</source>
+        <translation>此配置中没有 %1。</translation>
+    </message>
+    <message>
+        <source>Correct it, or check with the profile of the machine.</source>
+        <translation>请更正, 或用该机床的配置检查。</translation>
+    </message>
+    <message>
+        <source>%1: the machine has no such guide tube.</source>
+        <translation>%1: 机床没有这个导线管。</translation>
+    </message>
+    <message>
+        <source>Correct the number, or add the tube to the profile.</source>
+        <translation>请更正数值, 或把导线管加入配置。</translation>
+    </message>
+    <message>
+        <source>%1 does not count: another one stands in the line.</source>
+        <translation>%1 无效: 此行中还有一个。</translation>
+    </message>
+    <message>
+        <source>Keep one of them.</source>
+        <translation>请只保留一个。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 in one line contradict each other.</source>
+        <translation>同一行中的 %1 和 %2 互相矛盾。</translation>
+    </message>
+    <message>
+        <source>Keep one of them, or use two lines.</source>
+        <translation>请保留一个, 或分成两行。</translation>
+    </message>
+    <message>
+        <source>%1 has no effect in this line.</source>
+        <translation>%1 在此行中不起作用。</translation>
+    </message>
+    <message>
+        <source>Delete it, or add what it belongs to.</source>
+        <translation>请删除, 或补上它所属的指令。</translation>
+    </message>
+    <message>
+        <source>%1 must not be negative.</source>
+        <translation>%1 不能为负。</translation>
+    </message>
+    <message>
+        <source>%1 moves, but no motion is in force.</source>
+        <translation>%1 要移动, 但没有生效的运动指令。</translation>
+    </message>
+    <message>
+        <source>Put a motion before it, such as %2.</source>
+        <translation>请在前面加运动指令, 如 %2。</translation>
+    </message>
+    <message>
+        <source>%1 moves without a feed.</source>
+        <translation>%1 移动时没有进给。</translation>
+    </message>
+    <message>
+        <source>Add %2 with the feed.</source>
+        <translation>请用 %2 给出进给。</translation>
+    </message>
+    <message>
+        <source>%1 winds without a pitch.</source>
+        <translation>%1 绕线时没有线距。</translation>
+    </message>
+    <message>
+        <source>Add %2 with the pitch.</source>
+        <translation>请用 %2 给出线距。</translation>
+    </message>
+    <message>
+        <source>%1 waits without a time.</source>
+        <translation>%1 等待时没有时间。</translation>
+    </message>
+    <message>
+        <source>Add %2 with the time.</source>
+        <translation>请用 %2 给出时间。</translation>
+    </message>
+    <message>
+        <source>%1 waits for the spindle, which stands.</source>
+        <translation>%1 等待主轴, 但主轴停着。</translation>
+    </message>
+    <message>
+        <source>Start the spindle before, by %2 and a speed.</source>
+        <translation>请先用 %2 和转速启动主轴。</translation>
+    </message>
+    <message>
+        <source>%1 goes to %2, beyond the axis: its end is %3.</source>
+        <translation>%1 到 %2, 超出轴的极限 %3。</translation>
+    </message>
+    <message>
+        <source>Correct the number or the position before.</source>
+        <translation>请更正数值或之前的位置。</translation>
+    </message>
+    <message>
+        <source>%1 is faster than the spindle may turn: %2.</source>
+        <translation>%1 超过主轴允许的转速 %2。</translation>
+    </message>
+    <message>
+        <source>Use a lower speed.</source>
+        <translation>请降低转速。</translation>
+    </message>
+    <message>
+        <source>The pitch %1 is above the limit of %2.</source>
+        <translation>线距 %1 超过极限 %2。</translation>
+    </message>
+    <message>
+        <source>Use a smaller pitch.</source>
+        <translation>请减小线距。</translation>
+    </message>
+    <message>
+        <source>The spindle turns at a tension of %1; the limit is %2.</source>
+        <translation>主轴在张力 %1 下转动; 极限为 %2。</translation>
+    </message>
+    <message>
+        <source>Use less tension: the wire may break.</source>
+        <translation>请减小张力: 线可能断。</translation>
+    </message>
+    <message>
+        <source>The tension jumps by %1; the limit is %2.</source>
+        <translation>张力突变 %1; 极限为 %2。</translation>
+    </message>
+    <message>
+        <source>Use several steps.</source>
+        <translation>请分几步进行。</translation>
+    </message>
+    <message>
+        <source>The wire is laid at %1; the bobbin is from %2 to %3.</source>
+        <translation>线绕在 %1; 线轴从 %2 到 %3。</translation>
+    </message>
+    <message>
+        <source>Stay between the flanges, or stop the spindle.</source>
+        <translation>请保持在法兰之间, 或停止主轴。</translation>
+    </message>
+    <message>
+        <source>The coil grows over the flange, which has %1.</source>
+        <translation>线圈超出直径 %1 的法兰。</translation>
+    </message>
+    <message>
+        <source>Use fewer turns, a thinner wire or another bobbin.</source>
+        <translation>请减少匝数, 或用更细的线或别的线轴。</translation>
+    </message>
+    <message>
+        <source>The winding begins before the wire is clamped.</source>
+        <translation>线未夹紧就开始绕线。</translation>
+    </message>
+    <message>
+        <source>Clamp the wire first, by %2.</source>
+        <translation>请先用 %2 夹紧线。</translation>
+    </message>
+    <message>
+        <source>The program ends before the wire is cut.</source>
+        <translation>线未剪断程序就结束。</translation>
+    </message>
+    <message>
+        <source>Cut the wire first, by %1.</source>
+        <translation>请先用 %1 剪断线。</translation>
+    </message>
+    <message>
+        <source>The program has no end.</source>
+        <translation>程序没有结束。</translation>
+    </message>
+    <message>
+        <source>Add %1 as the last line.</source>
+        <translation>请在最后一行加 %1。</translation>
+    </message>
+    <message>
+        <source>The program has ended: this is never performed.</source>
+        <translation>程序已结束: 此处不会执行。</translation>
+    </message>
+    <message>
+        <source>Delete it, or put the end behind it.</source>
+        <translation>请删除, 或把结束放在其后。</translation>
     </message>
 </context>
 <context>
@@ -261,6 +630,121 @@
     <message>
         <source>All the same</source>
         <translation>仍然继续</translation>
+    </message>
+</context>
+<context>
+    <name>MachineProfile</name>
+    <message>
+        <source>%1 is too large for a machine profile.</source>
+        <translation>%1 太大, 不能作为机器配置。</translation>
+    </message>
+    <message>
+        <source>%1 is no text, and so no machine profile.</source>
+        <translation>%1 不是文本, 不能作为机器配置。</translation>
+    </message>
+    <message>
+        <source>A line is a [section] or a key = value.</source>
+        <translation>每行应为 [节] 或 键 = 值。</translation>
+    </message>
+    <message>
+        <source>There is no section [%1].</source>
+        <translation>没有 [%1] 节。</translation>
+    </message>
+    <message>
+        <source>A key stands before the first section.</source>
+        <translation>第一节之前有键。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands there twice.</source>
+        <translation>“%1”出现了两次。</translation>
+    </message>
+    <message>
+        <source>An axis is: letter = role, unit, minimum, maximum.</source>
+        <translation>轴的写法: 字母 = 用途, 单位, 最小值, 最大值。</translation>
+    </message>
+    <message>
+        <source>Another axis is the %1 already.</source>
+        <translation>已有另一个轴是 %1。</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is mm.</source>
+        <translation>该轴的单位是 mm。</translation>
+    </message>
+    <message>
+        <source>The unit of this axis is N.</source>
+        <translation>该轴的单位是 N。</translation>
+    </message>
+    <message>
+        <source>There are too many axes.</source>
+        <translation>轴太多。</translation>
+    </message>
+    <message>
+        <source>A function is: G or M with a number = action, modal group.</source>
+        <translation>功能的写法: G 或 M 加数字 = 动作, 模态组。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no letter.</source>
+        <translation>“%1”不是字母。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of a tool, or stands there twice.</source>
+        <translation>“%1”不是刀具号, 或出现了两次。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of IEC 60317, as &quot;0.250 grade 1&quot; is.</source>
+        <translation>“%1”不是 IEC 60317 的规格, 例如“0.250 grade 1”。</translation>
+    </message>
+    <message>
+        <source>The letter %1 means something already.</source>
+        <translation>字母 %1 已有含义。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>“%1”不是 %2 到 %3 之间的数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of: %2.</source>
+        <translation>“%1”不属于: %2。</translation>
+    </message>
+    <message>
+        <source>%1: no axis is the traverse.</source>
+        <translation>%1: 没有排线轴 (traverse)。</translation>
+    </message>
+    <message>
+        <source>%1: the bobbin needs a core and a width.</source>
+        <translation>%1: 线轴缺少芯径和宽度。</translation>
+    </message>
+    <message>
+        <source>%1: the flange is narrower than the core.</source>
+        <translation>%1: 法兰小于芯径。</translation>
+    </message>
+    <message>
+        <source>%1: the conductor is wider than the wire.</source>
+        <translation>%1: 导体比导线粗。</translation>
+    </message>
+    <message>
+        <source>%1: a dwell needs &quot;dwell = letter&quot; in [words].</source>
+        <translation>%1: 停留需要在 [words] 中写 &quot;dwell = 字母&quot;。</translation>
+    </message>
+    <message>
+        <source>%1: the letter of the dwell means something already.</source>
+        <translation>%1: 停留的字母已有含义。</translation>
+    </message>
+    <message>
+        <source>There is no key &quot;%1&quot; in [%2].</source>
+        <translation>[%2] 中没有键“%1”。</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, 第 %2 行: %3</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 不是文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>无法读取 %1: %2。</translation>
     </message>
 </context>
 <context>
@@ -572,6 +1056,21 @@
     </message>
 </context>
 <context>
+    <name>ProgramVerdict</name>
+    <message>
+        <source>Nothing found</source>
+        <translation>未发现问题</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>错误：%1，警告：%2</translation>
+    </message>
+    <message>
+        <source>Not checked to the end</source>
+        <translation>未检查完毕</translation>
+    </message>
+</context>
+<context>
     <name>RowFile</name>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -782,6 +1281,21 @@
     <message>
         <source>What is not saved cannot be kept for a power cut: %1. Save soon.</source>
         <translation>未保存的内容无法防止断电丢失: %1。请尽快保存。</translation>
+    </message>
+</context>
+<context>
+    <name>WindingReview</name>
+    <message>
+        <source>%1 is not a program file.</source>
+        <translation>%1 不是程序文件。</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2.</source>
+        <translation>无法读取程序 %1: %2。</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage stopped answering. Switch the panel off and on, then try once more.</source>
+        <translation>面板存储器停止响应。请关闭面板后重新打开, 再重试。</translation>
     </message>
 </context>
 </TS>

@@ -100,7 +100,7 @@ CoilPreview::CoilPreview(QTextDocument *document, QObject *parent)
     });
 }
 
-void CoilPreview::readProfile(const QString &path)
+void CoilPreview::readProfile(const QString &path, bool isNeeded)
 {
     struct Read
     {
@@ -109,9 +109,10 @@ void CoilPreview::readProfile(const QString &path)
     };
     const std::shared_ptr<Read> read = std::make_shared<Read>();
     m_profileJob.run(
-        [read, path] {
-            read->profile = QFileInfo(path).exists() ? MachineProfile::fromFile(path, &read->faults)
-                                                     : MachineProfile::forSamples();
+        [read, path, isNeeded] {
+            read->profile = isNeeded || QFileInfo(path).exists()
+                                ? MachineProfile::fromFile(path, &read->faults)
+                                : MachineProfile::forSamples();
         },
         [this, read] { takeProfile(read->profile, read->faults); },
         [this] {

@@ -44,9 +44,9 @@ public:
     /// \a document must outlive the preview.
     explicit CoilPreview(QTextDocument *document, QObject *parent = nullptr);
 
-    /// Reads the machine's profile beside the event loop; without a file at \a path the samples'
-    /// machine counts.
-    void readProfile(const QString &path);
+    /// Reads the machine's profile beside the event loop. Without a file at \a path the samples'
+    /// machine counts, unless the file \a isNeeded: that it is missing is a fault then.
+    void readProfile(const QString &path, bool isNeeded = false);
     /// In the place of what a file says.
     void setProfile(const MachineProfile &profile);
     const MachineProfile &profile() const { return m_review.profile(); }

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void unknownLinesAreCounted();
     void aProfileIsReadFromItsFile();
     void withoutAFileTheSamplesMachineCounts();
+    void fileThatIsNeededHasToBeThere();
     void aProfileOfNonsenseIsTold();
     void aCompanionHearsEachReading();
     void aLongProgramGrowsBesideTheScreen();
@@ -235,6 +236,15 @@ void TestCoilPreview::withoutAFileTheSamplesMachineCounts()
     desk.preview.readProfile(home() + "/none.ini");
     QTRY_COMPARE(desk.preview.state(), CoilPreview::Winds);
     QVERIFY(told.isEmpty());
+}
+
+// The operator named it.
+void TestCoilPreview::fileThatIsNeededHasToBeThere()
+{
+    Desk desk;
+    desk.preview.readProfile(home() + "/none.ini", true);
+    QTRY_COMPARE(int(desk.preview.state()), int(CoilPreview::NoProfile));
+    QVERIFY(!desk.preview.profileFaults().isEmpty());
 }
 
 void TestCoilPreview::aProfileOfNonsenseIsTold()
