@@ -587,9 +587,12 @@ QVector<WindingPlotPoint> WindingModel::plot(Quantity quantity, Over over, int p
         const Span span = spanOf(record, quantity);
         const double at = placeOf(record, over);
         plot.addLine(before, value, at, span.end);
-        // What is kept together has its least and its most somewhere between.
-        plot.addValue(at, span.low);
-        plot.addValue(at, span.high);
+        // What is kept together has its least and its most somewhere between; one move has them at
+        // its ends, where the line is.
+        if (record.moves > 1) {
+            plot.addValue(at, span.low);
+            plot.addValue(at, span.high);
+        }
         before = at;
         value = span.end;
     }

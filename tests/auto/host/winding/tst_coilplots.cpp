@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aLongTimeIsInMinutes();
     void aPartHasMorePoints();
     void whatStaysIsALevelLine();
+    void theTraverseHasNoSpikes();
     void nothingWoundHasScalesAlone();
 };
 
@@ -125,6 +126,20 @@ void TestCoilPlots::whatStaysIsALevelLine()
         QVERIFY2(qAbs(way.x()) < 4 || qAbs(way.y()) < 0.5,
                  qPrintable(QString("%1 %2").arg(way.x()).arg(way.y())));
     }
+}
+
+// Where one move ends and the next one begins the guide is in one place.
+void TestCoilPlots::theTraverseHasNoSpikes()
+{
+    QByteArray text = "T2\nG00 X0.25 Y14 U5\nS300 M03\n";
+    for (int i = 1; i <= 8; ++i)
+        text += "G33 X" + QByteArray::number(i * 4) + " K0.5\n";
+    const QPolygonF traverse =
+        curve(drawn(SomeCoil::model(text + "M05\nM30\n"), plotScene(false)), D::Traverse);
+    QVERIFY(traverse.size() > 100);
+    for (int i = 2; i < traverse.size(); ++i)
+        QVERIFY2(qAbs(traverse.at(i).y() - traverse.at(i - 1).y()) < 5,
+                 qPrintable(QString::number(traverse.at(i).y() - traverse.at(i - 1).y())));
 }
 
 void TestCoilPlots::nothingWoundHasScalesAlone()
