@@ -22,7 +22,7 @@
 
 namespace {
 
-const int screens = 5;
+const int screens = 6;
 const int pressesEach = 60;
 const int patienceMs = 30000;
 const int paintPatienceMs = 3000;

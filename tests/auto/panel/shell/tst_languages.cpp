@@ -379,7 +379,7 @@ void TestLanguages::everythingFits()
         QCoreApplication::processEvents();
         if (menu)
             QTest::mouseClick(menu, Qt::LeftButton);
-        for (int screen = 0; screen < 5; ++screen) {
+        for (int screen = 0; screen < 6; ++screen) {
             if (screen > 0)
                 panel.window().showScreen(screen);
             QCoreApplication::processEvents();
