@@ -9,7 +9,7 @@
 
 //! [fill rows]
 /// Puts \a rows in place of what the list holds, its title left alone. Nothing is drawn before the
-/// last row is in, and only a page of row widgets is ever made: 100,000 rows take as long as it
+/// last row is in, and only a page of row widgets is ever made. So 100,000 rows take as long as it
 /// takes to copy their texts.
 inline void fillRows(TListWidget *list, const QList<QStringList> &rows)
 {

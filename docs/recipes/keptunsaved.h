@@ -11,8 +11,8 @@
 #include "wmmainwindow.h"
 
 //! [kept unsaved]
-/// Keeps what is not saved in \a folder, two seconds behind the operator, and offers at the next
-/// start what a power cut left there. A save counts once the guard has read it back.
+/// Keeps what is not saved in \a folder, two seconds behind the operator. Offers at the next start
+/// what a power cut left there. A save counts once the guard has read it back.
 inline UnsavedOffer *keepUnsaved(WMMainWindow *window, ProgramGuard *guard, const QString &folder,
                                  UnsavedWork *work, Questioner *questioner)
 {

@@ -10,7 +10,7 @@
 
 //! [safe download]
 /// The window's D/L button sends its program to the folder \a plcDir: the bytes that the operator
-/// has agreed to and no others, compared when they are there. \a copyDir is for private copies.
+/// has agreed to and no others. The copy is compared at the end. \a copyDir is for private copies.
 inline CheckedDownload *addDownload(ProgramGuard *guard, const QString &plcDir,
                                     const QString &copyDir, Questioner *questioner)
 {

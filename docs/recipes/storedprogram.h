@@ -13,10 +13,10 @@
 //! [stored program]
 /// A program as it lies in its file, beside the one that the editor shows.
 ///
-/// The two differ by design when a program of 500 lines or more has been opened: the editor holds
-/// it without comments and empty lines until it is stored again. They differ by an accident when
-/// the operator ended the loading halfway, when the disk was full on saving, or when the last
-/// changes were discarded.
+/// The two differ by design when a program of 500 lines or more has been opened: the editor has
+/// neither comments nor empty lines then. Storing the program ends that. They differ by an accident
+/// when the operator ended the loading halfway, when the disk was full, or when the last changes
+/// were discarded.
 class StoredProgram
 {
 public:

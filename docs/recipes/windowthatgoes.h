@@ -22,8 +22,9 @@ inline WMMainWindow *newWindowThatGoes(QWidget *parent, int rotation)
     return window;
 }
 
-/// Takes a window away at any moment, from an alarm or a timer too: it may be loading a program or
-/// waiting behind one of its dialogs just then, and `delete` would pull it away from under that.
+/// Takes a window away at any moment, from an alarm or a timer too. The window may be loading a
+/// program or waiting behind one of its dialogs just then. `delete` would pull the window away from
+/// under that.
 inline void takeAway(WMMainWindow *window)
 {
     window->hide();
