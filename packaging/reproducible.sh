@@ -5,7 +5,7 @@
 # reproducible.sh [--quick]
 #
 # Builds library and companion twice, from copies of the tree in two folders with names of different
-# length, without the compiler's cache, and fails unless all that is installed is equal, byte for byte.
+# length, without the compiler's cache. Fails unless all that is installed is equal, byte for byte.
 # With --quick nothing is optimised, which takes half the time: a path that gets in does so as well.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
