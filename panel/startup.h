@@ -13,8 +13,8 @@
 
 #include <memory>
 
-/// Brings about what the panel needs on its disks. That is the lock of its home, the program
-/// directory with the samples, the PLC's folder, the stick's samples, and an empty working
+/// Brings about what the panel needs on its disks. The panel needs the lock of its home, the
+/// program directory with the samples, the PLC's folder, the stick's samples, and an empty working
 /// directory.
 ///
 /// All of it is done beside the event loop. A disk that does not answer holds up the start for a

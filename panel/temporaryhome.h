@@ -9,8 +9,8 @@
 /// A home for a walk without an operator. The operator may have programs, which the walk would
 /// change.
 ///
-/// It is the process's home from now on, and goes with all that lies in it. It comes before the
-/// application object, which looks into the home.
+/// The folder is the process's home from now on, and goes with all that lies in it. This object
+/// comes before the application object, which looks into the home.
 class TemporaryHome
 {
 public:

@@ -29,7 +29,7 @@ QAbstractButton *ClickGate::button() const
 void ClickGate::shut()
 {
     if (m_isPassing || !m_hold) {
-        // For this one click. Its listeners may run an event loop in which there are others.
+        // For this one click. Listeners may run an event loop in which there are other clicks.
         m_isPassing = false;
         return;
     }

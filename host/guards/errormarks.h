@@ -25,8 +25,8 @@
 ///     marks->clear();
 ///
 /// A mark belongs to its line's text: lines that come and go above move it, a changed line keeps
-/// it. It goes with its line: one that undo brings back has no mark until it is marked anew.
-/// Another program starts without marks.
+/// its mark. A mark goes with its line: a line that undo brings back has no mark until it is marked
+/// anew. Another program starts without marks.
 ///
 /// The marks are drawn as extra selections behind those of the editor, as far as they are visible.
 /// So neither the text nor its formats nor what can be undone knows of them. On the current line a
@@ -47,8 +47,8 @@ public:
         QColor background;
     };
 
-    /// \a editor, a WGCodeEditer or any other, may go first: then nothing is marked any more. It
-    /// is given to one such object at the most.
+    /// \a editor, a WGCodeEditer or any other, may go first: then nothing is marked any more. An
+    /// editor is given to one such object at the most.
     explicit ErrorMarks(QPlainTextEdit *editor, QObject *parent = nullptr);
     ~ErrorMarks() override;
 

@@ -29,7 +29,7 @@ public:
     /// \a title as TListWidget takes it, kind first; empty makes a list without a title.
     explicit FittedList(const QStringList &title = QStringList(), QWidget *parent = nullptr);
 
-    /// The list, owned by this widget. Its setSize() and setTotalLine() are called from here.
+    /// The list, owned by this widget, which calls setSize() and setTotalLine() of the list.
     TListWidget *list() const { return m_list; }
 
 protected:

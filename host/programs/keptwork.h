@@ -44,7 +44,7 @@ struct FILARIX_HOST_EXPORT KeptWork
     KeptHead head;
     /// When the work was kept, in UTC.
     QDateTime time;
-    /// The text of a program. Its lines end in "\n", the last one in nothing.
+    /// The text of a program. Each line ends in "\n", the last one in nothing.
     QString text;
     /// The rows of a list.
     QList<QStringList> rows;

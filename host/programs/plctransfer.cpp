@@ -221,7 +221,7 @@ bool PlcTransfer::Task::takeOut()
             .arg(name()));
 }
 
-/// Both stages count alike.
+/// The two stages of a transfer count alike.
 int PlcTransfer::Task::percent() const
 {
     const double part = m_size == 0 ? 1.0 : double(m_position) / m_size;
@@ -263,7 +263,7 @@ void PlcTransfer::start(const QString &programPath, const QString &copyPath, con
     if (isRunning())
         return;
     m_task = std::make_shared<Task>(programPath, copyPath, m_dropDir, hash);
-    // It could take its name back from what is sent now, long after that was compared.
+    // The last download could take back the name of what is sent now, long after that was compared.
     if (m_work.hasChangeUnderWay())
         m_task->refuse(tr("The PLC has not said yet what became of the last download. Wait for it, "
                           "or switch the PLC off and on, then download once more."));

@@ -180,7 +180,7 @@ bool ProgramHistory::Scan::step()
         m_restless.append(name);
         break;
     case HistoryStore::Failed:
-        // One that went since it was listed is no failure.
+        // A program that went since the listing is no failure.
         if (QFileInfo(m_programDir.filePath(name)).exists())
             m_failures.insert(name, error);
         break;
@@ -303,7 +303,7 @@ bool ProgramHistory::Restore::replace()
                         .arg(m_version.name));
     if (!beginChange())
         return false;
-    // The last look. One that another name was given in between waits for the next step.
+    // The last look. A file that another name was given in between waits for the next step.
     const bool isHeld = m_store->holds(m_targetPath);
     const Swap swap = isHeld ? swapNames(m_halfPath, m_targetPath) : NotSwapped;
     const bool isTaken = isHeld && swap == NotSwapped && errno == EEXIST;

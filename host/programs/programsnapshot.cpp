@@ -235,7 +235,7 @@ int ProgramSnapshot::Task::percent() const
 void ProgramSnapshot::Task::close()
 {
     m_source.file().close();
-    // One that came too late for whoever wanted it goes, too.
+    // A copy that came too late for whoever wanted it goes, too.
     if (m_copy && (!m_isWhole || isGivenUp()))
         m_copy->remove();
 }

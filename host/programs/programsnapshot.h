@@ -21,9 +21,9 @@ struct FILARIX_HOST_EXPORT ProgramFacts
     /// SHA-256 of the bytes.
     QByteArray hash;
 
-    /// The first eight digits of the hash in groups of four: "3F2A 91C0". They are short enough to
-    /// be compared by eye, and the same as `sha256sum` shows on any PC. By accident two programs
-    /// share these digits once in four thousand million.
+    /// The first eight digits of the hash in groups of four: "3F2A 91C0". Eight digits are short
+    /// enough to be compared by eye, and `sha256sum` shows the same on any PC. By accident two
+    /// programs share these digits once in four thousand million.
     QString checksum() const { return checksum(hash); }
     static QString checksum(const QByteArray &hash);
 };
@@ -42,8 +42,8 @@ class FILARIX_HOST_EXPORT ProgramSnapshot : public QObject
 public:
     enum Verdict {
         Same,    ///< The program is what the copy is.
-        Changed, ///< It holds something else by now.
-        Gone     ///< It cannot be read any more.
+        Changed, ///< The file holds something else by now.
+        Gone     ///< The file cannot be read any more.
     };
 
     /// Bytes that move in one step.

@@ -46,13 +46,13 @@ public:
     };
 
     /// Looks in \a folder, the one that \a work keeps its work in. The host has \a work watch the
-    /// program and the rows that are named here before start(): what is brought back is kept by it.
-    /// Both \a work and \a questioner must outlive the offer.
+    /// program and the rows that are named here before start(): the work keeps what is brought
+    /// back. Both \a work and \a questioner must outlive the offer.
     UnsavedOffer(const QString &folder, UnsavedWork *work, Questioner *questioner,
                  QObject *parent = nullptr);
     ~UnsavedOffer() override;
 
-    /// The window gets its program back. It must outlive the offer.
+    /// The window gets its program back. The window must outlive the offer.
     void setProgram(const Program &program);
     /// The list gets its rows back, which are kept under the name \a subject. The list must outlive
     /// the offer.

@@ -28,7 +28,8 @@ public:
     virtual QString filePath() const { return QString(); }
 
     /// Shows \a rows of the file \a path as changes that are not stored. False, and nothing
-    /// changes, when the screen cannot show them. Both come from a file and may hold anything.
+    /// changes, when the screen cannot show them. Path and rows come from a file and may hold
+    /// anything.
     virtual bool bringBack(const QString &path, const QList<QStringList> &rows) = 0;
     /// What the operator calls the rows of the file \a path.
     virtual QString nameOf(const QString &path) const = 0;

@@ -15,8 +15,8 @@
 ///
 /// Each subject has a file that is written as a whole, and a journal behind it. A change of a long
 /// text is appended to the journal, and costs as much as the change is long. Reading leaves out
-/// what a power cut has torn at the journal's end. It leaves out a journal that belongs to an
-/// earlier file than the one beside it, too.
+/// what a power cut has torn at the journal's end. Reading also leaves out a journal that belongs
+/// to an earlier file than the one beside it.
 ///
 /// One caller at a time, in a FileThread. Nothing is made on the disk before there is work to keep.
 class FILARIX_HOST_EXPORT UnsavedStore

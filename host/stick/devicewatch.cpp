@@ -104,7 +104,8 @@ DeviceWatch::~DeviceWatch()
         delete m_looker;
         return;
     }
-    // One that a device keeps waiting goes when it is let go, or ends with the program.
+    // A looker that a device keeps waiting goes when the device lets it go, or ends with the
+    // program.
     connect(m_looker, SIGNAL(finished()), m_looker, SLOT(deleteLater()));
     if (m_looker->isFinished())
         m_looker->deleteLater();

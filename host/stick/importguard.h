@@ -20,8 +20,8 @@ class QMessageBox;
 class Questioner;
 struct Question;
 
-/// Stands between the operator and the import manager's commands. These hand file names to the
-/// shell as they are, and write and delete without a look at what gets lost.
+/// Stands between the operator and the import manager's commands. The commands hand file names to
+/// the shell as they are, and write and delete without a look at what gets lost.
 ///
 /// Each press on a transfer key of a manager waits, while the panel goes on, until both folders
 /// were looked at. Every name there has to be safe, and so have the chosen ones, which may be of a

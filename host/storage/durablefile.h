@@ -27,8 +27,8 @@ public:
     /// Removes a new file that was not committed.
     ~DurableFile();
 
-    /// Makes the new file beside the path, hidden. It gets the permissions and the owner of
-    /// \a model, if that is there; without a model, of what stands at the path.
+    /// Makes the new file beside the path, hidden. The file gets the permissions and the owner of
+    /// \a model, if that is there. Without a model it gets those of what stands at the path.
     bool open(const QString &model = QString());
     bool isOpen() const { return m_handle >= 0; }
     /// Appends to the new file; false when that fails, and without an open() that succeeded.

@@ -79,8 +79,8 @@ FileThread::~FileThread()
         delete m_thread;
         return;
     }
-    // To end a thread in the middle of a system call would take the program with it. It goes when
-    // it is let go, or ends with the program.
+    // To end a thread in the middle of a system call would take the program with it. The thread
+    // goes when the system lets it go, or ends with the program.
     connect(m_thread, SIGNAL(finished()), m_thread, SLOT(deleteLater()));
     if (m_thread->isFinished())
         m_thread->deleteLater();

@@ -24,7 +24,7 @@ public:
     typedef std::function<void()> Work;
 
     FileThread();
-    /// The piece of work in hand ends, those behind it are dropped, and so is every answer. One
+    /// The piece of work in hand ends, those behind it are dropped, and so is every answer. Work
     /// that hangs is left behind with its thread, at once after giveUp() and else after a moment.
     ~FileThread() override;
 

@@ -376,7 +376,7 @@ const GCodeBlock &readLine(const Character *text, int length, GCodeBlock *block)
     const bool isTooLong = length > BlockReader::longestLine;
     LineScanner<Character>(text, qMin(length, +BlockReader::longestLine), block).scan();
     if (isTooLong) {
-        // It has to be told, whatever else the line is full of.
+        // This fault has to be told, whatever else the line is full of.
         block->faultCount = qMin(block->faultCount, GCodeBlock::mostFaults - 1);
         BlockFault &fault = block->faults[block->faultCount++];
         fault.kind = BlockFault::LineTooLong;

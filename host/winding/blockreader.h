@@ -36,7 +36,7 @@ struct FILARIX_HOST_EXPORT BlockFault
         NumberMalformed,   ///< "1.2.3", "+-1", "-": the word is left out.
         NumberTooLarge,    ///< Beyond GCodeBlock::largestValue: the word is left out.
         CommentNotClosed,  ///< "(" without its ")".
-        TooManyWords,      ///< Those beyond GCodeBlock::mostWords are left out.
+        TooManyWords,      ///< Words beyond GCodeBlock::mostWords are left out.
         LineTooLong        ///< What is beyond BlockReader::longestLine is not read.
     };
 

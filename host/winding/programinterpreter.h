@@ -39,8 +39,8 @@ struct FILARIX_HOST_EXPORT WindingStep
 {
     /// In the program, from 1.
     int line = 0;
-    /// The move that is made: RapidMotion, FeedMotion or SynchronousMotion; Ignored for none. One
-    /// that is made to where everything stands already is one, too.
+    /// The move that is made: RapidMotion, FeedMotion or SynchronousMotion; Ignored for none. A
+    /// move to where everything stands already is one, too.
     MachineFunction::Action motion = MachineFunction::Ignored;
     double from[MachineAxis::slotCount] = {};
     double to[MachineAxis::slotCount] = {};

@@ -172,8 +172,8 @@ double WindingModel::spin(double seconds)
     return turns + std::fabs(m_target) / secondsPerMinute * (seconds - needed);
 }
 
-/// Lets so many turns pass, up to which the spindle follows its ramp; gives back the seconds. It is
-/// told to turn.
+/// Lets so many turns pass, up to which the spindle follows its ramp; gives back the seconds. The
+/// spindle is told to turn.
 double WindingModel::spinFor(double turns)
 {
     const double before = m_totals.seconds;
@@ -445,7 +445,7 @@ void WindingModel::addClosingTurn(WindingLayer *layer)
     layer->turns += closingTurn;
     m_totals.turns += closingTurn;
     m_totals.looseTurns -= std::min(closingTurn, m_standing);
-    // It was wound by what came last, at the latest.
+    // The move that came last has wound the turn, at the latest.
     if (!m_records.isEmpty())
         m_records.last().turns = m_totals.turns;
 }

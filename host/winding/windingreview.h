@@ -19,7 +19,7 @@
 ///     m_review.start(editor->document());
 ///
 /// Each start() ends in exactly one reviewed(), stopped() or failed(), never before start() has
-/// returned. One that comes while another is under way takes its place, and of the other nothing
+/// returned. A start() while a review is under way takes its place, and of the old review nothing
 /// more is told.
 class FILARIX_HOST_EXPORT WindingReview : public QObject
 {

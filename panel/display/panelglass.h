@@ -18,8 +18,9 @@ class TurnedPlatform;
 ///
 /// The program's windows, the library's dialogs, message boxes, keypads and popups are windows of
 /// the toolkit, and no window can be turned. So as long as the glass stands they are no windows of
-/// the platform. They live on a display of their own (TurnedPlatform), which paints them into one
-/// picture. The glass is the one window that the platform knows, and shows that picture turned.
+/// the platform. These windows live on a display of their own (TurnedPlatform), which paints them
+/// into one picture. The glass is the one window that the platform knows, and shows that picture
+/// turned.
 ///
 /// Mouse, touch and keys that reach the glass are turned back and go the toolkit's usual way from
 /// there. So modal dialogs, popups and the focus work as ever.
@@ -28,7 +29,7 @@ class TurnedPlatform;
 ///     PanelWindow panel(QSize(480, 800));
 ///     glass.present(&panel);                 // a window of 800 by 480
 ///
-/// The glass goes after the last widget that was shown on it. There can be one at a time.
+/// The glass goes after the last widget that was shown on it. There can be one glass at a time.
 class PanelGlass : public QRasterWindow
 {
     Q_OBJECT

@@ -8,9 +8,9 @@
 
 /// Lends a surface of another height to what is built meanwhile.
 ///
-/// The library makes rows a twenty-fourth of the surface's height. That is a thumb's height on a
-/// panel of 800 lines and a third of it on one of 272. A list that is built under a loan gets rows
-/// of the height lent; the host then shows as many of them as fit.
+/// The library makes rows a twenty-fourth of the surface's height. Such a row has a thumb's height
+/// on a panel of 800 lines and a third of that on one of 272. A list that is built under a loan
+/// gets rows of the height lent; the host then shows as many of them as fit.
 ///
 ///     const SurfaceLoan tall;
 ///     return new TListWidget(title, nullptr);

@@ -17,10 +17,10 @@ class GlassDisplay;
 /// The platform of the windows behind a PanelGlass.
 ///
 /// TurnedPlatform stands before the platform that the program runs on, from construction to
-/// destruction. It makes all windows but the glass, on a screen that is the toolkit's primary one
-/// meanwhile. That screen is the toolkit's own compositor, which stacks, activates and paints
-/// windows into one picture. The glass, and what is not about windows, stays with the platform
-/// behind.
+/// destruction. The class makes all windows but the glass, on a screen that is the toolkit's
+/// primary one meanwhile. That screen is the toolkit's own compositor, which stacks, activates and
+/// paints windows into one picture. The glass, and what is not about windows, stays with the
+/// platform behind.
 class TurnedPlatform : public QObject, public QPlatformIntegration
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ class ElidedLabel : public QLabel
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
-    /// Lines that the text may fill; one at first. Their height is to be given.
+    /// Lines that the text may fill; one at first. The caller gives the label their height.
     void setLines(int lines);
 
     QSize minimumSizeHint() const override;

@@ -26,7 +26,7 @@ struct Colours
     QRgb button;
     QRgb link;
     QRgb edge;
-    // Strips. They are dark in both styles, so that the content stands out.
+    // Strips are dark in both styles, so that the content stands out.
     QRgb strip;
     QRgb stripKey;
     QRgb stripKeyOff;

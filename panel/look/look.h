@@ -16,8 +16,9 @@ class QWidget;
 /// The one look of the host: its colours and the style sheets of its own strips, light or dark.
 ///
 /// Sheets are set on the host's own widgets only, never on the application or on a parent of a
-/// widget of the library. The library's rows and fields carry fixed sheets of their own. They stay
-/// black on white in the dark look, and so does the editor, whose words have fixed dark colours.
+/// widget of the library. The library's rows and fields carry fixed sheets of their own. Rows and
+/// fields stay black on white in the dark look. So does the editor, whose words have fixed dark
+/// colours.
 ///
 ///     Look::use(Look::Dark);
 ///     Look::dress(strip, Look::Strip);

@@ -240,7 +240,7 @@ void FilesScreen::pull()
     showState();
 }
 
-/// Its start script gives the panel a mount point and a marker of its own.
+/// The start script gives the panel a mount point and a marker of its own.
 void FilesScreen::tellRefusal(const QString &reason)
 {
     Q_EMIT told(reason + QLatin1Char(' ')

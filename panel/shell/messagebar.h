@@ -15,8 +15,8 @@ class PanelKey;
 class QProgressBar;
 class ToneMark;
 
-/// The place of the panel for what the log has to say, or for how long work goes on. Its key closes
-/// a message and stops work.
+/// The place of the panel for what the log has to say, or for how long work goes on. The key of the
+/// bar closes a message and stops work.
 ///
 /// The bar has a place of its own and lies over nothing. A text that is too long for it ends in
 /// three dots, so a touch on it is to show the whole one.

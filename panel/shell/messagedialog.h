@@ -11,8 +11,8 @@ class MessageLog;
 class QPushButton;
 class QScrollArea;
 
-/// The last messages in full with their times, the newest on top, a page at a time. Those that
-/// stand have the ground of their tone. It follows the log while it is open.
+/// The last messages in full with their times, the newest on top, a page at a time. Messages that
+/// stand have the ground of their tone. The dialog follows the log while it is open.
 class MessageDialog : public Dialog
 {
     Q_OBJECT

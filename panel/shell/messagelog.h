@@ -39,7 +39,7 @@ public:
     void closeAll();
 
     /// What is to be shown: an information that was just told, or the most urgent message that
-    /// stands, the newest one of several. Its text is empty when nothing stands.
+    /// stands, the newest one of several. The text is empty when nothing stands.
     Message current() const;
     /// Whether the message that was told last has been so for a few seconds at most, and stands.
     bool isFresh() const { return m_freshness.isActive(); }

@@ -28,14 +28,14 @@ class OrderlyEnd : public QObject
 public:
     typedef std::function<void()> Step;
 
-    /// Milliseconds after which no more dialogs are waited for. Their loops then end with the
-    /// program's, for which the QuestionKeeper is prepared.
+    /// Milliseconds after which no more dialogs are waited for. The loops of dialogs then end with
+    /// the program's, for which the QuestionKeeper is prepared.
     static const int patienceMs = 3000;
 
     explicit OrderlyEnd(QObject *parent = nullptr);
 
-    /// \a step runs once no question is open any more, behind those registered before. It may take
-    /// a second at the most: the system ends a program that does not end itself.
+    /// \a step runs once no question is open any more, behind those registered before. A step may
+    /// take a second at the most: the system ends a program that does not end itself.
     void beforeEnd(const Step &step) { m_steps.append(step); }
     bool isEnding() const { return m_isEnding; }
 

@@ -42,7 +42,7 @@ bool QuestionKeeper::eventFilter(QObject *watched, QEvent *event)
     QMessageBox *box = qobject_cast<QMessageBox *>(watched);
     if (!box)
         return false;
-    // By now exec() has set the result to 0. Its loop may end without a word to the box.
+    // By now exec() has set the result to 0. The loop of exec() may end without a word to the box.
     box->setResult(harmlessResult(box));
     connect(box, &QMessageBox::finished, this, &QuestionKeeper::settle, Qt::UniqueConnection);
     return false;

@@ -55,7 +55,7 @@ public:
     /// Where there is room, a \a roomy one names the things, and its clock shows seconds.
     explicit StatusStrip(bool roomy, QWidget *parent = nullptr);
 
-    /// Shows how that transfer goes. It must outlive the strip or be disconnected.
+    /// Shows how that transfer goes. The transfer must outlive the strip or be disconnected.
     void follow(const PlcTransfer *transfer);
 
     Plc plc() const;
