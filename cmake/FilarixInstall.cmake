@@ -91,6 +91,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   programs/programcomparison.h
   programs/programdirectory.h
   programs/programhistory.h
+  programs/programinspection.h
   programs/programkeeper.h
   programs/programname.h
   programs/programondisk.h
@@ -103,6 +104,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   programs/unsavedsession.h
   programs/unsavedstore.h
   programs/unsavedwork.h
+  programs/windinginspection.h
   stick/devicewatch.h
   stick/folderwatch.h
   stick/importguard.h
@@ -122,6 +124,10 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   storage/settingsfile.h
   storage/writeleave.h
   winding/blockreader.h
+  winding/coildrawing.h
+  winding/coilfigures.h
+  winding/coilframe.h
+  winding/coilpicture.h
   winding/finding.h
   winding/machineprofile.h
   winding/programcheck.h

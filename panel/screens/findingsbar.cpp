@@ -59,7 +59,7 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
     PanelKey *listKey = addKey(row, "findingList", Glyphs::List, [] { return tr("All"); });
     PanelKey *closeKey = addKey(row, "findingClose", Glyphs::Close, [] { return tr("Close"); });
 
-    connect(texts, &TapArea::touched, this, &FindingsBar::listWanted);
+    connect(texts, &TapArea::touched, this, &FindingsBar::touched);
     connect(m_backKey, &PanelKey::clicked, this, [this] { goTo(previous()); });
     connect(m_nextKey, &PanelKey::clicked, this, [this] { goTo(next()); });
     connect(listKey, &PanelKey::clicked, this, &FindingsBar::listWanted);

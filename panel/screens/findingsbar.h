@@ -17,8 +17,7 @@ class QHBoxLayout;
 class ToneMark;
 
 /// One finding of the check at a time, below the program that it is about: where it is, what it
-/// means and what to do. Keys lead to the next one and back; a touch on the text asks for all of
-/// them.
+/// means and what to do. Keys lead to the next one and back.
 class FindingsBar : public QWidget
 {
     Q_OBJECT
@@ -41,6 +40,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The operator wants to see \a line at \a column; both from 1.
     void placeWanted(int line, int column);
+    /// The operator touched the text, which may have no room.
+    void touched();
     void listWanted();
     void closeWanted();
 

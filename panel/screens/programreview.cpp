@@ -62,6 +62,11 @@ QString ProgramReview::summary() const
     }
     if (m_findings.isEmpty())
         return tr("Nothing found, by the rules of \"%1\".").arg(rules());
+    return counts();
+}
+
+QString ProgramReview::counts() const
+{
     return tr("Errors: %1, warnings: %2").arg(errors()).arg(warnings());
 }
 
@@ -93,13 +98,15 @@ std::shared_ptr<ProgramInspection> ProgramReview::inspect(const QString &path) c
 
 int ProgramReview::count(Finding::Severity severity) const
 {
-    return m_check ? m_check->count(severity) : 0;
+    return m_check && !m_isEmpty ? m_check->count(severity) : 0;
 }
 
 void ProgramReview::take()
 {
     m_check = m_next;
-    m_findings = m_check ? m_check->findings() : QVector<Finding>();
+    // Nobody has to end a program that is not begun.
+    m_isEmpty = m_preview->state() == CoilPreview::Empty;
+    m_findings = m_check && !m_isEmpty ? m_check->findings() : QVector<Finding>();
     mark();
     Q_EMIT changed();
 }

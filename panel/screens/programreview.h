@@ -41,6 +41,8 @@ public:
     int leftOut() const { return m_check ? m_check->leftOut() : 0; }
     /// A line for the operator: how many of each, or why nobody knows.
     QString summary() const;
+    /// How many of each there were at the last check.
+    QString counts() const;
     /// By which machine's rules: its name in the profile.
     QString rules() const;
 
@@ -67,6 +69,7 @@ private:
     std::shared_ptr<ProgramCheck> m_next;
     std::shared_ptr<ProgramCheck> m_check;
     QVector<Finding> m_findings;
+    bool m_isEmpty = false;
 };
 
 #endif // PROGRAMREVIEW_H

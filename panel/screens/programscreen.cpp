@@ -53,9 +53,10 @@ QSet<QToolButton *> buttonsWithoutParent()
     return buttons;
 }
 
-bool isNarrow()
+bool isSmall()
 {
-    return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+    const QSize panel = QGuiApplication::primaryScreen()->availableSize();
+    return qMin(panel.width(), panel.height()) < FilarixPanel::smallBelow;
 }
 
 /// The window has buttons that it puts into no bar and gives to nobody: \a spare takes them.
@@ -138,8 +139,16 @@ void ProgramScreen::setReview(const ProgramReview *review)
     m_findings = new FindingsBar(review);
     m_findings->hide();
     m_layout->addWidget(m_findings, 2, 0);
+    if (isSmall()) {
+        m_checkLine = new StateLine;
+        m_layout->addWidget(m_checkLine, 3, 0);
+        connect(m_checkLine, &StateLine::touched, this, [this] { showFindings(); });
+        connect(review, &ProgramReview::changed, this, &ProgramScreen::showCheck);
+    }
     m_download->setInspector([review](const QString &path) { return review->inspect(path); });
     connect(m_findings, &FindingsBar::placeWanted, this, &ProgramScreen::goTo);
+    connect(m_findings, &FindingsBar::touched, this,
+            [this] { Q_EMIT explained(m_findings->text()); });
     connect(m_findings, &FindingsBar::listWanted, this, &ProgramScreen::listFindings);
     connect(m_findings, &FindingsBar::closeWanted, this, [this] { showFindings(false); });
     connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &ProgramScreen::followCursor);
@@ -152,6 +161,19 @@ void ProgramScreen::showFindings(bool isWanted)
         m_checkKey->setChecked(isWanted);
     if (isWanted)
         followCursor();
+    showState();
+    showCheck();
+}
+
+// One line of the two at a time.
+void ProgramScreen::showCheck()
+{
+    if (!m_checkLine)
+        return;
+    const bool isFaulty = m_review->errors() > 0 || m_review->warnings() > 0;
+    const bool isWanted = isFaulty && m_findings->isHidden();
+    m_checkLine->show(isWanted ? m_review->counts() : QString(),
+                      m_review->errors() > 0 ? Message::Alarm : Message::Warning);
 }
 
 void ProgramScreen::followCursor()
@@ -182,7 +204,7 @@ void ProgramScreen::setBeside(QWidget *pane)
 {
     m_beside = pane;
     m_beside->setFixedWidth(besideWidth);
-    m_layout->addWidget(m_beside, 0, 1, 3, 1);
+    m_layout->addWidget(m_beside, 0, 1, 4, 1);
 }
 
 PlcTransfer *ProgramScreen::transfer() const
@@ -216,8 +238,7 @@ QList<PanelKey *> ProgramScreen::keys()
     connect(m_editor, &WGCodeEditer::undoAvailable, undoKey, &PanelKey::setEnabled);
     connect(m_editor, &WGCodeEditer::redoAvailable, redoKey, &PanelKey::setEnabled);
     QList<PanelKey *> keys{findKey, undoKey, redoKey};
-    // On a narrow panel the title needs the room; a touch on the strip's faults does the same.
-    if (m_findings && !isNarrow()) {
+    if (m_findings && !m_checkLine) {
         m_checkKey = new PanelKey(Glyphs::icon(Glyphs::Check), [] { return tr("Check"); });
         m_checkKey->setCheckable(true);
         connect(m_checkKey, &PanelKey::clicked, this, &ProgramScreen::showFindings);
@@ -292,7 +313,8 @@ bool ProgramScreen::waitForGuard()
 
 void ProgramScreen::showState()
 {
-    m_stateLine->show(m_guard->state().line(), m_guard->state().tone());
+    const bool hasRoom = !m_checkLine || m_findings->isHidden();
+    m_stateLine->show(hasRoom ? m_guard->state().line() : QString(), m_guard->state().tone());
 }
 
 bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
@@ -306,6 +328,7 @@ bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
 void ProgramScreen::retranslate()
 {
     showState();
+    showCheck();
     FindDialogFitter::retranslate();
 }
 

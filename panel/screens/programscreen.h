@@ -68,7 +68,8 @@ public:
 
 public Q_SLOTS:
     void stopWork() override;
-    /// Shows the findings of the check below the program, or hides them.
+    /// Shows the findings of the check below the program, or hides them. A small panel has no room
+    /// for the state of the program meanwhile.
     void showFindings(bool isWanted = true);
     /// Puts the cursor there, both from 1, in the middle of the editor.
     void goTo(int line, int column);
@@ -80,6 +81,7 @@ private:
     void insertTaughtPoint();
     void find();
     void showState();
+    void showCheck();
     void listFindings();
     void followCursor();
     bool save();
@@ -97,6 +99,8 @@ private:
     QWidget *m_beside = nullptr;
     const ProgramReview *m_review = nullptr;
     FindingsBar *m_findings = nullptr;
+    /// In the key's place where there is no room for one.
+    StateLine *m_checkLine = nullptr;
     PanelKey *m_checkKey = nullptr;
 };
 

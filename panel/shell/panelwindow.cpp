@@ -173,6 +173,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     Entry entry;
     entry.screen = screen;
     entry.tab = new PanelKey(icon, name);
+    entry.tab->setObjectName(QLatin1String("tab"));
     entry.tab->setCheckable(true);
     entry.tab->setAutoExclusive(true);
     entry.tab->setMinimumWidth(tabWidth);

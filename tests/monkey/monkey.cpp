@@ -338,12 +338,7 @@ void Monkey::touchTab(QWidget *tab)
 
 QList<PanelKey *> Monkey::tabs() const
 {
-    QList<PanelKey *> tabs = m_panel->findChildren<PanelKey *>();
-    for (int i = tabs.size() - 1; i >= 0; --i) {
-        if (!tabs.at(i)->autoExclusive())
-            tabs.removeAt(i);
-    }
-    return tabs;
+    return m_panel->findChildren<PanelKey *>(QLatin1String("tab"));
 }
 
 // Once, twice in the same place, or held.

@@ -39,6 +39,7 @@ struct Exception
 
 const Exception exceptionTable[] = {
     {Exception::Text, "title", "the name of a program; a touch tells it in full", anyWidth},
+    {Exception::Text, "findingText", "a touch on it shows it in full", anyWidth},
     {Exception::Text, "messageText", "a touch on it shows it in full", anyWidth},
     {Exception::Text, "fileState", "ends in a path; a touch shows it in full", anyWidth},
     {Exception::Text, "stateLine", "its numbers stand first; a touch shows it in full", anyWidth},

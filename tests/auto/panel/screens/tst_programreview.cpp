@@ -17,6 +17,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void rightProgramHasNoFindings();
+    void emptyProgramHasNoFindings();
     void findingsAreCountedAndMarked();
     void everyChangeIsCheckedAnew();
     void whatIsNotReadYetIsNotChecked();
@@ -77,6 +78,15 @@ void TestProgramReview::rightProgramHasNoFindings()
              QString("Nothing found, by the rules of \"%1\".").arg(m_review->rules()));
     QCOMPARE(m_review->rules(), MachineProfile::forSamples().name());
     QVERIFY(m_editor->extraSelections().isEmpty());
+}
+
+void TestProgramReview::emptyProgramHasNoFindings()
+{
+    make("; a title\n\n");
+    QVERIFY(m_review->findings().isEmpty());
+    QCOMPARE(m_review->errors() + m_review->warnings(), 0);
+    make("G21");
+    QVERIFY(!m_review->findings().isEmpty());
 }
 
 void TestProgramReview::findingsAreCountedAndMarked()

@@ -8,6 +8,7 @@
 #include "panelprogram.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
+#include "screens/programreview.h"
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -75,10 +76,11 @@ struct Panel
         QCOMPARE(program.start(), PanelProgram::Started);
         // What the machine's devices are says nothing of the languages, and changes meanwhile.
         program.deviceWatch()->disconnect();
-        // With all that their files hold.
+        // With all that their files hold, and with the program checked.
         const bool areFilled = TestCompat::waitFor([this] {
             return !program.teachScreen()->isLoading() && !program.variablesScreen()->isLoading()
-                   && !program.connectionsScreen()->isBusy();
+                   && !program.connectionsScreen()->isBusy()
+                   && program.programReview()->state() == ProgramReview::Checked;
         });
         QVERIFY(areFilled);
     }
