@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>Check</source>
-        <translation>Controllo</translation>
+        <translation>Verifica</translation>
     </message>
     <message>
         <source>Coil</source>

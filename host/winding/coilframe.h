@@ -4,13 +4,15 @@
 #ifndef COILFRAME_H
 #define COILFRAME_H
 
+#include "base/filarixhostglobal.h"
+
 #include <QPointF>
 #include <QRectF>
 
 /// How the things of a picture lie on its pixels: \a world, whose y grows upwards, fills \a area.
 ///
 ///     const QPointF millimetres = frame.toWorld(finger);
-struct CoilFrame
+struct FILARIX_HOST_EXPORT CoilFrame
 {
     /// The part of the picture in which things are drawn; around it stand the axes.
     QRectF area;

@@ -20,6 +20,7 @@ namespace {
 
 const int textPixels = 14;
 const int textLines = 3;
+const int narrowLines = 2;
 const int keyWidth = 46;
 const int sideMargin = 6;
 
@@ -35,12 +36,13 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
     QFont font = m_text->font();
     font.setPixelSize(textPixels);
     m_text->setFont(font);
-    m_text->setLines(textLines);
-    m_text->setMinimumHeight(textLines * m_text->fontMetrics().lineSpacing());
 
     // A narrow panel has the keys below the text.
     const bool isNarrow =
         QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+    const int lines = isNarrow ? narrowLines : textLines;
+    m_text->setLines(lines);
+    m_text->setMinimumHeight(lines * m_text->fontMetrics().lineSpacing());
     QBoxLayout *whole =
         new QBoxLayout(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
     whole->setContentsMargins(sideMargin, 2, 2, 2);

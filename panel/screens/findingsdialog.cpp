@@ -3,6 +3,7 @@
 
 #include "screens/findingsdialog.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 #include "look/paneltable.h"
 #include "look/tonemark.h"
@@ -24,9 +25,16 @@ namespace {
 
 const QSize roomy(720, 560);
 const int rowHeight = 44;
+// For four lines of text.
+const int narrowRowHeight = 72;
 const int textPixels = 14;
 const int margin = 6;
 const int signSide = 22;
+
+bool isNarrow()
+{
+    return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+}
 
 QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
 {
@@ -52,7 +60,7 @@ QIcon signOf(Finding::Severity severity)
 FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *parent)
     : Dialog(parent)
     , m_nearest(qMax(0, review->after(line - 1)))
-    , m_table(new PanelTable(0, 2, rowHeight))
+    , m_table(new PanelTable(0, 2, isNarrow() ? narrowRowHeight : rowHeight))
 {
     setTitle(tr("Check"));
     QLabel *head = new QLabel(review->summary());

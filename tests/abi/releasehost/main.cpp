@@ -160,7 +160,7 @@ void deriveFromTheCompanion()
     derive<ProgramHistory>("ProgramHistory", QDir::homePath(), homeFile("history"));
     derive<ProgramSnapshot>("ProgramSnapshot", homeFile("snapshots"));
     derive<PlcTransfer>("PlcTransfer", homeFile("plc"));
-    derive<ImportGuard>("ImportGuard", QDir::homePath(), homeFile("stick"));
+    derive<ImportGuard>("ImportGuard", QDir::homePath(), homeFile("stick"), &questioner);
     derive<UnsavedWork>("UnsavedWork", homeFile("unsaved"));
     derive<DurableFile>("DurableFile", homeFile("file"));
     derive<FileTaskRunner>("FileTaskRunner");
