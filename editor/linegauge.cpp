@@ -29,7 +29,7 @@ void LineGauge::measure(const QFont &font, QPaintDevice *device)
     m_font = font;
     m_dpi = device->logicalDpiY();
     m_metrics = QFontMetricsF(QFont(font, device));
-    std::fill(m_steps[0], m_steps[0] + (count + 1) * count, notMeasured);
+    std::fill(m_steps[0], m_steps[0] + sizeof m_steps / sizeof m_steps[0][0], notMeasured);
 }
 
 int LineGauge::width(const QChar *text, int size)

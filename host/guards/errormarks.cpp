@@ -96,7 +96,7 @@ ErrorMarks::~ErrorMarks()
 {
     m_marks.clear();
     // Owned by the editor, the marks go with it, when it is a bare widget.
-    if (qobject_cast<QPlainTextEdit *>(static_cast<QWidget *>(m_editor)))
+    if (qobject_cast<QPlainTextEdit *>(m_editor.data()))
         refresh();
 }
 
@@ -179,7 +179,7 @@ bool ErrorMarks::eventFilter(QObject *watched, QEvent *event)
 {
     // Whoever has replaced the extra selections, and whatever was scrolled: what is painted now has
     // the marks.
-    if (event->type() == QEvent::Paint && m_editor && watched == m_editor->viewport())
+    if (event->type() == QEvent::Paint && m_editor && watched == editor()->viewport())
         refresh();
     return QObject::eventFilter(watched, event);
 }
@@ -210,10 +210,10 @@ void ErrorMarks::refresh()
     if (!m_editor)
         return;
     followDocument();
-    const Selections all = m_editor->extraSelections();
+    const Selections all = editor()->extraSelections();
     const Selections wanted = visibleMarks();
     if (!areSame(filtered(all, true), wanted))
-        m_editor->setExtraSelections(filtered(all, false) + wanted);
+        editor()->setExtraSelections(filtered(all, false) + wanted);
 }
 
 /// The worst mark of \a row; -1 without one.
@@ -252,7 +252,7 @@ int ErrorMarks::rowAt(int index) const
 /// A host may give its editor another document.
 void ErrorMarks::followDocument()
 {
-    QTextDocument *document = m_editor ? m_editor->document() : nullptr;
+    QTextDocument *document = m_editor ? editor()->document() : nullptr;
     if (document == m_document)
         return;
     if (m_document)
@@ -296,7 +296,7 @@ void ErrorMarks::settle(int firstRow, int lastRow)
 ErrorMarks::Colours ErrorMarks::colours(Severity severity) const
 {
     const Colours &own = m_colours[severity];
-    return own.text.isValid() ? own : defaultColours(severity, m_editor->palette());
+    return own.text.isValid() ? own : defaultColours(severity, editor()->palette());
 }
 
 QTextEdit::ExtraSelection ErrorMarks::selection(const Mark &mark) const
@@ -310,7 +310,7 @@ QTextEdit::ExtraSelection ErrorMarks::selection(const Mark &mark) const
     selection.format.setProperty(ownProperty, int(mark.severity));
     const QTextBlock block = blockOf(m_document, mark.row);
     selection.cursor = QTextCursor(block);
-    const bool isCurrent = !m_editor->isReadOnly() && block == m_editor->textCursor().block();
+    const bool isCurrent = !editor()->isReadOnly() && block == editor()->textCursor().block();
     if (isCurrent && block.length() > 1) {
         selection.cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     } else {
@@ -326,9 +326,9 @@ ErrorMarks::Selections ErrorMarks::visibleMarks() const
     Selections selections;
     if (m_marks.isEmpty())
         return selections;
-    const QRect shown = m_editor->viewport()->rect();
-    const QTextBlock last = m_editor->cursorForPosition(shown.bottomLeft()).block();
-    QTextBlock block = m_editor->cursorForPosition(shown.topLeft()).block();
+    const QRect shown = editor()->viewport()->rect();
+    const QTextBlock last = editor()->cursorForPosition(shown.bottomLeft()).block();
+    QTextBlock block = editor()->cursorForPosition(shown.topLeft()).block();
     for (; block.isValid() && block.blockNumber() <= last.blockNumber(); block = block.next()) {
         const int found = find(block.blockNumber() + 1);
         if (found >= 0)
@@ -340,5 +340,5 @@ ErrorMarks::Selections ErrorMarks::visibleMarks() const
 void ErrorMarks::repaint()
 {
     if (m_editor)
-        m_editor->viewport()->update();
+        editor()->viewport()->update();
 }

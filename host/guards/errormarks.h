@@ -100,6 +100,7 @@ private:
     };
     struct Change;
 
+    QPlainTextEdit *editor() const { return static_cast<QPlainTextEdit *>(m_editor.data()); }
     int find(int row) const;
     int firstFrom(int row) const;
     int rowAt(int index) const;
@@ -111,7 +112,8 @@ private:
     Selections visibleMarks() const;
     void repaint();
 
-    QPointer<QPlainTextEdit> m_editor;
+    /// A QPlainTextEdit until it goes; then a QWidget for a moment yet.
+    QPointer<QWidget> m_editor;
     QPointer<QTextDocument> m_document;
     /// Made anew whenever the document is emptied as a whole.
     QPointer<QTextFrame> m_frame;

@@ -24,8 +24,8 @@ void takeWidths(QWidget *widget, const QWidget *model)
 {
     widget->setMinimumWidth(model->minimumWidth());
     widget->setMaximumWidth(model->maximumWidth());
-    const QObjectList own = widget->children();
-    const QObjectList others = model->children();
+    const QObjectList &own = widget->children();
+    const QObjectList &others = model->children();
     for (int i = 0; i < qMin(own.size(), others.size()); ++i) {
         if (own.at(i)->isWidgetType() && others.at(i)->isWidgetType())
             takeWidths(static_cast<QWidget *>(own.at(i)),
