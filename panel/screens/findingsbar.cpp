@@ -46,7 +46,7 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
     QBoxLayout *whole =
         new QBoxLayout(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
     whole->setContentsMargins(sideMargin, 2, 2, 2);
-    whole->setSpacing(4);
+    whole->setSpacing(isNarrow ? 0 : 4);
     TapArea *texts = new TapArea;
     QHBoxLayout *inside = new QHBoxLayout(texts);
     inside->setContentsMargins(0, 0, 0, 0);

@@ -13,7 +13,8 @@ export FILARIX_HANGING=$HOME/plc:/mnt/Storage FILARIX_HANG_SWITCH=/tmp/hang
 mkdir -p "$HOME/plc" "$HOME/cnc"
 awk 'BEGIN { for (i = 0; i < 100000; ++i) printf "N%d G01 X%d.5 F100\n", i, i % 90 }' \
     >"$HOME/cnc/long.cnc"
-awk 'BEGIN { for (i = 0; i < 300; ++i) printf "N%d G01 X%d.5 F100\n", i, i % 90 }' \
+# Without a fault, which would be asked about.
+awk 'BEGIN { for (i = 0; i < 300; ++i) printf "N%d G01 X%d.5 F100\n", i, i % 50; print "M30" }' \
     >"$HOME/cnc/short.cnc"
 
 for round in 1 2 3; do
