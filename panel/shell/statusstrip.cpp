@@ -226,10 +226,23 @@ QString StatusStrip::named(const QString &name, const QString &word) const
     return m_roomy ? name + QLatin1Char(' ') + word : word;
 }
 
+// Its word changes while the operator types, and nothing beside it may move.
+void StatusStrip::keepCheckWidth()
+{
+    if (!m_roomy)
+        return;
+    const QFontMetrics metrics = m_check->fontMetrics();
+    int widest = 0;
+    for (const QString &word : {dash(), tr("ok"), QString::fromLatin1("999")})
+        widest = qMax(widest, metrics.horizontalAdvance(named(tr("Check"), word)));
+    m_check->setMinimumWidth(glyphSide + glyphGap + widest + 1);
+}
+
 void StatusStrip::showCheck()
 {
     const QString name = tr("Check");
     const bool isFaulty = m_errors > 0 || m_warnings > 0;
+    keepCheckWidth();
     // On a small panel faults take the place of the clock, and there is no room for good news.
     m_check->setVisible(m_isCheckTold && (m_roomy || isFaulty));
     m_clock->setVisible(m_roomy || !isFaulty);

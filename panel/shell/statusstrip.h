@@ -86,6 +86,7 @@ private:
     void noteFailure(bool isPlcAtFault);
     void noteStop();
     void showAll();
+    void keepCheckWidth();
     void showCheck();
     void showPlc();
     void showStick();
