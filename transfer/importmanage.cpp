@@ -57,6 +57,19 @@ struct Selection
     QString name;
 };
 
+/// Whether \a path leads to the root folder. The older toolkit's cleanPath() leaves "/." as it is.
+bool isRoot(const QString &path)
+{
+    int depth = 0;
+    Q_FOREACH (const QString &part, path.split(QLatin1Char('/'), QString::SkipEmptyParts)) {
+        if (part == QLatin1String(".."))
+            depth = qMax(0, depth - 1);
+        else if (part != QLatin1String("."))
+            ++depth;
+    }
+    return path.startsWith(QLatin1Char('/')) && depth == 0;
+}
+
 } // namespace
 
 ImportManage::ImportManage(QWidget *parent)
@@ -184,7 +197,7 @@ int ImportManage::deleteFile(const QString &dir, const QString &name)
 {
     const QString path = join(dir, name);
     // What a tool of the system refuses here, the smaller ones of some panels would carry out.
-    if (QDir::cleanPath(path) == QLatin1String("/"))
+    if (isRoot(path))
         return runCommand("false");
     return runCommand("rm " + Compat::toAscii(path) + ' ' + "-rf");
 }
