@@ -149,7 +149,7 @@ void useTranslations()
           "the translations are where the package says");
     QCoreApplication::installTranslator(&german);
     const char text[] = "The download was stopped. The PLC keeps what it had.";
-    check(PlcTransfer::tr(text) != QLatin1String(text), "the companion speaks German");
+    check(CheckedDownload::tr(text) != QLatin1String(text), "the companion speaks German");
     QCoreApplication::removeTranslator(&german);
 }
 #endif
