@@ -6,6 +6,7 @@
 #include <base/questioner.h>
 #include <guards/finddialogkeypad.h>
 #include <guards/programguard.h>
+#include <programs/checkeddownload.h>
 #include <programs/plctransfer.h>
 #include <programs/programdirectory.h>
 #include <programs/programhistory.h>
