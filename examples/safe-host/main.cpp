@@ -140,6 +140,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QDir().mkpath(ProgramDirectory::path());
+    QDir().mkpath(QDir::home().filePath("plc"));
     SafeHost host(QDir::home().filePath("safe-host"), QDir::home().filePath("plc"));
     host.show();
     return application.exec();

@@ -37,7 +37,7 @@ class FILARIX_HOST_EXPORT ErrorMarks : public QObject
     Q_OBJECT
 
 public:
-    /// How bad it is. Where a line has several marks, the worst is shown.
+    /// How bad it is. Where lines with marks were joined, the worst is shown.
     enum Severity { Note, Warning, Error };
 
     /// What a marked line is drawn with.

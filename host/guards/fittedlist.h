@@ -19,8 +19,9 @@ class TListWidget;
 ///     taught->list()->addWidget(row, true, false);
 ///
 /// Rows and title are as wide as the place, and the page has as many rows as fit its height, one
-/// at the least. How high a row is, the list takes from the screen, as ever. An open row may push
-/// the foot of the page out of sight: the row that was touched is moved into view.
+/// at the least. It asks for no width: in a dock or a splitter give it a least one, 360 pixels,
+/// say. How high a row is, the list takes from the screen, as ever. An open row may push the foot
+/// of the page out of sight: the row that was touched is moved into view.
 class FILARIX_HOST_EXPORT FittedList : public QScrollArea
 {
     Q_OBJECT

@@ -31,8 +31,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// The operator changed row \a row, as the list counts them, the title being row 0 if there is
-    /// one. \a content is the whole row, kind first, as getContent() gives it now.
+    /// The operator entered a value, maybe the same, in \a row, as the list counts them; a title is
+    /// row 0. \a content is the whole row, kind first, as getContent() gives it now.
     void rowEdited(int row, const QStringList &content);
 
 private Q_SLOTS:

@@ -38,9 +38,9 @@ public:
     /// Makes the check of the program whose private copy is at \a path.
     typedef std::function<std::shared_ptr<ProgramInspection>(const QString &path)> Inspector;
 
-    /// Programs go to the folder \a plcDir, which may be missing until a download wants it. Copies
-    /// wait in \a copyDir, a folder for them alone, made if it is missing. \a questioner must
-    /// outlive this object.
+    /// Programs go to the folder \a plcDir, which is never made: without it a download fails.
+    /// Copies wait in \a copyDir, a folder for them alone, made if it is missing. \a questioner
+    /// must outlive this object.
     CheckedDownload(const QString &plcDir, const QString &copyDir, Questioner *questioner,
                     QObject *parent = nullptr);
 
