@@ -127,7 +127,9 @@ void FilarixTest::cleanup()
     deleteUnplacedButtons();
     QStringList stray;
     Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets()) {
-        if (!m_allowed.contains(widget) && (widget->isVisible() || isLost(widget)))
+        // Not by isVisible(): on X11 the older toolkit takes a window for visible for ever when it
+        // was hidden before the server had mapped it.
+        if (!m_allowed.contains(widget) && (!widget->isHidden() || isLost(widget)))
             stray.append(QLatin1String(widget->metaObject()->className()));
     }
     QVERIFY2(stray.isEmpty(),
