@@ -50,7 +50,7 @@ if grep -i hmidevice "$scratch/files"; then
     fail "the stand-in would get onto a panel"
 fi
 # What Yocto packs by itself, and the two lines of the recipe beyond that.
-unpacked=$(grep -vE '^\./usr/(lib/libFilarix(Module|Host)\.so|include/|lib/pkgconfig/|lib/cmake/|lib/qt5/mkspecs/|share/qt5/translations/)' \
+unpacked=$(grep -vE '^\./usr/(lib/libFilarix(Module|Host)\.so|include/|lib/pkgconfig/|lib/cmake/|lib/qt5/mkspecs/|share/(qt5/translations|doc)/)' \
     "$scratch/files" || true)
 [ -z "$unpacked" ] || fail "in none of Yocto's packages: $unpacked"
 
