@@ -61,9 +61,9 @@ for ((i = 1; i <= runs; ++i)); do
     panel=$!
     until_ms 60000 titled "New program" || { cat "$scratch/panel.log" >&2; exit 1; }
     shown=$(($(milliseconds) - began))
-    # The second tab; the panel answers once its screen is up.
+    # The tab of the taught program; the panel answers once its screen is up.
     touched() {
-        xdotool search --onlyvisible --name 'Winding panel' mousemove --window %1 130 25 click 1 \
+        xdotool search --onlyvisible --name 'Winding panel' mousemove --window %1 165 25 click 1 \
             && titled 'program.teach'
     }
     until_ms 60000 touched || { echo "The panel answers no touch." >&2; exit 1; }
