@@ -66,7 +66,7 @@ QList<Unsafe> unsafeIn(const QString &folder)
 /// A name may hold anything, line ends too. Two names may differ at the end alone.
 QString shown(const QString &fileName)
 {
-    const QString name = fileName.simplified();
+    QString name = fileName.simplified();
     if (name.size() <= lettersShown)
         return name;
     const QLatin1String gap("...");

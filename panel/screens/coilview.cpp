@@ -214,7 +214,7 @@ void CoilView::pinch(const QTouchEvent::TouchPoint &one, const QTouchEvent::Touc
 
 bool CoilView::touchEvent(QTouchEvent *event)
 {
-    const QList<QTouchEvent::TouchPoint> points = event->touchPoints();
+    const QList<QTouchEvent::TouchPoint> &points = event->touchPoints();
     if (event->type() == QEvent::TouchBegin)
         m_isPinched = false;
     if (event->type() == QEvent::TouchCancel) {
