@@ -60,6 +60,7 @@ QIcon signOf(Finding::Severity severity)
 FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *parent)
     : Dialog(parent)
     , m_nearest(qMax(0, review->after(line - 1)))
+    , m_findings(review->findings())
     , m_table(new PanelTable(0, 2, isNarrow() ? narrowRowHeight : rowHeight))
 {
     setTitle(tr("Check"));
@@ -67,9 +68,8 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     head->setObjectName(QLatin1String("summary"));
     head->setWordWrap(true);
     if (review->leftOut() > 0)
-        head->setText(tr("%1. The first %2 are listed.")
-                          .arg(review->summary())
-                          .arg(review->findings().size()));
+        head->setText(
+            tr("%1. The first %2 are listed.").arg(review->summary()).arg(m_findings.size()));
     QFont font = m_table->font();
     font.setPixelSize(textPixels);
     m_table->setFont(font);
@@ -104,7 +104,7 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     const QScrollBar *bar = m_table->verticalScrollBar();
     connect(bar, &QScrollBar::valueChanged, this, &FindingsDialog::showState);
     connect(bar, &QScrollBar::rangeChanged, this, &FindingsDialog::showState);
-    fill(review);
+    fill();
     resize(roomy.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 8)));
 }
 
@@ -129,13 +129,12 @@ void FindingsDialog::showEvent(QShowEvent *event)
     m_table->scrollTo(m_table->model()->index(m_nearest, 0), QAbstractItemView::PositionAtTop);
 }
 
-void FindingsDialog::fill(const ProgramReview *review)
+void FindingsDialog::fill()
 {
-    const QVector<Finding> &findings = review->findings();
-    m_table->setRowCount(findings.size());
+    m_table->setRowCount(m_findings.size());
     const QIcon signs[] = {signOf(Finding::Note), signOf(Finding::Warning), signOf(Finding::Error)};
-    for (int row = 0; row < findings.size(); ++row) {
-        const Finding &finding = findings.at(row);
+    for (int row = 0; row < m_findings.size(); ++row) {
+        const Finding &finding = m_findings.at(row);
         m_table->setItem(
             row, 0, new QTableWidgetItem(signs[finding.severity], QString::number(finding.line)));
         m_table->setItem(row, 1, new QTableWidgetItem(finding.text()));

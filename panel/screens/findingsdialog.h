@@ -8,6 +8,8 @@
 #include "dialog.h"
 #include "winding/finding.h"
 
+#include <QVector>
+
 class PanelTable;
 class ProgramReview;
 class QPushButton;
@@ -25,18 +27,21 @@ public:
 
     /// The index of the finding that was chosen; -1 while none is.
     int finding() const { return m_finding; }
+    /// That finding, whatever the review has found since. Only when one was chosen.
+    const Finding &chosen() const { return m_findings.at(m_finding); }
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void fill(const ProgramReview *review);
+    void fill();
     void choose(int row);
     void turn(int pages);
     void showState();
 
     /// The row of the finding at the operator's line, or of the next one.
     const int m_nearest;
+    const QVector<Finding> m_findings;
     PanelTable *m_table;
     QPushButton *m_backKey;
     QPushButton *m_forthKey;

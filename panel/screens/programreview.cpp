@@ -91,6 +91,16 @@ int ProgramReview::before(int line) const
     return -1;
 }
 
+int ProgramReview::indexOf(const Finding &finding) const
+{
+    const auto isSame = [&finding](const Finding &other) {
+        return other.kind == finding.kind && other.line == finding.line
+               && other.column == finding.column;
+    };
+    const auto found = std::find_if(m_findings.begin(), m_findings.end(), isSame);
+    return found == m_findings.end() ? -1 : int(found - m_findings.begin());
+}
+
 std::shared_ptr<ProgramInspection> ProgramReview::inspect(const QString &path) const
 {
     return std::make_shared<WindingInspection>(path, m_preview->profile());
@@ -98,15 +108,15 @@ std::shared_ptr<ProgramInspection> ProgramReview::inspect(const QString &path) c
 
 int ProgramReview::count(Finding::Severity severity) const
 {
-    return m_check && !m_isEmpty ? m_check->count(severity) : 0;
+    return m_check && !m_isSilent ? m_check->count(severity) : 0;
 }
 
 void ProgramReview::take()
 {
     m_check = m_next;
-    // Nobody has to end a program that is not begun.
-    m_isEmpty = m_preview->state() == CoilPreview::Empty;
-    m_findings = m_check && !m_isEmpty ? m_check->findings() : QVector<Finding>();
+    // Without rules each word would be a fault, and nobody has to end a program that is not begun.
+    m_isSilent = state() == Off || m_preview->state() == CoilPreview::Empty;
+    m_findings = m_check && !m_isSilent ? m_check->findings() : QVector<Finding>();
     mark();
     Q_EMIT changed();
 }
@@ -115,8 +125,6 @@ void ProgramReview::take()
 void ProgramReview::mark()
 {
     m_marks.clear();
-    if (state() == Off)
-        return;
     QVector<Finding> sorted = m_findings;
     std::stable_sort(sorted.begin(), sorted.end(), [](const Finding &one, const Finding &other) {
         return one.severity < other.severity;

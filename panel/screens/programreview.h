@@ -38,7 +38,7 @@ public:
     int errors() const { return count(Finding::Error); }
     int warnings() const { return count(Finding::Warning); }
     /// Findings that were counted and not kept.
-    int leftOut() const { return m_check ? m_check->leftOut() : 0; }
+    int leftOut() const { return m_check && !m_isSilent ? m_check->leftOut() : 0; }
     /// A line for the operator: how many of each, or why nobody knows.
     QString summary() const;
     /// How many of each there were at the last check.
@@ -50,6 +50,8 @@ public:
     /// when there is none.
     int after(int line) const;
     int before(int line) const;
+    /// The index of a finding of an earlier moment; -1 when it is gone, or moved.
+    int indexOf(const Finding &finding) const;
 
     /// A check of the file at \a path by the same rules, for a download.
     std::shared_ptr<ProgramInspection> inspect(const QString &path) const;
@@ -69,7 +71,8 @@ private:
     std::shared_ptr<ProgramCheck> m_next;
     std::shared_ptr<ProgramCheck> m_check;
     QVector<Finding> m_findings;
-    bool m_isEmpty = false;
+    /// There is nothing to say: no rules, or no program.
+    bool m_isSilent = false;
 };
 
 #endif // PROGRAMREVIEW_H

@@ -185,8 +185,14 @@ void ProgramScreen::listFindings()
 {
     FindingsDialog dialog(m_review, m_editor->textCursor().blockNumber() + 1);
     dialog.exec();
-    if (dialog.finding() >= 0 && dialog.finding() < m_review->findings().size())
-        m_findings->goTo(dialog.finding());
+    if (dialog.finding() < 0)
+        return;
+    // The program may have been checked again meanwhile.
+    const int index = m_review->indexOf(dialog.chosen());
+    if (index >= 0)
+        m_findings->goTo(index);
+    else
+        goTo(dialog.chosen().line, dialog.chosen().column);
 }
 
 void ProgramScreen::goTo(int line, int column)

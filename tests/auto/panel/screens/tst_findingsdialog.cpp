@@ -24,6 +24,7 @@ private Q_SLOTS:
     void cleanup();
     void allFindingsAreListed();
     void touchChoosesAFinding();
+    void choiceIsWhatWasShown();
     void opensWhereTheOperatorIs();
     void nothingFoundIsSaid();
     void whatIsLeftOutIsTold();
@@ -101,6 +102,19 @@ void TestFindingsDialog::touchChoosesAFinding()
     QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.finding(), 2);
+}
+
+// However often the program is checked while the dialog is open.
+void TestFindingsDialog::choiceIsWhatWasShown()
+{
+    make(faulty(20));
+    FindingsDialog dialog(m_review.data(), 1);
+    dialog.show();
+    make("M30");
+    QTableWidget *rows = table(dialog);
+    const QRect cell = rows->visualItemRect(rows->item(2, 1));
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    QCOMPARE(dialog.chosen().line, 3);
 }
 
 void TestFindingsDialog::opensWhereTheOperatorIs()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void everyChangeIsCheckedAnew();
     void whatIsNotReadYetIsNotChecked();
     void faultyProfileChecksNothing();
+    void findingIsFoundAgain();
     void nextAndPreviousGoByLines();
     void fileIsInspectedByTheSameRules();
     void reviewMayEndWhileItReads();
@@ -132,7 +133,21 @@ void TestProgramReview::faultyProfileChecksNothing()
     m_preview->readProfile(path);
     QTRY_COMPARE(int(m_review->state()), int(ProgramReview::Off));
     QCOMPARE(m_review->summary(), QString("No check: the machine's profile has a fault."));
-    QTRY_VERIFY(m_editor->extraSelections().isEmpty());
+    QTRY_VERIFY(m_preview->isCurrent());
+    QCOMPARE(m_review->errors() + m_review->warnings(), 0);
+    QVERIFY(m_review->findings().isEmpty());
+    QVERIFY(m_editor->extraSelections().isEmpty());
+}
+
+void TestProgramReview::findingIsFoundAgain()
+{
+    make(faultyProgram());
+    const Finding first = m_review->findings().at(0);
+    const Finding last = m_review->findings().at(1);
+    QCOMPARE(m_review->indexOf(last), 1);
+    make(QString(rightProgram).replace("K0.25", "K0.25 Q2"));
+    QCOMPARE(m_review->indexOf(last), 0);
+    QCOMPARE(m_review->indexOf(first), -1);
 }
 
 void TestProgramReview::nextAndPreviousGoByLines()
