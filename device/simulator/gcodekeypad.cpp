@@ -9,19 +9,35 @@ namespace {
 
 typedef KeypadDialog<GCodeKeypad> GCodeDialog;
 
-// N is for line numbers.
-const char *const keys[] = {"G      M      S     T     7     8     9     back  back",
-                            "X      Y      Z     F     4     5     6     clear clear",
-                            "U      V      W     N     1     2     3     left  right",
-                            "I      J      K     ;     -     0     .     ok    ok",
-                            "cancel cancel space space space space space ok    ok",
+// N is for line numbers. The key "next" is there when the caller allows it, and OK has its place
+// otherwise.
+const char *const keys[] = {"G      M      S    T    7     8     9     back  back",
+                            "X      Y      Z    F    4     5     6     clear clear",
+                            "U      V      W    N    1     2     3     left  right",
+                            "I      J      K    ;    -     0     .     next  next",
+                            "cancel cancel page page space space space ok    ok",
                             nullptr};
 
 const char *const narrowKeys[] = {
-    "G      M      S      T     F     back",  "X      Y      Z      I     J     K",
-    "U      V      W      N     left  right", "7      8      9      ;     clear clear",
-    "4      5      6      .     space space", "1      2      3      0     -     -",
-    "cancel cancel cancel ok    ok    ok",    nullptr};
+    "G      M      S    T    F     back",  "X      Y      Z    I    J     K",
+    "U      V      W    N    left  right", "7      8      9    ;    clear clear",
+    "4      5      6    .    space space", "1      2      3    0    -     page",
+    "cancel cancel next next ok    ok",    nullptr};
+
+// The letters that few lines need, and the text of a comment.
+const char *const textKeys[] = {"1      2      3    4    5     6     7     8    9    0     back",
+                                "Q      W      E    R    T     Y     U     I    O    P     -",
+                                "A      S      D    F    G     H     J     K    L    ;     .",
+                                "small  Z      X    C    V     B     N     M    ,    clear clear",
+                                "cancel cancel page left space space right next next ok    ok",
+                                nullptr};
+
+const char *const narrowTextKeys[] = {
+    "1      2      3    4     5     6",     "7      8      9    0     -     back",
+    "A      B      C    D     E     F",     "G      H      I    J     K     L",
+    "M      N      O    P     Q     R",     "S      T      U    V     W     X",
+    "Y      Z      ;    .     clear clear", "small  page   ,    space left  right",
+    "cancel cancel next next  ok    ok",    nullptr};
 
 } // namespace
 
@@ -31,7 +47,10 @@ GCodeKeypad::~GCodeKeypad() = default;
 
 GCodeKeypad *GCodeKeypad::instance()
 {
-    const KeypadFace face = {keys, narrowKeys, 38, QSize(88, 72), false};
+    KeypadFace face(keys, narrowKeys, 38, QSize(88, 72), false);
+    face.wideText = textKeys;
+    face.narrowText = narrowTextKeys;
+    face.forWords = true;
     return GCodeDialog::instance(face);
 }
 

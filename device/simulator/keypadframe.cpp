@@ -36,6 +36,10 @@ const QRgb reasonColour = 0xffff9d8a;
 const char letters[] = "qwertyuiopasdfghjklzxcvbnm";
 const char symbols[] = "!#$%&()+=@[]{}~^,;':/\\?*<>";
 
+// What a caller's object says and hears beside the text.
+const char nextLineProperty[] = "hmiNextLine";
+const char nextLineChosenProperty[] = "hmiNextLineChosen";
+
 /// The heights above the keys, and the space between all, for a keypad of some size and number of
 /// rows.
 struct Measures
@@ -97,7 +101,10 @@ const NamedKey KeypadFrame::namedKeys[] = {
     {"sign",    QT_TR_NOOP("+/-"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::toggleSign},
     {"shift",   QT_TR_NOOP("Shift"),        KeyButton::ShiftGlyph,     KeyButton::EditingRole, false, &KeypadFrame::turnShift},
     {"symbols", QT_TR_NOOP("#+="),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnSymbols},
+    {"page",    QT_TR_NOOP("ABC"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnPage},
+    {"small",   QT_TR_NOOP("abc"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnCapitals},
     {"cancel",  QT_TR_NOOP("Cancel"),       KeyButton::NoGlyph,        KeyButton::CancelRole,  false, &KeypadFrame::reject},
+    {"next",    QT_TR_NOOP("OK, next line"), KeyButton::NoGlyph,       KeyButton::AcceptRole,  false, &KeypadFrame::acceptForNextLine},
     {"ok",      QT_TR_NOOP("OK"),           KeyButton::NoGlyph,        KeyButton::AcceptRole,  false, &KeypadFrame::accept},
 };
 // clang-format on
@@ -109,6 +116,7 @@ KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
     , m_limit(new KeypadLabel(QLatin1String("limit"), KeypadLabel::Elide, this))
     , m_reason(new KeypadLabel(QLatin1String("reason"), KeypadLabel::Wrap, this))
     , m_edit(new ValueEdit(this))
+    , m_firstRows(face.wide)
 {
     m_oldValue->setColour(QColor(oldValueColour));
     m_limit->setColour(QColor(limitColour));
@@ -118,7 +126,7 @@ KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
     if (m_face.forNumbers)
         m_edit->setAttribute(Qt::WA_InputMethodEnabled, false);
     connect(m_edit, SIGNAL(textChanged(QString)), SLOT(check()));
-    useLayout(KeypadLayout(m_face.wide));
+    useLayout(layoutOf(m_firstRows));
 }
 
 void KeypadFrame::setText(const QString &text)
@@ -142,15 +150,21 @@ void KeypadFrame::setValidator(const QValidator *validator)
 
 QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
 {
-    const KeypadLayout wide(m_face.wide);
-    const KeypadLayout narrow(m_face.narrow);
-    const bool fits = keyWidth(wide, screen.size()) >= m_face.narrowestKey;
-    const KeypadLayout &layout = fits ? wide : narrow;
+    m_mayGoOn = m_request.object && m_request.object->property(nextLineProperty).toBool();
+    // A second page has more columns and rows than the first one, and takes the same place.
+    const KeypadLayout widest = layoutOf(m_face.wideText ? m_face.wideText : m_face.wide);
+    const bool fits = keyWidth(widest, screen.size()) >= m_face.narrowestKey;
+    m_firstRows = fits ? m_face.wide : m_face.narrow;
+    m_textRows = fits ? m_face.wideText : m_face.narrowText;
+    m_isText = false;
+    const KeypadLayout layout = layoutOf(m_firstRows);
     useLayout(layout);
     if (screen.height() < lowScreen)
         return screen;
 
-    const QSize smallest = sizeOf(layout, QSize(fingerSize, fingerSize));
+    const QSize finger(fingerSize, fingerSize);
+    const KeypadLayout largest = layoutOf(m_textRows ? m_textRows : m_firstRows);
+    const QSize smallest = sizeOf(layout, finger).expandedTo(sizeOf(largest, finger));
     const QSize wanted = (wish.isEmpty() ? sizeOf(layout, m_face.keySize) : wish)
                              .expandedTo(smallest)
                              .boundedTo(sizeOf(layout, largestKey));
@@ -164,6 +178,7 @@ void KeypadFrame::begin()
 {
     m_shift = ShiftOff;
     m_symbols = false;
+    m_isSmall = false;
     labelKeys();
     showOldValue();
 
@@ -189,6 +204,8 @@ bool KeypadFrame::isAcceptable() const
 
 void KeypadFrame::deliver()
 {
+    if (m_request.object && m_isGoingOn)
+        m_request.object->setProperty(nextLineChosenProperty, true);
     if (m_request.object)
         m_request.object->setProperty("text", m_edit->text());
 }
@@ -237,7 +254,7 @@ void KeypadFrame::check()
     const QString refusal = KeypadCheck::refusal(m_request.validator, m_edit->text());
     m_reason->setText(refusal);
     Q_FOREACH (KeyButton *key, m_keys) {
-        if (key->token() == QLatin1String("ok"))
+        if (key->token() == QLatin1String("ok") || key->token() == QLatin1String("next"))
             key->setEnabled(refusal.isEmpty());
         else if (key->token() == QLatin1String("."))
             key->setEnabled(m_request.pointEnabled);
@@ -254,15 +271,22 @@ QSize KeypadFrame::sizeOf(const KeypadLayout &layout, const QSize &key) const
                  cells.height() * (key.height() + measures.gap) + measures.header());
 }
 
+KeypadLayout KeypadFrame::layoutOf(const char *const *rows) const
+{
+    return KeypadLayout(rows, QLatin1String(m_mayGoOn ? "" : "next"), QLatin1String("ok"));
+}
+
 void KeypadFrame::useLayout(const KeypadLayout &layout)
 {
-    if (!m_keys.isEmpty() && layout.cells() == m_layout.cells())
-        return;
-    qDeleteAll(m_keys);
-    m_keys.clear();
     m_layout = layout;
-    Q_FOREACH (const PlacedKey &placed, m_layout.keys())
-        m_keys.append(addKey(placed.token));
+    m_keys.clear();
+    Q_FOREACH (const PlacedKey &placed, m_layout.keys()) {
+        if (!m_allKeys.contains(placed.token))
+            m_allKeys.insert(placed.token, addKey(placed.token));
+        m_keys.append(m_allKeys.value(placed.token));
+    }
+    Q_FOREACH (KeyButton *key, m_allKeys)
+        key->setVisible(m_keys.contains(key));
     labelKeys();
 }
 
@@ -277,7 +301,6 @@ KeyButton *KeypadFrame::addKey(const QString &token)
     key->setAutoRepeatDelay(repeatDelay);
     key->setAutoRepeatInterval(repeatInterval);
     connect(key, SIGNAL(clicked()), SLOT(keyClicked()));
-    key->setVisible(true);
     return key;
 }
 
@@ -330,11 +353,17 @@ QString KeypadFrame::labelOf(const KeyButton *key) const
     const QString token = key->token();
     if (token == QLatin1String("symbols") && m_symbols)
         return tr("abc");
+    if (token == QLatin1String("page") && m_isText)
+        return tr("GXY");
+    if (token == QLatin1String("small") && m_isSmall)
+        return tr("ABC");
     if (const NamedKey *named = namedKey(token))
         return tr(named->label);
     const int letter = QString::fromLatin1(letters).indexOf(token);
     if (m_symbols && letter >= 0)
         return QString(QLatin1Char(symbols[letter]));
+    if (m_isSmall)
+        return token.toLower();
     return m_shift == ShiftOff ? token : token.toUpper();
 }
 
@@ -348,9 +377,21 @@ void KeypadFrame::showOldValue()
     m_limit->setVisible(!m_limit->text().isEmpty());
 }
 
+/// A letter or a comment right behind a number; within a comment there are no words.
+bool KeypadFrame::beginsWord(const QString &text) const
+{
+    const QString before = m_edit->text().left(m_edit->cursorPosition());
+    if (m_edit->hasSelectedText() || before.isEmpty() || before.contains(QLatin1Char(';'))
+        || before.contains(QLatin1Char('(')))
+        return false;
+    const QChar last = before.at(before.length() - 1);
+    const bool isBehindNumber = last.isDigit() || last == QLatin1Char('.');
+    return isBehindNumber && (text.at(0).isLetter() || text == QLatin1String(";"));
+}
+
 void KeypadFrame::typeKey(const QString &text)
 {
-    m_edit->type(text);
+    m_edit->type(m_face.forWords && beginsWord(text) ? QLatin1Char(' ') + text : text);
     if (m_shift == ShiftOnce && text.at(0).isLetter()) {
         m_shift = ShiftOff;
         labelKeys();
@@ -400,9 +441,32 @@ void KeypadFrame::turnSymbols()
     check();
 }
 
+void KeypadFrame::turnPage()
+{
+    m_isText = !m_isText;
+    m_isSmall = false;
+    useLayout(layoutOf(m_isText ? m_textRows : m_firstRows));
+    arrange();
+    check();
+}
+
+void KeypadFrame::turnCapitals()
+{
+    m_isSmall = !m_isSmall;
+    labelKeys();
+}
+
 void KeypadFrame::accept()
 {
     Q_EMIT accepted();
+}
+
+/// The text is delivered while the signal is emitted.
+void KeypadFrame::acceptForNextLine()
+{
+    m_isGoingOn = true;
+    Q_EMIT accepted();
+    m_isGoingOn = false;
 }
 
 void KeypadFrame::reject()

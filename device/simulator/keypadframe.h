@@ -6,6 +6,7 @@
 
 #include "keypadlayout.h"
 
+#include <QHash>
 #include <QPointer>
 #include <QValidator>
 #include <QWidget>
@@ -28,6 +29,15 @@ struct KeypadRequest
 /// What makes one keypad differ from the others.
 struct KeypadFace
 {
+    KeypadFace(const char *const *wideLayout, const char *const *narrowLayout, int narrowest,
+               const QSize &key, bool takesNumbers)
+        : wide(wideLayout)
+        , narrow(narrowLayout)
+        , narrowestKey(narrowest)
+        , keySize(key)
+        , forNumbers(takesNumbers)
+    {}
+
     /// The layout, and the one for a screen on which the keys of the first would be too narrow.
     const char *const *wide;
     const char *const *narrow;
@@ -37,6 +47,11 @@ struct KeypadFace
     /// Only numbers are typed: the old value is selected, so that typing replaces it, and a comma
     /// is a decimal point.
     bool forNumbers;
+    /// The second page, which the key "page" turns to; null for a keypad of one page.
+    const char *const *wideText = nullptr;
+    const char *const *narrowText = nullptr;
+    /// Words of a letter and a number are typed: a new one stands apart from the one before.
+    bool forWords = false;
 };
 
 /// The inside of a keypad: the old value, the limits, the value that is typed and why it can't be
@@ -83,6 +98,7 @@ private Q_SLOTS:
 private:
     enum Shift { ShiftOff, ShiftOnce, ShiftLocked };
 
+    KeypadLayout layoutOf(const char *const *rows) const;
     QSize sizeOf(const KeypadLayout &layout, const QSize &key) const;
     void useLayout(const KeypadLayout &layout);
     KeyButton *addKey(const QString &token);
@@ -90,6 +106,7 @@ private:
     void labelKeys();
     QString labelOf(const KeyButton *key) const;
     void showOldValue();
+    bool beginsWord(const QString &text) const;
 
     void typeKey(const QString &text);
     void backspace();
@@ -100,7 +117,10 @@ private:
     void toggleSign();
     void turnShift();
     void turnSymbols();
+    void turnPage();
+    void turnCapitals();
     void accept();
+    void acceptForNextLine();
     void reject();
 
     static const NamedKey namedKeys[];
@@ -108,7 +128,10 @@ private:
 
     KeypadFace m_face;
     KeypadLayout m_layout;
+    /// Those of the page that is shown, in the order of its layout.
     QList<KeyButton *> m_keys;
+    /// All that were made so far, by token: a page that was shown may come again.
+    QHash<QString, KeyButton *> m_allKeys;
     KeypadLabel *m_oldValue;
     KeypadLabel *m_limit;
     KeypadLabel *m_reason;
@@ -117,6 +140,14 @@ private:
     KeypadRequest m_request;
     Shift m_shift = ShiftOff;
     bool m_symbols = false;
+    /// The layouts of both pages on this screen, and which of them is shown.
+    const char *const *m_firstRows;
+    const char *const *m_textRows = nullptr;
+    bool m_isText = false;
+    /// The second page has small letters.
+    bool m_isSmall = false;
+    bool m_mayGoOn = false;
+    bool m_isGoingOn = false;
 };
 
 #endif // KEYPADFRAME_H

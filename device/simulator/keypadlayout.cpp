@@ -5,14 +5,14 @@
 
 #include <QStringList>
 
-KeypadLayout::KeypadLayout(const char *const *rows)
+KeypadLayout::KeypadLayout(const char *const *rows, const QString &absent, const QString &heir)
 {
     int row = 0;
     for (; rows[row]; ++row) {
         const QStringList tokens =
             QString::fromLatin1(rows[row]).simplified().split(QLatin1Char(' '));
         for (int column = 0; column < tokens.count(); ++column)
-            place(tokens.at(column), QRect(column, row, 1, 1));
+            place(tokens.at(column) == absent ? heir : tokens.at(column), QRect(column, row, 1, 1));
         m_cells.setWidth(tokens.count());
     }
     m_cells.setHeight(row);

@@ -27,8 +27,10 @@ class KeypadLayout
 {
 public:
     KeypadLayout() = default;
-    /// \a rows ends with a null pointer. All rows must have as many tokens as the first.
-    explicit KeypadLayout(const char *const *rows);
+    /// \a rows ends with a null pointer. All rows must have as many tokens as the first. The cells
+    /// of \a absent, if it names a key, go to the key \a heir, which stands beside it.
+    explicit KeypadLayout(const char *const *rows, const QString &absent = QString(),
+                          const QString &heir = QString());
 
     /// The number of columns and rows.
     QSize cells() const { return m_cells; }

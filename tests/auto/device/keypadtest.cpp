@@ -39,8 +39,13 @@ QAbstractButton *KeypadTest::key(QDialog *keypad, const char *token)
 void KeypadTest::click(QDialog *keypad, const char *tokens)
 {
     Q_FOREACH (const QString &token, QString::fromLatin1(tokens).split(QLatin1Char(' '))) {
-        if (QAbstractButton *button = key(keypad, token.toLatin1()))
-            QTest::mouseClick(button, Qt::LeftButton);
+        QAbstractButton *button = key(keypad, token.toLatin1());
+        if (!button)
+            continue;
+        if (!button->isVisible())
+            QTest::qFail(qPrintable(token + QLatin1String(" is on another page")), __FILE__,
+                         __LINE__);
+        QTest::mouseClick(button, Qt::LeftButton);
     }
 }
 
@@ -62,6 +67,8 @@ QString KeypadTest::layoutFault(QDialog *keypad, const QRect &screen, int keySid
 
     QList<QWidget *> parts;
     Q_FOREACH (QAbstractButton *button, keypad->findChildren<QAbstractButton *>()) {
+        if (!button->isVisible())
+            continue;
         if (button->width() < keySide || button->height() < keySide)
             return button->objectName()
                    + QString::fromLatin1(" is %1x%2").arg(button->width()).arg(button->height());

@@ -9,6 +9,27 @@
 
 #include <memory>
 
+namespace {
+
+/// Notes whether the next line was asked for when the text came.
+class LineCaller : public Caller
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE take)
+
+public:
+    LineCaller() { setProperty("hmiNextLine", true); }
+    void take(const QString &text)
+    {
+        wasAskedFor = property("hmiNextLineChosen").toBool();
+        setText(text);
+    }
+
+    bool wasAskedFor = false;
+};
+
+} // namespace
+
 class TestGCodeKeypad : public KeypadTest
 {
     Q_OBJECT
@@ -17,7 +38,17 @@ private Q_SLOTS:
     void isOneDialog();
     void hasTheKeysOfALine_data();
     void hasTheKeysOfALine();
+    void everyLetterIsOnTheSecondPage_data();
+    void everyLetterIsOnTheSecondPage();
+    void commentIsTypedOnTheSecondPage();
+    void pageIsTheFirstOneAgain();
     void lineIsEdited();
+    void wordsStandApart_data();
+    void wordsStandApart();
+    void nextLineIsThereWhereItIsAllowed_data();
+    void nextLineIsThereWhereItIsAllowed();
+    void nextLineIsToldBeforeTheText();
+    void nextLineIsGreyWhileTheTextIsRefused();
     void unchangedLineIsWrittenToo();
     void cancelLeavesThePropertyAlone();
     void emptyLineWithEmptyHint();
@@ -32,6 +63,7 @@ private Q_SLOTS:
     void staysOnTheScreen();
 
 private:
+    static void addPages();
     static GCodeKeypad *pad() { return GCodeKeypad::instance(); }
     static int runPad(const std::function<void()> &step) { return run(pad(), step); }
 };
@@ -63,6 +95,176 @@ void TestGCodeKeypad::hasTheKeysOfALine()
         }
         click(pad(), "clear space");
         QCOMPARE(value(pad())->text(), QString(" "));
+    });
+}
+
+void TestGCodeKeypad::addPages()
+{
+    QTest::addColumn<QRect>("screen");
+    QTest::newRow("wide") << QRect(0, 0, 480, 272);
+    QTest::newRow("narrow") << QRect(0, 0, 272, 480);
+    QTest::newRow("large") << QRect(0, 0, 1024, 600);
+}
+
+void TestGCodeKeypad::everyLetterIsOnTheSecondPage_data()
+{
+    addPages();
+}
+
+void TestGCodeKeypad::everyLetterIsOnTheSecondPage()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    runPad([&] {
+        const QSize size = pad()->size();
+        QCOMPARE(key(pad(), "page")->text(), QString("ABC"));
+        click(pad(), "page");
+        QCOMPARE(key(pad(), "page")->text(), QString("GXY"));
+        QCOMPARE(pad()->size(), size);
+        QCOMPARE(layoutFault(pad(), screen, 38), QString());
+        Q_FOREACH (QChar sign, QString("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-.,;")) {
+            click(pad(), "clear");
+            click(pad(), QByteArray(1, sign.toLatin1()));
+            QCOMPARE(value(pad())->text(), QString(sign));
+        }
+        click(pad(), "clear space back H 2 page X 1");
+        QCOMPARE(value(pad())->text(), QString("H2 X1"));
+        QCOMPARE(layoutFault(pad(), screen, 38), QString());
+    });
+}
+
+void TestGCodeKeypad::commentIsTypedOnTheSecondPage()
+{
+    Caller caller;
+    pad()->setObject(&caller);
+    pad()->setText("G21");
+    runPad([] {
+        click(pad(), "; page space L small");
+        QCOMPARE(key(pad(), "A")->text(), QString("a"));
+        QCOMPARE(key(pad(), "small")->text(), QString("ABC"));
+        click(pad(), "A Y E R 2 A small - B ok");
+    });
+    // Of what a comment says nothing is a word.
+    QCOMPARE(caller.text(), QString("G21 ; Layer2a-B"));
+}
+
+void TestGCodeKeypad::pageIsTheFirstOneAgain()
+{
+    runPad([] { click(pad(), "page small A"); });
+    runPad([] {
+        QVERIFY(key(pad(), "7")->isVisible());
+        QVERIFY(!key(pad(), "A")->isVisible());
+        click(pad(), "G");
+        QCOMPARE(value(pad())->text(), QString("G"));
+    });
+}
+
+void TestGCodeKeypad::wordsStandApart_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("behind a digit") << ""
+                                    << "G 0 1 X 1 0 Y - 2 . 5"
+                                    << "G01 X10 Y-2.5";
+    QTest::newRow("behind a point") << "X1."
+                                    << "F 2"
+                                    << "X1. F2";
+    QTest::newRow("a blank that was typed is the one") << ""
+                                                       << "G 1 space X 1"
+                                                       << "G1 X1";
+    QTest::newRow("a comment") << "G21"
+                               << ";"
+                               << "G21 ;";
+    QTest::newRow("behind a letter") << "G"
+                                     << "X"
+                                     << "GX";
+    QTest::newRow("in a comment") << "; 2"
+                                  << "X"
+                                  << "; 2X";
+    QTest::newRow("in a comment with brackets") << "(2"
+                                                << "X"
+                                                << "(2X";
+    QTest::newRow("in front of the line") << "X1"
+                                          << "left left G 1"
+                                          << "G1X1";
+}
+
+void TestGCodeKeypad::wordsStandApart()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, keys);
+    QFETCH(QString, after);
+    pad()->setText(before);
+    runPad([&] {
+        click(pad(), keys.toLatin1());
+        QCOMPARE(value(pad())->text(), after);
+    });
+}
+
+void TestGCodeKeypad::nextLineIsThereWhereItIsAllowed_data()
+{
+    addPages();
+}
+
+void TestGCodeKeypad::nextLineIsThereWhereItIsAllowed()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    Caller plain;
+    pad()->setObject(&plain);
+    QRect ok;
+    runPad([&] { ok = key(pad(), "ok")->geometry(); });
+    LineCaller caller;
+    pad()->setObject(&caller);
+    runPad([&] {
+        QVERIFY(key(pad(), "next")->isVisible());
+        QCOMPARE(key(pad(), "next")->text(), QString("OK, next line"));
+        // OK keeps its corner.
+        QCOMPARE(key(pad(), "ok")->geometry().bottomRight(), ok.bottomRight());
+        QVERIFY(ok.contains(key(pad(), "next")->geometry()));
+        QCOMPARE(layoutFault(pad(), screen, 38), QString());
+        click(pad(), "page");
+        QVERIFY(key(pad(), "next")->isVisible());
+        QCOMPARE(layoutFault(pad(), screen, 38), QString());
+    });
+    pad()->setObject(&plain);
+    runPad([&] {
+        QVERIFY(!key(pad(), "next")->isVisible());
+        QCOMPARE(key(pad(), "ok")->geometry(), ok);
+    });
+}
+
+void TestGCodeKeypad::nextLineIsToldBeforeTheText()
+{
+    LineCaller caller;
+    pad()->setObject(&caller);
+    QCOMPARE(runPad([] { click(pad(), "G 1 next"); }), 1);
+    QCOMPARE(caller.text(), QString("G1"));
+    QVERIFY(caller.wasAskedFor);
+
+    caller.setProperty("hmiNextLineChosen", false);
+    pad()->setObject(&caller);
+    QCOMPARE(runPad([] { click(pad(), "ok"); }), 1);
+    QVERIFY(!caller.wasAskedFor);
+    QCOMPARE(caller.writes, 2);
+
+    pad()->setObject(&caller);
+    QCOMPARE(runPad([] { click(pad(), "cancel"); }), 0);
+    QVERIFY(!caller.property("hmiNextLineChosen").toBool());
+    QCOMPARE(caller.writes, 2);
+}
+
+void TestGCodeKeypad::nextLineIsGreyWhileTheTextIsRefused()
+{
+    LineCaller caller;
+    QRegExpValidator validator(QRegExp(QLatin1String("[GM][0-9]+")), nullptr);
+    pad()->setObject(&caller);
+    pad()->setValidator(&validator);
+    runPad([] {
+        QVERIFY(!key(pad(), "next")->isEnabled());
+        click(pad(), "G 0");
+        QVERIFY(key(pad(), "next")->isEnabled());
     });
 }
 
