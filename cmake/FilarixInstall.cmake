@@ -130,6 +130,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   winding/coilpicture.h
   winding/finding.h
   winding/machineprofile.h
+  winding/modalwords.h
   winding/programcheck.h
   winding/programinterpreter.h
   winding/programreading.h
