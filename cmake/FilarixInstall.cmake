@@ -78,6 +78,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/finddialogfitter.h
   guards/finddialogkeypad.h
   guards/fittedlist.h
+  guards/lineentry.h
   guards/programguard.h
   guards/rowwatcher.h
   guards/windowcommands.h

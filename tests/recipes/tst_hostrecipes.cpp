@@ -5,6 +5,7 @@
 #include "filarixtest.h"
 #include "guardedwindow.h"
 #include "keptunsaved.h"
+#include "lineafterline.h"
 #include "markedlines.h"
 #include "modaldriver.h"
 #include "openedprogram.h"
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void ownTransferRefusesAProgramWithoutAFile();
     void ownTransferGivesTheButtonBackAfterAFailure();
     void unsavedWorkComesBack();
+    void linesAreEnteredOneAfterTheOther();
     void exportedRowsComeBack();
     void importRefusesRowsThatAListWouldTake();
     void importOfAMissingFileLeavesTheList();
@@ -334,6 +336,19 @@ void TestHostRecipes::unsavedWorkComesBack()
     QCOMPARE(host.questioner.asked.size(), 1);
     QVERIFY(host.host.text().contains("G01 X7"));
     QVERIFY(host.host.isModified());
+}
+
+void TestHostRecipes::linesAreEnteredOneAfterTheOther()
+{
+    DeviceLog::reset();
+    ProgramWindow host;
+    enterLineAfterLine(host.window(), MachineProfile::forSamples());
+    host.window()->show();
+    DeviceLog::acceptForNextLine("G90 G01 F200");
+    DeviceLog::acceptWith("X10");
+    host.press("Edit");
+    QTRY_COMPARE(host.text(), QString("G90 G01 F200\nX10\n"));
+    QCOMPARE(host.window()->property("hmiHint").toString(), QString("G90 G01 F200"));
 }
 
 void TestHostRecipes::exportedRowsComeBack()

@@ -54,6 +54,15 @@ void DeviceLog::acceptWith(const QString &text)
     device().answers.append(answer);
 }
 
+void DeviceLog::acceptForNextLine(const QString &text)
+{
+    acceptWith(text);
+    device().answers.last().action = [] {
+        if (device().object)
+            device().object->setProperty("hmiNextLineChosen", true);
+    };
+}
+
 void DeviceLog::cancel()
 {
     device().answers.append(RecordingDevice::Answer());

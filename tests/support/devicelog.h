@@ -31,6 +31,8 @@ QPointer<QValidator> validator();
 
 /// The next exec() writes \a text to the object's property `text` and ends with 1.
 void acceptWith(const QString &text);
+/// Likewise, after the operator asked for the next line.
+void acceptForNextLine(const QString &text);
 /// The next exec() ends with 0 and writes nothing.
 void cancel();
 /// The next exec() runs \a action while the keypad is open, then ends with 0.

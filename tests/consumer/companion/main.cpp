@@ -5,6 +5,7 @@
 
 #include <base/questioner.h>
 #include <guards/finddialogkeypad.h>
+#include <guards/lineentry.h>
 #include <guards/programguard.h>
 #include <programs/checkeddownload.h>
 #include <programs/plctransfer.h>
@@ -127,6 +128,7 @@ void guardAWindow()
     HarmlessAnswers questioner;
     WMMainWindow window(nullptr, 0);
     new FindDialogKeypad(&window);
+    new LineEntry(&window, &window);
     ProgramGuard guard(&window, ProgramDirectory::path(), &questioner);
     ImportGuard importGuard(ProgramDirectory::path(), QLatin1String("/mnt/Storage"), &questioner);
     UnsavedWork work(QDir::home().filePath(QLatin1String("unsaved")));
