@@ -75,6 +75,11 @@ QString ProgramReview::rules() const
     return m_preview->profile().name();
 }
 
+const MachineProfile &ProgramReview::profile() const
+{
+    return m_preview->profile();
+}
+
 int ProgramReview::after(int line) const
 {
     const auto found = std::find_if(m_findings.begin(), m_findings.end(),

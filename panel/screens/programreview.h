@@ -45,6 +45,8 @@ public:
     QString counts() const;
     /// By which machine's rules: its name in the profile.
     QString rules() const;
+    /// What the words of the machine mean.
+    const MachineProfile &profile() const;
 
     /// The index of the first finding behind \a line, from 1, and of the last one before it; -1
     /// when there is none.

@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "guards/finddialogfitter.h"
+#include "guards/lineentry.h"
 #include "guards/programguard.h"
 #include "look/barpager.h"
 #include "look/look.h"
@@ -19,6 +20,7 @@
 #include "shell/stateline.h"
 #include "stick/stick.h"
 #include "wgcodeediter.h"
+#include "winding/modalwords.h"
 #include "wmmainwindow.h"
 
 #include <QApplication>
@@ -80,6 +82,7 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     , m_download(new CheckedDownload(plcDir, ownDir + QLatin1String("/outgoing"),
                                      m_questioner.data(), this))
     , m_guard(new ProgramGuard(m_window, ProgramDirectory::path(), m_questioner.data(), this))
+    , m_lineEntry(new LineEntry(m_window, this))
     , m_stateLine(new StateLine)
     , m_layout(new QGridLayout(this))
 {
@@ -145,6 +148,8 @@ void ProgramScreen::setReview(const ProgramReview *review)
         connect(m_checkLine, &StateLine::touched, this, [this] { showFindings(); });
         connect(review, &ProgramReview::changed, this, &ProgramScreen::showCheck);
     }
+    m_lineEntry->setHint(
+        [review](const QTextBlock &line) { return ModalWords::before(line, review->profile()); });
     m_download->setInspector([review](const QString &path) { return review->inspect(path); });
     connect(m_findings, &FindingsBar::placeWanted, this, &ProgramScreen::goTo);
     connect(m_findings, &FindingsBar::touched, this,

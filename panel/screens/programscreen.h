@@ -11,6 +11,7 @@
 
 class CheckedDownload;
 class FindingsBar;
+class LineEntry;
 class MachineData;
 class PlcTransfer;
 class ProgramGuard;
@@ -94,6 +95,7 @@ private:
     const QScopedPointer<Questioner> m_questioner;
     CheckedDownload *m_download;
     ProgramGuard *m_guard;
+    LineEntry *m_lineEntry;
     StateLine *m_stateLine;
     QGridLayout *m_layout;
     QWidget *m_beside = nullptr;

@@ -7,7 +7,9 @@
 #include "look/panelkey.h"
 #include "modaldriver.h"
 #include "programs/checkeddownload.h"
+#include "screens/coilpreview.h"
 #include "screens/machinedata.h"
+#include "screens/programreview.h"
 #include "screens/programscreen.h"
 #include "shell/messagelog.h"
 #include "wgcodeediter.h"
@@ -51,6 +53,9 @@ private Q_SLOTS:
     void questionShowsBothNumbers();
     void questionTellsOfOtherLines();
     void partIsSentByNoWay();
+    void keypadGoesOnToTheNextLine();
+    void keypadIsToldTheWordsInForce();
+    void cancelledInsertionLeavesNoLine();
 
 private:
     QToolButton *button(const QString &text) const;
@@ -463,6 +468,43 @@ void TestProgramScreen::closingDuringADownloadIsRefused()
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(m_screen->mayClose());
     QCOMPARE(told.last().at(1).value<Message::Tone>(), Message::Information);
+}
+
+void TestProgramScreen::keypadGoesOnToTheNextLine()
+{
+    DeviceLog::acceptForNextLine("G21");
+    DeviceLog::acceptWith("M30");
+    button("Edit")->click();
+    QTRY_COMPARE(m_screen->editor()->toPlainText(), QString("G21\nM30\n"));
+}
+
+void TestProgramScreen::keypadIsToldTheWordsInForce()
+{
+    CoilPreview preview(m_screen->editor()->document());
+    preview.setProfile(MachineProfile::forSamples());
+    ProgramReview review(&preview, m_screen->editor());
+    m_screen->setReview(&review);
+    m_screen->editor()->setPlainText("G90 G01 F200\nS300\nX10");
+    m_screen->goTo(3, 1);
+    DeviceLog::cancel();
+    button("Edit")->click();
+    QCOMPARE(m_screen->programWindow()->property("hmiHint").toString(),
+             QString("G90 G01 F200 S300"));
+    // The screen shows the review until it goes.
+    delete m_screen;
+    m_screen = nullptr;
+}
+
+void TestProgramScreen::cancelledInsertionLeavesNoLine()
+{
+    m_screen->editor()->setPlainText("G90\nM30");
+    m_screen->editor()->document()->setModified(false);
+    button("Ins")->click();
+    QVERIFY(m_screen->hasChanges());
+    DeviceLog::cancel();
+    button("Edit")->click();
+    QCOMPARE(m_screen->editor()->toPlainText(), QString("G90\nM30"));
+    QVERIFY(!m_screen->hasChanges());
 }
 
 FILARIX_TEST_MAIN(TestProgramScreen)
