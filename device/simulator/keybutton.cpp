@@ -14,6 +14,7 @@ namespace {
 // Wide enough for a gloved finger: 10 mm at 96 dpi.
 const int fingerSize = 38;
 const int smallestText = 9;
+const int textFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
 struct KeyColours
 {
@@ -172,19 +173,27 @@ void KeyButton::paintEvent(QPaintEvent *)
     }
     painter.setPen(QColor(colours.text));
     painter.setFont(fittingFont());
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    painter.drawText(textRoom(), textFlags, text());
+}
+
+QRect KeyButton::textRoom() const
+{
+    const int margin = text().length() > 1 ? 4 : 3;
+    return rect().adjusted(margin, 0, -margin, 0);
 }
 
 QFont KeyButton::fittingFont() const
 {
     const bool isWord = text().length() > 1;
-    const int room = width() - (isWord ? 8 : 6);
     int size = isWord ? qBound(12, height() * 36 / 100, 24)
                       : qBound(14, qMin(height() * 50, width() * 70) / 100, 38);
     QFont font = QApplication::font();
     font.setBold(true);
     font.setPixelSize(size);
-    while (size > smallestText && QFontMetrics(font).width(text()) > room)
+    const QRect room = textRoom();
+    // Words in two lines are read more easily than small ones.
+    while (size > smallestText
+           && !room.contains(QFontMetrics(font).boundingRect(room, textFlags, text())))
         font.setPixelSize(--size);
     return font;
 }

@@ -46,6 +46,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect textRoom() const;
     QFont fittingFont() const;
 
     QString m_token;

@@ -194,8 +194,10 @@ QString faultOfKeypadKey(const QAbstractButton *key)
         if (key->objectName() == QLatin1String(name))
             return QString();
     }
-    return missing(key->text(), sizeOf(QFontMetrics(smallestKeypadFont()), key->text()),
-                   key->size() - QSize(6, 4));
+    const QSize given = key->size() - QSize(6, 4);
+    // Words may stand in two lines.
+    const QFontMetrics metrics(smallestKeypadFont());
+    return missing(key->text(), wrappedSize(metrics, key->text(), given.width()), given);
 }
 
 QString faultOfKeypadLabel(const QWidget *label)
