@@ -101,14 +101,25 @@ bool LineEntry::isOnNewLine() const
 
 void LineEntry::begin()
 {
-    if (!m_editor || m_isOpen || !hasKeypad())
+    if (!m_editor || !hasKeypad())
         return;
+    if (!m_isOpen)
+        m_textBefore = m_window->text();
     m_isOpen = true;
     m_isOnNewLine = isOnNewLine();
     m_isOnLastLine = line().blockNumber() + 1 == document()->blockCount();
-    m_textBefore = m_window->text();
     m_window->setText(nothingEntered());
     tellKeypad();
+    HostCompat::callLater(this, [this] { endWithoutKeypad(); });
+}
+
+/// A finger that slides off the button releases it, and no click follows.
+void LineEntry::endWithoutKeypad()
+{
+    if (!m_isOpen || !m_window || GCodeKeypad::instance()->isVisible())
+        return;
+    m_isOpen = false;
+    m_window->setText(m_textBefore);
 }
 
 void LineEntry::tellKeypad()

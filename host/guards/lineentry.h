@@ -48,6 +48,7 @@ private Q_SLOTS:
     void end();
 
 private:
+    void endWithoutKeypad();
     void goOn();
     void tellKeypad();
     void showLineHigh();

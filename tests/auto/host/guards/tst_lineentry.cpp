@@ -6,6 +6,7 @@
 #include "guards/lineentry.h"
 #include "programwindow.h"
 
+#include <QMouseEvent>
 #include <QRect>
 #include <QTextBlock>
 #include <QVariant>
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void editAndRemovalAreUndoneTogether();
     void insertionsWithoutAnEditStay();
     void textOfTheWindowIsTheKeypads();
+    void fingerThatSlidesOffChangesNothing();
     void withoutAKeypadNothingHappens_data();
     void withoutAKeypadNothingHappens();
     void changeByOthersEndsTheEntry();
@@ -345,6 +347,27 @@ void TestLineEntry::textOfTheWindowIsTheKeypads()
     DeviceLog::cancel();
     entered.host.press("Edit");
     QCOMPARE(entered.host.window()->text(), QString("G20"));
+}
+
+void TestLineEntry::fingerThatSlidesOffChangesNothing()
+{
+    Entered entered("G21\nG90");
+    entered.host.window()->setText("before");
+    QToolButton *edit = entered.host.button("Edit");
+    QTest::mousePress(edit, Qt::LeftButton);
+    QMouseEvent move(QEvent::MouseMove, QPoint(-50, -50), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(edit, &move);
+    QTest::mouseRelease(edit, Qt::LeftButton, Qt::NoModifier, QPoint(-50, -50));
+    settle();
+    QCOMPARE(entered.host.window()->text(), QString("before"));
+
+    // The next press is told anew.
+    entered.goTo(2);
+    DeviceLog::acceptWith("G91");
+    entered.host.press("Edit");
+    QCOMPARE(entered.told("hmiName").toString(), QString("Line 2"));
+    QCOMPARE(entered.host.text(), QString("G21\nG91\n"));
 }
 
 void TestLineEntry::withoutAKeypadNothingHappens_data()
