@@ -633,6 +633,13 @@
     </message>
 </context>
 <context>
+    <name>LineEntry</name>
+    <message>
+        <source>Line %1</source>
+        <translation>Riga %1</translation>
+    </message>
+</context>
+<context>
     <name>MachineProfile</name>
     <message>
         <source>%1 is too large for a machine profile.</source>

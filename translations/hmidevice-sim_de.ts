@@ -86,5 +86,17 @@
         <source>Was: %1</source>
         <translation>War: %1</translation>
     </message>
+    <message>
+        <source>ABC</source>
+        <translation>ABC</translation>
+    </message>
+    <message>
+        <source>OK, next line</source>
+        <translation>OK, nächste Zeile</translation>
+    </message>
+    <message>
+        <source>GXY</source>
+        <translation>GXY</translation>
+    </message>
 </context>
 </TS>

@@ -86,5 +86,17 @@
         <source>Was: %1</source>
         <translation>原值: %1</translation>
     </message>
+    <message>
+        <source>ABC</source>
+        <translation>ABC</translation>
+    </message>
+    <message>
+        <source>OK, next line</source>
+        <translation>确定，下一行</translation>
+    </message>
+    <message>
+        <source>GXY</source>
+        <translation>GXY</translation>
+    </message>
 </context>
 </TS>
