@@ -6,6 +6,7 @@
 #include "keypadlook.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -153,6 +154,14 @@ void KeyButton::setGlyph(Glyph glyph)
 QSize KeyButton::sizeHint() const
 {
     return QSize(fingerSize, fingerSize);
+}
+
+bool KeyButton::event(QEvent *event)
+{
+    // The toolkit takes the presses of a disabled button, and says nothing.
+    if (event->type() == QEvent::MouseButtonPress && !isEnabled())
+        Q_EMIT pressedInVain();
+    return QAbstractButton::event(event);
 }
 
 void KeyButton::paintEvent(QPaintEvent *)

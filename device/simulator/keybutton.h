@@ -36,13 +36,19 @@ public:
     /// The name of the key in its layout.
     QString token() const { return m_token; }
     void setRole(Role role);
+    Role role() const { return m_role; }
     void setGlyph(Glyph glyph);
     /// The text goes on being what accessibility tools read when a glyph covers it.
     Glyph glyph() const { return m_glyph; }
 
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    /// A press while the key is grey.
+    void pressedInVain();
+
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -3,26 +3,39 @@
 
 #include "keypadcheck.h"
 
+#include "keypadvalue.h"
+
+#include <QRegExp>
 #include <QValidator>
+#include <qnumeric.h>
 
 namespace {
 
+/// Words for what is no finite number, "nan" and "inf", are no numbers here.
 bool isNumber(const QString &text)
 {
     bool ok = false;
-    text.toDouble(&ok);
+    const double value = text.toDouble(&ok);
+    return ok && qIsFinite(value);
+}
+
+bool isWholeNumber(const QString &text)
+{
+    bool ok = false;
+    text.toLongLong(&ok);
     return ok;
+}
+
+/// What may become a number yet: a sign or a point without digits.
+bool isBegun(const QString &text)
+{
+    return QRegExp(QLatin1String("[-+]?\\.?")).exactMatch(text);
 }
 
 int decimalsOf(const QString &text)
 {
     const int point = text.indexOf(QLatin1Char('.'));
     return point < 0 ? 0 : text.length() - point - 1;
-}
-
-bool isBetween(double value, double bottom, double top)
-{
-    return value >= bottom && value <= top;
 }
 
 /// A number on a keypad has a point, in every country. A validator of numbers reads the point of
@@ -37,7 +50,14 @@ QString asTheValidatorReads(const QString &text, const QValidator *validator)
 
 } // namespace
 
-QString KeypadCheck::refusal(const QValidator *validator, const QString &text)
+QString KeypadCheck::refusal(const QValidator *validator, const KeypadLimits &limits,
+                             const QString &text)
+{
+    const QString refused = ofValidator(validator, text);
+    return refused.isEmpty() ? ofLimits(limits, text) : refused;
+}
+
+QString KeypadCheck::ofValidator(const QValidator *validator, const QString &text)
 {
     if (!validator)
         return QString();
@@ -59,12 +79,37 @@ QString KeypadCheck::refusal(const QValidator *validator, const QString &text)
     if (!isNumber(text))
         return incomplete ? tr("Not complete") : tr("Not a number");
 
-    const double value = text.toDouble();
-    const bool inside = whole ? isBetween(value, whole->bottom(), whole->top())
-                              : isBetween(value, real->bottom(), real->top());
-    if (!inside)
-        return tr("Outside the limits");
+    const KeypadLimits limits = whole ? KeypadLimits(whole->bottom(), whole->top())
+                                      : KeypadLimits(real->bottom(), real->top());
+    const QString outside = ofRange(limits, text.toDouble());
+    if (!outside.isEmpty())
+        return outside;
     if (whole)
         return tr("Not a whole number");
     return decimalsOf(text) > real->decimals() ? tr("Too many decimals") : tr("Not allowed");
+}
+
+QString KeypadCheck::ofLimits(const KeypadLimits &limits, const QString &text)
+{
+    if (!limits.isBounded() && !limits.isWhole())
+        return QString();
+    if (text.trimmed().isEmpty())
+        return tr("Nothing entered");
+    if (isBegun(text))
+        return tr("Not complete");
+    if (!isNumber(text))
+        return tr("Not a number");
+    const QString outside = ofRange(limits, text.toDouble());
+    if (!outside.isEmpty())
+        return outside;
+    return limits.isWhole() && !isWholeNumber(text) ? tr("Not a whole number") : QString();
+}
+
+QString KeypadCheck::ofRange(const KeypadLimits &limits, double value)
+{
+    if (value < limits.minimum())
+        return tr("At least %1").arg(KeypadLimits::shown(limits.minimum()));
+    if (value > limits.maximum())
+        return tr("At most %1").arg(KeypadLimits::shown(limits.maximum()));
+    return QString();
 }

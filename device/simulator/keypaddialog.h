@@ -49,6 +49,8 @@ public:
     {
         if (m_frame->isAcceptable())
             Keypad::accept();
+        else
+            m_frame->explain();
     }
 
     void done(int result) override

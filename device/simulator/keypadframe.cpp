@@ -12,22 +12,37 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <algorithm>
+#include <numeric>
+
 namespace {
 
-// Wide enough for a gloved finger: 10 mm at 96 dpi.
+// Wide enough for a finger on a small screen: 10 mm at 96 dpi.
 const int fingerSize = 38;
+// Wide enough for a glove where the screen has room: 9 mm at 133 dpi.
+const int gloveSize = 48;
 // Larger keys only make the way from one to the next longer.
 const QSize largestKey(170, 92);
 // A screen lower than this is covered whole.
 const int lowScreen = 400;
 // Up to this width or height the pixels go to the keys rather than between them.
 const int smallKeypad = 480;
+const int smallGap = 4;
+const int largeGap = 6;
 
 const int repeatDelay = 500;
 const int repeatInterval = 80;
 
+// The lines above the keys, each at its lowest and at its highest.
+const int lowestTitle = 18;
+const int lowestInfo = 16;
+const int infoGrowth = 10;
+const int lowestValue = 34;
+const int valueGrowth = 26;
+
 // Light and dark.
 const QRgb frameColours[] = {0xff26303a, 0xff0b0f13};
+const QRgb titleColour = 0xffffffff;
 const QRgb oldValueColour = 0xffd5dce3;
 const QRgb limitColour = 0xffffd479;
 const QRgb reasonColour = 0xffff9d8a;
@@ -41,21 +56,34 @@ const char nextLineProperty[] = "hmiNextLine";
 const char nextLineChosenProperty[] = "hmiNextLineChosen";
 
 /// The heights above the keys, and the space between all, for a keypad of some size and number of
-/// rows.
+/// rows. The title has a line of its own where the keys keep a glove's height.
 struct Measures
 {
     Measures(const QSize &keypad, int rows)
-        : gap(qMin(keypad.width(), keypad.height()) > smallKeypad ? 6 : 4)
+        : gap(qMin(keypad.width(), keypad.height()) > smallKeypad ? largeGap : smallGap)
+        , title(0)
+        , info(lowestInfo)
+        , value(lowestValue)
     {
-        // The keys have a finger's height before the rest grows.
-        const int spare = keypad.height() - rows * (fingerSize + gap);
-        info = qBound(16, qMin(spare / 4, keypad.height() / 14), 26);
-        value = qBound(34, qMin(spare / 2, keypad.height() / 7), 60);
+        // The keys have a glove's height before the rest grows.
+        const int spare = keypad.height() - rows * (gloveSize + gap);
+        const bool hasTitle = spare >= header() + lowestTitle;
+        const int rest = spare - header() - (hasTitle ? lowestTitle : 0);
+        info += qBound(0, qMin(rest / 5, keypad.height() / 14 - lowestInfo), infoGrowth);
+        value += qBound(0, qMin(rest * 2 / 5, keypad.height() / 7 - lowestValue), valueGrowth);
+        title = hasTitle ? info + lowestTitle - lowestInfo : 0;
     }
 
-    int header() const { return gap + info + gap / 2 + value + gap; }
+    int header() const { return gap + title + info + gap / 2 + value + gap; }
+
+    /// The lowest header, that of a small keypad.
+    static int leastHeader()
+    {
+        return smallGap + lowestInfo + smallGap / 2 + lowestValue + smallGap;
+    }
 
     int gap;
+    int title;
     int info;
     int value;
 };
@@ -70,6 +98,78 @@ int keyWidth(const KeypadLayout &layout, const QSize &keypad)
 {
     const int gap = Measures(keypad, layout.cells().height()).gap;
     return (keypad.width() - gap) / layout.cells().width() - gap;
+}
+
+/// The smaller side of the keys if \a layout has a whole screen.
+int keySide(const KeypadLayout &layout, const QSize &screen)
+{
+    const Measures measures(screen, layout.cells().height());
+    const int height = (screen.height() - measures.header()) / layout.cells().height();
+    return qMin(keyWidth(layout, screen), height - measures.gap);
+}
+
+/// The size of a keypad whose keys fit a glove, with its lowest header.
+QSize leastSize(const KeypadLayout &layout)
+{
+    const QSize cells = layout.cells();
+    return QSize(cells.width() * (gloveSize + smallGap) + smallGap,
+                 cells.height() * (gloveSize + smallGap) + Measures::leastHeader());
+}
+
+/// The width that no line beside others may exceed, for all of them to share \a room: who needs
+/// less than a fair part leaves the rest to the others.
+int fairWidth(QList<int> needs, int room)
+{
+    std::sort(needs.begin(), needs.end());
+    int others = needs.count();
+    Q_FOREACH (int need, needs) {
+        if (need * others > room)
+            return room / others;
+        room -= need;
+        --others;
+    }
+    return QWIDGETSIZE_MAX;
+}
+
+/// The widths of lines side by side in \a room: what each needs, else all in smaller letters, else
+/// the longest cut off.
+QList<int> sharedWidths(const QList<KeypadLabel *> &labels, int height, int room)
+{
+    QList<int> needs;
+    QList<int> least;
+    Q_FOREACH (const KeypadLabel *label, labels) {
+        needs.append(label->neededWidth(height));
+        least.append(qMin(needs.last(), label->leastWidth()));
+    }
+    const int needed = std::accumulate(needs.begin(), needs.end(), 0);
+    const int leastNeeded = std::accumulate(least.begin(), least.end(), 0);
+    const int widest = fairWidth(least, room);
+    QList<int> widths;
+    for (int i = 0; i < needs.count(); ++i) {
+        int width = needs.at(i);
+        if (leastNeeded > room)
+            width = qMin(least.at(i), widest);
+        else if (needed > room)
+            width = least.at(i)
+                    + (needs.at(i) - least.at(i)) * (room - leastNeeded) / (needed - leastNeeded);
+        widths.append(width);
+    }
+    return widths;
+}
+
+/// Lays lines of text side by side. What they leave of the room comes before the last.
+void shareRow(const QRect &row, const QList<KeypadLabel *> &labels, int gap)
+{
+    const QList<int> widths =
+        sharedWidths(labels, row.height(), row.width() - gap * (labels.count() - 1));
+    int left = row.left();
+    for (int i = 0; i < labels.count(); ++i) {
+        const bool isLast = i == labels.count() - 1;
+        const int width = isLast && i == 0 ? row.width() : widths.at(i);
+        labels.at(i)->setGeometry(isLast ? row.right() + 1 - width : left, row.top(), width,
+                                  row.height());
+        left += width + gap;
+    }
 }
 
 /// The keypad's share of a screen's \a length. A rest too narrow to show anything is taken too.
@@ -112,12 +212,18 @@ const NamedKey KeypadFrame::namedKeys[] = {
 KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
     : QWidget(parent)
     , m_face(face)
+    , m_title(new KeypadLabel(QLatin1String("title"), KeypadLabel::Elide, this))
+    , m_hint(new KeypadLabel(QLatin1String("hint"), KeypadLabel::Elide, this))
     , m_oldValue(new KeypadLabel(QLatin1String("oldValue"), KeypadLabel::Elide, this))
     , m_limit(new KeypadLabel(QLatin1String("limit"), KeypadLabel::Elide, this))
     , m_reason(new KeypadLabel(QLatin1String("reason"), KeypadLabel::Wrap, this))
     , m_edit(new ValueEdit(this))
     , m_firstRows(face.wide)
 {
+    m_title->setColour(QColor(titleColour));
+    m_title->setBold(true);
+    m_hint->setColour(QColor(oldValueColour));
+    m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_oldValue->setColour(QColor(oldValueColour));
     m_limit->setColour(QColor(limitColour));
     m_limit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -144,47 +250,47 @@ void KeypadFrame::setValidator(const QValidator *validator)
     m_request.validator = const_cast<QValidator *>(validator);
     if (validator)
         connect(validator, SIGNAL(destroyed()), SLOT(check()));
+    if (isVisible()) {
+        m_value = KeypadValue(m_request, m_face.forNumbers);
+        showHead();
+    }
     arrange();
     check();
 }
 
 QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
 {
+    m_value = KeypadValue(m_request, m_face.forNumbers);
     m_mayGoOn = m_request.object && m_request.object->property(nextLineProperty).toBool();
     // A second page has more columns and rows than the first one, and takes the same place.
-    const KeypadLayout widest = layoutOf(m_face.wideText ? m_face.wideText : m_face.wide);
-    const bool fits = keyWidth(widest, screen.size()) >= m_face.narrowestKey;
+    const KeypadLayout wide = layoutOf(m_face.wideText ? m_face.wideText : m_face.wide);
+    const KeypadLayout narrow = layoutOf(m_face.narrowText ? m_face.narrowText : m_face.narrow);
+    const bool fits = keyWidth(wide, screen.size()) >= m_face.narrowestKey
+                      || keySide(wide, screen.size()) >= keySide(narrow, screen.size());
     m_firstRows = fits ? m_face.wide : m_face.narrow;
     m_textRows = fits ? m_face.wideText : m_face.narrowText;
     m_isText = false;
-    const KeypadLayout layout = layoutOf(m_firstRows);
-    useLayout(layout);
+    useLayout(layoutOf(m_firstRows));
     if (screen.height() < lowScreen)
         return screen;
 
-    const QSize finger(fingerSize, fingerSize);
-    const KeypadLayout largest = layoutOf(m_textRows ? m_textRows : m_firstRows);
-    const QSize smallest = sizeOf(layout, finger).expandedTo(sizeOf(largest, finger));
-    const QSize wanted = (wish.isEmpty() ? sizeOf(layout, m_face.keySize) : wish)
-                             .expandedTo(smallest)
-                             .boundedTo(sizeOf(layout, largestKey));
-    const QSize size(shareOf(screen.width(), wanted.width()),
-                     shareOf(screen.height(), wanted.height()));
+    const QSize size = fittingSize(m_layout, screen.size(), wish);
     return QRect(screen.left() + (screen.width() - size.width()) / 2,
                  screen.top() + screen.height() - size.height(), size.width(), size.height());
 }
 
 void KeypadFrame::begin()
 {
+    m_value = KeypadValue(m_request, m_face.forNumbers);
     m_shift = ShiftOff;
     m_symbols = false;
     m_isSmall = false;
     labelKeys();
-    showOldValue();
+    showHead();
 
     TypingRules rules;
     rules.commaIsPoint = m_face.forNumbers;
-    rules.pointEnabled = m_request.pointEnabled;
+    rules.pointEnabled = canHavePoint();
     if (m_face.forNumbers && !m_request.validator)
         rules.allowed = QLatin1String("0123456789+-.");
     m_edit->setRules(rules);
@@ -199,7 +305,12 @@ void KeypadFrame::begin()
 
 bool KeypadFrame::isAcceptable() const
 {
-    return KeypadCheck::refusal(m_request.validator, m_edit->text()).isEmpty();
+    return refusal().isEmpty();
+}
+
+void KeypadFrame::explain()
+{
+    m_reason->setMarked(true);
 }
 
 void KeypadFrame::deliver()
@@ -217,6 +328,7 @@ void KeypadFrame::end()
         key->setDown(false);
     setValidator(nullptr);
     m_request = KeypadRequest();
+    m_value = KeypadValue();
 }
 
 void KeypadFrame::paintEvent(QPaintEvent *)
@@ -235,7 +347,8 @@ void KeypadFrame::changeEvent(QEvent *event)
     if (event->type() != QEvent::LanguageChange)
         return;
     labelKeys();
-    showOldValue();
+    m_value = KeypadValue(m_request, m_face.forNumbers);
+    showHead();
     arrange();
     check();
 }
@@ -251,16 +364,50 @@ void KeypadFrame::keyClicked()
 
 void KeypadFrame::check()
 {
-    const QString refusal = KeypadCheck::refusal(m_request.validator, m_edit->text());
-    m_reason->setText(refusal);
+    const QString reason = refusal();
+    m_reason->setText(reason);
+    m_reason->setMarked(false);
     Q_FOREACH (KeyButton *key, m_keys) {
-        if (key->token() == QLatin1String("ok") || key->token() == QLatin1String("next"))
-            key->setEnabled(refusal.isEmpty());
+        if (key->role() == KeyButton::AcceptRole)
+            key->setEnabled(reason.isEmpty());
         else if (key->token() == QLatin1String("."))
-            key->setEnabled(m_request.pointEnabled);
+            key->setEnabled(canHavePoint());
         else if (key->token() == QLatin1String("shift"))
             key->setEnabled(!m_symbols);
     }
+}
+
+QString KeypadFrame::refusal() const
+{
+    return KeypadCheck::refusal(m_request.validator, m_value.limits, m_edit->text());
+}
+
+/// Whether there are texts that can't be accepted.
+bool KeypadFrame::isChecked() const
+{
+    return m_request.validator || m_value.limits.isBounded() || m_value.limits.isWhole();
+}
+
+bool KeypadFrame::canHavePoint() const
+{
+    return m_request.pointEnabled && !m_value.limits.isWhole();
+}
+
+/// The least size for either page.
+QSize KeypadFrame::leastOfPages() const
+{
+    const QSize least = leastSize(m_layout);
+    return m_textRows ? least.expandedTo(leastSize(layoutOf(m_textRows))) : least;
+}
+
+QSize KeypadFrame::fittingSize(const KeypadLayout &layout, const QSize &screen,
+                               const QSize &wish) const
+{
+    const QSize wanted = (wish.isEmpty() ? sizeOf(layout, m_face.keySize) : wish)
+                             .expandedTo(leastOfPages())
+                             .boundedTo(sizeOf(layout, largestKey));
+    return QSize(shareOf(screen.width(), wanted.width()),
+                 shareOf(screen.height(), wanted.height()));
 }
 
 QSize KeypadFrame::sizeOf(const KeypadLayout &layout, const QSize &key) const
@@ -301,28 +448,51 @@ KeyButton *KeypadFrame::addKey(const QString &token)
     key->setAutoRepeatDelay(repeatDelay);
     key->setAutoRepeatInterval(repeatInterval);
     connect(key, SIGNAL(clicked()), SLOT(keyClicked()));
+    if (key->role() == KeyButton::AcceptRole)
+        connect(key, SIGNAL(pressedInVain()), SLOT(explain()));
     return key;
 }
 
 void KeypadFrame::arrange()
+{
+    arrangeHead();
+    arrangeKeys();
+}
+
+void KeypadFrame::arrangeHead()
 {
     const Measures measures(size(), m_layout.cells().height());
     const int gap = measures.gap;
     const int left = gap;
     const int length = width() - 2 * gap;
 
-    // The limits matter more than the end of a long old value.
-    const int limit = qMin(m_limit->neededWidth(measures.info), length * 2 / 3);
-    m_oldValue->setGeometry(left, gap, limit ? length - limit - 2 * gap : length, measures.info);
-    m_limit->setGeometry(left + length - limit, gap, limit, measures.info);
+    QList<KeypadLabel *> first;
+    QList<KeypadLabel *> second;
+    first << m_title;
+    (measures.title ? second : first) << m_oldValue;
+    if (!m_hint->text().isEmpty())
+        first << m_hint;
+    if (!m_limit->text().isEmpty())
+        (measures.title ? second : first) << m_limit;
+    const int infoTop = gap + measures.title;
+    shareRow(QRect(left, gap, length, measures.title ? measures.title : measures.info), first,
+             2 * gap);
+    shareRow(QRect(left, infoTop, length, measures.info), second, 2 * gap);
 
-    // Room for the reason is kept while there is a validator: a line that jumps is hard to read.
-    const int reason = m_request.validator ? length * 3 / 10 : 0;
-    const int valueTop = gap + measures.info + gap / 2;
+    // Room for the reason is kept while there may be one: a line that jumps is hard to read.
+    const int reason = isChecked() ? length * 3 / 10 : 0;
+    const int valueTop = infoTop + measures.info + gap / 2;
     m_edit->setGeometry(left, valueTop, reason ? length - reason - gap : length, measures.value);
     m_reason->setGeometry(left + length - reason, valueTop, reason, measures.value);
     m_reason->setVisible(reason > 0);
+}
 
+void KeypadFrame::arrangeKeys()
+{
+    const Measures measures(size(), m_layout.cells().height());
+    const int gap = measures.gap;
+    const int left = gap;
+    const int length = width() - 2 * gap;
     const QSize cells = m_layout.cells();
     const int keysTop = measures.header();
     const int keysHeight = height() - keysTop - gap;
@@ -367,8 +537,16 @@ QString KeypadFrame::labelOf(const KeyButton *key) const
     return m_shift == ShiftOff ? token : token.toUpper();
 }
 
-void KeypadFrame::showOldValue()
+void KeypadFrame::showHead()
 {
+    if (m_value.name.isEmpty())
+        m_value.name = tr(m_face.name);
+    const QString title = m_value.title();
+    m_title->setText(title);
+    window()->setWindowTitle(title);
+    m_hint->setText(m_value.hint);
+    m_hint->setVisible(!m_value.hint.isEmpty());
+
     const QString old = m_request.text;
     m_oldValue->setText(old.isEmpty() ? tr("Was empty") : tr("Was: %1").arg(old));
     // For a line of G-code the caller gives the line itself as the hint. It is shown once: the line

@@ -5,6 +5,7 @@
 #define KEYPADFRAME_H
 
 #include "keypadlayout.h"
+#include "keypadvalue.h"
 
 #include <QHash>
 #include <QPointer>
@@ -52,10 +53,13 @@ struct KeypadFace
     const char *const *narrowText = nullptr;
     /// Words of a letter and a number are typed: a new one stands apart from the one before.
     bool forWords = false;
+    /// What a value without a name is called, in English, for tr().
+    const char *name = QT_TRANSLATE_NOOP("KeypadFrame", "Text");
 };
 
-/// The inside of a keypad: the old value, the limits, the value that is typed and why it can't be
-/// accepted, above the keys. It serves one request after the other and keeps nothing of the last.
+/// The inside of a keypad: what is edited, the old value, the limits, the value that is typed and
+/// why it can't be accepted, above the keys. It serves one request after the other and keeps
+/// nothing of the last.
 class KeypadFrame : public QWidget
 {
     Q_OBJECT
@@ -82,6 +86,10 @@ public:
     /// Forgets the request.
     void end();
 
+public Q_SLOTS:
+    /// Draws the eye to the reason why the text can't be accepted.
+    void explain();
+
 Q_SIGNALS:
     void accepted();
     void rejected();
@@ -100,13 +108,20 @@ private:
 
     KeypadLayout layoutOf(const char *const *rows) const;
     QSize sizeOf(const KeypadLayout &layout, const QSize &key) const;
+    QSize leastOfPages() const;
+    QSize fittingSize(const KeypadLayout &layout, const QSize &screen, const QSize &wish) const;
     void useLayout(const KeypadLayout &layout);
     KeyButton *addKey(const QString &token);
     void arrange();
+    void arrangeHead();
+    void arrangeKeys();
     void labelKeys();
     QString labelOf(const KeyButton *key) const;
-    void showOldValue();
+    void showHead();
     bool beginsWord(const QString &text) const;
+    QString refusal() const;
+    bool isChecked() const;
+    bool canHavePoint() const;
 
     void typeKey(const QString &text);
     void backspace();
@@ -132,12 +147,15 @@ private:
     QList<KeyButton *> m_keys;
     /// All that were made so far, by token: a page that was shown may come again.
     QHash<QString, KeyButton *> m_allKeys;
+    KeypadLabel *m_title;
+    KeypadLabel *m_hint;
     KeypadLabel *m_oldValue;
     KeypadLabel *m_limit;
     KeypadLabel *m_reason;
     ValueEdit *m_edit;
 
     KeypadRequest m_request;
+    KeypadValue m_value;
     Shift m_shift = ShiftOff;
     bool m_symbols = false;
     /// The layouts of both pages on this screen, and which of them is shown.

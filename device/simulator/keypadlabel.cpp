@@ -10,6 +10,8 @@ namespace {
 
 const int smallestText = 9;
 const int smallestLine = 11;
+const QRgb markedText = 0xff10161c;
+const int markRounding = 4;
 
 QFont sized(int pixels, bool bold)
 {
@@ -17,11 +19,6 @@ QFont sized(int pixels, bool bold)
     font.setBold(bold);
     font.setPixelSize(pixels);
     return font;
-}
-
-QFont lineFont(int height)
-{
-    return sized(qBound(smallestText, height * 78 / 100, 18), false);
 }
 
 } // namespace
@@ -50,20 +47,47 @@ void KeypadLabel::setAlignment(Qt::Alignment alignment)
     update();
 }
 
+void KeypadLabel::setBold(bool isBold)
+{
+    m_isBold = isBold;
+    update();
+}
+
+void KeypadLabel::setMarked(bool isMarked)
+{
+    m_isMarked = isMarked;
+    update();
+}
+
 int KeypadLabel::neededWidth(int height) const
 {
     // Eliding measures in fractions of a pixel and may find the rounded width too narrow.
     return m_text.isEmpty() ? 0 : QFontMetrics(lineFont(height)).width(m_text) + 2;
 }
 
+int KeypadLabel::leastWidth() const
+{
+    return m_text.isEmpty() ? 0 : QFontMetrics(sized(smallestLine, m_isBold)).width(m_text) + 2;
+}
+
 void KeypadLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(m_colour);
+    if (m_isMarked) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_colour);
+        painter.drawRoundedRect(rect(), markRounding, markRounding);
+    }
+    painter.setPen(m_isMarked ? QColor(markedText) : m_colour);
     if (m_overflow == Elide)
         paintElided(&painter);
     else
         paintWrapped(&painter);
+}
+
+QFont KeypadLabel::lineFont(int height) const
+{
+    return sized(qBound(smallestText, height * 78 / 100, 18), m_isBold);
 }
 
 void KeypadLabel::paintElided(QPainter *painter)

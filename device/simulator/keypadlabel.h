@@ -24,13 +24,20 @@ public:
     void setText(const QString &text);
     void setColour(const QColor &colour);
     void setAlignment(Qt::Alignment alignment);
+    void setBold(bool isBold);
+    /// A marked text stands on its colour, so that the eye is drawn to it.
+    void setMarked(bool isMarked);
+    bool isMarked() const { return m_isMarked; }
     /// How wide the text is in one line, in a label of some height.
     int neededWidth(int height) const;
+    /// The same in the smallest letters.
+    int leastWidth() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QFont lineFont(int height) const;
     void paintElided(QPainter *painter);
     void paintWrapped(QPainter *painter);
 
@@ -38,6 +45,8 @@ private:
     Overflow m_overflow;
     QColor m_colour;
     Qt::Alignment m_alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    bool m_isBold = false;
+    bool m_isMarked = false;
 };
 
 #endif // KEYPADLABEL_H

@@ -30,7 +30,8 @@ NumericKeypad::~NumericKeypad() = default;
 
 NumericKeypad *NumericKeypad::instance()
 {
-    const KeypadFace face = {keys, narrowKeys, 64, QSize(104, 76), true};
+    KeypadFace face(keys, narrowKeys, 64, QSize(104, 76), true);
+    face.name = QT_TRANSLATE_NOOP("KeypadFrame", "Number");
     return NumericDialog::instance(face);
 }
 

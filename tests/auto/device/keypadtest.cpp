@@ -75,6 +75,8 @@ QString KeypadTest::layoutFault(QDialog *keypad, const QRect &screen, int keySid
         parts.append(button);
     }
     Q_FOREACH (const char *name, QList<const char *>() << "value"
+                                                       << "title"
+                                                       << "hint"
                                                        << "oldValue"
                                                        << "limit"
                                                        << "reason")
