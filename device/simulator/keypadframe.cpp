@@ -7,6 +7,7 @@
 #include "keypadcheck.h"
 #include "keypadlabel.h"
 #include "keypadlook.h"
+#include "keypadplace.h"
 #include "valueedit.h"
 
 #include <QEvent>
@@ -275,8 +276,25 @@ QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
         return screen;
 
     const QSize size = fittingSize(m_layout, screen.size(), wish);
-    return QRect(screen.left() + (screen.width() - size.width()) / 2,
-                 screen.top() + screen.height() - size.height(), size.width(), size.height());
+    const QRect usual = KeypadPlace::atTheBottom(screen, size);
+    const QRect docked = usual.intersects(m_value.place) ? dockedPlace(screen, size) : QRect();
+    return docked.isEmpty() ? usual : docked;
+}
+
+/// A place beside what is edited, if need be with fewer rows of keys. Empty if there is none.
+QRect KeypadFrame::dockedPlace(const QRect &screen, const QSize &size)
+{
+    const QRect edited = m_value.place & screen;
+    const QRect place = KeypadPlace::besides(screen, edited, size, leastOfPages().height());
+    if (!place.isEmpty() || !m_face.flat)
+        return place;
+    const KeypadLayout flat(m_face.flat);
+    if (keyWidth(flat, size) < gloveSize)
+        return QRect();
+    const QRect flatPlace = KeypadPlace::besides(screen, edited, size, leastSize(flat).height());
+    if (!flatPlace.isEmpty())
+        useLayout(flat);
+    return flatPlace;
 }
 
 void KeypadFrame::begin()

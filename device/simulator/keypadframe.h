@@ -53,6 +53,8 @@ struct KeypadFace
     const char *const *narrowText = nullptr;
     /// Words of a letter and a number are typed: a new one stands apart from the one before.
     bool forWords = false;
+    /// A layout of few rows for a place beside the edited row; null if there is none.
+    const char *const *flat = nullptr;
     /// What a value without a name is called, in English, for tr().
     const char *name = QT_TRANSLATE_NOOP("KeypadFrame", "Text");
 };
@@ -75,7 +77,8 @@ public:
     void setValidator(const QValidator *validator);
 
     /// Where the keypad goes on a screen, and with which layout. An empty \a wish leaves the size
-    /// to the keypad. It never leaves the screen; a low screen it takes whole.
+    /// to the keypad. It never leaves the screen; a low screen it takes whole. Elsewhere what is
+    /// edited stays in view, where its place is known and a keypad fits beside it.
     QRect place(const QRect &screen, const QSize &wish);
     /// Shows the request. The keypad is on the screen by now.
     void begin();
@@ -110,6 +113,7 @@ private:
     QSize sizeOf(const KeypadLayout &layout, const QSize &key) const;
     QSize leastOfPages() const;
     QSize fittingSize(const KeypadLayout &layout, const QSize &screen, const QSize &wish) const;
+    QRect dockedPlace(const QRect &screen, const QSize &size);
     void useLayout(const KeypadLayout &layout);
     KeyButton *addKey(const QString &token);
     void arrange();

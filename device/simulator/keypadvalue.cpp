@@ -86,6 +86,18 @@ QString lineOf(const QObject *object, const char *name)
     return object ? object->property(name).toString().simplified() : QString();
 }
 
+/// A window as a whole is too large to be kept in view.
+QRect placeOf(const QObject *object)
+{
+    const QRect named = object ? object->property("hmiEditedRect").toRect() : QRect();
+    if (!named.isEmpty())
+        return named;
+    const QWidget *widget = qobject_cast<const QWidget *>(object);
+    if (!widget || widget->isWindow() || !widget->isVisible())
+        return QRect();
+    return QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+}
+
 } // namespace
 
 KeypadLimits::KeypadLimits() : m_minimum(-unlimited), m_maximum(unlimited) {}
@@ -153,6 +165,7 @@ KeypadValue::KeypadValue(const KeypadRequest &request, bool forNumbers)
     , hint(lineOf(request.object, "hmiHint"))
     , limits(KeypadLimits::ofProperties(request.object))
     , range(limits.text())
+    , place(placeOf(request.object))
 {
     if (limits.isBounded())
         return;

@@ -5,6 +5,7 @@
 #define KEYPADVALUE_H
 
 #include <QCoreApplication>
+#include <QRect>
 #include <QString>
 
 class QObject;
@@ -64,6 +65,8 @@ struct KeypadValue
     KeypadLimits limits;
     /// The limits to show, when the caller's own hint doesn't.
     QString range;
+    /// What has to stay in view, in screen coordinates; empty if nothing is known.
+    QRect place;
 };
 
 #endif // KEYPADVALUE_H

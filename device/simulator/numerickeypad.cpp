@@ -22,6 +22,12 @@ const char *const narrowKeys[] = {"7      8      9  back",  //
                                   "cancel cancel ok ok",    //
                                   nullptr};
 
+// The block of digits stays as it is, for a finger that knows its places.
+const char *const flatKeys[] = {"7 8 9 back back clear clear",  //
+                                "4 5 6 sign left right cancel", //
+                                "1 2 3 0    .    ok    ok",     //
+                                nullptr};
+
 } // namespace
 
 NumericKeypad::NumericKeypad(QWidget *parent) : QDialog(parent) {}
@@ -31,6 +37,7 @@ NumericKeypad::~NumericKeypad() = default;
 NumericKeypad *NumericKeypad::instance()
 {
     KeypadFace face(keys, narrowKeys, 64, QSize(104, 76), true);
+    face.flat = flatKeys;
     face.name = QT_TRANSLATE_NOOP("KeypadFrame", "Number");
     return NumericDialog::instance(face);
 }
