@@ -4,6 +4,8 @@
 #include "keypadframe.h"
 
 #include "keybutton.h"
+#include "keynames.h"
+#include "keypadaccess.h"
 #include "keypadcheck.h"
 #include "keypadlabel.h"
 #include "keypadlook.h"
@@ -329,6 +331,7 @@ bool KeypadFrame::isAcceptable() const
 void KeypadFrame::explain()
 {
     m_reason->setMarked(true);
+    KeypadAccess::announce(m_reason);
 }
 
 void KeypadFrame::deliver()
@@ -385,6 +388,7 @@ void KeypadFrame::check()
     const QString reason = refusal();
     m_reason->setText(reason);
     m_reason->setMarked(false);
+    KeypadAccess::setDescription(m_edit, reason);
     Q_FOREACH (KeyButton *key, m_keys) {
         if (key->role() == KeyButton::AcceptRole)
             key->setEnabled(reason.isEmpty());
@@ -528,6 +532,7 @@ void KeypadFrame::labelKeys()
 {
     Q_FOREACH (KeyButton *key, m_keys) {
         key->setText(labelOf(key));
+        KeypadAccess::setName(key, spokenNameOf(key));
         if (key->token() == QLatin1String("shift")) {
             const KeyButton::Glyph glyphs[] = {KeyButton::ShiftGlyph, KeyButton::ShiftOnceGlyph,
                                                KeyButton::ShiftLockGlyph};
@@ -555,12 +560,25 @@ QString KeypadFrame::labelOf(const KeyButton *key) const
     return m_shift == ShiftOff ? token : token.toUpper();
 }
 
+QString KeypadFrame::spokenNameOf(const KeyButton *key) const
+{
+    if (key->token() == QLatin1String("sign"))
+        return KeyNames::sign();
+    if (key->token() == QLatin1String("symbols"))
+        return KeyNames::symbols(m_symbols);
+    if (key->token() == QLatin1String("shift"))
+        return KeyNames::capitals(m_shift != ShiftOff, m_shift == ShiftLocked);
+    return KeyNames::spoken(key->text());
+}
+
+/// Tells what is edited, to the operator and to accessibility tools.
 void KeypadFrame::showHead()
 {
     if (m_value.name.isEmpty())
         m_value.name = tr(m_face.name);
     const QString title = m_value.title();
     m_title->setText(title);
+    KeypadAccess::setName(m_edit, title);
     window()->setWindowTitle(title);
     m_hint->setText(m_value.hint);
     m_hint->setVisible(!m_value.hint.isEmpty());

@@ -121,6 +121,7 @@ private:
     void arrangeKeys();
     void labelKeys();
     QString labelOf(const KeyButton *key) const;
+    QString spokenNameOf(const KeyButton *key) const;
     void showHead();
     bool beginsWord(const QString &text) const;
     QString refusal() const;

@@ -32,6 +32,7 @@ KeypadLabel::KeypadLabel(const QString &objectName, Overflow overflow, QWidget *
 void KeypadLabel::setText(const QString &text)
 {
     m_text = text;
+    KeypadAccess::setName(this, text);
     update();
 }
 

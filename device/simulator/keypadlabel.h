@@ -4,10 +4,13 @@
 #ifndef KEYPADLABEL_H
 #define KEYPADLABEL_H
 
+#include "keypadaccess.h"
+
 #include <QColor>
 #include <QWidget>
 
 /// A line of text above the keys. Like the keys it paints itself, in a size that its height gives.
+/// Accessibility tools take it for a static text with that name.
 class KeypadLabel : public QWidget
 {
     Q_OBJECT
@@ -47,6 +50,7 @@ private:
     Qt::Alignment m_alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool m_isBold = false;
     bool m_isMarked = false;
+    KeypadAccess::StaticText m_access;
 };
 
 #endif // KEYPADLABEL_H

@@ -6,11 +6,13 @@
 
 // What QtTest of Qt 4.8 lacks of Qt 5.15's, and what either does otherwise than a test wants.
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHeaderView>
+#include <QLineEdit>
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QInputContext>
 #endif
@@ -336,6 +338,38 @@ public:
 private:
     QByteArray m_context;
 };
+
+/// What accessibility tools learn of a widget.
+inline QAccessible::Role accessibleRole(QWidget *widget)
+{
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return interface->role();
+#else
+    const QAccessible::Role role = interface->role(0);
+    delete interface;
+    return role;
+#endif
+}
+
+inline QString accessibleText(QWidget *widget, QAccessible::Text text)
+{
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return interface->text(text);
+#else
+    const QString found = interface->text(text, 0);
+    delete interface;
+    return found;
+#endif
+}
+
+/// Qt 4 asks a plugin of its own for the roles of its widgets, which few of its builds bring.
+inline bool widgetsHaveRoles()
+{
+    QLineEdit edit;
+    return accessibleRole(&edit) == QAccessible::EditableText;
+}
 
 /// Qt 5 leaves a field that a spin box was given empty until the value changes or the box is shown.
 inline bool givenFieldStartsEmpty()
