@@ -51,6 +51,7 @@ GCodeKeypad *GCodeKeypad::instance()
     face.wideText = textKeys;
     face.narrowText = narrowTextKeys;
     face.forWords = true;
+    face.name = QT_TRANSLATE_NOOP("KeypadFrame", "Line");
     return GCodeDialog::instance(face);
 }
 

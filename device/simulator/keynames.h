@@ -19,6 +19,10 @@ public:
     static QString sign() { return tr("Change the sign"); }
     /// The words for the key that turns to the symbols, or from them to the letters.
     static QString symbols(bool areShown) { return areShown ? tr("Letters") : tr("Symbols"); }
+    /// The words for the key that turns to the page of all letters, or back to that of the words.
+    static QString page(bool isText) { return isText ? tr("Words of a line") : tr("Letters"); }
+    /// The words for the key that turns the capitals to small letters, or back.
+    static QString small(bool isSmall) { return isSmall ? tr("Capitals") : tr("Small letters"); }
     /// The words for the key of the capitals: off, on for one letter, or locked.
     static QString capitals(bool areOn, bool areLocked);
 };

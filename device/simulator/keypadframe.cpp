@@ -566,6 +566,10 @@ QString KeypadFrame::spokenNameOf(const KeyButton *key) const
         return KeyNames::sign();
     if (key->token() == QLatin1String("symbols"))
         return KeyNames::symbols(m_symbols);
+    if (key->token() == QLatin1String("page"))
+        return KeyNames::page(m_isText);
+    if (key->token() == QLatin1String("small"))
+        return KeyNames::small(m_isSmall);
     if (key->token() == QLatin1String("shift"))
         return KeyNames::capitals(m_shift != ShiftOff, m_shift == ShiftLocked);
     return KeyNames::spoken(key->text());

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void keysAreCalledByWords_data();
     void keysAreCalledByWords();
     void stateOfTheKeysIsTold();
+    void pagesAreTold();
     void linesAreRead();
     void namesGoWithTheLanguage();
 
@@ -40,6 +41,8 @@ void TestKeypadAccess::everyPartHasANameAndARole_data()
     QTest::newRow("letters") << 1 << QString();
     QTest::newRow("symbols") << 1 << QString::fromLatin1("symbols");
     QTest::newRow("G-code") << 2 << QString();
+    QTest::newRow("G-code, all letters") << 2 << QString::fromLatin1("page");
+    QTest::newRow("G-code, small letters") << 2 << QString::fromLatin1("page small");
 }
 
 void TestKeypadAccess::everyPartHasANameAndARole()
@@ -113,6 +116,24 @@ void TestKeypadAccess::stateOfTheKeysIsTold()
         click(pad, "symbols");
         QCOMPARE(nameOf(key(pad, "symbols")), QString("Symbols"));
         QCOMPARE(nameOf(key(pad, "q")), QString("q"));
+    });
+}
+
+void TestKeypadAccess::pagesAreTold()
+{
+    Caller caller;
+    caller.setProperty("hmiNextLine", true);
+    GCodeKeypad *pad = GCodeKeypad::instance();
+    pad->setObject(&caller);
+    run(pad, [&] {
+        QCOMPARE(nameOf(key(pad, "page")), QString("Letters"));
+        QCOMPARE(nameOf(key(pad, "next")), QString("OK, next line"));
+        click(pad, "page");
+        QCOMPARE(nameOf(key(pad, "page")), QString("Words of a line"));
+        QCOMPARE(nameOf(key(pad, "small")), QString("Small letters"));
+        click(pad, "small");
+        QCOMPARE(nameOf(key(pad, "small")), QString("Capitals"));
+        QCOMPARE(nameOf(key(pad, "Q")), QString("q"));
     });
 }
 
