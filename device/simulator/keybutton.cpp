@@ -12,8 +12,6 @@
 
 namespace {
 
-// Wide enough for a gloved finger: 10 mm at 96 dpi.
-const int fingerSize = 38;
 const int smallestText = 9;
 const int textFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
@@ -153,7 +151,7 @@ void KeyButton::setGlyph(Glyph glyph)
 
 QSize KeyButton::sizeHint() const
 {
-    return QSize(fingerSize, fingerSize);
+    return QSize(KeypadLook::fingerSize, KeypadLook::fingerSize);
 }
 
 bool KeyButton::event(QEvent *event)
@@ -194,8 +192,9 @@ QRect KeyButton::textRoom() const
 QFont KeyButton::fittingFont() const
 {
     const bool isWord = text().length() > 1;
-    int size = isWord ? qBound(12, height() * 36 / 100, 24)
-                      : qBound(14, qMin(height() * 50, width() * 70) / 100, 38);
+    const int wanted = isWord ? height() * 36 / 100 : qMin(height() * 50, width() * 70) / 100;
+    int size = isWord ? qBound(12, KeypadLook::letters(wanted), KeypadLook::letters(24))
+                      : qBound(14, KeypadLook::letters(wanted), KeypadLook::letters(38));
     QFont font = QApplication::font();
     font.setBold(true);
     font.setPixelSize(size);

@@ -20,10 +20,6 @@
 
 namespace {
 
-// Wide enough for a finger on a small screen: 10 mm at 96 dpi.
-const int fingerSize = 38;
-// Wide enough for a glove where the screen has room: 9 mm at 133 dpi.
-const int gloveSize = 48;
 // Larger keys only make the way from one to the next longer.
 const QSize largestKey(170, 92);
 // A screen lower than this is covered whole.
@@ -39,9 +35,9 @@ const int repeatInterval = 80;
 // The lines above the keys, each at its lowest and at its highest.
 const int lowestTitle = 18;
 const int lowestInfo = 16;
-const int infoGrowth = 10;
+const int highestInfo = 26;
 const int lowestValue = 34;
-const int valueGrowth = 26;
+const int highestValue = 60;
 
 // Light and dark.
 const QRgb frameColours[] = {0xff26303a, 0xff0b0f13};
@@ -69,11 +65,11 @@ struct Measures
         , value(lowestValue)
     {
         // The keys have a glove's height before the rest grows.
-        const int spare = keypad.height() - rows * (gloveSize + gap);
+        const int spare = keypad.height() - rows * (KeypadLook::gloveSize() + gap);
         const bool hasTitle = spare >= header() + lowestTitle;
         const int rest = spare - header() - (hasTitle ? lowestTitle : 0);
-        info += qBound(0, qMin(rest / 5, keypad.height() / 14 - lowestInfo), infoGrowth);
-        value += qBound(0, qMin(rest * 2 / 5, keypad.height() / 7 - lowestValue), valueGrowth);
+        info = grown(lowestInfo, rest / 5, qMin(keypad.height() / 14, highestInfo));
+        value = grown(lowestValue, rest * 2 / 5, qMin(keypad.height() / 7, highestValue));
         title = hasTitle ? info + lowestTitle - lowestInfo : 0;
     }
 
@@ -83,6 +79,12 @@ struct Measures
     static int leastHeader()
     {
         return smallGap + lowestInfo + smallGap / 2 + lowestValue + smallGap;
+    }
+
+    /// \a lowest with its part of the rest, no higher than \a highest at the usual size of texts.
+    static int grown(int lowest, int part, int highest)
+    {
+        return lowest + qBound(0, part, qMax(0, KeypadLook::letters(highest) - lowest));
     }
 
     int gap;
@@ -115,8 +117,8 @@ int keySide(const KeypadLayout &layout, const QSize &screen)
 QSize leastSize(const KeypadLayout &layout)
 {
     const QSize cells = layout.cells();
-    return QSize(cells.width() * (gloveSize + smallGap) + smallGap,
-                 cells.height() * (gloveSize + smallGap) + Measures::leastHeader());
+    return QSize(cells.width() * (KeypadLook::gloveSize() + smallGap) + smallGap,
+                 cells.height() * (KeypadLook::gloveSize() + smallGap) + Measures::leastHeader());
 }
 
 /// The width that no line beside others may exceed, for all of them to share \a room: who needs
@@ -291,7 +293,7 @@ QRect KeypadFrame::dockedPlace(const QRect &screen, const QSize &size)
     if (!place.isEmpty() || !m_face.flat)
         return place;
     const KeypadLayout flat(m_face.flat);
-    if (keyWidth(flat, size) < gloveSize)
+    if (keyWidth(flat, size) < KeypadLook::gloveSize())
         return QRect();
     const QRect flatPlace = KeypadPlace::besides(screen, edited, size, leastSize(flat).height());
     if (!flatPlace.isEmpty())

@@ -3,6 +3,8 @@
 
 #include "keypadlabel.h"
 
+#include "keypadlook.h"
+
 #include <QApplication>
 #include <QPainter>
 
@@ -10,6 +12,7 @@ namespace {
 
 const int smallestText = 9;
 const int smallestLine = 11;
+const int largestText = 18;
 const QRgb markedText = 0xff10161c;
 const int markRounding = 4;
 
@@ -88,7 +91,8 @@ void KeypadLabel::paintEvent(QPaintEvent *)
 
 QFont KeypadLabel::lineFont(int height) const
 {
-    return sized(qBound(smallestText, height * 78 / 100, 18), m_isBold);
+    return sized(qBound(smallestText, height * 78 / 100, KeypadLook::letters(largestText)),
+                 m_isBold);
 }
 
 void KeypadLabel::paintElided(QPainter *painter)
@@ -105,7 +109,7 @@ void KeypadLabel::paintElided(QPainter *painter)
 void KeypadLabel::paintWrapped(QPainter *painter)
 {
     const int flags = int(m_alignment) | Qt::TextWordWrap;
-    int size = qBound(smallestText, height() * 38 / 100, 18);
+    int size = qBound(smallestText, height() * 38 / 100, KeypadLook::letters(largestText));
     painter->setFont(sized(size, true));
     while (size > smallestText && !rect().contains(painter->boundingRect(rect(), flags, m_text)))
         painter->setFont(sized(--size, true));

@@ -6,15 +6,48 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QVariant>
 
-/// Whether the keypads are light or dark. They go with the host, whose palette tells.
+#include <cmath>
+
+/// What the keypads take over from the host: whether they are light or dark, which its palette
+/// tells, and by properties of the application how large things are.
 namespace KeypadLook {
+
+/// Wide enough for a finger on a small screen: 10 mm at 96 dpi.
+const int fingerSize = 38;
+/// What a glove needs to touch one key and no other.
+const double gloveMm = 9;
+const double mmPerInch = 25.4;
+/// That of most panels, for a host that tells none.
+const double usualDotsPerInch = 133;
+const double fewestDotsPerInch = 50;
+const double mostDotsPerInch = 400;
+/// In percent.
+const int usualTextSize = 100;
+const int largestTextSize = 150;
 
 inline bool isDark()
 {
     const QPalette palette = QApplication::palette();
     return palette.color(QPalette::Window).lightness()
            < palette.color(QPalette::WindowText).lightness();
+}
+
+/// The smallest side in pixels of a key for a glove, by the property hmiDotsPerInch.
+inline int gloveSize()
+{
+    const double named = qApp->property("hmiDotsPerInch").toDouble();
+    const bool isSensible = named >= fewestDotsPerInch && named <= mostDotsPerInch;
+    const double dotsPerInch = isSensible ? named : usualDotsPerInch;
+    return qMax(fingerSize, int(std::ceil(gloveMm / mmPerInch * dotsPerInch)));
+}
+
+/// \a pixels of a letter at the size of texts that the property hmiTextSize names in percent.
+inline int letters(int pixels)
+{
+    const int named = qApp->property("hmiTextSize").toInt();
+    return pixels * qBound(usualTextSize, named, largestTextSize) / usualTextSize;
 }
 
 } // namespace KeypadLook

@@ -118,7 +118,7 @@ int ValueEdit::fittingSize() const
     // Two pixels on either side are the line edit's own, two more are the cursor's.
     const int room = width() - 2 * (padding + border) - 6;
     QFont font = QApplication::font();
-    int size = qBound(smallestText, height() * 60 / 100, largestText);
+    int size = qBound(smallestText, height() * 60 / 100, KeypadLook::letters(largestText));
     font.setPixelSize(size);
     while (size > smallestText && QFontMetrics(font).width(text()) > room)
         font.setPixelSize(--size);

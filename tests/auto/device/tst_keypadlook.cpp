@@ -20,6 +20,10 @@ private Q_SLOTS:
     void keysAndLinesAreReadable_data();
     void keysAndLinesAreReadable();
     void goesWithTheHost();
+    void keysFitAGloveAtEachFineness_data();
+    void keysFitAGloveAtEachFineness();
+    void lettersGrowWithTheHosts_data();
+    void lettersGrowWithTheHosts();
 
 private:
     static void setDark(bool dark);
@@ -44,6 +48,8 @@ QDialog *TestKeypadLook::keypad(const QString &kind)
 void TestKeypadLook::cleanup()
 {
     setDark(false);
+    qApp->setProperty("hmiDotsPerInch", QVariant());
+    qApp->setProperty("hmiTextSize", QVariant());
     FilarixTest::cleanup();
 }
 
@@ -117,6 +123,68 @@ void TestKeypadLook::goesWithTheHost()
     QVERIFY(brightness.at(0) > 192 && brightness.at(1) > 192);
     QVERIFY(brightness.at(2) < 96 && brightness.at(3) < 96);
     QCOMPARE(brightness.mid(4), brightness.mid(0, 2));
+}
+
+void TestKeypadLook::keysFitAGloveAtEachFineness_data()
+{
+    QTest::addColumn<QVariant>("dotsPerInch");
+    QTest::addColumn<int>("side");
+    QTest::newRow("not named") << QVariant() << 48;
+    QTest::newRow("coarse") << QVariant(96.0) << 38;
+    QTest::newRow("a panel of seven inches") << QVariant(133.0) << 48;
+    QTest::newRow("fine") << QVariant(200.0) << 71;
+    QTest::newRow("none that a screen has") << QVariant(5000) << 48;
+    QTest::newRow("no number") << QVariant("fine") << 48;
+}
+
+// A row in the midst of the screen makes the keypad as low as it gets.
+void TestKeypadLook::keysFitAGloveAtEachFineness()
+{
+    QFETCH(QVariant, dotsPerInch);
+    QFETCH(int, side);
+    qApp->setProperty("hmiDotsPerInch", dotsPerInch);
+    setScreen(QRect(0, 0, 800, 800));
+    Caller caller;
+    caller.setProperty("hmiEditedRect", QRect(0, 390, 800, 20));
+    NumericKeypad *pad = NumericKeypad::instance();
+    pad->setObject(&caller);
+    pad->resize(60, 60);
+    run(pad, [&] {
+        QCOMPARE(layoutFault(pad, QRect(0, 0, 800, 800), side - 1), QString());
+        QVERIFY(key(pad, "7")->width() <= side + 2);
+    });
+}
+
+void TestKeypadLook::lettersGrowWithTheHosts_data()
+{
+    addScreens();
+}
+
+void TestKeypadLook::lettersGrowWithTheHosts()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    QIntValidator validator(1, 9);
+    Q_FOREACH (const char *kind, QList<const char *>() << "numeric"
+                                                       << "character"
+                                                       << "gcode") {
+        QList<int> heights;
+        Q_FOREACH (int percent, QList<int>() << 100 << 125 << 150 << 9999) {
+            qApp->setProperty("hmiTextSize", percent);
+            NumericKeypad::instance()->setValidator(&validator);
+            NumericKeypad::instance()->setText("77");
+            QDialog *pad = keypad(kind);
+            run(pad, [&] {
+                QCOMPARE(layoutFault(pad, screen, 38), QString());
+                heights.append(value(pad)->height());
+            });
+        }
+        QCOMPARE(heights.size(), 4);
+        QVERIFY(heights.at(0) <= heights.at(1) && heights.at(1) <= heights.at(2));
+        QCOMPARE(heights.at(3), heights.at(2));
+        if (screen.height() > 480)
+            QVERIFY(heights.at(0) < heights.at(2));
+    }
 }
 
 FILARIX_TEST_MAIN(TestKeypadLook)
