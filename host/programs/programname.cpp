@@ -22,6 +22,11 @@ QString ProgramName::suffix()
     return QLatin1String(".cnc");
 }
 
+QString ProgramName::unnamed()
+{
+    return tr("New program");
+}
+
 QString ProgramName::first()
 {
     return QLatin1String("program.cnc");

@@ -18,6 +18,9 @@ class FILARIX_HOST_EXPORT ProgramName
 public:
     /// ".cnc".
     static QString suffix();
+    /// What a program without a file is called wherever it is named: "New program", in the
+    /// operator's language.
+    static QString unnamed();
     /// What is proposed for a program that has no name yet: "program.cnc".
     static QString first();
     /// Why no program can have this name, a sentence for the operator; empty when one can.

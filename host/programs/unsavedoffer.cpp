@@ -5,6 +5,7 @@
 
 #include "base/hostcompat.h"
 #include "base/questioner.h"
+#include "programs/programname.h"
 #include "programs/programopener.h"
 #include "programs/unsavedrows.h"
 #include "programs/unsavedstore.h"
@@ -301,7 +302,7 @@ QString UnsavedOffer::shownName(const KeptWork &work) const
     const UnsavedRows *list = m_rows.value(work.subject);
     const QString name =
         list ? list->nameOf(work.head.path) : QFileInfo(work.head.path).fileName().simplified();
-    return name.isEmpty() ? tr("New program") : name;
+    return name.isEmpty() ? ProgramName::unnamed() : name;
 }
 
 QString UnsavedOffer::shown(const KeptWork &work) const

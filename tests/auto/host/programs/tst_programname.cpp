@@ -16,6 +16,7 @@ private Q_SLOTS:
     void freeNameIsNotTaken_data();
     void freeNameIsNotTaken();
     void partKeepsTheSuffix();
+    void unnamedFollowsTheLanguage();
 };
 
 void TestProgramName::impossibleNamesAreExplained_data()
@@ -83,6 +84,13 @@ void TestProgramName::partKeepsTheSuffix()
 {
     QCOMPARE(ProgramName::ofPart("stator-coil.cnc"), QString("stator-coil-part.cnc"));
     QCOMPARE(ProgramName::ofPart("rotor"), QString("rotor-part"));
+}
+
+void TestProgramName::unnamedFollowsTheLanguage()
+{
+    QCOMPARE(ProgramName::unnamed(), QString("New program"));
+    const TestCompat::MarkingTranslator translator("ProgramName");
+    QCOMPARE(ProgramName::unnamed(), QString("New program*"));
 }
 
 FILARIX_TEST_MAIN(TestProgramName)
