@@ -76,6 +76,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   base/questioner.h
   guards/errormarks.h
   guards/finddialogfitter.h
+  guards/finddialogguide.h
   guards/finddialogkeypad.h
   guards/fittedlist.h
   guards/lineentry.h

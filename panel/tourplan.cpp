@@ -94,12 +94,6 @@ QWidget *pickerKey(const char *name)
     return dialog->findChild<QPushButton *>();
 }
 
-QWidget *findField()
-{
-    QWidget *dialog = topLevel("WFindDialog");
-    return dialog ? dialog->findChild<QLineEdit *>() : nullptr;
-}
-
 QWidget *sendKey()
 {
     QWidget *question = topLevel("DownloadQuestion");
@@ -218,10 +212,9 @@ void TourPlan::turnToOtherKeys(WMMainWindow *window)
 void TourPlan::find()
 {
     pressTool(m_panel, QLatin1String("Find"));
-    m_tour->picture(QLatin1String("find"));
-    m_tour->press(&findField);
     m_tour->picture(QLatin1String("character-keypad"));
     m_tour->closeDialog();
+    m_tour->picture(QLatin1String("find"));
     m_tour->then([] {
         if (QWidget *dialog = topLevel("WFindDialog"))
             dialog->close();

@@ -4,8 +4,11 @@
 #ifndef GUARDEDWINDOW_H
 #define GUARDEDWINDOW_H
 
+#include "guards/finddialogguide.h"
 #include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
+#include "guards/programwalk.h"
+#include "guards/windowprogram.h"
 #include "programs/programdirectory.h"
 #include "programs/programhistory.h"
 #include "wmmainwindow.h"
@@ -13,13 +16,16 @@
 //! [guarded window]
 /// From now on \a window loses nothing without a word. An opened program is compared with its file,
 /// a save is read back, and \a history keeps what a save covers. ProgramGuard::state() says how
-/// the program on the screen stands to its file. The window owns its guard.
+/// the program on the screen stands to its file. A search starts where the operator looks and goes
+/// on at the top, and a touch on the row leads to any line. The window owns its guard.
 inline ProgramGuard *guardWindow(WMMainWindow *window, Questioner *questioner,
                                  ProgramHistory *history)
 {
     ProgramGuard *guard = new ProgramGuard(window, ProgramDirectory::path(), questioner, window);
     guard->setHistory(history);
     new FindDialogKeypad(window);
+    new FindDialogGuide(WindowProgram::editorOf(window));
+    new ProgramWalk(window);
     return guard;
 }
 //! [guarded window]

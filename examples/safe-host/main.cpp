@@ -5,8 +5,10 @@
 // what the library would lose without a word.
 
 #include "guards/finddialogfitter.h"
+#include "guards/finddialogguide.h"
 #include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
+#include "guards/programwalk.h"
 #include "programs/checkeddownload.h"
 #include "programs/programdirectory.h"
 #include "programs/programhistory.h"
@@ -67,10 +69,12 @@ public:
         m_guard.setHistory(&m_history);
         m_guard.setDownload(&m_download);
         new FindDialogKeypad(this);
+        new ProgramWalk(m_window);
+        FindDialogGuide *guide = new FindDialogGuide(m_window->findChild<WGCodeEditer *>());
         keepUnsavedWork();
 
-        QObject *const tellers[] = {&m_history, &m_download, &m_guard,
-                                    &m_files,   &m_unsaved,  &m_offer};
+        QObject *const tellers[] = {&m_history, &m_download, &m_guard, &m_files,
+                                    &m_unsaved, &m_offer,    guide};
         for (QObject *teller : tellers)
             connect(teller, SIGNAL(told(QString, Message::Tone, QString)), SLOT(tell(QString)));
         connect(&m_download, SIGNAL(worked(QString, int)), SLOT(tell(QString)));
@@ -84,11 +88,7 @@ private Q_SLOTS:
     void tell(const QString &text) { statusBar()->showMessage(text); }
     void showState() { tell(m_guard.state().line()); }
 
-    void find()
-    {
-        m_window->findChild<WGCodeEditer *>()->findAndReplace();
-        FindDialogFitter::place(this);
-    }
+    void find() { FindDialogFitter::show(m_window->findChild<WGCodeEditer *>(), this); }
 
     /// A stick that was just plugged in has its names looked at before an operator uses them.
     void lookAtStick(const DeviceState &state)

@@ -6,13 +6,14 @@
 
 #include "base/filarixhostglobal.h"
 
+class QRect;
 class QWidget;
+class WGCodeEditer;
 
 /// Fits the library's find dialog to the program that shows it. The library makes the dialog once,
 /// in the language of that moment, gives it no parent, and places it nowhere.
 ///
-///     editor->findAndReplace();
-///     FindDialogFitter::place(screen);
+///     FindDialogFitter::show(editor, screen);
 ///
 /// The dialogs stay the library's own. Nothing is done where there is none.
 class FILARIX_HOST_EXPORT FindDialogFitter
@@ -20,9 +21,17 @@ class FILARIX_HOST_EXPORT FindDialogFitter
 public:
     /// Gives the dialogs their texts in the language that is installed now.
     static void retranslate();
+    /// Shows the dialog of \a editor as findAndReplace() does, and places it. It belongs to the
+    /// window of \a host before it is shown, for a window manager asks no later; so the window
+    /// never covers it, nor when the window is touched.
+    static void show(WGCodeEditer *editor, const QWidget *host);
     /// Puts the visible dialogs before the window of \a host, into its lower right corner: the
-    /// starts of the lines stay in view.
+    /// starts of the lines stay in view. Where a dialog would take more than half of the width, it
+    /// is as narrow as it can be.
     static void place(const QWidget *host);
+    /// Moves the visible dialogs off \a spot, to another side of \a area. A dialog that covers
+    /// \a spot on each side stays. Both in global coordinates.
+    static void uncover(const QRect &spot, const QRect &area);
 };
 
 #endif // FINDDIALOGFITTER_H

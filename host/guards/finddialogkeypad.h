@@ -8,7 +8,10 @@
 
 #include <QObject>
 
-/// Opens the character keypad on a touched field of the library's find dialog.
+class QWidget;
+
+/// Opens the character keypad on a touched field of the library's find dialog, and on the text to
+/// find as soon as the dialog is shown.
 ///
 /// The library's other fields open a keypad by themselves. The fields of the find dialog are made
 /// for keys, and a panel may have no keys. One serves all windows of the application: a second one
@@ -25,6 +28,9 @@ public:
 
     /// Takes nothing away from the field, unless the field went while the keypad was open.
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void openSoon(QWidget *dialog);
 };
 
 #endif // FINDDIALOGKEYPAD_H

@@ -26,6 +26,7 @@ press_panel() {
 # walk HOW: what is hidden behind the panel gets no press.
 walk() {
     touch_text Find
+    touch_named key_cancel
     expect_text "Match case"
     press_panel 20 200
     touch_text Close

@@ -37,6 +37,7 @@ desk_until 20 grep -q '^G01 X7.5$' "$programs/test-coil.cnc" || desk_fail "the l
 
 # The find dialog stands beside the main window, which can be used meanwhile.
 touch_text Find
+touch_named key_cancel
 expect_text "Match case"
 touch_text "Search backward"
 touch_text Ins

@@ -4,9 +4,12 @@
 // A host that has the companion between its operator and the library.
 
 #include <base/questioner.h>
+#include <guards/finddialogguide.h>
 #include <guards/finddialogkeypad.h>
 #include <guards/lineentry.h>
 #include <guards/programguard.h>
+#include <guards/programwalk.h>
+#include <guards/windowprogram.h>
 #include <programs/checkeddownload.h>
 #include <programs/plctransfer.h>
 #include <programs/programdirectory.h>
@@ -129,6 +132,9 @@ void guardAWindow()
     WMMainWindow window(nullptr, 0);
     new FindDialogKeypad(&window);
     new LineEntry(&window, &window);
+    new FindDialogGuide(WindowProgram::editorOf(&window));
+    const ProgramWalk walk(&window);
+    check(walk.text().isEmpty(), "no line was asked for");
     ProgramGuard guard(&window, ProgramDirectory::path(), &questioner);
     ImportGuard importGuard(ProgramDirectory::path(), QLatin1String("/mnt/Storage"), &questioner);
     UnsavedWork work(QDir::home().filePath(QLatin1String("unsaved")));

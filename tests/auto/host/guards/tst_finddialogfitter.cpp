@@ -21,7 +21,13 @@ private Q_SLOTS:
     void nothingIsDoneWithoutADialog();
     void dialogFollowsTheLanguage();
     void dialogStandsInTheCornerOfItsHost();
+    void dialogBelongsToItsHostBeforeItIsShown();
+    void dialogComesUpWithItsHost();
+    void dialogIsNarrowWhereThereIsLittleRoom();
     void hiddenDialogStaysWhereItIs();
+    void dialogStepsAside_data();
+    void dialogStepsAside();
+    void dialogWithoutAnotherPlaceStays();
 
 private:
     static QWidget *dialog();
@@ -97,6 +103,134 @@ void TestFindDialogFitter::dialogStandsInTheCornerOfItsHost()
     QCOMPARE(find->windowHandle()->transientParent(), host.windowHandle());
 #endif
     find->hide();
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+namespace {
+
+/// What a window manager is told when the dialog comes up.
+class ShowWitness : public QObject
+{
+public:
+    ShowWitness() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        // Of the native window: from here on the window manager knows it.
+        QWindow *window = qobject_cast<QWindow *>(watched);
+        if (window && event->type() == QEvent::Show)
+            belongsTo = window->transientParent();
+        return false;
+    }
+
+    QWindow *belongsTo = nullptr;
+};
+
+} // namespace
+#endif
+
+void TestFindDialogFitter::dialogBelongsToItsHostBeforeItIsShown()
+{
+    QWidget host;
+    host.setGeometry(20, 20, 500, 400);
+    host.show();
+    QVERIFY(TestCompat::waitForExposed(&host));
+    WGCodeEditer editor(nullptr);
+    // The first time and any other.
+    for (int i = 0; i < 2; ++i) {
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+        const ShowWitness witness;
+#endif
+        FindDialogFitter::show(&editor, &host);
+        QVERIFY(dialog() && dialog()->isVisible());
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+        QCOMPARE(witness.belongsTo, host.windowHandle());
+#endif
+        dialog()->hide();
+    }
+}
+
+// Where no window manager sees to it.
+void TestFindDialogFitter::dialogComesUpWithItsHost()
+{
+    class Raises : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::ZOrderChange;
+            return false;
+        }
+        int count = 0;
+    } raises;
+    QWidget host;
+    host.setGeometry(20, 20, 500, 400);
+    WGCodeEditer editor(nullptr);
+    FindDialogFitter::show(&editor, &host);
+    FindDialogFitter::show(&editor, &host);
+    dialog()->installEventFilter(&raises);
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&host, &activate);
+    QCOMPARE(raises.count, 1);
+    dialog()->hide();
+    QCoreApplication::sendEvent(&host, &activate);
+    QCOMPARE(raises.count, 1);
+}
+
+void TestFindDialogFitter::dialogIsNarrowWhereThereIsLittleRoom()
+{
+    QWidget host;
+    host.setGeometry(0, 0, 400, 250);
+    WGCodeEditer editor(nullptr);
+    FindDialogFitter::show(&editor, &host);
+    const int narrow = dialog()->width();
+    QCOMPARE(narrow, dialog()->minimumSizeHint().width());
+    dialog()->hide();
+    host.resize(1000, 250);
+    dialog()->adjustSize();
+    const int usual = dialog()->width();
+    FindDialogFitter::show(&editor, &host);
+    QCOMPARE(dialog()->width(), usual);
+    QVERIFY(usual > narrow);
+    dialog()->hide();
+}
+
+void TestFindDialogFitter::dialogStepsAside_data()
+{
+    QTest::addColumn<QPoint>("spot");
+    QTest::addColumn<bool>("isRight");
+    QTest::addColumn<bool>("isFoot");
+    QTest::newRow("not covered") << QPoint(10, 10) << true << true;
+    QTest::newRow("right foot") << QPoint(790, 590) << false << true;
+}
+
+void TestFindDialogFitter::dialogStepsAside()
+{
+    QFETCH(QPoint, spot);
+    QFETCH(bool, isRight);
+    QFETCH(bool, isFoot);
+    QWidget host;
+    host.setGeometry(0, 0, 800, 600);
+    WGCodeEditer editor(nullptr);
+    FindDialogFitter::show(&editor, &host);
+    const QRect area(host.mapToGlobal(QPoint()), host.size());
+    FindDialogFitter::uncover(QRect(area.topLeft() + spot, QSize(5, 5)), area);
+    QTRY_COMPARE(dialog()->x(), isRight ? area.right() + 1 - dialog()->width() : area.x());
+    QTRY_COMPARE(dialog()->y(), isFoot ? area.bottom() + 1 - dialog()->height() : area.y());
+    dialog()->hide();
+}
+
+void TestFindDialogFitter::dialogWithoutAnotherPlaceStays()
+{
+    QWidget host;
+    host.setGeometry(0, 0, 800, 600);
+    WGCodeEditer editor(nullptr);
+    FindDialogFitter::show(&editor, &host);
+    const QPoint before = dialog()->pos();
+    const QRect area(host.mapToGlobal(QPoint()), host.size());
+    FindDialogFitter::uncover(area, area);
+    QCOMPARE(dialog()->pos(), before);
+    dialog()->hide();
 }
 
 void TestFindDialogFitter::hiddenDialogStaysWhereItIs()

@@ -16,6 +16,9 @@ private Q_SLOTS:
     void init();
     void touchedFieldOfTheFindDialogTakesTheKeypadsText();
     void withoutATouchScreenNoKeypadOpens();
+    void shownDialogOpensTheKeypadAtOnce();
+    void dialogThatGoesFirstOpensNothing();
+    void keypadIsToldWhatTheFieldIsFor();
     void fieldsOfOtherDialogsAreLeftAlone();
 };
 
@@ -27,9 +30,9 @@ void TestFindDialogKeypad::init()
 
 void TestFindDialogKeypad::touchedFieldOfTheFindDialogTakesTheKeypadsText()
 {
-    FindDialogKeypad keypad(nullptr);
     WFindDialog dialog(nullptr);
     dialog.show();
+    FindDialogKeypad keypad(nullptr);
     QLineEdit *field = dialog.findChild<QLineEdit *>();
     field->setText("G00");
     DeviceLog::acceptWith("X10");
@@ -50,7 +53,59 @@ void TestFindDialogKeypad::withoutATouchScreenNoKeypadOpens()
     WFindDialog dialog(nullptr);
     dialog.show();
     QTest::mouseClick(dialog.findChild<QLineEdit *>(), Qt::LeftButton);
+    QCoreApplication::processEvents();
     QVERIFY(DeviceLog::keypadCalls().isEmpty());
+}
+
+void TestFindDialogKeypad::shownDialogOpensTheKeypadAtOnce()
+{
+    FindDialogKeypad keypad(nullptr);
+    WFindDialog dialog(nullptr);
+    QLineEdit *field = dialog.findChild<QLineEdit *>();
+    DeviceLog::acceptWith("S450");
+    dialog.show();
+    // Whoever shows the dialog places it first.
+    QVERIFY(DeviceLog::keypadCalls().isEmpty());
+    QTRY_COMPARE(field->text(), QString("S450"));
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+
+    // Each time anew, with the text that is there.
+    dialog.hide();
+    DeviceLog::cancel();
+    dialog.show();
+    QTRY_COMPARE(DeviceLog::answersLeft(), 0);
+    QVERIFY(DeviceLog::keypadCalls().contains("CharacterKeypad.setText(S450)"));
+    QCOMPARE(field->text(), QString("S450"));
+    QVERIFY(dialog.isVisible());
+}
+
+void TestFindDialogKeypad::dialogThatGoesFirstOpensNothing()
+{
+    FindDialogKeypad keypad(nullptr);
+    {
+        WFindDialog dialog(nullptr);
+        dialog.show();
+    }
+    WFindDialog dialog(nullptr);
+    dialog.show();
+    dialog.hide();
+    QCoreApplication::processEvents();
+    QVERIFY(DeviceLog::keypadCalls().isEmpty());
+}
+
+void TestFindDialogKeypad::keypadIsToldWhatTheFieldIsFor()
+{
+    WFindDialog dialog(nullptr);
+    dialog.show();
+    FindDialogKeypad keypad(nullptr);
+    QStringList names;
+    Q_FOREACH (QLineEdit *field, dialog.findChildren<QLineEdit *>()) {
+        DeviceLog::runThenCancel(
+            [&] { names.append(DeviceLog::object()->property("hmiName").toString()); });
+        QTest::mouseClick(field, Qt::LeftButton);
+    }
+    QCOMPARE(names, QStringList() << "Find what"
+                                  << "Replace what");
 }
 
 void TestFindDialogKeypad::fieldsOfOtherDialogsAreLeftAlone()
