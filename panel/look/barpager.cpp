@@ -95,7 +95,10 @@ QVector<int> BarPager::widths() const
     QVector<int> widths;
     for (QAction *item : m_items) {
         const QWidget *widget = m_bar->widgetForAction(item);
-        const int own = item->isSeparator() || !widget ? separator : widget->sizeHint().width();
+        const bool isWidget = widget && !item->isSeparator();
+        // A button may ask for more than its text does.
+        const int own =
+            isWidget ? widget->sizeHint().expandedTo(widget->minimumSize()).width() : separator;
         widths.append(own + spacing);
     }
     return widths;
