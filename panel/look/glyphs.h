@@ -56,6 +56,7 @@ enum Glyph {
     List,
     Up,
     Down,
+    ToLine,
     Inform,
     Warn,
     Alarm

@@ -5,18 +5,22 @@
 
 #include "filarixpanel.h"
 #include "guards/finddialogfitter.h"
+#include "guards/finddialogguide.h"
 #include "guards/lineentry.h"
 #include "guards/programguard.h"
+#include "guards/programwalk.h"
 #include "look/barpager.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "programs/checkeddownload.h"
 #include "programs/programdirectory.h"
+#include "programs/programname.h"
 #include "screens/downloadquestion.h"
 #include "screens/findingsbar.h"
 #include "screens/findingsdialog.h"
 #include "screens/machinedata.h"
 #include "screens/programreview.h"
+#include "screens/walkkeys.h"
 #include "shell/stateline.h"
 #include "stick/stick.h"
 #include "wgcodeediter.h"
@@ -28,6 +32,7 @@
 #include <QEvent>
 #include <QEventLoop>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTextBlock>
@@ -41,6 +46,8 @@ namespace {
 // Longer than a healthy disk takes for the largest program.
 const int closingPatienceMs = 5000;
 const int closingTickMs = 50;
+// The library's word for a program without a file, in every language.
+const char libraryUnnamed[] = "Untitled";
 // The window keeps what its bars need.
 const int besideWidth = 440;
 
@@ -83,6 +90,10 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
                                      m_questioner.data(), this))
     , m_guard(new ProgramGuard(m_window, ProgramDirectory::path(), m_questioner.data(), this))
     , m_lineEntry(new LineEntry(m_window, this))
+    , m_walk(new ProgramWalk(m_window))
+    , m_walkKeys(new WalkKeys(m_walk))
+    , m_findGuide(new FindDialogGuide(m_editor))
+    , m_fileLabel(m_window->widget(0)->findChild<QLabel *>())
     , m_stateLine(new StateLine)
     , m_layout(new QGridLayout(this))
 {
@@ -95,11 +106,14 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     Look::keepLight(m_editor);
     // The line is marked already, in the colour of before.
     QMetaObject::invokeMethod(m_editor, "highlightCurrentLine");
+    makeWalk();
     // The strips hold what they hold: dragged shut they would be lost to a thumb.
     m_window->setChildrenCollapsible(false);
     const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
     for (QToolBar *bar : bars)
         new BarPager(bar);
+    m_fileLabel->parentWidget()->installEventFilter(this);
+    nameUnnamed();
 
     // The window leaves it to its host whether the modified mark lives.
     QTextDocument *document = m_editor->document();
@@ -129,6 +143,17 @@ ProgramScreen::~ProgramScreen()
     delete m_download;
     delete m_window;
     qDeleteAll(m_spareButtons);
+}
+
+// A small panel has no room beside its few lines.
+void ProgramScreen::makeWalk()
+{
+    if (isSmall())
+        m_walkKeys->putInto(m_window->findChildren<QToolBar *>().last());
+    else
+        m_walkKeys->putBeside(m_window);
+    connect(m_findGuide, &FindDialogGuide::told, this, &ProgramScreen::told);
+    connect(m_findGuide, &FindDialogGuide::causeEnded, this, &ProgramScreen::causeEnded);
 }
 
 void ProgramScreen::setHistory(ProgramHistory *history)
@@ -225,9 +250,10 @@ PlcTransfer *ProgramScreen::transfer() const
 
 QString ProgramScreen::title() const
 {
+    // The library's title has a name for a program without a file, too.
+    if (m_window->getCurrentFile().isEmpty())
+        return ProgramName::unnamed();
     const QString whole = m_window->windowTitle();
-    if (whole.isEmpty())
-        return tr("New program");
     return whole.left(whole.indexOf(QLatin1String("[*]")));
 }
 
@@ -333,11 +359,28 @@ bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_window
         && (event->type() == QEvent::WindowTitleChange || event->type() == QEvent::ModifiedChange))
         Q_EMIT titleChanged();
+    // Another text in the strip asks for another layout first, and is painted after that.
+    if (event->type() == QEvent::LayoutRequest && m_fileLabel
+        && watched == m_fileLabel->parentWidget())
+        nameUnnamed();
     return PanelScreen::eventFilter(watched, event);
+}
+
+// One name for it, on the strip above the editor as well.
+void ProgramScreen::nameUnnamed()
+{
+    const QString shown = m_fileLabel->text();
+    if (!m_window->getCurrentFile().isEmpty()
+        || (shown != QLatin1String(libraryUnnamed) && shown != m_unnamed))
+        return;
+    m_unnamed = ProgramName::unnamed();
+    m_fileLabel->setText(m_unnamed);
 }
 
 void ProgramScreen::retranslate()
 {
+    m_walkKeys->retranslate();
+    nameUnnamed();
     showState();
     showCheck();
     FindDialogFitter::retranslate();
@@ -366,6 +409,5 @@ void ProgramScreen::insertTaughtPoint()
 
 void ProgramScreen::find()
 {
-    m_editor->findAndReplace();
-    FindDialogFitter::place(this);
+    FindDialogFitter::show(m_editor, this);
 }

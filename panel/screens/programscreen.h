@@ -6,10 +6,12 @@
 
 #include "shell/panelscreen.h"
 
+#include <QPointer>
 #include <QScopedPointer>
 #include <QSet>
 
 class CheckedDownload;
+class FindDialogGuide;
 class FindingsBar;
 class LineEntry;
 class MachineData;
@@ -17,9 +19,12 @@ class PlcTransfer;
 class ProgramGuard;
 class ProgramHistory;
 class ProgramReview;
+class ProgramWalk;
 class Questioner;
 class StateLine;
+class WalkKeys;
 class QGridLayout;
+class QLabel;
 class QToolButton;
 class WGCodeEditer;
 class WMMainWindow;
@@ -81,6 +86,8 @@ protected:
 private:
     void insertTaughtPoint();
     void find();
+    void makeWalk();
+    void nameUnnamed();
     void showState();
     void showCheck();
     void listFindings();
@@ -96,6 +103,12 @@ private:
     CheckedDownload *m_download;
     ProgramGuard *m_guard;
     LineEntry *m_lineEntry;
+    ProgramWalk *m_walk;
+    WalkKeys *m_walkKeys;
+    FindDialogGuide *m_findGuide;
+    /// The library's, with the program's name. It goes with the window, before the screen does.
+    QPointer<QLabel> m_fileLabel;
+    QString m_unnamed;
     StateLine *m_stateLine;
     QGridLayout *m_layout;
     QWidget *m_beside = nullptr;

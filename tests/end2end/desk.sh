@@ -21,6 +21,8 @@ desk_pids=()
 # How far the panel turns its picture, and the size of that picture before it is turned.
 desk_turn=0
 desk_size=
+# How often the operator has touched the screen so far.
+desk_touches=0
 # The X server's number of the window that shows it.
 desk_glass=
 
@@ -130,6 +132,7 @@ desk_has_ended() { ! kill -0 "${desk_pids[-1]}" 2>/dev/null; }
 # desk_click_at X Y: on the screen, or, when the picture is turned, on what the operator sees there.
 desk_click_at() {
     local x=$1 y=$2 right bottom
+    desk_touches=$((desk_touches + 1))
     right=$((${desk_size%x*} - 1 - x))
     bottom=$((${desk_size#*x} - 1 - y))
     case "$desk_turn" in

@@ -76,7 +76,7 @@ expect_same /tmp/expected "$programs/stator-coil.cnc" "the saved program"
 
 # A new program gets a name of its own proposed, and covers no other one unasked.
 touch_text New
-expect_text Untitled
+expect_text "New program"
 touch_text Ins
 touch_text Save
 expect_text program.cnc "Save as"

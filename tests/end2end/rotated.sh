@@ -50,7 +50,7 @@ expect_text Discard
 desk_picture rotated-question.png
 touch_text Discard
 expect_gone Discard
-expect_text Untitled
+expect_text "New program"
 
 touch_text Variables
 expect_text "Machine variables"

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "contrast.h"
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "guards/programguard.h"
+#include "look/look.h"
 #include "look/panelkey.h"
 #include "modaldriver.h"
 #include "programs/checkeddownload.h"
@@ -44,6 +46,12 @@ private Q_SLOTS:
     void tagTellsWhenNothingIsLeft();
     void undoAndRedoKeysFollowTheDocument();
     void findKeyOpensTheDialog();
+    void findTellsWhenItGoesOnAtTheTop();
+    void findShowsReadableHits_data();
+    void findShowsReadableHits();
+    void touchOnTheRowLeadsToALine();
+    void pagingKeysAreThere();
+    void unnamedProgramHasOneName();
     void closingWithChangesAsks_data();
     void closingWithChangesAsks();
     void closingWaitsForASave();
@@ -317,6 +325,139 @@ void TestProgramScreen::findKeyOpensTheDialog()
     QVERIFY(dialog);
     QVERIFY(dialog->isVisible());
     QCOMPARE(dialog->windowHandle()->transientParent(), m_screen->windowHandle());
+}
+
+static QWidget *findDialog()
+{
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (widget->inherits("WFindDialog"))
+            return widget;
+    }
+    return nullptr;
+}
+
+static void findNext(const QString &text)
+{
+    findDialog()->findChild<QLineEdit *>()->setText(text);
+    findDialog()->findChildren<QPushButton *>().first()->click();
+}
+
+void TestProgramScreen::findTellsWhenItGoesOnAtTheTop()
+{
+    m_screen->editor()->setPlainText("G01\nG03\n" + QString("G02\n").repeated(300));
+    m_screen->editor()->moveCursor(QTextCursor::End);
+    MessageLog log;
+    connect(m_screen, &PanelScreen::told, &log, &MessageLog::tell);
+    connect(m_screen, &PanelScreen::causeEnded, &log, &MessageLog::end);
+    QTest::mouseClick(key("Find"), Qt::LeftButton);
+    findNext("g01");
+    QCOMPARE(m_screen->editor()->getCurRowNumber(), 1);
+    QCOMPARE(log.current().text, QString("End reached, went on at the top: line 1."));
+    // The next search says nothing, and the word has had its time.
+    findNext("g03");
+    QCOMPARE(m_screen->editor()->getCurRowNumber(), 2);
+    QVERIFY(log.current().text.isEmpty());
+}
+
+void TestProgramScreen::findShowsReadableHits_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::newRow("light") << int(Look::Light);
+    QTest::newRow("dark") << int(Look::Dark);
+    QTest::newRow("made light, now dark") << -1;
+}
+
+void TestProgramScreen::findShowsReadableHits()
+{
+    QFETCH(int, look);
+    const QPalette before = QApplication::palette();
+    Look::use(look < 0 ? Look::Light : Look::Style(look));
+    ProgramScreen screen(0, m_plc, home() + "/hmi", m_machine);
+    qDeleteAll(screen.keys());
+    if (look < 0)
+        Look::use(Look::Dark);
+    screen.resize(800, 400);
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    WGCodeEditer *editor = screen.editor();
+    editor->setPlainText("G01 X12.50\nG02\n");
+    editor->findNext("G01 X12.50", Qt::CaseSensitive);
+    QTextCursor start = editor->textCursor();
+    start.setPosition(0);
+    const QRect hit = editor->cursorRect(start).united(editor->cursorRect()).adjusted(1, 1, -2, -1);
+    // With the focus, and while the dialog has it.
+    screen.activateWindow();
+    editor->setFocus();
+    QTRY_VERIFY(editor->hasFocus());
+    const double focused = Contrast::drawn(editor->viewport(), hit);
+    m_screen->activateWindow();
+    QTRY_VERIFY(!editor->hasFocus());
+    const double unfocused = Contrast::drawn(editor->viewport(), hit);
+    Look::use(Look::Light);
+    QApplication::setPalette(before);
+    QVERIFY2(focused >= Contrast::textContrast, qPrintable(QString::number(focused)));
+    QVERIFY2(unfocused >= Contrast::textContrast, qPrintable(QString::number(unfocused)));
+}
+
+void TestProgramScreen::touchOnTheRowLeadsToALine()
+{
+    m_screen->editor()->setPlainText(QString("G01\n").repeated(3000));
+    const QList<QLabel *> labels = m_screen->programWindow()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->text() == "Row:") {
+            DeviceLog::acceptWith("2500");
+            QTest::mouseClick(label, Qt::LeftButton);
+        }
+    }
+    QTRY_COMPARE(m_screen->editor()->getCurRowNumber(), 2500);
+}
+
+void TestProgramScreen::pagingKeysAreThere()
+{
+    m_screen->editor()->setPlainText(QString("G01\n").repeated(3000));
+    const QList<QToolButton *> buttons = m_screen->programWindow()->findChildren<QToolButton *>();
+    QStringList names;
+    for (QToolButton *button : buttons) {
+        if (!button->accessibleName().isEmpty())
+            names.append(button->accessibleName());
+        if (button->accessibleName() == "Last line")
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QCOMPARE(names, QStringList() << "First line"
+                                  << "Page up"
+                                  << "Go to a line"
+                                  << "Page down"
+                                  << "Last line");
+    QCOMPARE(m_screen->editor()->getCurRowNumber(), 3001);
+}
+
+void TestProgramScreen::unnamedProgramHasOneName()
+{
+    const QLabel *label = m_screen->programWindow()->findChild<QLabel *>();
+    const auto hasOneName = [&](const QString &name) {
+        return m_screen->title() == name && label->text() == name;
+    };
+    QTRY_VERIFY(hasOneName("New program"));
+    open("coil.cnc", "G01\n");
+    QTRY_VERIFY(hasOneName("coil.cnc"));
+    for (int i = 0; i < 2; ++i) {
+        QTest::mouseClick(button("New"), Qt::LeftButton);
+        QTRY_VERIFY(m_screen->programWindow()->getCurrentFile().isEmpty());
+        QTRY_VERIFY2(hasOneName("New program"), qPrintable(label->text()));
+    }
+    {
+        const TestCompat::MarkingTranslator translator("ProgramName");
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m_screen, &change);
+        QTRY_VERIFY(hasOneName("New program*"));
+    }
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(m_screen, &change);
+    QTRY_VERIFY(hasOneName("New program"));
+    // A program of that name is not unnamed.
+    open("untitled.cnc", "G01\n");
+    QTRY_VERIFY(hasOneName("untitled.cnc"));
 }
 
 void TestProgramScreen::closingWithChangesAsks_data()

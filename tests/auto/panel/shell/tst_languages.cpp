@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "devicelog.h"
 #include "filarixtest.h"
 #include "look/livetext.h"
 #include "look/panelkey.h"
@@ -330,6 +331,8 @@ void TestLanguages::theRunningPanelChangesItsLanguage()
 void TestLanguages::theFindDialogFollows()
 {
     Panel panel(QSize(800, 480));
+    // For the keypad that opens at once.
+    DeviceLog::cancel();
     panel.program.programScreen()->editor()->findAndReplace();
     QWidget *dialog = nullptr;
     const QWidgetList topLevels = QApplication::topLevelWidgets();

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "screens/walkkeys.h"
+
+#include "guards/programwalk.h"
+#include "look/look.h"
+#include "look/panelkey.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+
+// Pixels: 9 mm at 133 dpi.
+const int keySide = 48;
+const int gap = 2;
+// Of the window's parts, from the top.
+const int editorPart = 1;
+
+// In the order of the keys. The library has most of the drawings for its hosts.
+const struct
+{
+    const char *icon;
+    const char *text;
+    const char *description;
+    void (ProgramWalk::*step)();
+    /// So many keys have room at least where this one is shown.
+    int fromRoom;
+} walkTable[] = {
+    {"home", QT_TRANSLATE_NOOP("WalkKeys", "First"), QT_TRANSLATE_NOOP("WalkKeys", "First line"),
+     &ProgramWalk::goToFirst, 4},
+    {"pageUp", QT_TRANSLATE_NOOP("WalkKeys", "Page"), QT_TRANSLATE_NOOP("WalkKeys", "Page up"),
+     &ProgramWalk::pageUp, 0},
+    {nullptr, QT_TRANSLATE_NOOP("WalkKeys", "Line"), QT_TRANSLATE_NOOP("WalkKeys", "Go to a line"),
+     &ProgramWalk::askForLine, 5},
+    {"pageDown", QT_TRANSLATE_NOOP("WalkKeys", "Page"), QT_TRANSLATE_NOOP("WalkKeys", "Page down"),
+     &ProgramWalk::pageDown, 0},
+    {"end", QT_TRANSLATE_NOOP("WalkKeys", "Last"), QT_TRANSLATE_NOOP("WalkKeys", "Last line"),
+     &ProgramWalk::goToLast, 4},
+};
+const int keyCount = sizeof walkTable / sizeof *walkTable;
+const int leastKeys = 2;
+
+int heightOf(int keys, int side)
+{
+    return keys * (side + gap) + gap;
+}
+
+/// How many keys \a height has room for. All of them are of full height; fewer may be lower.
+int roomFor(int height)
+{
+    if (height >= heightOf(keyCount, keySide))
+        return keyCount;
+    return height >= heightOf(keyCount - 1, Look::smallestTouch) ? keyCount - 1 : leastKeys;
+}
+
+} // namespace
+
+WalkKeys::WalkKeys(ProgramWalk *walk) : QObject(walk), m_walk(walk) {}
+
+void WalkKeys::putBeside(QSplitter *window)
+{
+    QWidget *panel = new QWidget;
+    panel->setObjectName(QLatin1String("walkKeys"));
+    Look::dress(panel, Look::KeyPanel);
+    QVBoxLayout *column = new QVBoxLayout(panel);
+    column->setContentsMargins(gap, gap, gap, gap);
+    column->setSpacing(gap);
+    for (int i = 0; i < keyCount; ++i) {
+        PanelKey *key = new PanelKey(icon(i, false), QLatin1String("-"));
+        key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        key->setMinimumSize(keySide, Look::smallestTouch);
+        key->setMaximumHeight(2 * Look::smallestTouch);
+        column->addWidget(key);
+        add(key, i);
+    }
+    // The keys that have room are shown, so they ask for none.
+    panel->setMinimumHeight(heightOf(leastKeys, Look::smallestTouch));
+    panel->installEventFilter(this);
+
+    QWidget *editor = window->widget(editorPart);
+    // With a style sheet of its own it would lose the font of its line numbers on the way.
+    const QString sheet = editor->styleSheet();
+    editor->setStyleSheet(QString());
+    QWidget *holder = new QWidget;
+    QHBoxLayout *row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    window->insertWidget(editorPart, holder);
+    row->addWidget(editor, 1);
+    row->addWidget(panel);
+    editor->setStyleSheet(sheet);
+    window->setStretchFactor(editorPart, 1);
+    retranslate();
+}
+
+void WalkKeys::putInto(QToolBar *bar)
+{
+    bar->addSeparator();
+    for (int i = 0; i < keyCount; ++i) {
+        QToolButton *button = new QToolButton;
+        button->setIcon(icon(i, true));
+        button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        button->setMinimumWidth(keySide);
+        bar->addWidget(button);
+        add(button, i);
+    }
+    retranslate();
+}
+
+void WalkKeys::add(QToolButton *button, int index)
+{
+    m_keys.append(button);
+    connect(button, &QToolButton::clicked, m_walk, walkTable[index].step);
+}
+
+QIcon WalkKeys::icon(int index, bool isInBar) const
+{
+    const char *name = walkTable[index].icon;
+    if (name)
+        return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
+    return Glyphs::icon(Glyphs::ToLine, isInBar ? Glyphs::OnPaper : Glyphs::OnKey);
+}
+
+void WalkKeys::retranslate()
+{
+    for (int i = 0; i < m_keys.size(); ++i) {
+        m_keys.at(i)->setText(tr(walkTable[i].text));
+        m_keys.at(i)->setAccessibleName(tr(walkTable[i].description));
+    }
+}
+
+bool WalkKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize) {
+        const int room = roomFor(static_cast<QWidget *>(watched)->height());
+        for (int i = 0; i < m_keys.size(); ++i)
+            m_keys.at(i)->setVisible(room >= walkTable[i].fromRoom);
+    }
+    return QObject::eventFilter(watched, event);
+}
