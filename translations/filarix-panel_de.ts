@@ -522,10 +522,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>New program</source>
-        <translation>Unbenannt</translation>
-    </message>
-    <message>
         <source>Find</source>
         <translation>Suchen</translation>
     </message>
@@ -932,6 +928,45 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, Werte: %3</translation>
+    </message>
+</context>
+<context>
+    <name>WalkKeys</name>
+    <message>
+        <source>First</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>First line</source>
+        <translation>Erste Zeile</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite zurück</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Go to a line</source>
+        <translation>Zu einer Zeile</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite weiter</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Last line</source>
+        <translation>Letzte Zeile</translation>
     </message>
 </context>
 </TS>

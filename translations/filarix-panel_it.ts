@@ -522,10 +522,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>New program</source>
-        <translation>Senza nome</translation>
-    </message>
-    <message>
         <source>Find</source>
         <translation>Trova</translation>
     </message>
@@ -932,6 +928,45 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, valori: %3</translation>
+    </message>
+</context>
+<context>
+    <name>WalkKeys</name>
+    <message>
+        <source>First</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>First line</source>
+        <translation>Prima riga</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Pagina</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Riga</translation>
+    </message>
+    <message>
+        <source>Go to a line</source>
+        <translation>Vai a una riga</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Last line</source>
+        <translation>Ultima riga</translation>
     </message>
 </context>
 </TS>

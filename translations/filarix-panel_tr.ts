@@ -522,10 +522,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>New program</source>
-        <translation>Adsız</translation>
-    </message>
-    <message>
         <source>Find</source>
         <translation>Bul</translation>
     </message>
@@ -932,6 +928,45 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, değer: %3</translation>
+    </message>
+</context>
+<context>
+    <name>WalkKeys</name>
+    <message>
+        <source>First</source>
+        <translation>Baş</translation>
+    </message>
+    <message>
+        <source>First line</source>
+        <translation>İlk satır</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Sayfa</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Sayfa yukarı</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Satır</translation>
+    </message>
+    <message>
+        <source>Go to a line</source>
+        <translation>Satıra git</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sayfa aşağı</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Son</translation>
+    </message>
+    <message>
+        <source>Last line</source>
+        <translation>Son satır</translation>
     </message>
 </context>
 </TS>

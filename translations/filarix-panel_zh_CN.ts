@@ -522,10 +522,6 @@
 <context>
     <name>ProgramScreen</name>
     <message>
-        <source>New program</source>
-        <translation>新程序</translation>
-    </message>
-    <message>
         <source>Find</source>
         <translation>查找</translation>
     </message>
@@ -932,6 +928,45 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, 数值: %3</translation>
+    </message>
+</context>
+<context>
+    <name>WalkKeys</name>
+    <message>
+        <source>First</source>
+        <translation>首行</translation>
+    </message>
+    <message>
+        <source>First line</source>
+        <translation>第一行</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>翻页</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Go to a line</source>
+        <translation>转到某行</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>末行</translation>
+    </message>
+    <message>
+        <source>Last line</source>
+        <translation>最后一行</translation>
     </message>
 </context>
 </TS>

@@ -260,6 +260,17 @@
     </message>
 </context>
 <context>
+    <name>FindDialogGuide</name>
+    <message>
+        <source>Start reached, went on at the end: line %1.</source>
+        <translation>Anfang erreicht, weiter vom Ende: Zeile %1.</translation>
+    </message>
+    <message>
+        <source>End reached, went on at the top: line %1.</source>
+        <translation>Ende erreicht, weiter von oben: Zeile %1.</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>A control character stands here, which nobody sees.</source>
@@ -1003,6 +1014,10 @@
         <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
         <translation>Ein Name mit einem Punkt am Anfang fehlt in den Listen. Einen anderen wählen.</translation>
     </message>
+    <message>
+        <source>New program</source>
+        <translation>Unbenannt</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -1075,6 +1090,13 @@
     <message>
         <source>Not checked to the end</source>
         <translation>Nicht bis zum Ende geprüft</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWalk</name>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
     </message>
 </context>
 <context>
@@ -1241,10 +1263,6 @@
     <message>
         <source>%1: brought back, not saved yet.</source>
         <translation>%1: zurückgeholt, noch nicht gespeichert.</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>%1, %2, lines: %3</source>

@@ -260,6 +260,17 @@
     </message>
 </context>
 <context>
+    <name>FindDialogGuide</name>
+    <message>
+        <source>Start reached, went on at the end: line %1.</source>
+        <translation>Inizio raggiunto, ripreso dalla fine: riga %1.</translation>
+    </message>
+    <message>
+        <source>End reached, went on at the top: line %1.</source>
+        <translation>Fine raggiunta, ripreso dall&apos;inizio: riga %1.</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>A control character stands here, which nobody sees.</source>
@@ -1003,6 +1014,10 @@
         <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
         <translation>Un nome che inizia con un punto non appare negli elenchi. Sceglierne un altro.</translation>
     </message>
+    <message>
+        <source>New program</source>
+        <translation>Senza nome</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -1075,6 +1090,13 @@
     <message>
         <source>Not checked to the end</source>
         <translation>Controllo non completo</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWalk</name>
+    <message>
+        <source>Line</source>
+        <translation>Riga</translation>
     </message>
 </context>
 <context>
@@ -1241,10 +1263,6 @@
     <message>
         <source>%1: brought back, not saved yet.</source>
         <translation>%1: ripristinato, non ancora salvato.</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>Senza nome</translation>
     </message>
     <message>
         <source>%1, %2, lines: %3</source>

@@ -260,6 +260,17 @@
     </message>
 </context>
 <context>
+    <name>FindDialogGuide</name>
+    <message>
+        <source>Start reached, went on at the end: line %1.</source>
+        <translation>Başa gelindi, sondan devam edildi: satır %1.</translation>
+    </message>
+    <message>
+        <source>End reached, went on at the top: line %1.</source>
+        <translation>Sona gelindi, baştan devam edildi: satır %1.</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>A control character stands here, which nobody sees.</source>
@@ -1003,6 +1014,10 @@
         <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
         <translation>Noktayla başlayan ad listelerde görünmez. Başka bir ad seçin.</translation>
     </message>
+    <message>
+        <source>New program</source>
+        <translation>Adsız</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -1075,6 +1090,13 @@
     <message>
         <source>Not checked to the end</source>
         <translation>Sonuna kadar denetlenmedi</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWalk</name>
+    <message>
+        <source>Line</source>
+        <translation>Satır</translation>
     </message>
 </context>
 <context>
@@ -1241,10 +1263,6 @@
     <message>
         <source>%1: brought back, not saved yet.</source>
         <translation>%1: geri alındı, henüz kaydedilmedi.</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>Adsız</translation>
     </message>
     <message>
         <source>%1, %2, lines: %3</source>

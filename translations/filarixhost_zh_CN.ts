@@ -260,6 +260,17 @@
     </message>
 </context>
 <context>
+    <name>FindDialogGuide</name>
+    <message>
+        <source>Start reached, went on at the end: line %1.</source>
+        <translation>已到开头，从末尾继续：第 %1 行。</translation>
+    </message>
+    <message>
+        <source>End reached, went on at the top: line %1.</source>
+        <translation>已到末尾，从开头继续：第 %1 行。</translation>
+    </message>
+</context>
+<context>
     <name>Finding</name>
     <message>
         <source>A control character stands here, which nobody sees.</source>
@@ -1003,6 +1014,10 @@
         <source>A name that begins with a dot is hidden from the lists. Take another one.</source>
         <translation>以点开头的名称不会出现在列表中。请换一个。</translation>
     </message>
+    <message>
+        <source>New program</source>
+        <translation>新程序</translation>
+    </message>
 </context>
 <context>
     <name>ProgramSnapshot</name>
@@ -1075,6 +1090,13 @@
     <message>
         <source>Not checked to the end</source>
         <translation>未检查完毕</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWalk</name>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
     </message>
 </context>
 <context>
@@ -1241,10 +1263,6 @@
     <message>
         <source>%1: brought back, not saved yet.</source>
         <translation>%1: 已恢复, 尚未保存。</translation>
-    </message>
-    <message>
-        <source>New program</source>
-        <translation>新程序</translation>
     </message>
     <message>
         <source>%1, %2, lines: %3</source>
