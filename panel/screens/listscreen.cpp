@@ -203,7 +203,7 @@ void ListScreen::tellUnread(const RowKeeper::Loaded &loaded, const QString &when
 
 void ListScreen::store()
 {
-    if (m_keeper->isBusy())
+    if (m_keeper->isBusy() || !mayStore())
         return;
     const QList<QStringList> shown = rows();
     m_keeper->store(storePath(), rowsToStore(),
@@ -215,6 +215,7 @@ void ListScreen::noteStored(const QList<QStringList> &rows, const RowKeeper::Sto
 {
     if (!stored.isStored)
         return Q_EMIT told(stored.error, Message::Alarm, storage);
+    noteStore();
     markStored(rows);
     Q_EMIT causeEnded(storage);
     Q_EMIT causeEnded(fileCause());

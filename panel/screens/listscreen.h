@@ -56,11 +56,17 @@ protected:
     virtual QString storePath() const = 0;
     /// What store() writes; the list's rows if nothing else is said.
     virtual QList<QStringList> rowsToStore() const { return rows(); }
+    /// Whether what store() would write may stand in the file; tells the operator if not.
+    virtual bool mayStore() { return true; }
+    /// What rowsToStore() gave last is in the file.
+    virtual void noteStore() {}
     /// What the operator is told once \a count rows are stored.
     virtual QString storedText(int count) const = 0;
     /// What messages about the file are about.
     virtual QString fileCause() const = 0;
     RowKeeper *keeper() { return m_keeper; }
+    /// The rows that the file holds.
+    const QList<QStringList> &storedRows() const { return m_stored; }
     /// The file holds \a rows.
     void markStored(const QList<QStringList> &rows);
     /// Why there are no rows, if so, and what the operator can do.

@@ -3,61 +3,66 @@
 
 #include "screens/variablesscreen.h"
 
+#include "dataeditor.h"
 #include "filarixpanel.h"
 #include "look/panelkey.h"
-#include "storage/rowfile.h"
+#include "screens/knownrows.h"
+#include "screens/valuekeypad.h"
 #include "tlistwidget.h"
 
+#include <QChildEvent>
 #include <QDir>
-#include <QHash>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 
 namespace {
 
-// Kind, number, nothing, name, value: the shape of a row with one wide field.
-const int rowLength = 5;
-const int nameAt = 3;
-const int valueAt = 4;
+const int nameAt = VariableTable::nameAt;
+const int valueAt = VariableTable::valueAt;
+// A value that fills no message.
+const int toldLetters = 20;
 
-struct Variable
+// What messages about values that may not be are about.
+const QLatin1String refusedValues("refused values");
+
+/// The row that a widget shows, from its first cell: "N5".
+int numberOf(DataEditor *row)
 {
-    const char *name;
-    const char *value;
-};
-
-// The list gives a name little more than a sixth of the panel's width.
-const Variable defaultValues[] = {
-    {"Wire", "0.50 mm"},  {"Window", "36.0 mm"}, {"Core", "12.0 mm"},  {"Layers", "28"},
-    {"Turns", "2016"},    {"Tension", "6.0 N"},  {"T. step", "0.1 N"}, {"T. limit", "8.5 N"},
-    {"Lead", "0.35 mm"},  {"Slow", "120 rpm"},   {"Lay", "480 rpm"},   {"Wind", "900 rpm"},
-    {"Ramp", "2.5 s"},    {"Brake", "1.2 s"},    {"Edge", "0.50 mm"},  {"Dwell", "0.3 s"},
-    {"Tape", "6 layers"}, {"Pin X", "-6.0 mm"},  {"Pin Y", "14.0 mm"}, {"Cut Y", "40.0 mm"},
-    {"Oil", "240 min"},   {"Coils", "1250"},     {"Scrap", "7"},       {"Shift", "first"},
-};
-
-QList<QStringList> defaults()
-{
-    QList<QStringList> rows;
-    for (const Variable &variable : defaultValues)
-        rows.append({QLatin1String("DataEditor"), QString(), QString(),
-                     QLatin1String(variable.name), QLatin1String(variable.value)});
-    return rows;
+    return row->getData().value(0).mid(1).toInt();
 }
 
-QList<QStringList> emptied(QList<QStringList> rows)
+/// Null for a row without one.
+ValueMark *markOf(const DataEditor *row)
 {
-    for (QStringList &row : rows)
-        row[valueAt].clear();
-    return rows;
+    return row ? row->findChild<ValueMark *>() : nullptr;
+}
+
+QString shortened(const QString &value)
+{
+    return value.size() > toldLetters ? value.left(toldLetters) + QLatin1String("...") : value;
 }
 
 } // namespace
 
 VariablesScreen::VariablesScreen(const QSize &surface, const QString &folder, QWidget *parent)
+    : VariablesScreen(surface, folder, std::make_shared<KnownRows>(), parent)
+{}
+
+VariablesScreen::VariablesScreen(const QSize &surface, const QString &folder,
+                                 const std::shared_ptr<KnownRows> &known, QWidget *parent)
     : ListScreen(surface, QStringList(), surface.width() < FilarixPanel::wideFrom ? 4 : 1,
-                 new RowKeeper(QLatin1String("Machine variables"), &RowFile::read), parent)
+                 new RowKeeper(QLatin1String("Machine variables"),
+                               [known](const QString &path, QList<QStringList> *rows,
+                                       QString *error) { return known->read(path, rows, error); }),
+                 parent)
     , m_file(QDir(folder).filePath(QLatin1String("variables.txt")))
+    , m_known(known)
 {
     addPagingKeys();
+    list()->installEventFilter(this);
+    connect(this, &PanelScreen::titleChanged, this, &VariablesScreen::refreshMarks);
     setLoading(true);
     keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showRead(loaded); });
 }
@@ -79,9 +84,45 @@ bool VariablesScreen::mayClose()
     return mayLoseChanges(title(), tr("The variables have changes that are not stored."));
 }
 
+void VariablesScreen::refreshStatus()
+{
+    ListScreen::refreshStatus();
+    refreshMarks();
+}
+
+QList<QStringList> VariablesScreen::rowsToStore() const
+{
+    return rows() + m_table.otherRows();
+}
+
+/// Nobody shall find a value in the file that the machine must not have.
+bool VariablesScreen::mayStore()
+{
+    const QStringList refused = refusedNames();
+    if (!refused.isEmpty()) {
+        bringIntoView(m_table.numberOf(refused.first()));
+        const MachineVariable &first = m_table.at(m_table.numberOf(refused.first()));
+        Q_EMIT told(tr("Not stored. %1 must be %2.").arg(first.name, first.rule.limits()),
+                    Message::Warning, refusedValues);
+        return false;
+    }
+    m_storing = changedNames();
+    m_storingRows = rowsToStore();
+    return true;
+}
+
+void VariablesScreen::noteStore()
+{
+    m_known->set(m_storingRows);
+    m_fresh = QSet<QString>(m_storing.begin(), m_storing.end());
+    Q_EMIT causeEnded(refusedValues);
+}
+
 QString VariablesScreen::storedText(int count) const
 {
-    return tr("Variables stored: %1.").arg(count);
+    return m_storing.isEmpty()
+               ? tr("Variables stored: %1.").arg(count)
+               : tr("Variables stored: %1, changed ones: %2.").arg(count).arg(m_storing.size());
 }
 
 QString VariablesScreen::fileCause() const
@@ -103,13 +144,13 @@ bool VariablesScreen::bringBack(const QString &, const QList<QStringList> &rows)
 {
     QList<QStringList> all = this->rows();
     bool isAny = false;
-    for (QStringList &own : all) {
-        for (const QStringList &row : rows) {
-            if (row.size() != rowLength || row.at(nameAt) != own.value(nameAt))
-                continue;
-            own[valueAt] = row.at(valueAt);
-            isAny = true;
-        }
+    for (const QStringList &row : rows) {
+        const int number =
+            row.size() == VariableTable::rowLength ? m_table.numberOf(row.at(nameAt)) : -1;
+        if (number < 0 || number >= all.size())
+            continue;
+        all[number][valueAt] = m_table.at(number).rule.bare(row.at(valueAt));
+        isAny = true;
     }
     if (isAny)
         setRows(all);
@@ -119,36 +160,214 @@ bool VariablesScreen::bringBack(const QString &, const QList<QStringList> &rows)
 
 QString VariablesScreen::value(const QString &name) const
 {
-    const QList<QStringList> all = rows();
-    for (const QStringList &row : all) {
-        if (row.value(nameAt) == name)
-            return row.value(valueAt);
-    }
-    return QString();
+    const int number = m_table.numberOf(name);
+    return number < 0 ? QString() : list()->getContent(number).value(valueAt);
 }
 
-/// The machine decides which variables there are; the file gives their values. Where it can't,
-/// there are none: nobody shall take the values of a new machine for those of this one.
+QString VariablesScreen::refusal(const QString &name) const
+{
+    const int number = m_table.numberOf(name);
+    return number < 0 ? QString() : m_table.at(number).rule.refusal(value(name));
+}
+
+/// The values of a file that nobody can read stay empty: nobody shall take those of a new machine
+/// for those of this one.
 void VariablesScreen::showRead(const RowKeeper::Loaded &loaded)
 {
-    const bool isKnown =
-        loaded.state == RowKeeper::Loaded::Missing || loaded.state == RowKeeper::Loaded::Read;
-    QList<QStringList> all = isKnown ? defaults() : emptied(defaults());
-    QHash<QString, int> places;
-    for (int i = 0; i < all.size(); ++i) {
-        all[i][1] = QString::fromLatin1("N%1").arg(i);
-        places.insert(all.at(i).at(nameAt), i);
-    }
-    for (const QStringList &row : loaded.rows) {
-        const int place = row.size() == rowLength ? places.value(row.at(nameAt), -1) : -1;
-        if (place < 0)
-            m_foreign.append(row);
-        else
-            all[place][valueAt] = row.at(valueAt);
-    }
-    setRows(all);
+    const bool isRead = loaded.state == RowKeeper::Loaded::Read;
+    if (isRead)
+        m_known->set(loaded.rows);
+    m_table.read(loaded.rows);
+    if (!isRead && loaded.state != RowKeeper::Loaded::Missing)
+        m_table.clearValues();
+    setRows(m_table.listRows());
     setLoading(false);
     markStored(rows());
     tellUnread(loaded, tr("The values are empty. Store first puts that file aside."),
                tr("The values are empty. Switch the panel off and on."));
+    tellFaults();
+}
+
+void VariablesScreen::tellFaults()
+{
+    const QStringList &faults = m_table.faults();
+    if (!faults.isEmpty())
+        Q_EMIT told(tr("%1, lines not used: %2. %3.")
+                        .arg(QFileInfo(m_file).fileName())
+                        .arg(faults.size())
+                        .arg(faults.first()),
+                    Message::Warning, fileCause());
+    const QStringList refused = refusedNames();
+    if (refused.size() == 1)
+        Q_EMIT told(demand(m_table.at(m_table.numberOf(refused.first())), value(refused.first())),
+                    Message::Warning, refusedValues);
+    else if (refused.size() > 1)
+        Q_EMIT told(tr("Variables out of limits: %1. Touch the red ones.").arg(refused.size()),
+                    Message::Warning, refusedValues);
+}
+
+QStringList VariablesScreen::refusedNames() const
+{
+    QStringList names;
+    for (int number = 0; number < m_table.count(); ++number) {
+        const QString &name = m_table.at(number).name;
+        if (!refusal(name).isEmpty())
+            names.append(name);
+    }
+    return names;
+}
+
+/// Why \a value is none for a variable, and what would be.
+QString VariablesScreen::demand(const MachineVariable &variable, const QString &value)
+{
+    return tr("%1 is %2. It must be %3.")
+        .arg(variable.name, value.isEmpty() ? tr("empty") : shortened(value),
+             variable.rule.limits());
+}
+
+bool VariablesScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == list() && event->type() == QEvent::ChildPolished) {
+        if (DataEditor *row =
+                qobject_cast<DataEditor *>(static_cast<QChildEvent *>(event)->child()))
+            adopt(row);
+    }
+    DataEditor *row = qobject_cast<DataEditor *>(watched->parent());
+    if (!markOf(row))
+        return ListScreen::eventFilter(watched, event);
+    // The list fills a row with another variable without a word. Its number is painted then.
+    if (event->type() == QEvent::Paint)
+        refreshMark(row);
+    const QLineEdit *field = qobject_cast<QLineEdit *>(watched);
+    if (!field || event->type() == QEvent::MouseButtonDblClick)
+        return field;
+    if (event->type() != QEvent::MouseButtonPress)
+        return false;
+    touch(row, field);
+    return true;
+}
+
+/// A row that is new to the page.
+void VariablesScreen::adopt(DataEditor *row)
+{
+    QLineEdit *field = row->findChild<QLineEdit *>();
+    if (!field || markOf(row))
+        return;
+    new ValueMark(field);
+    field->installEventFilter(this);
+    const QList<QLabel *> cells = row->findChildren<QLabel *>();
+    for (QLabel *cell : cells)
+        cell->installEventFilter(this);
+    refreshMark(row);
+}
+
+/// The library's own field would open the letters for numbers too, and take whatever they give. It
+/// reports a touch after the change, and so does this.
+void VariablesScreen::touch(DataEditor *row, const QLineEdit *field)
+{
+    const int number = numberOf(row);
+    if (number >= m_table.count())
+        return;
+    const QPointer<VariablesScreen> self(this);
+    const MachineVariable variable = m_table.at(number);
+    if (variable.rule.type != ValueRule::Switch)
+        edit(number, QRect(field->mapToGlobal(QPoint()), field->size()));
+    else
+        enter(variable.name,
+              value(variable.name) == ValueRule::off() ? ValueRule::on() : ValueRule::off());
+    if (self)
+        list()->on_line_clicked(number);
+}
+
+void VariablesScreen::edit(int number, const QRect &place)
+{
+    const QPointer<VariablesScreen> self(this);
+    // Copies: the operator may end the program at the keypad.
+    const ValueRule rule = m_table.at(number).rule;
+    const QString name = m_table.at(number).name;
+    ValueKeypad keypad(rule, QString::fromLatin1("N%1 %2").arg(number).arg(name));
+    keypad.setEditedRect(place);
+    if (keypad.ask(value(name)) && self)
+        enter(name, rule.bare(keypad.text()));
+}
+
+void VariablesScreen::enter(const QString &name, const QString &value)
+{
+    const int number = m_table.numberOf(name);
+    const ValueRule &rule = m_table.at(number).rule;
+    if (!rule.refusal(value).isEmpty() || (rule.isNumber() && value.isEmpty()))
+        return Q_EMIT told(demand(m_table.at(number), value), Message::Warning, refusedValues);
+    QStringList row = list()->getContent(number);
+    if (row.value(nameAt) != name)
+        return;
+    row[valueAt] = value;
+    list()->setContent(number, row);
+    m_fresh.remove(name);
+    if (refusedNames().isEmpty())
+        Q_EMIT causeEnded(refusedValues);
+    refreshStatus();
+}
+
+void VariablesScreen::bringIntoView(int number)
+{
+    const auto isInView = [this, number] {
+        const QWidget *row = list()->itemAt(list()->getListPos(number));
+        return row && !row->isHidden();
+    };
+    if (!isInView())
+        list()->home();
+    for (int page = 0; page < list()->count() && !isInView(); ++page)
+        list()->nextPage();
+    list()->setCurIndex(number, true);
+}
+
+QStringList VariablesScreen::changedNames() const
+{
+    QStringList names;
+    for (const QStringList &row : rows()) {
+        const int number = m_table.numberOf(row.value(nameAt));
+        if (storedRows().value(number) != row)
+            names.append(row.value(nameAt));
+    }
+    return names;
+}
+
+void VariablesScreen::refreshMarks()
+{
+    const QList<DataEditor *> shown = list()->findChildren<DataEditor *>();
+    for (DataEditor *row : shown) {
+        if (markOf(row))
+            refreshMark(row);
+    }
+}
+
+void VariablesScreen::refreshMark(DataEditor *row)
+{
+    const int number = numberOf(row);
+    if (number < 0 || number >= m_table.count())
+        return;
+    markOf(row)->setState(stateOf(m_table.at(number)));
+    // Of a text that is too long for its field the beginning is seen.
+    row->findChild<QLineEdit *>()->setCursorPosition(0);
+}
+
+ValueMark::State VariablesScreen::stateOf(const MachineVariable &variable) const
+{
+    const QString shown = value(variable.name);
+    const QStringList stored = storedRows().value(m_table.numberOf(variable.name));
+    ValueMark::State state;
+    state.unit = variable.rule.unit;
+    if (variable.rule.type == ValueRule::Switch)
+        state.drawing =
+            shown == ValueRule::on() ? ValueMark::State::SwitchedOn : ValueMark::State::SwitchedOff;
+    state.word = variable.rule.refusal(shown);
+    if (!state.word.isEmpty()) {
+        state.tone = Message::Alarm;
+    } else if (stored.value(valueAt) != shown) {
+        state.tone = Message::Warning;
+        state.word = tr("changed");
+    } else if (m_fresh.contains(variable.name)) {
+        state.word = tr("stored");
+    }
+    return state;
 }
