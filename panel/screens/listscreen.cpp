@@ -162,6 +162,19 @@ void ListScreen::setRows(const QList<QStringList> &rows)
     m_list->home();
 }
 
+void ListScreen::bringIntoView(int row)
+{
+    const auto isInView = [this, row] {
+        const QWidget *widget = m_list->itemAt(m_list->getListPos(row));
+        return widget && !widget->isHidden();
+    };
+    if (!isInView())
+        m_list->home();
+    for (int page = 0; page < m_list->count() && !isInView(); ++page)
+        m_list->nextPage();
+    m_list->setCurIndex(row, true);
+}
+
 QList<QStringList> ListScreen::rows() const
 {
     QList<QStringList> rows;

@@ -84,6 +84,8 @@ protected:
     void addPagingKeys();
     /// Fills the list, the first row under the title becoming current, and shows its first page.
     void setRows(const QList<QStringList> &rows);
+    /// Turns to the page of a row, and makes the row current.
+    void bringIntoView(int row);
     /// Rows of the list that are none of the host's: 1 with a title.
     int firstRow() const { return m_firstRow; }
 

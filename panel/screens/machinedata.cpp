@@ -5,6 +5,15 @@
 
 namespace {
 
+const double widestZone = 100;
+const double lastTool = 99;
+// The first three axes move along lines, the others turn.
+const int linearAxes = 3;
+const double longestWay = 2000;
+const double widestTurn = 36000;
+const double fastest = 3000;
+const double highestRamp = 1000;
+
 QList<TableEntry> entries(std::initializer_list<std::initializer_list<const char *>> rows)
 {
     QList<TableEntry> table;
@@ -44,6 +53,27 @@ QStringList MachineData::pointKeys()
 QStringList MachineData::speedKeys()
 {
     return QString(QLatin1String("V A D")).split(QLatin1Char(' '));
+}
+
+ValueRule MachineData::zoneRule()
+{
+    return ValueRule::decimal(0, widestZone);
+}
+
+ValueRule MachineData::toolRule()
+{
+    return ValueRule::integer(0, lastTool);
+}
+
+ValueRule MachineData::pointRule(int key)
+{
+    const double most = key < linearAxes ? longestWay : widestTurn;
+    return ValueRule::decimal(-most, most);
+}
+
+ValueRule MachineData::speedRule(int key)
+{
+    return ValueRule::decimal(0, key == 0 ? fastest : highestRamp);
 }
 
 void MachineData::setCurrentPoint(int number)

@@ -4,6 +4,8 @@
 #ifndef MACHINEDATA_H
 #define MACHINEDATA_H
 
+#include "screens/valuerule.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -32,6 +34,13 @@ public:
     const QList<TableEntry> &speeds() const { return m_speeds; }
     static QStringList pointKeys();
     static QStringList speedKeys();
+
+    /// What the numbers of an instruction may be: the zone in which a movement may leave its path,
+    /// the tool, and a value of a point or a speed by its place among the keys.
+    static ValueRule zoneRule();
+    static ValueRule toolRule();
+    static ValueRule pointRule(int key);
+    static ValueRule speedRule(int key);
 
     /// Number of the point that Tag copies.
     int currentPoint() const { return m_currentPoint; }

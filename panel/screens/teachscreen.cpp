@@ -9,6 +9,7 @@
 #include "look/panelkey.h"
 #include "mjline.h"
 #include "screens/machinedata.h"
+#include "screens/movementlimits.h"
 #include "screens/pathpicker.h"
 #include "screens/tablepicker.h"
 #include "screens/taughtprogram.h"
@@ -29,6 +30,9 @@ const int roomyKeyColumns = 4;
 const int keysInALine = 9;
 // On a panel narrower than a line of them.
 const int keysInAShortLine = 5;
+
+// What messages about numbers that may not be are about.
+const QLatin1String refusedNumbers("refused numbers");
 
 int keyColumns(int width)
 {
@@ -95,8 +99,39 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
     connect(list(), &TListWidget::sg_item_deleted, this, &TeachScreen::showClearing);
 
+    connect(new MovementLimits(list(), this), &MovementLimits::refused, this,
+            &TeachScreen::tellRefused);
+
     setLoading(true);
     loadFirst();
+}
+
+void TeachScreen::tellRefused(const QString &text)
+{
+    Q_EMIT told(text, Message::Warning, refusedNumbers);
+}
+
+void TeachScreen::tellFault()
+{
+    const MovementLimits::Fault fault = MovementLimits::firstFault(rows());
+    if (fault.row >= 0)
+        tellRefused(fault.text);
+}
+
+/// Nobody shall find a number in the file that the machine must not have.
+bool TeachScreen::mayStore()
+{
+    const MovementLimits::Fault fault = MovementLimits::firstFault(rows());
+    if (fault.row < 0)
+        return true;
+    bringIntoView(fault.row + firstRow());
+    tellRefused(tr("Not stored. %1").arg(fault.text));
+    return false;
+}
+
+void TeachScreen::noteStore()
+{
+    Q_EMIT causeEnded(refusedNumbers);
 }
 
 /// Rows that make way for those of a file are nothing to tell of.
@@ -121,6 +156,7 @@ void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
     markStored(rows());
     tellUnread(loaded, tr("The list is empty. Store first puts that file aside."),
                tr("The list is empty. Try Load."));
+    tellFault();
 }
 
 /// The list never fills its title row again. The title's cells are those of the row without its
@@ -191,6 +227,8 @@ void TeachScreen::showRead(const QString &path, const RowKeeper::Loaded &loaded)
         Q_EMIT told(tr("%1 is not there.").arg(path), Message::Warning);
     else
         Q_EMIT told(loaded.error, Message::Warning);
+    if (isRead)
+        tellFault();
 }
 
 void TeachScreen::showProgram(const QString &path, const QList<QStringList> &program)

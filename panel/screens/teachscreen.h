@@ -37,6 +37,8 @@ public:
 protected:
     void retranslate() override;
     QString storePath() const override { return filePath(); }
+    bool mayStore() override;
+    void noteStore() override;
     QString storedText(int count) const override;
     QString fileCause() const override;
 
@@ -44,6 +46,8 @@ private:
     struct SharedTable;
     struct Choice;
 
+    void tellRefused(const QString &text);
+    void tellFault();
     void showClearing(int percent);
     void loadFirst();
     void showFirst(const RowKeeper::Loaded &loaded);

@@ -308,19 +308,6 @@ void VariablesScreen::enter(const QString &name, const QString &value)
     refreshStatus();
 }
 
-void VariablesScreen::bringIntoView(int number)
-{
-    const auto isInView = [this, number] {
-        const QWidget *row = list()->itemAt(list()->getListPos(number));
-        return row && !row->isHidden();
-    };
-    if (!isInView())
-        list()->home();
-    for (int page = 0; page < list()->count() && !isInView(); ++page)
-        list()->nextPage();
-    list()->setCurIndex(number, true);
-}
-
 QStringList VariablesScreen::changedNames() const
 {
     QStringList names;

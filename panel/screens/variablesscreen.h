@@ -67,7 +67,6 @@ private:
     void touch(DataEditor *row, const QLineEdit *field);
     void edit(int number, const QRect &place);
     void enter(const QString &name, const QString &value);
-    void bringIntoView(int number);
 
     QStringList changedNames() const;
     void refreshMarks();

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void everyEntryHasAValueForEachKey();
     void lineToThePointHoldsItsSixValuesAndTheFirstSpeed();
     void numberOutsideTheTableIsIgnored();
+    void tablesKeepToTheirRules();
 };
 
 void TestMachineData::everyEntryHasAValueForEachKey()
@@ -45,6 +46,22 @@ void TestMachineData::numberOutsideTheTableIsIgnored()
     QCOMPARE(changes.size(), 0);
     machine.setCurrentPoint(machine.points().size());
     QCOMPARE(changes.size(), 1);
+}
+
+void TestMachineData::tablesKeepToTheirRules()
+{
+    const MachineData machine;
+    for (const TableEntry &point : machine.points()) {
+        for (int key = 0; key < point.values.size(); ++key)
+            QCOMPARE(MachineData::pointRule(key).refusal(point.values.at(key)), QString());
+    }
+    for (const TableEntry &speed : machine.speeds()) {
+        for (int key = 0; key < speed.values.size(); ++key)
+            QCOMPARE(MachineData::speedRule(key).refusal(speed.values.at(key)), QString());
+    }
+    QCOMPARE(MachineData::toolRule().refusal("999999999999"), QString("above 99"));
+    QCOMPARE(MachineData::toolRule().refusal("1.5"), QString("not whole"));
+    QCOMPARE(MachineData::zoneRule().refusal("-1"), QString("below 0"));
 }
 
 FILARIX_TEST_MAIN(TestMachineData)

@@ -53,6 +53,9 @@ private Q_SLOTS:
     void closingWithChangesAsks();
     void rowsThatAreBroughtBackAreChanges();
     void rowsThatAreNoneAreNotBroughtBack();
+    void refusedNumberIsToldAndNotTaken();
+    void refusedNumberIsNeverStored();
+    void refusedNumberOfAFileIsTold();
 
 private:
     PanelKey *key(const QString &text, int nth = 0) const;
@@ -616,6 +619,55 @@ void TestTeachScreen::rowsThatAreNoneAreNotBroughtBack()
     QCOMPARE(m_screen->rows(), before);
     QCOMPARE(m_screen->filePath(), path);
     QVERIFY(!m_screen->lookForChanges());
+}
+
+void TestTeachScreen::refusedNumberIsToldAndNotTaken()
+{
+    const QString before = m_list->getContent(1).at(10);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    DeviceLog::acceptWith("999999999999");
+    QTest::mouseClick(cell(1, "ComboLineEdit", 1), Qt::LeftButton);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(),
+             QString("Instruction 1: T is 999999999999. It must be 0 to 99, whole."));
+    QCOMPARE(m_list->getContent(1).at(10), before);
+    QVERIFY(!m_screen->lookForChanges());
+}
+
+void TestTeachScreen::refusedNumberIsNeverStored()
+{
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTest::mouseClick(key("Store"), Qt::LeftButton);
+    QTRY_COMPARE(told.size(), 1);
+    const QByteArray before = readFile(m_screen->filePath());
+    QStringList row = m_list->getContent(40);
+    QVERIFY(row.at(0) != "Oth");
+    row[10] = "999999999999";
+    m_list->setContent(40, row);
+    QTest::mouseClick(key("Store"), Qt::LeftButton);
+    QCOMPARE(told.size(), 2);
+    QVERIFY2(told.last().at(0).toString().startsWith("Not stored. Instruction 40: T is 99"),
+             qPrintable(told.last().at(0).toString()));
+    QCOMPARE(told.last().at(1).value<Message::Tone>(), Message::Warning);
+    QCOMPARE(readFile(m_screen->filePath()), before);
+    QVERIFY(m_screen->lookForChanges());
+    QCOMPARE(m_list->getCurIndex(), 40);
+    QVERIFY(cell(40, "ComboLineEdit", 1));
+}
+
+void TestTeachScreen::refusedNumberOfAFileIsTold()
+{
+    QList<QStringList> rows = m_screen->rows();
+    rows[0][10] = "9 bananas";
+    QString error;
+    QVERIFY(QDir().mkpath(QFileInfo(m_screen->filePath()).path()));
+    QVERIFY(TaughtProgram::store(m_screen->filePath(), rows, &error));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    m_screen->load(m_screen->filePath());
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.at(1).at(0).toString(),
+             QString("Instruction 1: T is 9 bananas. It must be 0 to 99, whole."));
+    QCOMPARE(m_list->getContent(1).at(10), QString("9 bananas"));
 }
 
 FILARIX_TEST_MAIN(TestTeachScreen)

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef MOVEMENTLIMITS_H
+#define MOVEMENTLIMITS_H
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+class MJLine;
+class QLineEdit;
+class TListWidget;
+
+/// Keeps the numbers of taught movements within the limits of MachineData. The keypads of a list's
+/// fields learn them as the operator touches a field. A panel's own keypad need not keep to them:
+/// what it gave then goes back to what was there.
+class MovementLimits : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// A number that may not be.
+    struct Fault
+    {
+        /// Counted from 0; -1 for none.
+        int row;
+        /// For the operator.
+        QString text;
+    };
+
+    /// \a list has a title. \a parent keeps this object and must not outlive \a list.
+    explicit MovementLimits(TListWidget *list, QObject *parent = nullptr);
+
+    /// The first fault in the rows of a taught program.
+    static Fault firstFault(const QList<QStringList> &rows);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// A keypad gave a number that was not taken.
+    void refused(const QString &text);
+
+private:
+    void prepare(QLineEdit *field);
+    void judge(int row, const QStringList &content);
+
+    TListWidget *m_list;
+    /// The row of the field that was touched last, as it was.
+    QStringList m_before;
+};
+
+#endif // MOVEMENTLIMITS_H
