@@ -333,9 +333,13 @@ void VariablesScreen::refreshMark(DataEditor *row)
     const int number = numberOf(row);
     if (number < 0 || number >= m_table.count())
         return;
-    markOf(row)->setState(stateOf(m_table.at(number)));
+    const MachineVariable &variable = m_table.at(number);
+    markOf(row)->setState(stateOf(variable));
+    QLineEdit *field = row->findChild<QLineEdit *>();
+    field->setAccessibleName(variable.name);
+    field->setAccessibleDescription(variable.rule.limits());
     // Of a text that is too long for its field the beginning is seen.
-    row->findChild<QLineEdit *>()->setCursorPosition(0);
+    field->setCursorPosition(0);
 }
 
 ValueMark::State VariablesScreen::stateOf(const MachineVariable &variable) const

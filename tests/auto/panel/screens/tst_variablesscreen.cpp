@@ -646,6 +646,10 @@ void TestVariablesScreen::marksFollowTheirRows()
     QTRY_COMPARE(shownRow(screen, "Slow")->findChild<ValueMark *>()->state().unit, QString("rpm"));
     screen.list()->end();
     QTRY_COMPARE(shownRow(screen, "Oil")->findChild<ValueMark *>()->state().unit, QString("min"));
+    // Who can't see the row hears the same.
+    const ComboLineEdit *field = shownRow(screen, "Oil")->findChild<ComboLineEdit *>();
+    QCOMPARE(field->accessibleName(), QString("Oil"));
+    QCOMPARE(field->accessibleDescription(), QString("1 to 9999 min, whole"));
 }
 
 void TestVariablesScreen::failedStoreLeavesTheChangesMarked()
