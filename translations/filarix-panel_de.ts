@@ -305,6 +305,13 @@
     </message>
 </context>
 <context>
+    <name>KnownRows</name>
+    <message>
+        <source>%1 was changed by somebody else.</source>
+        <translation>%1 wurde von jemand anderem geändert.</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePicker</name>
     <message>
         <source>Language</source>
@@ -366,6 +373,17 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>Noch gibt es keine Meldung.</translation>
+    </message>
+</context>
+<context>
+    <name>MovementLimits</name>
+    <message>
+        <source>Instruction %1: %2 is %3. It must be %4.</source>
+        <translation>Befehl %1: %2 ist %3. Erlaubt: %4.</translation>
+    </message>
+    <message>
+        <source>Instruction %1, %2</source>
+        <translation>Befehl %1, %2</translation>
     </message>
 </context>
 <context>
@@ -871,6 +889,10 @@
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, Befehle: %3</translation>
     </message>
+    <message>
+        <source>Not stored. %1</source>
+        <translation>Nicht gespeichert. %1</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -893,6 +915,96 @@
     <message>
         <source>What step %1 waits for does not come.</source>
         <translation>Worauf Schritt %1 wartet, kommt nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRule</name>
+    <message>
+        <source>not a number</source>
+        <translation>keine Zahl</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>unter %1</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>über %1</translation>
+    </message>
+    <message>
+        <source>not whole</source>
+        <translation>nicht ganz</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>zu lang</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>unlesbar</translation>
+    </message>
+    <message>
+        <source>not on or off</source>
+        <translation>nicht on/off</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on oder off</translation>
+    </message>
+    <message>
+        <source>at most %1 letters</source>
+        <translation>höchstens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1, whole</source>
+        <translation>%1, ganz</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>limit not a number</source>
+        <translation>Grenze keine Zahl</translation>
+    </message>
+    <message>
+        <source>minimum above maximum</source>
+        <translation>Minimum über Maximum</translation>
+    </message>
+    <message>
+        <source>limit too large</source>
+        <translation>Grenze zu groß</translation>
+    </message>
+    <message>
+        <source>no whole number between the limits</source>
+        <translation>keine ganze Zahl zwischen den Grenzen</translation>
+    </message>
+    <message>
+        <source>name empty, too long or not readable</source>
+        <translation>Name leer, zu lang oder unlesbar</translation>
+    </message>
+    <message>
+        <source>type unknown</source>
+        <translation>Typ unbekannt</translation>
+    </message>
+    <message>
+        <source>unit too long or not readable</source>
+        <translation>Einheit zu lang oder unlesbar</translation>
+    </message>
+    <message>
+        <source>there twice</source>
+        <translation>doppelt vorhanden</translation>
+    </message>
+    <message>
+        <source>too many variables</source>
+        <translation>zu viele Variablen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1040,38 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, Werte: %3</translation>
+    </message>
+    <message>
+        <source>Not stored. %1 must be %2.</source>
+        <translation>Nicht gespeichert. %1: erlaubt ist %2.</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1, changed ones: %2.</source>
+        <translation>Gespeicherte Variablen: %1, geändert: %2.</translation>
+    </message>
+    <message>
+        <source>%1, lines not used: %2. %3.</source>
+        <translation>%1, ungültige Zeilen: %2. %3.</translation>
+    </message>
+    <message>
+        <source>Variables out of limits: %1. Touch the red ones.</source>
+        <translation>Variablen außerhalb der Grenzen: %1. Rote berühren.</translation>
+    </message>
+    <message>
+        <source>%1 is %2. It must be %3.</source>
+        <translation>%1 ist %2. Erlaubt: %3.</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>gespeichert</translation>
     </message>
 </context>
 <context>

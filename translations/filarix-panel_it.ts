@@ -305,6 +305,13 @@
     </message>
 </context>
 <context>
+    <name>KnownRows</name>
+    <message>
+        <source>%1 was changed by somebody else.</source>
+        <translation>%1 è stato modificato da altri.</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePicker</name>
     <message>
         <source>Language</source>
@@ -366,6 +373,17 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>Ancora nessun messaggio.</translation>
+    </message>
+</context>
+<context>
+    <name>MovementLimits</name>
+    <message>
+        <source>Instruction %1: %2 is %3. It must be %4.</source>
+        <translation>Istruzione %1: %2 è %3. Ammesso: %4.</translation>
+    </message>
+    <message>
+        <source>Instruction %1, %2</source>
+        <translation>Istruzione %1, %2</translation>
     </message>
 </context>
 <context>
@@ -871,6 +889,10 @@
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, istruzioni: %3</translation>
     </message>
+    <message>
+        <source>Not stored. %1</source>
+        <translation>Non salvato. %1</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -893,6 +915,96 @@
     <message>
         <source>What step %1 waits for does not come.</source>
         <translation>Ciò che il passo %1 attende non arriva.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRule</name>
+    <message>
+        <source>not a number</source>
+        <translation>non è un numero</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>sotto %1</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>sopra %1</translation>
+    </message>
+    <message>
+        <source>not whole</source>
+        <translation>non intero</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>troppo lungo</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>illeggibile</translation>
+    </message>
+    <message>
+        <source>not on or off</source>
+        <translation>né on né off</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on o off</translation>
+    </message>
+    <message>
+        <source>at most %1 letters</source>
+        <translation>al massimo %1 lettere</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>da %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1, whole</source>
+        <translation>%1, intero</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>limit not a number</source>
+        <translation>limite non numerico</translation>
+    </message>
+    <message>
+        <source>minimum above maximum</source>
+        <translation>minimo sopra il massimo</translation>
+    </message>
+    <message>
+        <source>limit too large</source>
+        <translation>limite troppo grande</translation>
+    </message>
+    <message>
+        <source>no whole number between the limits</source>
+        <translation>nessun intero tra i limiti</translation>
+    </message>
+    <message>
+        <source>name empty, too long or not readable</source>
+        <translation>nome vuoto, troppo lungo o illeggibile</translation>
+    </message>
+    <message>
+        <source>type unknown</source>
+        <translation>tipo sconosciuto</translation>
+    </message>
+    <message>
+        <source>unit too long or not readable</source>
+        <translation>unità troppo lunga o illeggibile</translation>
+    </message>
+    <message>
+        <source>there twice</source>
+        <translation>presente due volte</translation>
+    </message>
+    <message>
+        <source>too many variables</source>
+        <translation>troppe variabili</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1040,38 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, valori: %3</translation>
+    </message>
+    <message>
+        <source>Not stored. %1 must be %2.</source>
+        <translation>Non salvato. %1: ammesso %2.</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1, changed ones: %2.</source>
+        <translation>Variabili salvate: %1, modificate: %2.</translation>
+    </message>
+    <message>
+        <source>%1, lines not used: %2. %3.</source>
+        <translation>%1, righe non usate: %2. %3.</translation>
+    </message>
+    <message>
+        <source>Variables out of limits: %1. Touch the red ones.</source>
+        <translation>Variabili fuori dai limiti: %1. Toccare le rosse.</translation>
+    </message>
+    <message>
+        <source>%1 is %2. It must be %3.</source>
+        <translation>%1 è %2. Ammesso: %3.</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vuoto</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modificato</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>salvato</translation>
     </message>
 </context>
 <context>

@@ -305,6 +305,13 @@
     </message>
 </context>
 <context>
+    <name>KnownRows</name>
+    <message>
+        <source>%1 was changed by somebody else.</source>
+        <translation>%1 başkası tarafından değiştirildi.</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePicker</name>
     <message>
         <source>Language</source>
@@ -366,6 +373,17 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>Henüz ileti yok.</translation>
+    </message>
+</context>
+<context>
+    <name>MovementLimits</name>
+    <message>
+        <source>Instruction %1: %2 is %3. It must be %4.</source>
+        <translation>Komut %1: %2 = %3. İzin verilen: %4.</translation>
+    </message>
+    <message>
+        <source>Instruction %1, %2</source>
+        <translation>Komut %1, %2</translation>
     </message>
 </context>
 <context>
@@ -871,6 +889,10 @@
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, komut: %3</translation>
     </message>
+    <message>
+        <source>Not stored. %1</source>
+        <translation>Kaydedilmedi. %1</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -893,6 +915,96 @@
     <message>
         <source>What step %1 waits for does not come.</source>
         <translation>%1. adımın beklediği gelmiyor.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRule</name>
+    <message>
+        <source>not a number</source>
+        <translation>sayı değil</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>%1 altında</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>%1 üstünde</translation>
+    </message>
+    <message>
+        <source>not whole</source>
+        <translation>tam değil</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>çok uzun</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>okunamıyor</translation>
+    </message>
+    <message>
+        <source>not on or off</source>
+        <translation>on/off değil</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on veya off</translation>
+    </message>
+    <message>
+        <source>at most %1 letters</source>
+        <translation>en çok %1 harf</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 ile %2 arası</translation>
+    </message>
+    <message>
+        <source>%1, whole</source>
+        <translation>%1, tam sayı</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>limit not a number</source>
+        <translation>sınır sayı değil</translation>
+    </message>
+    <message>
+        <source>minimum above maximum</source>
+        <translation>en az, en çoktan büyük</translation>
+    </message>
+    <message>
+        <source>limit too large</source>
+        <translation>sınır çok büyük</translation>
+    </message>
+    <message>
+        <source>no whole number between the limits</source>
+        <translation>sınırlar arasında tam sayı yok</translation>
+    </message>
+    <message>
+        <source>name empty, too long or not readable</source>
+        <translation>ad boş, çok uzun veya okunamıyor</translation>
+    </message>
+    <message>
+        <source>type unknown</source>
+        <translation>tür bilinmiyor</translation>
+    </message>
+    <message>
+        <source>unit too long or not readable</source>
+        <translation>birim çok uzun veya okunamıyor</translation>
+    </message>
+    <message>
+        <source>there twice</source>
+        <translation>iki kez var</translation>
+    </message>
+    <message>
+        <source>too many variables</source>
+        <translation>çok fazla değişken</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1040,38 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, değer: %3</translation>
+    </message>
+    <message>
+        <source>Not stored. %1 must be %2.</source>
+        <translation>Kaydedilmedi. %1: izin verilen %2.</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1, changed ones: %2.</source>
+        <translation>Kaydedilen değişken: %1, değişen: %2.</translation>
+    </message>
+    <message>
+        <source>%1, lines not used: %2. %3.</source>
+        <translation>%1, kullanılmayan satır: %2. %3.</translation>
+    </message>
+    <message>
+        <source>Variables out of limits: %1. Touch the red ones.</source>
+        <translation>Sınır dışı değişken: %1. Kırmızılara dokunun.</translation>
+    </message>
+    <message>
+        <source>%1 is %2. It must be %3.</source>
+        <translation>%1 = %2. İzin verilen: %3.</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>boş</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>değişti</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>kaydedildi</translation>
     </message>
 </context>
 <context>

@@ -305,6 +305,13 @@
     </message>
 </context>
 <context>
+    <name>KnownRows</name>
+    <message>
+        <source>%1 was changed by somebody else.</source>
+        <translation>%1 已被他人更改。</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePicker</name>
     <message>
         <source>Language</source>
@@ -366,6 +373,17 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>还没有消息。</translation>
+    </message>
+</context>
+<context>
+    <name>MovementLimits</name>
+    <message>
+        <source>Instruction %1: %2 is %3. It must be %4.</source>
+        <translation>指令 %1: %2 为 %3。允许: %4。</translation>
+    </message>
+    <message>
+        <source>Instruction %1, %2</source>
+        <translation>指令 %1, %2</translation>
     </message>
 </context>
 <context>
@@ -871,6 +889,10 @@
         <source>%1, %2, instructions: %3</source>
         <translation>%1, %2, 指令数: %3</translation>
     </message>
+    <message>
+        <source>Not stored. %1</source>
+        <translation>未保存。%1</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -893,6 +915,96 @@
     <message>
         <source>What step %1 waits for does not come.</source>
         <translation>步骤 %1 等待的内容没有出现。</translation>
+    </message>
+</context>
+<context>
+    <name>ValueRule</name>
+    <message>
+        <source>not a number</source>
+        <translation>不是数字</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>低于 %1</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>高于 %1</translation>
+    </message>
+    <message>
+        <source>not whole</source>
+        <translation>不是整数</translation>
+    </message>
+    <message>
+        <source>too long</source>
+        <translation>过长</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>not on or off</source>
+        <translation>不是 on/off</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on 或 off</translation>
+    </message>
+    <message>
+        <source>at most %1 letters</source>
+        <translation>最多 %1 个字</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>%1, whole</source>
+        <translation>%1, 整数</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTable</name>
+    <message>
+        <source>limit not a number</source>
+        <translation>限值不是数字</translation>
+    </message>
+    <message>
+        <source>minimum above maximum</source>
+        <translation>最小值大于最大值</translation>
+    </message>
+    <message>
+        <source>limit too large</source>
+        <translation>限值过大</translation>
+    </message>
+    <message>
+        <source>no whole number between the limits</source>
+        <translation>限值之间没有整数</translation>
+    </message>
+    <message>
+        <source>name empty, too long or not readable</source>
+        <translation>名称为空、过长或无法读取</translation>
+    </message>
+    <message>
+        <source>type unknown</source>
+        <translation>类型未知</translation>
+    </message>
+    <message>
+        <source>unit too long or not readable</source>
+        <translation>单位过长或无法读取</translation>
+    </message>
+    <message>
+        <source>there twice</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>too many variables</source>
+        <translation>变量过多</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1040,38 @@
     <message>
         <source>%1, %2, values: %3</source>
         <translation>%1, %2, 数值: %3</translation>
+    </message>
+    <message>
+        <source>Not stored. %1 must be %2.</source>
+        <translation>未保存。%1 允许: %2。</translation>
+    </message>
+    <message>
+        <source>Variables stored: %1, changed ones: %2.</source>
+        <translation>已保存变量: %1, 已更改: %2。</translation>
+    </message>
+    <message>
+        <source>%1, lines not used: %2. %3.</source>
+        <translation>%1, 未使用的行: %2。%3。</translation>
+    </message>
+    <message>
+        <source>Variables out of limits: %1. Touch the red ones.</source>
+        <translation>超限变量: %1。请触摸红色项。</translation>
+    </message>
+    <message>
+        <source>%1 is %2. It must be %3.</source>
+        <translation>%1 为 %2。允许: %3。</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>已保存</translation>
     </message>
 </context>
 <context>
