@@ -57,6 +57,9 @@ enum Glyph {
     Up,
     Down,
     ToLine,
+    Joint,
+    Line,
+    StoreAs,
     Inform,
     Warn,
     Alarm
