@@ -8,6 +8,7 @@
 #include "look/livetext.h"
 #include "look/look.h"
 #include "look/panelkey.h"
+#include "mjline.h"
 #include "tlistwidget.h"
 
 #include <QEvent>
@@ -27,6 +28,8 @@ const int keyPanelWidth = 3 * Look::smallestTouch;
 const int keyGap = 4;
 const int largeIcon = 36;
 const int keyStretch = 1000;
+// For a thumb in a glove.
+const int gloveTouch = 48;
 
 // What messages about a disk that does not do its work are about.
 const QLatin1String storage("storage");
@@ -47,6 +50,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     , m_firstRow(title.isEmpty() ? 0 : 1)
     , m_list(makeList(title))
     , m_area(new QScrollArea)
+    , m_keyPanel(new QWidget(this))
     , m_keyGrid(new QGridLayout)
     , m_notice(new QLabel(m_area->viewport()))
     , m_keeper(keeper)
@@ -70,12 +74,11 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     connect(m_list, &TListWidget::clicked, this,
             [this](int row) { QTimer::singleShot(0, this, [this, row] { keepRowInView(row); }); });
 
-    QWidget *keyPanel = new QWidget;
-    Look::dress(keyPanel, Look::KeyPanel);
+    Look::dress(m_keyPanel, Look::KeyPanel);
     m_keyGrid->setSpacing(keyGap);
     // On a small panel each pixel between the strips counts for one more row.
     m_keyGrid->setContentsMargins(keyGap, keyGap / 2, keyGap, keyGap / 2);
-    keyPanel->setLayout(m_keyGrid);
+    m_keyPanel->setLayout(m_keyGrid);
 
     QBoxLayout *layout =
         new QBoxLayout(m_keysBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
@@ -83,12 +86,12 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     layout->setSpacing(0);
     if (m_keysBeside) {
         m_area->setFixedWidth(m_list->width());
-        keyPanel->setMinimumWidth(2 * Look::smallestTouch);
+        m_keyPanel->setMinimumWidth(2 * Look::smallestTouch);
         layout->addWidget(m_area);
-        layout->addWidget(keyPanel, 1);
+        layout->addWidget(m_keyPanel, 1);
     } else {
         layout->addWidget(m_area, 1);
-        layout->addWidget(keyPanel);
+        layout->addWidget(m_keyPanel);
     }
 }
 
@@ -99,23 +102,69 @@ int ListScreen::listWidth(const QSize &surface) const
     return m_keysBeside ? surface.width() - keyPanelWidth : surface.width();
 }
 
+void ListScreen::setKeyLines(int lines)
+{
+    m_keyLines = lines;
+    if (m_moreKey)
+        return layOutKeys();
+    m_moreKey = makeKey(Glyphs::icon(Glyphs::More, Glyphs::OnKey), [] { return tr("More"); });
+    connect(m_moreKey, &PanelKey::clicked, this, &ListScreen::turnKeys);
+    layOutKeys();
+}
+
 PanelKey *ListScreen::addKey(const QIcon &icon, const std::function<QString()> &text)
 {
-    PanelKey *key = new PanelKey(icon, text);
+    PanelKey *key = makeKey(icon, text);
+    m_keys.append(key);
+    layOutKeys();
+    return whenLoaded(key);
+}
+
+PanelKey *ListScreen::makeKey(const QIcon &icon, const std::function<QString()> &text)
+{
+    PanelKey *key = new PanelKey(icon, text, m_keyPanel);
     key->setSizePolicy(QSizePolicy::Expanding,
                        m_keysBeside ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    key->setMinimumSize(gloveTouch, gloveTouch);
     key->setMaximumHeight(2 * Look::smallestTouch);
     if (m_keysBeside)
         key->setIconSize(QSize(largeIcon, largeIcon));
-    const int line = m_keyCount / m_keyColumns;
-    m_keyGrid->addWidget(key, line, m_keyCount % m_keyColumns);
-    if (m_keysBeside) {
-        // The room that the keys leave at their full height lies below them, not between.
-        m_keyGrid->setRowStretch(line, keyStretch);
-        m_keyGrid->setRowStretch(line + 1, 1);
+    return key;
+}
+
+void ListScreen::layOutKeys()
+{
+    const int room = m_keyLines * m_keyColumns;
+    const bool takeTurns = room > 0 && m_keys.size() > room;
+    const int shown = takeTurns ? room - 1 : m_keys.size();
+    for (int i = 0; i < m_keys.size(); ++i) {
+        placeKey(m_keys.at(i), i % shown);
+        m_keys.at(i)->setVisible(i / shown == m_keyPage);
     }
-    ++m_keyCount;
-    return whenLoaded(key);
+    if (!m_moreKey)
+        return;
+    if (takeTurns)
+        placeKey(m_moreKey, shown);
+    m_moreKey->setVisible(takeTurns);
+}
+
+void ListScreen::placeKey(PanelKey *key, int place)
+{
+    const int line = place / m_keyColumns;
+    m_keyGrid->addWidget(key, line, place % m_keyColumns);
+    if (!m_keysBeside)
+        return;
+    // The room that the keys leave at their full height lies below them, not between.
+    m_keyGrid->setRowStretch(line, keyStretch);
+    m_keyGrid->setRowStretch(line + 1, 1);
+}
+
+void ListScreen::turnKeys()
+{
+    const int shown = m_keyLines * m_keyColumns - 1;
+    const int pages = (m_keys.size() + shown - 1) / shown;
+    m_keyPage = (m_keyPage + 1) % pages;
+    layOutKeys();
 }
 
 PanelKey *ListScreen::whenLoaded(PanelKey *key)
@@ -137,26 +186,38 @@ void ListScreen::setLoading(bool isLoading)
     m_notice->raise();
 }
 
+void ListScreen::addTurnKey(Turn turn)
+{
+    const struct
+    {
+        const char *icon;
+        const char *text;
+        void (TListWidget::*turn)();
+    } plans[] = {
+        {"home", QT_TR_NOOP("First"), &TListWidget::home},
+        {"pageUp", QT_TR_NOOP("Page"), &TListWidget::prevPage},
+        {"pageDown", QT_TR_NOOP("Page"), &TListWidget::nextPage},
+        {"end", QT_TR_NOOP("Last"), &TListWidget::end},
+    };
+    const auto &plan = plans[turn];
+    const QIcon icon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(plan.icon)));
+    const char *const text = plan.text;
+    connect(addKey(icon, [text] { return tr(text); }), &PanelKey::clicked, m_list, plan.turn);
+}
+
 void ListScreen::addPagingKeys()
 {
-    const auto icon = [](const char *name) {
-        return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
-    };
-    connect(addKey(icon("home"), [] { return tr("First"); }), &PanelKey::clicked, m_list,
-            &TListWidget::home);
-    connect(addKey(icon("pageUp"), [] { return tr("Page"); }), &PanelKey::clicked, m_list,
-            &TListWidget::prevPage);
-    connect(addKey(icon("pageDown"), [] { return tr("Page"); }), &PanelKey::clicked, m_list,
-            &TListWidget::nextPage);
-    connect(addKey(icon("end"), [] { return tr("Last"); }), &PanelKey::clicked, m_list,
-            &TListWidget::end);
+    for (Turn turn : {ToFirst, PageBack, PageOn, ToLast})
+        addTurnKey(turn);
 }
 
 void ListScreen::setRows(const QList<QStringList> &rows)
 {
     m_list->clear();
-    for (QStringList row : rows)
-        m_list->addWidget(row, false, false);
+    for (const QStringList &row : rows) {
+        QStringList shown = rowForList(row);
+        m_list->addWidget(shown, false, false);
+    }
     m_list->setCurIndex(m_firstRow, true);
     fitPage();
     m_list->home();
@@ -212,6 +273,13 @@ void ListScreen::tellUnread(const RowKeeper::Loaded &loaded, const QString &when
         Q_EMIT told(loaded.error + QLatin1Char(' ') + whenBroken, Message::Alarm, fileCause());
     else if (loaded.state == RowKeeper::Loaded::Stalled)
         Q_EMIT told(loaded.error + QLatin1Char(' ') + whenStalled, Message::Alarm, storage);
+}
+
+void ListScreen::takeKeeper(RowKeeper *keeper)
+{
+    m_keeper->deleteLater();
+    m_keeper = keeper;
+    m_keeper->setParent(this);
 }
 
 void ListScreen::store()
@@ -276,7 +344,44 @@ void ListScreen::fitPage()
     if (!first || first->minimumHeight() <= 0)
         return;
     const int lines = m_area->viewport()->height() / first->minimumHeight();
-    m_list->setTotalLine(qMax(1, lines - m_firstRow));
+    m_pageRows = qMax(1, lines - m_firstRow);
+    const int before = pooled();
+    m_list->setTotalLine(m_pageRows);
+    if (pooled() != before)
+        m_list->reshow();
+}
+
+/// The widgets that the list has for its rows. A new one shows a row by its words; only the next
+/// refill goes by the row's kind.
+int ListScreen::pooled() const
+{
+    return m_list->ListWidget::count();
+}
+
+void ListScreen::closeRows()
+{
+    for (int i = 0; i < pooled(); ++i) {
+        MJLine *line = qobject_cast<MJLine *>(m_list->itemAt(i));
+        if (line && line->isExpanded())
+            line->on_expand();
+    }
+}
+
+void ListScreen::showRow(int row)
+{
+    const int before = pooled();
+    m_list->reshow();
+    if (pooled() != before)
+        m_list->reshow();
+    const auto above = [this, row] { return m_firstRow - m_list->getListPos(row); };
+    const auto below = [this, row] {
+        return m_list->getListPos(row) - m_firstRow - m_pageRows + 1;
+    };
+    // The list refuses some turns, and nobody waits for it for ever.
+    for (int left = m_list->count(); left > 0 && above() > 0; --left)
+        above() > m_pageRows ? m_list->prevPage() : m_list->prevLine();
+    for (int left = m_list->count(); left > 0 && below() > 0; --left)
+        below() > m_pageRows ? m_list->nextPage() : m_list->nextLine();
 }
 
 void ListScreen::keepRowInView(int row)

@@ -42,7 +42,7 @@ public:
     /// Writes the rows beside the event loop; ends in told().
     void store();
     /// Milliseconds after which a file counts as one that does not answer.
-    void setStallTime(int ms) { m_keeper->setStallTime(ms); }
+    virtual void setStallTime(int ms) { m_keeper->setStallTime(ms); }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -67,6 +67,10 @@ protected:
     RowKeeper *keeper() { return m_keeper; }
     /// The rows that the file holds.
     const QList<QStringList> &storedRows() const { return m_stored; }
+    /// From now on \a keeper reads and stores; the screen owns it.
+    void takeKeeper(RowKeeper *keeper);
+    /// Tells what came of a store of \a rows.
+    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
     /// The file holds \a rows.
     void markStored(const QList<QStringList> &rows);
     /// Why there are no rows, if so, and what the operator can do.
@@ -75,17 +79,29 @@ protected:
     /// Asks the operator about changes that are not stored, and stores them if asked to.
     bool mayLoseChanges(const QString &title, const QString &question);
 
+    /// The row as the list shows it; rows() gives it back as files have it.
+    virtual QStringList rowForList(const QStringList &row) const { return row; }
+
+    /// Keys beyond \a lines lines take turns, and a key "More" at the end turns to the next ones.
+    void setKeyLines(int lines);
     /// Appends a key to the panel.
     PanelKey *addKey(const QIcon &icon, const std::function<QString()> &text);
     /// A key of the shell's strip that is off as well until the rows are there.
     PanelKey *whenLoaded(PanelKey *key);
     void setLoading(bool isLoading);
-    /// Appends the four keys that turn pages.
+    enum Turn { ToFirst, PageBack, PageOn, ToLast };
+    /// Appends a key that turns pages.
+    void addTurnKey(Turn turn);
+    /// Appends all four of them.
     void addPagingKeys();
     /// Fills the list, the first row under the title becoming current, and shows its first page.
     void setRows(const QList<QStringList> &rows);
     /// Turns to the page of a row, and makes the row current.
     void bringIntoView(int row);
+    /// Closes the rows that are open: what happens to a row would happen to another one's widget.
+    void closeRows();
+    /// Draws the page anew and turns to \a row, as the list counts it.
+    void showRow(int row);
     /// Rows of the list that are none of the host's: 1 with a title.
     int firstRow() const { return m_firstRow; }
 
@@ -93,19 +109,28 @@ private:
     int listWidth(const QSize &surface) const;
     void fitPage();
     void keepRowInView(int row);
-    void noteStored(const QList<QStringList> &rows, const RowKeeper::Stored &stored);
+    PanelKey *makeKey(const QIcon &icon, const std::function<QString()> &text);
+    void layOutKeys();
+    void placeKey(PanelKey *key, int place);
+    void turnKeys();
+    int pooled() const;
 
     const bool m_keysBeside;
     const int m_keyColumns;
     const int m_firstRow;
     TListWidget *m_list;
     QScrollArea *m_area;
+    QWidget *m_keyPanel;
     QGridLayout *m_keyGrid;
     QLabel *m_notice;
+    QList<PanelKey *> m_keys;
+    PanelKey *m_moreKey = nullptr;
     QList<QPointer<PanelKey>> m_loadKeys;
     RowKeeper *m_keeper;
     QList<QStringList> m_stored;
-    int m_keyCount = 0;
+    int m_keyLines = 0;
+    int m_keyPage = 0;
+    int m_pageRows = 1;
     bool m_isLoading = false;
     bool m_changed = false;
     bool m_isAsking = false;

@@ -36,8 +36,10 @@ public:
 
     using ListScreen::addKey;
     using ListScreen::markStored;
+    using ListScreen::setKeyLines;
     using ListScreen::setLoading;
     using ListScreen::setRows;
+    using ListScreen::showRow;
     using ListScreen::tellUnread;
 
 private:
@@ -73,6 +75,9 @@ private Q_SLOTS:
     void whatIsStoredIsNoChange();
     void whatCannotBeStoredStaysAChange();
     void noKeyWorksWhileRowsAreToCome();
+    void keysBeyondTheLinesTakeTurns();
+    void aRowIsShownWhereverItIs_data();
+    void aRowIsShownWhereverItIs();
     void aFileThatCannotBeReadIsAnAlarm_data();
     void aFileThatCannotBeReadIsAnAlarm();
     void withoutChangesNobodyIsAsked();
@@ -182,6 +187,60 @@ void TestListScreen::noKeyWorksWhileRowsAreToCome()
     for (const PanelKey *key : keys)
         QVERIFY(key->isEnabled());
     QVERIFY(late->isEnabled());
+}
+
+void TestListScreen::keysBeyondTheLinesTakeTurns()
+{
+    Screen screen(path());
+    screen.setKeyLines(3);
+    const auto shown = [&screen] {
+        QStringList texts;
+        for (const PanelKey *key : screen.findChildren<PanelKey *>()) {
+            if (!key->isHidden())
+                texts.append(key->text());
+        }
+        texts.sort();
+        return texts;
+    };
+    QCOMPARE(shown(), (QStringList{"First", "More", "Page"}));
+    PanelKey *more = nullptr;
+    for (PanelKey *key : screen.findChildren<PanelKey *>()) {
+        if (key->text() == "More")
+            more = key;
+    }
+    QVERIFY(more);
+    more->click();
+    QCOMPARE(shown(), (QStringList{"Last", "More", "Page"}));
+    more->click();
+    QCOMPARE(shown(), (QStringList{"First", "More", "Page"}));
+    // With room for all no key turns.
+    screen.setKeyLines(4);
+    QCOMPARE(shown(), (QStringList{"First", "Last", "Page", "Page"}));
+}
+
+void TestListScreen::aRowIsShownWhereverItIs_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row : {0, 1, 8, 9, 17, 30, 98, 99})
+        QTest::newRow(qPrintable(QString::number(row))) << row;
+}
+
+void TestListScreen::aRowIsShownWhereverItIs()
+{
+    QFETCH(int, row);
+    Screen screen(path());
+    screen.resize(800, 300);
+    screen.show();
+    QVERIFY(TestCompat::waitForExposed(&screen));
+    screen.setRows(someRows(100));
+    for (int other : {0, 50, 99}) {
+        screen.showRow(other);
+        screen.showRow(row);
+        const QWidget *widget = screen.list()->itemAt(screen.list()->getListPos(row));
+        QVERIFY(widget && widget->isVisible());
+        QVERIFY(
+            screen.rect().contains(QRect(widget->mapTo(&screen, QPoint(0, 0)), widget->size())));
+    }
 }
 
 void TestListScreen::aFileThatCannotBeReadIsAnAlarm_data()
