@@ -184,7 +184,7 @@ void PanelProgram::makeScreens()
         new ProgramScreen(m_options.rotation, m_options.plcFolder(), m_folders.own, &m_machine);
     m_programs->setHistory(m_history.get());
     makePreview();
-    m_teach = new TeachScreen(surface, m_folders.own, &m_machine);
+    m_teach = new TeachScreen(surface, ownPath("taught"), &m_machine, m_folders.own);
     m_variables = new VariablesScreen(surface, m_folders.own);
     m_connections = new ConnectionsScreen(ownPath("connections.ini"));
     m_files = new FilesScreen(&m_stick, m_history.get());

@@ -310,13 +310,13 @@ void TourPlan::visitTeachScreen(TeachScreen *screen)
     m_tour->closeDialog();
     pressKey(screen, QLatin1String("Page"), 1);
     m_tour->picture(QLatin1String("teach-second-page"));
-    pressKey(screen, QLatin1String("First"));
-    pressKey(screen, QLatin1String("Select"));
+    pressTool(screen, QLatin1String("First"));
+    pressTool(screen, QLatin1String("Select"));
     m_tour->then([screen] { screen->list()->setCurIndex(4, false); });
     m_tour->picture(QLatin1String("teach-selection"));
-    pressKey(screen, QLatin1String("Delete"));
+    pressTool(screen, QLatin1String("Delete"));
     m_tour->picture(QLatin1String("teach-deleted"));
-    pressTool(m_panel, QLatin1String("Clear"));
+    pressTool(screen, QLatin1String("Clear"));
     m_tour->picture(QLatin1String("teach-clear"));
     m_tour->closeDialog();
     pressTool(m_panel, QLatin1String("Store"));

@@ -4,15 +4,29 @@
 #include "screens/taughtprogram.h"
 
 #include "screens/machinedata.h"
+#include "screens/rowchange.h"
 #include "storage/rowfile.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 const int movementStrings = 31;
 // The cells that a row widget keeps for commands take four strings after the kind, no more.
 const int commandStrings = 5;
+
+// Places of a movement's strings.
+const int nameAt = 2;
+const int remarkAt = 12;
+// Of a command's: what stands before its text. The list looks for this very word when it makes the
+// row's widget.
+const int markAt = 3;
+const QLatin1String mark("Oth");
+// What movements were called before their names told the kind.
+const QLatin1String formerName("Move");
 
 struct Words
 {
@@ -23,6 +37,47 @@ void appendPairs(QStringList *row, const QStringList &keys, const QStringList &v
 {
     for (int i = 0; i < keys.size(); ++i)
         *row << keys.at(i) << values.at(i);
+}
+
+bool isMovement(const QString &kind)
+{
+    return kind == QLatin1String("MJ") || kind == QLatin1String("ML");
+}
+
+QString wordOf(const QString &kind)
+{
+    return kind == QLatin1String("MJ") ? TaughtProgram::jointWord() : TaughtProgram::lineWord();
+}
+
+/// As wide as a sixth of the narrowest panel, arrow and all.
+QString shortWordOf(const QString &kind)
+{
+    return kind == QLatin1String("MJ") ? QLatin1String("MovJ") : QLatin1String("MovL");
+}
+
+bool tellsNothing(const QString &name)
+{
+    const QLatin1String words[] = {QLatin1String(""),      formerName,
+                                   QLatin1String("MoveJ"), QLatin1String("MoveL"),
+                                   QLatin1String("MovJ"),  QLatin1String("MovL")};
+    return std::find(std::begin(words), std::end(words), name) != std::end(words);
+}
+
+/// A name of its own gives way to the word of the kind and stays as the remark, which holds "_" for
+/// a blank.
+void nameByKind(QStringList *row)
+{
+    const QString kind = row->at(0);
+    const QString name = row->at(nameAt);
+    if (!tellsNothing(name)) {
+        QStringList remark(name);
+        if (!row->at(remarkAt).isEmpty())
+            remark.append(row->at(remarkAt));
+        (*row)[remarkAt] =
+            remark.join(QLatin1Char('_')).replace(QLatin1Char(' '), QLatin1Char('_'));
+    }
+    if (name != wordOf(kind))
+        (*row)[nameAt] = wordOf(kind);
 }
 
 void appendNumbered(QList<QStringList> *rows, QStringList row)
@@ -50,12 +105,42 @@ QStringList TaughtProgram::titleRow()
             QString()};
 }
 
-QStringList TaughtProgram::movement(const QString &kind, const QString &name, int point, int speed,
+QString TaughtProgram::jointWord()
+{
+    return QLatin1String("MoveJ");
+}
+
+QString TaughtProgram::lineWord()
+{
+    return QLatin1String("MoveL");
+}
+
+QStringList TaughtProgram::shown(QStringList row, bool isNarrow)
+{
+    const QString kind = row.value(0);
+    if (isMovement(kind) && isNarrow)
+        row[nameAt] = shortWordOf(kind);
+    else if (kind == mark)
+        row[markAt] = Words::tr("Text");
+    return row;
+}
+
+QStringList TaughtProgram::stored(QStringList row)
+{
+    const QString kind = row.value(0);
+    if (isMovement(kind))
+        nameByKind(&row);
+    else if (kind == mark && row.at(markAt) != mark)
+        row[markAt] = mark;
+    return row;
+}
+
+QStringList TaughtProgram::movement(const QString &kind, int point, int speed,
                                     const MachineData &machine)
 {
     QStringList row{kind,
                     QString(),
-                    name,
+                    wordOf(kind),
                     QLatin1String("P"),
                     QString::number(point),
                     QLatin1String("V"),
@@ -73,7 +158,7 @@ QStringList TaughtProgram::movement(const QString &kind, const QString &name, in
 
 QStringList TaughtProgram::command(const QString &text)
 {
-    return {QLatin1String("Oth"), QString(), QString(), QLatin1String("Oth"), text};
+    return {mark, QString(), QString(), mark, text};
 }
 
 QList<QStringList> TaughtProgram::sample(const MachineData &machine)
@@ -81,19 +166,21 @@ QList<QStringList> TaughtProgram::sample(const MachineData &machine)
     const QString joint = QLatin1String("MJ");
     const QString line = QLatin1String("ML");
     QList<QStringList> rows;
-    const auto move = [&](const QString &kind, const char *name, int point, int speed) {
-        appendNumbered(&rows, movement(kind, QLatin1String(name), point, speed, machine));
+    const auto move = [&](const QString &kind, const char *remark, int point, int speed) {
+        QStringList row = movement(kind, point, speed, machine);
+        row[remarkAt] = QLatin1String(remark);
+        appendNumbered(&rows, row);
     };
     const auto note = [&](const QString &text) { appendNumbered(&rows, command(text)); };
 
-    move(joint, "Move", 1, 4);
-    move(joint, "Move", 2, 4);
+    move(joint, "", 1, 4);
+    move(joint, "", 2, 4);
     note(QLatin1String("M10 clamp the wire"));
     for (int layer = 1; layer <= 4; ++layer) {
         const int from = layer % 2 ? 3 : 5;
         const int to = layer % 2 ? 5 : 3;
         note(QString::fromLatin1("Layer %1 of 4").arg(layer));
-        move(line, "Move", from, 2);
+        move(line, "", from, 2);
         note(QLatin1String("M03 spindle on"));
         move(line, "Wind", from, 1);
         move(line, "Wind", 4, 2);
@@ -107,23 +194,22 @@ QList<QStringList> TaughtProgram::sample(const MachineData &machine)
         note(QLatin1String("M05 spindle off"));
         move(joint, "Tape", 6, 4);
         note(QLatin1String("M00 lay the tape, then start"));
-        move(joint, "Move", to, 4);
+        move(joint, "", to, 4);
     }
-    move(line, "Move", 7, 2);
+    move(line, "", 7, 2);
     note(QLatin1String("M10 clamp the wire"));
-    move(joint, "Move", 8, 4);
+    move(joint, "", 8, 4);
     note(QLatin1String("M12 cut the wire"));
-    move(joint, "Move", 1, 4);
+    move(joint, "", 1, 4);
     return rows;
 }
 
 bool TaughtProgram::isValid(const QStringList &row)
 {
     const QString kind = row.value(0);
-    if (kind == QLatin1String("Oth"))
-        return row.size() == commandStrings && row.at(3) == QLatin1String("Oth");
-    return (kind == QLatin1String("MJ") || kind == QLatin1String("ML"))
-           && row.size() == movementStrings;
+    if (kind == mark)
+        return row.size() == commandStrings && row.at(markAt) == mark;
+    return isMovement(kind) && row.size() == movementStrings;
 }
 
 bool TaughtProgram::load(const QString &path, QList<QStringList> *rows, QString *error)
@@ -138,9 +224,9 @@ bool TaughtProgram::load(const QString &path, QList<QStringList> *rows, QString 
                          .arg(i + 1);
             return false;
         }
-        read[i][1] = QString::number(i + 1);
+        read[i] = stored(read.at(i));
     }
-    *rows = read;
+    *rows = RowChange::numbered(read);
     return true;
 }
 

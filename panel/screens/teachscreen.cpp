@@ -5,42 +5,72 @@
 
 #include "dataeditor.h"
 #include "filarixpanel.h"
+#include "guards/rowwatcher.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "mjline.h"
+#include "programs/programname.h"
 #include "screens/machinedata.h"
 #include "screens/movementlimits.h"
 #include "screens/pathpicker.h"
+#include "screens/rowchange.h"
 #include "screens/tablepicker.h"
 #include "screens/taughtprogram.h"
 #include "tlistwidget.h"
 
+#include <hmidevice/characterkeypad.h>
+#include <hmidevice/hmideviceinfo.h>
+
 #include <QDir>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
-const int usualKeyColumns = 2;
-// A panel with room for a line of the four that page beside the list.
+const int usualKeyColumns = 3;
+// A panel with room for a line of four beside the list.
 const int roomy = 1000;
 const int roomyKeyColumns = 4;
-const int keysInALine = 9;
+const int keysInALine = 8;
+// On a panel that has the height for one line alone, its page key among them.
+const int keysInTheOneLine = 9;
 // On a panel narrower than a line of them.
 const int keysInAShortLine = 5;
+const int shortLines = 2;
 
 // What messages about numbers that may not be are about.
 const QLatin1String refusedNumbers("refused numbers");
 
-int keyColumns(int width)
+bool isFlat(const QSize &surface)
 {
-    if (width < FilarixPanel::smallBelow)
+    return surface.height() < FilarixPanel::smallBelow;
+}
+
+bool isNarrow(const QSize &surface)
+{
+    return surface.width() < FilarixPanel::smallBelow;
+}
+
+int keyColumns(const QSize &surface)
+{
+    if (isNarrow(surface))
         return keysInAShortLine;
-    if (width < FilarixPanel::wideFrom)
-        return keysInALine;
-    return width < roomy ? usualKeyColumns : roomyKeyColumns;
+    if (surface.width() < FilarixPanel::wideFrom)
+        return isFlat(surface) ? keysInTheOneLine : keysInALine;
+    return surface.width() < roomy ? usualKeyColumns : roomyKeyColumns;
+}
+
+/// 0 where there is room for all keys.
+int keyLines(const QSize &surface)
+{
+    if (surface.width() >= FilarixPanel::wideFrom)
+        return 0;
+    return isNarrow(surface) ? shortLines : isFlat(surface) ? 1 : 0;
 }
 
 QIcon libraryIcon(const char *name)
@@ -48,7 +78,31 @@ QIcon libraryIcon(const char *name)
     return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
 }
 
+QIcon ownIcon(Glyphs::Glyph glyph)
+{
+    return Glyphs::icon(glyph, Glyphs::OnKey);
+}
+
 } // namespace
+
+/// The keys beside or below the list. The first four turn its pages, in the order of Turn.
+enum TeachScreen::Key : int {
+    First,
+    Back,
+    On,
+    Last,
+    Joint,
+    Line,
+    Text,
+    Select,
+    Copy,
+    Paste,
+    Up,
+    Down,
+    Delete,
+    Undo,
+    Clear
+};
 
 /// A table of the machine's, and the list's way to the number by which an instruction names an
 /// entry.
@@ -69,23 +123,87 @@ struct TeachScreen::Choice
 };
 
 TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
-                         QWidget *parent)
-    : ListScreen(surface, TaughtProgram::titleRow(), keyColumns(surface.width()),
+                         const QString &earlier, QWidget *parent)
+    : ListScreen(surface, TaughtProgram::titleRow(), keyColumns(surface),
                  new RowKeeper(QLatin1String("Taught program"), &TaughtProgram::load), parent)
     , m_folder(folder)
-    , m_file(QDir(folder).filePath(QLatin1String("program.teach")))
+    , m_earlier(earlier)
+    , m_isNarrow(isNarrow(surface))
+    , m_file(TaughtFolder::pathOf(folder, TaughtFolder::firstName()))
     , m_machine(machine)
 {
-    addPagingKeys();
-    connect(addKey(libraryIcon("insert"), [] { return tr("Joint"); }), &PanelKey::clicked, this,
-            [this] { insertMovement(QLatin1String("MJ")); });
-    connect(addKey(libraryIcon("insert"), [] { return tr("Line"); }), &PanelKey::clicked, this,
-            [this] { insertMovement(QLatin1String("ML")); });
-    connect(addKey(libraryIcon("insert"), [] { return tr("Other"); }), &PanelKey::clicked, this,
-            [this] { insert(TaughtProgram::command(tr("G04 F1 wait"))); });
-    connect(addKey(libraryIcon("delete"), [] { return tr("Delete"); }), &PanelKey::clicked, this,
-            &TeachScreen::removeChosen);
-    m_selectKey = addKey(Glyphs::icon(Glyphs::Select, Glyphs::OnKey), [] { return tr("Select"); });
+    addKeys(surface);
+    connect(list(), &TListWidget::clicked, this, &TeachScreen::followRow);
+    connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);
+    connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
+    connect(list(), &TListWidget::sg_item_deleted, this, &TeachScreen::showClearing);
+    // A number that is refused is taken back before Undo notes the row.
+    connect(new MovementLimits(list(), this), &MovementLimits::refused, this,
+            &TeachScreen::tellRefused);
+    connect(new RowWatcher(list(), this), &RowWatcher::rowEdited, this, &TeachScreen::noteRows);
+
+    showLoading(true);
+    loadFirst();
+}
+
+/// What is touched most comes first where keys take turns; elsewhere keys of a kind stand together.
+void TeachScreen::addKeys(const QSize &surface)
+{
+    static const Key byUse[] = {Back, On,    Joint, Line,   Up,    Down, Delete, Undo,
+                                Copy, Paste, Text,  Select, First, Last, Clear};
+    static const Key inLines[] = {First, Back,  On, Last, Joint,  Line, Text, Select,
+                                  Copy,  Paste, Up, Down, Delete, Undo, Clear};
+    static const Key inThrees[] = {First, Back, Up,    Last,   On,     Down, Joint, Line,
+                                   Text,  Copy, Paste, Select, Delete, Undo, Clear};
+    const int lines = keyLines(surface);
+    const Key *order = lines > 0 ? byUse : inLines;
+    if (keyColumns(surface) == usualKeyColumns)
+        order = inThrees;
+    if (lines > 0)
+        setKeyLines(lines);
+    std::for_each(order, order + Clear + 1, [this](Key key) { addKeyOf(key); });
+}
+
+void TeachScreen::addKeyOf(Key key)
+{
+    const struct
+    {
+        Key key;
+        QIcon icon;
+        const char *text;
+        void (TeachScreen::*press)();
+    } plans[] = {
+        {Joint, ownIcon(Glyphs::Joint), "MoveJ", &TeachScreen::insertJoint},
+        {Line, ownIcon(Glyphs::Line), "MoveL", &TeachScreen::insertLine},
+        {Text, libraryIcon("insert"), QT_TR_NOOP("Text"), &TeachScreen::insertText},
+        {Copy, libraryIcon("copy"), QT_TR_NOOP("Copy"), &TeachScreen::copyChosen},
+        {Paste, libraryIcon("paste"), QT_TR_NOOP("Paste"), &TeachScreen::paste},
+        {Up, ownIcon(Glyphs::Up), QT_TR_NOOP("Up"), &TeachScreen::moveUp},
+        {Down, ownIcon(Glyphs::Down), QT_TR_NOOP("Down"), &TeachScreen::moveDown},
+        {Delete, libraryIcon("delete"), QT_TR_NOOP("Delete"), &TeachScreen::removeChosen},
+        {Undo, ownIcon(Glyphs::Undo), QT_TR_NOOP("Undo"), &TeachScreen::undo},
+        {Clear, ownIcon(Glyphs::Clear), QT_TR_NOOP("Clear"), &TeachScreen::clear},
+    };
+    if (key <= Last)
+        return addTurnKey(Turn(key));
+    if (key == Select)
+        return makeSelectKey();
+    for (const auto &plan : plans) {
+        if (plan.key != key)
+            continue;
+        const char *const text = plan.text;
+        PanelKey *made = addKey(plan.icon, [text] { return tr(text); });
+        connect(made, &PanelKey::clicked, this, plan.press);
+        if (key == Paste)
+            m_pasteKey = made;
+        if (key == Undo)
+            m_undoKey = made;
+    }
+}
+
+void TeachScreen::makeSelectKey()
+{
+    m_selectKey = addKey(ownIcon(Glyphs::Select), [] { return tr("Select"); });
     m_selectKey->setCheckable(true);
     connect(m_selectKey, &PanelKey::toggled, this, [this](bool several) {
         if (several)
@@ -93,17 +211,19 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
         else
             list()->clearMultiSelect();
     });
+}
 
-    connect(list(), &TListWidget::clicked, this, &TeachScreen::followRow);
-    connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);
-    connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
-    connect(list(), &TListWidget::sg_item_deleted, this, &TeachScreen::showClearing);
+void TeachScreen::showLoading(bool isLoading)
+{
+    setLoading(isLoading);
+    showKeys();
+}
 
-    connect(new MovementLimits(list(), this), &MovementLimits::refused, this,
-            &TeachScreen::tellRefused);
-
-    setLoading(true);
-    loadFirst();
+/// A key that has nothing to do is off.
+void TeachScreen::showKeys()
+{
+    m_pasteKey->setEnabled(!isLoading() && !m_copied.isEmpty());
+    m_undoKey->setEnabled(!isLoading() && m_undo.isPossible());
 }
 
 void TeachScreen::tellRefused(const QString &text)
@@ -141,28 +261,79 @@ void TeachScreen::showClearing(int percent)
         Q_EMIT worked(tr("Clearing: %1 %").arg(percent), percent);
 }
 
+void TeachScreen::setStallTime(int ms)
+{
+    m_stallTime = ms;
+    m_adopting.setStallTime(ms);
+    ListScreen::setStallTime(ms);
+}
+
 void TeachScreen::loadFirst()
 {
-    keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showFirst(loaded); });
+    TaughtFolder::Adoption none;
+    none.first = m_file;
+    if (m_earlier.isEmpty())
+        return loadAdopted(none);
+    const std::shared_ptr<TaughtFolder::Adoption> adoption =
+        std::make_shared<TaughtFolder::Adoption>();
+    const QString earlier = m_earlier;
+    const QString folder = m_folder;
+    m_adopting.run(
+        [adoption, earlier, folder] { *adoption = TaughtFolder::adopt(earlier, folder); },
+        [this, adoption] { loadAdopted(*adoption); }, [this, none] { loadAdopted(none); });
+}
+
+void TeachScreen::loadAdopted(const TaughtFolder::Adoption &adoption)
+{
+    if (!adoption.copied.isEmpty())
+        Q_EMIT told(tr("Taught programs are in %1 now, copied: %2. The old files stay.")
+                        .arg(m_folder)
+                        .arg(adoption.copied.size()),
+                    Message::Information);
+    if (!adoption.error.isEmpty())
+        Q_EMIT told(adoption.error, Message::Warning);
+    const QString path = adoption.first;
+    keeper()->load(path,
+                   [this, path](const RowKeeper::Loaded &loaded) { showFirst(path, loaded); });
 }
 
 /// A program that nobody can read is not taken for one that isn't there. There are no rows then,
 /// not those of the sample, and the file stays until the operator stores.
-void TeachScreen::showFirst(const RowKeeper::Loaded &loaded)
+void TeachScreen::showFirst(const QString &path, const RowKeeper::Loaded &loaded)
 {
     const bool isNew = loaded.state == RowKeeper::Loaded::Missing;
     setRows(isNew ? TaughtProgram::sample(*m_machine) : loaded.rows);
     setLoading(false);
-    markStored(rows());
+    // A program that could only be read in its old place is not stored in the new one.
+    markStored(path == m_file ? rows() : QList<QStringList>());
+    m_undo.restart(state());
+    showKeys();
     tellUnread(loaded, tr("The list is empty. Store first puts that file aside."),
                tr("The list is empty. Try Load."));
     tellFault();
+}
+
+QStringList TeachScreen::rowForList(const QStringList &row) const
+{
+    return TaughtProgram::shown(row, m_isNarrow);
+}
+
+QList<QStringList> TeachScreen::rows() const
+{
+    QList<QStringList> rows = ListScreen::rows();
+    for (QStringList &row : rows)
+        row = TaughtProgram::stored(row);
+    return rows;
 }
 
 /// The list never fills its title row again. The title's cells are those of the row without its
 /// first two words, its kind and its number.
 void TeachScreen::retranslate()
 {
+    for (int row = firstRow(); row < list()->count(); ++row) {
+        QStringList shown = rowForList(TaughtProgram::stored(list()->getContent(row)));
+        list()->setContent(row, shown);
+    }
     QStringList cells = TaughtProgram::titleRow();
     cells[0].clear();
     cells[1].clear();
@@ -184,11 +355,11 @@ QList<PanelKey *> TeachScreen::keys()
 {
     PanelKey *loadKey = new PanelKey(Glyphs::icon(Glyphs::Load), [] { return tr("Load"); });
     PanelKey *storeKey = new PanelKey(Glyphs::icon(Glyphs::Store), [] { return tr("Store"); });
-    PanelKey *clearKey = new PanelKey(Glyphs::icon(Glyphs::Clear), [] { return tr("Clear"); });
+    PanelKey *asKey = new PanelKey(Glyphs::icon(Glyphs::StoreAs), [] { return tr("Store as"); });
     connect(loadKey, &PanelKey::clicked, this, &TeachScreen::askAndLoad);
     connect(storeKey, &PanelKey::clicked, this, &TeachScreen::store);
-    connect(clearKey, &PanelKey::clicked, this, &TeachScreen::clear);
-    return {whenLoaded(loadKey), whenLoaded(storeKey), whenLoaded(clearKey)};
+    connect(asKey, &PanelKey::clicked, this, &TeachScreen::storeAs);
+    return {whenLoaded(loadKey), whenLoaded(storeKey), whenLoaded(asKey)};
 }
 
 bool TeachScreen::mayClose()
@@ -208,9 +379,9 @@ QString TeachScreen::fileCause() const
 
 void TeachScreen::load(const QString &path)
 {
-    if (keeper()->isBusy())
+    if (keeper()->isBusy() || m_storing)
         return;
-    setLoading(true);
+    showLoading(true);
     keeper()->load(path, [this, path](const RowKeeper::Loaded &loaded) { showRead(path, loaded); });
 }
 
@@ -219,7 +390,7 @@ void TeachScreen::showRead(const QString &path, const RowKeeper::Loaded &loaded)
     const bool isRead = loaded.state == RowKeeper::Loaded::Read;
     if (isRead)
         showProgram(path, loaded.rows);
-    setLoading(false);
+    showLoading(false);
     if (isRead)
         Q_EMIT told(tr("%1 loaded, instructions: %2.").arg(title()).arg(loaded.rows.size()),
                     Message::Information);
@@ -237,6 +408,7 @@ void TeachScreen::showProgram(const QString &path, const QList<QStringList> &pro
     m_selectKey->setChecked(false);
     setRows(program);
     markStored(rows());
+    m_undo.restart(state());
     Q_EMIT causeEnded(fileCause());
 }
 
@@ -254,13 +426,21 @@ bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
 {
     if (!std::all_of(rows.begin(), rows.end(), TaughtProgram::isValid))
         return false;
-    if (path != m_file && QFileInfo(path).path() == QFileInfo(m_file).path()) {
-        m_file = path;
+    const QString folder = QFileInfo(path).path();
+    const QString here = QDir(m_folder).filePath(QFileInfo(path).fileName());
+    const bool isKnown = folder == m_folder || (folder == m_earlier && !m_earlier.isEmpty());
+    if (isKnown && here != m_file) {
+        m_file = here;
         // The rows of that file were never shown.
         markStored(QList<QStringList>());
     }
     m_selectKey->setChecked(false);
-    setRows(rows);
+    QList<QStringList> named;
+    for (const QStringList &row : rows)
+        named.append(TaughtProgram::stored(row));
+    setRows(RowChange::numbered(named));
+    m_undo.restart(state());
+    showKeys();
     refreshStatus();
     Q_EMIT titleChanged();
     return true;
@@ -275,6 +455,100 @@ void TeachScreen::askAndLoad()
         load(path);
 }
 
+/// The file of that name is looked at first: what stands there is covered at the operator's word.
+void TeachScreen::storeAs()
+{
+    if (keeper()->isBusy() || m_storing || !mayStore())
+        return;
+    const QString name = askName();
+    if (name.isNull())
+        return;
+    const QString complaint = ProgramName::complaint(name);
+    if (!complaint.isEmpty())
+        return Q_EMIT told(complaint, Message::Warning);
+    const QString path = TaughtFolder::pathOf(m_folder, name.trimmed());
+    if (path == m_file)
+        return store();
+    m_storing = new RowKeeper(QLatin1String("Taught program"), &TaughtProgram::load, this);
+    m_storing->setStallTime(m_stallTime);
+    m_storing->load(path,
+                    [this, path](const RowKeeper::Loaded &there) { lookAndStore(path, there); });
+}
+
+/// Null when the operator gave none.
+QString TeachScreen::askName() const
+{
+    const QString name = QFileInfo(m_file).completeBaseName();
+    CharacterKeypad *keypad =
+        HMIDeviceInfo::isTouchScreen() ? CharacterKeypad::instance() : nullptr;
+    if (!keypad) {
+        bool isGiven = false;
+        const QString given = QInputDialog::getText(nullptr, tr("Store as"), tr("Name:"),
+                                                    QLineEdit::Normal, name, &isGiven);
+        return isGiven ? given : QString();
+    }
+    QLineEdit field(name);
+    field.setProperty("hmiName", tr("Store as"));
+    keypad->setObject(&field);
+    keypad->setValidator(nullptr);
+    keypad->setText(name);
+    keypad->setShowType(0);
+    return keypad->exec() == QDialog::Accepted ? field.text() : QString();
+}
+
+void TeachScreen::lookAndStore(const QString &path, const RowKeeper::Loaded &there)
+{
+    if (there.state == RowKeeper::Loaded::Stalled) {
+        dropStoring();
+        return Q_EMIT told(there.error, Message::Alarm, QLatin1String("storage"));
+    }
+    if (there.state != RowKeeper::Loaded::Missing && !mayCover(path, there))
+        return dropStoring();
+    storeAt(path);
+}
+
+bool TeachScreen::mayCover(const QString &path, const RowKeeper::Loaded &there) const
+{
+    const QString question =
+        there.state == RowKeeper::Loaded::Read
+            ? tr("%1 is there already, instructions: %2. Write over it?")
+                  .arg(nameOf(path))
+                  .arg(there.rows.size())
+            : tr("%1 is there already and cannot be read. Put it aside and store?")
+                  .arg(nameOf(path));
+    return QMessageBox::question(nullptr, tr("Store as"), question,
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+           == QMessageBox::Yes;
+}
+
+void TeachScreen::storeAt(const QString &path)
+{
+    const QList<QStringList> shown = rows();
+    m_storing->store(path, shown, [this, path, shown](const RowKeeper::Stored &stored) {
+        noteStoredAs(path, shown, stored);
+    });
+}
+
+/// The program has its new name only once it is stored under it.
+void TeachScreen::noteStoredAs(const QString &path, const QList<QStringList> &rows,
+                               const RowKeeper::Stored &stored)
+{
+    if (!stored.isStored) {
+        dropStoring();
+        return noteStored(rows, stored);
+    }
+    m_file = path;
+    takeKeeper(m_storing);
+    m_storing = nullptr;
+    noteStored(rows, stored);
+}
+
+void TeachScreen::dropStoring()
+{
+    m_storing->deleteLater();
+    m_storing = nullptr;
+}
+
 void TeachScreen::clear()
 {
     const int count = list()->count() - firstRow();
@@ -284,43 +558,144 @@ void TeachScreen::clear()
     if (answer != QMessageBox::Yes)
         return;
     m_selectKey->setChecked(false);
+    noteRows();
     list()->clear();
-    Q_EMIT told(tr("Instructions removed: %1. Load brings the stored ones back.").arg(count),
+    noteRows();
+    Q_EMIT told(tr("Instructions removed: %1. Undo brings them back.").arg(count),
                 Message::Information);
     refreshStatus();
 }
 
+void TeachScreen::insertText()
+{
+    insert(TaughtProgram::command(tr("G04 F1 wait")));
+}
+
 void TeachScreen::insertMovement(const QString &kind)
 {
-    insert(TaughtProgram::movement(kind, tr("Move"), m_machine->currentPoint(), 1, *m_machine));
+    insert(TaughtProgram::movement(kind, m_machine->currentPoint(), 1, *m_machine));
 }
 
 /// Below the current row, and in view.
-void TeachScreen::insert(QStringList row)
+void TeachScreen::insert(const QStringList &row)
 {
     const int index = qMin(list()->getCurIndex() + 1, list()->count());
-    row[1] = QString::number(index);
+    QList<QStringList> all = rows();
+    all.insert(index - firstRow(), row);
+    change(all, index);
+}
+
+TeachScreen::Range TeachScreen::chosen() const
+{
+    const int current = list()->getCurIndex();
+    const int other = list()->isMultiSelect() ? list()->getLastIndex() : current;
+    Range range;
+    range.from = qMax(firstRow(), qMin(current, other));
+    range.to = qMin(list()->count() - 1, qMax(current, other));
+    return range;
+}
+
+RowUndo::State TeachScreen::state() const
+{
+    RowUndo::State state;
+    state.rows = rows();
+    state.current = list()->getCurIndex();
+    return state;
+}
+
+/// Called before each change, for the current row, and behind it.
+void TeachScreen::noteRows()
+{
+    m_undo.note(state());
+    showKeys();
+}
+
+void TeachScreen::change(const QList<QStringList> &rows, int current)
+{
+    noteRows();
     m_selectKey->setChecked(false);
-    list()->insertWidget(index, row, true, false);
-    const int page = list()->getListPos(index);
-    if (page < firstRow() || !list()->itemAt(page) || !list()->itemAt(page)->isVisible())
-        list()->nextLine();
+    closeRows();
+    QList<QStringList> shown;
+    for (const QStringList &row : rows)
+        shown.append(rowForList(row));
+    RowChange::apply(list(), shown);
+    list()->setCurIndex(qBound(firstRow(), current, qMax(firstRow(), list()->count() - 1)), true);
+    showRow(list()->getCurIndex());
+    noteRows();
     refreshStatus();
+}
+
+void TeachScreen::copyChosen()
+{
+    const Range range = chosen();
+    if (range.isEmpty())
+        return Q_EMIT told(tr("There is no instruction to copy."), Message::Information);
+    m_copied = rows().mid(range.from - firstRow(), range.size());
+    m_selectKey->setChecked(false);
+    // What is pasted follows what was copied.
+    list()->setCurIndex(range.to, true);
+    showKeys();
+    Q_EMIT told(tr("Instructions copied: %1. Paste puts them below a row.").arg(range.size()),
+                Message::Information);
+}
+
+void TeachScreen::paste()
+{
+    int index = qMin(list()->getCurIndex() + 1, list()->count());
+    QList<QStringList> all = rows();
+    for (const QStringList &row : qAsConst(m_copied))
+        all.insert(index++ - firstRow(), row);
+    change(all, index - 1);
+}
+
+/// The rows stay selected, so that one key moves them on.
+void TeachScreen::moveChosen(int by)
+{
+    const Range range = chosen();
+    const int over = by < 0 ? range.from - 1 : range.to + 1;
+    if (range.isEmpty() || over < firstRow() || over >= list()->count())
+        return;
+    const bool several = list()->isMultiSelect();
+    const int current = list()->getCurIndex() + by;
+    const int other = list()->getLastIndex() + by;
+    QList<QStringList> all = rows();
+    all.move(over - firstRow(), (by < 0 ? range.to : range.from) - firstRow());
+    change(RowChange::numbered(all), current);
+    if (!several)
+        return;
+    list()->setCurIndex(other, true);
+    m_selectKey->setChecked(true);
+    list()->setCurIndex(current, true);
 }
 
 void TeachScreen::removeChosen()
 {
-    const int current = list()->getCurIndex();
-    const int other = list()->isMultiSelect() ? list()->getLastIndex() : current;
-    const int from = qMax(firstRow(), qMin(current, other));
-    const int to = qMin(list()->count() - 1, qMax(current, other));
-    if (from > to) {
-        Q_EMIT told(tr("There is no instruction to delete."), Message::Information);
+    const Range range = chosen();
+    if (range.isEmpty())
+        return Q_EMIT told(tr("There is no instruction to delete."), Message::Information);
+    QList<QStringList> all = rows();
+    all.erase(all.begin() + range.from - firstRow(), all.begin() + range.to + 1 - firstRow());
+    change(all, range.from);
+    if (range.size() > 1)
+        Q_EMIT told(tr("Instructions removed: %1. Undo brings them back.").arg(range.size()),
+                    Message::Information);
+}
+
+void TeachScreen::undo()
+{
+    noteRows();
+    if (!m_undo.isPossible())
         return;
-    }
+    const RowUndo::State before = m_undo.takeBack();
     m_selectKey->setChecked(false);
-    for (int row = to; row >= from; --row)
-        list()->removeWidget(row, row == from);
+    closeRows();
+    QList<QStringList> shown;
+    for (const QStringList &row : before.rows)
+        shown.append(rowForList(row));
+    RowChange::apply(list(), shown);
+    list()->setCurIndex(before.current, true);
+    showRow(before.current);
+    showKeys();
     refreshStatus();
 }
 
@@ -355,6 +730,7 @@ TeachScreen::Choice TeachScreen::choose(int row, const QString &title, const Sha
     choice.number = picker.number();
     const TableEntry &entry = table.entries.at(choice.number - 1);
     choice.name = entry.name;
+    noteRows();
     QStringList values = entry.values;
     values.append(QString::number(choice.number));
     for (int i = firstRow(); i < list()->count(); ++i) {
@@ -364,6 +740,7 @@ TeachScreen::Choice TeachScreen::choose(int row, const QString &title, const Sha
         ++choice.rows;
     }
     list()->reshow();
+    noteRows();
     refreshStatus();
     return choice;
 }

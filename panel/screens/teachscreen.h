@@ -5,11 +5,13 @@
 #define TEACHSCREEN_H
 
 #include "screens/listscreen.h"
+#include "screens/rowundo.h"
+#include "screens/taughtfolder.h"
 
 class MachineData;
 
 /// The taught program: the library's list of instructions, with the host's shared tables behind its
-/// points and speeds.
+/// points and speeds. What the operator does to the rows can be taken back, an edit too.
 class TeachScreen : public ListScreen
 {
     Q_OBJECT
@@ -17,8 +19,9 @@ class TeachScreen : public ListScreen
 public:
     /// Shows the program that is kept in \a folder as soon as it is read, and a sample where there
     /// is none. The folder is made when a program is stored. \a machine must outlive the screen.
+    /// The programs in \a earlier, where they were kept before, are copied first.
     TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
-                QWidget *parent = nullptr);
+                const QString &earlier = QString(), QWidget *parent = nullptr);
 
     QString title() const override;
     QList<PanelKey *> keys() override;
@@ -31,11 +34,15 @@ public:
     /// Shows \a rows that were not stored when the program ended, as changes to the file \a path;
     /// false for rows that are no instructions.
     bool bringBack(const QString &path, const QList<QStringList> &rows) override;
+    /// The rows as a file has them, whatever words the list shows.
+    QList<QStringList> rows() const override;
+    void setStallTime(int ms) override;
     QString nameOf(const QString &path) const override;
     QString describe(const QString &name, const QString &time, int count) const override;
 
 protected:
     void retranslate() override;
+    QStringList rowForList(const QStringList &row) const override;
     QString storePath() const override { return filePath(); }
     bool mayStore() override;
     void noteStore() override;
@@ -45,19 +52,55 @@ protected:
 private:
     struct SharedTable;
     struct Choice;
+    enum Key : int;
+    /// The first and the last row of what is selected, as the list counts them.
+    struct Range
+    {
+        int from = 0;
+        int to = -1;
+        bool isEmpty() const { return from > to; }
+        int size() const { return to - from + 1; }
+    };
 
     void tellRefused(const QString &text);
     void tellFault();
+    void addKeys(const QSize &surface);
+    void addKeyOf(Key key);
+    void makeSelectKey();
+    void showLoading(bool isLoading);
+    void showKeys();
     void showClearing(int percent);
     void loadFirst();
-    void showFirst(const RowKeeper::Loaded &loaded);
+    void loadAdopted(const TaughtFolder::Adoption &adoption);
+    void showFirst(const QString &path, const RowKeeper::Loaded &loaded);
     void showRead(const QString &path, const RowKeeper::Loaded &loaded);
     void showProgram(const QString &path, const QList<QStringList> &program);
     void askAndLoad();
+    void storeAs();
+    QString askName() const;
+    void lookAndStore(const QString &path, const RowKeeper::Loaded &there);
+    bool mayCover(const QString &path, const RowKeeper::Loaded &there) const;
+    void storeAt(const QString &path);
+    void noteStoredAs(const QString &path, const QList<QStringList> &rows,
+                      const RowKeeper::Stored &stored);
+    void dropStoring();
     void clear();
+    void insertJoint() { insertMovement(QLatin1String("MJ")); }
+    void insertLine() { insertMovement(QLatin1String("ML")); }
+    void insertText();
     void insertMovement(const QString &kind);
-    void insert(QStringList row);
+    void insert(const QStringList &row);
+    void copyChosen();
+    void paste();
+    void moveUp() { moveChosen(-1); }
+    void moveDown() { moveChosen(1); }
+    void moveChosen(int by);
     void removeChosen();
+    void undo();
+    Range chosen() const;
+    RowUndo::State state() const;
+    void noteRows();
+    void change(const QList<QStringList> &rows, int current);
     void choosePoint(int row);
     void chooseSpeed(int row);
     Choice choose(int row, const QString &title, const SharedTable &table);
@@ -66,9 +109,19 @@ private:
     bool mayLoseProgram(const QString &question);
 
     const QString m_folder;
+    const QString m_earlier;
+    const bool m_isNarrow;
     QString m_file;
     MachineData *m_machine;
-    PanelKey *m_selectKey;
+    FileJob m_adopting;
+    int m_stallTime = FileTaskRunner::stallMs;
+    /// Stores under another name; null while nothing does.
+    RowKeeper *m_storing = nullptr;
+    RowUndo m_undo;
+    QList<QStringList> m_copied;
+    PanelKey *m_selectKey = nullptr;
+    PanelKey *m_pasteKey = nullptr;
+    PanelKey *m_undoKey = nullptr;
 };
 
 #endif // TEACHSCREEN_H

@@ -70,7 +70,7 @@ rm "$hang"
 walk "everything is back"
 expect_gone "The panel's storage does not answer. The programs come once it does."
 touch_text Teach
-expect_text "Move(↓)"
+expect_text "MoveJ(↓)"
 touch_text Connections
 expect_text "Edit the addresses"
 

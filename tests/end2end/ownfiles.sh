@@ -69,7 +69,12 @@ edit_lists() {
     touch_text Teach
     touch_text Delete
     touch_text Store
-    desk_until 20 test -s "$own/program.teach" || desk_fail "the taught program is not stored"
+    desk_until 20 test -s "$own/taught/program.teach" || desk_fail "the taught program is not stored"
+    touch_text "Store as"
+    touch_named key_clear
+    type_keys taught2
+    touch_named key_ok
+    desk_until 20 test -s "$own/taught/taught2.teach" || desk_fail "it is not stored as taught2"
     touch_text Load
     touch_text program.teach "Load a taught program"
     touch_text OK "Load a taught program"
@@ -158,7 +163,9 @@ choose_settings() {
 
 kept_work() { find "$own" -path '*/unsaved/*.kept' -size +0 | grep -q .; }
 
-mkdir -p "$plc"
+mkdir -p "$plc" "$own"
+# One where panels kept them before, to be copied.
+printf '# Taught program\nOth\t1\t\tOth\tM05\n' >"$own/former.teach"
 desk_start 800x480 --plc "$plc" --stick "$stick"
 expect_text Open
 printf "G01 X1\nG01 X2\n" >"$programs/coil5.cnc"

@@ -12,7 +12,12 @@ class TestTaughtProgram : public FilarixTest
 private Q_SLOTS:
     void sampleHasSixtyInstructionsOfEveryKind();
     void movementCarriesTheValuesOfItsTables();
+    void kindsAreShownByTheWordsOfAnOperator();
+    void whatIsShownIsStoredAsItWas();
+    void aNameOfItsOwnBecomesTheRemark_data();
+    void aNameOfItsOwnBecomesTheRemark();
     void storedProgramComesBackRenumbered();
+    void aFileOfEarlierPanelsGetsTheWords();
     void fileWithAnotherRowIsRefused_data();
     void fileWithAnotherRowIsRefused();
 };
@@ -34,7 +39,7 @@ void TestTaughtProgram::sampleHasSixtyInstructionsOfEveryKind()
 void TestTaughtProgram::movementCarriesTheValuesOfItsTables()
 {
     const MachineData machine;
-    const QStringList row = TaughtProgram::movement("ML", "Wind", 2, 3, machine);
+    const QStringList row = TaughtProgram::movement("ML", 2, 3, machine);
     QCOMPARE(row.size(), 31);
     QCOMPARE(row.at(4), QString("2"));
     QCOMPARE(row.at(6), QString("3"));
@@ -42,6 +47,92 @@ void TestTaughtProgram::movementCarriesTheValuesOfItsTables()
         QCOMPARE(row.at(14 + 2 * i), machine.points().at(1).values.at(i));
     for (int i = 0; i < 3; ++i)
         QCOMPARE(row.at(26 + 2 * i), machine.speeds().at(2).values.at(i));
+}
+
+void TestTaughtProgram::kindsAreShownByTheWordsOfAnOperator()
+{
+    const MachineData machine;
+    const QStringList joint = TaughtProgram::movement("MJ", 1, 1, machine);
+    const QStringList line = TaughtProgram::movement("ML", 1, 1, machine);
+    QCOMPARE(TaughtProgram::shown(joint, false).at(2), QString("MoveJ"));
+    QCOMPARE(TaughtProgram::shown(line, false).at(2), QString("MoveL"));
+    QCOMPARE(TaughtProgram::shown(joint, true).at(2), QString("MovJ"));
+    QCOMPARE(TaughtProgram::shown(line, true).at(2), QString("MovL"));
+    // The cells of a row's text: the first names the kind, the second is the text.
+    const QStringList text = TaughtProgram::shown(TaughtProgram::command("M05"), false);
+    QCOMPARE(text.mid(3), (QStringList{"Text", "M05"}));
+    // The kind itself is the list's, and none of the words that it shows is.
+    for (const QStringList &row : TaughtProgram::sample(machine))
+        QVERIFY(!TaughtProgram::shown(row, false).mid(1).contains("Oth"));
+}
+
+void TestTaughtProgram::whatIsShownIsStoredAsItWas()
+{
+    const MachineData machine;
+    for (const QStringList &row : TaughtProgram::sample(machine)) {
+        for (bool isNarrow : {false, true})
+            QCOMPARE(TaughtProgram::stored(TaughtProgram::shown(row, isNarrow)), row);
+    }
+}
+
+void TestTaughtProgram::aNameOfItsOwnBecomesTheRemark_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("remark");
+    QTest::newRow("a name") << "Wind"
+                            << ""
+                            << "Wind";
+    QTest::newRow("with a blank") << "left pin"
+                                  << ""
+                                  << "left_pin";
+    QTest::newRow("with a remark") << "Wind"
+                                   << "slow"
+                                   << "Wind_slow";
+    QTest::newRow("none") << ""
+                          << "slow"
+                          << "slow";
+    QTest::newRow("the former one") << "Move"
+                                    << ""
+                                    << "";
+    QTest::newRow("its word") << "MoveL"
+                              << "slow"
+                              << "slow";
+    QTest::newRow("the other kind's word") << "MoveJ"
+                                           << ""
+                                           << "";
+}
+
+void TestTaughtProgram::aNameOfItsOwnBecomesTheRemark()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, before);
+    QFETCH(QString, remark);
+    QStringList row = TaughtProgram::movement("ML", 1, 1, MachineData());
+    row[2] = name;
+    row[12] = before;
+    const QStringList stored = TaughtProgram::stored(row);
+    QCOMPARE(stored.at(2), QString("MoveL"));
+    QCOMPARE(stored.at(12), remark);
+    row[2] = stored.at(2);
+    row[12] = stored.at(12);
+    QCOMPARE(stored, row);
+    QCOMPARE(TaughtProgram::stored(stored), stored);
+}
+
+void TestTaughtProgram::aFileOfEarlierPanelsGetsTheWords()
+{
+    const MachineData machine;
+    QStringList row = TaughtProgram::movement("MJ", 4, 1, machine);
+    row[1] = "1";
+    row[2] = "Press";
+    writeFile(home() + "/a.teach", "# Taught program\n" + row.join('\t').toUtf8() + '\n');
+    QList<QStringList> rows;
+    QString error;
+    QVERIFY2(TaughtProgram::load(home() + "/a.teach", &rows, &error), qPrintable(error));
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows.at(0).at(2), QString("MoveJ"));
+    QCOMPARE(rows.at(0).at(12), QString("Press"));
 }
 
 void TestTaughtProgram::storedProgramComesBackRenumbered()

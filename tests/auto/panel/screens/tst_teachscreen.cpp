@@ -7,6 +7,7 @@
 #include "heldfile.h"
 #include "label.h"
 #include "look/panelkey.h"
+#include "mjline.h"
 #include "modaldriver.h"
 #include "screens/machinedata.h"
 #include "screens/tablepicker.h"
@@ -17,6 +18,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 
@@ -33,6 +36,25 @@ private Q_SLOTS:
     void insertedRowFollowsTheCurrentOne();
     void deleteTakesTheCurrentRow();
     void deleteTakesTheSelection();
+    void rowsShowTheWordsOfAnOperator_data();
+    void rowsShowTheWordsOfAnOperator();
+    void everyRowShowsItsKindAtOnce();
+    void keysAreLargeEnoughForGloves_data();
+    void keysAreLargeEnoughForGloves();
+    void copiedRowIsPastedBelowTheCurrentOne();
+    void copiedRowsArePastedIntoAnotherProgram();
+    void pasteAndUndoAreOffWithNothingToDo();
+    void movedRowStaysCurrent_data();
+    void movedRowStaysCurrent();
+    void movedSelectionStaysSelected();
+    void rowAtTheEndIsNotMovedOn();
+    void everyChangeIsTakenBackStepByStep();
+    void editOnTheKeypadIsTakenBack();
+    void chosenPointIsTakenBack();
+    void clearedProgramIsTakenBack();
+    void undoShowsTheRowItBringsBack();
+    void loadForgetsWhatCouldBeTakenBack();
+    void openRowIsClosedByAChange();
     void clearShowsProgressAndAsksFirst();
     void insertAndDeleteInAnEmptyList();
     void chosenPointGoesToEveryRowThatNamesTheSame();
@@ -42,6 +64,21 @@ private Q_SLOTS:
     void touchedRowSetsThePointThatTagCopies();
     void editOnTheKeypadIsStoredAndLoaded();
     void loadKeyPicksAFile();
+    void storeAsGivesTheProgramItsName();
+    void storeAsWithoutANameChangesNothing();
+    void storeAsRefusesANameThatIsNone_data();
+    void storeAsRefusesANameThatIsNone();
+    void storeAsAsksBeforeItCovers_data();
+    void storeAsAsksBeforeItCovers();
+    void storeAsPutsAsideWhatNobodyCanRead_data();
+    void storeAsPutsAsideWhatNobodyCanRead();
+    void storeAsThatFailsKeepsTheName_data();
+    void storeAsThatFailsKeepsTheName();
+    void storeAsOnAHungDiskIsGivenUp();
+    void withoutATouchScreenTheNameIsTyped();
+    void storeBehindARefusedStoreAsCoversItsOwnFile();
+    void programsOfTheOldPlaceAreFound();
+    void programThatCannotBeCopiedIsReadInItsOldPlace();
     void fileThatIsNoneLeavesTheScreenAsItIs_data();
     void fileThatIsNoneLeavesTheScreenAsItIs();
     void missingFileShowsTheSample();
@@ -52,6 +89,7 @@ private Q_SLOTS:
     void storeAtTheEndWaitsForTheDisk();
     void closingWithChangesAsks();
     void rowsThatAreBroughtBackAreChanges();
+    void rowsOfTheOldPlaceAreBroughtBackInTheNewOne();
     void rowsThatAreNoneAreNotBroughtBack();
     void refusedNumberIsToldAndNotTaken();
     void refusedNumberIsNeverStored();
@@ -62,6 +100,7 @@ private:
     QWidget *cell(int row, const char *className, int nth) const;
     QStringList firstStrings(int position) const;
     void choose(ModalDriver *driver, int number);
+    void storeAs(const QString &name);
 
     MachineData *m_machine = nullptr;
     TeachScreen *m_screen = nullptr;
@@ -130,6 +169,15 @@ void TestTeachScreen::choose(ModalDriver *driver, int number)
     });
 }
 
+static void fillDisk(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const QByteArray piece(512, 'x');
+    while (file.write(piece) == piece.size()) {
+    }
+}
+
 static QStringList numbers(int count)
 {
     QStringList numbers;
@@ -143,6 +191,7 @@ void TestTeachScreen::fits_data()
     QTest::addColumn<QSize>("panel");
     QTest::addColumn<QSize>("screen");
     QTest::newRow("480x272") << QSize(480, 272) << QSize(480, 230);
+    QTest::newRow("272x480") << QSize(272, 480) << QSize(272, 374);
     QTest::newRow("480x800") << QSize(480, 800) << QSize(480, 670);
     QTest::newRow("800x480") << QSize(800, 480) << QSize(800, 405);
     QTest::newRow("1024x600") << QSize(1024, 600) << QSize(1024, 525);
@@ -170,8 +219,9 @@ void TestTeachScreen::fits()
             continue;
         const QRect place(widget->mapTo(&teach, QPoint(0, 0)), widget->size());
         QVERIFY(teach.rect().contains(place));
-        QVERIFY(widget->height() >= 34);
-        QVERIFY(widget->width() >= 34);
+        // Rows have the library's height.
+        QVERIFY(widget->height() >= (isKey ? 48 : 34));
+        QVERIFY(widget->width() >= (isKey ? 48 : 34));
         rows += isRow;
     }
     // The title and four instructions at least.
@@ -204,14 +254,14 @@ void TestTeachScreen::insertedRowFollowsTheCurrentOne()
     const int before = m_list->count();
     m_list->setCurIndex(3, false);
     m_machine->setCurrentPoint(5);
-    QTest::mouseClick(key("Line"), Qt::LeftButton);
+    QTest::mouseClick(key("MoveL"), Qt::LeftButton);
     QCOMPARE(m_list->count(), before + 1);
     QCOMPARE(m_list->getCurIndex(), 4);
     QCOMPARE(m_list->typeAt(4), QString("ML"));
     QCOMPARE(m_list->getJposIndex(4), 5);
-    QTest::mouseClick(key("Joint"), Qt::LeftButton);
+    QTest::mouseClick(key("MoveJ"), Qt::LeftButton);
     QCOMPARE(m_list->typeAt(5), QString("MJ"));
-    QTest::mouseClick(key("Other"), Qt::LeftButton);
+    QTest::mouseClick(key("Text"), Qt::LeftButton);
     QCOMPARE(m_list->typeAt(6), QString("Oth"));
     QCOMPARE(firstStrings(1), numbers(before + 2));
     QVERIFY(m_screen->hasChanges());
@@ -244,10 +294,323 @@ void TestTeachScreen::deleteTakesTheSelection()
     QCOMPARE(firstStrings(1), numbers(before - 6));
 }
 
+void TestTeachScreen::rowsShowTheWordsOfAnOperator_data()
+{
+    QTest::addColumn<QSize>("panel");
+    QTest::addColumn<QString>("joint");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("narrow") << QSize(272, 480) << "MovJ"
+                            << "MovL";
+    QTest::newRow("wide") << QSize(480, 272) << "MoveJ"
+                          << "MoveL";
+}
+
+void TestTeachScreen::rowsShowTheWordsOfAnOperator()
+{
+    QFETCH(QSize, panel);
+    QFETCH(QString, joint);
+    QFETCH(QString, line);
+    TeachScreen screen(panel, home() + "/teach", m_machine);
+    QTRY_VERIFY(!screen.isLoading());
+    QStringList words;
+    for (int row = 1; row < screen.list()->count(); ++row) {
+        const QStringList shown = screen.list()->getContent(row);
+        words.append(shown.at(0) == "Oth" ? shown.at(3) : shown.at(2));
+        QCOMPARE(words.last(), shown.at(0) == "Oth"  ? QString("Text")
+                               : shown.at(0) == "MJ" ? joint
+                                                     : line);
+    }
+    QVERIFY(words.contains(joint) && words.contains(line) && words.contains("Text"));
+    // Files have the words of no screen.
+    QCOMPARE(screen.rows(), TaughtProgram::sample(*m_machine));
+}
+
+// A row's widget that is new shows its row by the words, one that is used again by the kind.
+void TestTeachScreen::everyRowShowsItsKindAtOnce()
+{
+    m_list->clear();
+    for (int i = 0; i < 4; ++i) {
+        QTest::mouseClick(key("Text"), Qt::LeftButton);
+        QTest::mouseClick(key("MoveJ"), Qt::LeftButton);
+    }
+    for (int row = 1; row < m_list->count(); ++row) {
+        const bool isText = m_list->typeAt(row) == "Oth";
+        QVERIFY2(cell(row, "DataEditor", 0) ? isText : !isText, qPrintable(QString::number(row)));
+        QCOMPARE(static_cast<QLabel *>(cell(row, "QLabel", 1))->text(),
+                 QString(isText ? "Text" : "MoveJ(\u2193)"));
+    }
+}
+
+void TestTeachScreen::keysAreLargeEnoughForGloves_data()
+{
+    fits_data();
+}
+
+// Each key of each turn.
+void TestTeachScreen::keysAreLargeEnoughForGloves()
+{
+    QFETCH(QSize, panel);
+    QFETCH(QSize, screen);
+    TeachScreen teach(panel, home() + "/teach", m_machine);
+    teach.resize(screen);
+    teach.show();
+    QVERIFY(TestCompat::waitForExposed(&teach));
+    QTRY_VERIFY(!teach.isLoading());
+    const QList<PanelKey *> keys = teach.findChildren<PanelKey *>();
+    QStringList seen;
+    for (int turn = 0; turn < 2; ++turn) {
+        PanelKey *more = nullptr;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        for (PanelKey *key : keys) {
+            if (!key->isVisible())
+                continue;
+            seen.append(key->text());
+            QVERIFY2(key->width() >= 48 && key->height() >= 48, qPrintable(key->text()));
+            QVERIFY2(teach.rect().contains(QRect(key->mapTo(&teach, QPoint(0, 0)), key->size())),
+                     qPrintable(key->text()));
+            if (key->text() == "More")
+                more = key;
+        }
+        if (more)
+            QTest::mouseClick(more, Qt::LeftButton);
+    }
+    for (const char *name : {"First", "Last", "MoveJ", "MoveL", "Text", "Copy", "Paste", "Up",
+                             "Down", "Delete", "Undo", "Select", "Clear"})
+        QVERIFY2(seen.contains(name), name);
+}
+
+void TestTeachScreen::copiedRowIsPastedBelowTheCurrentOne()
+{
+    const QList<QStringList> before = m_screen->rows();
+    m_list->setCurIndex(3, false);
+    QTest::mouseClick(key("Copy"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+    m_list->setCurIndex(5, false);
+    QTest::mouseClick(key("Paste"), Qt::LeftButton);
+    QCOMPARE(m_list->count() - 1, before.size() + 1);
+    QCOMPARE(m_list->getCurIndex(), 6);
+    QCOMPARE(m_screen->rows().at(5).mid(2), before.at(2).mid(2));
+    QCOMPARE(firstStrings(1), numbers(before.size() + 1));
+    QVERIFY(m_screen->hasChanges());
+    // As often as wanted.
+    QTest::mouseClick(key("Paste"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows().at(6).mid(2), before.at(2).mid(2));
+}
+
+void TestTeachScreen::copiedRowsArePastedIntoAnotherProgram()
+{
+    const QList<QStringList> before = m_screen->rows();
+    m_list->setCurIndex(4, false);
+    QTest::mouseClick(key("Select"), Qt::LeftButton);
+    m_list->setCurIndex(2, false);
+    QTest::mouseClick(key("Copy"), Qt::LeftButton);
+    QVERIFY(!key("Select")->isChecked());
+    writeFile(home() + "/teach/other.teach", "# Taught program\nOth\t1\t\tOth\tM05\n");
+    m_screen->load(home() + "/teach/other.teach");
+    QTRY_VERIFY(!m_screen->isLoading());
+    QCOMPARE(m_list->count(), 2);
+    QTest::mouseClick(key("Paste"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), 5);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(m_screen->rows().at(1 + i).mid(2), before.at(1 + i).mid(2));
+    QCOMPARE(m_list->getCurIndex(), 4);
+}
+
+void TestTeachScreen::pasteAndUndoAreOffWithNothingToDo()
+{
+    QVERIFY(!key("Paste")->isEnabled());
+    QVERIFY(!key("Undo")->isEnabled());
+    QTest::mouseClick(key("Copy"), Qt::LeftButton);
+    QVERIFY(key("Paste")->isEnabled());
+    QTest::mouseClick(key("Paste"), Qt::LeftButton);
+    QVERIFY(key("Undo")->isEnabled());
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QVERIFY(!key("Undo")->isEnabled());
+    // What was copied stays copied, and an empty list has nothing to copy.
+    QVERIFY(key("Paste")->isEnabled());
+    m_list->clear();
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTest::mouseClick(key("Copy"), Qt::LeftButton);
+    QCOMPARE(told.size(), 1);
+    QTest::mouseClick(key("Paste"), Qt::LeftButton);
+    QCOMPARE(m_list->count(), 2);
+}
+
+void TestTeachScreen::movedRowStaysCurrent_data()
+{
+    QTest::addColumn<QString>("move");
+    QTest::addColumn<int>("to");
+    QTest::newRow("up") << "Up" << 4;
+    QTest::newRow("down") << "Down" << 6;
+}
+
+void TestTeachScreen::movedRowStaysCurrent()
+{
+    QFETCH(QString, move);
+    QFETCH(int, to);
+    const QList<QStringList> before = m_screen->rows();
+    m_list->setCurIndex(5, false);
+    QTest::mouseClick(key(move), Qt::LeftButton);
+    QCOMPARE(m_list->getCurIndex(), to);
+    QCOMPARE(m_list->count() - 1, before.size());
+    QCOMPARE(m_screen->rows().at(to - 1).mid(2), before.at(4).mid(2));
+    QCOMPARE(m_screen->rows().at(4).mid(2), before.at(to - 1).mid(2));
+    QCOMPARE(firstStrings(1), numbers(before.size()));
+    QVERIFY(m_screen->hasChanges());
+    QTest::mouseClick(key(move == "Up" ? "Down" : "Up"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+    QVERIFY(!m_screen->hasChanges());
+}
+
+void TestTeachScreen::movedSelectionStaysSelected()
+{
+    const QList<QStringList> before = m_screen->rows();
+    m_list->setCurIndex(3, false);
+    QTest::mouseClick(key("Select"), Qt::LeftButton);
+    m_list->setCurIndex(5, false);
+    QTest::mouseClick(key("Down"), Qt::LeftButton);
+    QTest::mouseClick(key("Down"), Qt::LeftButton);
+    QVERIFY(key("Select")->isChecked());
+    QVERIFY(m_list->isMultiSelect());
+    QCOMPARE(m_list->getLastIndex(), 5);
+    QCOMPARE(m_list->getCurIndex(), 7);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(m_screen->rows().at(4 + i).mid(2), before.at(2 + i).mid(2));
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+}
+
+void TestTeachScreen::rowAtTheEndIsNotMovedOn()
+{
+    const QList<QStringList> before = m_screen->rows();
+    m_list->setCurIndex(1, false);
+    QTest::mouseClick(key("Up"), Qt::LeftButton);
+    m_list->setCurIndex(m_list->count() - 1, false);
+    QTest::mouseClick(key("Down"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+    QVERIFY(!key("Undo")->isEnabled());
+}
+
+void TestTeachScreen::everyChangeIsTakenBackStepByStep()
+{
+    QList<QList<QStringList>> steps;
+    const auto press = [&](const char *name) {
+        steps.append(m_screen->rows());
+        QTest::mouseClick(key(name), Qt::LeftButton);
+        QVERIFY2(m_screen->rows() != steps.last(), name);
+    };
+    m_list->setCurIndex(2, false);
+    press("MoveJ");
+    press("MoveL");
+    press("Text");
+    m_list->setCurIndex(4, false);
+    QTest::mouseClick(key("Copy"), Qt::LeftButton);
+    m_list->setCurIndex(6, false);
+    press("Paste");
+    press("Up");
+    press("Up");
+    press("Down");
+    press("Delete");
+    while (!steps.isEmpty()) {
+        QTest::mouseClick(key("Undo"), Qt::LeftButton);
+        QCOMPARE(m_screen->rows(), steps.takeLast());
+    }
+    QVERIFY(!m_screen->hasChanges());
+    QVERIFY(!key("Undo")->isEnabled());
+    QCOMPARE(m_list->getCurIndex(), 2);
+}
+
+// A step behind the edit must not take the edit with it.
+void TestTeachScreen::editOnTheKeypadIsTakenBack()
+{
+    const QList<QStringList> before = m_screen->rows();
+    DeviceLog::acceptWith("12.5");
+    QTest::mouseClick(cell(1, "ComboLineEdit", 0), Qt::LeftButton);
+    const QList<QStringList> edited = m_screen->rows();
+    QCOMPARE(edited.at(0).at(8), QString("12.5"));
+    QVERIFY(key("Undo")->isEnabled());
+    m_list->setCurIndex(5, false);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), edited);
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+    QCOMPARE(static_cast<QLineEdit *>(cell(1, "ComboLineEdit", 0))->text(), QString("Z:0"));
+}
+
+void TestTeachScreen::chosenPointIsTakenBack()
+{
+    const QList<QStringList> before = m_screen->rows();
+    ModalDriver driver;
+    choose(&driver, 6);
+    QTest::mouseClick(cell(2, "Label", 1), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QVERIFY(m_screen->rows() != before);
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+}
+
+void TestTeachScreen::clearedProgramIsTakenBack()
+{
+    const QList<QStringList> before = m_screen->rows();
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    QTest::mouseClick(key("Clear"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_list->count(), 1);
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_screen->rows(), before);
+    QVERIFY(!m_screen->hasChanges());
+}
+
+void TestTeachScreen::undoShowsTheRowItBringsBack()
+{
+    m_list->setCurIndex(40, false);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QTest::mouseClick(key("First"), Qt::LeftButton);
+    QVERIFY(m_list->getListPos(40) > 20);
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_list->getCurIndex(), 40);
+    const QWidget *row = m_list->itemAt(m_list->getListPos(40));
+    QVERIFY(row && row->isVisible() && m_list->getListPos(40) >= 1);
+    // And the other way.
+    m_list->setCurIndex(2, true);
+    QTest::mouseClick(key("MoveJ"), Qt::LeftButton);
+    QVERIFY(m_list->getListPos(3) >= 1 && m_list->itemAt(m_list->getListPos(3))->isVisible());
+}
+
+void TestTeachScreen::loadForgetsWhatCouldBeTakenBack()
+{
+    writeFile(home() + "/teach/other.teach", "# Taught program\nOth\t1\t\tOth\tM05\n");
+    QTest::mouseClick(key("MoveJ"), Qt::LeftButton);
+    QVERIFY(key("Undo")->isEnabled());
+    m_screen->load(home() + "/teach/other.teach");
+    QTRY_VERIFY(!m_screen->isLoading());
+    QVERIFY(!key("Undo")->isEnabled());
+    // A store is none of the changes: what came before it can still be taken back.
+    QTest::mouseClick(key("MoveJ"), Qt::LeftButton);
+    m_screen->store();
+    QTRY_VERIFY(!m_screen->hasChanges());
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QVERIFY(m_screen->hasChanges());
+    QCOMPARE(m_list->count(), 2);
+}
+
+void TestTeachScreen::openRowIsClosedByAChange()
+{
+    MJLine *row = qobject_cast<MJLine *>(m_list->itemAt(1));
+    QTest::mouseClick(cell(1, "Label", 0), Qt::LeftButton);
+    QVERIFY(row->isExpanded());
+    QTest::mouseClick(key("Down"), Qt::LeftButton);
+    QVERIFY(!row->isExpanded());
+}
+
 void TestTeachScreen::clearShowsProgressAndAsksFirst()
 {
     const int before = m_list->count();
     QSignalSpy progress(m_screen, SIGNAL(worked(QString, int)));
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
     ModalDriver driver;
     driver.press(QMessageBox::No);
     QTest::mouseClick(key("Clear"), Qt::LeftButton);
@@ -261,6 +624,9 @@ void TestTeachScreen::clearShowsProgressAndAsksFirst()
     QCOMPARE(m_list->count(), 1);
     QCOMPARE(progress.size(), before);
     QCOMPARE(progress.last().at(1).toInt(), 100);
+    // Nothing was ever stored: there is nothing that Load could bring.
+    QVERIFY2(told.last().at(0).toString().contains("Undo brings them back"),
+             qPrintable(told.last().at(0).toString()));
     for (int i = 1; i < progress.size(); ++i)
         QVERIFY(progress.at(i).at(1).toInt() >= progress.at(i - 1).at(1).toInt());
     QVERIFY(m_screen->hasChanges());
@@ -274,8 +640,8 @@ void TestTeachScreen::insertAndDeleteInAnEmptyList()
     QTest::mouseClick(key("Delete"), Qt::LeftButton);
     QCOMPARE(m_list->count(), 1);
     QCOMPARE(told.size(), 1);
-    QTest::mouseClick(key("Joint"), Qt::LeftButton);
-    QTest::mouseClick(key("Other"), Qt::LeftButton);
+    QTest::mouseClick(key("MoveJ"), Qt::LeftButton);
+    QTest::mouseClick(key("Text"), Qt::LeftButton);
     QCOMPARE(firstStrings(0), (QStringList{"MJ", "Oth"}));
     QCOMPARE(firstStrings(1), numbers(2));
     QTest::mouseClick(key("Delete"), Qt::LeftButton);
@@ -415,7 +781,262 @@ void TestTeachScreen::loadKeyPicksAFile()
     QVERIFY2(driver.finished(), driver.report());
     QTRY_COMPARE(m_screen->title(), QString("other.teach"));
     QCOMPARE(m_screen->list()->count(), 2);
-    QCOMPARE(m_list->getContent(1), rows.first());
+    QCOMPARE(m_screen->rows(), rows);
+}
+
+// The operator enters \a name on the keypad.
+void TestTeachScreen::storeAs(const QString &name)
+{
+    DeviceLog::acceptWith(name);
+    QTest::mouseClick(key("Store as"), Qt::LeftButton);
+}
+
+void TestTeachScreen::storeAsGivesTheProgramItsName()
+{
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    storeAs("rotor");
+    QTRY_COMPARE(m_screen->title(), QString("rotor.teach"));
+    QVERIFY(DeviceLog::keypadCalls().contains("CharacterKeypad.setText(program)"));
+    QVERIFY(!m_screen->hasChanges());
+    QCOMPARE(m_screen->filePath(), home() + "/teach/rotor.teach");
+    QVERIFY(!QFileInfo::exists(home() + "/teach/program.teach"));
+    // From now on Store means that file.
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    m_screen->store();
+    QTRY_VERIFY(!m_screen->hasChanges());
+    QList<QStringList> rows;
+    QString error;
+    QVERIFY2(TaughtProgram::load(home() + "/teach/rotor.teach", &rows, &error), qPrintable(error));
+    QCOMPARE(rows, m_screen->rows());
+    QCOMPARE(QDir(home() + "/teach").entryList(QDir::Files | QDir::Hidden),
+             QStringList("rotor.teach"));
+}
+
+void TestTeachScreen::storeAsWithoutANameChangesNothing()
+{
+    DeviceLog::cancel();
+    QTest::mouseClick(key("Store as"), Qt::LeftButton);
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+    QCOMPARE(m_screen->title(), QString("program.teach"));
+    QVERIFY(!QFileInfo::exists(home() + "/teach"));
+}
+
+void TestTeachScreen::storeAsRefusesANameThatIsNone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blank") << " ";
+    QTest::newRow("with a path") << "../connections";
+    QTest::newRow("hidden") << ".rotor";
+}
+
+void TestTeachScreen::storeAsRefusesANameThatIsNone()
+{
+    QFETCH(QString, name);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    storeAs(name);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+    QCOMPARE(m_screen->title(), QString("program.teach"));
+    QVERIFY(!QFileInfo::exists(home() + "/teach"));
+}
+
+void TestTeachScreen::storeAsAsksBeforeItCovers_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("yes") << int(QMessageBox::Yes);
+    QTest::newRow("no") << int(QMessageBox::No);
+}
+
+void TestTeachScreen::storeAsAsksBeforeItCovers()
+{
+    QFETCH(int, answer);
+    const QByteArray there("# Taught program\nOth\t1\t\tOth\tM05\n");
+    writeFile(home() + "/teach/rotor.teach", there);
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    ModalDriver driver;
+    driver.then([answer](QWidget *dialog) {
+        QMessageBox *box = qobject_cast<QMessageBox *>(dialog);
+        QVERIFY2(box->text().contains("rotor.teach") && box->text().contains("1"),
+                 qPrintable(box->text()));
+        // Whoever closes it covers nothing.
+        QCOMPARE(box->standardButton(box->defaultButton()), QMessageBox::No);
+        box->button(QMessageBox::StandardButton(answer))->click();
+    });
+    storeAs("rotor");
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    if (answer == QMessageBox::No) {
+        QCOMPARE(m_screen->title(), QString("program.teach"));
+        QVERIFY(m_screen->hasChanges());
+        QCOMPARE(readFile(home() + "/teach/rotor.teach"), there);
+        return;
+    }
+    QTRY_COMPARE(m_screen->title(), QString("rotor.teach"));
+    QVERIFY(!m_screen->hasChanges());
+    QVERIFY(readFile(home() + "/teach/rotor.teach") != there);
+    QCOMPARE(QDir(home() + "/teach").entryList(QDir::Files | QDir::Hidden),
+             QStringList("rotor.teach"));
+}
+
+void TestTeachScreen::storeAsPutsAsideWhatNobodyCanRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("no instructions") << QByteArray("G01 X10\n");
+    QTest::newRow("no text") << QByteArray("MJ\0\xff", 4);
+    QTest::newRow("nothing but a kind") << QByteArray("# Taught program\nMJ\n");
+}
+
+void TestTeachScreen::storeAsPutsAsideWhatNobodyCanRead()
+{
+    QFETCH(QByteArray, bytes);
+    const QString path = home() + "/teach/rotor.teach";
+    writeFile(path, bytes);
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    storeAs("rotor");
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QCOMPARE(readFile(path), bytes);
+    driver.press(QMessageBox::Yes);
+    storeAs("rotor");
+    QTRY_COMPARE(m_screen->title(), QString("rotor.teach"));
+    QCOMPARE(readFile(path + ".broken"), bytes);
+    QVERIFY(readFile(path).contains("M05"));
+}
+
+void TestTeachScreen::storeAsThatFailsKeepsTheName_data()
+{
+    QTest::addColumn<QString>("trouble");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("full") << "full"
+                          << "No space left on device";
+    QTest::newRow("read-only") << "read-only"
+                               << "Permission denied";
+    QTest::newRow("a file in the folder's place") << "file"
+                                                  << "Not a directory";
+}
+
+// The test's home has room for a megabyte.
+void TestTeachScreen::storeAsThatFailsKeepsTheName()
+{
+    QFETCH(QString, trouble);
+    QFETCH(QString, reason);
+    const QString folder = home() + "/teach";
+    if (trouble == "file")
+        writeFile(folder, QByteArray());
+    else
+        QVERIFY(QDir().mkpath(folder));
+    if (trouble == "read-only")
+        QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    if (trouble == "full")
+        fillDisk(home() + "/filler");
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    storeAs("rotor");
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY2(told.at(0).at(0).toString().contains(reason), qPrintable(told.at(0).at(0).toString()));
+    QCOMPARE(m_screen->title(), QString("program.teach"));
+    QVERIFY(m_screen->hasChanges());
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList());
+
+    // Once the trouble is over, so is the alarm.
+    QSignalSpy ended(m_screen, SIGNAL(causeEnded(QString)));
+    QFile::setPermissions(folder,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    if (trouble == "file")
+        QVERIFY(QFile::remove(folder));
+    QFile::remove(home() + "/filler");
+    storeAs("rotor");
+    QTRY_COMPARE(m_screen->title(), QString("rotor.teach"));
+    QVERIFY(ended.contains(QVariantList{told.at(0).at(2)}));
+}
+
+void TestTeachScreen::storeAsOnAHungDiskIsGivenUp()
+{
+    const QString path = home() + "/teach/rotor.teach";
+    const QByteArray there("# Taught program\nOth\t1\t\tOth\tM05\n");
+    writeFile(path, there);
+    HeldFile held(path);
+    QVERIFY(held.isHeld());
+    m_screen->setStallTime(300);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    LoopPulse pulse;
+    storeAs("rotor");
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+    held.letGo();
+    QCOMPARE(readFile(path), there);
+    QCOMPARE(m_screen->title(), QString("program.teach"));
+    // What was given up is over: another name goes.
+    storeAs("stator");
+    QTRY_COMPARE(m_screen->title(), QString("stator.teach"));
+}
+
+void TestTeachScreen::withoutATouchScreenTheNameIsTyped()
+{
+    DeviceLog::setTouchScreen(false);
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) {
+        QLineEdit *field = dialog->findChild<QLineEdit *>();
+        QCOMPARE(field->text(), QString("program"));
+        field->setText("rotor");
+        static_cast<QDialog *>(dialog)->accept();
+    });
+    QTest::mouseClick(key("Store as"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QTRY_COMPARE(m_screen->title(), QString("rotor.teach"));
+    QCOMPARE(DeviceLog::keypadCalls(), QStringList());
+}
+
+void TestTeachScreen::storeBehindARefusedStoreAsCoversItsOwnFile()
+{
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    m_screen->store();
+    QTRY_COMPARE(told.size(), 1);
+    writeFile(home() + "/teach/rotor.teach", "# Taught program\nOth\t1\t\tOth\tM05\n");
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    ModalDriver driver;
+    driver.press(QMessageBox::No);
+    storeAs("rotor");
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    m_screen->store();
+    QTRY_VERIFY(!m_screen->hasChanges());
+    // Nothing had to be put aside.
+    QCOMPARE(QDir(home() + "/teach").entryList(QDir::Files | QDir::Hidden),
+             (QStringList{"program.teach", "rotor.teach"}));
+}
+
+void TestTeachScreen::programsOfTheOldPlaceAreFound()
+{
+    const QByteArray program("# Taught program\nOth\t1\t\tOth\tM05\n");
+    writeFile(home() + "/old/program.teach", program);
+    TeachScreen screen(QSize(480, 800), home() + "/old/taught", m_machine, home() + "/old");
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTRY_VERIFY(!screen.isLoading());
+    QCOMPARE(screen.rows().size(), 1);
+    QVERIFY(!screen.hasChanges());
+    QCOMPARE(screen.filePath(), home() + "/old/taught/program.teach");
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told.at(0).at(0).toString().contains("/old/taught"),
+             qPrintable(told.at(0).at(0).toString()));
+    QCOMPARE(readFile(home() + "/old/program.teach"), program);
+    QCOMPARE(readFile(home() + "/old/taught/program.teach"), program);
+}
+
+void TestTeachScreen::programThatCannotBeCopiedIsReadInItsOldPlace()
+{
+    const QByteArray program("# Taught program\nOth\t1\t\tOth\tM05\n");
+    writeFile(home() + "/old/program.teach", program);
+    writeFile(home() + "/old/taught", "a file where the folder should be");
+    TeachScreen screen(QSize(480, 800), home() + "/old/taught", m_machine, home() + "/old");
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTRY_VERIFY(!screen.isLoading());
+    QCOMPARE(screen.rows().size(), 1);
+    // In the new place it is not stored yet.
+    QVERIFY(screen.hasChanges());
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+    QCOMPARE(readFile(home() + "/old/program.teach"), program);
 }
 
 void TestTeachScreen::fileThatIsNoneLeavesTheScreenAsItIs_data()
@@ -544,8 +1165,9 @@ void TestTeachScreen::screenIsUpWhileItsFileHangs()
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
     QVERIFY(!screen.isLoading());
     QVERIFY(!notice());
+    // Nothing is copied yet, and nothing is done that could be taken back.
     for (PanelKey *key : all)
-        QVERIFY2(key->isEnabled(), qPrintable(key->text()));
+        QCOMPARE(key->isEnabled(), key->text() != "Paste" && key->text() != "Undo");
     QCOMPARE(screen.list()->count(), 1);
     QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
 
@@ -609,6 +1231,19 @@ void TestTeachScreen::rowsThatAreBroughtBackAreChanges()
     const QString name = m_screen->nameOf(path);
     QCOMPARE(name, QString("other.teach"));
     QCOMPARE(m_screen->describe(name, "12:31", 5), QString("other.teach, 12:31, instructions: 5"));
+}
+
+void TestTeachScreen::rowsOfTheOldPlaceAreBroughtBackInTheNewOne()
+{
+    TeachScreen screen(QSize(480, 800), home() + "/old/taught", m_machine, home() + "/old");
+    QTRY_VERIFY(!screen.isLoading());
+    QList<QStringList> rows = TaughtProgram::sample(*m_machine).mid(0, 2);
+    rows[0][2] = "Wind";
+    QVERIFY(screen.bringBack(home() + "/old/rotor.teach", rows));
+    QCOMPARE(screen.filePath(), home() + "/old/taught/rotor.teach");
+    QVERIFY(screen.hasChanges());
+    QCOMPARE(screen.rows().at(0).at(2), QString("MoveJ"));
+    QCOMPARE(screen.rows().at(0).at(12), QString("Wind"));
 }
 
 void TestTeachScreen::rowsThatAreNoneAreNotBroughtBack()
