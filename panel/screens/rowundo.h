@@ -26,6 +26,8 @@ public:
 
     /// Steps that are kept; the oldest goes first.
     static const int mostSteps = 50;
+    /// Rows in all steps together: what a program of a size that nobody teaches may cost.
+    static const int mostRows = 100000;
 
     /// Begins anew: nothing before \a now can come back.
     void restart(const State &now);
@@ -39,6 +41,7 @@ public:
 private:
     State m_now;
     QList<State> m_steps;
+    int m_rows = 0;
 };
 
 #endif // ROWUNDO_H

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void whatChangesNothingIsNoStep();
     void theRowThatWasCurrentBeforeTheChangeComesBack();
     void theOldestStepGoesFirst();
+    void aHugeListHasOneStepAtLeast();
     void aRestartForgetsAll();
 };
 
@@ -75,8 +76,32 @@ void TestRowUndo::theOldestStepGoesFirst()
     QStringList last;
     for (; undo.isPossible(); ++steps)
         last = textsOf(undo.takeBack());
-    QCOMPARE(steps, RowUndo::mostSteps + 0);
+    QCOMPARE(steps, int(RowUndo::mostSteps));
     QCOMPARE(last, QStringList("3"));
+}
+
+void TestRowUndo::aHugeListHasOneStepAtLeast()
+{
+    RowUndo::State huge = stateOf({"a"});
+    const QStringList row = huge.rows.first();
+    while (huge.rows.size() <= RowUndo::mostRows)
+        huge.rows.append(row);
+    RowUndo undo;
+    undo.restart(stateOf({"small"}));
+    undo.note(huge);
+    RowUndo::State other = huge;
+    other.rows.removeLast();
+    undo.note(other);
+    undo.note(huge);
+    QVERIFY(undo.isPossible());
+    QCOMPARE(undo.takeBack().rows.size(), other.rows.size());
+    QVERIFY(!undo.isPossible());
+    // Once the list is small, there is room for steps again.
+    undo.note(stateOf({"x"}));
+    undo.note(stateOf({"y"}));
+    undo.note(stateOf({"z"}));
+    QCOMPARE(textsOf(undo.takeBack()), QStringList("y"));
+    QCOMPARE(textsOf(undo.takeBack()), QStringList("x"));
 }
 
 void TestRowUndo::aRestartForgetsAll()
