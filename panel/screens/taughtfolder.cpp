@@ -52,6 +52,13 @@ bool copy(const QString &from, const QString &to, QString *error)
     return false;
 }
 
+/// A pipe or a device of such a name is no file: to open it would wait for ever.
+QStringList programsIn(const QString &folder, QDir::SortFlags order)
+{
+    return QDir(folder).entryList(QStringList(QLatin1Char('*') + TaughtFolder::suffix()),
+                                  QDir::Files, order);
+}
+
 } // namespace
 
 QString TaughtFolder::suffix()
@@ -73,10 +80,9 @@ QString TaughtFolder::pathOf(const QString &folder, const QString &name)
 TaughtFolder::Adoption TaughtFolder::adopt(const QString &earlier, const QString &folder)
 {
     Adoption adoption;
-    adoption.first = pathOf(folder, firstName());
-    // A pipe or a device of that name is no file: to open it would wait for ever.
-    const QStringList names =
-        QDir(earlier).entryList(QStringList(QLatin1Char('*') + suffix()), QDir::Files);
+    const QStringList stored = programsIn(folder, QDir::Time);
+    adoption.first = pathOf(folder, stored.isEmpty() ? firstName() : stored.first());
+    const QStringList names = earlier.isEmpty() ? QStringList() : programsIn(earlier, QDir::Name);
     for (const QString &name : names) {
         const QString to = pathOf(folder, name);
         if (isTaken(to))
@@ -86,11 +92,11 @@ TaughtFolder::Adoption TaughtFolder::adopt(const QString &earlier, const QString
         QString error;
         if (copy(from, to, &error))
             adoption.copied.append(name);
-        if (error.isEmpty())
-            continue;
-        adoption.error = Words::tr("%1 could not be copied to %2: %3.").arg(from, folder, error);
+        if (!error.isEmpty())
+            adoption.error =
+                Words::tr("%1 could not be copied to %2: %3.").arg(from, folder, error);
         if (name == firstName())
-            adoption.first = from;
+            adoption.first = error.isEmpty() ? to : from;
     }
     return adoption;
 }

@@ -24,7 +24,8 @@ struct Adoption
     QStringList copied;
     /// Why some were not, a sentence for the operator; empty if all went well.
     QString error;
-    /// The file to read first: that of firstName(), in the old place where it couldn't be copied.
+    /// The file to read first: the one that was stored last. It is that of firstName() where there
+    /// is none, and where that was copied just now; in the old place where it couldn't be.
     QString first;
 };
 

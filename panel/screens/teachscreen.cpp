@@ -149,8 +149,8 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
 /// What is touched most comes first where keys take turns; elsewhere keys of a kind stand together.
 void TeachScreen::addKeys(const QSize &surface)
 {
-    static const Key byUse[] = {Back, On,    Joint, Line,   Up,    Down, Delete, Undo,
-                                Copy, Paste, Text,  Select, First, Last, Clear};
+    static const Key byUse[] = {Back, On,   Joint, Line,   Up,    Down, Delete, Undo,
+                                Text, Copy, Paste, Select, First, Last, Clear};
     static const Key inLines[] = {First, Back,  On, Last, Joint,  Line, Text, Select,
                                   Copy,  Paste, Up, Down, Delete, Undo, Clear};
     static const Key inThrees[] = {First, Back, Up,    Last,   On,     Down, Joint, Line,
@@ -272,8 +272,6 @@ void TeachScreen::loadFirst()
 {
     TaughtFolder::Adoption none;
     none.first = m_file;
-    if (m_earlier.isEmpty())
-        return loadAdopted(none);
     const std::shared_ptr<TaughtFolder::Adoption> adoption =
         std::make_shared<TaughtFolder::Adoption>();
     const QString earlier = m_earlier;
@@ -293,6 +291,8 @@ void TeachScreen::loadAdopted(const TaughtFolder::Adoption &adoption)
     if (!adoption.error.isEmpty())
         Q_EMIT told(adoption.error, Message::Warning);
     const QString path = adoption.first;
+    if (QFileInfo(path).path() == m_folder)
+        m_file = path;
     keeper()->load(path,
                    [this, path](const RowKeeper::Loaded &loaded) { showFirst(path, loaded); });
 }
@@ -426,10 +426,10 @@ bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
 {
     if (!std::all_of(rows.begin(), rows.end(), TaughtProgram::isValid))
         return false;
-    const QString folder = QFileInfo(path).path();
-    const QString here = QDir(m_folder).filePath(QFileInfo(path).fileName());
-    const bool isKnown = folder == m_folder || (folder == m_earlier && !m_earlier.isEmpty());
-    if (isKnown && here != m_file) {
+    // Rows of another place get a name in this one: Store covers no program that they are none of.
+    const QString name = QFileInfo(path).fileName();
+    const QString here = TaughtFolder::pathOf(m_folder, name);
+    if (here != m_file && ProgramName::complaint(name).isEmpty()) {
         m_file = here;
         // The rows of that file were never shown.
         markStored(QList<QStringList>());

@@ -17,9 +17,9 @@ class TeachScreen : public ListScreen
     Q_OBJECT
 
 public:
-    /// Shows the program that is kept in \a folder as soon as it is read, and a sample where there
-    /// is none. The folder is made when a program is stored. \a machine must outlive the screen.
-    /// The programs in \a earlier, where they were kept before, are copied first.
+    /// Shows the program that was stored last in \a folder as soon as it is read, and a sample
+    /// where there is none. The folder is made when a program is stored. \a machine must outlive
+    /// the screen. The programs in \a earlier, where they were kept before, are copied first.
     TeachScreen(const QSize &surface, const QString &folder, MachineData *machine,
                 const QString &earlier = QString(), QWidget *parent = nullptr);
 

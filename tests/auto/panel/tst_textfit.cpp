@@ -329,6 +329,12 @@ void TestTextFit::measureBoxes(const Measure &measure)
     } boxes[] = {
         {text("PanelProgram", "Another panel works on the same programs. This one does not start."),
          QMessageBox::Ok},
+        {text("TeachScreen", "%1 is there already, instructions: %2. Write over it?")
+             .arg("program-of-the-second-shift.teach", "99999"),
+         QMessageBox::Yes | QMessageBox::No},
+        {text("TeachScreen", "%1 is there already and cannot be read. Put it aside and store?")
+             .arg("program-of-the-second-shift.teach"),
+         QMessageBox::Yes | QMessageBox::No},
     };
     for (const auto &about : boxes) {
         QMessageBox box(QMessageBox::Warning, QString(), about.text, about.answers);

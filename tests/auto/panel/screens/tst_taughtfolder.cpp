@@ -4,6 +4,7 @@
 #include "filarixtest.h"
 #include "screens/taughtfolder.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QThread>
@@ -19,6 +20,7 @@ class TestTaughtFolder : public FilarixTest
 private Q_SLOTS:
     void aNameGetsItsSuffixOnce();
     void oldProgramsAreCopiedAndStay();
+    void theProgramThatWasStoredLastComesFirst();
     void nothingElseIsCopied();
     void whatIsThereIsNotCovered_data();
     void whatIsThereIsNotCovered();
@@ -62,6 +64,22 @@ void TestTaughtFolder::oldProgramsAreCopiedAndStay()
              QFile::permissions(earlier() + "/rotor.teach"));
     // Once is enough.
     QCOMPARE(TaughtFolder::adopt(earlier(), folder()).copied, QStringList());
+}
+
+void TestTaughtFolder::theProgramThatWasStoredLastComesFirst()
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const QStringList names{"program.teach", "rotor.teach", "stator.teach", "stator.teach.broken"};
+    const int age[] = {30, 10, 20, 0};
+    for (int i = 0; i < names.size(); ++i) {
+        const QString path = folder() + '/' + names.at(i);
+        writeFile(path, program);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(now.addSecs(-age[i]), QFileDevice::FileModificationTime));
+    }
+    QCOMPARE(TaughtFolder::adopt(QString(), folder()).first, folder() + "/rotor.teach");
+    QCOMPARE(TaughtFolder::adopt(earlier(), folder()).first, folder() + "/rotor.teach");
 }
 
 void TestTaughtFolder::nothingElseIsCopied()

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void closingWithChangesAsks();
     void rowsThatAreBroughtBackAreChanges();
     void rowsOfTheOldPlaceAreBroughtBackInTheNewOne();
+    void rowsOfAnotherPlaceCoverNothingHere();
     void rowsThatAreNoneAreNotBroughtBack();
     void refusedNumberIsToldAndNotTaken();
     void refusedNumberIsNeverStored();
@@ -800,6 +801,12 @@ void TestTeachScreen::storeAsGivesTheProgramItsName()
     QVERIFY(!m_screen->hasChanges());
     QCOMPARE(m_screen->filePath(), home() + "/teach/rotor.teach");
     QVERIFY(!QFileInfo::exists(home() + "/teach/program.teach"));
+    // The next start shows the program that was stored last.
+    TeachScreen next(QSize(480, 800), home() + "/teach", m_machine);
+    QTRY_VERIFY(!next.isLoading());
+    QCOMPARE(next.title(), QString("rotor.teach"));
+    QCOMPARE(next.rows(), m_screen->rows());
+    QVERIFY(!next.hasChanges());
     // From now on Store means that file.
     QTest::mouseClick(key("Delete"), Qt::LeftButton);
     m_screen->store();
@@ -1244,6 +1251,24 @@ void TestTeachScreen::rowsOfTheOldPlaceAreBroughtBackInTheNewOne()
     QVERIFY(screen.hasChanges());
     QCOMPARE(screen.rows().at(0).at(2), QString("MoveJ"));
     QCOMPARE(screen.rows().at(0).at(12), QString("Wind"));
+}
+
+void TestTeachScreen::rowsOfAnotherPlaceCoverNothingHere()
+{
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    m_screen->store();
+    QTRY_COMPARE(told.size(), 1);
+    const QByteArray program = readFile(m_screen->filePath());
+    const QByteArray there("# Taught program\nOth\t1\t\tOth\tM05\n");
+    writeFile(home() + "/teach/rotor.teach", there);
+    const QList<QStringList> rows = TaughtProgram::sample(*m_machine).mid(0, 2);
+    QVERIFY(m_screen->bringBack("/mnt/Storage/../rotor.teach", rows));
+    QCOMPARE(m_screen->filePath(), home() + "/teach/rotor.teach");
+    m_screen->store();
+    QTRY_VERIFY(!m_screen->hasChanges());
+    QVERIFY(told.last().at(0).toString().contains("rotor.teach.broken"));
+    QCOMPARE(readFile(home() + "/teach/rotor.teach.broken"), there);
+    QCOMPARE(readFile(home() + "/teach/program.teach"), program);
 }
 
 void TestTeachScreen::rowsThatAreNoneAreNotBroughtBack()

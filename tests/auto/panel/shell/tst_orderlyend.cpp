@@ -255,6 +255,8 @@ void TestOrderlyEnd::nothingIsLostUnderAQuestion_data()
          }},
         {"clear the taught program", "QMessageBox",
          [](Desk *desk) { Desk::press(&desk->teach, "Clear"); }},
+        {"name a taught program", "QDialog",
+         [](Desk *desk) { Desk::press(&desk->teach, "Store as"); }},
         {"load a taught program", "FileDialog",
          [](Desk *desk) { Desk::press(&desk->teach, "Load"); }},
         {"load with taught changes", "QMessageBox",
