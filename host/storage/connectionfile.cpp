@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSettings>
 
 #include <cstdlib>
@@ -29,13 +30,12 @@ struct Typical
     const char *address;
 };
 
-// The first is local: its name is its address, too.
 const Typical typicalConnections[] = {
-    {"192.168.1.10:502", 1, 0, 1, 0, ""},
-    {"Spindle drive", 2, 187600, 2, 1, "192.168.1.21"},
-    {"Wire guide", 3, 187500, 3, 2, "192.168.1.22"},
-    {"Tension unit", 4, 19200, 4, 3, "192.168.1.23:4001"},
-    {"Camera", 5, 0, 5, 4, ""},
+    {"PLC", 1, 187500, 2, 1, "192.168.1.10"},
+    {"Spindle drive", 2, 115200, 3, 2, "192.168.1.21"},
+    {"Wire guide", 3, 115200, 4, 3, "192.168.1.22"},
+    {"Tension unit", 4, 19200, 5, 4, "192.168.1.23:4001"},
+    {"Label printer", 5, 9600, 6, 5, ""},
 };
 
 struct Words
@@ -200,11 +200,49 @@ ConnectionFile::Contents ConnectionFile::read(const QString &path)
     return contents;
 }
 
+QString ConnectionFile::portOf(const QString &address)
+{
+    const int colon = address.indexOf(QLatin1Char(':'));
+    return colon < 0 ? QString() : address.mid(colon);
+}
+
+QStringList ConnectionFile::changedAddresses(const Contents &before,
+                                             const QMap<int, QString> &changes)
+{
+    QHash<QString, QString> byName;
+    for (int i = 0; i < before.connections.size(); ++i) {
+        const Connection &connection = before.connections.at(i);
+        if (changes.contains(i))
+            byName.insert(connection.name, changes.value(i) + portOf(connection.address));
+    }
+    QStringList addresses;
+    for (const Connection &connection : before.connections)
+        addresses.append(byName.value(connection.name, connection.address));
+    return addresses;
+}
+
+QByteArray ConnectionFile::withAddresses(const Contents &before, const QStringList &wanted)
+{
+    if (wanted == addressesOf(before))
+        return before.bytes;
+    PrivateFile edited;
+    if (!edited.write(before.bytes))
+        return QByteArray();
+    {
+        QSettings file(edited.path(), QSettings::IniFormat);
+        for (int i = 0; i < qMin(wanted.size(), before.connections.size()); ++i) {
+            if (wanted.at(i) != before.connections.at(i).address)
+                file.setValue(addressKey(before.connections.at(i).name), wanted.at(i));
+        }
+    }
+    return edited.bytes();
+}
+
 QString ConnectionFile::store(const QString &path, const QByteArray &before,
                               const QByteArray &bytes, const QStringList &wanted,
                               const std::function<bool()> &mayReplace)
 {
-    // The editor's own write may have failed, too.
+    // The write of what was edited may have failed, too.
     Contents edited;
     edited.bytes = bytes;
     if (!parse(&edited) || addressesOf(edited) != wanted)

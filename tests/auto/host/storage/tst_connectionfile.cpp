@@ -24,10 +24,17 @@ private Q_SLOTS:
     void changeOfSomebodyElseIsNotCovered();
     void storeThatWasGivenUpChangesNothing();
     void editThatWasNotWrittenIsNoStore();
+    void portIsWhatFollowsTheColon();
+    void whatWasNotChangedStaysWithItsPort();
+    void changedAddressKeepsItsPort();
+    void connectionsOfOneNameGetTheAddressThatWasEntered();
+    void nothingChangedLeavesTheBytes();
+    void editKeepsWhatItDoesNotKnow();
     void nothingIsLeftInTheTemporaryFolder();
 
 private:
     static QString path() { return home() + "/hmi/connections.ini"; }
+    static ConnectionFile::Contents fourConnections();
 };
 
 static QByteArray oneConnection(const QByteArray &address)
@@ -55,7 +62,7 @@ void TestConnectionFile::missingFileIsMadeWithTypicalOnes()
     QCOMPARE(made.count, 5);
     QCOMPARE(made.connections.size(), 5);
     QCOMPARE(made.connections.at(1).name, QString("Spindle drive"));
-    QCOMPARE(made.connections.at(1).baud, QString("187600"));
+    QCOMPARE(made.connections.at(1).baud, QString("115200"));
     QCOMPARE(made.connections.at(1).address, QString("192.168.1.21"));
     QCOMPARE(made.bytes, readFile(path()));
     const ConnectionFile::Contents again = ConnectionFile::read(path());
@@ -158,6 +165,87 @@ void TestConnectionFile::editThatWasNotWrittenIsNoStore()
     QVERIFY(
         !ConnectionFile::store(path(), before, before, QStringList("10.0.0.2"), always).isEmpty());
     QCOMPARE(readFile(path()), before);
+}
+
+void TestConnectionFile::portIsWhatFollowsTheColon()
+{
+    QCOMPARE(ConnectionFile::portOf("192.168.1.23:4001"), QString(":4001"));
+    QCOMPARE(ConnectionFile::portOf("192.168.1.23"), QString());
+    QCOMPARE(ConnectionFile::portOf(QString()), QString());
+}
+
+// An address with a port, one without, none at all, and the first one's name once more.
+ConnectionFile::Contents TestConnectionFile::fourConnections()
+{
+    ConnectionFile::Contents contents;
+    contents.count = 4;
+    contents.bytes = "[General]\nConnect%200=Tension\nConnect%201=Guide\nConnect%202=Printer\n"
+                     "Connect%203=Tension\nConnect%200%20cid=7\nGuidenew%20IP=10.0.0.2\n"
+                     "Tensionnew%20IP=10.0.0.1:4001\nsomebody=\"else's, too\"\n"
+                     "connect%20count=4\n";
+    writeFile(home() + "/four.ini", contents.bytes);
+    return ConnectionFile::read(home() + "/four.ini");
+}
+
+void TestConnectionFile::whatWasNotChangedStaysWithItsPort()
+{
+    const ConnectionFile::Contents before = fourConnections();
+    QMap<int, QString> changes;
+    changes.insert(1, "10.0.0.9");
+    const QStringList wanted = ConnectionFile::changedAddresses(before, changes);
+    QCOMPARE(wanted, QStringList() << "10.0.0.1:4001"
+                                   << "10.0.0.9"
+                                   << ""
+                                   << "10.0.0.1:4001");
+    writeFile(path(), before.bytes);
+    QCOMPARE(ConnectionFile::store(path(), before.bytes,
+                                   ConnectionFile::withAddresses(before, wanted), wanted, always),
+             QString());
+    const QByteArray stored = readFile(path());
+    QVERIFY(stored.contains("10.0.0.1:4001"));
+    QVERIFY(stored.contains("10.0.0.9"));
+    QVERIFY(!stored.contains("Printernew"));
+}
+
+void TestConnectionFile::changedAddressKeepsItsPort()
+{
+    const ConnectionFile::Contents before = fourConnections();
+    QMap<int, QString> changes;
+    changes.insert(0, "10.0.0.9");
+    QCOMPARE(ConnectionFile::changedAddresses(before, changes).first(), QString("10.0.0.9:4001"));
+    changes.clear();
+    changes.insert(2, "10.0.0.5");
+    QCOMPARE(ConnectionFile::changedAddresses(before, changes).at(2), QString("10.0.0.5"));
+}
+
+void TestConnectionFile::connectionsOfOneNameGetTheAddressThatWasEntered()
+{
+    const ConnectionFile::Contents before = fourConnections();
+    QMap<int, QString> changes;
+    changes.insert(0, "10.0.0.9");
+    const QStringList wanted = ConnectionFile::changedAddresses(before, changes);
+    QCOMPARE(wanted.at(3), QString("10.0.0.9:4001"));
+    changes.insert(3, "10.0.0.8");
+    QCOMPARE(ConnectionFile::changedAddresses(before, changes).at(0), QString("10.0.0.8:4001"));
+}
+
+void TestConnectionFile::nothingChangedLeavesTheBytes()
+{
+    ConnectionFile::Contents before = fourConnections();
+    before.bytes.prepend("; a remark\n");
+    const QStringList wanted = ConnectionFile::changedAddresses(before, QMap<int, QString>());
+    QCOMPARE(ConnectionFile::withAddresses(before, wanted), before.bytes);
+}
+
+void TestConnectionFile::editKeepsWhatItDoesNotKnow()
+{
+    const ConnectionFile::Contents before = fourConnections();
+    QMap<int, QString> changes;
+    changes.insert(1, "10.0.0.9");
+    const QByteArray bytes =
+        ConnectionFile::withAddresses(before, ConnectionFile::changedAddresses(before, changes));
+    QVERIFY2(bytes.contains("somebody=\"else's, too\""), bytes.constData());
+    QVERIFY(bytes.contains("Connect%200%20cid=7"));
 }
 
 void TestConnectionFile::nothingIsLeftInTheTemporaryFolder()
