@@ -3,55 +3,32 @@
 
 #include "screens/connectionsscreen.h"
 
-#include "conneditor.h"
-#include "dataeditor.h"
-#include "display/surfaceloan.h"
 #include "filarixpanel.h"
-#include "listwidget.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "look/paneltable.h"
+#include "screens/connectiontable.h"
 #include "storage/writeleave.h"
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QHash>
 #include <QHeaderView>
-#include <QScopedPointer>
 #include <QScreen>
-#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 
 namespace {
 
-const int widePanel = 800;
 const int narrowPixels = 12;
-const int aroundRows = 64;
 
 // What messages are about.
 const QLatin1String ownFile("connections");
 const QLatin1String storage("storage");
 
-/// Connections of one name share an address: the last one's.
-QStringList shownAddresses(const ConnEditor &editor, const ConnectionFile::Contents &contents)
-{
-    const ListWidget *list =
-        static_cast<const ListWidget *>(editor.findChild<QScrollArea *>()->widget());
-    QHash<QString, QString> byName;
-    for (int i = 1; i < list->count() && i <= contents.connections.size(); ++i)
-        byName.insert(contents.connections.at(i - 1).name,
-                      static_cast<DataEditor *>(list->itemAt(i))->getData().last());
-    QStringList addresses;
-    for (const ConnectionFile::Connection &connection : contents.connections)
-        addresses.append(byName.value(connection.name));
-    return addresses;
-}
-
 } // namespace
 
-/// The file that the library's dialog works on. The library remembers a file by its path, so each
-/// copy has a path of its own.
+/// What the library's dialog works on, and nobody reads again. The library remembers a file by its
+/// path, so each copy has a path of its own.
 struct ConnectionsScreen::Copy
 {
     QTemporaryDir folder;
@@ -64,12 +41,6 @@ struct ConnectionsScreen::Copy
         QFile file(path());
         return folder.isValid() && file.open(QIODevice::WriteOnly)
                && file.write(before.bytes) == before.bytes.size() && file.flush();
-    }
-
-    QByteArray bytes() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     /// In the thread, which the destructor isn't.
@@ -201,19 +172,9 @@ void ConnectionsScreen::beginEdit()
 void ConnectionsScreen::edit(const std::shared_ptr<Copy> &copy)
 {
     showConnections();
-    QScopedPointer<ConnEditor> editor;
-    {
-        // The rows are as wide as the dialog, and lie in an area with margins and a scroll bar. On
-        // a narrow panel they are made for less than its width, and the dialog is widened.
-        const int panel = QGuiApplication::primaryScreen()->availableSize().width();
-        const SurfaceLoan tall(SurfaceLoan::tallPanel,
-                               panel < widePanel ? panel - aroundRows : panel);
-        editor.reset(new ConnEditor(copy->path(), nullptr));
-        editor->init_list();
-        editor->setFixedWidth(qMin(editor->width() + aroundRows, panel));
-    }
-    if (editor->exec() == QDialog::Accepted)
-        store(copy, shownAddresses(*editor, copy->before));
+    ConnectionTable table(copy->path(), copy->before, {tr("Edit the addresses"), tr("Connection")});
+    if (table.exec())
+        store(copy, ConnectionFile::changedAddresses(copy->before, table.changes()));
     else
         run([copy] { copy->remove(); }, [] {}, [] {});
 }
@@ -227,8 +188,10 @@ void ConnectionsScreen::store(const std::shared_ptr<Copy> &copy, const QStringLi
     const QString path = m_filePath;
     run(
         [=] {
-            *error = ConnectionFile::store(path, copy->before.bytes, copy->bytes(), wanted,
-                                           [leave] { return leave->take(); });
+            // What the library's table left in the copy may lack ports.
+            *error = ConnectionFile::store(path, copy->before.bytes,
+                                           ConnectionFile::withAddresses(copy->before, wanted),
+                                           wanted, [leave] { return leave->take(); });
             copy->remove();
             *contents = ConnectionFile::read(path);
         },

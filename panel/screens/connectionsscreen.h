@@ -13,8 +13,8 @@ class PanelTable;
 /// The machine's connections: what the connection file holds on the disk, and the library's dialog
 /// to change the addresses.
 ///
-/// The dialog works on a copy. What it leaves there goes to the disk beside the event loop, and
-/// counts as stored once it was read back.
+/// The dialog works on a copy. The addresses that the operator entered there go to the disk beside
+/// the event loop, and count as stored once they were read back. All else in the file stays.
 class ConnectionsScreen : public PanelScreen
 {
     Q_OBJECT

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void missingFileIsMade();
     void presentFileIsLeftAsItIs();
     void changedAddressIsStoredAndTold();
+    void editedAddressLeavesTheOthersAsTheyWere();
+    void editedAddressKeepsItsPortAndIsToldWithIt();
+    void defaultIsStoredOnceItWasEntered();
     void cancelledEditorChangesNothing();
     void fullDiskIsToldAndTheDiskIsShown();
     void readOnlyFolderIsTold();
@@ -42,7 +45,7 @@ private Q_SLOTS:
 private:
     static void change(
         const ConnectionsScreen &screen, ModalDriver *driver, const QString &address,
-        const std::function<void()> &meanwhile = [] {});
+        const std::function<void()> &meanwhile = [] {}, int row = 1);
 
     QString m_file;
 };
@@ -55,13 +58,14 @@ void TestConnectionsScreen::init()
     m_file = home() + "/hmi/connections.ini";
 }
 
-// Types the address into the row of the second connection, and presses OK.
+// Types the address into a row, that of the second connection if none is named, and presses OK.
 void TestConnectionsScreen::change(const ConnectionsScreen &screen, ModalDriver *driver,
-                                   const QString &address, const std::function<void()> &meanwhile)
+                                   const QString &address, const std::function<void()> &meanwhile,
+                                   int row)
 {
     DeviceLog::acceptWith(address);
-    driver->then([meanwhile](QWidget *dialog) {
-        QTest::mouseClick(dialog->findChildren<ComboLineEdit *>().at(1), Qt::LeftButton);
+    driver->then([meanwhile, row](QWidget *dialog) {
+        QTest::mouseClick(dialog->findChildren<ComboLineEdit *>().at(row), Qt::LeftButton);
         meanwhile();
         static_cast<ConnEditor *>(dialog)->on_save_clicked();
     });
@@ -105,6 +109,48 @@ void TestConnectionsScreen::changedAddressIsStoredAndTold()
     QCOMPARE(told.last().at(1).value<Message::Tone>(), Message::Information);
     QCOMPARE(screen.findChild<QTableWidget *>()->item(1, 3)->text(), QString("10.0.0.7"));
     QVERIFY(readFile(m_file).contains("10.0.0.7"));
+}
+
+// The library's table cuts ports, and stores what it shows in each row.
+void TestConnectionsScreen::editedAddressLeavesTheOthersAsTheyWere()
+{
+    ConnectionsScreen screen(m_file);
+    QTRY_VERIFY(!screen.isBusy());
+    screen.show();
+    QList<QPair<QString, QString>> expected = screen.addresses();
+    QCOMPARE(expected.at(3).second, QString("192.168.1.23:4001"));
+    QCOMPARE(expected.at(4).second, QString());
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    ModalDriver driver;
+    change(screen, &driver, "10.0.0.7");
+    expected[1].second = "10.0.0.7";
+    QCOMPARE(screen.addresses(), expected);
+    QVERIFY(readFile(m_file).contains("192.168.1.23:4001"));
+    QCOMPARE(told.last().at(0).toString(), QString("Stored: Spindle drive: 10.0.0.7."));
+}
+
+void TestConnectionsScreen::editedAddressKeepsItsPortAndIsToldWithIt()
+{
+    ConnectionsScreen screen(m_file);
+    QTRY_VERIFY(!screen.isBusy());
+    screen.show();
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    ModalDriver driver;
+    change(
+        screen, &driver, "10.0.0.7", [] {}, 3);
+    QCOMPARE(screen.addresses().at(3).second, QString("10.0.0.7:4001"));
+    QCOMPARE(told.last().at(0).toString(), QString("Stored: Tension unit: 10.0.0.7:4001."));
+}
+
+void TestConnectionsScreen::defaultIsStoredOnceItWasEntered()
+{
+    ConnectionsScreen screen(m_file);
+    QTRY_VERIFY(!screen.isBusy());
+    screen.show();
+    ModalDriver driver;
+    change(
+        screen, &driver, "192.168.1.5", [] {}, 4);
+    QCOMPARE(screen.addresses().at(4).second, QString("192.168.1.5"));
 }
 
 void TestConnectionsScreen::cancelledEditorChangesNothing()
