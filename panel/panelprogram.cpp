@@ -8,6 +8,7 @@
 #include "display/primarysurface.h"
 #include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
+#include "look/fingerscroll.h"
 #include "look/glyphs.h"
 #include "look/look.h"
 #include "look/panelstyle.h"
@@ -174,6 +175,7 @@ void PanelProgram::makeWindow()
     new PrimarySurface(m_window.get(), m_options.touch);
     new FindDialogKeypad(m_window.get());
     new DialogFitter(m_window.get());
+    new FingerScroll(m_window.get());
 }
 
 void PanelProgram::makeScreens()
