@@ -23,6 +23,7 @@
 #include "screens/previewscreen.h"
 #include "screens/programreview.h"
 #include "screens/programscreen.h"
+#include "screens/stickcover.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
 #include "shell/dialogfitter.h"
@@ -303,6 +304,8 @@ void PanelProgram::watchDevices()
         new DeviceWatch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); }));
     connect(m_watch.get(), &DeviceWatch::changed, m_window.get(), &PanelWindow::showDevices);
     connect(m_watch.get(), &DeviceWatch::changed, m_files, &FilesScreen::showDevices);
+    connect(m_watch.get(), &DeviceWatch::changed, new StickCover(m_window.get()),
+            &StickCover::showDevices);
     connect(m_files, &FilesScreen::stickMoved, m_watch.get(), &DeviceWatch::lookNow);
 }
 

@@ -5,7 +5,15 @@
 
 #include "look/look.h"
 
+#include <QListView>
 #include <QWidget>
+
+namespace {
+
+// 9 mm at 133 dpi: files are chosen to be deleted, too.
+const int listRowHeight = 48;
+
+} // namespace
 
 PanelStyle::PanelStyle() : QProxyStyle(QLatin1String("Fusion")) {}
 
@@ -26,6 +34,11 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption *option
         if (widget && widget->inherits("ComboLineEdit"))
             return own;
         return own.expandedTo(QSize(0, Look::smallestTouch));
+    case CT_ItemViewItem:
+        // A table sets the heights of its rows itself.
+        if (qobject_cast<const QListView *>(widget))
+            return own.expandedTo(QSize(0, listRowHeight));
+        return own;
     default:
         return own;
     }

@@ -69,6 +69,12 @@ touch_text Files
 expect_text Pick
 touch_text I/E
 expect_text Quit
+# A stick that is pulled while its files are shown.
+mv /tmp/udiskattach /tmp/pulled
+expect_text "The stick is out. Plug it in: its files come by themselves."
+desk_picture transfer-pulled.png
+mv /tmp/pulled /tmp/udiskattach
+expect_gone "The stick is out. Plug it in: its files come by themselves."
 touch_text Quit
 expect_gone Quit
 touch_text Pull

@@ -7,9 +7,13 @@
 #include "wfinddialog.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStringListModel>
+#include <QTableWidget>
 
 class TestPanelStyle : public FilarixTest
 {
@@ -21,6 +25,8 @@ private Q_SLOTS:
     void findDialogIsLargeEnough();
     void fixedSizesOfTheLibraryStay();
     void cellsTakeTheHeightOfTheirRow();
+    void rowsOfListsAreHighEnoughForGloves();
+    void tablesKeepTheHeightsOfTheirRows();
 };
 
 void TestPanelStyle::initTestCase()
@@ -68,6 +74,26 @@ void TestPanelStyle::cellsTakeTheHeightOfTheirRow()
     ComboLineEdit cell(nullptr);
     QVERIFY(field.sizeHint().height() >= 40);
     QVERIFY(cell.sizeHint().height() < 34);
+}
+
+void TestPanelStyle::rowsOfListsAreHighEnoughForGloves()
+{
+    QListView list;
+    QStringListModel rows(QStringList() << "a.cnc"
+                                        << "b.cnc");
+    list.setModel(&rows);
+    list.show();
+    QVERIFY(list.visualRect(rows.index(1)).height() >= 48);
+    QVERIFY(list.visualRect(rows.index(1)).top() >= 48);
+}
+
+void TestPanelStyle::tablesKeepTheHeightsOfTheirRows()
+{
+    QTableWidget table(2, 1);
+    table.verticalHeader()->setDefaultSectionSize(34);
+    table.setItem(0, 0, new QTableWidgetItem("a"));
+    table.show();
+    QCOMPARE(table.rowHeight(0), 34);
 }
 
 FILARIX_TEST_MAIN(TestPanelStyle)

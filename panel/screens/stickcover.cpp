@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "screens/stickcover.h"
+
+#include "importmanage.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QListView>
+
+namespace {
+
+const int textMargin = 6;
+
+} // namespace
+
+StickCover::StickCover(QObject *parent) : QObject(parent)
+{
+    qApp->installEventFilter(this);
+}
+
+bool StickCover::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Show) {
+        if (ImportManage *manager = qobject_cast<ImportManage *>(watched))
+            cover(manager);
+    } else if (event->type() == QEvent::Resize && m_list && watched == m_list) {
+        place();
+    }
+    return false;
+}
+
+void StickCover::showDevices(const DeviceState &state)
+{
+    const bool hasCome = m_cover && m_cover->isVisibleTo(m_list) && state.isKnown && state.stickIn;
+    m_state = state;
+    // The library looks at the stick in its own way, which drops what was chosen on both sides.
+    if (hasCome && m_manager)
+        m_manager->init();
+    show();
+}
+
+/// The stick's list is the second one.
+void StickCover::cover(ImportManage *manager)
+{
+    if (m_manager == manager)
+        return;
+    m_manager = manager;
+    m_list = manager->findChildren<QListView *>().value(1);
+    m_cover = new QLabel(m_list);
+    m_cover->setObjectName(QLatin1String("stickCover"));
+    m_cover->setTextFormat(Qt::PlainText);
+    m_cover->setWordWrap(true);
+    m_cover->setAlignment(Qt::AlignCenter);
+    m_cover->setMargin(textMargin);
+    m_cover->setAutoFillBackground(true);
+    m_cover->setBackgroundRole(QPalette::Base);
+    m_cover->setForegroundRole(QPalette::Text);
+    m_cover->setText(tr("The stick is out. Plug it in: its files come by themselves."));
+    show();
+}
+
+void StickCover::place()
+{
+    if (m_cover)
+        m_cover->setGeometry(m_list->contentsRect());
+}
+
+/// While nobody knows, what was shown last stays.
+void StickCover::show()
+{
+    if (!m_cover || !m_state.isKnown)
+        return;
+    // What is out of sight must not be chosen.
+    if (!m_state.stickIn) {
+        m_list->clearSelection();
+        m_list->setCurrentIndex(QModelIndex());
+    }
+    place();
+    m_cover->setVisible(!m_state.stickIn);
+    m_cover->raise();
+}
