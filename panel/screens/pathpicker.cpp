@@ -4,15 +4,30 @@
 #include "screens/pathpicker.h"
 
 #include "display/surfaceloan.h"
+#include "filarixpanel.h"
 #include "filedialog.h"
 
+#include <QGuiApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QScopedPointer>
+#include <QScreen>
 
 namespace {
 
-// A line and a button of the browser are a twenty-fourth of it, 34 pixels.
-const int tallForLines = 24 * 34;
+// Of a surface's height, as the browser divides it.
+const int linesInHeight = 24;
+const int linePixels = 48;
+// Higher ones leave a small panel no room for files.
+const int smallLinePixels = 34;
+// Beside the text of a button.
+const int buttonMargin = 6;
+
+int lineHeight()
+{
+    const QSize panel = QGuiApplication::primaryScreen()->availableSize();
+    return panel.height() < FilarixPanel::smallBelow ? smallLinePixels : linePixels;
+}
 
 } // namespace
 
@@ -20,7 +35,7 @@ QString PathPicker::pick(const QString &title, const QString &folder)
 {
     QScopedPointer<FileDialog> dialog;
     {
-        const SurfaceLoan tall(tallForLines);
+        const SurfaceLoan tall(linesInHeight * lineHeight());
         dialog.reset(new FileDialog(QDir::AllEntries | QDir::NoDotAndDotDot, title,
                                     folder + QLatin1Char('/'), nullptr, Qt::WindowTitleHint));
     }
@@ -29,6 +44,11 @@ QString PathPicker::pick(const QString &title, const QString &folder)
     for (QLabel *label : labels) {
         if (label->maximumWidth() < label->sizeHint().width())
             label->setFixedWidth(label->sizeHint().width());
+    }
+    const QList<QPushButton *> buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        const int text = button->fontMetrics().horizontalAdvance(button->text());
+        button->setFixedWidth(qMax(button->maximumWidth(), text + 2 * buttonMargin));
     }
     return dialog->exec() == QDialog::Accepted ? FileDialog::m_returnStr : QString();
 }

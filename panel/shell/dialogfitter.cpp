@@ -4,13 +4,17 @@
 #include "shell/dialogfitter.h"
 
 #include "display/platform.h"
+#include "filarixpanel.h"
 #include "look/look.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QLayout>
+#include <QListView>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -18,12 +22,28 @@
 namespace {
 
 const QSize roomyDialog(640, 440);
+const int narrowKey = 52;
+const int narrowMargin = 5;
 
 /// The toolkit leaves room for a window manager's frame, and without one a dialog that did not
 /// choose its place stands above the middle.
 bool isMisplaced(const QDialog *dialog)
 {
     return !dialog->testAttribute(Qt::WA_Moved) && !Platform::hasWindowManager();
+}
+
+/// Side by side on an upright panel, two lists have no room for bars. A finger moves them.
+void leaveRoomForNames(QDialog *manager)
+{
+    const QList<QListView *> lists = manager->findChildren<QListView *>();
+    for (QListView *list : lists) {
+        list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        list->setIconSize(QSize(1, 1));
+    }
+    const QList<QPushButton *> keys = manager->findChildren<QPushButton *>();
+    for (QPushButton *key : keys)
+        key->setFixedWidth(narrowKey);
+    manager->layout()->setContentsMargins(narrowMargin, narrowMargin, narrowMargin, narrowMargin);
 }
 
 } // namespace
@@ -102,6 +122,8 @@ void DialogFitter::fit(QDialog *dialog)
     const QRect panel = QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));
     if (dialog->inherits("ImportManage")) {
+        if (panel.width() < FilarixPanel::smallBelow)
+            leaveRoomForNames(dialog);
         place.setSize(roomyDialog.boundedTo(panel.size()).expandedTo(place.size()));
         place.moveCenter(panel.center());
     } else if (isMisplaced(dialog)) {

@@ -4,9 +4,12 @@
 #include "display/panelglass.h"
 #include "display/primarysurface.h"
 #include "filarixtest.h"
+#include "importmanage.h"
 #include "shell/dialogfitter.h"
 
 #include <QDialog>
+#include <QListView>
+#include <QPushButton>
 #include <QWindow>
 
 class TestDialogFitter : public FilarixTest
@@ -18,6 +21,7 @@ private Q_SLOTS:
     void dialogBesideThePanelIsMovedOntoIt();
     void dialogThatTheToolkitPlacesStandsInTheMiddle();
     void dialogHasAnEdge();
+    void listsOfTheManagerHaveRoomForNames();
     void dialogWithoutAParentBelongsToThePanel();
     void aTouchOfThePanelLeavesDialogsAbove();
 };
@@ -81,6 +85,26 @@ void TestDialogFitter::dialogHasAnEdge()
     QVERIFY(image.pixelColor(0, 50).lightness() < 60);
     QVERIFY(image.pixelColor(199, 50).lightness() < 60);
     QVERIFY(image.pixelColor(100, 50).lightness() > 200);
+}
+
+// Of 272 pixels, bars and keys left 70 to each list.
+void TestDialogFitter::listsOfTheManagerHaveRoomForNames()
+{
+    StrictMessages::expect(QLatin1String("Parentheses expected, slot ImportManage::slot_checkUSB"));
+    QWidget panel;
+    panel.setFixedSize(272, 480);
+    panel.show();
+    PrimarySurface surface(&panel, true);
+    DialogFitter keeper(nullptr);
+    ImportManage manager(nullptr);
+    manager.show();
+    const QList<QListView *> lists = manager.findChildren<QListView *>();
+    QCOMPARE(lists.size(), 2);
+    for (const QListView *list : lists)
+        QTRY_VERIFY2(list->viewport()->width() >= 90,
+                     qPrintable(QString::number(list->viewport()->width())));
+    for (const QPushButton *key : manager.findChildren<QPushButton *>())
+        QVERIFY(key->width() >= 48 && manager.rect().contains(key->geometry()));
 }
 
 void TestDialogFitter::dialogWithoutAParentBelongsToThePanel()
