@@ -101,6 +101,8 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   programs/programopener.h
   programs/programsnapshot.h
   programs/programstate.h
+  programs/programsummary.h
+  programs/recentprograms.h
   programs/storecheck.h
   programs/unsavedoffer.h
   programs/unsavedrows.h
