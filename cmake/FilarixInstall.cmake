@@ -81,6 +81,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/fittedlist.h
   guards/lineentry.h
   guards/programguard.h
+  guards/programpickers.h
   guards/programwalk.h
   guards/rowwatcher.h
   guards/windowcommands.h

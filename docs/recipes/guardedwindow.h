@@ -7,6 +7,7 @@
 #include "guards/finddialogguide.h"
 #include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
+#include "guards/programpickers.h"
 #include "guards/programwalk.h"
 #include "guards/windowprogram.h"
 #include "programs/programdirectory.h"
@@ -17,7 +18,8 @@
 /// From now on \a window loses nothing without a word. An opened program is compared with its file,
 /// a save is read back, and \a history keeps what a save covers. ProgramGuard::state() says how
 /// the program on the screen stands to its file. A search starts where the operator looks and goes
-/// on at the top, and a touch on the row leads to any line. The window owns its guard.
+/// on at the top, and a touch on the row leads to any line. The pickers of programs say what they
+/// are for. The window owns its guard.
 inline ProgramGuard *guardWindow(WMMainWindow *window, Questioner *questioner,
                                  ProgramHistory *history)
 {
@@ -26,6 +28,7 @@ inline ProgramGuard *guardWindow(WMMainWindow *window, Questioner *questioner,
     new FindDialogKeypad(window);
     new FindDialogGuide(WindowProgram::editorOf(window));
     new ProgramWalk(window);
+    new ProgramPickers(ProgramDirectory::path(), window);
     return guard;
 }
 //! [guarded window]

@@ -18,10 +18,20 @@ namespace {
 
 const int hintPixels = 15;
 
+QStringList namesIn(const QDialog *dialog)
+{
+    QStringList names;
+    const QTableWidget *table = dialog->findChild<QTableWidget *>();
+    for (int row = 0; table && row < table->rowCount(); ++row)
+        names.append(table->item(row, 0)->text());
+    return names;
+}
+
 } // namespace
 
 PickerGuard::PickerGuard(QDialog *dialog)
     : QObject(dialog)
+    , m_names(namesIn(dialog))
     , m_field(dialog->findChild<QLineEdit *>())
     , m_gate(new ClickGate(dialog->findChild<QPushButton *>()))
     , m_hint(new QLabel)
@@ -50,15 +60,6 @@ void PickerGuard::proposeForSaving(const QString &name)
         m_field->setText(name);
         m_field->selectAll();
     });
-}
-
-QStringList PickerGuard::listedNames() const
-{
-    QStringList names;
-    const QTableWidget *table = parent()->findChild<QTableWidget *>();
-    for (int row = 0; table && row < table->rowCount(); ++row)
-        names.append(table->item(row, 0)->text());
-    return names;
 }
 
 void PickerGuard::pass()

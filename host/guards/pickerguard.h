@@ -32,8 +32,8 @@ public:
     /// The dialog proposes \a name, once events are served, in the place of its first file. A name
     /// without a suffix gets one proposed from now on.
     void proposeForSaving(const QString &name);
-    /// The names in the dialog's list, in the order of the list.
-    QStringList listedNames() const;
+    /// The names that the dialog lists. What its table shows may be sorted and filtered since.
+    QStringList listedNames() const { return m_names; }
 
     /// \a hold runs for each name that a program can have, and leads to one pass() or drop(), at
     /// once or later. Whoever holds a name for long keeps a QPointer to the guard.
@@ -50,6 +50,7 @@ private:
     void say(const QString &text);
 
     std::function<void(const QString &)> m_hold;
+    const QStringList m_names;
     QLineEdit *m_field;
     ClickGate *m_gate;
     QLabel *m_hint;
