@@ -8,6 +8,7 @@
 #include "display/primarysurface.h"
 #include "guards/finddialogkeypad.h"
 #include "guards/programguard.h"
+#include "guards/programpickers.h"
 #include "look/fingerscroll.h"
 #include "look/glyphs.h"
 #include "look/look.h"
@@ -201,6 +202,7 @@ void PanelProgram::makePreview()
     if (PreviewScreen::hasRoomBeside(m_window->size()))
         m_programs->setBeside(m_previewScreen->paneBeside());
     makeReview();
+    m_programs->pickers()->setProfile([this] { return m_preview->profile(); });
     if (m_options.profile.isEmpty())
         m_preview->readProfile(ownPath("machine.ini"));
     else

@@ -24,6 +24,7 @@
 #include "wmmainwindow.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -94,6 +95,22 @@ QWidget *pickerKey(const char *name)
     return dialog->findChild<QPushButton *>();
 }
 
+void choose(const char *name)
+{
+    if (QWidget *dialog = topLevel("WFileDialog"))
+        dialog->findChild<QLineEdit *>()->setText(QLatin1String(name));
+}
+
+// Whether the picker shows all that it finds out about its program.
+bool hasFacts()
+{
+    const QWidget *dialog = topLevel("WFileDialog");
+    const QLabel *facts =
+        dialog ? dialog->findChild<QLabel *>(QLatin1String("pickerFacts")) : nullptr;
+    return facts && facts->text().contains(QLatin1Char('\n'))
+           && !facts->text().contains(QLatin1Char('%'));
+}
+
 QWidget *sendKey()
 {
     QWidget *question = topLevel("DownloadQuestion");
@@ -134,6 +151,9 @@ void TourPlan::openProgram(ProgramScreen *screen)
 {
     WMMainWindow *window = screen->programWindow();
     pressTool(window, QLatin1String("Open"));
+    m_tour->then([] {});
+    m_tour->then([] { choose("stator-coil.cnc"); });
+    m_tour->waitUntil(hasFacts);
     m_tour->picture(QLatin1String("open"));
     m_tour->press([] { return pickerKey("stator-coil.cnc"); });
     // A program of this length comes in pieces, between which the steps go on.
@@ -162,6 +182,12 @@ void TourPlan::changeProgram(ProgramScreen *screen)
     pressTool(window, QLatin1String("SaveAs"));
     m_tour->press([] { return pickerKey("rotor"); });
     m_tour->picture(QLatin1String("save-as"));
+    m_tour->closeDialog();
+    pressTool(window, QLatin1String("RM"));
+    m_tour->then([] {});
+    m_tour->then([] { choose("test-coil.cnc"); });
+    m_tour->waitUntil(hasFacts);
+    m_tour->picture(QLatin1String("remove"));
     m_tour->closeDialog();
 }
 

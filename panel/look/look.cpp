@@ -111,6 +111,22 @@ QString messageRowSheet()
     return toneRules(QLatin1String("#messageBar")) + stripSheet();
 }
 
+QString pickerStripSheet()
+{
+    return QString::fromLatin1("#pickerStrip { background: %1; }"
+                               "#pickerStrip[danger=\"true\"] { background: %8; }"
+                               "QLabel { color: %2; background: transparent; }"
+                               "QToolButton { color: %2; background: %3; border: 0;"
+                               "  border-radius: 6px; padding: 1px; }"
+                               "QToolButton:checked { background: %4; }"
+                               "QToolButton:pressed { background: %5; }"
+                               "QToolButton:disabled { color: %6; background: %7; }"
+                               "QLineEdit { border: 1px solid %9; border-radius: 6px; }")
+        .arg(hex(colours().strip), hex(white), hex(colours().stripKey), hex(accentRgb),
+             hex(accentPressed), hex(colours().stripFaint), hex(colours().stripKeyOff),
+             hex(alarmGround), hex(colours().stripFaint));
+}
+
 QString messageListSheet()
 {
     return toneRules(QLatin1String("#message"))
@@ -203,6 +219,8 @@ QString Look::sheet(Dress dress)
         return keyPanelSheet();
     case MessageRow:
         return messageRowSheet();
+    case PickerStrip:
+        return pickerStripSheet();
     case MessageList:
         return messageListSheet();
     }

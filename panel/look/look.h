@@ -32,10 +32,11 @@ enum Style { Light, Dark };
 
 /// What a widget of the host can be dressed as.
 enum Dress {
-    Strip,      ///< A dark strip that holds PanelKeys and labels.
-    KeyPanel,   ///< PanelKeys beside a screen's content.
-    MessageRow, ///< The message bar, by its property "tone"; see ToneMark::put().
-    MessageList ///< The messages of a list, the frames named "message", by the same property.
+    Strip,       ///< A dark strip that holds PanelKeys and labels.
+    KeyPanel,    ///< PanelKeys beside a screen's content.
+    MessageRow,  ///< The message bar, by its property "tone"; see ToneMark::put().
+    PickerStrip, ///< The strip of a program picker, by its property "danger".
+    MessageList  ///< The messages of a list, the frames named "message", by the same property.
 };
 
 /// The style in use; light until another one is chosen.

@@ -8,6 +8,7 @@
 #include "guards/finddialogguide.h"
 #include "guards/lineentry.h"
 #include "guards/programguard.h"
+#include "guards/programpickers.h"
 #include "guards/programwalk.h"
 #include "look/barpager.h"
 #include "look/look.h"
@@ -15,6 +16,7 @@
 #include "programs/checkeddownload.h"
 #include "programs/programdirectory.h"
 #include "programs/programname.h"
+#include "programs/recentprograms.h"
 #include "screens/downloadquestion.h"
 #include "screens/findingsbar.h"
 #include "screens/findingsdialog.h"
@@ -28,6 +30,7 @@
 #include "wmmainwindow.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QEventLoop>
@@ -94,6 +97,8 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     , m_walkKeys(new WalkKeys(m_walk))
     , m_findGuide(new FindDialogGuide(m_editor))
     , m_fileLabel(m_window->widget(0)->findChild<QLabel *>())
+    , m_recent(new RecentPrograms(ownDir + QLatin1String("/recent.ini"), this))
+    , m_pickers(new ProgramPickers(ProgramDirectory::path(), this))
     , m_stateLine(new StateLine)
     , m_layout(new QGridLayout(this))
 {
@@ -126,6 +131,10 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_download, &CheckedDownload::causeEnded, this, &ProgramScreen::causeEnded);
     connect(m_download, &CheckedDownload::worked, this, &ProgramScreen::worked);
     m_guard->setDownload(m_download);
+    m_pickers->setRecent(m_recent);
+    connect(m_pickers, &ProgramPickers::fitted, this, [](QDialog *dialog) {
+        Look::dress(dialog->findChild<QWidget *>(QLatin1String("pickerStrip")), Look::PickerStrip);
+    });
 
     m_guard->setOtherPlace([] { return Stick::isPresent() ? Stick::mountPoint() : QString(); });
     connect(m_guard, &ProgramGuard::told, this, &ProgramScreen::told);

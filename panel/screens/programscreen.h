@@ -18,9 +18,11 @@ class MachineData;
 class PlcTransfer;
 class ProgramGuard;
 class ProgramHistory;
+class ProgramPickers;
 class ProgramReview;
 class ProgramWalk;
 class Questioner;
+class RecentPrograms;
 class StateLine;
 class WalkKeys;
 class QGridLayout;
@@ -69,6 +71,8 @@ public:
     CheckedDownload *download() const { return m_download; }
     PlcTransfer *transfer() const;
     ProgramGuard *guard() const { return m_guard; }
+    /// What Open, SaveAs and RM ask with.
+    ProgramPickers *pickers() const { return m_pickers; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -109,6 +113,8 @@ private:
     /// The library's, with the program's name. It goes with the window, before the screen does.
     QPointer<QLabel> m_fileLabel;
     QString m_unnamed;
+    RecentPrograms *m_recent;
+    ProgramPickers *m_pickers;
     StateLine *m_stateLine;
     QGridLayout *m_layout;
     QWidget *m_beside = nullptr;
