@@ -766,10 +766,154 @@
     </message>
 </context>
 <context>
+    <name>PickerFacts</name>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Der Speicher des Panels antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>A new program.</source>
+        <translation>Ein neues Programm.</translation>
+    </message>
+    <message>
+        <source>There is no program of this name.</source>
+        <translation>Kein Programm dieses Namens da.</translation>
+    </message>
+    <message>
+        <source>This is no program file.</source>
+        <translation>Das ist keine Programmdatei.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Es ist nicht lesbar: %1.</translation>
+    </message>
+    <message>
+        <source>It is there already.</source>
+        <translation>Es ist schon da.</translation>
+    </message>
+    <message>
+        <source>More than %1 lines: too long to be read here.</source>
+        <translation>Mehr als %1 Zeilen: zu lang, um hier gelesen zu werden.</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Reading: %1 %</source>
+        <translation>Lesen: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 turns, %2 m of wire</source>
+        <translation>%1 Windungen, %2 m Draht</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>PickerFitting</name>
+    <message>
+        <source>Program name</source>
+        <translation>Programmname</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+</context>
+<context>
     <name>PickerGuard</name>
     <message>
         <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
         <translation>%1 ist an den Namen angefügt. Mit OK übernehmen oder wieder entfernen.</translation>
+    </message>
+</context>
+<context>
+    <name>PickerStrip</name>
+    <message>
+        <source>Save the program as</source>
+        <translation>Programm speichern als</translation>
+    </message>
+    <message>
+        <source>Remove a program</source>
+        <translation>Programm löschen</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>Programm öffnen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Part of a name</source>
+        <translation>Teil eines Namens</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite zurück</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite vor</translation>
+    </message>
+    <message>
+        <source>%1 of %2 programs</source>
+        <translation>%1 von %2 Programmen</translation>
+    </message>
+    <message>
+        <source>Programs: %1</source>
+        <translation>Programme: %1</translation>
+    </message>
+    <message>
+        <source>The folder is read-only.</source>
+        <translation>Der Ordner ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>Order: %1</source>
+        <translation>Reihenfolge: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PickerTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
     </message>
 </context>
 <context>

@@ -766,10 +766,154 @@
     </message>
 </context>
 <context>
+    <name>PickerFacts</name>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>Lettura di %1 ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>La memoria del pannello non risponde.</translation>
+    </message>
+    <message>
+        <source>A new program.</source>
+        <translation>Un programma nuovo.</translation>
+    </message>
+    <message>
+        <source>There is no program of this name.</source>
+        <translation>Nessun programma con questo nome.</translation>
+    </message>
+    <message>
+        <source>This is no program file.</source>
+        <translation>Non è un file di programma.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Non è leggibile: %1.</translation>
+    </message>
+    <message>
+        <source>It is there already.</source>
+        <translation>Esiste già.</translation>
+    </message>
+    <message>
+        <source>More than %1 lines: too long to be read here.</source>
+        <translation>Più di %1 righe: troppo lungo da leggere qui.</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 righe</translation>
+    </message>
+    <message>
+        <source>Reading: %1 %</source>
+        <translation>Lettura: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 turns, %2 m of wire</source>
+        <translation>%1 spire, %2 m di filo</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>PickerFitting</name>
+    <message>
+        <source>Program name</source>
+        <translation>Nome del programma</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programmi</translation>
+    </message>
+</context>
+<context>
     <name>PickerGuard</name>
     <message>
         <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
         <translation>%1 è aggiunto al nome. Premere OK per accettare, o toglierlo.</translation>
+    </message>
+</context>
+<context>
+    <name>PickerStrip</name>
+    <message>
+        <source>Save the program as</source>
+        <translation>Salva il programma come</translation>
+    </message>
+    <message>
+        <source>Remove a program</source>
+        <translation>Elimina un programma</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>Apri un programma</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dim.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Recenti</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>Part of a name</source>
+        <translation>Parte di un nome</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
+    <message>
+        <source>%1 of %2 programs</source>
+        <translation>%1 di %2 programmi</translation>
+    </message>
+    <message>
+        <source>Programs: %1</source>
+        <translation>Programmi: %1</translation>
+    </message>
+    <message>
+        <source>The folder is read-only.</source>
+        <translation>La cartella è di sola lettura.</translation>
+    </message>
+    <message>
+        <source>Order: %1</source>
+        <translation>Ordine: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PickerTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dim.</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificato</translation>
     </message>
 </context>
 <context>

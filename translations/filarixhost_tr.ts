@@ -766,10 +766,154 @@
     </message>
 </context>
 <context>
+    <name>PickerFacts</name>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 okunuyor ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>Panelin belleği yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>A new program.</source>
+        <translation>Yeni bir program.</translation>
+    </message>
+    <message>
+        <source>There is no program of this name.</source>
+        <translation>Bu adda bir program yok.</translation>
+    </message>
+    <message>
+        <source>This is no program file.</source>
+        <translation>Bu bir program dosyası değil.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Okunamıyor: %1.</translation>
+    </message>
+    <message>
+        <source>It is there already.</source>
+        <translation>Zaten var.</translation>
+    </message>
+    <message>
+        <source>More than %1 lines: too long to be read here.</source>
+        <translation>%1 satırdan fazla: burada okunmak için çok uzun.</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 satır</translation>
+    </message>
+    <message>
+        <source>Reading: %1 %</source>
+        <translation>Okunuyor: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 turns, %2 m of wire</source>
+        <translation>%1 sarım, %2 m tel</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>PickerFitting</name>
+    <message>
+        <source>Program name</source>
+        <translation>Program adı</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programlar</translation>
+    </message>
+</context>
+<context>
     <name>PickerGuard</name>
     <message>
         <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
         <translation>Ada %1 eklendi. Kabul için Tamam&apos;a basın ya da silin.</translation>
+    </message>
+</context>
+<context>
+    <name>PickerStrip</name>
+    <message>
+        <source>Save the program as</source>
+        <translation>Programı farklı kaydet</translation>
+    </message>
+    <message>
+        <source>Remove a program</source>
+        <translation>Program sil</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>Program aç</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Tarih</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Son kullan.</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Bul</translation>
+    </message>
+    <message>
+        <source>Part of a name</source>
+        <translation>Adın bir parçası</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Sayfa yukarı</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sayfa aşağı</translation>
+    </message>
+    <message>
+        <source>%1 of %2 programs</source>
+        <translation>%2 programdan %1</translation>
+    </message>
+    <message>
+        <source>Programs: %1</source>
+        <translation>Program: %1</translation>
+    </message>
+    <message>
+        <source>The folder is read-only.</source>
+        <translation>Klasör salt okunur.</translation>
+    </message>
+    <message>
+        <source>Order: %1</source>
+        <translation>Sıra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PickerTable</name>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Değişme</translation>
     </message>
 </context>
 <context>

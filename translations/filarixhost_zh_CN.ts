@@ -766,10 +766,154 @@
     </message>
 </context>
 <context>
+    <name>PickerFacts</name>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>正在读取 %1 ...</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer.</source>
+        <translation>面板存储器无应答。</translation>
+    </message>
+    <message>
+        <source>A new program.</source>
+        <translation>新程序。</translation>
+    </message>
+    <message>
+        <source>There is no program of this name.</source>
+        <translation>没有此名称的程序。</translation>
+    </message>
+    <message>
+        <source>This is no program file.</source>
+        <translation>这不是程序文件。</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>无法读取: %1。</translation>
+    </message>
+    <message>
+        <source>It is there already.</source>
+        <translation>已存在。</translation>
+    </message>
+    <message>
+        <source>More than %1 lines: too long to be read here.</source>
+        <translation>超过 %1 行: 太长, 此处不读取。</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>Reading: %1 %</source>
+        <translation>读取: %1 %</translation>
+    </message>
+    <message>
+        <source>%1 turns, %2 m of wire</source>
+        <translation>%1 匝, 线长 %2 m</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+</context>
+<context>
+    <name>PickerFitting</name>
+    <message>
+        <source>Program name</source>
+        <translation>程序名称</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>程序</translation>
+    </message>
+</context>
+<context>
     <name>PickerGuard</name>
     <message>
         <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
         <translation>名称已加上 %1。按“确定”采用, 或将其删去。</translation>
+    </message>
+</context>
+<context>
+    <name>PickerStrip</name>
+    <message>
+        <source>Save the program as</source>
+        <translation>程序另存为</translation>
+    </message>
+    <message>
+        <source>Remove a program</source>
+        <translation>删除程序</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>打开程序</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>最近</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Part of a name</source>
+        <translation>名称的一部分</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>%1 of %2 programs</source>
+        <translation>%1 / %2 个程序</translation>
+    </message>
+    <message>
+        <source>Programs: %1</source>
+        <translation>程序: %1</translation>
+    </message>
+    <message>
+        <source>The folder is read-only.</source>
+        <translation>文件夹为只读。</translation>
+    </message>
+    <message>
+        <source>Order: %1</source>
+        <translation>排序: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PickerTable</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>修改时间</translation>
     </message>
 </context>
 <context>
