@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "shell/languages.h"
 
 #include <QCommandLineParser>
@@ -85,6 +86,27 @@ QString takeNoTouch(const QString &, const QString &, Options *options)
     return QString();
 }
 
+QString takeDotsPerInch(const QString &, const QString &value, Options *options)
+{
+    bool isNumber = false;
+    options->dotsPerInch = value.toDouble(&isNumber);
+    if (isNumber && Measures::isSensible(options->dotsPerInch))
+        return QString();
+    return QString::fromLatin1("The dots per inch \"%1\" are no number from %2 to %3.")
+        .arg(value)
+        .arg(Measures::fewestDotsPerInch)
+        .arg(Measures::mostDotsPerInch);
+}
+
+QString takeTextSize(const QString &, const QString &value, Options *options)
+{
+    options->textSize = value;
+    if (Measures::textSizeNames().contains(value))
+        return QString();
+    return QString::fromLatin1("The text size \"%1\" is none of %2.")
+        .arg(value, Measures::textSizeNames().join(QLatin1String(", ")));
+}
+
 QString takeLook(const QString &, const QString &value, Options *options)
 {
     Look::Style style = Look::Light;
@@ -160,6 +182,12 @@ const struct
      "Surface in pixels as the operator sees it, 480x272 or more: with --rotate 90 and 480x800 the "
      "window is 800x480. Without it a desktop shows 800x480, upright 480x800, and a panel its "
      "whole screen."},
+    {"dpi", "N", &takeDotsPerInch,
+     "Dots per inch of the display, 50 to 360: keys are 9 mm at least, where the surface has room. "
+     "Without it: what the display says of itself, and 96 where that cannot be; in a tour 96."},
+    {"text-size", "percent", &takeTextSize,
+     "Size of the panel's own texts: 100, 125 or 150, as far as there is room. Without it: what "
+     "the operator has chosen, at first 100."},
     {"no-touch", nullptr, &takeNoTouch,
      "The panel has keys and no touch screen: no on-screen keypad opens."},
     {"look", "style", &takeLook,

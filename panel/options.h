@@ -38,6 +38,10 @@ struct Options
     QString profile;
     /// Code of the language to speak; empty for the operator's choice.
     QString language;
+    /// Dots per inch of the display; 0 for what the display says of itself.
+    double dotsPerInch = 0;
+    /// "100", "125" or "150" percent; empty for the operator's choice.
+    QString textSize;
     /// "light" or "dark"; empty for the operator's choice.
     QString look;
     /// Absolute path of the folder for pictures; empty when no tour is wanted.

@@ -12,6 +12,7 @@
 #include "look/fingerscroll.h"
 #include "look/glyphs.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelstyle.h"
 #include "programs/programdirectory.h"
 #include "programs/programhistory.h"
@@ -118,6 +119,7 @@ QString PanelProgram::ownPath(const char *name) const
 PanelProgram::Status PanelProgram::start()
 {
     setUpStyle();
+    takeMeasures();
     chooseLook();
     chooseLanguage();
     const StartUp::Outcome outcome = m_startUp.wait(startPatienceMs);
@@ -156,6 +158,21 @@ void PanelProgram::chooseLook()
     Look::Style style = Look::Light;
     Look::read(wanted, &style);
     Look::use(style);
+    const QString textSize =
+        m_options.textSize.isEmpty()
+            ? m_settings.choice(Measures::textSizeKey(), Measures::textSizeNames())
+            : m_options.textSize;
+    Measures::useTextSize(textSize.isEmpty() ? Measures::textSizes().first() : textSize.toInt());
+}
+
+void PanelProgram::takeMeasures()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    qreal dotsPerInch = m_options.dotsPerInch;
+    if (dotsPerInch <= 0)
+        dotsPerInch = isTour() ? Measures::usualDotsPerInch
+                               : Measures::dotsPerInchOf(screen->size(), screen->physicalSize());
+    Measures::use(dotsPerInch, surfaceSize(m_options));
 }
 
 void PanelProgram::chooseLanguage()

@@ -86,6 +86,7 @@ private:
     static StartUp::Folders settleFolders(const Options &options);
     QString ownPath(const char *name) const;
     bool isTour() const { return !m_options.tourDir.isEmpty(); }
+    void takeMeasures();
     void chooseLook();
     void chooseLanguage();
     void makeWindow();

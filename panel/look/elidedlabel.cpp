@@ -14,7 +14,20 @@ ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 
 QSize ElidedLabel::minimumSizeHint() const
 {
-    return QSize(fontMetrics().averageCharWidth() * 4, QLabel::minimumSizeHint().height());
+    const int height = m_keptLines > 1 ? m_keptLines * fontMetrics().lineSpacing()
+                                       : QLabel::minimumSizeHint().height();
+    return QSize(fontMetrics().averageCharWidth() * 4, height);
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return QLabel::sizeHint().expandedTo(minimumSizeHint());
+}
+
+void ElidedLabel::keepLines(int lines)
+{
+    m_keptLines = lines;
+    updateGeometry();
 }
 
 void ElidedLabel::setLines(int lines)
@@ -37,7 +50,8 @@ QStringList ElidedLabel::linesIn(int width) const
     QString rest = text();
     rest.replace(QLatin1Char('\n'), QLatin1Char(' '));
     QStringList lines;
-    while (lines.size() + 1 < m_lines && fontMetrics().horizontalAdvance(rest) > width) {
+    const int most = qMin(m_lines, qMax(1, contentsRect().height() / fontMetrics().height()));
+    while (lines.size() + 1 < most && fontMetrics().horizontalAdvance(rest) > width) {
         QTextLayout layout(rest, font());
         layout.beginLayout();
         QTextLine line = layout.createLine();

@@ -14,10 +14,14 @@ class ElidedLabel : public QLabel
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
-    /// Lines that the text may fill; one at first. The caller gives the label their height.
+    /// Lines that the text may fill; one at first. The caller gives the label their height, and
+    /// what has no room in it stays away.
     void setLines(int lines);
+    /// The lines that minimumSizeHint() has room for; one at first.
+    void keepLines(int lines);
 
     QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -26,6 +30,7 @@ private:
     QStringList linesIn(int width) const;
 
     int m_lines = 1;
+    int m_keptLines = 1;
 };
 
 #endif // ELIDEDLABEL_H

@@ -5,6 +5,9 @@
 
 #include "look/livetext.h"
 #include "look/look.h"
+#include "look/measures.h"
+
+#include <QEvent>
 
 namespace {
 
@@ -43,12 +46,32 @@ PanelKey::PanelKey(const QString &text, QWidget *parent) : QToolButton(parent)
     setToolButtonStyle(Qt::ToolButtonTextOnly);
 }
 
+void PanelKey::setLeastWidth(int width)
+{
+    m_leastWidth = width;
+    updateGeometry();
+}
+
 QSize PanelKey::sizeHint() const
 {
-    return QToolButton::sizeHint().expandedTo(QSize(Look::smallestTouch + 4, Look::smallestTouch));
+    // A little wider than high, where that costs no other key its place.
+    const int width = qMax(qMax(Look::smallestTouch + 4, Measures::touch()), m_leastWidth);
+    return QToolButton::sizeHint().expandedTo(QSize(width, Measures::touch()));
 }
 
 QSize PanelKey::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+// Larger letters take their room from the picture: a strip of keys keeps its height.
+void PanelKey::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange) {
+        const int height = fontMetrics().height();
+        if (m_letterHeight > 0 && toolButtonStyle() == Qt::ToolButtonTextUnderIcon)
+            setIconSize(iconSize() - QSize(height - m_letterHeight, height - m_letterHeight));
+        m_letterHeight = height;
+    }
+    QToolButton::changeEvent(event);
 }

@@ -22,8 +22,18 @@ public:
     /// A key without a picture.
     explicit PanelKey(const QString &text, QWidget *parent = nullptr);
 
+    /// At least so wide, and as wide as its text asks for; minimumWidth() would cut that.
+    void setLeastWidth(int width);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    int m_letterHeight = 0;
+    int m_leastWidth = 0;
 };
 
 #endif // PANELKEY_H

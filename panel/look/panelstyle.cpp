@@ -3,7 +3,7 @@
 
 #include "look/panelstyle.h"
 
-#include "look/look.h"
+#include "look/measures.h"
 
 #include <QListView>
 #include <QWidget>
@@ -23,21 +23,21 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption *option
     const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        return own.expandedTo(QSize(2 * Look::smallestTouch, Look::smallestTouch));
+        return own.expandedTo(QSize(2 * Measures::touch(), Measures::touch()));
     case CT_CheckBox:
     case CT_RadioButton:
     case CT_MenuItem:
     case CT_ComboBox:
-        return own.expandedTo(QSize(0, Look::smallestTouch));
+        return own.expandedTo(QSize(0, Measures::touch()));
     case CT_LineEdit:
         // The cells of a list take the height of their row.
         if (widget && widget->inherits("ComboLineEdit"))
             return own;
-        return own.expandedTo(QSize(0, Look::smallestTouch));
+        return own.expandedTo(QSize(0, Measures::touch()));
     case CT_ItemViewItem:
         // A table sets the heights of its rows itself.
         if (qobject_cast<const QListView *>(widget))
-            return own.expandedTo(QSize(0, listRowHeight));
+            return own.expandedTo(QSize(0, qMax(listRowHeight, Measures::touch())));
         return own;
     default:
         return own;

@@ -5,6 +5,7 @@
 #define PANELTABLE_H
 
 #include "look/look.h"
+#include "look/measures.h"
 
 #include <QTableWidget>
 
@@ -18,8 +19,7 @@ class PanelTable : public QTableWidget
 
 public:
     /// A row is as high as a thumb needs it, unless another height is given.
-    PanelTable(int rows, int columns, int rowHeight = Look::smallestTouch,
-               QWidget *parent = nullptr);
+    PanelTable(int rows, int columns, int rowHeight = Measures::touch(), QWidget *parent = nullptr);
 
     /// A touch chooses a whole row, one at a time. Without it nothing can be chosen.
     void letChooseRow();

@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/paneltable.h"
 #include "screens/connectiontable.h"
@@ -54,7 +55,7 @@ struct ConnectionsScreen::Copy
 ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     : PanelScreen(parent)
     , m_filePath(filePath)
-    , m_table(new PanelTable(0, 4, Look::smallestTouch - 6))
+    , m_table(new PanelTable(0, 4, Measures::touch() - 6))
 {
     Look::dress(this, Look::KeyPanel);
     m_table->setFocusPolicy(Qt::NoFocus);

@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/measures.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -92,7 +93,7 @@ DownloadQuestion::DownloadQuestion(const Question &question, QWidget *parent) : 
     keys->setSpacing(gap);
     for (QPushButton *key : {cancel, send}) {
         key->setFont(sized(key->font(), titlePixels));
-        key->setMinimumHeight(Look::smallestTouch + 8);
+        key->setMinimumHeight(Measures::touch() + 8);
         keys->addWidget(key, 1);
     }
     grid->setRowStretch(grid->rowCount(), 1);

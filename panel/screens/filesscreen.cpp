@@ -7,6 +7,7 @@
 #include "look/elidedlabel.h"
 #include "look/livetext.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/taparea.h"
 #include "programs/programdirectory.h"
@@ -77,8 +78,8 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     m_grid->setColumnStretch(0, 1);
     // Keys of one width, where that leaves the texts room.
     if (!isNarrow()) {
-        m_grid->setColumnMinimumWidth(1, 2 * Look::smallestTouch);
-        m_grid->setColumnMinimumWidth(2, 2 * Look::smallestTouch);
+        m_grid->setColumnMinimumWidth(1, 2 * Measures::touch());
+        m_grid->setColumnMinimumWidth(2, 2 * Measures::touch());
     }
     m_grid->setColumnMinimumWidth(3, qMax(0, panelWidth() - reach));
     setLayout(m_grid);

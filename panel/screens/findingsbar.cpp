@@ -42,7 +42,7 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
         QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
     const int lines = isNarrow ? narrowLines : textLines;
     m_text->setLines(lines);
-    m_text->setMinimumHeight(lines * m_text->fontMetrics().lineSpacing());
+    m_text->keepLines(lines);
     QBoxLayout *whole =
         new QBoxLayout(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, this);
     whole->setContentsMargins(sideMargin, 2, 2, 2);

@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/paneltable.h"
 #include "look/tonemark.h"
 #include "screens/programreview.h"
@@ -41,7 +42,7 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
     QPushButton *key = new QPushButton(text);
     key->setObjectName(QLatin1String(objectName));
     key->setAutoDefault(false);
-    key->setMinimumSize(Look::smallestTouch, Look::smallestTouch);
+    key->setMinimumSize(Measures::touch(), Measures::touch());
     row->addWidget(key, 1);
     return key;
 }

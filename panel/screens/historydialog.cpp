@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/paneltable.h"
 #include "programs/programhistory.h"
 #include "programs/programsnapshot.h"
@@ -40,7 +41,7 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
     QPushButton *key = new QPushButton(text);
     key->setObjectName(QLatin1String(objectName));
     key->setAutoDefault(false);
-    key->setMinimumWidth(Look::smallestTouch);
+    key->setMinimumWidth(Measures::touch());
     row->addWidget(key, text.size() == 1 ? 1 : 2);
     return key;
 }

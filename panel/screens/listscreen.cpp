@@ -7,6 +7,7 @@
 #include "filarixpanel.h"
 #include "look/livetext.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "mjline.h"
 #include "tlistwidget.h"
@@ -24,7 +25,6 @@ namespace {
 
 // A list with a title is no wider: its title keeps the width that the library gives it.
 const int titledWidth = 480;
-const int keyPanelWidth = 3 * Look::smallestTouch;
 const int keyGap = 4;
 const int largeIcon = 36;
 const int keyStretch = 1000;
@@ -33,6 +33,11 @@ const int gloveTouch = 48;
 
 // What messages about a disk that does not do its work are about.
 const QLatin1String storage("storage");
+
+int keyPanelWidth()
+{
+    return 3 * Measures::touch();
+}
 
 TListWidget *makeList(QStringList title)
 {
@@ -86,7 +91,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     layout->setSpacing(0);
     if (m_keysBeside) {
         m_area->setFixedWidth(m_list->width());
-        m_keyPanel->setMinimumWidth(2 * Look::smallestTouch);
+        m_keyPanel->setMinimumWidth(2 * Measures::touch());
         layout->addWidget(m_area);
         layout->addWidget(m_keyPanel, 1);
     } else {
@@ -99,7 +104,7 @@ int ListScreen::listWidth(const QSize &surface) const
 {
     if (m_firstRow == 1)
         return qMin(surface.width(), titledWidth);
-    return m_keysBeside ? surface.width() - keyPanelWidth : surface.width();
+    return m_keysBeside ? surface.width() - keyPanelWidth() : surface.width();
 }
 
 void ListScreen::setKeyLines(int lines)
@@ -126,7 +131,7 @@ PanelKey *ListScreen::makeKey(const QIcon &icon, const std::function<QString()> 
     key->setSizePolicy(QSizePolicy::Expanding,
                        m_keysBeside ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     key->setMinimumSize(gloveTouch, gloveTouch);
-    key->setMaximumHeight(2 * Look::smallestTouch);
+    key->setMaximumHeight(2 * Measures::touch());
     if (m_keysBeside)
         key->setIconSize(QSize(largeIcon, largeIcon));
     return key;

@@ -4,6 +4,7 @@
 #include "screens/tablepicker.h"
 
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/paneltable.h"
 
 #include <QGuiApplication>
@@ -35,7 +36,7 @@ TablePicker::TablePicker(const QString &title, const QStringList &keys,
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setDefaultSectionSize(valueWidth);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    m_table->setColumnWidth(0, Look::smallestTouch);
+    m_table->setColumnWidth(0, Measures::touch());
     for (int row = 0; row < table.size(); ++row) {
         m_table->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
         m_table->setItem(row, 1, new QTableWidgetItem(table.at(row).name));

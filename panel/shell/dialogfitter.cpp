@@ -5,6 +5,7 @@
 
 #include "display/platform.h"
 #include "filarixpanel.h"
+#include "look/letters.h"
 #include "look/look.h"
 
 #include <QApplication>
@@ -24,6 +25,7 @@ namespace {
 const QSize roomyDialog(640, 440);
 const int narrowKey = 52;
 const int narrowMargin = 5;
+const int aroundDialog = 8;
 
 /// The toolkit leaves room for a window manager's frame, and without one a dialog that did not
 /// choose its place stands above the middle.
@@ -65,6 +67,7 @@ bool DialogFitter::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (type == QEvent::Show) {
         bind(dialog);
+        enlargeLetters(dialog);
         // The dialog places itself in its own handler, which has not run yet.
         const QPointer<QDialog> shown(dialog);
         QTimer::singleShot(0, this, [this, shown] {
@@ -102,6 +105,13 @@ void DialogFitter::bind(QDialog *dialog)
     QWindow *window = dialog->windowHandle();
     if (window && !window->transientParent())
         window->setTransientParent(m_panel->windowHandle());
+}
+
+/// Before the dialog chooses its place. A message box looks for its own size afterwards.
+void DialogFitter::enlargeLetters(QDialog *dialog)
+{
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    Letters::grow(dialog, room - QSize(aroundDialog, aroundDialog));
 }
 
 /// Where nobody manages the windows, each in its turn, so that the last one shown is on top.

@@ -32,6 +32,7 @@ public:
 private:
     void fit(QDialog *dialog);
     void bind(QDialog *dialog);
+    static void enlargeLetters(QDialog *dialog);
     void raiseAll();
     bool isPressOfPanel(const QObject *watched, QEvent::Type type) const;
 

@@ -7,8 +7,11 @@
 #include "dialog.h"
 #include "shell/languages.h"
 
+class QPushButton;
+
 /// Asks for a language: a key each, with the language's name in itself, so that whoever cannot
-/// read the others finds the own one. Another key asks for the other look, light or dark.
+/// read the others finds the own one. Other keys ask for a size of the texts, and for the other
+/// look, light or dark.
 class LanguagePicker : public Dialog
 {
     Q_OBJECT
@@ -23,8 +26,14 @@ public:
 Q_SIGNALS:
     /// The operator wants the colours that are not in use; the dialog is closing.
     void lookWanted();
+    /// The operator wants texts of that size; the dialog is closing.
+    void textSizeWanted(int percent);
 
 private:
+    static QPushButton *makeKey(const QString &name, const QString &text);
+    QLayout *makeLanguages(const QString &current);
+    QLayout *makeTextSizes();
+
     QString m_code;
 };
 

@@ -5,6 +5,7 @@
 
 #include "look/elidedlabel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/tonemark.h"
 #include "shell/messagelog.h"
@@ -21,7 +22,6 @@ const int rowLines = 2;
 const int linePixels = 12;
 const int rowBar = 8;
 const int lineBar = 3;
-const int keyWidth = 56;
 // A thumb that is on its way to Stop must not close what says how the work ended.
 const int keyRestMs = 700;
 
@@ -41,6 +41,7 @@ MessageBar::MessageBar(MessageLog *log, Form form, QWidget *parent)
     m_key->setObjectName(QLatin1String("messageKey"));
     m_progress->setTextVisible(false);
     layOut();
+    m_label->installEventFilter(this);
     Look::dress(this, Look::MessageRow);
 
     connect(m_key, &PanelKey::clicked, this, &MessageBar::press);
@@ -57,8 +58,7 @@ void MessageBar::layOut()
     font.setPixelSize(m_form == Row ? rowPixels : linePixels);
     m_label->setFont(font);
     m_label->setLines(m_form == Row ? rowLines : 1);
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    m_label->setMinimumHeight(m_label->fontMetrics().height());
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setFixedHeight(m_form == Row ? rowBar : lineBar);
 
     QVBoxLayout *column = new QVBoxLayout;
@@ -79,10 +79,18 @@ void MessageBar::layOut()
     QSizePolicy policy = m_key->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_key->setSizePolicy(policy);
-    m_key->setMinimumWidth(keyWidth);
-    m_key->setFixedHeight(Look::smallestTouch);
-    // Each pixel more is taken from a row of the screens.
-    setFixedHeight(Look::smallestTouch);
+    m_key->setLeastWidth(Measures::stop());
+    placeKey();
+}
+
+/// Each pixel more is taken from a row of the screens. What stops running work is worth them.
+void MessageBar::placeKey()
+{
+    if (m_form == Line)
+        return m_key->setLeastWidth(m_isWorking ? Measures::stop() : 0);
+    const int lines = rowLines * m_label->fontMetrics().height();
+    setFixedHeight(qMax(m_isWorking ? Measures::stop() : Measures::touch(), lines));
+    m_key->setFixedHeight(height());
 }
 
 void MessageBar::showWork(const QString &text, int percent)
@@ -115,6 +123,7 @@ void MessageBar::refresh()
     const bool showsMessage = !message.text.isEmpty() && (!m_isWorking || m_log->isFresh());
     m_text = showsMessage ? message.text : m_isWorking ? m_workText : QString();
     m_progress->setVisible(m_isWorking);
+    placeKey();
     showKey(!m_text.isEmpty());
     if (m_text.isEmpty()) {
         showNothing();
@@ -159,6 +168,13 @@ void MessageBar::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         refresh();
     TapArea::changeEvent(event);
+}
+
+bool MessageBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_label && event->type() == QEvent::FontChange)
+        placeKey();
+    return TapArea::eventFilter(watched, event);
 }
 
 void MessageBar::press()

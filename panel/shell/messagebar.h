@@ -53,10 +53,12 @@ Q_SIGNALS:
     void stopped();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
     void layOut();
+    void placeKey();
     void refresh();
     void showNothing();
     void showKey(bool isWanted);

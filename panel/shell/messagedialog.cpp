@@ -5,6 +5,7 @@
 
 #include "filarixpanel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/tonemark.h"
 #include "shell/messagelog.h"
 
@@ -60,7 +61,7 @@ QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectNam
     QPushButton *key = new QPushButton(text);
     key->setObjectName(QLatin1String(objectName));
     key->setAutoDefault(false);
-    key->setMinimumSize(Look::smallestTouch, Look::smallestTouch);
+    key->setMinimumSize(Measures::touch(), Measures::touch());
     row->addWidget(key, 1);
     return key;
 }
@@ -171,7 +172,7 @@ void MessageDialog::turn(int pages)
 {
     QScrollBar *bar = m_area->verticalScrollBar();
     // The last line of a page is the first of the next.
-    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - Look::smallestTouch));
+    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - Measures::touch()));
 }
 
 void MessageDialog::showState()

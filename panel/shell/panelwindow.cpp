@@ -5,7 +5,9 @@
 
 #include "filarixpanel.h"
 #include "look/elidedlabel.h"
+#include "look/letters.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/taparea.h"
 #include "shell/languagepicker.h"
@@ -32,6 +34,8 @@ const int statusMs = 2000;
 const int messageLine = 20;
 // Each pixel more is taken from a row of the screens.
 const int stripMargin = 1;
+// What a strip may take of the screens for larger letters, where there are pixels enough.
+const int forLetters = 12;
 
 } // namespace
 
@@ -86,6 +90,7 @@ QWidget *PanelWindow::makeTopStrip()
     strip->setObjectName(QLatin1String("strip"));
     strip->setAttribute(Qt::WA_StyledBackground);
     Look::dress(strip, Look::Strip);
+    new Letters(strip, hasMenu() ? 0 : forLetters);
     QHBoxLayout *row = new QHBoxLayout(strip);
     row->setContentsMargins(3, stripMargin, 3, stripMargin);
     row->setSpacing(4);
@@ -140,6 +145,7 @@ QWidget *PanelWindow::makeFootStrip()
     strip->setObjectName(QLatin1String("strip"));
     strip->setAttribute(Qt::WA_StyledBackground);
     Look::dress(strip, Look::Strip);
+    new Letters(strip, hasMenu() ? 0 : forLetters);
     QVBoxLayout *column = new QVBoxLayout(strip);
     column->setContentsMargins(3, 0, 3, stripMargin);
     column->setSpacing(stripMargin);
@@ -186,6 +192,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
         key->hide();
     }
     m_stack->addWidget(screen);
+    new Letters(screen);
     m_entries.append(entry);
 
     connect(screen, &PanelScreen::titleChanged, this, &PanelWindow::showTitle);
@@ -220,6 +227,7 @@ void PanelWindow::chooseLanguage()
         m_menu->hide();
     LanguagePicker picker(m_languages->current());
     connect(&picker, &LanguagePicker::lookWanted, this, &PanelWindow::changeLook);
+    connect(&picker, &LanguagePicker::textSizeWanted, this, &PanelWindow::changeTextSize);
     if (picker.exec() != QDialog::Accepted)
         return;
     if (!m_languages->choose(picker.code()))
@@ -231,6 +239,13 @@ void PanelWindow::changeLook()
     Look::use(Look::style() == Look::Dark ? Look::Light : Look::Dark);
     if (m_settings)
         m_settings->setChoice(Look::settingsKey(), Look::name(Look::style()));
+}
+
+void PanelWindow::changeTextSize(int percent)
+{
+    Measures::useTextSize(percent);
+    if (m_settings)
+        m_settings->setChoice(Measures::textSizeKey(), Measures::nameOf(percent));
 }
 
 void PanelWindow::setSettings(Settings *settings)
@@ -264,6 +279,7 @@ void PanelWindow::makeMenu()
     Look::dress(m_menu, Look::Strip);
     m_tabs->setContentsMargins(4, 4, 4, 6);
     m_menu->setLayout(m_tabs);
+    new Letters(m_menu, height());
     m_menu->hide();
 }
 

@@ -102,6 +102,7 @@ private:
     void toggleMenu();
     void chooseLanguage();
     void changeLook();
+    void changeTextSize(int percent);
     void tellTrouble();
     void showTitle();
     void showMessages();

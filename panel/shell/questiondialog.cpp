@@ -4,6 +4,7 @@
 #include "shell/questiondialog.h"
 
 #include "look/look.h"
+#include "look/measures.h"
 
 #include <QBoxLayout>
 #include <QGuiApplication>
@@ -110,7 +111,7 @@ QLayout *QuestionDialog::makeKeys(const QStringList &answers, int room)
         QPushButton *key = new QPushButton(answers.at(i));
         key->setObjectName(QString::fromLatin1("answer%1").arg(i));
         key->setFont(sized(key->font(), keyPixels));
-        key->setMinimumHeight(Look::smallestTouch);
+        key->setMinimumHeight(Measures::touch());
         key->setAutoDefault(i == 0);
         key->setDefault(i == 0);
         connect(key, &QPushButton::clicked, this, [this, i] {

@@ -4,6 +4,7 @@
 #include "shell/statusstrip.h"
 
 #include "look/look.h"
+#include "look/measures.h"
 #include "programs/plctransfer.h"
 
 #include <QEvent>
@@ -172,7 +173,7 @@ bool StatusStrip::isOnCheck(const QPoint &point) const
 {
     if (m_check->isHidden())
         return false;
-    const int margin = qMax(0, (Look::smallestTouch - m_check->width()) / 2);
+    const int margin = qMax(0, (Measures::touch() - m_check->width()) / 2);
     const QRect area = m_check->geometry().adjusted(-margin, 0, margin, 0);
     return point.x() >= area.left() && point.x() <= area.right() && rect().contains(point);
 }

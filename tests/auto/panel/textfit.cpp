@@ -3,6 +3,8 @@
 
 #include "textfit.h"
 
+#include "look/measures.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
@@ -25,6 +27,7 @@ namespace {
 /// 9 mm at 96 dpi.
 const int thumb = 34;
 const int narrow = 440;
+const int tall = 480;
 const int anyWidth = QWIDGETSIZE_MAX;
 
 struct Exception
@@ -65,6 +68,7 @@ const Exception exceptionTable[] = {
 };
 
 int screenWidth = 0;
+int screenHeight = 0;
 
 bool isExcepted(Exception::Kind kind, const QWidget *widget)
 {
@@ -358,7 +362,10 @@ QString faultOfKey(const QWidget *widget)
 {
     if (!qobject_cast<const QAbstractButton *>(widget) || widget->width() <= 0)
         return QString();
-    if (widget->width() >= thumb && widget->height() >= thumb)
+    // A low panel has as many millimetres as there is room for.
+    const bool isMeasured = widget->inherits("PanelKey") && screenHeight >= tall;
+    const int side = isMeasured ? Measures::touch() : thumb;
+    if (widget->width() >= side && widget->height() >= side)
         return QString();
     return QString::fromLatin1("%1x%2 is too small for a thumb")
         .arg(widget->width())
@@ -370,6 +377,7 @@ QString faultOfKey(const QWidget *widget)
 QStringList TextFit::faults(const QRect &screen)
 {
     screenWidth = screen.width();
+    screenHeight = screen.height();
     QStringList faults;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {

@@ -39,6 +39,8 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
     QVERIFY(!options.size.isValid());
     QVERIFY(options.touch);
     QCOMPARE(options.look, QString());
+    QCOMPARE(options.dotsPerInch, 0.0);
+    QCOMPARE(options.textSize, QString());
     QCOMPARE(options.home(), QString());
     QCOMPARE(options.plcDir, QString());
     QCOMPARE(options.tourDir, QString());
@@ -48,16 +50,22 @@ void TestOptions::withoutOptionsThePanelRunsAsItIs()
 
 void TestOptions::allOptionsAreRead()
 {
-    const Options options =
-        parse({"--rotation", "270", "--rotate", "90", "--size", "480x800", "--no-touch", "--look",
-               "dark", "--programs", "/srv/hmi/cnc", "--plc=/srv/plc", "--stick", "/srv/stick",
-               "--language", "zh_CN", "--profile", "/srv/machine.ini"});
+    const Options options = parse({"--rotation", "270",          "--rotate",
+                                   "90",         "--size",       "480x800",
+                                   "--no-touch", "--look",       "dark",
+                                   "--programs", "/srv/hmi/cnc", "--plc=/srv/plc",
+                                   "--stick",    "/srv/stick",   "--language",
+                                   "zh_CN",      "--profile",    "/srv/machine.ini",
+                                   "--dpi",      "130.5",        "--text-size",
+                                   "150"});
     QCOMPARE(options.outcome, Options::Run);
     QCOMPARE(options.rotation, 270);
     QCOMPARE(options.turn, 90);
     QCOMPARE(options.size, QSize(480, 800));
     QVERIFY(!options.touch);
     QCOMPARE(options.look, QString("dark"));
+    QCOMPARE(options.dotsPerInch, 130.5);
+    QCOMPARE(options.textSize, QString("150"));
     QCOMPARE(options.programDir, QString("/srv/hmi/cnc"));
     QCOMPARE(options.plcDir, QString("/srv/plc"));
     QCOMPARE(options.stickDir, QString("/srv/stick"));
@@ -172,6 +180,10 @@ void TestOptions::refused_data()
     QTest::newRow("no language") << QStringList{"--language", ""} << "language";
     QTest::newRow("empty directory") << QStringList{"--plc", ""} << "--plc";
     QTest::newRow("look of no kind") << QStringList{"--look", "grey"} << "grey";
+    QTest::newRow("dots of no number") << QStringList{"--dpi", "fine"} << "fine";
+    QTest::newRow("dots beyond sense") << QStringList{"--dpi", "4000"} << "4000";
+    QTest::newRow("no dots") << QStringList{"--dpi", "0"} << "50";
+    QTest::newRow("text size between") << QStringList{"--text-size", "110"} << "125";
     QTest::newRow("unknown option") << QStringList{"--turn"} << "turn";
     QTest::newRow("missing value") << QStringList{"--programs"} << "programs";
     QTest::newRow("stray word") << QStringList{"coil.cnc"} << "coil.cnc";
@@ -192,7 +204,7 @@ void TestOptions::helpTellsEveryOption()
     const Options options = parse({"--help"});
     QCOMPARE(options.outcome, Options::ShowText);
     for (const char *option : {"--rotation", "--rotate", "--size", "--no-touch", "--programs",
-                               "--plc", "--stick", "--profile", "--tour"})
+                               "--plc", "--stick", "--profile", "--tour", "--dpi", "--text-size"})
         QVERIFY2(options.text.contains(option), option);
     QVERIFY(options.text.contains("DIR/cnc"));
 }

@@ -4,6 +4,7 @@
 #include "filarixtest.h"
 #include "homelock.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "modaldriver.h"
 #include "panelprogram.h"
@@ -113,18 +114,24 @@ void TestPanelProgram::aStartedPanelHasItsScreens()
 
 void TestPanelProgram::itLooksAsTheOperatorChose()
 {
-    writeFile(home() + "/hmi/panel.ini", "[General]\nlook=dark\n");
+    writeFile(home() + "/hmi/panel.ini", "[General]\nlook=dark\ntextsize=125\n");
     {
         PanelProgram program(english(), QStringList());
         QCOMPARE(program.start(), PanelProgram::Started);
         QTRY_COMPARE(Look::style(), Look::Dark);
+        QCOMPARE(Measures::textSize(), 125);
     }
     QTRY_COMPARE(HomeLock(lockPath()).take(), HomeLock::Own);
     Options options = english();
     options.look = "light";
+    options.textSize = "100";
+    options.dotsPerInch = 130;
     PanelProgram program(options, QStringList());
     QCOMPARE(program.start(), PanelProgram::Started);
     QCOMPARE(Look::style(), Look::Light);
+    QCOMPARE(Measures::textSize(), 100);
+    QCOMPARE(Measures::dotsPerInch(), 130.0);
+    Measures::use(Measures::usualDotsPerInch);
 }
 
 void TestPanelProgram::theDevicesReachTheStrip()

@@ -5,6 +5,7 @@
 
 #include "filarixtest.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "panelprogram.h"
 #include "programs/downloadfacts.h"
 #include "programs/programstate.h"
@@ -139,19 +140,30 @@ void TestTextFit::everyTextFits_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("longest");
+    QTest::addColumn<int>("textSize");
+    QTest::addColumn<int>("dotsPerInch");
     for (const QSize &size :
          {QSize(480, 272), QSize(480, 800), QSize(800, 480), QSize(1024, 600), QSize(1280, 800),
           QSize(272, 480), QSize(600, 1024), QSize(800, 1280)}) {
         const QString name = QString("%1x%2").arg(size.width()).arg(size.height());
-        QTest::newRow(qPrintable(name + " English")) << size << false;
-        QTest::newRow(qPrintable(name + " longest")) << size << true;
+        for (int textSize : Measures::textSizes()) {
+            const QString suffix = textSize == 100 ? QString() : QString(" %1").arg(textSize);
+            QTest::newRow(qPrintable(name + " English" + suffix))
+                << size << false << textSize << 96;
+            QTest::newRow(qPrintable(name + " longest" + suffix)) << size << true << textSize << 96;
+        }
     }
+    // 4.3 and 7 inch.
+    QTest::newRow("480x272 longest 130 dpi") << QSize(480, 272) << true << 100 << 130;
+    QTest::newRow("1024x600 longest 170 dpi") << QSize(1024, 600) << true << 100 << 170;
 }
 
 void TestTextFit::everyTextFits()
 {
     QFETCH(QSize, size);
     QFETCH(bool, longest);
+    QFETCH(int, textSize);
+    QFETCH(int, dotsPerInch);
     LongestTranslator translator(QLatin1String(FILARIX_TRANSLATIONS));
     m_translator = longest ? &translator : nullptr;
     if (longest) {
@@ -159,7 +171,10 @@ void TestTextFit::everyTextFits()
         QCoreApplication::installTranslator(&translator);
     }
 
-    PanelProgram program(optionsFor(size), QStringList());
+    Options options = optionsFor(size);
+    options.textSize = Measures::nameOf(textSize);
+    options.dotsPerInch = dotsPerInch;
+    PanelProgram program(options, QStringList());
     QCOMPARE(program.start(), PanelProgram::Started);
     PanelWindow &panel = *program.window();
     // In the place of what this machine's devices are.

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void longTextGivesWay();
     void twoLinesAreFilledBeforeTheRestGivesWay();
     void textThatFitsIsShownWhole();
+    void linesWithoutRoomStayAway();
 };
 
 static QImage picture(const QString &text, int width)
@@ -55,6 +56,25 @@ void TestElidedLabel::twoLinesAreFilledBeforeTheRestGivesWay()
 void TestElidedLabel::textThatFitsIsShownWhole()
 {
     QVERIFY(picture("short 1", 200) != picture("short 2", 200));
+}
+
+void TestElidedLabel::linesWithoutRoomStayAway()
+{
+    const auto pictured = [](int lines, int height) {
+        ElidedLabel label;
+        label.setLines(lines);
+        label.setText(QString("a text of words ").repeated(9));
+        label.resize(100, height);
+        return TestCompat::grab(&label).toImage();
+    };
+    const int height = QFontMetrics(QApplication::font()).height();
+    QCOMPARE(pictured(3, 2 * height), pictured(2, 2 * height));
+    QVERIFY(pictured(3, 3 * height) != pictured(2, 3 * height));
+    ElidedLabel label;
+    const int one = label.minimumSizeHint().height();
+    label.keepLines(3);
+    QCOMPARE(label.minimumSizeHint().height(), 3 * label.fontMetrics().lineSpacing());
+    QVERIFY(label.sizeHint().height() > one);
 }
 
 FILARIX_TEST_MAIN(TestElidedLabel)

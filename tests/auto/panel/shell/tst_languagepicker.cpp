@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aKeyChooses();
     void cancelChoosesNothing();
     void theOtherLookIsAskedFor();
+    void aTextSizeIsAskedFor();
 };
 
 static QPushButton *key(const QDialog &picker, const QString &name)
@@ -76,6 +77,20 @@ void TestLanguagePicker::theOtherLookIsAskedFor()
     const LanguagePicker dark("en");
     QCOMPARE(key(dark, "look")->text(), QString("Light colours"));
     Look::use(Look::Light);
+}
+
+void TestLanguagePicker::aTextSizeIsAskedFor()
+{
+    LanguagePicker picker("en");
+    QSignalSpy wanted(&picker, SIGNAL(textSizeWanted(int)));
+    QVERIFY(key(picker, "textsize_100")->isChecked());
+    QVERIFY(!key(picker, "textsize_150")->isChecked());
+    QCOMPARE(key(picker, "textsize_150")->accessibleName(), QString("Text size 150 %"));
+    key(picker, "textsize_150")->click();
+    QCOMPARE(wanted.size(), 1);
+    QCOMPARE(wanted.first().first().toInt(), 150);
+    QCOMPARE(picker.code(), QString());
+    QCOMPARE(picker.result(), int(QDialog::Rejected));
 }
 
 FILARIX_TEST_MAIN(TestLanguagePicker)

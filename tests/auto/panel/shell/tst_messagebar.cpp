@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "shell/messagebar.h"
 #include "shell/messagelog.h"
@@ -18,6 +19,7 @@ class TestMessageBar : public FilarixTest
 
 private Q_SLOTS:
     void rowKeepsItsPlace();
+    void whatStopsRunningWorkHasRoom();
     void lineIsThereWhileThereIsSomethingToSay();
     void keyClosesWhatIsSaid();
     void informationPassesAndTheWarningIsBack();
@@ -51,8 +53,36 @@ void TestMessageBar::rowKeepsItsPlace()
     QCOMPARE(bar.findChild<QLabel *>("messageText")->geometry(), text);
     bar.showWork("on its way", 3);
     QCoreApplication::processEvents();
-    QCOMPARE(bar.size(), size);
+    QCOMPARE(bar.width(), size.width());
     QCOMPARE(bar.findChild<QLabel *>("messageText")->width(), text.width());
+    bar.endWork();
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.size(), size);
+}
+
+// 15 mm: whoever wants to stop does not look.
+void TestMessageBar::whatStopsRunningWorkHasRoom()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.resize(480, 40);
+    bar.show();
+    bar.showWork("on its way", 3);
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.height(), Measures::stop());
+    QCOMPARE(bar.key()->height(), Measures::stop());
+    QVERIFY(bar.key()->width() >= Measures::stop());
+
+    QWidget strip;
+    MessageBar *line = new MessageBar(&log, MessageBar::Line);
+    QHBoxLayout layout(&strip);
+    layout.addWidget(line);
+    layout.addWidget(line->key());
+    strip.resize(480, 44);
+    strip.show();
+    line->showWork("on its way", 3);
+    QTRY_VERIFY(line->key()->width() >= Measures::stop());
+    line->endWork();
 }
 
 void TestMessageBar::lineIsThereWhileThereIsSomethingToSay()

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#include "look/measures.h"
+
+#include "look/look.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+
+#include <cmath>
+
+namespace {
+
+const qreal mmPerInch = 25.4;
+// Of the shorter side: five keys and the strips stand above one another on the smallest panel.
+const int keysOnASide = 5;
+
+qreal currentDotsPerInch = Measures::usualDotsPerInch;
+int shorterSide = QWIDGETSIZE_MAX;
+int currentTextSize = 100;
+
+int withRoom(qreal millimetres)
+{
+    return qMax(Look::smallestTouch,
+                qMin(Measures::pixels(millimetres), shorterSide / keysOnASide));
+}
+
+} // namespace
+
+bool Measures::isSensible(qreal dotsPerInch)
+{
+    return dotsPerInch >= fewestDotsPerInch && dotsPerInch <= mostDotsPerInch;
+}
+
+qreal Measures::dotsPerInchOf(const QSize &pixels, const QSizeF &millimetres)
+{
+    const qreal length = std::hypot(millimetres.width(), millimetres.height());
+    if (!(length > 0))
+        return usualDotsPerInch;
+    const qreal told = std::hypot(pixels.width(), pixels.height()) / length * mmPerInch;
+    return isSensible(told) ? told : usualDotsPerInch;
+}
+
+void Measures::use(qreal dotsPerInch, const QSize &surface)
+{
+    currentDotsPerInch = isSensible(dotsPerInch) ? dotsPerInch : usualDotsPerInch;
+    shorterSide = surface.isValid() ? qMin(surface.width(), surface.height()) : QWIDGETSIZE_MAX;
+}
+
+qreal Measures::dotsPerInch()
+{
+    return currentDotsPerInch;
+}
+
+int Measures::pixels(qreal millimetres)
+{
+    return int(std::ceil(millimetres * currentDotsPerInch / mmPerInch));
+}
+
+int Measures::touch()
+{
+    return withRoom(touchMm);
+}
+
+int Measures::stop()
+{
+    return withRoom(stopMm);
+}
+
+QList<int> Measures::textSizes()
+{
+    return {100, 125, 150};
+}
+
+int Measures::textSize()
+{
+    return currentTextSize;
+}
+
+void Measures::useTextSize(int percent)
+{
+    if (percent == currentTextSize || !textSizes().contains(percent))
+        return;
+    currentTextSize = percent;
+    QList<QPointer<QWidget>> all;
+    for (QWidget *widget : QApplication::allWidgets())
+        all.append(widget);
+    for (const QPointer<QWidget> &widget : qAsConst(all)) {
+        QEvent change(textSizeChange());
+        if (widget)
+            QApplication::sendEvent(widget, &change);
+    }
+}
+
+QEvent::Type Measures::textSizeChange()
+{
+    static const int type = QEvent::registerEventType();
+    return QEvent::Type(type);
+}
+
+int Measures::letters(int pixels)
+{
+    return qRound(pixels * currentTextSize / 100.0);
+}
+
+QString Measures::textSizeKey()
+{
+    return QLatin1String("textsize");
+}
+
+QStringList Measures::textSizeNames()
+{
+    QStringList names;
+    for (int percent : textSizes())
+        names.append(nameOf(percent));
+    return names;
+}
+
+QString Measures::nameOf(int percent)
+{
+    return QString::number(percent);
+}
