@@ -14,6 +14,7 @@
 #include "look/look.h"
 #include "look/measures.h"
 #include "look/panelstyle.h"
+#include "look/spokennames.h"
 #include "programs/programdirectory.h"
 #include "programs/programhistory.h"
 #include "programs/unsavedoffer.h"
@@ -195,6 +196,7 @@ void PanelProgram::makeWindow()
     new FindDialogKeypad(m_window.get());
     new DialogFitter(m_window.get());
     new FingerScroll(m_window.get());
+    m_names.reset(new SpokenNames(qApp));
 }
 
 void PanelProgram::makeScreens()

@@ -32,6 +32,7 @@ class PreviewScreen;
 class ProgramHistory;
 class ProgramReview;
 class ProgramScreen;
+class SpokenNames;
 class TeachScreen;
 class Tour;
 class UnsavedOffer;
@@ -121,6 +122,7 @@ private:
     Stick m_stick;
     MachineData m_machine;
     std::unique_ptr<PanelGlass> m_glass;
+    std::unique_ptr<SpokenNames> m_names;
     // The panes of the window look at it to their end.
     std::unique_ptr<CoilPreview> m_preview;
     std::unique_ptr<ProgramReview> m_review;

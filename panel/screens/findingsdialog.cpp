@@ -98,6 +98,8 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
     QPushButton *closeKey = addKey(keys, tr("Close"), "close");
 
+    m_backKey->setAccessibleName(tr("Page up"));
+    m_forthKey->setAccessibleName(tr("Page down"));
     connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
     connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
     connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);

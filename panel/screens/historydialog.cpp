@@ -82,6 +82,8 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     QPushButton *closeKey = addKey(keys, tr("Close"), "close");
     m_onlyKey->setCheckable(true);
 
+    m_backKey->setAccessibleName(tr("Page up"));
+    m_forthKey->setAccessibleName(tr("Page down"));
     connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
     connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
     connect(m_onlyKey, &QPushButton::clicked, this, [this](bool isOn) {

@@ -155,6 +155,7 @@ void MessageBar::showKey(bool isWanted)
 {
     m_key->setIcon(m_isWorking ? QIcon() : Glyphs::icon(Glyphs::Close));
     m_key->setText(m_isWorking ? tr("Stop") : QString());
+    m_key->setAccessibleName(m_isWorking ? QString() : tr("Close"));
     m_key->setToolButtonStyle(m_isWorking ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
     if (m_isWorking) {
         m_keyRest.stop();

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-// Holds PanelProgram with all its screens and dialogs: whether every text has its room.
+// Holds PanelProgram with all its screens and dialogs: whether every text has its room, and whether
+// whoever cannot see it is told what is there.
 
 #include "filarixtest.h"
 #include "look/look.h"
 #include "look/measures.h"
+#include "look/spokennames.h"
 #include "panelprogram.h"
 #include "programs/downloadfacts.h"
 #include "programs/programstate.h"
@@ -20,6 +22,7 @@
 #include "textfit.h"
 #include "tour.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -36,6 +39,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void whatDoesNotFitIsFound();
+    void whatHasNoNameIsFound();
     void everyTextFits_data();
     void everyTextFits();
 
@@ -95,6 +99,40 @@ ProgramState stateOf(ProgramState::Kind kind)
     return state;
 }
 
+bool isOfKeypad(const QWidget *widget)
+{
+    for (const QWidget *around = widget; around; around = around->parentWidget()) {
+        if (around->inherits("KeypadFrame"))
+            return true;
+    }
+    return false;
+}
+
+/// What is seen and could be worked, and tells a screen reader no name or no role.
+QStringList unnamed()
+{
+    QStringList faults;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        // The keypads have a test of their own.
+        const bool isSeen = widget->isVisible() && !widget->visibleRegion().isEmpty();
+        if (!isSeen || !SpokenNames::isInteractive(widget))
+            continue;
+        if (isOfKeypad(widget))
+            continue;
+        const QAccessibleInterface *access = QAccessible::queryAccessibleInterface(widget);
+        const QAccessible::Role role = access ? access->role() : QAccessible::NoRole;
+        const bool isVague = role == QAccessible::NoRole || role == QAccessible::Client;
+        if (SpokenNames::nameOf(widget).isEmpty() || isVague)
+            faults.append(QString("%1 %2 in %3 of %4 has %5")
+                              .arg(widget->metaObject()->className(), widget->objectName(),
+                                   widget->parentWidget()->metaObject()->className(),
+                                   widget->window()->metaObject()->className(),
+                                   isVague ? "no role" : "no name"));
+    }
+    faults.removeDuplicates();
+    return faults;
+}
+
 } // namespace
 
 void TestTextFit::initTestCase()
@@ -134,6 +172,28 @@ void TestTextFit::whatDoesNotFitIsFound()
                 .contains("leaves the screen"));
     for (const QString &exception : TextFit::exceptions())
         QVERIFY2(exception.section(": ", 1).size() > 10, qPrintable(exception));
+}
+
+void TestTextFit::whatHasNoNameIsFound()
+{
+    QWidget window;
+    QPushButton *picture = new QPushButton(&window);
+    picture->setObjectName("picture");
+    picture->setGeometry(0, 0, 40, 40);
+    QPushButton *arrow = new QPushButton(QString(QChar(0x25b2)), &window);
+    arrow->setGeometry(50, 0, 40, 40);
+    QPushButton *named = new QPushButton(QString(QChar(0x25b2)), &window);
+    named->setAccessibleName("Page up");
+    named->setGeometry(100, 0, 40, 40);
+    QPushButton *ok = new QPushButton("OK", &window);
+    ok->setGeometry(150, 0, 40, 40);
+    window.resize(200, 50);
+    window.show();
+    QCOMPARE(unnamed().size(), 2);
+    picture->hide();
+    QCOMPARE(unnamed().size(), 1);
+    delete arrow;
+    QCOMPARE(unnamed(), QStringList());
 }
 
 void TestTextFit::everyTextFits_data()
@@ -192,7 +252,7 @@ void TestTextFit::everyTextFits()
         // What was shown just now has its place before it is painted, and so before it is measured.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         const QRect screen(panel.mapToGlobal(QPoint(0, 0)), panel.size());
-        for (const QString &fault : TextFit::faults(screen)) {
+        for (const QString &fault : TextFit::faults(screen) + unnamed()) {
             if (!faults.filter(fault).isEmpty())
                 continue;
             faults.append(name + ": " + fault);
