@@ -61,6 +61,16 @@ QRect selectionOnScreen(const WGCodeEditer *editor)
     return rect.translated(editor->viewport()->mapToGlobal(QPoint()));
 }
 
+/// Where the library's own search, which began at \a from, meets \a hit at once: in a long program
+/// the way there is not made twice.
+QTextCursor before(const QTextCursor &hit, const QTextCursor &from, bool isBackward)
+{
+    QTextCursor cursor(hit);
+    cursor.setPosition(isBackward ? qMin(hit.selectionEnd(), from.selectionStart())
+                                  : hit.selectionStart());
+    return cursor;
+}
+
 } // namespace
 
 FindDialogGuide::FindDialogGuide(WGCodeEditer *editor) : QObject(editor), m_editor(editor)
@@ -128,14 +138,15 @@ void FindDialogGuide::search(const QString &text, QTextDocument::FindFlags flags
     if (cs == Qt::CaseSensitive)
         flags |= QTextDocument::FindCaseSensitively;
     QTextCursor from = start(isBackward);
-    bool isThere = !document->find(text, from, flags).isNull();
-    const bool hasWrapped = !isThere;
+    QTextCursor hit = document->find(text, from, flags);
+    const bool hasWrapped = hit.isNull();
     if (hasWrapped) {
         from.movePosition(isBackward ? QTextCursor::End : QTextCursor::Start);
-        isThere = !document->find(text, from, flags).isNull();
+        hit = document->find(text, from, flags);
     }
-    if (isThere && from != m_editor->textCursor())
-        m_editor->setTextCursor(from);
+    const bool isThere = !hit.isNull();
+    if (isThere)
+        m_editor->setTextCursor(before(hit, from, isBackward));
     const QPointer<FindDialogGuide> self(this);
     if (isBackward)
         m_editor->findPrevious(text, cs);

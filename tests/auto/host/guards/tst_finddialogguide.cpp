@@ -33,6 +33,7 @@ private Q_SLOTS:
     void backwardSearchGoesOnAtTheEndAfterAWord();
     void wordEndsWithTheNextSearch();
     void whatIsNowhereIsToldByTheLibrary();
+    void overlappingHitsComeInTurn();
     void caseCountsAsTheDialogSays();
     void replacementFollowsTheHit();
     void eachEditorKeepsItsOwnDialog();
@@ -239,6 +240,33 @@ void TestFindDialogGuide::whatIsNowhereIsToldByTheLibrary()
     // The operator stays where the program was looked at.
     QCOMPARE(row(), 1);
     QCOMPARE(ProgramWalk::topLine(m_editor.data()), 450);
+    QCOMPARE(m_told->size(), 0);
+}
+
+// Backward, a hit may begin before the cursor and end behind it, as in the library.
+void TestFindDialogGuide::overlappingHitsComeInTurn()
+{
+    const QString text = "x0000000x\n00x";
+    const char *const words[] = {"00", "000", "x0", "0"};
+    for (const char *word : words) {
+        for (int position = 0; position <= text.size(); ++position) {
+            for (bool isBackward : {false, true}) {
+                m_editor->setPlainText(text);
+                QTextCursor cursor = m_editor->textCursor();
+                cursor.setPosition(position);
+                const QTextDocument::FindFlags flags =
+                    isBackward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+                const QTextCursor hit = m_editor->document()->find(word, cursor, flags);
+                // At an end the guide starts at another place.
+                if (hit.isNull() || cursor.atStart() || cursor.atEnd())
+                    continue;
+                m_editor->setTextCursor(cursor);
+                find(word, isBackward);
+                QCOMPARE(m_editor->textCursor().selectionStart(), hit.selectionStart());
+                QCOMPARE(m_editor->textCursor().selectionEnd(), hit.selectionEnd());
+            }
+        }
+    }
     QCOMPARE(m_told->size(), 0);
 }
 
