@@ -9,6 +9,7 @@
 #include "look/panelkey.h"
 #include "modaldriver.h"
 #include "programs/checkeddownload.h"
+#include "programs/recentprograms.h"
 #include "screens/coilpreview.h"
 #include "screens/machinedata.h"
 #include "screens/programreview.h"
@@ -17,6 +18,7 @@
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
@@ -64,6 +66,7 @@ private Q_SLOTS:
     void keypadGoesOnToTheNextLine();
     void keypadIsToldTheWordsInForce();
     void cancelledInsertionLeavesNoLine();
+    void pickerIsDressedAndTheNameOutlivesThePanel();
 
 private:
     QToolButton *button(const QString &text) const;
@@ -646,6 +649,25 @@ void TestProgramScreen::cancelledInsertionLeavesNoLine()
     button("Edit")->click();
     QCOMPARE(m_screen->editor()->toPlainText(), QString("G90\nM30"));
     QVERIFY(!m_screen->hasChanges());
+}
+
+void TestProgramScreen::pickerIsDressedAndTheNameOutlivesThePanel()
+{
+    open("coil.cnc", "G01 X1\n");
+    ModalDriver driver;
+    QString sheet;
+    driver.then([&sheet](QWidget *dialog) {
+        sheet = dialog->findChild<QWidget *>("pickerStrip")->styleSheet();
+        static_cast<QDialog *>(dialog)->reject();
+    });
+    QTest::mouseClick(button("RM"), Qt::LeftButton);
+    QTRY_VERIFY2(driver.finished(), driver.report());
+    QCOMPARE(sheet, Look::sheet(Look::PickerStrip));
+    delete m_screen;
+    m_screen = nullptr;
+    RecentPrograms recent(home() + "/hmi/recent.ini");
+    QVERIFY(recent.settle(patience(5000)));
+    QCOMPARE(recent.names().first(), QString("coil.cnc"));
 }
 
 FILARIX_TEST_MAIN(TestProgramScreen)
