@@ -585,7 +585,7 @@ void KeypadFrame::showHead()
     const QString title = m_value.title();
     m_title->setText(title);
     KeypadAccess::setName(m_edit, title);
-    window()->setWindowTitle(title);
+    KeypadAccess::setName(window(), title);
     m_hint->setText(m_value.hint);
     m_hint->setVisible(!m_value.hint.isEmpty());
 
