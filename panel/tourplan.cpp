@@ -111,6 +111,12 @@ bool hasFacts()
            && !facts->text().contains(QLatin1Char('%'));
 }
 
+QWidget *keypadKey(const QString &token)
+{
+    const QWidget *keypad = QApplication::activeModalWidget();
+    return keypad ? keypad->findChild<QWidget *>(QLatin1String("key_") + token) : nullptr;
+}
+
 QWidget *sendKey()
 {
     QWidget *question = topLevel("DownloadQuestion");
@@ -226,6 +232,7 @@ void TourPlan::turnToOtherKeys(WMMainWindow *window)
     });
     pressTool(window, QLatin1String("Edit"));
     m_tour->picture(QLatin1String("gcode-keypad"));
+    turnKeypad(QLatin1String("gcode-keypad"));
     m_tour->closeDialog();
     pressTool(window, QLatin1String("Copy"));
     m_tour->picture(QLatin1String("copy"));
@@ -239,6 +246,7 @@ void TourPlan::find()
 {
     pressTool(m_panel, QLatin1String("Find"));
     m_tour->picture(QLatin1String("character-keypad"));
+    turnKeypad(QLatin1String("character-keypad"));
     m_tour->closeDialog();
     m_tour->picture(QLatin1String("find"));
     m_tour->then([] {
@@ -471,6 +479,25 @@ void TourPlan::pressCell(ListScreen *screen, int row, const char *className, int
         }
         return cells.value(nth);
     });
+}
+
+// The other pages of the keypad that is open, as far as it has a key for them, and back.
+void TourPlan::turnKeypad(const QString &name)
+{
+    for (const char *key : {"shift", "symbols", "page"}) {
+        const QString page = QLatin1String(key);
+        const auto turn = [page] {
+            if (QWidget *found = keypadKey(page))
+                Tour::tap(found);
+        };
+        m_tour->then(turn);
+        m_tour->then([] {});
+        m_tour->then([this, name, page] {
+            if (keypadKey(page))
+                m_tour->save(name + QLatin1Char('-') + page);
+        });
+        m_tour->then(turn);
+    }
 }
 
 // A bar that the panel is wide enough for has no key to turn it.

@@ -60,6 +60,7 @@ private:
     void pressKey(QWidget *among, const QString &text, int nth = 0);
     void pressCell(ListScreen *screen, int row, const char *className, int nth);
     void turnBar(QWidget *window);
+    void turnKeypad(const QString &name);
 
     PanelWindow *m_panel;
     Tour *m_tour;
