@@ -58,6 +58,9 @@ LanguagePicker::LanguagePicker(const QString &current, QWidget *parent) : Dialog
         Q_EMIT lookWanted();
     });
     column->addWidget(look);
+    // Only now the keys are the dialog's.
+    if (QPushButton *key = findChild<QPushButton *>(QLatin1String("language_") + current))
+        key->setFocus();
 }
 
 QPushButton *LanguagePicker::makeKey(const QString &name, const QString &text)
@@ -89,8 +92,6 @@ QLayout *LanguagePicker::makeLanguages(const QString &current)
             accept();
         });
         add(key);
-        if (code == current)
-            key->setFocus();
     }
     QPushButton *cancel = makeKey(QLatin1String("cancel"), tr("Cancel"));
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

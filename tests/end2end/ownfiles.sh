@@ -151,9 +151,12 @@ choose_settings() {
     touch_named look
     expect_gone Cancel Language
     touch_named languageKey
+    touch_named textsize_125
+    touch_named languageKey
     touch_named language_de
     expect_text Programm
     desk_until 20 grep -qsx language=de "$own/panel.ini" || desk_fail "no language is stored"
+    desk_until 20 grep -qsx textsize=125 "$own/panel.ini" || desk_fail "no size of texts is stored"
     desk_until 20 grep -qs "=dark" "$own/panel.ini" || desk_fail "no look is stored"
     touch_named languageKey
     touch_named language_en

@@ -41,6 +41,7 @@ void TestLanguagePicker::theKeyOfTheCurrentOneIsMarked()
     const LanguagePicker picker("it");
     for (const QString &code : Languages::codes())
         QCOMPARE(key(picker, "language_" + code)->isChecked(), code == "it");
+    QCOMPARE(picker.focusWidget(), static_cast<QWidget *>(key(picker, "language_it")));
 }
 
 void TestLanguagePicker::aKeyChooses()

@@ -440,7 +440,7 @@ void TestLanguages::theOperatorChoosesByAKey()
     });
     QTest::mouseClick(key, Qt::LeftButton);
     QVERIFY2(driver.finished(), driver.report());
-    QCOMPARE(marked, QStringList("language_en"));
+    QCOMPARE(marked, QStringList({"language_en", "textsize_100"}));
     QCOMPARE(focused, QString("language_en"));
     QCoreApplication::processEvents();
     QCOMPARE(panel.languages().current(), QString("de"));
