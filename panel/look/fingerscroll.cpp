@@ -210,17 +210,27 @@ void FingerScroll::keepFocus(QObject *window, const QMouseEvent &event)
     QWidget *receiver = top ? top->childAt(event.pos()) : nullptr;
     if (event.button() != Qt::LeftButton || !areaAround(receiver))
         return;
+    const auto note = [this](QWidget *taker) {
+        m_focusTakers.append(qMakePair(QPointer<QWidget>(taker), taker->focusPolicy()));
+    };
     for (QWidget *at = receiver; at && !at->isWindow(); at = at->parentWidget()) {
-        m_focusTakers.append(qMakePair(QPointer<QWidget>(at), at->focusPolicy()));
-        at->setFocusPolicy(Qt::NoFocus);
+        note(at);
+        if (at->focusProxy())
+            note(at->focusProxy());
     }
+    // All are noted by now: a policy that is set goes to the proxy, too.
+    for (const auto &taker : qAsConst(m_focusTakers))
+        taker.first->setFocusPolicy(Qt::NoFocus);
 }
 
+/// Proxies come last, for they get the policies of the others.
 void FingerScroll::releaseFocus()
 {
-    for (const auto &taker : qAsConst(m_focusTakers)) {
-        if (taker.first)
-            taker.first->setFocusPolicy(taker.second);
+    for (bool hasProxy : {true, false}) {
+        for (const auto &taker : qAsConst(m_focusTakers)) {
+            if (taker.first && bool(taker.first->focusProxy()) == hasProxy)
+                taker.first->setFocusPolicy(taker.second);
+        }
     }
     m_focusTakers.clear();
 }

@@ -117,6 +117,7 @@ private Q_SLOTS:
     void dragOnTheBarIsTheBars();
     void dragInAListChoosesNoRow();
     void tapInAListChoosesItsRow();
+    void tapGivesTheFocusAndADragDoesNot();
     void doubleTapInAListIsOne();
     void dragAcrossATableChoosesNothing();
     void headerTakesItsDrags();
@@ -393,6 +394,25 @@ void TestFingerScroll::tapInAListChoosesItsRow()
     m_finger.tap(list->viewport(), QPoint(20, 100));
     QCOMPARE(list->currentIndex(), wanted);
     QCOMPARE(clicked.size(), 1);
+}
+
+void TestFingerScroll::tapGivesTheFocusAndADragDoesNot()
+{
+    QListView *list = showList();
+    QLineEdit *field = m_shown->findChild<QLineEdit *>();
+    QTRY_VERIFY(field->hasFocus());
+    const Qt::FocusPolicy own = list->focusPolicy();
+    const Qt::FocusPolicy viewports = list->viewport()->focusPolicy();
+    m_finger.down(list->viewport(), QPoint(50, 200));
+    QCOMPARE(list->focusPolicy(), own);
+    QCOMPARE(list->viewport()->focusPolicy(), viewports);
+    m_finger.drag(QPoint(0, -100));
+    m_finger.rest();
+    m_finger.up();
+    QVERIFY(field->hasFocus());
+    QCOMPARE(list->focusPolicy(), own);
+    m_finger.tap(list->viewport(), QPoint(20, 100));
+    QVERIFY(list->hasFocus());
 }
 
 void TestFingerScroll::doubleTapInAListIsOne()
