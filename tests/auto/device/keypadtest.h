@@ -51,8 +51,8 @@ public:
     /// Presses keys one after the other, each named by its token.
     static void click(QDialog *keypad, const char *tokens);
     static QLineEdit *value(QDialog *keypad);
-    /// The text of one of the lines "title", "hint", "oldValue", "limit" and "reason"; null while it
-    /// is hidden.
+    /// The text of one of the lines "title", "hint", "oldValue", "limit" and "reason"; null while
+    /// it is hidden.
     static QString line(QDialog *keypad, const char *name);
 
     /// What is wrong with the place of an open keypad or of a part of it, or nothing. \a keySide is
