@@ -47,6 +47,7 @@ void Measures::use(qreal dotsPerInch, const QSize &surface)
 {
     currentDotsPerInch = isSensible(dotsPerInch) ? dotsPerInch : usualDotsPerInch;
     shorterSide = surface.isValid() ? qMin(surface.width(), surface.height()) : QWIDGETSIZE_MAX;
+    qApp->setProperty("hmiDotsPerInch", currentDotsPerInch);
 }
 
 qreal Measures::dotsPerInch()
@@ -84,6 +85,7 @@ void Measures::useTextSize(int percent)
     if (percent == currentTextSize || !textSizes().contains(percent))
         return;
     currentTextSize = percent;
+    qApp->setProperty("hmiTextSize", percent);
     QList<QPointer<QWidget>> all;
     for (QWidget *widget : QApplication::allWidgets())
         all.append(widget);

@@ -12,8 +12,8 @@
 /// Sizes that a hand and an eye ask for: millimetres in pixels of the panel, and the size of the
 /// texts that the operator has chosen.
 ///
-/// Both count for the panel program's own widgets. The library's texts and geometry are fixed by
-/// its design, and stay as they are.
+/// Both count for the panel program's own widgets and, by properties of the application, for the
+/// keypads. The library's texts and geometry are fixed by its design, and stay as they are.
 ///
 ///     Measures::use(Measures::dotsPerInchOf(screen->size(), screen->physicalSize()), surface);
 ///     key->setMinimumHeight(Measures::touch());

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void senselessDotsAreNotUsed();
     void textSizesAreKnownByTheirNames();
     void aTextSizeIsToldToAllWidgets();
+    void keypadsAreTold();
 };
 
 namespace {
@@ -122,6 +123,14 @@ void TestMeasures::aTextSizeIsToldToAllWidgets()
     QCOMPARE(listener.told, 1);
     Measures::useTextSize(100);
     QCOMPARE(listener.told, 2);
+}
+
+void TestMeasures::keypadsAreTold()
+{
+    Measures::use(170);
+    QCOMPARE(qApp->property("hmiDotsPerInch").toDouble(), 170.0);
+    Measures::useTextSize(125);
+    QCOMPARE(qApp->property("hmiTextSize").toInt(), 125);
 }
 
 FILARIX_TEST_MAIN(TestMeasures)
