@@ -192,6 +192,11 @@ bool FingerScroll::eventFilter(QObject *watched, QEvent *event)
         return move(*static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
         return release(widget, *static_cast<QMouseEvent *>(event));
+    case QEvent::WindowBlocked:
+        // What waits would reach behind the dialog that has come, and open its keypad once more.
+        if (m_receiver && m_receiver->window() == widget)
+            forget();
+        return false;
     case QEvent::ScrollPrepare:
         return prepare(areaOf(widget), event);
     case QEvent::Scroll:

@@ -602,6 +602,10 @@ void TestFingerScroll::fingerLiftedElsewhereStartsNothing()
     dialog.setModal(true);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QMouseEvent up(QEvent::MouseButtonRelease, QPointF(50, 100), Qt::LeftButton, Qt::NoButton,
+                   Qt::NoModifier);
+    QApplication::sendEvent(list->viewport(), &up);
+    QVERIFY(!list->currentIndex().isValid());
     m_finger.tap(other.viewport(), QPoint(20, 50));
     QVERIFY(other.currentIndex().isValid());
     QVERIFY(!list->currentIndex().isValid());
