@@ -264,6 +264,14 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite zurück</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite vor</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -303,6 +311,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite zurück</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite vor</translation>
+    </message>
 </context>
 <context>
     <name>KnownRows</name>
@@ -329,6 +345,14 @@
         <source>Dark colours</source>
         <translation>Dunkle Farben</translation>
     </message>
+    <message>
+        <source>Text size</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -352,12 +376,20 @@
         <source>What stood there is %1 now.</source>
         <translation>Die bisherige Datei heißt jetzt %1.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -373,6 +405,14 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>Noch gibt es keine Meldung.</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite zurück</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite vor</translation>
     </message>
 </context>
 <context>
@@ -600,6 +640,33 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>One more</source>
+        <translation>Eine mehr</translation>
+    </message>
+    <message>
+        <source>One fewer</source>
+        <translation>Eine weniger</translation>
+    </message>
+    <message>
+        <source>Copy to the stick</source>
+        <translation>Auf den Stick kopieren</translation>
+    </message>
+    <message>
+        <source>Copy to the panel</source>
+        <translation>Auf das Gerät kopieren</translation>
+    </message>
+    <message>
+        <source>Out of the folder</source>
+        <translation>Aus dem Ordner</translation>
+    </message>
+    <message>
+        <source>Into the folder</source>
+        <translation>In den Ordner</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>Whether another panel works on the same programs cannot be told: %1.</source>
@@ -730,6 +797,13 @@
     </message>
 </context>
 <context>
+    <name>StickCover</name>
+    <message>
+        <source>The stick is out. Plug it in: its files come by themselves.</source>
+        <translation>Der Stick ist abgezogen. Ihn einstecken: die Dateien kommen von selbst.</translation>
+    </message>
+</context>
+<context>
     <name>TablePicker</name>
     <message>
         <source>No.</source>
@@ -746,6 +820,24 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>TapArea</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtFolder</name>
+    <message>
+        <source>it is too large</source>
+        <translation>zu groß</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied to %2: %3.</source>
+        <translation>%1 konnte nicht nach %2 kopiert werden: %3.</translation>
     </message>
 </context>
 <context>
@@ -774,21 +866,13 @@
         <source>%1 is no taught program: row %2 is not an instruction.</source>
         <translation>%1 ist kein eingelerntes Programm: Zeile %2 ist kein Befehl.</translation>
     </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
 </context>
 <context>
     <name>TeachScreen</name>
-    <message>
-        <source>Joint</source>
-        <translation>Gelenk</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linear</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Befehl</translation>
-    </message>
     <message>
         <source>G04 F1 wait</source>
         <translation>G04 F1 warten</translation>
@@ -842,14 +926,6 @@
         <translation>Alle %1 Befehle löschen?</translation>
     </message>
     <message>
-        <source>Instructions removed: %1. Load brings the stored ones back.</source>
-        <translation>Gelöschte Befehle: %1. Laden bringt die gespeicherten zurück.</translation>
-    </message>
-    <message>
-        <source>Move</source>
-        <translation>Fahren</translation>
-    </message>
-    <message>
         <source>There is no instruction to delete.</source>
         <translation>Es gibt keinen Befehl zum Löschen.</translation>
     </message>
@@ -892,6 +968,62 @@
     <message>
         <source>Not stored. %1</source>
         <translation>Nicht gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopie</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einf.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Auf</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Taught programs are in %1 now, copied: %2. The old files stay.</source>
+        <translation>Eingelernte Programme liegen nun in %1, kopiert: %2. Die alten Dateien bleiben.</translation>
+    </message>
+    <message>
+        <source>Store as</source>
+        <translation>Sich. als</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>%1 is there already, instructions: %2. Write over it?</source>
+        <translation>%1 gibt es schon, Befehle: %2. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>%1 is there already and cannot be read. Put it aside and store?</source>
+        <translation>%1 gibt es schon und ist nicht lesbar. Beiseitelegen und sichern?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Undo brings them back.</source>
+        <translation>Gelöschte Befehle: %1. „Zurück“ bringt sie wieder.</translation>
+    </message>
+    <message>
+        <source>There is no instruction to copy.</source>
+        <translation>Es gibt keinen Befehl zum Kopieren.</translation>
+    </message>
+    <message>
+        <source>Instructions copied: %1. Paste puts them below a row.</source>
+        <translation>Kopierte Befehle: %1. „Einf.“ setzt sie unter eine Zeile.</translation>
     </message>
 </context>
 <context>

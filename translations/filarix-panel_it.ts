@@ -264,6 +264,14 @@
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -303,6 +311,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
 </context>
 <context>
     <name>KnownRows</name>
@@ -329,6 +345,14 @@
         <source>Dark colours</source>
         <translation>Colori scuri</translation>
     </message>
+    <message>
+        <source>Text size</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -352,12 +376,20 @@
         <source>What stood there is %1 now.</source>
         <translation>Il file precedente ora si chiama %1.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -373,6 +405,14 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>Ancora nessun messaggio.</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
     </message>
 </context>
 <context>
@@ -600,6 +640,33 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>One more</source>
+        <translation>Una in più</translation>
+    </message>
+    <message>
+        <source>One fewer</source>
+        <translation>Una in meno</translation>
+    </message>
+    <message>
+        <source>Copy to the stick</source>
+        <translation>Copia sulla chiavetta</translation>
+    </message>
+    <message>
+        <source>Copy to the panel</source>
+        <translation>Copia sul pannello</translation>
+    </message>
+    <message>
+        <source>Out of the folder</source>
+        <translation>Fuori dalla cartella</translation>
+    </message>
+    <message>
+        <source>Into the folder</source>
+        <translation>Nella cartella</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>Whether another panel works on the same programs cannot be told: %1.</source>
@@ -730,6 +797,13 @@
     </message>
 </context>
 <context>
+    <name>StickCover</name>
+    <message>
+        <source>The stick is out. Plug it in: its files come by themselves.</source>
+        <translation>Chiavetta rimossa. Inserirla: i file compaiono da soli.</translation>
+    </message>
+</context>
+<context>
     <name>TablePicker</name>
     <message>
         <source>No.</source>
@@ -746,6 +820,24 @@
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>TapArea</name>
+    <message>
+        <source>Messages</source>
+        <translation>Messaggi</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtFolder</name>
+    <message>
+        <source>it is too large</source>
+        <translation>è troppo grande</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied to %2: %3.</source>
+        <translation>Impossibile copiare %1 in %2: %3.</translation>
     </message>
 </context>
 <context>
@@ -774,21 +866,13 @@
         <source>%1 is no taught program: row %2 is not an instruction.</source>
         <translation>%1 non è un programma appreso: la riga %2 non è un&apos;istruzione.</translation>
     </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
 </context>
 <context>
     <name>TeachScreen</name>
-    <message>
-        <source>Joint</source>
-        <translation>Giunti</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Lineare</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Altro</translation>
-    </message>
     <message>
         <source>G04 F1 wait</source>
         <translation>G04 F1 attesa</translation>
@@ -842,14 +926,6 @@
         <translation>Eliminare tutte le %1 istruzioni?</translation>
     </message>
     <message>
-        <source>Instructions removed: %1. Load brings the stored ones back.</source>
-        <translation>Istruzioni eliminate: %1. &quot;Carica&quot; riporta quelle salvate.</translation>
-    </message>
-    <message>
-        <source>Move</source>
-        <translation>Vai</translation>
-    </message>
-    <message>
         <source>There is no instruction to delete.</source>
         <translation>Nessuna istruzione da eliminare.</translation>
     </message>
@@ -892,6 +968,62 @@
     <message>
         <source>Not stored. %1</source>
         <translation>Non salvato. %1</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Giù</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Taught programs are in %1 now, copied: %2. The old files stay.</source>
+        <translation>I programmi appresi ora sono in %1, copiati: %2. I vecchi file restano.</translation>
+    </message>
+    <message>
+        <source>Store as</source>
+        <translation>Salva n.</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>%1 is there already, instructions: %2. Write over it?</source>
+        <translation>%1 esiste già, istruzioni: %2. Sovrascrivere?</translation>
+    </message>
+    <message>
+        <source>%1 is there already and cannot be read. Put it aside and store?</source>
+        <translation>%1 esiste già e non è leggibile. Metterlo da parte e salvare?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Undo brings them back.</source>
+        <translation>Istruzioni eliminate: %1. &quot;Annulla&quot; le riporta.</translation>
+    </message>
+    <message>
+        <source>There is no instruction to copy.</source>
+        <translation>Nessuna istruzione da copiare.</translation>
+    </message>
+    <message>
+        <source>Instructions copied: %1. Paste puts them below a row.</source>
+        <translation>Istruzioni copiate: %1. &quot;Incolla&quot; le mette sotto una riga.</translation>
     </message>
 </context>
 <context>

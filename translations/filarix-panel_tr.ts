@@ -264,6 +264,14 @@
         <source>Close</source>
         <translation>Kapat</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>Önceki sayfa</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sonraki sayfa</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -303,6 +311,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>Önceki sayfa</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sonraki sayfa</translation>
+    </message>
 </context>
 <context>
     <name>KnownRows</name>
@@ -329,6 +345,14 @@
         <source>Dark colours</source>
         <translation>Koyu renkler</translation>
     </message>
+    <message>
+        <source>Text size</source>
+        <translation>Yazı</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -352,12 +376,20 @@
         <source>What stood there is %1 now.</source>
         <translation>Önceki dosyanın adı artık %1.</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Daha</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>Durdur</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
@@ -373,6 +405,14 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>Henüz ileti yok.</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Önceki sayfa</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sonraki sayfa</translation>
     </message>
 </context>
 <context>
@@ -600,6 +640,33 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>One more</source>
+        <translation>Bir fazla</translation>
+    </message>
+    <message>
+        <source>One fewer</source>
+        <translation>Bir eksik</translation>
+    </message>
+    <message>
+        <source>Copy to the stick</source>
+        <translation>Belleğe kopyala</translation>
+    </message>
+    <message>
+        <source>Copy to the panel</source>
+        <translation>Panele kopyala</translation>
+    </message>
+    <message>
+        <source>Out of the folder</source>
+        <translation>Klasörden çık</translation>
+    </message>
+    <message>
+        <source>Into the folder</source>
+        <translation>Klasöre gir</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>Whether another panel works on the same programs cannot be told: %1.</source>
@@ -730,6 +797,13 @@
     </message>
 </context>
 <context>
+    <name>StickCover</name>
+    <message>
+        <source>The stick is out. Plug it in: its files come by themselves.</source>
+        <translation>Bellek çıkarıldı. Takın: dosyaları kendiliğinden gelir.</translation>
+    </message>
+</context>
+<context>
     <name>TablePicker</name>
     <message>
         <source>No.</source>
@@ -746,6 +820,24 @@
     <message>
         <source>Cancel</source>
         <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>TapArea</name>
+    <message>
+        <source>Messages</source>
+        <translation>İletiler</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtFolder</name>
+    <message>
+        <source>it is too large</source>
+        <translation>çok büyük</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied to %2: %3.</source>
+        <translation>%1, %2 klasörüne kopyalanamadı: %3.</translation>
     </message>
 </context>
 <context>
@@ -774,21 +866,13 @@
         <source>%1 is no taught program: row %2 is not an instruction.</source>
         <translation>%1 öğretilmiş bir program değil: %2. satır komut değil.</translation>
     </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
+    </message>
 </context>
 <context>
     <name>TeachScreen</name>
-    <message>
-        <source>Joint</source>
-        <translation>Eklem</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Doğru</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Diğer</translation>
-    </message>
     <message>
         <source>G04 F1 wait</source>
         <translation>G04 F1 bekle</translation>
@@ -842,14 +926,6 @@
         <translation>%1 komutun tümü silinsin mi?</translation>
     </message>
     <message>
-        <source>Instructions removed: %1. Load brings the stored ones back.</source>
-        <translation>Silinen komut: %1. &quot;Aç&quot; kaydedilenleri geri getirir.</translation>
-    </message>
-    <message>
-        <source>Move</source>
-        <translation>Git</translation>
-    </message>
-    <message>
         <source>There is no instruction to delete.</source>
         <translation>Silinecek komut yok.</translation>
     </message>
@@ -892,6 +968,62 @@
     <message>
         <source>Not stored. %1</source>
         <translation>Kaydedilmedi. %1</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopya</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Yapıştır</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Yukarı</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Aşağı</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Taught programs are in %1 now, copied: %2. The old files stay.</source>
+        <translation>Öğretilmiş programlar artık %1 içinde, kopyalanan: %2. Eski dosyalar kalır.</translation>
+    </message>
+    <message>
+        <source>Store as</source>
+        <translation>Farklı</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Ad:</translation>
+    </message>
+    <message>
+        <source>%1 is there already, instructions: %2. Write over it?</source>
+        <translation>%1 zaten var, komut: %2. Üzerine yazılsın mı?</translation>
+    </message>
+    <message>
+        <source>%1 is there already and cannot be read. Put it aside and store?</source>
+        <translation>%1 zaten var ve okunamıyor. Kenara alınıp kaydedilsin mi?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Undo brings them back.</source>
+        <translation>Silinen komut: %1. &quot;Geri al&quot; onları geri getirir.</translation>
+    </message>
+    <message>
+        <source>There is no instruction to copy.</source>
+        <translation>Kopyalanacak komut yok.</translation>
+    </message>
+    <message>
+        <source>Instructions copied: %1. Paste puts them below a row.</source>
+        <translation>Kopyalanan komut: %1. &quot;Yapıştır&quot; onları satırın altına koyar.</translation>
     </message>
 </context>
 <context>

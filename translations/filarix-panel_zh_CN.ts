@@ -264,6 +264,14 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一页</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDialog</name>
@@ -303,6 +311,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Page up</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一页</translation>
+    </message>
 </context>
 <context>
     <name>KnownRows</name>
@@ -329,6 +345,14 @@
         <source>Dark colours</source>
         <translation>深色</translation>
     </message>
+    <message>
+        <source>Text size</source>
+        <translation>字号</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>ListScreen</name>
@@ -352,12 +376,20 @@
         <source>What stood there is %1 now.</source>
         <translation>原文件现名为 %1。</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
     <message>
         <source>Stop</source>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -373,6 +405,14 @@
     <message>
         <source>There was nothing to tell yet.</source>
         <translation>还没有消息。</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一页</translation>
     </message>
 </context>
 <context>
@@ -600,6 +640,33 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>One more</source>
+        <translation>多一个</translation>
+    </message>
+    <message>
+        <source>One fewer</source>
+        <translation>少一个</translation>
+    </message>
+    <message>
+        <source>Copy to the stick</source>
+        <translation>复制到 U 盘</translation>
+    </message>
+    <message>
+        <source>Copy to the panel</source>
+        <translation>复制到面板</translation>
+    </message>
+    <message>
+        <source>Out of the folder</source>
+        <translation>退出文件夹</translation>
+    </message>
+    <message>
+        <source>Into the folder</source>
+        <translation>进入文件夹</translation>
+    </message>
+</context>
+<context>
     <name>StartUp</name>
     <message>
         <source>Whether another panel works on the same programs cannot be told: %1.</source>
@@ -730,6 +797,13 @@
     </message>
 </context>
 <context>
+    <name>StickCover</name>
+    <message>
+        <source>The stick is out. Plug it in: its files come by themselves.</source>
+        <translation>U 盘已拔出。插入后文件会自动显示。</translation>
+    </message>
+</context>
+<context>
     <name>TablePicker</name>
     <message>
         <source>No.</source>
@@ -746,6 +820,24 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>TapArea</name>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtFolder</name>
+    <message>
+        <source>it is too large</source>
+        <translation>文件太大</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied to %2: %3.</source>
+        <translation>无法将 %1 复制到 %2: %3。</translation>
     </message>
 </context>
 <context>
@@ -774,21 +866,13 @@
         <source>%1 is no taught program: row %2 is not an instruction.</source>
         <translation>%1 不是示教程序: 第 %2 行不是指令。</translation>
     </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
 </context>
 <context>
     <name>TeachScreen</name>
-    <message>
-        <source>Joint</source>
-        <translation>关节</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>直线</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>其他</translation>
-    </message>
     <message>
         <source>G04 F1 wait</source>
         <translation>G04 F1 等待</translation>
@@ -842,14 +926,6 @@
         <translation>删除全部 %1 条指令?</translation>
     </message>
     <message>
-        <source>Instructions removed: %1. Load brings the stored ones back.</source>
-        <translation>已删除指令: %1。“加载”可恢复已保存的指令。</translation>
-    </message>
-    <message>
-        <source>Move</source>
-        <translation>移动</translation>
-    </message>
-    <message>
         <source>There is no instruction to delete.</source>
         <translation>没有可删除的指令。</translation>
     </message>
@@ -892,6 +968,62 @@
     <message>
         <source>Not stored. %1</source>
         <translation>未保存。%1</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Taught programs are in %1 now, copied: %2. The old files stay.</source>
+        <translation>示教程序现位于 %1, 已复制: %2。旧文件保留。</translation>
+    </message>
+    <message>
+        <source>Store as</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称:</translation>
+    </message>
+    <message>
+        <source>%1 is there already, instructions: %2. Write over it?</source>
+        <translation>%1 已存在, 指令数: %2。要覆盖吗?</translation>
+    </message>
+    <message>
+        <source>%1 is there already and cannot be read. Put it aside and store?</source>
+        <translation>%1 已存在且无法读取。改名留存后保存吗?</translation>
+    </message>
+    <message>
+        <source>Instructions removed: %1. Undo brings them back.</source>
+        <translation>已删除指令: %1。“撤销”可恢复。</translation>
+    </message>
+    <message>
+        <source>There is no instruction to copy.</source>
+        <translation>没有可复制的指令。</translation>
+    </message>
+    <message>
+        <source>Instructions copied: %1. Paste puts them below a row.</source>
+        <translation>已复制指令: %1。“粘贴”将其放在行下。</translation>
     </message>
 </context>
 <context>
