@@ -48,9 +48,9 @@ void TestMovementLimits::init()
     QStringList title = TaughtProgram::titleRow();
     m_list.reset(new TListWidget(title, nullptr));
     QStringList rows[] = {
-        TaughtProgram::movement("ML", "Wind", 3, 1, m_machine),
+        TaughtProgram::movement("ML", 3, 1, m_machine),
         TaughtProgram::command("M05 stop"),
-        TaughtProgram::movement("MJ", "Move", 1, 2, m_machine),
+        TaughtProgram::movement("MJ", 1, 2, m_machine),
     };
     int number = 0;
     for (QStringList &row : rows) {
@@ -188,7 +188,7 @@ void TestMovementLimits::firstFaultIsFound()
 {
     QList<QStringList> rows;
     for (int i = 0; i < 5; ++i)
-        rows.append(TaughtProgram::movement("ML", "Wind", 3, 1, m_machine));
+        rows.append(TaughtProgram::movement("ML", 3, 1, m_machine));
     rows.insert(1, TaughtProgram::command("999999999999"));
     QCOMPARE(MovementLimits::firstFault(rows).row, -1);
     rows[4][TValue] = "1.5";
