@@ -177,9 +177,12 @@ void LineEntry::goOn()
         endInsertion();
     }
     begin();
+    // The host may delete this object while the keypad is open.
+    const QPointer<LineEntry> self(this);
     // The bar may hide the button by now, and switch it off.
     QMetaObject::invokeMethod(m_window, "softEditGcode");
-    end();
+    if (self)
+        end();
 }
 
 /// Undone, not deleted: a program that had no changes has none afterwards.

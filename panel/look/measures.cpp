@@ -47,7 +47,9 @@ void Measures::use(qreal dotsPerInch, const QSize &surface)
 {
     currentDotsPerInch = isSensible(dotsPerInch) ? dotsPerInch : usualDotsPerInch;
     shorterSide = surface.isValid() ? qMin(surface.width(), surface.height()) : QWIDGETSIZE_MAX;
-    qApp->setProperty("hmiDotsPerInch", currentDotsPerInch);
+    // Where nobody says how fine the screen is, the keypads take it for that of most panels.
+    const bool isTold = isSensible(dotsPerInch) && dotsPerInch != usualDotsPerInch;
+    qApp->setProperty("hmiDotsPerInch", isTold ? QVariant(dotsPerInch) : QVariant());
 }
 
 qreal Measures::dotsPerInch()

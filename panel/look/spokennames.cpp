@@ -53,7 +53,8 @@ public:
     void doAction(const QString &action) override
     {
         if (action == pressAction())
-            Q_EMIT static_cast<TapArea *>(widget())->touched();
+            // A dialog may follow, and whoever pressed must not wait for its end.
+            QMetaObject::invokeMethod(widget(), "touched", Qt::QueuedConnection);
     }
 };
 

@@ -130,7 +130,8 @@ PanelKey *ListScreen::makeKey(const QIcon &icon, const std::function<QString()> 
     PanelKey *key = new PanelKey(icon, text, m_keyPanel);
     key->setSizePolicy(QSizePolicy::Expanding,
                        m_keysBeside ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    key->setMinimumSize(gloveTouch, gloveTouch);
+    const int glove = qMax(gloveTouch, Measures::touch());
+    key->setMinimumSize(glove, glove);
     key->setMaximumHeight(2 * Measures::touch());
     if (m_keysBeside)
         key->setIconSize(QSize(largeIcon, largeIcon));
@@ -230,15 +231,8 @@ void ListScreen::setRows(const QList<QStringList> &rows)
 
 void ListScreen::bringIntoView(int row)
 {
-    const auto isInView = [this, row] {
-        const QWidget *widget = m_list->itemAt(m_list->getListPos(row));
-        return widget && !widget->isHidden();
-    };
-    if (!isInView())
-        m_list->home();
-    for (int page = 0; page < m_list->count() && !isInView(); ++page)
-        m_list->nextPage();
     m_list->setCurIndex(row, true);
+    showRow(row);
 }
 
 QList<QStringList> ListScreen::rows() const

@@ -141,8 +141,17 @@ void MovementLimits::prepare(QLineEdit *field)
 
 void MovementLimits::judge(int row, const QStringList &content)
 {
+    const QString text = takeBack(row, content);
+    if (!text.isEmpty())
+        Q_EMIT refused(text);
+    Q_EMIT judged(text.isEmpty());
+}
+
+/// Why a number went back to what it was; empty when none did.
+QString MovementLimits::takeBack(int row, const QStringList &content)
+{
     if (!isMovement(content) || !isMovement(m_before) || content.at(Num) != m_before.at(Num))
-        return;
+        return QString();
     QStringList kept = content;
     QString text;
     const QList<int> numbers = positions();
@@ -156,8 +165,7 @@ void MovementLimits::judge(int row, const QStringList &content)
         text = wrong;
         kept[position] = m_before.at(position);
     }
-    if (text.isEmpty())
-        return;
-    m_list->setContent(row, kept);
-    Q_EMIT refused(text);
+    if (!text.isEmpty())
+        m_list->setContent(row, kept);
+    return text;
 }

@@ -40,10 +40,13 @@ public:
 Q_SIGNALS:
     /// A keypad gave a number that was not taken.
     void refused(const QString &text);
+    /// A row was edited, and what may not be in it is what it was again.
+    void judged(bool isTaken);
 
 private:
     void prepare(QLineEdit *field);
     void judge(int row, const QStringList &content);
+    QString takeBack(int row, const QStringList &content);
 
     TListWidget *m_list;
     /// The row of the field that was touched last, as it was.

@@ -5,7 +5,6 @@
 
 #include "dataeditor.h"
 #include "filarixpanel.h"
-#include "guards/rowwatcher.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "mjline.h"
@@ -137,10 +136,9 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);
     connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
     connect(list(), &TListWidget::sg_item_deleted, this, &TeachScreen::showClearing);
-    // A number that is refused is taken back before Undo notes the row.
-    connect(new MovementLimits(list(), this), &MovementLimits::refused, this,
-            &TeachScreen::tellRefused);
-    connect(new RowWatcher(list(), this), &RowWatcher::rowEdited, this, &TeachScreen::noteRows);
+    const MovementLimits *limits = new MovementLimits(list(), this);
+    connect(limits, &MovementLimits::refused, this, &TeachScreen::tellRefused);
+    connect(limits, &MovementLimits::judged, this, &TeachScreen::noteEdit);
 
     showLoading(true);
     loadFirst();
@@ -241,12 +239,22 @@ void TeachScreen::tellFault()
 /// Nobody shall find a number in the file that the machine must not have.
 bool TeachScreen::mayStore()
 {
+    // Under its new name the program is being stored already.
+    if (m_storing)
+        return false;
     const MovementLimits::Fault fault = MovementLimits::firstFault(rows());
     if (fault.row < 0)
         return true;
     bringIntoView(fault.row + firstRow());
     tellRefused(tr("Not stored. %1").arg(fault.text));
     return false;
+}
+
+void TeachScreen::noteEdit(bool isTaken)
+{
+    noteRows();
+    if (isTaken && MovementLimits::firstFault(rows()).row < 0)
+        Q_EMIT causeEnded(refusedNumbers);
 }
 
 void TeachScreen::noteStore()
@@ -364,6 +372,8 @@ QList<PanelKey *> TeachScreen::keys()
 
 bool TeachScreen::mayClose()
 {
+    while (m_storing && m_storing->isBusy())
+        m_storing->wait();
     return mayLoseProgram(tr("The taught program has changes that are not stored."));
 }
 
@@ -443,6 +453,7 @@ bool TeachScreen::bringBack(const QString &path, const QList<QStringList> &rows)
     showKeys();
     refreshStatus();
     Q_EMIT titleChanged();
+    tellFault();
     return true;
 }
 

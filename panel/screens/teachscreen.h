@@ -62,6 +62,7 @@ private:
         int size() const { return to - from + 1; }
     };
 
+    void noteEdit(bool isTaken);
     void tellRefused(const QString &text);
     void tellFault();
     void addKeys(const QSize &surface);

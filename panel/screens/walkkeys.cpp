@@ -5,6 +5,7 @@
 
 #include "guards/programwalk.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 
 #include <QEvent>
@@ -45,6 +46,11 @@ const struct
 const int keyCount = sizeof walkTable / sizeof *walkTable;
 const int leastKeys = 2;
 
+int sideOfKey()
+{
+    return qMax(keySide, Measures::touch());
+}
+
 int heightOf(int keys, int side)
 {
     return keys * (side + gap) + gap;
@@ -53,9 +59,9 @@ int heightOf(int keys, int side)
 /// How many keys \a height has room for. All of them are of full height; fewer may be lower.
 int roomFor(int height)
 {
-    if (height >= heightOf(keyCount, keySide))
+    if (height >= heightOf(keyCount, sideOfKey()))
         return keyCount;
-    return height >= heightOf(keyCount - 1, Look::smallestTouch) ? keyCount - 1 : leastKeys;
+    return height >= heightOf(keyCount - 1, Measures::touch()) ? keyCount - 1 : leastKeys;
 }
 
 } // namespace
@@ -73,13 +79,13 @@ void WalkKeys::putBeside(QSplitter *window)
     for (int i = 0; i < keyCount; ++i) {
         PanelKey *key = new PanelKey(icon(i, false), QLatin1String("-"));
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        key->setMinimumSize(keySide, Look::smallestTouch);
-        key->setMaximumHeight(2 * Look::smallestTouch);
+        key->setMinimumSize(sideOfKey(), Measures::touch());
+        key->setMaximumHeight(2 * Measures::touch());
         column->addWidget(key);
         add(key, i);
     }
     // The keys that have room are shown, so they ask for none.
-    panel->setMinimumHeight(heightOf(leastKeys, Look::smallestTouch));
+    panel->setMinimumHeight(heightOf(leastKeys, Measures::touch()));
     panel->installEventFilter(this);
 
     QWidget *editor = window->widget(editorPart);
@@ -105,7 +111,7 @@ void WalkKeys::putInto(QToolBar *bar)
         QToolButton *button = new QToolButton;
         button->setIcon(icon(i, true));
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        button->setMinimumWidth(keySide);
+        button->setMinimumWidth(sideOfKey());
         bar->addWidget(button);
         add(button, i);
     }

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void hiddenWindowEndsTheEntry();
     void windowMayGoWhileTheKeypadIsOpen();
     void entryMayGoWhileTheKeypadIsOpen();
+    void entryMayGoWhileTheNextLineIsOpen();
 };
 
 namespace {
@@ -429,6 +430,17 @@ void TestLineEntry::entryMayGoWhileTheKeypadIsOpen()
     entered.host.press("Edit");
     settle();
     QCOMPARE(entered.host.text(), QString("G21\n\nG90"));
+}
+
+void TestLineEntry::entryMayGoWhileTheNextLineIsOpen()
+{
+    Entered entered("G21\nG90");
+    DeviceLog::acceptForNextLine("G20");
+    DeviceLog::runThenCancel([&] { delete entered.entry.data(); });
+    entered.host.press("Edit");
+    settle();
+    QVERIFY(!entered.entry);
+    QVERIFY(entered.host.text().startsWith("G20\n"));
 }
 
 FILARIX_TEST_MAIN(TestLineEntry)

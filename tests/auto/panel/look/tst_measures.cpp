@@ -129,6 +129,8 @@ void TestMeasures::keypadsAreTold()
 {
     Measures::use(170);
     QCOMPARE(qApp->property("hmiDotsPerInch").toDouble(), 170.0);
+    Measures::use(Measures::usualDotsPerInch);
+    QVERIFY(!qApp->property("hmiDotsPerInch").isValid());
     Measures::useTextSize(125);
     QCOMPARE(qApp->property("hmiTextSize").toInt(), 125);
 }

@@ -93,6 +93,7 @@ private Q_SLOTS:
     void rowsOfAnotherPlaceCoverNothingHere();
     void rowsThatAreNoneAreNotBroughtBack();
     void refusedNumberIsToldAndNotTaken();
+    void undoNeverBringsARefusedNumber();
     void refusedNumberIsNeverStored();
     void refusedNumberOfAFileIsTold();
 
@@ -1292,6 +1293,21 @@ void TestTeachScreen::refusedNumberIsToldAndNotTaken()
              QString("Instruction 1: T is 999999999999. It must be 0 to 99, whole."));
     QCOMPARE(m_list->getContent(1).at(10), before);
     QVERIFY(!m_screen->lookForChanges());
+    QVERIFY(!key("Undo")->isEnabled());
+}
+
+void TestTeachScreen::undoNeverBringsARefusedNumber()
+{
+    const QString before = m_list->getContent(1).at(10);
+    DeviceLog::acceptWith("7");
+    QTest::mouseClick(cell(1, "ComboLineEdit", 1), Qt::LeftButton);
+    QCOMPARE(m_list->getContent(1).at(10), QString("7"));
+    DeviceLog::acceptWith("999999999999");
+    QTest::mouseClick(cell(1, "ComboLineEdit", 1), Qt::LeftButton);
+    QCOMPARE(m_list->getContent(1).at(10), QString("7"));
+    QTest::mouseClick(key("Undo"), Qt::LeftButton);
+    QCOMPARE(m_list->getContent(1).at(10), before);
+    QVERIFY(!key("Undo")->isEnabled());
 }
 
 void TestTeachScreen::refusedNumberIsNeverStored()

@@ -48,6 +48,9 @@ Files operatorsFiles()
         QDirIterator all(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (all.hasNext()) {
             const QString path = all.next();
+            // A choice is remembered, whatever becomes of it.
+            if (all.fileName() == "recent.ini")
+                continue;
             files[path] = FilarixTest::readFile(path);
         }
     }
@@ -104,10 +107,10 @@ void chooseFile(const char *name)
     dialog->findChild<QPushButton *>()->click();
 }
 
-/// Touches \a name in the picker that comes up next.
+/// Touches \a name in the picker that comes up next, once it stands: one to remove proposes none.
 void willChoose(const char *name)
 {
-    QTimer::singleShot(0, [name] { chooseFile(name); });
+    QTimer::singleShot(0, [name] { QTimer::singleShot(0, [name] { chooseFile(name); }); });
 }
 
 void askManager(const char *view, const char *key)
