@@ -95,7 +95,9 @@ void TestSpokenNames::textsToTouchAreAKey()
     QCOMPARE(access(&area)->role(), QAccessible::Button);
     QSignalSpy touches(&area, SIGNAL(touched()));
     access(&area)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QCOMPARE(touches.size(), 1);
+    // Whoever pressed goes on at once.
+    QCOMPARE(touches.size(), 0);
+    QTRY_COMPARE(touches.size(), 1);
 }
 
 void TestSpokenNames::aPressIsAClick()
