@@ -81,7 +81,7 @@ QString KeypadCheck::ofValidator(const QValidator *validator, const QString &tex
 
     const KeypadLimits limits = whole ? KeypadLimits(whole->bottom(), whole->top())
                                       : KeypadLimits(real->bottom(), real->top());
-    const QString outside = ofRange(limits, text.toDouble());
+    QString outside = ofRange(limits, text.toDouble());
     if (!outside.isEmpty())
         return outside;
     if (whole)
@@ -99,7 +99,7 @@ QString KeypadCheck::ofLimits(const KeypadLimits &limits, const QString &text)
         return tr("Not complete");
     if (!isNumber(text))
         return tr("Not a number");
-    const QString outside = ofRange(limits, text.toDouble());
+    QString outside = ofRange(limits, text.toDouble());
     if (!outside.isEmpty())
         return outside;
     return limits.isWhole() && !isWholeNumber(text) ? tr("Not a whole number") : QString();

@@ -67,13 +67,13 @@ QString nameOf(const QObject *object, const QString &value)
 {
     if (!object)
         return QString();
-    const QString named = object->property("hmiName").toString().simplified();
+    QString named = object->property("hmiName").toString().simplified();
     if (!named.isEmpty())
         return named;
-    const QString key = keyOf(object, value);
+    QString key = keyOf(object, value);
     if (!key.isEmpty())
         return key;
-    const QString accessible = accessibleNameOf(object);
+    QString accessible = accessibleNameOf(object);
     if (!accessible.isEmpty())
         return accessible;
     // A dialog that asks for one value has its name on top.
