@@ -3,15 +3,27 @@
 
 #include "look/panelstyle.h"
 
+#include "look/look.h"
 #include "look/measures.h"
 
 #include <QListView>
+#include <QPainter>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace {
 
 // 9 mm at 133 dpi: files are chosen to be deleted, too.
 const int listRowHeight = 48;
+// As the toolkit rounds the frames of its fields.
+const int fieldRadius = 2;
+// The toolkit makes the colour of a button lighter, and white letters need their contrast.
+const int chosenDarker = 140;
+
+bool isField(QStyle::PrimitiveElement element)
+{
+    return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_IndicatorCheckBox;
+}
 
 } // namespace
 
@@ -60,4 +72,34 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+/// The toolkit draws a chosen button a little darker only, which looks as if it were switched off.
+void PanelStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                             const QWidget *widget) const
+{
+    const QStyleOptionButton *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    const bool isChosen = button && (button->state & State_On)
+                          && (element == CE_PushButtonBevel || element == CE_PushButtonLabel);
+    if (!isChosen)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton chosen(*button);
+    chosen.palette.setColor(QPalette::Button, Look::accent().darker(chosenDarker));
+    chosen.palette.setColor(QPalette::ButtonText, chosen.palette.color(QPalette::HighlightedText));
+    QProxyStyle::drawControl(element, &chosen, painter, widget);
+}
+
+/// The toolkit's edge is darker than the paper, and dark paper shows none. A field in focus has a
+/// bright one already.
+void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                               QPainter *painter, const QWidget *widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (Look::style() != Look::Dark || !isField(element) || (option->state & State_HasFocus))
+        return;
+    painter->save();
+    painter->setPen(Look::edge());
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(option->rect.adjusted(0, 0, -1, -1), fieldRadius, fieldRadius);
+    painter->restore();
 }

@@ -7,7 +7,8 @@
 #include <QProxyStyle>
 
 /// Makes what the toolkit sizes for a mouse large enough for a glove: the buttons of message
-/// boxes, check boxes, entry fields, menus. Sizes that the library fixes stay as they are.
+/// boxes, check boxes, entry fields, menus. Sizes that the library fixes stay as they are. A button
+/// that is chosen stands out, and on dark paper fields and boxes have an edge that can be seen.
 class PanelStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -19,6 +20,10 @@ public:
                            const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
 };
 
 #endif // PANELSTYLE_H

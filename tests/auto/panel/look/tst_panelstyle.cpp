@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "combolineedit.h"
+#include "contrast.h"
 #include "filarixtest.h"
+#include "look/look.h"
 #include "look/panelstyle.h"
 #include "wfinddialog.h"
 
@@ -27,6 +29,10 @@ private Q_SLOTS:
     void cellsTakeTheHeightOfTheirRow();
     void rowsOfListsAreHighEnoughForGloves();
     void tablesKeepTheHeightsOfTheirRows();
+    void chosenButtonStandsOut_data();
+    void chosenButtonStandsOut();
+    void fieldsHaveAnEdgeOnDarkPaper();
+    void cleanup();
 };
 
 void TestPanelStyle::initTestCase()
@@ -94,6 +100,48 @@ void TestPanelStyle::tablesKeepTheHeightsOfTheirRows()
     table.setItem(0, 0, new QTableWidgetItem("a"));
     table.show();
     QCOMPARE(table.rowHeight(0), 34);
+}
+
+void TestPanelStyle::cleanup()
+{
+    Look::use(Look::Light);
+    FilarixTest::cleanup();
+}
+
+void TestPanelStyle::chosenButtonStandsOut_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::newRow("light") << int(Look::Light);
+    QTest::newRow("dark") << int(Look::Dark);
+}
+
+void TestPanelStyle::chosenButtonStandsOut()
+{
+    QFETCH(int, look);
+    Look::use(Look::Style(look));
+    QPushButton button("English");
+    button.setCheckable(true);
+    button.resize(120, 40);
+    const auto ground = [&button] {
+        return TestCompat::grab(&button).toImage().pixelColor(8, button.height() / 2);
+    };
+    const QColor plain = ground();
+    button.setChecked(true);
+    const QColor chosen = ground();
+    QVERIFY(chosen.blue() - chosen.red() > 100);
+    QVERIFY(plain.blue() - plain.red() < 50);
+    QVERIFY(Contrast::ratio(chosen, Qt::white) >= Contrast::textContrast);
+}
+
+void TestPanelStyle::fieldsHaveAnEdgeOnDarkPaper()
+{
+    Look::use(Look::Dark);
+    QLineEdit field;
+    QCheckBox box;
+    for (QWidget *widget : {static_cast<QWidget *>(&field), static_cast<QWidget *>(&box)}) {
+        widget->resize(24, 40);
+        QVERIFY2(Contrast::drawn(widget, widget->rect()) >= 3, widget->metaObject()->className());
+    }
 }
 
 FILARIX_TEST_MAIN(TestPanelStyle)
