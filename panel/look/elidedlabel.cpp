@@ -44,15 +44,25 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     painter.drawText(area, int(alignment()), lines.join(QLatin1Char('\n')));
 }
 
+/// The two are rounded each on its own, and lines that are kept must be filled, too.
+int ElidedLabel::lineHeight() const
+{
+    return qMin(fontMetrics().height(), fontMetrics().lineSpacing());
+}
+
 /// The last one holds all that is left.
 QStringList ElidedLabel::linesIn(int width) const
 {
     QString rest = text();
     rest.replace(QLatin1Char('\n'), QLatin1Char(' '));
     QStringList lines;
-    const int most = qMin(m_lines, qMax(1, contentsRect().height() / fontMetrics().height()));
+    const int most = qMin(m_lines, qMax(1, contentsRect().height() / lineHeight()));
     while (lines.size() + 1 < most && fontMetrics().horizontalAdvance(rest) > width) {
         QTextLayout layout(rest, font());
+        // The name of a file may be one word that is longer than a line.
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
         layout.beginLayout();
         QTextLine line = layout.createLine();
         line.setLineWidth(width);

@@ -27,6 +27,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    int lineHeight() const;
     QStringList linesIn(int width) const;
 
     int m_lines = 1;

@@ -11,6 +11,7 @@ class TestElidedLabel : public FilarixTest
 private Q_SLOTS:
     void longTextGivesWay();
     void twoLinesAreFilledBeforeTheRestGivesWay();
+    void wordLongerThanALineIsBroken();
     void textThatFitsIsShownWhole();
     void linesWithoutRoomStayAway();
 };
@@ -53,6 +54,22 @@ void TestElidedLabel::twoLinesAreFilledBeforeTheRestGivesWay()
     QCOMPARE(pictured("short", 2), pictured("short", 1));
 }
 
+void TestElidedLabel::wordLongerThanALineIsBroken()
+{
+    const auto pictured = [](const QString &text, int lines) {
+        ElidedLabel label;
+        label.setLines(lines);
+        label.setText(text);
+        label.resize(100, 60);
+        return TestCompat::grab(&label).toImage();
+    };
+    QString begin;
+    while (QFontMetrics(QApplication::font()).horizontalAdvance(begin) < 100)
+        begin += 'm';
+    QCOMPARE(pictured(begin + "1", 1), pictured(begin + "2", 1));
+    QVERIFY(pictured(begin + "1", 2) != pictured(begin + "2", 2));
+}
+
 void TestElidedLabel::textThatFitsIsShownWhole()
 {
     QVERIFY(picture("short 1", 200) != picture("short 2", 200));
@@ -75,6 +92,8 @@ void TestElidedLabel::linesWithoutRoomStayAway()
     label.keepLines(3);
     QCOMPARE(label.minimumSizeHint().height(), 3 * label.fontMetrics().lineSpacing());
     QVERIFY(label.sizeHint().height() > one);
+    const int kept = label.minimumSizeHint().height();
+    QVERIFY(pictured(3, kept) != pictured(2, kept));
 }
 
 FILARIX_TEST_MAIN(TestElidedLabel)
