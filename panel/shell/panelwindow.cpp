@@ -36,6 +36,9 @@ const int messageLine = 20;
 const int stripMargin = 1;
 // What a strip may take of the screens for larger letters, where there are pixels enough.
 const int forLetters = 12;
+// Between the keys of a slim panel a title is broken: a part of a name is the name of nothing.
+const int slimTitle = 11;
+const int slimTitleLines = 3;
 
 } // namespace
 
@@ -102,10 +105,11 @@ QWidget *PanelWindow::makeTopStrip()
     m_tabs->setSpacing(3);
     m_keys->setSpacing(3);
     QFont font = m_title->font();
-    font.setPixelSize(m_shape == Small ? 14 : 16);
+    font.setPixelSize(m_shape == Slim ? slimTitle : m_shape == Small ? 14 : 16);
     font.setBold(true);
     m_title->setFont(font);
     m_title->setObjectName(QLatin1String("title"));
+    m_title->setLines(m_shape == Slim ? slimTitleLines : 1);
     m_status->setObjectName(QLatin1String("status"));
 
     TapArea *titleBlock = new TapArea;

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void tabShowsItsScreenAndKeys();
     void menuKeyOfASmallPanelShowsTheTabs();
     void titleCarriesTheMarkOfChanges();
+    void slimPanelShowsTheWholeName();
     void statusIsInViewOnEveryScreen_data();
     void statusIsInViewOnEveryScreen();
     void touchShowsEverythingInFull_data();
@@ -193,6 +194,24 @@ void TestPanelWindow::titleCarriesTheMarkOfChanges()
     QCOMPARE(label(panel, "title"), QString("other.cnc"));
     QVERIFY(!panel.isWindowModified());
     QVERIFY(panel.windowTitle().startsWith("other.cnc[*]"));
+}
+
+void TestPanelWindow::slimPanelShowsTheWholeName()
+{
+    PanelWindow panel(QSize(272, 480));
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    QWidget *title = panel.findChild<QLabel *>("title");
+    const auto pictured = [&](const QString &name) {
+        screens.first()->m_title = name;
+        Q_EMIT screens.first()->titleChanged();
+        QCoreApplication::processEvents();
+        return TestCompat::grab(title).toImage();
+    };
+    QVERIFY(pictured("stator-coil-of-machine-1.cnc") != pictured("stator-coil-of-machine-1.cn_"));
+    QVERIFY(title->fontMetrics().horizontalAdvance("stator-coil-of-machine-1.cnc")
+            > title->width());
 }
 
 void TestPanelWindow::statusIsInViewOnEveryScreen_data()
