@@ -27,6 +27,25 @@ const int toldLetters = 20;
 // What messages about values that may not be are about.
 const QLatin1String refusedValues("refused values");
 
+// Beside the text of a cell, its border included.
+const int cellMargin = 4;
+// A value, its unit and its mark.
+const int leastField = 140;
+
+/// What a cell of the library's becomes wider by to show the longest of \a texts.
+int lackOf(const QWidget *cell, const QStringList &texts)
+{
+    int needed = 0;
+    for (const QString &text : texts)
+        needed = qMax(needed, cell->fontMetrics().horizontalAdvance(text));
+    return qMax(0, needed + 2 * cellMargin - cell->minimumWidth());
+}
+
+void widen(QWidget *cell, int pixels)
+{
+    cell->setFixedWidth(cell->minimumWidth() + pixels);
+}
+
 /// The row that a widget shows, from its first cell: "N5".
 int numberOf(DataEditor *row)
 {
@@ -253,12 +272,30 @@ void VariablesScreen::adopt(DataEditor *row)
     QLineEdit *field = row->findChild<QLineEdit *>();
     if (!field || markOf(row))
         return;
+    const QList<QLabel *> cells = row->findChildren<QLabel *>();
+    fitCells(cells, field);
     new ValueMark(field);
     field->installEventFilter(this);
-    const QList<QLabel *> cells = row->findChildren<QLabel *>();
     for (QLabel *cell : cells)
         cell->installEventFilter(this);
     refreshMark(row);
+}
+
+/// The library divides the row for any text: on a narrow panel "N12" would be read as "N1". What
+/// the number and the name lack is taken from the value.
+void VariablesScreen::fitCells(const QList<QLabel *> &cells, QLineEdit *field) const
+{
+    if (cells.size() != 2)
+        return;
+    QStringList names;
+    for (int number = 0; number < m_table.count(); ++number)
+        names.append(m_table.at(number).name);
+    const int forNumber = lackOf(cells.at(0), {QString::fromLatin1("N%1").arg(m_table.count())});
+    const int most = field->minimumWidth() - leastField - forNumber;
+    const int forName = qBound(0, lackOf(cells.at(1), names), qMax(0, most));
+    widen(cells.at(0), forNumber);
+    widen(cells.at(1), forName);
+    widen(field, -forNumber - forName);
 }
 
 /// The library's own field would open the letters for numbers too, and take whatever they give. It

@@ -64,6 +64,7 @@ private:
     static QString demand(const MachineVariable &variable, const QString &value);
 
     void adopt(DataEditor *row);
+    void fitCells(const QList<QLabel *> &cells, QLineEdit *field) const;
     void touch(DataEditor *row, const QLineEdit *field);
     void edit(int number, const QRect &place);
     void enter(const QString &name, const QString &value);

@@ -121,6 +121,7 @@ void TestVariablesScreen::namesFitTheirCells_data()
 {
     QTest::addColumn<QSize>("panel");
     QTest::newRow("480x272") << QSize(480, 272);
+    QTest::newRow("272x480") << QSize(272, 480);
     QTest::newRow("480x800") << QSize(480, 800);
     QTest::newRow("800x480") << QSize(800, 480);
     QTest::newRow("1024x600") << QSize(1024, 600);
