@@ -74,6 +74,15 @@ int cellsWidth(const DataEditor *row, const QList<int> &withoutColumns)
     return width;
 }
 
+/// What the names ask for, as far as there is room for it.
+int namesWidth(const ConnectionFile::Contents &contents, const QFontMetrics &metrics)
+{
+    int widest = narrowestName;
+    for (const ConnectionFile::Connection &connection : contents.connections)
+        widest = qMax(widest, metrics.horizontalAdvance(connection.name) + 4 * letterMargin);
+    return qMin(widest, widestName);
+}
+
 bool hasPorts(const ConnectionFile::Contents &contents)
 {
     for (const ConnectionFile::Connection &connection : contents.connections) {
@@ -160,8 +169,9 @@ void ConnectionTable::hideColumns(int room)
     const DataEditor *first = rowAt(m_rows, 0);
     QList<int> hidden;
     const auto left = [&] { return room - cellsWidth(first, hidden) - m_portsWidth; };
+    const int names = namesWidth(m_contents, m_rows->fontMetrics());
     for (int column : columnsToHide) {
-        if (left() < narrowestName)
+        if (left() < names)
             hidden.append(column);
     }
     if (left() < narrowestName)

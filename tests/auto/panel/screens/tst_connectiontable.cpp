@@ -30,6 +30,7 @@ private Q_SLOTS:
     void sameAddressEnteredAgainIsAChange();
     void cancelledTableIsNotAccepted();
     void keypadIsToldTheName();
+    void namesAreWholeWhereOtherColumnsCanGiveWay();
     void fitsWithAllOfTheAddressInSight_data();
     void fitsWithAllOfTheAddressInSight();
 
@@ -154,6 +155,24 @@ void TestConnectionTable::keypadIsToldTheName()
         const ComboLineEdit *field = dialog->findChildren<ComboLineEdit *>().at(1);
         QCOMPARE(field->property("hmiName").toString(), QString("Tension"));
         QCOMPARE(field->accessibleName(), QString("Tension"));
+    });
+    m_table->exec();
+    QVERIFY2(driver.finished(), driver.report());
+}
+
+void TestConnectionTable::namesAreWholeWhereOtherColumnsCanGiveWay()
+{
+    const QRect upright(0, 0, 480, 800);
+    PrimarySurface::set(upright, upright);
+    m_file += ".ini";
+    writeFile(m_file, "[General]\nConnect%200=Tension unit 2\n"
+                      "Tension%20unit%202new%20IP=10.0.0.1:4001\nconnect%20count=1\n");
+    m_contents = ConnectionFile::read(m_file);
+    m_table.reset(new ConnectionTable(m_file, m_contents, {"Heading", "Name"}));
+    ModalDriver driver;
+    driver.then([this](QWidget *dialog) {
+        const auto end = qScopeGuard([dialog] { dialog->close(); });
+        QCOMPARE(texts(dialog, "connectionName").last(), QString("Tension unit 2"));
     });
     m_table->exec();
     QVERIFY2(driver.finished(), driver.report());
