@@ -25,6 +25,7 @@
 namespace {
 
 const int narrowPixels = 12;
+const int narrowLines = 2;
 // Farther away, a key is no longer seen to belong to its line.
 const int reach = 800;
 // What messages are about.
@@ -154,6 +155,10 @@ ElidedLabel *FilesScreen::addLine(const std::function<QString()> &heading,
     texts->addStretch();
     m_grid->addWidget(block, row, 0);
     state->setObjectName(QLatin1String("fileState"));
+    if (isNarrow()) {
+        state->setLines(narrowLines);
+        state->keepLines(narrowLines);
+    }
     connect(block, &TapArea::touched, this, [this, state] { Q_EMIT explained(state->text()); });
     for (int i = 0; i < keys.size(); ++i) {
         keys.at(i)->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
