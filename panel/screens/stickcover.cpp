@@ -10,9 +10,24 @@
 #include <QLabel>
 #include <QListView>
 
+#include <algorithm>
+
 namespace {
 
 const int textMargin = 6;
+const int smallestLetters = 10;
+
+/// A word that is wider than the list would lose both its ends.
+QFont fontFor(const QString &text, QFont font, int width)
+{
+    const QStringList words = text.split(QLatin1Char(' '));
+    const auto fits = [&](const QString &word) {
+        return QFontMetrics(font).horizontalAdvance(word) <= width;
+    };
+    while (font.pixelSize() > smallestLetters && !std::all_of(words.begin(), words.end(), fits))
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
 
 } // namespace
 
@@ -64,8 +79,13 @@ void StickCover::cover(ImportManage *manager)
 
 void StickCover::place()
 {
-    if (m_cover)
-        m_cover->setGeometry(m_list->contentsRect());
+    if (!m_cover)
+        return;
+    const QRect place = m_list->contentsRect();
+    QFont font = m_list->font();
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    m_cover->setFont(fontFor(m_cover->text(), font, place.width() - 2 * textMargin));
+    m_cover->setGeometry(place);
 }
 
 /// While nobody knows, what was shown last stays.

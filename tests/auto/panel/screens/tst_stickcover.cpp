@@ -18,6 +18,7 @@ private Q_SLOTS:
     void managerThatOpensWithoutAStickIsCovered();
     void whatNobodyKnowsChangesNothing();
     void coverFillsTheList();
+    void everyWordFitsANarrowList();
     void nextManagerIsCoveredToo();
 
 private:
@@ -134,6 +135,22 @@ void TestStickCover::coverFillsTheList()
         manager.dialog.setFixedSize(size);
         QTRY_COMPARE(coverOf(manager)->geometry(), manager.usbView->contentsRect());
     }
+}
+
+void TestStickCover::everyWordFitsANarrowList()
+{
+    StickCover cover;
+    cover.showDevices(state(false));
+    Manager manager;
+    manager.dialog.show();
+    manager.usbView->setFixedWidth(90);
+    QTRY_COMPARE(coverOf(manager)->width(), manager.usbView->contentsRect().width());
+    const QLabel *label = coverOf(manager);
+    for (const QString &word : label->text().split(' '))
+        QVERIFY2(label->fontMetrics().horizontalAdvance(word)
+                     <= label->width() - 2 * label->margin(),
+                 qPrintable(word));
+    QVERIFY(label->font().pixelSize() >= 10);
 }
 
 void TestStickCover::nextManagerIsCoveredToo()
