@@ -114,6 +114,8 @@ void Tour::save(const QString &name)
     Q_EMIT arrived(name);
     if (m_folder.isEmpty() || !m_glass)
         return;
+    // A text that has just changed has its new width.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // Where the event loop has to wait, nothing else has painted the panel.
     m_panel->repaint();
     const QString file = QDir(m_folder).filePath(
