@@ -3,11 +3,14 @@
 
 #include "shell/stateline.h"
 
+#include "filarixpanel.h"
 #include "look/elidedlabel.h"
 #include "look/look.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QScreen>
 
 namespace {
 
@@ -45,6 +48,7 @@ void StateLine::show(const QString &text, Message::Tone tone)
     m_label->setText(text);
     colour();
     setVisible(!text.isEmpty());
+    fit();
 }
 
 void StateLine::changeEvent(QEvent *event)
@@ -52,6 +56,24 @@ void StateLine::changeEvent(QEvent *event)
     if (event->type() == QEvent::PaletteChange)
         colour();
     TapArea::changeEvent(event);
+}
+
+void StateLine::resizeEvent(QResizeEvent *event)
+{
+    TapArea::resizeEvent(event);
+    fit();
+}
+
+/// A text that is too long for one line has two, except on a panel that has no height for it.
+void StateLine::fit()
+{
+    const int panel = QGuiApplication::primaryScreen()->availableSize().height();
+    const bool isHigh = panel >= FilarixPanel::smallBelow;
+    const int needed = m_label->fontMetrics().horizontalAdvance(text());
+    const int lines = isHigh && needed > width() - 2 * sideMargin ? 2 : 1;
+    m_label->setLines(lines);
+    m_label->keepLines(lines);
+    setFixedHeight(lineHeight + (lines - 1) * m_label->fontMetrics().lineSpacing());
 }
 
 void StateLine::colour()

@@ -9,8 +9,8 @@
 
 class ElidedLabel;
 
-/// One line that stays in view for as long as something is to be kept in mind; a touch asks for it
-/// in full. Hidden while there is nothing.
+/// A line, or two, that stays in view for as long as something is to be kept in mind; a touch asks
+/// for it in full. Hidden while there is nothing.
 class StateLine : public TapArea
 {
     Q_OBJECT
@@ -23,9 +23,11 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void colour();
+    void fit();
 
     ElidedLabel *m_label;
     Message::Tone m_tone = Message::Information;

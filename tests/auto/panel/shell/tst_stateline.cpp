@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "display/surfaceloan.h"
 #include "filarixtest.h"
 #include "look/look.h"
 #include "shell/stateline.h"
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void theTextHasTheColourOfItsTone();
     void theColourFollowsTheLook();
     void aTouchIsTold();
+    void aLongTextHasASecondLine();
+    void aLowPanelHasOneLineOnly();
 };
 
 static QColor colourOf(const StateLine &line)
@@ -72,6 +75,37 @@ void TestStateLine::aTouchIsTold()
     QSignalSpy touched(&line, SIGNAL(touched()));
     QTest::mouseClick(&line, Qt::LeftButton);
     QCOMPARE(touched.size(), 1);
+}
+
+void TestStateLine::aLongTextHasASecondLine()
+{
+    QWidget screen;
+    StateLine line(&screen);
+    line.resize(300, 26);
+    line.show("short", Message::Warning);
+    screen.show();
+    const int one = line.height();
+    const auto pictured = [&line](const QString &end) {
+        line.show(QString("a long text ").repeated(4) + end, Message::Warning);
+        return TestCompat::grab(&line).toImage();
+    };
+    QVERIFY(pictured("one") != pictured("two"));
+    const int two = line.height();
+    QVERIFY(two >= one + 12);
+    line.resize(900, two);
+    QCOMPARE(line.height(), one);
+}
+
+void TestStateLine::aLowPanelHasOneLineOnly()
+{
+    const SurfaceLoan low(272);
+    QWidget screen;
+    StateLine line(&screen);
+    line.resize(300, 26);
+    line.show("short", Message::Warning);
+    const int one = line.height();
+    line.show(QString("a long text ").repeated(5), Message::Warning);
+    QCOMPARE(line.height(), one);
 }
 
 FILARIX_TEST_MAIN(TestStateLine)
