@@ -34,14 +34,14 @@ public:
 
     void setVisible(bool visible) override
     {
-        const bool wasVisible = this->isVisible();
-        if (visible && !wasVisible)
+        const bool wasOpen = isOpen();
+        if (visible && !wasOpen)
             this->setGeometry(takePlace());
         Keypad::setVisible(visible);
         // The dialog's first focus event selects the whole text; begin() has the last word.
-        if (visible && !wasVisible)
+        if (visible && !wasOpen)
             appear();
-        else if (wasVisible && !visible)
+        else if (wasOpen && !visible)
             disappear();
     }
 
@@ -55,7 +55,7 @@ public:
 
     void done(int result) override
     {
-        if (result == QDialog::Accepted && this->isVisible())
+        if (result == QDialog::Accepted && isOpen())
             m_frame->deliver();
         Keypad::done(result);
     }
@@ -89,6 +89,10 @@ private:
         delete s_instance;
         s_instance = nullptr;
     }
+
+    /// Not by isVisible(): on X11 the older toolkit takes a window for visible for ever when it was
+    /// hidden before the server had mapped it.
+    bool isOpen() const { return !this->isHidden(); }
 
     /// A size that the caller has set is a wish: a keypad has to fit the screen. Fixing the size
     /// counts as one too, and must not stay for the next caller.

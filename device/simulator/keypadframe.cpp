@@ -243,7 +243,7 @@ KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
 void KeypadFrame::setText(const QString &text)
 {
     m_request.text = text;
-    if (isVisible())
+    if (m_isOpen)
         begin();
 }
 
@@ -255,7 +255,7 @@ void KeypadFrame::setValidator(const QValidator *validator)
     m_request.validator = const_cast<QValidator *>(validator);
     if (validator)
         connect(validator, SIGNAL(destroyed()), SLOT(check()));
-    if (isVisible()) {
+    if (m_isOpen) {
         m_value = KeypadValue(m_request, m_face.forNumbers);
         showHead();
     }
@@ -303,6 +303,7 @@ QRect KeypadFrame::dockedPlace(const QRect &screen, const QSize &size)
 
 void KeypadFrame::begin()
 {
+    m_isOpen = true;
     m_value = KeypadValue(m_request, m_face.forNumbers);
     m_shift = ShiftOff;
     m_symbols = false;
@@ -346,6 +347,7 @@ void KeypadFrame::deliver()
 
 void KeypadFrame::end()
 {
+    m_isOpen = false;
     // A key that a finger still holds would go on repeating.
     Q_FOREACH (KeyButton *key, m_keys)
         key->setDown(false);

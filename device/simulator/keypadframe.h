@@ -161,6 +161,8 @@ private:
 
     KeypadRequest m_request;
     KeypadValue m_value;
+    /// Between begin() and end().
+    bool m_isOpen = false;
     Shift m_shift = ShiftOff;
     bool m_symbols = false;
     /// The layouts of both pages on this screen, and which of them is shown.

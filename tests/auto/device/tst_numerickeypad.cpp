@@ -25,6 +25,8 @@ class TestNumericKeypad : public KeypadTest
 private Q_SLOTS:
     void isOneDialog();
     void typingReplacesTheOldValue();
+    void opensAgainAtOnce();
+    void opensThoughTakenForVisible();
     void textIsReturnedAsTyped_data();
     void textIsReturnedAsTyped();
     void unchangedTextIsWrittenToo();
@@ -97,6 +99,27 @@ void TestNumericKeypad::typingReplacesTheOldValue()
     QCOMPARE(result, 1);
     QCOMPARE(caller.text(), QString("3.75"));
     QCOMPARE(caller.writes, 1);
+}
+
+// Mostly before the windowing system has told of the last opening and closing.
+void TestNumericKeypad::opensAgainAtOnce()
+{
+    for (int i = 0; i < 100; ++i) {
+        const QString text = QString::number(i);
+        pad()->setText(text);
+        runPad([&] { QCOMPARE(value(pad())->text(), text); });
+        QVERIFY(pad()->isHidden());
+        QVERIFY2(!QTest::currentTestFailed(), qPrintable(text));
+    }
+}
+
+// So the older toolkit takes it on X11 once it was closed before the server had mapped it.
+void TestNumericKeypad::opensThoughTakenForVisible()
+{
+    pad()->setAttribute(Qt::WA_WState_Visible);
+    pad()->setText(QLatin1String("7"));
+    runPad([] { QCOMPARE(value(pad())->text(), QString("7")); });
+    QVERIFY(pad()->isHidden());
 }
 
 void TestNumericKeypad::textIsReturnedAsTyped_data()
