@@ -62,6 +62,14 @@ void ValueEdit::toggleSign()
         setCursorPosition(qMax(0, cursor));
 }
 
+// A field without the focus drops its selection when its window is activated. The windowing system
+// may say so late, between two losses of the focus, and a digit would go behind the old number.
+bool ValueEdit::event(QEvent *event)
+{
+    return event->type() == QEvent::WindowActivate ? QWidget::event(event)
+                                                   : QLineEdit::event(event);
+}
+
 void ValueEdit::keyPressEvent(QKeyEvent *event)
 {
     const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;

@@ -25,6 +25,7 @@ class TestNumericKeypad : public KeypadTest
 private Q_SLOTS:
     void isOneDialog();
     void typingReplacesTheOldValue();
+    void typingReplacesTheOldValueWithoutTheFocus();
     void opensAgainAtOnce();
     void opensThoughTakenForVisible();
     void textIsReturnedAsTyped_data();
@@ -101,13 +102,30 @@ void TestNumericKeypad::typingReplacesTheOldValue()
     QCOMPARE(caller.writes, 1);
 }
 
+// News of the focus may come late and in any order, and touches don't wait for it.
+void TestNumericKeypad::typingReplacesTheOldValueWithoutTheFocus()
+{
+    pad()->setText(QLatin1String("12.5"));
+    runPad([] {
+        QApplication::setActiveWindow(nullptr);
+        QEvent activation(QEvent::WindowActivate);
+        QApplication::sendEvent(value(pad()), &activation);
+        QApplication::processEvents();
+        click(pad(), "3");
+        QCOMPARE(value(pad())->text(), QString("3"));
+    });
+}
+
 // Mostly before the windowing system has told of the last opening and closing.
 void TestNumericKeypad::opensAgainAtOnce()
 {
     for (int i = 0; i < 100; ++i) {
         const QString text = QString::number(i);
         pad()->setText(text);
-        runPad([&] { QCOMPARE(value(pad())->text(), text); });
+        runPad([&] {
+            QCOMPARE(value(pad())->text(), text);
+            QCOMPARE(value(pad())->selectedText(), text);
+        });
         QVERIFY(pad()->isHidden());
         QVERIFY2(!QTest::currentTestFailed(), qPrintable(text));
     }
