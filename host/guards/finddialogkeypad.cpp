@@ -34,7 +34,7 @@ bool edit(QLineEdit *field)
     CharacterKeypad *keypad =
         HMIDeviceInfo::isTouchScreen() ? CharacterKeypad::instance() : nullptr;
     // A touch may have opened it before.
-    if (!keypad || keypad->isVisible())
+    if (!keypad || !keypad->isHidden())
         return true;
     field->setProperty("hmiName", nameOf(field));
     keypad->setObject(field);

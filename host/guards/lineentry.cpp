@@ -116,7 +116,7 @@ void LineEntry::begin()
 /// A finger that slides off the button releases it, and no click follows.
 void LineEntry::endWithoutKeypad()
 {
-    if (!m_isOpen || !m_window || GCodeKeypad::instance()->isVisible())
+    if (!m_isOpen || !m_window || !GCodeKeypad::instance()->isHidden())
         return;
     m_isOpen = false;
     m_window->setText(m_textBefore);

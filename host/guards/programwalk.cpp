@@ -129,7 +129,7 @@ void ProgramWalk::askForLine()
     NumericKeypad *keypad = HMIDeviceInfo::isTouchScreen() ? NumericKeypad::instance() : nullptr;
     // A second touch may have come before the keypad did. A load would stand still behind it, and
     // does not know its last line yet.
-    if (!keypad || keypad->isVisible() || ProgramOpener::isLoading())
+    if (!keypad || !keypad->isHidden() || ProgramOpener::isLoading())
         return;
     const int last = m_editor->blockCount();
     setProperty("hmiName", tr("Line"));

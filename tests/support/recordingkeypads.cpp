@@ -58,7 +58,8 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (watched == m_keypad && event->type() == QEvent::Show) {
+        // A spontaneous one is the windowing system's late news of an earlier exec().
+        if (watched == m_keypad && event->type() == QEvent::Show && !event->spontaneous()) {
             record(m_name, QLatin1String("exec"));
             QTimer::singleShot(0, this, SLOT(answer()));
         }

@@ -6,6 +6,8 @@
 #include "guards/finddialogkeypad.h"
 #include "wfinddialog.h"
 
+#include <hmidevice/characterkeypad.h>
+
 #include <QLineEdit>
 
 class TestFindDialogKeypad : public FilarixTest
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void init();
     void touchedFieldOfTheFindDialogTakesTheKeypadsText();
     void withoutATouchScreenNoKeypadOpens();
+    void keypadOpensThoughTakenForVisible();
     void shownDialogOpensTheKeypadAtOnce();
     void dialogThatGoesFirstOpensNothing();
     void keypadIsToldWhatTheFieldIsFor();
@@ -55,6 +58,19 @@ void TestFindDialogKeypad::withoutATouchScreenNoKeypadOpens()
     QTest::mouseClick(dialog.findChild<QLineEdit *>(), Qt::LeftButton);
     QCoreApplication::processEvents();
     QVERIFY(DeviceLog::keypadCalls().isEmpty());
+}
+
+// So the older toolkit takes it on X11 once it was closed before the server had mapped it.
+void TestFindDialogKeypad::keypadOpensThoughTakenForVisible()
+{
+    WFindDialog dialog(nullptr);
+    dialog.show();
+    FindDialogKeypad keypad(nullptr);
+    CharacterKeypad::instance()->setAttribute(Qt::WA_WState_Visible);
+    DeviceLog::acceptWith("X10");
+    QLineEdit *field = dialog.findChild<QLineEdit *>();
+    QTest::mouseClick(field, Qt::LeftButton);
+    QCOMPARE(field->text(), QString("X10"));
 }
 
 void TestFindDialogKeypad::shownDialogOpensTheKeypadAtOnce()

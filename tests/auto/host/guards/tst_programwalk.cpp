@@ -6,6 +6,8 @@
 #include "guards/programwalk.h"
 #include "programwindow.h"
 
+#include <hmidevice/numerickeypad.h>
+
 #include <QIntValidator>
 #include <QLabel>
 #include <QScopedPointer>
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void cancelledKeypadLeavesTheCursor();
     void withoutATouchScreenNoKeypadOpens();
     void secondTouchOpensNoSecondKeypad();
+    void keypadOpensThoughTakenForVisible();
     void loadIsNotHeldByAKeypad();
     void windowMayGoWhileTheKeypadIsOpen();
     void endsAreReached();
@@ -187,6 +190,16 @@ void TestProgramWalk::secondTouchOpensNoSecondKeypad()
     m_walk->askForLine();
     QCOMPARE(calls, 0);
     QCOMPARE(DeviceLog::answersLeft(), 0);
+}
+
+// So the older toolkit takes it on X11 once it was closed before the server had mapped it.
+void TestProgramWalk::keypadOpensThoughTakenForVisible()
+{
+    NumericKeypad::instance()->setAttribute(Qt::WA_WState_Visible);
+    DeviceLog::acceptWith("500");
+    m_walk->askForLine();
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+    QCOMPARE(row(), 500);
 }
 
 void TestProgramWalk::loadIsNotHeldByAKeypad()
