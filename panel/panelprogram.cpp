@@ -11,6 +11,7 @@
 #include "guards/programpickers.h"
 #include "look/fingerscroll.h"
 #include "look/glyphs.h"
+#include "look/keyboardway.h"
 #include "look/look.h"
 #include "look/measures.h"
 #include "look/panelstyle.h"
@@ -196,6 +197,7 @@ void PanelProgram::makeWindow()
     new FindDialogKeypad(m_window.get());
     new DialogFitter(m_window.get());
     new FingerScroll(m_window.get());
+    new KeyboardWay(m_window.get());
     m_names.reset(new SpokenNames(qApp));
 }
 
@@ -385,6 +387,8 @@ void PanelProgram::tidyNowAndThen()
 
 void PanelProgram::show()
 {
+    // Else the toolkit gives it to the first key.
+    m_programs->editor()->setFocus();
     if (m_glass)
         m_glass->present(m_window.get());
     else

@@ -58,6 +58,8 @@ const QRgb alarmGround = 0xffb92525;
 const QRgb informationOnStrip = 0xff7ddb98;
 const QRgb warningOnStrip = 0xffffc04d;
 const QRgb alarmOnStrip = 0xffff8a80;
+const QRgb focusRgb = 0xffffd23f;
+const QRgb focusEdgeRgb = 0xff000000;
 const QRgb white = 0xffffffff;
 
 const Colours &colours()
@@ -286,6 +288,16 @@ QColor Look::keyText()
 QColor Look::keyFaint()
 {
     return colours().keyFaint;
+}
+
+QColor Look::focus()
+{
+    return focusRgb;
+}
+
+QColor Look::focusEdge()
+{
+    return focusEdgeRgb;
 }
 
 QColor Look::stripText()

@@ -73,6 +73,9 @@ QColor edge();     ///< Around a dialog.
 QColor keyText();  ///< On a key of a key panel.
 QColor keyFaint(); ///< The same while the key is disabled.
 
+QColor focus();     ///< Around what has the focus of the keyboard, in both styles.
+QColor focusEdge(); ///< Around that.
+
 QColor stripText();  ///< On a strip, and on its keys.
 QColor stripFaint(); ///< On a disabled key of a strip.
 

@@ -21,7 +21,8 @@ void setUp(PanelKey *key, const QString &text)
     font.setBold(true);
     key->setFont(font);
     key->setText(text);
-    key->setFocusPolicy(Qt::NoFocus);
+    // By the keyboard alone: a touch leaves the focus to the editor.
+    key->setFocusPolicy(Qt::TabFocus);
     key->setIconSize(QSize(iconSide, iconSide));
 }
 
@@ -62,6 +63,17 @@ QSize PanelKey::sizeHint() const
 QSize PanelKey::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+// Of keys that exclude each other the toolkit leaves Tab a single one.
+void PanelKey::focusInEvent(QFocusEvent *event)
+{
+    QToolButton::focusInEvent(event);
+    if (!autoExclusive() || !parentWidget())
+        return;
+    for (PanelKey *key :
+         parentWidget()->findChildren<PanelKey *>(QString(), Qt::FindDirectChildrenOnly))
+        key->setFocusPolicy(Qt::TabFocus);
 }
 
 // Larger letters take their room from the picture: a strip of keys keeps its height.

@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
+#include <qdrawutil.h>
 
 namespace {
 
@@ -19,10 +20,19 @@ const int listRowHeight = 48;
 const int fieldRadius = 2;
 // The toolkit makes the colour of a button lighter, and white letters need their contrast.
 const int chosenDarker = 140;
+const int focusPixels = 2;
 
 bool isField(QStyle::PrimitiveElement element)
 {
     return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_IndicatorCheckBox;
+}
+
+/// Two colours, one of which shows on any ground.
+void drawFocus(QPainter *painter, const QRect &place)
+{
+    const QRect inner = place.adjusted(focusPixels, focusPixels, -focusPixels, -focusPixels);
+    qDrawPlainRect(painter, place, Look::focusEdge(), focusPixels);
+    qDrawPlainRect(painter, inner, Look::focus(), focusPixels);
 }
 
 } // namespace
@@ -56,6 +66,12 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption *option
     }
 }
 
+int PanelStyle::focusWidth()
+{
+    return focusPixels;
+}
+
+// Dark around light: one of the two stands out from whatever lies beneath.
 int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                             const QWidget *widget) const
 {
@@ -78,6 +94,8 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
 void PanelStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                              const QWidget *widget) const
 {
+    if (element == CE_FocusFrame)
+        return drawFocus(painter, option->rect);
     const QStyleOptionButton *button = qstyleoption_cast<const QStyleOptionButton *>(option);
     const bool isChosen = button && (button->state & State_On)
                           && (element == CE_PushButtonBevel || element == CE_PushButtonLabel);

@@ -11,6 +11,8 @@ PanelTable::PanelTable(int rows, int columns, int rowHeight, QWidget *parent)
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Tab leads on, and the arrows lead from row to row.
+    setTabKeyNavigation(false);
     setShowGrid(false);
     setAlternatingRowColors(true);
     verticalHeader()->hide();

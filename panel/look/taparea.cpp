@@ -3,7 +3,22 @@
 
 #include "look/taparea.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
+
+TapArea::TapArea(QWidget *parent) : QFrame(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void TapArea::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+        return QFrame::keyPressEvent(event);
+    if (!event->isAutoRepeat())
+        Q_EMIT touched();
+}
 
 void TapArea::mousePressEvent(QMouseEvent *event)
 {

@@ -14,12 +14,14 @@ class TapArea : public QFrame
     Q_OBJECT
 
 public:
-    using QFrame::QFrame;
+    /// Reached by the keyboard, too, whose Return and Space count as a touch.
+    explicit TapArea(QWidget *parent = nullptr);
 
 Q_SIGNALS:
     void touched();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 };

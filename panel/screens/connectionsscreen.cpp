@@ -58,7 +58,7 @@ ConnectionsScreen::ConnectionsScreen(const QString &filePath, QWidget *parent)
     , m_table(new PanelTable(0, 4, Measures::touch() - 6))
 {
     Look::dress(this, Look::KeyPanel);
-    m_table->setFocusPolicy(Qt::NoFocus);
+    m_table->setFocusPolicy(Qt::TabFocus);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(1, QHeaderView::Fixed);

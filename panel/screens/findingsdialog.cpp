@@ -76,7 +76,7 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     m_table->setFont(font);
     m_table->horizontalHeader()->hide();
     m_table->letChooseRow();
-    m_table->setFocusPolicy(Qt::NoFocus);
+    m_table->setFocusPolicy(Qt::TabFocus);
     m_table->setIconSize(QSize(signSide, signSide));
     m_table->setWordWrap(true);
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
@@ -104,6 +104,8 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
     connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_table, &QTableWidget::cellClicked, this, &FindingsDialog::choose);
+    // Return, where the arrows led to.
+    connect(m_table, &QTableWidget::cellActivated, this, &FindingsDialog::choose);
     const QScrollBar *bar = m_table->verticalScrollBar();
     connect(bar, &QScrollBar::valueChanged, this, &FindingsDialog::showState);
     connect(bar, &QScrollBar::rangeChanged, this, &FindingsDialog::showState);

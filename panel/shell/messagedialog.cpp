@@ -80,7 +80,7 @@ MessageDialog::MessageDialog(MessageLog *log, const QString &subject, QWidget *p
     m_area->setWidgetResizable(true);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setFocusPolicy(Qt::TabFocus);
 
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);

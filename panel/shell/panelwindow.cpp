@@ -122,10 +122,10 @@ QWidget *PanelWindow::makeTopStrip()
     titles->setSpacing(0);
     titles->addWidget(m_title);
     if (hasMenu()) {
-        PanelKey *menuKey = new PanelKey(Glyphs::icon(Glyphs::Menu), [] { return tr("Menu"); });
-        menuKey->setObjectName(QLatin1String("menuKey"));
-        connect(menuKey, &PanelKey::clicked, this, &PanelWindow::toggleMenu);
-        row->addWidget(menuKey);
+        m_menuKey = new PanelKey(Glyphs::icon(Glyphs::Menu), [] { return tr("Menu"); });
+        m_menuKey->setObjectName(QLatin1String("menuKey"));
+        connect(m_menuKey, &PanelKey::clicked, this, &PanelWindow::toggleMenu);
+        row->addWidget(m_menuKey);
     } else if (m_shape == Wide) {
         row->addLayout(m_tabs);
     }
@@ -227,8 +227,7 @@ void PanelWindow::setLanguages(Languages *languages)
 
 void PanelWindow::chooseLanguage()
 {
-    if (m_menu)
-        m_menu->hide();
+    hideMenu();
     LanguagePicker picker(m_languages->current());
     connect(&picker, &LanguagePicker::lookWanted, this, &PanelWindow::changeLook);
     connect(&picker, &LanguagePicker::textSizeWanted, this, &PanelWindow::changeTextSize);
@@ -292,6 +291,19 @@ void PanelWindow::toggleMenu()
     m_menu->setGeometry(0, m_stack->y(), width(), m_menu->sizeHint().height());
     m_menu->setVisible(m_menu->isHidden());
     m_menu->raise();
+    // A keyboard goes on in what it opened.
+    if (m_menu->isVisible() && m_menuKey->hasFocus())
+        m_entries.at(m_stack->currentIndex()).tab->setFocus();
+}
+
+/// A keyboard comes back to the key that opened it.
+void PanelWindow::hideMenu()
+{
+    if (!m_menu)
+        return;
+    if (m_menu->isAncestorOf(focusWidget()))
+        m_menuKey->setFocus();
+    m_menu->hide();
 }
 
 PanelScreen *PanelWindow::currentScreen() const
@@ -303,8 +315,7 @@ void PanelWindow::showScreen(int index)
 {
     if (index < 0 || index >= m_entries.size())
         return;
-    if (m_menu)
-        m_menu->hide();
+    hideMenu();
     m_stack->setCurrentIndex(index);
     for (int i = 0; i < m_entries.size(); ++i) {
         m_entries.at(i).tab->setChecked(i == index);

@@ -100,6 +100,7 @@ private:
     void makeMenu();
     void addTab(PanelKey *tab);
     void toggleMenu();
+    void hideMenu();
     void chooseLanguage();
     void changeLook();
     void changeTextSize(int percent);
@@ -120,6 +121,7 @@ private:
     PanelScreen *m_working = nullptr;
     QStackedWidget *m_stack;
     QWidget *m_menu = nullptr;
+    PanelKey *m_menuKey = nullptr;
     QGridLayout *m_tabs;
     QHBoxLayout *m_keys;
     ElidedLabel *m_title;

@@ -9,6 +9,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTime>
@@ -168,6 +169,15 @@ void StatusStrip::mouseReleaseEvent(QMouseEvent *event)
         Q_EMIT checkTouched();
 }
 
+void StatusStrip::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+        return QWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat() && !m_check->isHidden())
+        Q_EMIT checkTouched();
+}
+
 // A thumb is wider than a number.
 bool StatusStrip::isOnCheck(const QPoint &point) const
 {
@@ -246,6 +256,7 @@ void StatusStrip::showCheck()
     keepCheckWidth();
     // On a small panel faults take the place of the clock, and there is no room for good news.
     m_check->setVisible(m_isCheckTold && (m_roomy || isFaulty));
+    setFocusPolicy(m_check->isHidden() ? Qt::NoFocus : Qt::TabFocus);
     m_clock->setVisible(m_roomy || !isFaulty);
     m_check->setGlyph(m_errors > 0 ? Glyphs::Alarm : m_warnings > 0 ? Glyphs::Warn : Glyphs::Check);
     if (m_checkState == CheckUnknown)

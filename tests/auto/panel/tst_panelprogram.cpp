@@ -38,6 +38,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void aStartedPanelHasItsScreens();
+    void theEditorHasTheFocusAtFirst();
     void itLooksAsTheOperatorChose();
     void theDevicesReachTheStrip();
     void anOccupiedHomeIsRefused();
@@ -110,6 +111,18 @@ void TestPanelProgram::aStartedPanelHasItsScreens()
     QVERIFY(program.window()->findChild<PanelKey *>("languageKey"));
     for (const QString &name : Samples::names())
         QTRY_VERIFY(QFileInfo(programDir() + '/' + name).isFile());
+}
+
+void TestPanelProgram::theEditorHasTheFocusAtFirst()
+{
+    for (const QSize &size : {QSize(480, 272), QSize(800, 480)}) {
+        Options options = english();
+        options.size = size;
+        PanelProgram program(options, QStringList());
+        QCOMPARE(program.start(), PanelProgram::Started);
+        QApplication::setActiveWindow(program.window());
+        QTRY_VERIFY(program.programScreen()->editor()->hasFocus());
+    }
 }
 
 void TestPanelProgram::itLooksAsTheOperatorChose()

@@ -6,6 +6,9 @@
 #include "look/look.h"
 #include "look/panelkey.h"
 
+#include <QPlainTextEdit>
+#include <QWindow>
+
 class TestPanelKey : public FilarixTest
 {
     Q_OBJECT
@@ -15,7 +18,7 @@ private Q_SLOTS:
     void aKeyIsNeverSmallerThanAThumb();
     void aLongWordMakesItWider();
     void theTextFollowsTheLanguage();
-    void aKeyTakesNoFocus();
+    void aTouchTakesNoFocus();
 };
 
 void TestPanelKey::aKeyIsNeverSmallerThanAThumb_data()
@@ -59,9 +62,21 @@ void TestPanelKey::theTextFollowsTheLanguage()
     QCOMPARE(key.text(), QString("Dateien"));
 }
 
-void TestPanelKey::aKeyTakesNoFocus()
+void TestPanelKey::aTouchTakesNoFocus()
 {
-    QCOMPARE(PanelKey("Edit").focusPolicy(), Qt::NoFocus);
+    QWidget window;
+    QPlainTextEdit editor(&window);
+    editor.setGeometry(0, 60, 100, 100);
+    PanelKey key("Edit", &window);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    editor.setFocus();
+    QTRY_VERIFY(editor.hasFocus());
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      key.geometry().center());
+    QVERIFY(editor.hasFocus());
+    // A keyboard's Tab does.
+    QCOMPARE(key.focusPolicy(), Qt::TabFocus);
 }
 
 FILARIX_TEST_MAIN(TestPanelKey)

@@ -13,8 +13,10 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QStringListModel>
+#include <QStyleOption>
 #include <QTableWidget>
 
 class TestPanelStyle : public FilarixTest
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void chosenButtonStandsOut();
     void fieldsHaveAnEdgeOnDarkPaper();
     void cleanup();
+    void theFrameOfTheFocusHasTwoColours();
 };
 
 void TestPanelStyle::initTestCase()
@@ -141,6 +144,24 @@ void TestPanelStyle::fieldsHaveAnEdgeOnDarkPaper()
     for (QWidget *widget : {static_cast<QWidget *>(&field), static_cast<QWidget *>(&box)}) {
         widget->resize(24, 40);
         QVERIFY2(Contrast::drawn(widget, widget->rect()) >= 3, widget->metaObject()->className());
+    }
+}
+
+void TestPanelStyle::theFrameOfTheFocusHasTwoColours()
+{
+    QImage image(30, 20, QImage::Format_RGB32);
+    image.fill(Qt::gray);
+    QPainter painter(&image);
+    QStyleOption option;
+    option.rect = image.rect();
+    QApplication::style()->drawControl(QStyle::CE_FocusFrame, &option, &painter);
+    const QColor expected[] = {Look::focusEdge(), Look::focusEdge(), Look::focus(), Look::focus(),
+                               Qt::gray};
+    for (int i = 0; i < 5; ++i) {
+        QCOMPARE(image.pixelColor(i, 10), expected[i]);
+        QCOMPARE(image.pixelColor(29 - i, 10), expected[i]);
+        QCOMPARE(image.pixelColor(15, i), expected[i]);
+        QCOMPARE(image.pixelColor(15, 19 - i), expected[i]);
     }
 }
 

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void aTouchOnAnyOfItsTextsIsOne();
     void aFingerThatSlidesOffTouchesNothing();
     void whatLiesBehindIsNotTouched();
+    void keysTouchItToo();
 };
 
 void TestTapArea::aTouchOnAnyOfItsTextsIsOne()
@@ -56,6 +57,16 @@ void TestTapArea::whatLiesBehindIsNotTouched()
     QTest::mouseClick(&area, Qt::LeftButton);
     QCOMPARE(own.size(), 1);
     QCOMPARE(touched.size(), 0);
+}
+
+void TestTapArea::keysTouchItToo()
+{
+    TapArea area;
+    QCOMPARE(area.focusPolicy(), Qt::TabFocus);
+    QSignalSpy touched(&area, SIGNAL(touched()));
+    for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_A})
+        QTest::keyClick(&area, key);
+    QCOMPARE(touched.size(), 3);
 }
 
 FILARIX_TEST_MAIN(TestTapArea)
