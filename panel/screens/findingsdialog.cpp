@@ -131,6 +131,8 @@ void FindingsDialog::showEvent(QShowEvent *event)
 {
     Dialog::showEvent(event);
     layout()->activate();
+    // From there the arrows go on.
+    m_table->setCurrentCell(m_nearest, 0, QItemSelectionModel::NoUpdate);
     m_table->scrollTo(m_table->model()->index(m_nearest, 0), QAbstractItemView::PositionAtTop);
 }
 

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void rowsAreAsHighAsAThumb();
     void nothingIsChosenOrTyped();
     void aTouchChoosesAWholeRow();
+    void tabLeadsOn();
 };
 
 static void fill(PanelTable *table)
@@ -61,6 +62,11 @@ void TestPanelTable::aTouchChoosesAWholeRow()
     touch(&table, 1, 1);
     QCOMPARE(table.selectedItems().size(), 3);
     QCOMPARE(table.selectedItems().first()->row(), 1);
+}
+
+void TestPanelTable::tabLeadsOn()
+{
+    QVERIFY(!PanelTable(2, 2).tabKeyNavigation());
 }
 
 FILARIX_TEST_MAIN(TestPanelTable)

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void cleanup();
     void allFindingsAreListed();
     void touchChoosesAFinding();
+    void arrowsAndReturnChooseAFinding();
     void choiceIsWhatWasShown();
     void opensWhereTheOperatorIs();
     void nothingFoundIsSaid();
@@ -102,6 +103,17 @@ void TestFindingsDialog::touchChoosesAFinding()
     QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.finding(), 2);
+}
+
+void TestFindingsDialog::arrowsAndReturnChooseAFinding()
+{
+    make(faulty(200));
+    FindingsDialog dialog(m_review.data(), 120);
+    dialog.show();
+    QTest::keyClick(table(dialog), Qt::Key_Down);
+    QTest::keyClick(table(dialog), Qt::Key_Return);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.finding(), 120);
 }
 
 // However often the program is checked while the dialog is open.

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void touchTargets();
     void tabShowsItsScreenAndKeys();
     void menuKeyOfASmallPanelShowsTheTabs();
+    void aKeyboardGoesIntoTheMenuAndBack();
     void titleCarriesTheMarkOfChanges();
     void slimPanelShowsTheWholeName();
     void statusIsInViewOnEveryScreen_data();
@@ -176,6 +177,25 @@ void TestPanelWindow::menuKeyOfASmallPanelShowsTheTabs()
     QTest::mouseClick(key(panel, "Files"), Qt::LeftButton);
     QVERIFY(!key(panel, "Files")->isVisible());
     QCOMPARE(panel.currentScreen(), static_cast<PanelScreen *>(screens.at(4)));
+}
+
+void TestPanelWindow::aKeyboardGoesIntoTheMenuAndBack()
+{
+    PanelWindow panel(QSize(480, 272));
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    QApplication::setActiveWindow(&panel);
+    key(panel, "Menu")->setFocus();
+    QTRY_VERIFY(key(panel, "Menu")->hasFocus());
+    QTest::keyClick(key(panel, "Menu"), Qt::Key_Space);
+    QVERIFY(key(panel, "Files")->isVisible());
+    QVERIFY(!key(panel, "Menu")->hasFocus());
+    key(panel, "Files")->setFocus();
+    QTest::keyClick(key(panel, "Files"), Qt::Key_Space);
+    QCOMPARE(panel.currentScreen(), static_cast<PanelScreen *>(screens.at(4)));
+    QVERIFY(!key(panel, "Files")->isVisible());
+    QVERIFY(key(panel, "Menu")->hasFocus());
 }
 
 void TestPanelWindow::titleCarriesTheMarkOfChanges()

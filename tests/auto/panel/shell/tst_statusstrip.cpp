@@ -29,6 +29,7 @@ private Q_SLOTS:
     void wordsFollowTheLanguage();
     void thingsAreNamedWhereThereIsRoom();
     void checkIsShownOnceItIsTold();
+    void keysAskForTheCheck();
     void smallStripShowsFaultsForTheClock();
     void checkIsTold_data();
     void checkIsTold();
@@ -311,6 +312,20 @@ void TestStatusStrip::checkIsTold()
     QTEST(item(strip, "checkState")->text(), "text");
     QTEST(int(item(strip, "checkState")->tone()), "tone");
     QTEST(item(strip, "checkState")->accessibleName(), "meaning");
+}
+
+void TestStatusStrip::keysAskForTheCheck()
+{
+    StatusStrip strip(false);
+    QSignalSpy touched(&strip, SIGNAL(checkTouched()));
+    QTest::keyClick(&strip, Qt::Key_Return);
+    QCOMPARE(touched.size(), 0);
+    QCOMPARE(strip.focusPolicy(), Qt::NoFocus);
+    strip.showCheck(StatusStrip::Checked, 12, 0);
+    QCOMPARE(strip.focusPolicy(), Qt::TabFocus);
+    for (Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_A})
+        QTest::keyClick(&strip, key);
+    QCOMPARE(touched.size(), 2);
 }
 
 // What is beside it belongs to whatever the strip stands on.
