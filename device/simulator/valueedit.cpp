@@ -66,8 +66,10 @@ void ValueEdit::toggleSign()
 // may say so late, between two losses of the focus, and a digit would go behind the old number.
 bool ValueEdit::event(QEvent *event)
 {
-    return event->type() == QEvent::WindowActivate ? QWidget::event(event)
-                                                   : QLineEdit::event(event);
+    if (event->type() != QEvent::WindowActivate)
+        return QLineEdit::event(event);
+    update();
+    return true;
 }
 
 void ValueEdit::keyPressEvent(QKeyEvent *event)
