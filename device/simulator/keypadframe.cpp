@@ -495,7 +495,10 @@ void KeypadFrame::arrangeHead()
     QList<KeypadLabel *> first;
     QList<KeypadLabel *> second;
     first << m_title;
-    (measures.title ? second : first) << m_oldValue;
+    const bool hasRoom = measures.title || hasRoomForAll(length, measures.info, gap);
+    m_oldValue->setVisible(hasRoom);
+    if (hasRoom)
+        (measures.title ? second : first) << m_oldValue;
     if (!m_hint->text().isEmpty())
         first << m_hint;
     if (!m_limit->text().isEmpty())
@@ -511,6 +514,15 @@ void KeypadFrame::arrangeHead()
     m_edit->setGeometry(left, valueTop, reason ? length - reason - gap : length, measures.value);
     m_reason->setGeometry(left + length - reason, valueTop, reason, measures.value);
     m_reason->setVisible(reason > 0);
+}
+
+/// Whether a hint stands whole in one line with title and old value. The value itself begins as the
+/// old one, but what the hint tells stands nowhere else.
+bool KeypadFrame::hasRoomForAll(int length, int height, int gap) const
+{
+    const int needed = m_title->neededWidth(height) + m_oldValue->neededWidth(height)
+                       + m_hint->neededWidth(height) + 4 * gap;
+    return m_hint->text().isEmpty() || needed <= length;
 }
 
 void KeypadFrame::arrangeKeys()

@@ -118,6 +118,7 @@ private:
     KeyButton *addKey(const QString &token);
     void arrange();
     void arrangeHead();
+    bool hasRoomForAll(int length, int height, int gap) const;
     void arrangeKeys();
     void labelKeys();
     QString labelOf(const KeyButton *key) const;
