@@ -35,7 +35,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString own = QAccessibleWidget::text(kind);
+        QString own = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !own.isEmpty())
             return own;
         QStringList texts;
@@ -67,7 +67,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString own = QAccessibleWidget::text(kind);
+        QString own = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !own.isEmpty())
             return own;
         return key()->text().remove(QLatin1Char('&'));
@@ -167,7 +167,7 @@ QString titleAround(const QWidget *widget)
 {
     for (const QWidget *around = widget->parentWidget(); around; around = around->parentWidget()) {
         const QString spoken = around->accessibleName();
-        const QString title = spoken.isEmpty() ? around->windowTitle() : spoken;
+        QString title = spoken.isEmpty() ? around->windowTitle() : spoken;
         if (isSaid(title))
             return title;
     }
