@@ -92,7 +92,7 @@ QString ValueRule::limits() const
 
 QString ValueRule::bare(const QString &value) const
 {
-    const QString trimmed = value.trimmed();
+    QString trimmed = value.trimmed();
     if (!isNumber() || unit.isEmpty() || !trimmed.endsWith(unit))
         return trimmed;
     const QString number = trimmed.left(trimmed.size() - unit.size()).trimmed();
