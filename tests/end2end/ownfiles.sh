@@ -81,6 +81,8 @@ edit_lists() {
     expect_gone OK "Load a taught program"
     desk_until 20 said "program.teach loaded" || desk_fail "the taught program is not loaded"
     touch_text Variables
+    # The key stands elsewhere on the screen before.
+    expect_text "Machine variables"
     touch_text Store
     desk_until 20 test -s "$own/variables.txt" || desk_fail "the variables are not stored"
     touch_text Connections
