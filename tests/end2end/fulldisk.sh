@@ -49,7 +49,8 @@ expect_text "test-coil.cnc*"
 expect_text "test-coil.cnc is not stored: No space left on device"
 desk_picture fulldisk.png
 
-# Closing objects.
+# Closing objects. Just after a dialog no window may be the active one.
+desk_until 20 xdotool getactivewindow || desk_fail "no window is active"
 xdotool key alt+F4
 expect_text Discard
 touch_text Cancel

@@ -55,7 +55,8 @@ expect_text "New program"
 touch_text Variables
 expect_text "Machine variables"
 
-# The window manager's way to close a window.
+# The window manager's way to close a window. Just after a dialog no window may be the active one.
+desk_until 20 xdotool getactivewindow || desk_fail "no window is active"
 xdotool key alt+F4
 desk_until 20 desk_has_ended || desk_fail "the program goes on without its window"
 wait "${desk_pids[-1]}" || desk_fail "the program ended with $?"
