@@ -65,6 +65,7 @@ private Q_SLOTS:
     void editOnTheKeypadIsStoredAndLoaded();
     void loadKeyPicksAFile();
     void storeAsGivesTheProgramItsName();
+    void storeWaitsForTheNewName();
     void storeAsWithoutANameChangesNothing();
     void storeAsRefusesANameThatIsNone_data();
     void storeAsRefusesANameThatIsNone();
@@ -818,6 +819,17 @@ void TestTeachScreen::storeAsGivesTheProgramItsName()
     QCOMPARE(rows, m_screen->rows());
     QCOMPARE(QDir(home() + "/teach").entryList(QDir::Files | QDir::Hidden),
              QStringList("rotor.teach"));
+}
+
+// The program's old file is not covered while the program goes into the new one.
+void TestTeachScreen::storeWaitsForTheNewName()
+{
+    QTest::mouseClick(key("Delete"), Qt::LeftButton);
+    storeAs("rotor");
+    QTest::mouseClick(key("Store"), Qt::LeftButton);
+    QTRY_COMPARE(m_screen->title(), QString("rotor.teach"));
+    QVERIFY(QFileInfo::exists(home() + "/teach/rotor.teach"));
+    QVERIFY(!QFileInfo::exists(home() + "/teach/program.teach"));
 }
 
 void TestTeachScreen::storeAsWithoutANameChangesNothing()
