@@ -23,9 +23,6 @@ using namespace FilarixRows;
 const int lineFields[] = {ZValue, TValue};
 const int lineFieldCount = 2;
 
-// Numbers that fill no message.
-const int toldDigits = 20;
-
 QList<int> positions()
 {
     QList<int> all{ZValue, TValue};
@@ -63,11 +60,6 @@ MJLine *lineOf(QWidget *widget)
     return qobject_cast<MJLine *>(widget);
 }
 
-QString shortened(const QString &number)
-{
-    return number.size() > toldDigits ? number.left(toldDigits) + QLatin1String("...") : number;
-}
-
 /// What is wrong with the number at \a position; empty if it may be.
 QString fault(const QStringList &row, int number, int position)
 {
@@ -77,7 +69,7 @@ QString fault(const QStringList &row, int number, int position)
         return QString();
     return MovementLimits::tr("Instruction %1: %2 is %3. It must be %4.")
         .arg(number)
-        .arg(row.at(position - 1), shortened(value), rule.limits());
+        .arg(row.at(position - 1), ValueRule::shortened(value), rule.limits());
 }
 
 bool isMovement(const QStringList &row)

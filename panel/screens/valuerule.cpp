@@ -16,6 +16,8 @@ namespace {
 
 // As many as the largest number has, and one for what it is a part of.
 const int shownDigits = 10;
+// Of a value that is told.
+const int toldLetters = 20;
 
 bool isPlain(QChar letter)
 {
@@ -88,6 +90,11 @@ QString ValueRule::limits() const
     if (!unit.isEmpty())
         text += QLatin1Char(' ') + unit;
     return type == Integer ? tr("%1, whole").arg(text) : text;
+}
+
+QString ValueRule::shortened(const QString &value)
+{
+    return value.size() > toldLetters ? value.left(toldLetters) + QLatin1String("...") : value;
 }
 
 QString ValueRule::bare(const QString &value) const

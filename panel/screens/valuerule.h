@@ -49,6 +49,8 @@ public:
     /// A text that is a finite number in plain digits; false, and \a number as it was, otherwise.
     static bool readNumber(const QString &text, double *number);
     static QString numberText(double number);
+    /// So much of \a value that it fills no message.
+    static QString shortened(const QString &value);
     /// The two values of a switch.
     static QString on() { return QStringLiteral("on"); }
     static QString off() { return QStringLiteral("off"); }

@@ -21,8 +21,6 @@ namespace {
 
 const int nameAt = VariableTable::nameAt;
 const int valueAt = VariableTable::valueAt;
-// A value that fills no message.
-const int toldLetters = 20;
 
 // What messages about values that may not be are about.
 const QLatin1String refusedValues("refused values");
@@ -56,11 +54,6 @@ int numberOf(DataEditor *row)
 ValueMark *markOf(const DataEditor *row)
 {
     return row ? row->findChild<ValueMark *>() : nullptr;
-}
-
-QString shortened(const QString &value)
-{
-    return value.size() > toldLetters ? value.left(toldLetters) + QLatin1String("...") : value;
 }
 
 } // namespace
@@ -240,7 +233,7 @@ QStringList VariablesScreen::refusedNames() const
 QString VariablesScreen::demand(const MachineVariable &variable, const QString &value)
 {
     return tr("%1 is %2. It must be %3.")
-        .arg(variable.name, value.isEmpty() ? tr("empty") : shortened(value),
+        .arg(variable.name, value.isEmpty() ? tr("empty") : ValueRule::shortened(value),
              variable.rule.limits());
 }
 
