@@ -31,6 +31,8 @@ public:
             m_list.addWidget(row, false, false);
         }
         m_window.resize(500, 500);
+        // Side by side: what is to be seen of a window that another one covers is the other one.
+        m_window.move(m_isPlain ? besideTheOther : 0, 0);
         QStringList none;
         m_list.addWidget(none, true, true);
         m_list.home();
@@ -93,6 +95,8 @@ public:
     }
 
 private:
+    static const int besideTheOther = 640;
+
     bool m_isPlain;
     QStringList m_title;
     QWidget m_window;
@@ -350,6 +354,8 @@ void TestRowField::looksAndLiesAsPlainWidgetsDo()
             plain.makePlain();
             QCoreApplication::processEvents();
             QCoreApplication::processEvents();
+            QVERIFY2(!own.window().frameGeometry().intersects(plain.window().frameGeometry()),
+                     qPrintable(way));
             QVERIFY2(own.picture() == plain.picture(), qPrintable(way));
             QVERIFY2(own.geometry() == plain.geometry(), qPrintable(way));
         }
