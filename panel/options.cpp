@@ -113,7 +113,8 @@ QString takeLook(const QString &, const QString &value, Options *options)
     options->look = value;
     if (Look::read(value, &style))
         return QString();
-    return QString::fromLatin1("The look \"%1\" is neither light nor dark.").arg(value);
+    return QString::fromLatin1("The look \"%1\" is neither light, dark nor high-contrast.")
+        .arg(value);
 }
 
 QString takeLanguage(const QString &, const QString &value, Options *options)
@@ -191,8 +192,9 @@ const struct
     {"no-touch", nullptr, &takeNoTouch,
      "The panel has keys and no touch screen: no on-screen keypad opens."},
     {"look", "style", &takeLook,
-     "Colours of the panel: light, or dark for a dim hall. Without it: what the operator has "
-     "chosen, at first light."},
+     "Colours of the panel: light, dark for a dim hall, or high-contrast for glare. Without it: "
+     "what "
+     "the operator has chosen, at first light."},
     {"language", "code", &takeLanguage,
      "Language to speak, one of %1. Without it: the one that the operator chose, else the "
      "system's; in a tour English."},

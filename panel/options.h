@@ -42,7 +42,7 @@ struct Options
     double dotsPerInch = 0;
     /// "100", "125" or "150" percent; empty for the operator's choice.
     QString textSize;
-    /// "light" or "dark"; empty for the operator's choice.
+    /// "light", "dark" or "high-contrast"; empty for the operator's choice.
     QString look;
     /// Absolute path of the folder for pictures; empty when no tour is wanted.
     QString tourDir;

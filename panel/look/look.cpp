@@ -7,7 +7,11 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <initializer_list>
+
 namespace {
+
+using Look::Role;
 
 const char dressProperty[] = "lookDress";
 // Beside the values of Look::Dress.
@@ -15,61 +19,52 @@ const int lightGround = -1;
 
 Look::Style currentStyle = Look::Light;
 
-struct Colours
+/// One line a role, in the order of Look::Role.
+const struct
 {
-    // Screens and dialogs.
-    QRgb paper;
-    QRgb base;
-    QRgb alternate;
-    QRgb text;
-    QRgb faint;
-    QRgb button;
-    QRgb link;
-    QRgb edge;
-    // Strips are dark in both styles, so that the content stands out.
-    QRgb strip;
-    QRgb stripKey;
-    QRgb stripKeyOff;
-    QRgb stripFaint;
-    // Keys beside a screen's content.
-    QRgb key;
-    QRgb keyEdge;
-    QRgb keyPressed;
-    QRgb keyOff;
-    QRgb keyFaint;
+    const char *name;
+    QRgb colours[3];
+} tints[] = {
+    // clang-format off
+    {"surface",          {0xffeef1f5, 0xff1d242c, 0xffffffff}},
+    {"field",            {0xffffffff, 0xff12171c, 0xffffffff}},
+    {"alternate",        {0xffe4eaf1, 0xff222b34, 0xffe6e6e6}},
+    {"raised",           {0xffdfe5ec, 0xff323e4a, 0xfff0f0f0}},
+    {"text",             {0xff17202b, 0xffe8edf2, 0xff000000}},
+    {"faint",            {0xff56616d, 0xffa9b5c1, 0xff454545}},
+    {"link",             {0xff1659a8, 0xff8ec3ff, 0xff003a8c}},
+    {"line",             {0xff17202b, 0xff8e9ba8, 0xff000000}},
+    {"accent",           {0xff1a6fd0, 0xff1a6fd0, 0xff003f9e}},
+    {"pressed",          {0xff0d4d99, 0xff0d4d99, 0xff002866}},
+    {"on accent",        {0xffffffff, 0xffffffff, 0xffffffff}},
+    // Strips are dark in all looks, so that the content stands out.
+    {"strip",            {0xff17202b, 0xff0b0f13, 0xff000000}},
+    {"strip key",        {0xff2b3a4a, 0xff26313c, 0xff2b2b2b}},
+    {"strip key off",    {0xff1f2a36, 0xff151b21, 0xff000000}},
+    {"strip text",       {0xffffffff, 0xffffffff, 0xffffffff}},
+    {"strip faint",      {0xff8b9aab, 0xff7f8d9b, 0xffc0c0c0}},
+    {"key",              {0xffffffff, 0xff2f3b47, 0xffffffff}},
+    {"key line",         {0xff9fb0c2, 0xff566473, 0xff000000}},
+    {"key pressed",      {0xffb7d7fb, 0xff1d4f86, 0xff9fc8ff}},
+    {"key off",          {0xffe6ebf0, 0xff232c35, 0xffe6e6e6}},
+    {"key faint",        {0xff56616d, 0xffa9b5c1, 0xff454545}},
+    {"ok ground",        {0xff23753a, 0xff23753a, 0xff0f5a26}},
+    {"warning ground",   {0xff8a5a00, 0xff8a5a00, 0xff6b4400}},
+    {"alarm ground",     {0xffb92525, 0xffb92525, 0xff96101a}},
+    {"ok on strip",      {0xff7ddb98, 0xff7ddb98, 0xff8ff0ab}},
+    {"warning on strip", {0xffffc04d, 0xffffc04d, 0xffffd27a}},
+    {"alarm on strip",   {0xffff8a80, 0xffff8a80, 0xffffb0a8}},
+    {"changed",          {0xffffc04d, 0xffffc04d, 0xffffd27a}},
+    {"focus",            {0xffffd23f, 0xffffd23f, 0xffffd23f}},
+    {"focus line",       {0xff000000, 0xff000000, 0xff000000}},
+    // clang-format on
 };
 
-const Colours colourTable[] = {
-    {0xffeef1f5, 0xffffffff, 0xffe4eaf1, 0xff17202b, 0xff66727f, 0xffdfe5ec, 0xff1659a8,
-     0xff17202b,                                     //
-     0xff17202b, 0xff2b3a4a, 0xff1f2a36, 0xff8b9aab, //
-     0xffffffff, 0xff9fb0c2, 0xffb7d7fb, 0xffe6ebf0, 0xff66727f},
-    {0xff1d242c, 0xff12171c, 0xff222b34, 0xffe8edf2, 0xff8e9ba8, 0xff323e4a, 0xff8ec3ff,
-     0xff8e9ba8,                                     //
-     0xff0b0f13, 0xff26313c, 0xff151b21, 0xff7f8d9b, //
-     0xff2f3b47, 0xff566473, 0xff1d4f86, 0xff232c35, 0xff8e9ba8},
-};
+const char *const styleNames[] = {"light", "dark", "high-contrast"};
 
-const QRgb accentRgb = 0xff1a6fd0;
-const QRgb accentPressed = 0xff0d4d99;
-const QRgb informationGround = 0xff23753a;
-const QRgb warningGround = 0xff8a5a00;
-const QRgb alarmGround = 0xffb92525;
-const QRgb informationOnStrip = 0xff7ddb98;
-const QRgb warningOnStrip = 0xffffc04d;
-const QRgb alarmOnStrip = 0xffff8a80;
-const QRgb focusRgb = 0xffffd23f;
-const QRgb focusEdgeRgb = 0xff000000;
-const QRgb white = 0xffffffff;
-
-const Colours &colours()
+QString hex(Role role)
 {
-    return colourTable[currentStyle];
-}
-
-QString hex(QRgb colour)
-{
-    return QColor(colour).name();
+    return Look::colour(role).name();
 }
 
 QString stripSheet()
@@ -81,8 +76,8 @@ QString stripSheet()
                                "PanelKey:checked { background: %4; }"
                                "PanelKey:pressed { background: %5; }"
                                "PanelKey:disabled { color: %6; background: %7; }")
-        .arg(hex(colours().strip), hex(white), hex(colours().stripKey), hex(accentRgb),
-             hex(accentPressed), hex(colours().stripFaint), hex(colours().stripKeyOff));
+        .arg(hex(Role::Strip), hex(Role::StripText), hex(Role::StripKey), hex(Role::Accent),
+             hex(Role::Pressed), hex(Role::StripFaint), hex(Role::StripKeyOff));
 }
 
 QString keyPanelSheet()
@@ -93,9 +88,9 @@ QString keyPanelSheet()
                                "PanelKey:pressed { color: %1; background: %6; }"
                                "PanelKey:checked:pressed { color: %4; background: %9; }"
                                "PanelKey:disabled { color: %7; background: %8; }")
-        .arg(hex(colours().text), hex(colours().key), hex(colours().keyEdge), hex(white),
-             hex(accentRgb), hex(colours().keyPressed), hex(colours().keyFaint),
-             hex(colours().keyOff), hex(accentPressed));
+        .arg(hex(Role::Text), hex(Role::Key), hex(Role::KeyLine), hex(Role::OnAccent),
+             hex(Role::Accent), hex(Role::KeyPressed), hex(Role::KeyFaint), hex(Role::KeyOff),
+             hex(Role::Pressed));
 }
 
 /// The rules by which the frames that \a frame selects have the ground of their tone.
@@ -105,7 +100,7 @@ QString toneRules(const QString &frame)
                                "%1[tone=\"information\"] { background: %2; }"
                                "%1[tone=\"warning\"] { background: %3; }"
                                "%1[tone=\"alarm\"] { background: %4; }")
-        .arg(frame, hex(informationGround), hex(warningGround), hex(alarmGround));
+        .arg(frame, hex(Role::OkGround), hex(Role::WarningGround), hex(Role::AlarmGround));
 }
 
 QString messageRowSheet()
@@ -124,9 +119,9 @@ QString pickerStripSheet()
                                "QToolButton:pressed { background: %5; }"
                                "QToolButton:disabled { color: %6; background: %7; }"
                                "QLineEdit { border: 1px solid %9; border-radius: 6px; }")
-        .arg(hex(colours().strip), hex(white), hex(colours().stripKey), hex(accentRgb),
-             hex(accentPressed), hex(colours().stripFaint), hex(colours().stripKeyOff),
-             hex(alarmGround), hex(colours().stripFaint));
+        .arg(hex(Role::Strip), hex(Role::StripText), hex(Role::StripKey), hex(Role::Accent),
+             hex(Role::Pressed), hex(Role::StripFaint), hex(Role::StripKeyOff),
+             hex(Role::AlarmGround), hex(Role::StripFaint));
 }
 
 QString messageListSheet()
@@ -134,20 +129,20 @@ QString messageListSheet()
     return toneRules(QLatin1String("#message"))
            + QString::fromLatin1("#message QLabel { color: %1; background: transparent; }"
                                  "#message[tone=\"none\"] QLabel { color: %2; }")
-                 .arg(hex(white), hex(colours().text));
+                 .arg(hex(Role::OnAccent), hex(Role::Text));
 }
 
 /// The other roles go on following the application's palette, and what the widget has set itself
 /// stays.
 void lighten(QWidget *widget)
 {
-    const Colours &light = colourTable[Look::Light];
     QPalette palette = widget->palette();
-    palette.setColor(QPalette::Base, QColor(currentStyle == Look::Dark ? light.paper : light.base));
+    const Role paper = currentStyle == Look::Dark ? Role::Surface : Role::Field;
+    palette.setColor(QPalette::Base, Look::colour(paper, Look::Light));
     // The editor marks the current line with it, so it has to differ from the paper in bright
-    // light. A line that is marked already keeps the colour, so both styles have the same.
+    // light. A line that is marked already keeps the colour, so all looks have the same.
     palette.setColor(QPalette::AlternateBase, QColor(0xcf, 0xe3, 0xfb));
-    palette.setColor(QPalette::Text, QColor(light.text));
+    palette.setColor(QPalette::Text, Look::colour(Role::Text, Look::Light));
     widget->setPalette(palette);
 }
 
@@ -176,12 +171,12 @@ void Look::use(Style style)
 
 QString Look::name(Style style)
 {
-    return style == Dark ? QLatin1String("dark") : QLatin1String("light");
+    return QLatin1String(styleNames[style]);
 }
 
 QStringList Look::names()
 {
-    return {name(Light), name(Dark)};
+    return {name(Light), name(Dark), name(HighContrast)};
 }
 
 QString Look::settingsKey()
@@ -191,13 +186,11 @@ QString Look::settingsKey()
 
 bool Look::read(const QString &text, Style *style)
 {
-    for (Style known : {Light, Dark}) {
-        if (text == name(known)) {
-            *style = known;
-            return true;
-        }
-    }
-    return false;
+    const int index = names().indexOf(text);
+    if (index < 0)
+        return false;
+    *style = Style(index);
+    return true;
 }
 
 void Look::dress(QWidget *widget, Dress dress)
@@ -231,18 +224,24 @@ QString Look::sheet(Dress dress)
 
 QPalette Look::palette()
 {
-    const QColor text(colours().text);
-    const QColor faint(colours().faint);
+    return palette(currentStyle);
+}
+
+QPalette Look::palette(Style style)
+{
+    const QColor text = colour(Role::Text, style);
+    const QColor faint = colour(Role::Faint, style);
+    const QColor link = colour(Role::Link, style);
     // The toolkit derives the shades of frames from the two.
-    QPalette palette(QColor(colours().button), QColor(colours().paper));
-    palette.setColor(QPalette::Base, QColor(colours().base));
-    palette.setColor(QPalette::AlternateBase, QColor(colours().alternate));
-    palette.setColor(QPalette::Highlight, QColor(accentRgb));
-    palette.setColor(QPalette::HighlightedText, QColor(white));
-    palette.setColor(QPalette::ToolTipBase, QColor(colours().base));
-    palette.setColor(QPalette::Link, QColor(colours().link));
-    palette.setColor(QPalette::LinkVisited, QColor(colours().link));
-    palette.setColor(QPalette::BrightText, QColor(white));
+    QPalette palette(colour(Role::Raised, style), colour(Role::Surface, style));
+    palette.setColor(QPalette::Base, colour(Role::Field, style));
+    palette.setColor(QPalette::AlternateBase, colour(Role::Alternate, style));
+    palette.setColor(QPalette::Highlight, colour(Role::Accent, style));
+    palette.setColor(QPalette::HighlightedText, colour(Role::OnAccent, style));
+    palette.setColor(QPalette::ToolTipBase, colour(Role::Field, style));
+    palette.setColor(QPalette::Link, link);
+    palette.setColor(QPalette::LinkVisited, link);
+    palette.setColor(QPalette::BrightText, colour(Role::OnAccent, style));
     for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText,
                                      QPalette::ToolTipText, QPalette::PlaceholderText}) {
         palette.setColor(role, role == QPalette::PlaceholderText ? faint : text);
@@ -251,61 +250,112 @@ QPalette Look::palette()
     return palette;
 }
 
+QColor Look::colour(Role role)
+{
+    return colour(role, currentStyle);
+}
+
+QColor Look::colour(Role role, Style style)
+{
+    return QColor(tints[int(role)].colours[style]);
+}
+
+QVector<Look::Role> Look::roles()
+{
+    QVector<Role> all;
+    for (int i = 0; i <= int(Role::FocusLine); ++i)
+        all.append(Role(i));
+    return all;
+}
+
+QString Look::name(Role role)
+{
+    return QLatin1String(tints[int(role)].name);
+}
+
+QVector<Look::Pair> Look::pairs()
+{
+    QVector<Pair> all;
+    const auto lay = [&all](const std::initializer_list<Role> &texts,
+                            const std::initializer_list<Role> &grounds) {
+        for (Role text : texts) {
+            for (Role ground : grounds)
+                all.append({text, ground});
+        }
+    };
+    lay({Role::Text, Role::Faint}, {Role::Surface, Role::Field, Role::Alternate, Role::Raised});
+    lay({Role::Link}, {Role::Surface, Role::Field, Role::Alternate});
+    lay({Role::Text}, {Role::Key, Role::KeyPressed});
+    lay({Role::KeyFaint}, {Role::KeyOff});
+    lay({Role::OnAccent, Role::StripText},
+        {Role::Accent, Role::Pressed, Role::OkGround, Role::WarningGround, Role::AlarmGround});
+    lay({Role::StripText, Role::OkOnStrip, Role::WarningOnStrip, Role::AlarmOnStrip, Role::Changed},
+        {Role::Strip, Role::StripKey});
+    lay({Role::StripFaint}, {Role::Strip, Role::StripKeyOff});
+    lay({Role::Focus}, {Role::FocusLine});
+    return all;
+}
+
+double Look::leastContrast(Style style)
+{
+    return style == HighContrast ? 7 : 4.5;
+}
+
 QColor Look::ground(Message::Tone tone)
 {
-    return QColor(tone == Message::Alarm     ? alarmGround
-                  : tone == Message::Warning ? warningGround
-                                             : informationGround);
+    return colour(tone == Message::Alarm     ? Role::AlarmGround
+                  : tone == Message::Warning ? Role::WarningGround
+                                             : Role::OkGround);
 }
 
 QColor Look::onStrip(Message::Tone tone)
 {
-    return QColor(tone == Message::Alarm     ? alarmOnStrip
-                  : tone == Message::Warning ? warningOnStrip
-                                             : informationOnStrip);
+    return colour(tone == Message::Alarm     ? Role::AlarmOnStrip
+                  : tone == Message::Warning ? Role::WarningOnStrip
+                                             : Role::OkOnStrip);
 }
 
 QColor Look::accent()
 {
-    return accentRgb;
+    return colour(Role::Accent);
 }
 
 QColor Look::changed()
 {
-    return QColor(0xff, 0xc0, 0x4d);
+    return colour(Role::Changed);
 }
 
 QColor Look::edge()
 {
-    return colours().edge;
+    return colour(Role::Line);
 }
 
 QColor Look::keyText()
 {
-    return colours().text;
+    return colour(Role::Text);
 }
 
 QColor Look::keyFaint()
 {
-    return colours().keyFaint;
+    return colour(Role::KeyFaint);
 }
 
 QColor Look::focus()
 {
-    return focusRgb;
+    return colour(Role::Focus);
 }
 
 QColor Look::focusEdge()
 {
-    return focusEdgeRgb;
+    return colour(Role::FocusLine);
 }
 
 QColor Look::stripText()
 {
-    return white;
+    return colour(Role::StripText);
 }
 
 QColor Look::stripFaint()
 {
-    return colours().stripFaint;
+    return colour(Role::StripFaint);
 }

@@ -10,10 +10,15 @@
 #include <QPalette>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 class QWidget;
 
-/// The one look of the host: its colours and the style sheets of its own strips, light or dark.
+/// The one look of the host: its colours and the style sheets of its own strips. There are three:
+/// light, dark for a dim hall, and one of high contrast for glare.
+///
+/// Each colour has a role, and one table says what it is in each look. A pair of roles of which one
+/// lies on the other stands in pairs(), which tests hold to leastContrast().
 ///
 /// Sheets are set on the host's own widgets only, never on the application or on a parent of a
 /// widget of the library. The library's rows and fields carry fixed sheets of their own. Rows and
@@ -28,7 +33,48 @@ namespace Look {
 /// Smallest side of anything that is meant to be touched, in pixels: 9 mm at 96 dpi are 34.
 const int smallestTouch = 40;
 
-enum Style { Light, Dark };
+enum Style { Light, Dark, HighContrast };
+
+/// What a colour is for.
+enum class Role {
+    Surface,   ///< Behind a screen or a dialog.
+    Field,     ///< Behind what is entered or listed.
+    Alternate, ///< Behind every other row.
+    Raised,    ///< A button of a dialog.
+    Text,
+    Faint, ///< A text that comes second, or of what is switched off.
+    Link,
+    Line,     ///< Around a dialog, and around fields on dark ground.
+    Accent,   ///< What is chosen.
+    Pressed,  ///< What is chosen and pressed, and a pressed key of a strip.
+    OnAccent, ///< On either, and on the grounds of tones.
+    Strip,    ///< The strips at the edges of the panel.
+    StripKey,
+    StripKeyOff, ///< A disabled key of a strip.
+    StripText,
+    StripFaint, ///< On a disabled key of a strip.
+    Key,        ///< A key beside a screen's content.
+    KeyLine,    ///< Around that.
+    KeyPressed,
+    KeyOff,
+    KeyFaint, ///< On a disabled key.
+    OkGround, ///< Behind a message that all is well, also what is switched on.
+    WarningGround,
+    AlarmGround,
+    OkOnStrip, ///< The same as words or drawings on a strip.
+    WarningOnStrip,
+    AlarmOnStrip,
+    Changed,  ///< What is not saved; on a strip.
+    Focus,    ///< Around what has the focus of the keyboard.
+    FocusLine ///< Around that.
+};
+
+/// A text or a drawing, and what it lies on.
+struct Pair
+{
+    Role text;
+    Role ground;
+};
 
 /// What a widget of the host can be dressed as.
 enum Dress {
@@ -43,7 +89,7 @@ enum Dress {
 Style style();
 /// Changes the application's palette, and what was dressed.
 void use(Style style);
-/// "light" or "dark".
+/// "light", "dark" or "high-contrast".
 QString name(Style style);
 /// All that name() gives.
 QStringList names();
@@ -61,6 +107,19 @@ void keepLight(QWidget *widget);
 QString sheet(Dress dress);
 
 QPalette palette();
+QPalette palette(Style style);
+
+QColor colour(Role role);
+QColor colour(Role role, Style style);
+/// All roles, in their order.
+QVector<Role> roles();
+/// As the page of the design calls it.
+QString name(Role role);
+/// Whatever may be read on something.
+QVector<Pair> pairs();
+/// What each of the pairs has at the least, as the accessibility guidelines count it: 4.5, and 7
+/// in the look for glare.
+double leastContrast(Style style);
 
 /// Behind white words of that tone.
 QColor ground(Message::Tone tone);
@@ -73,7 +132,7 @@ QColor edge();     ///< Around a dialog.
 QColor keyText();  ///< On a key of a key panel.
 QColor keyFaint(); ///< The same while the key is disabled.
 
-QColor focus();     ///< Around what has the focus of the keyboard, in both styles.
+QColor focus();     ///< Around what has the focus of the keyboard, in all looks.
 QColor focusEdge(); ///< Around that.
 
 QColor stripText();  ///< On a strip, and on its keys.

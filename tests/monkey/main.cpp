@@ -60,6 +60,7 @@ void addOptions(QStringList *arguments, quint32 seed)
                                      {"1024x600", "0"}, {"1280x800", "180"}, {"480x272", "180"},
                                      {"480x800", "270"}};
     const char *const languages[] = {"en", "de", "zh_CN", "it", "tr"};
+    const char *const looks[] = {"dark", "light", "high-contrast"};
     const char *const *shape = shapes[seed % (sizeof shapes / sizeof shapes[0])];
     const auto add = [arguments](const char *option, const QString &value) {
         arguments->append(QLatin1String(option));
@@ -74,7 +75,7 @@ void addOptions(QStringList *arguments, quint32 seed)
     if (!arguments->contains(QLatin1String("--language")))
         add("--language", QLatin1String(languages[seed % 5]));
     if (!arguments->contains(QLatin1String("--look")))
-        add("--look", QLatin1String(seed % 2 ? "light" : "dark"));
+        add("--look", QLatin1String(looks[seed % 3]));
     if (!arguments->contains(QLatin1String("--stick")))
         add("--stick", QLatin1String("/mnt/Storage.stick"));
 }

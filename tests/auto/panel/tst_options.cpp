@@ -180,6 +180,7 @@ void TestOptions::refused_data()
     QTest::newRow("no language") << QStringList{"--language", ""} << "language";
     QTest::newRow("empty directory") << QStringList{"--plc", ""} << "--plc";
     QTest::newRow("look of no kind") << QStringList{"--look", "grey"} << "grey";
+    QTest::newRow("look half named") << QStringList{"--look", "high"} << "high-contrast";
     QTest::newRow("dots of no number") << QStringList{"--dpi", "fine"} << "fine";
     QTest::newRow("dots beyond sense") << QStringList{"--dpi", "4000"} << "4000";
     QTest::newRow("no dots") << QStringList{"--dpi", "0"} << "50";

@@ -17,6 +17,9 @@
 #include <QLabel>
 #include <QTableWidget>
 
+#include <algorithm>
+#include <iterator>
+
 Q_DECLARE_METATYPE(Look::Dress)
 Q_DECLARE_METATYPE(Look::Style)
 
@@ -28,6 +31,11 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void namesAreRead();
+    void rolesHaveNames();
+    void pairsStandOut_data();
+    void pairsStandOut();
+    void eachTextAndGroundIsPaired();
+    void contrastOfTheLooks();
     void paletteIsReadable_data();
     void paletteIsReadable();
     void keysAreReadable_data();
@@ -62,6 +70,7 @@ void TestLook::addStyles()
     QTest::addColumn<Look::Style>("style");
     QTest::newRow("light") << Look::Light;
     QTest::newRow("dark") << Look::Dark;
+    QTest::newRow("high contrast") << Look::HighContrast;
 }
 
 void TestLook::namesAreRead()
@@ -72,9 +81,74 @@ void TestLook::namesAreRead()
     QVERIFY(!Look::read("Dark", &style));
     QVERIFY(!Look::read(QString(), &style));
     QCOMPARE(style, Look::Dark);
-    QCOMPARE(Look::names(), QStringList({"light", "dark"}));
+    QCOMPARE(Look::names(), QStringList({"light", "dark", "high-contrast"}));
     QCOMPARE(Look::name(Look::Light), QString("light"));
     QCOMPARE(Look::name(Look::Dark), QString("dark"));
+    QVERIFY(Look::read("high-contrast", &style));
+    QCOMPARE(style, Look::HighContrast);
+    QCOMPARE(Look::name(Look::HighContrast), QString("high-contrast"));
+}
+
+void TestLook::rolesHaveNames()
+{
+    QStringList names;
+    for (Look::Role role : Look::roles())
+        names.append(Look::name(role));
+    QCOMPARE(names.first(), QString("surface"));
+    QCOMPARE(names.last(), QString("focus line"));
+    QCOMPARE(names.removeDuplicates(), 0);
+    QVERIFY(!names.contains(QString()));
+}
+
+/// The pairs that stand out less than the look asks for.
+static QStringList weak(const QVector<Look::Pair> &pairs, Look::Style style)
+{
+    QStringList found;
+    for (const Look::Pair &pair : pairs) {
+        const double ratio =
+            Contrast::ratio(Look::colour(pair.text, style), Look::colour(pair.ground, style));
+        if (ratio < Look::leastContrast(style))
+            found.append(QString("%1 on %2: %3")
+                             .arg(Look::name(pair.text), Look::name(pair.ground))
+                             .arg(ratio));
+    }
+    return found;
+}
+
+void TestLook::pairsStandOut_data()
+{
+    addStyles();
+}
+
+void TestLook::pairsStandOut()
+{
+    QFETCH(Look::Style, style);
+    QVector<Look::Pair> pairs = Look::pairs();
+    QVERIFY(pairs.size() > 20);
+    QCOMPARE(weak(pairs, style), QStringList());
+    // The check finds a pair that cannot be read.
+    pairs.append({Look::Role::Text, Look::Role::Faint});
+    QCOMPARE(weak(pairs, style).size(), 1);
+    QVERIFY(weak(pairs, style).first().startsWith("text on faint"));
+}
+
+void TestLook::eachTextAndGroundIsPaired()
+{
+    QVector<Look::Role> paired;
+    for (const Look::Pair &pair : Look::pairs())
+        paired << pair.text << pair.ground;
+    const Look::Role lines[] = {Look::Role::Line, Look::Role::KeyLine};
+    for (Look::Role role : Look::roles()) {
+        const bool isLine = std::find(std::begin(lines), std::end(lines), role) != std::end(lines);
+        QVERIFY2(paired.contains(role) != isLine, qPrintable(Look::name(role)));
+    }
+}
+
+void TestLook::contrastOfTheLooks()
+{
+    QCOMPARE(Look::leastContrast(Look::Light), Contrast::textContrast);
+    QCOMPARE(Look::leastContrast(Look::Dark), Contrast::textContrast);
+    QCOMPARE(Look::leastContrast(Look::HighContrast), 7.0);
 }
 
 void TestLook::paletteIsReadable_data()
@@ -102,7 +176,7 @@ void TestLook::paletteIsReadable()
         for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
             const double ratio = Contrast::ratio(palette.color(group, pair.first),
                                                  palette.color(group, pair.second));
-            QVERIFY2(ratio >= Contrast::textContrast,
+            QVERIFY2(ratio >= Look::leastContrast(style),
                      qPrintable(
                          QString("role %1 on %2: %3").arg(pair.first).arg(pair.second).arg(ratio)));
         }
@@ -111,7 +185,7 @@ void TestLook::paletteIsReadable()
         const double ratio =
             Contrast::ratio(palette.color(QPalette::Disabled, QPalette::WindowText),
                             palette.color(QPalette::Disabled, ground));
-        QVERIFY2(ratio >= Contrast::disabledContrast, qPrintable(QString::number(ratio)));
+        QVERIFY2(ratio >= Look::leastContrast(style), qPrintable(QString::number(ratio)));
     }
 }
 
@@ -120,7 +194,7 @@ void TestLook::keysAreReadable_data()
     QTest::addColumn<Look::Style>("style");
     QTest::addColumn<Look::Dress>("dress");
     QTest::addColumn<bool>("withGlyph");
-    for (Look::Style style : {Look::Light, Look::Dark}) {
+    for (Look::Style style : {Look::Light, Look::Dark, Look::HighContrast}) {
         for (Look::Dress dress : {Look::Strip, Look::KeyPanel}) {
             for (bool withGlyph : {false, true})
                 QTest::newRow(qPrintable(QString("%1 %2 %3")
@@ -138,6 +212,7 @@ void TestLook::keysAreReadable()
     QFETCH(Look::Dress, dress);
     QFETCH(bool, withGlyph);
     Look::use(style);
+    const double least = Look::leastContrast(style);
     QWidget strip;
     strip.setObjectName("strip");
     strip.setAttribute(Qt::WA_StyledBackground);
@@ -151,25 +226,25 @@ void TestLook::keysAreReadable()
     key->resize(90, 44);
     strip.show();
     const QRect inside = key->rect().adjusted(8, 6, -8, -6);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(key, inside) >= least);
     key->setDown(true);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(key, inside) >= least);
     key->setDown(false);
     key->setChecked(true);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(key, inside) >= least);
     key->setDown(true);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(key, inside) >= least);
     key->setDown(false);
     key->setChecked(false);
     key->setEnabled(false);
-    QVERIFY(Contrast::drawn(key, inside) >= Contrast::disabledContrast);
+    QVERIFY(Contrast::drawn(key, inside) >= least);
 }
 
 void TestLook::messagesAreReadable_data()
 {
     QTest::addColumn<Look::Style>("style");
     QTest::addColumn<Message::Tone>("tone");
-    for (Look::Style style : {Look::Light, Look::Dark}) {
+    for (Look::Style style : {Look::Light, Look::Dark, Look::HighContrast}) {
         const QByteArray name = Look::name(style).toLatin1();
         QTest::newRow((name + " information").constData()) << style << Message::Information;
         QTest::newRow((name + " warning").constData()) << style << Message::Warning;
@@ -182,6 +257,7 @@ void TestLook::messagesAreReadable()
     QFETCH(Look::Style, style);
     QFETCH(Message::Tone, tone);
     Look::use(style);
+    const double least = Look::leastContrast(style);
     MessageLog log;
     MessageBar bar(&log, MessageBar::Row);
     bar.resize(480, 40);
@@ -191,12 +267,11 @@ void TestLook::messagesAreReadable()
     log.closeAll();
     log.tell("The PLC does not answer.", tone);
     QLabel *text = bar.findChild<QLabel *>();
-    QVERIFY(Contrast::drawn(&bar, text->geometry()) >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(&bar, text->geometry()) >= least);
     QWidget *mark = bar.findChild<ToneMark *>();
-    QVERIFY(Contrast::drawn(&bar, mark->geometry()) >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(&bar, mark->geometry()) >= least);
     PanelKey *key = bar.findChild<PanelKey *>();
-    QVERIFY(Contrast::drawn(&bar, key->geometry().adjusted(8, 8, -8, -8))
-            >= Contrast::textContrast);
+    QVERIFY(Contrast::drawn(&bar, key->geometry().adjusted(8, 8, -8, -8)) >= least);
 }
 
 void TestLook::messagesOfTheListAreReadable_data()
@@ -209,6 +284,7 @@ void TestLook::messagesOfTheListAreReadable()
     QFETCH(Look::Style, style);
     QFETCH(Message::Tone, tone);
     Look::use(style);
+    const double least = Look::leastContrast(style);
     MessageLog log;
     // One that has ended, and one that stands.
     log.tell("The PLC did not answer.", tone, "plc");
@@ -224,11 +300,10 @@ void TestLook::messagesOfTheListAreReadable()
         QCOMPARE(labels.size(), 2);
         for (QLabel *label : labels) {
             const QRect place(label->mapTo(&dialog, QPoint(0, 0)), label->size());
-            QVERIFY(Contrast::drawn(&dialog, place) >= Contrast::textContrast);
+            QVERIFY(Contrast::drawn(&dialog, place) >= least);
         }
         QWidget *mark = line->findChild<ToneMark *>();
-        QVERIFY(Contrast::drawn(mark, mark->rect().adjusted(3, 3, -3, -3))
-                >= Contrast::textContrast);
+        QVERIFY(Contrast::drawn(mark, mark->rect().adjusted(3, 3, -3, -3)) >= least);
     }
 }
 
@@ -241,6 +316,7 @@ void TestLook::stripColoursAreReadable()
 {
     QFETCH(Look::Style, style);
     Look::use(style);
+    const double least = Look::leastContrast(style);
     QWidget strip;
     strip.setObjectName("strip");
     strip.setAttribute(Qt::WA_StyledBackground);
@@ -250,8 +326,7 @@ void TestLook::stripColoursAreReadable()
     for (const QColor &color : {Look::stripText(), Look::changed(), Look::stripFaint(),
                                 Look::onStrip(Message::Information),
                                 Look::onStrip(Message::Warning), Look::onStrip(Message::Alarm)})
-        QVERIFY2(Contrast::ratio(color, ground) >= Contrast::textContrast,
-                 qPrintable(color.name()));
+        QVERIFY2(Contrast::ratio(color, ground) >= least, qPrintable(color.name()));
 }
 
 void TestLook::whatIsShownFollows()
