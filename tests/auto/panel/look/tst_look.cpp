@@ -13,6 +13,7 @@
 #include "shell/messagelog.h"
 #include "wgcodeediter.h"
 
+#include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QTableWidget>
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void pairsStandOut();
     void eachTextAndGroundIsPaired();
     void contrastOfTheLooks();
+    void pageHasTheColours();
+    void pageHasTheContrasts();
     void paletteIsReadable_data();
     void paletteIsReadable();
     void keysAreReadable_data();
@@ -149,6 +152,66 @@ void TestLook::contrastOfTheLooks()
     QCOMPARE(Look::leastContrast(Look::Light), Contrast::textContrast);
     QCOMPARE(Look::leastContrast(Look::Dark), Contrast::textContrast);
     QCOMPARE(Look::leastContrast(Look::HighContrast), 7.0);
+}
+
+/// The cells of those lines of the page's tables that begin with \a first, without their quotes.
+static QList<QStringList> linesOfPage(const QString &first)
+{
+    QFile page(FILARIX_DESIGN_PAGE);
+    if (!page.open(QIODevice::ReadOnly))
+        return QList<QStringList>();
+    QList<QStringList> found;
+    for (const QString &line : QString::fromUtf8(page.readAll()).remove('`').split('\n')) {
+        const QStringList cells = line.split(" | ");
+        if (cells.size() > 2 && cells.first() == "| " + first)
+            found.append(cells);
+    }
+    return found;
+}
+
+static const Look::Style allStyles[] = {Look::Light, Look::Dark, Look::HighContrast};
+
+void TestLook::pageHasTheColours()
+{
+    for (Look::Role role : Look::roles()) {
+        QStringList wanted{"| " + Look::name(role)};
+        for (Look::Style style : allStyles)
+            wanted.append(Look::colour(role, style).name());
+        bool isThere = false;
+        for (const QStringList &cells : linesOfPage(Look::name(role)))
+            isThere = isThere || cells.mid(0, 4) == wanted;
+        QVERIFY2(isThere, qPrintable(wanted.join(" | ")));
+    }
+}
+
+static Look::Role roleNamed(const QString &name)
+{
+    for (Look::Role role : Look::roles()) {
+        if (Look::name(role) == name)
+            return role;
+    }
+    return Look::Role::Line;
+}
+
+void TestLook::pageHasTheContrasts()
+{
+    int told = 0;
+    for (Look::Role ground : Look::roles()) {
+        for (const QStringList &cells : linesOfPage(Look::name(ground))) {
+            if (cells.size() != 5 || cells.at(1).startsWith('#') || cells.at(2).startsWith('#'))
+                continue;
+            const Look::Role text = roleNamed(cells.at(1));
+            for (Look::Style style : allStyles) {
+                const double ratio =
+                    Contrast::ratio(Look::colour(text, style), Look::colour(ground, style));
+                // Rounded down, so that none is told to be better than it is.
+                const QString wanted = QString::number(std::floor(ratio * 10) / 10, 'f', 1);
+                QCOMPARE(cells.at(2 + int(style)).split(' ').first(), wanted);
+            }
+            ++told;
+        }
+    }
+    QVERIFY(told > 20);
 }
 
 void TestLook::paletteIsReadable_data()
