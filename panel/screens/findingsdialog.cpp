@@ -4,23 +4,19 @@
 #include "screens/findingsdialog.h"
 
 #include "filarixpanel.h"
-#include "look/look.h"
-#include "look/measures.h"
+#include "look/dialogtitle.h"
+#include "look/pagekeys.h"
 #include "look/paneltable.h"
 #include "look/tonemark.h"
 #include "screens/programreview.h"
 
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace {
 
@@ -35,16 +31,6 @@ const int signSide = 22;
 bool isNarrow()
 {
     return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
-}
-
-QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
-{
-    QPushButton *key = new QPushButton(text);
-    key->setObjectName(QLatin1String(objectName));
-    key->setAutoDefault(false);
-    key->setMinimumSize(Measures::touch(), Measures::touch());
-    row->addWidget(key, 1);
-    return key;
 }
 
 QIcon signOf(Finding::Severity severity)
@@ -89,26 +75,15 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(margin);
+    column->addWidget(new DialogTitle(this));
     column->addWidget(head);
     column->addWidget(m_table, 1);
-    QHBoxLayout *keys = new QHBoxLayout;
-    keys->setSpacing(margin);
+    PageKeys *keys = new PageKeys(m_table, PageKeys::oneRow);
     column->addLayout(keys);
-    m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
-    m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
-    QPushButton *closeKey = addKey(keys, tr("Close"), "close");
-
-    m_backKey->setAccessibleName(tr("Page up"));
-    m_forthKey->setAccessibleName(tr("Page down"));
-    connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
-    connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
-    connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
+    connect(keys->add(tr("Close"), "close"), &QPushButton::clicked, this, &QDialog::reject);
     connect(m_table, &QTableWidget::cellClicked, this, &FindingsDialog::choose);
     // Return, where the arrows led to.
     connect(m_table, &QTableWidget::cellActivated, this, &FindingsDialog::choose);
-    const QScrollBar *bar = m_table->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, &FindingsDialog::showState);
-    connect(bar, &QScrollBar::rangeChanged, this, &FindingsDialog::showState);
     fill();
     resize(roomy.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 8)));
 }
@@ -146,24 +121,10 @@ void FindingsDialog::fill()
             row, 0, new QTableWidgetItem(signs[finding.severity], QString::number(finding.line)));
         m_table->setItem(row, 1, new QTableWidgetItem(finding.text()));
     }
-    showState();
 }
 
 void FindingsDialog::choose(int row)
 {
     m_finding = row;
     accept();
-}
-
-void FindingsDialog::turn(int pages)
-{
-    QScrollBar *bar = m_table->verticalScrollBar();
-    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - 1));
-}
-
-void FindingsDialog::showState()
-{
-    const QScrollBar *bar = m_table->verticalScrollBar();
-    m_backKey->setEnabled(bar->value() > bar->minimum());
-    m_forthKey->setEnabled(bar->value() < bar->maximum());
 }

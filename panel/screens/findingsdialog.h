@@ -12,7 +12,6 @@
 
 class PanelTable;
 class ProgramReview;
-class QPushButton;
 
 /// All that the check found, a page at a time. A touch on a line chooses it, and ends the dialog.
 class FindingsDialog : public Dialog
@@ -36,15 +35,11 @@ protected:
 private:
     void fill();
     void choose(int row);
-    void turn(int pages);
-    void showState();
 
     /// The row of the finding at the operator's line, or of the next one.
     const int m_nearest;
     const QVector<Finding> m_findings;
     PanelTable *m_table;
-    QPushButton *m_backKey;
-    QPushButton *m_forthKey;
     int m_finding = -1;
 };
 

@@ -4,8 +4,8 @@
 #include "screens/historydialog.h"
 
 #include "filarixpanel.h"
-#include "look/look.h"
-#include "look/measures.h"
+#include "look/dialogtitle.h"
+#include "look/pagekeys.h"
 #include "look/paneltable.h"
 #include "programs/programhistory.h"
 #include "programs/programsnapshot.h"
@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,25 +25,6 @@ namespace {
 const QSize roomy(720, 560);
 const int columns = 4;
 const int wideFrom = 600;
-
-QHBoxLayout *addKeyRow(QVBoxLayout *column)
-{
-    QHBoxLayout *row = new QHBoxLayout;
-    row->setSpacing(6);
-    column->addLayout(row);
-    return row;
-}
-
-/// A word takes twice the room of an arrow.
-QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
-{
-    QPushButton *key = new QPushButton(text);
-    key->setObjectName(QLatin1String(objectName));
-    key->setAutoDefault(false);
-    key->setMinimumWidth(Measures::touch());
-    row->addWidget(key, text.size() == 1 ? 1 : 2);
-    return key;
-}
 
 } // namespace
 
@@ -70,22 +50,22 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->setSpacing(6);
+    column->addWidget(new DialogTitle(this));
     column->addWidget(m_table, 1);
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
-    QHBoxLayout *keys = addKeyRow(column);
-    m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
-    m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
-    m_onlyKey = addKey(keys, tr("Only this"), "only");
-    if (panel.width() < FilarixPanel::smallBelow)
-        keys = addKeyRow(column);
-    m_restoreKey = addKey(keys, tr("Bring back"), "restore");
-    QPushButton *closeKey = addKey(keys, tr("Close"), "close");
+    PageKeys *keys = new PageKeys(m_table, PageKeys::oneRow);
+    column->addLayout(keys);
+    m_onlyKey = keys->add(tr("Only this"), "only");
     m_onlyKey->setCheckable(true);
+    QHBoxLayout *answers = keys;
+    if (panel.width() < FilarixPanel::smallBelow) {
+        answers = new QHBoxLayout;
+        answers->setSpacing(keys->spacing());
+        column->addLayout(answers);
+    }
+    m_restoreKey = PageKeys::addTo(answers, tr("Bring back"), "restore");
+    QPushButton *closeKey = PageKeys::addTo(answers, tr("Close"), "close");
 
-    m_backKey->setAccessibleName(tr("Page up"));
-    m_forthKey->setAccessibleName(tr("Page down"));
-    connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
-    connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
     connect(m_onlyKey, &QPushButton::clicked, this, [this](bool isOn) {
         m_only = isOn ? version().name : QString();
         fill();
@@ -93,10 +73,6 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     connect(m_restoreKey, &QPushButton::clicked, this, &QDialog::accept);
     connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryDialog::showState);
-    connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, this,
-            &HistoryDialog::showState);
-    connect(m_table->verticalScrollBar(), &QScrollBar::rangeChanged, this,
-            &HistoryDialog::showState);
     fill();
     resize(roomy.boundedTo(panel - QSize(8, 8)));
 }
@@ -141,18 +117,9 @@ void HistoryDialog::fill()
     showState();
 }
 
-void HistoryDialog::turn(int pages)
-{
-    QScrollBar *bar = m_table->verticalScrollBar();
-    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - 1));
-}
-
 void HistoryDialog::showState()
 {
     const bool isChosen = !m_table->selectedItems().isEmpty();
     m_restoreKey->setEnabled(isChosen);
     m_onlyKey->setEnabled(isChosen || m_onlyKey->isChecked());
-    const QScrollBar *bar = m_table->verticalScrollBar();
-    m_backKey->setEnabled(bar->value() > bar->minimum());
-    m_forthKey->setEnabled(bar->value() < bar->maximum());
 }

@@ -28,15 +28,12 @@ protected:
 
 private:
     void fill();
-    void turn(int pages);
     void showState();
 
     QList<ProgramVersion> m_all;
     QList<ProgramVersion> m_shown;
     PanelTable *m_table;
     QPushButton *m_onlyKey;
-    QPushButton *m_backKey;
-    QPushButton *m_forthKey;
     QPushButton *m_restoreKey;
     QString m_only;
 };

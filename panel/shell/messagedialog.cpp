@@ -4,22 +4,21 @@
 #include "shell/messagedialog.h"
 
 #include "filarixpanel.h"
+#include "look/dialogtitle.h"
 #include "look/look.h"
 #include "look/measures.h"
+#include "look/pagekeys.h"
 #include "look/tonemark.h"
 #include "shell/messagelog.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace {
 
@@ -56,16 +55,6 @@ QString breakable(const QString &text)
     return result;
 }
 
-QPushButton *addKey(QHBoxLayout *row, const QString &text, const char *objectName)
-{
-    QPushButton *key = new QPushButton(text);
-    key->setObjectName(QLatin1String(objectName));
-    key->setAutoDefault(false);
-    key->setMinimumSize(Measures::touch(), Measures::touch());
-    row->addWidget(key, 1);
-    return key;
-}
-
 QSize panelSize()
 {
     return QGuiApplication::primaryScreen()->availableSize();
@@ -85,27 +74,16 @@ MessageDialog::MessageDialog(MessageLog *log, const QString &subject, QWidget *p
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->setSpacing(6);
+    column->addWidget(new DialogTitle(this));
     if (!subject.isEmpty()) {
         QLabel *label = makeLabel(breakable(subject), textPixels);
         label->setObjectName(QLatin1String("subject"));
         column->addWidget(label);
     }
     column->addWidget(m_area, 1);
-    QHBoxLayout *keys = new QHBoxLayout;
-    keys->setSpacing(6);
+    PageKeys *keys = new PageKeys(m_area, Measures::touch());
     column->addLayout(keys);
-    m_backKey = addKey(keys, QString(QChar(0x25b2)), "back");
-    m_forthKey = addKey(keys, QString(QChar(0x25bc)), "forth");
-    QPushButton *closeKey = addKey(keys, tr("Close"), "close");
-
-    m_backKey->setAccessibleName(tr("Page up"));
-    m_forthKey->setAccessibleName(tr("Page down"));
-    connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
-    connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
-    connect(closeKey, &QPushButton::clicked, this, &QDialog::reject);
-    const QScrollBar *bar = m_area->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, &MessageDialog::showState);
-    connect(bar, &QScrollBar::rangeChanged, this, &MessageDialog::showState);
+    connect(keys->add(tr("Close"), "close"), &QPushButton::clicked, this, &QDialog::reject);
     connect(m_log, &MessageLog::changed, this, &MessageDialog::fill);
     fill();
     resize(roomy.boundedTo(panelSize() - QSize(8, 8)));
@@ -167,19 +145,4 @@ void MessageDialog::fill()
     m_area->setWidget(content);
     content->show();
     m_area->verticalScrollBar()->setValue(place);
-    showState();
-}
-
-void MessageDialog::turn(int pages)
-{
-    QScrollBar *bar = m_area->verticalScrollBar();
-    // The last line of a page is the first of the next.
-    bar->setValue(bar->value() + pages * std::max(1, bar->pageStep() - Measures::touch()));
-}
-
-void MessageDialog::showState()
-{
-    const QScrollBar *bar = m_area->verticalScrollBar();
-    m_backKey->setEnabled(bar->value() > bar->minimum());
-    m_forthKey->setEnabled(bar->value() < bar->maximum());
 }

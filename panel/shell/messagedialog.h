@@ -8,7 +8,6 @@
 #include "dialog.h"
 
 class MessageLog;
-class QPushButton;
 class QScrollArea;
 
 /// The last messages in full with their times, the newest on top, a page at a time. Messages that
@@ -28,13 +27,9 @@ public:
 private:
     QWidget *makeLine(const Message &message, bool stands) const;
     void fill();
-    void turn(int pages);
-    void showState();
 
     MessageLog *m_log;
     QScrollArea *m_area;
-    QPushButton *m_backKey;
-    QPushButton *m_forthKey;
 };
 
 #endif // MESSAGEDIALOG_H
