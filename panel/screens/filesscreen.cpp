@@ -93,7 +93,8 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     connect(m_historyKey, &PanelKey::clicked, this, &FilesScreen::showHistory);
     connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::refreshStatus);
     connect(m_history, &ProgramHistory::versionsChanged, this, &FilesScreen::showState);
-    connect(m_history, &ProgramHistory::worked, this, &FilesScreen::worked);
+    connect(m_history, &ProgramHistory::worked, this,
+            [this](const QString &text, int percent) { Q_EMIT worked(text, percent); });
     connect(m_history, &ProgramHistory::told, this, &FilesScreen::told);
     connect(m_history, &ProgramHistory::causeEnded, this, &FilesScreen::causeEnded);
     connect(m_guard, &ImportGuard::told, this, &FilesScreen::told);
@@ -281,7 +282,7 @@ void FilesScreen::showHistory()
         m_history->restore(dialog.version());
 }
 
-void FilesScreen::stopWork()
+void FilesScreen::stopWork(const QString &)
 {
     m_history->stopRestoring();
 }

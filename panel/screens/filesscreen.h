@@ -61,7 +61,7 @@ public:
     void showHistory();
 
 public Q_SLOTS:
-    void stopWork() override;
+    void stopWork(const QString &work = QString()) override;
     /// Takes note of a stick that has come or gone: when one comes, its names are checked.
     void showDevices(const DeviceState &state);
 

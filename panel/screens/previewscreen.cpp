@@ -32,7 +32,8 @@ PreviewScreen::PreviewScreen(CoilPreview *preview, const QSize &surface,
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pane);
-    connect(&m_export, &CoilExport::worked, this, &PreviewScreen::worked);
+    connect(&m_export, &CoilExport::worked, this,
+            [this](const QString &text, int percent) { Q_EMIT worked(text, percent); });
     connect(&m_export, &CoilExport::told, this, &PreviewScreen::told);
     connect(&m_export, &CoilExport::causeEnded, this, &PreviewScreen::causeEnded);
     connect(m_preview, &CoilPreview::told, this, &PreviewScreen::told);
@@ -69,7 +70,7 @@ void PreviewScreen::setLine(int line)
     Q_EMIT lineChanged(line);
 }
 
-void PreviewScreen::stopWork()
+void PreviewScreen::stopWork(const QString &)
 {
     m_export.stop();
 }

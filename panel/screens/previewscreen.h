@@ -39,7 +39,7 @@ public:
     CoilExport *coilExport() { return &m_export; }
 
 public Q_SLOTS:
-    void stopWork() override;
+    void stopWork(const QString &work = QString()) override;
     /// What the key Export does.
     void exportCoil();
     /// The line at the editor's cursor, from 1.

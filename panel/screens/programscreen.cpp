@@ -129,7 +129,8 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     connect(m_window, &WMMainWindow::signal_copyFromTag, this, &ProgramScreen::insertTaughtPoint);
     connect(m_download, &CheckedDownload::told, this, &ProgramScreen::told);
     connect(m_download, &CheckedDownload::causeEnded, this, &ProgramScreen::causeEnded);
-    connect(m_download, &CheckedDownload::worked, this, &ProgramScreen::worked);
+    connect(m_download, &CheckedDownload::worked, this,
+            [this](const QString &text, int percent) { Q_EMIT worked(text, percent); });
     m_guard->setDownload(m_download);
     m_pickers->setRecent(m_recent);
     connect(m_pickers, &ProgramPickers::fitted, this, [](QDialog *dialog) {
@@ -395,7 +396,7 @@ void ProgramScreen::retranslate()
     FindDialogFitter::retranslate();
 }
 
-void ProgramScreen::stopWork()
+void ProgramScreen::stopWork(const QString &)
 {
     m_download->stop();
 }

@@ -77,7 +77,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
-    void stopWork() override;
+    void stopWork(const QString &work = QString()) override;
     /// Shows the findings of the check below the program, or hides them. A small panel has no room
     /// for the state of the program meanwhile.
     void showFindings(bool isWanted = true);

@@ -24,6 +24,7 @@ const int rowBar = 8;
 const int lineBar = 3;
 // A thumb that is on its way to Stop must not close what says how the work ended.
 const int keyRestMs = 700;
+const int wholePercent = 100;
 
 } // namespace
 
@@ -33,11 +34,14 @@ MessageBar::MessageBar(MessageLog *log, Form form, QWidget *parent)
     , m_form(form)
     , m_mark(form == Row ? new ToneMark : nullptr)
     , m_label(new ElidedLabel)
+    , m_left(new QLabel)
     , m_progress(new QProgressBar)
     , m_key(new PanelKey(Glyphs::icon(Glyphs::Close), QString()))
 {
     setObjectName(QLatin1String("messageBar"));
     m_label->setObjectName(QLatin1String("messageText"));
+    m_left->setObjectName(QLatin1String("workLeft"));
+    m_left->setTextFormat(Qt::PlainText);
     m_key->setObjectName(QLatin1String("messageKey"));
     m_progress->setTextVisible(false);
     layOut();
@@ -48,7 +52,7 @@ MessageBar::MessageBar(MessageLog *log, Form form, QWidget *parent)
     connect(m_log, &MessageLog::changed, this, &MessageBar::refresh);
     m_keyRest.setSingleShot(true);
     m_keyRest.setInterval(keyRestMs);
-    connect(&m_keyRest, &QTimer::timeout, this, [this] { m_key->setEnabled(true); });
+    connect(&m_keyRest, &QTimer::timeout, this, [this] { m_key->setEnabled(m_mayStop); });
     refresh();
 }
 
@@ -57,6 +61,7 @@ void MessageBar::layOut()
     QFont font = m_label->font();
     font.setPixelSize(m_form == Row ? rowPixels : linePixels);
     m_label->setFont(font);
+    m_left->setFont(font);
     m_label->setLines(m_form == Row ? rowLines : 1);
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setFixedHeight(m_form == Row ? rowBar : lineBar);
@@ -69,11 +74,13 @@ void MessageBar::layOut()
     if (m_form == Line) {
         row->setContentsMargins(3, 0, 3, 0);
         row->addLayout(column, 1);
+        row->addWidget(m_left);
         return;
     }
     row->setContentsMargins(6, 0, 0, 0);
     row->addWidget(m_mark);
     row->addLayout(column, 1);
+    row->addWidget(m_left);
     row->addWidget(m_key);
     // The text keeps its lines when the key comes and goes.
     QSizePolicy policy = m_key->sizePolicy();
@@ -93,12 +100,17 @@ void MessageBar::placeKey()
     m_key->setFixedHeight(height());
 }
 
-void MessageBar::showWork(const QString &text, int percent)
+void MessageBar::showWork(const QString &text, int percent, const QString &left, bool mayStop)
 {
     const bool begins = !m_isWorking;
     m_isWorking = true;
+    m_mayStop = mayStop;
     m_workText = text;
+    m_left->setText(left);
+    m_progress->setRange(0, percent < 0 ? 0 : wholePercent);
     m_progress->setValue(percent);
+    if (begins)
+        m_keyRest.stop();
     if (begins)
         m_log->passOn();
     refresh();
@@ -111,10 +123,16 @@ void MessageBar::endWork()
     if (!m_isWorking)
         return;
     m_isWorking = false;
+    m_mayStop = true;
+    restKey();
+    refresh();
+}
+
+void MessageBar::restKey()
+{
     m_key->setDown(false);
     m_key->setEnabled(false);
     m_keyRest.start();
-    refresh();
 }
 
 void MessageBar::refresh()
@@ -123,6 +141,7 @@ void MessageBar::refresh()
     const bool showsMessage = !message.text.isEmpty() && (!m_isWorking || m_log->isFresh());
     m_text = showsMessage ? message.text : m_isWorking ? m_workText : QString();
     m_progress->setVisible(m_isWorking);
+    m_left->setVisible(m_isWorking && !showsMessage && !m_left->text().isEmpty());
     placeKey();
     showKey(!m_text.isEmpty());
     if (m_text.isEmpty()) {
@@ -157,10 +176,8 @@ void MessageBar::showKey(bool isWanted)
     m_key->setText(m_isWorking ? tr("Stop") : QString());
     m_key->setAccessibleName(m_isWorking ? QString() : tr("Close"));
     m_key->setToolButtonStyle(m_isWorking ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
-    if (m_isWorking) {
-        m_keyRest.stop();
-        m_key->setEnabled(true);
-    }
+    if (m_isWorking && !m_keyRest.isActive())
+        m_key->setEnabled(m_mayStop);
     m_key->setVisible(isWanted);
 }
 

@@ -12,6 +12,7 @@
 class ElidedLabel;
 class MessageLog;
 class PanelKey;
+class QLabel;
 class QProgressBar;
 class ToneMark;
 
@@ -37,8 +38,13 @@ public:
     MessageBar(MessageLog *log, Form form, QWidget *parent = nullptr);
 
     /// Takes the place of the messages until endWork(), except for those that were just told.
-    void showWork(const QString &text, int percent);
+    /// \a left says how long the work still takes. A percentage below 0 is one that nobody knows.
+    /// Work that was told to stop already may not be stopped once more.
+    void showWork(const QString &text, int percent, const QString &left = QString(),
+                  bool mayStop = true);
     void endWork();
+    /// The key does nothing for a moment: other work has come in the place of the one it stopped.
+    void restKey();
     bool isWorking() const { return m_isWorking; }
 
     /// The text of what it shows; empty while that is the last message at most.
@@ -68,12 +74,14 @@ private:
     const Form m_form;
     ToneMark *m_mark;
     ElidedLabel *m_label;
+    QLabel *m_left;
     QProgressBar *m_progress;
     PanelKey *m_key;
     QTimer m_keyRest;
     QString m_text;
     QString m_workText;
     bool m_isWorking = false;
+    bool m_mayStop = true;
 };
 
 #endif // MESSAGEBAR_H

@@ -28,7 +28,8 @@ public:
     virtual QList<PanelKey *> keys() { return QList<PanelKey *>(); }
     /// Asks what has to be asked before the program ends; false keeps it open.
     virtual bool mayClose() { return true; }
-    /// Whether the work that worked() told of goes on. If not, the next told() says how it ended.
+    /// Whether the work without a name that worked() told of goes on. If not, the next told() says
+    /// how it ended.
     virtual bool isWorking() const { return false; }
     /// Looks whether what it shows is still so; the shell calls it every few seconds.
     virtual void refreshStatus() {}
@@ -41,12 +42,16 @@ Q_SIGNALS:
     void explained(const QString &text);
     /// What messages of this cause were about is over.
     void causeEnded(const QString &cause);
-    /// Long work goes on: \a percent of it is done. The shell offers a Stop key.
-    void worked(const QString &text, int percent);
+    /// Long work goes on: \a percent of it is done, or WorkProgress::lengthUnknown. The shell shows
+    /// how long it still takes, and offers a Stop key. A screen that may do several things at once
+    /// gives each a name in \a work.
+    void worked(const QString &text, int percent, const QString &work = QString());
+    /// The work of that name goes on no more.
+    void workEnded(const QString &work);
 
 public Q_SLOTS:
-    /// The operator pressed Stop.
-    virtual void stopWork() {}
+    /// The operator pressed Stop while \a work was shown.
+    virtual void stopWork(const QString &work = QString()) { Q_UNUSED(work) }
 
 protected:
     /// The language has changed: sets what no LiveText does.

@@ -63,7 +63,8 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     if (hasMenu())
         makeMenu();
 
-    connect(m_messageBar, &MessageBar::stopped, this, [this] { m_working->stopWork(); });
+    connect(m_messageBar, &MessageBar::stopped, &m_works, &WorkProgress::stop);
+    connect(&m_works, &WorkProgress::changed, this, &PanelWindow::showWork);
     connect(m_messageBar, &MessageBar::touched, this, &PanelWindow::showMessages);
     connect(&m_causes, &DeviceCauses::ended, &m_log, &MessageLog::end);
 
@@ -206,10 +207,13 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
             });
     connect(screen, &PanelScreen::causeEnded, &m_log, &MessageLog::end);
     connect(screen, &PanelScreen::explained, this, &PanelWindow::showInFull);
-    connect(screen, &PanelScreen::worked, this, [this, screen](const QString &text, int percent) {
-        m_working = screen;
-        m_messageBar->showWork(text, percent);
-    });
+    connect(screen, &PanelScreen::worked, this,
+            [this, screen](const QString &text, int percent, const QString &work) {
+                m_works.report(screen, work, text, percent,
+                               [screen, work] { screen->stopWork(work); });
+            });
+    connect(screen, &PanelScreen::workEnded, this,
+            [this, screen](const QString &work) { m_works.end(screen, work); });
     screen->refreshStatus();
     if (index == 0)
         showScreen(0);
@@ -350,8 +354,8 @@ void PanelWindow::showTitle()
 void PanelWindow::tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,
                          const QString &cause)
 {
-    if (screen == m_working && !screen->isWorking())
-        m_messageBar->endWork();
+    if (!screen->isWorking())
+        m_works.end(screen, QString());
     m_log.tell(text, tone, cause);
 }
 
@@ -370,6 +374,19 @@ void PanelWindow::showInFull(const QString &subject)
 void PanelWindow::placeMessages()
 {
     m_status->setVisible(m_messageBar->text().isEmpty());
+}
+
+void PanelWindow::showWork()
+{
+    // A thumb that is on its way to Stop must not stop what comes in the place of its work.
+    const bool isAnother = m_shownWork != 0 && m_works.number() != m_shownWork;
+    m_shownWork = m_works.number();
+    if (m_shownWork == 0)
+        return m_messageBar->endWork();
+    m_messageBar->showWork(m_works.text(), m_works.percent(), m_works.left(),
+                           !m_works.isStopping());
+    if (isAnother)
+        m_messageBar->restKey();
 }
 
 void PanelWindow::showDevices(const DeviceState &state)

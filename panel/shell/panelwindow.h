@@ -7,6 +7,7 @@
 #include "shell/devicecauses.h"
 #include "shell/messagelog.h"
 #include "shell/panelscreen.h"
+#include "shell/workprogress.h"
 
 #include <QList>
 #include <QSize>
@@ -66,6 +67,8 @@ public:
 
     /// What the operator was told. Whoever is no screen and has something to say tells it there.
     MessageLog *messages() { return &m_log; }
+    /// The long work that goes on. Whoever is no screen tells of it there.
+    WorkProgress *works() { return &m_works; }
     MessageBar *messageBar() const { return m_messageBar; }
     StatusStrip *status() const { return m_status; }
 
@@ -109,6 +112,7 @@ private:
     void showMessages();
     void showInFull(const QString &subject);
     void placeMessages();
+    void showWork();
     void refreshStatus();
     void tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,
                 const QString &cause);
@@ -117,8 +121,10 @@ private:
     QList<Entry> m_entries;
     MessageLog m_log;
     DeviceCauses m_causes;
-    /// Whose work the message bar shows; the operator may look at another screen meanwhile.
-    PanelScreen *m_working = nullptr;
+    /// The operator may look at another screen meanwhile.
+    WorkProgress m_works;
+    /// WorkProgress::number() of the work that the message bar shows.
+    int m_shownWork = 0;
     QStackedWidget *m_stack;
     QWidget *m_menu = nullptr;
     PanelKey *m_menuKey = nullptr;

@@ -25,6 +25,11 @@ private Q_SLOTS:
     void informationPassesAndTheWarningIsBack();
     void lastMessageStaysWithoutItsTone();
     void keyOfRunningWorkStopsIt();
+    void timeLeftStandsBesideTheText_data();
+    void timeLeftStandsBesideTheText();
+    void workOfUnknownLengthHasNoFigure();
+    void stoppedWorkCannotBeStoppedOnceMore();
+    void thumbOnStopSparesTheNextWork();
     void messageIsReadWhileWorkRuns();
     void workFollowsAnInformation();
     void endOfWorkIsNotClosedByAThumbOnStop();
@@ -166,6 +171,88 @@ void TestMessageBar::keyOfRunningWorkStopsIt()
     bar.endWork();
     QVERIFY(!bar.findChild<QProgressBar *>()->isVisible());
     QCOMPARE(bar.text(), QString());
+}
+
+void TestMessageBar::timeLeftStandsBesideTheText_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::newRow("row") << int(MessageBar::Row);
+    QTest::newRow("line") << int(MessageBar::Line);
+}
+
+// A long text ends in dots; how long it takes is always read.
+void TestMessageBar::timeLeftStandsBesideTheText()
+{
+    QFETCH(int, form);
+    QWidget strip;
+    MessageLog log;
+    MessageBar *bar = new MessageBar(&log, MessageBar::Form(form));
+    QHBoxLayout layout(&strip);
+    layout.addWidget(bar);
+    if (form == MessageBar::Line)
+        layout.addWidget(bar->key());
+    strip.resize(300, 60);
+    strip.show();
+    QLabel *left = bar->findChild<QLabel *>("workLeft");
+    bar->showWork(QString("a-long-name").repeated(20), 40);
+    QVERIFY(!left->isVisible());
+    bar->showWork(QString("a-long-name").repeated(20), 41, "55 min left");
+    QVERIFY(left->isVisible());
+    QTRY_VERIFY(left->width() >= left->fontMetrics().horizontalAdvance(left->text()));
+    QVERIFY(bar->rect().contains(left->geometry()));
+    // A message has the place for itself.
+    log.tell("The stick is in.", Message::Warning);
+    QVERIFY(!left->isVisible());
+    bar->endWork();
+    QVERIFY(!left->isVisible());
+}
+
+void TestMessageBar::workOfUnknownLengthHasNoFigure()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
+    bar.showWork("listing", -1);
+    QProgressBar *progress = bar.findChild<QProgressBar *>();
+    QCOMPARE(progress->maximum(), 0);
+    bar.showWork("copying", 40);
+    QCOMPARE(progress->maximum(), 100);
+    QCOMPARE(progress->value(), 40);
+    bar.endWork();
+}
+
+void TestMessageBar::stoppedWorkCannotBeStoppedOnceMore()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
+    bar.showWork("Stopping ...", 40, QString(), false);
+    QVERIFY(!bar.key()->isEnabled());
+    bar.showWork("Stopping ...", 41, QString(), false);
+    QVERIFY(!bar.key()->isEnabled());
+    bar.showWork("copying", 0);
+    QVERIFY(bar.key()->isEnabled());
+    bar.endWork();
+}
+
+void TestMessageBar::thumbOnStopSparesTheNextWork()
+{
+    MessageLog log;
+    MessageBar bar(&log, MessageBar::Row);
+    bar.show();
+    bar.showWork("copying", 40);
+    QSignalSpy stops(&bar, SIGNAL(stopped()));
+    QTest::mousePress(bar.key(), Qt::LeftButton);
+    bar.showWork("checking", 3);
+    bar.restKey();
+    QTest::mouseRelease(bar.key(), Qt::LeftButton);
+    bar.showWork("checking", 4);
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
+    QCOMPARE(stops.size(), 0);
+    QTRY_VERIFY(bar.key()->isEnabled());
+    QTest::mouseClick(bar.key(), Qt::LeftButton);
+    QCOMPARE(stops.size(), 1);
+    bar.endWork();
 }
 
 void TestMessageBar::messageIsReadWhileWorkRuns()

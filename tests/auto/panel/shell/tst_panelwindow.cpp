@@ -34,7 +34,11 @@ public:
         return m_mayClose;
     }
     bool isWorking() const override { return m_isWorking; }
-    void stopWork() override { ++m_stops; }
+    void stopWork(const QString &work) override
+    {
+        ++m_stops;
+        m_stopped = work;
+    }
 
     QString m_title = "coil.cnc";
     bool m_changed = false;
@@ -42,6 +46,7 @@ public:
     QString m_objection;
     bool m_isWorking = false;
     int m_stops = 0;
+    QString m_stopped;
     PanelKey *m_key = nullptr;
 };
 
@@ -70,6 +75,7 @@ private Q_SLOTS:
     void lookIsChangedByTouchAndKept();
     void messagesAndProgressOfAScreenAreShown();
     void stopReachesTheScreenThatWorks();
+    void workOfTwoScreensIsShownInTurn();
     void panelIsShadedWhileADialogWaits();
     void closingAsksEveryScreen();
 
@@ -501,6 +507,35 @@ void TestPanelWindow::stopReachesTheScreenThatWorks()
     QTest::mouseClick(panel.messageBar()->key(), Qt::LeftButton);
     QCOMPARE(screens.at(0)->m_stops, 1);
     QCOMPARE(screens.at(4)->m_stops, 0);
+}
+
+void TestPanelWindow::workOfTwoScreensIsShownInTurn()
+{
+    PanelWindow panel(QSize(800, 480));
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    PanelKey *stop = panel.messageBar()->key();
+    Q_EMIT screens.at(0)->worked("on its way", 30);
+    Q_EMIT screens.at(4)->worked("being checked", 10, "check");
+    QVERIFY(panel.messageBar()->text().startsWith("being checked"));
+    // It has just come in the place of the other one.
+    QTest::mouseClick(stop, Qt::LeftButton);
+    QCOMPARE(screens.at(0)->m_stops + screens.at(4)->m_stops, 0);
+    QTRY_VERIFY(stop->isEnabled());
+    QTest::mouseClick(stop, Qt::LeftButton);
+    QCOMPARE(screens.at(4)->m_stops, 1);
+    QCOMPARE(screens.at(4)->m_stopped, QString("check"));
+    QVERIFY(!stop->isEnabled());
+    // A word of the screen is none on work that has a name.
+    Q_EMIT screens.at(4)->told("The stick is in.", Message::Information);
+    QCOMPARE(panel.works()->count(), 2);
+    Q_EMIT screens.at(4)->workEnded("check");
+    panel.messages()->closeAll();
+    QCOMPARE(panel.messageBar()->text(), QString("on its way"));
+    Q_EMIT screens.at(0)->told("arrived", Message::Information);
+    QVERIFY(!panel.messageBar()->isWorking());
+    QCOMPARE(panel.works()->count(), 0);
 }
 
 void TestPanelWindow::panelIsShadedWhileADialogWaits()
