@@ -96,6 +96,10 @@ function(filarix_target_defaults target)
   # The calls that both toolkits have are deprecated in the newer one.
   target_compile_definitions(${target} PRIVATE
     QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_DEPRECATED_WARNINGS)
+  # Files of 2 GiB and more, and file systems that number their files beyond 32 bits.
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_compile_definitions(${target} PRIVATE _FILE_OFFSET_BITS=64)
+  endif()
   target_compile_options(${target} PRIVATE -Wall -Wextra -Woverloaded-virtual)
   if(FILARIX_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
