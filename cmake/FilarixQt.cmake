@@ -51,6 +51,52 @@ function(filarix_find_qt_test)
   endif()
 endfunction()
 
+# filarix_add_precompiled(NAME LIBRARY header ...): the headers, compiled once, for targets that link LIBRARY.
+function(filarix_add_precompiled name library)
+  file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp" CONTENT "")
+  add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+  filarix_target_defaults(${name})
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTORCC OFF)
+  target_link_libraries(${name} PRIVATE ${library})
+  target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
+
+set(FILARIX_PRECOMPILED_HEADERS
+  <algorithm> <functional> <memory> <random>
+  <QApplication> <QBoxLayout> <QComboBox> <QDateTime> <QDesktopWidget> <QDir> <QFile> <QGridLayout>
+  <QHeaderView> <QLabel> <QLineEdit> <QListWidget> <QMessageBox> <QPainter> <QPlainTextEdit> <QPointer>
+  <QProgressDialog> <QPushButton> <QScopedPointer> <QScrollArea> <QScrollBar> <QSettings> <QTableWidget>
+  <QTextBlock> <QTextStream> <QThread> <QTimer> <QToolBar> <QToolButton>)
+
+# Has a target that links Filarix::QtGui take the toolkit's headers as they were compiled, in a quick build.
+function(filarix_precompile target)
+  if(NOT FILARIX_QUICK_BUILD)
+    return()
+  endif()
+  if(NOT TARGET filarix_precompiled)
+    filarix_add_precompiled(filarix_precompiled Filarix::QtGui ${FILARIX_PRECOMPILED_HEADERS})
+    # The compiler does not know what strict targets lack, and takes nothing that has more.
+    filarix_strict_warnings(filarix_precompiled)
+  endif()
+  target_precompile_headers(${target} REUSE_FROM filarix_precompiled)
+endfunction()
+
+# The same for a test program, which links Filarix::QtTest. Its own code is hardly optimised then; the
+# library's and the companion's is as ever.
+function(filarix_precompile_test target)
+  if(NOT FILARIX_QUICK_BUILD)
+    return()
+  endif()
+  if(NOT TARGET filarix_precompiled_tests)
+    filarix_add_precompiled(filarix_precompiled_tests Filarix::QtTest
+      ${FILARIX_PRECOMPILED_HEADERS} <QSignalSpy> <QTest>)
+  endif()
+  target_precompile_headers(${target} REUSE_FROM filarix_precompiled_tests)
+  if(NOT FILARIX_COVERAGE)
+    target_compile_options(${target} PRIVATE -O1)
+  endif()
+endfunction()
+
 # Compiles a resource file into a target. Its qInitResources_ and qCleanupResources_ functions are
 # exported: hosts unload and reload the icons by them.
 function(filarix_add_resource target file)
