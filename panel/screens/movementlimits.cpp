@@ -3,6 +3,7 @@
 
 #include "screens/movementlimits.h"
 
+#include "dataeditor.h"
 #include "filarixrows.h"
 #include "guards/rowwatcher.h"
 #include "mjline.h"
@@ -10,8 +11,9 @@
 #include "tlistwidget.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QPointer>
 #include <QVariant>
 
 namespace {
@@ -31,18 +33,7 @@ QList<int> positions()
     return all;
 }
 
-ValueRule ruleAt(int position)
-{
-    if (position == ZValue)
-        return MachineData::zoneRule();
-    if (position == TValue)
-        return MachineData::toolRule();
-    const int pair = (position - detailValue(0)) / 2;
-    return pair < jposDetails ? MachineData::pointRule(pair)
-                              : MachineData::speedRule(pair - jposDetails);
-}
-
-/// Where the number of a field stands in its row; 0 for a field of no number.
+/// Where what a field shows stands in its movement; 0 for a field of no movement.
 int positionOf(const QLineEdit *field)
 {
     const QList<QLineEdit *> line =
@@ -50,7 +41,9 @@ int positionOf(const QLineEdit *field)
     const int place = line.indexOf(const_cast<QLineEdit *>(field));
     if (line.size() == lineFieldCount)
         return lineFields[place];
-    return line.size() > detailCount && place < detailCount ? detailValue(place) : 0;
+    if (line.size() <= detailCount)
+        return 0;
+    return place < detailCount ? detailValue(place) : Res;
 }
 
 MJLine *lineOf(QWidget *widget)
@@ -60,10 +53,17 @@ MJLine *lineOf(QWidget *widget)
     return qobject_cast<MJLine *>(widget);
 }
 
+/// The row that a widget shows. One that shows a text has the number there alone.
+int rowOf(MJLine *line)
+{
+    DataEditor *text = line->dataEditor();
+    return (text->isHidden() ? line->getNum() : text->getData().value(0)).toInt();
+}
+
 /// What is wrong with the number at \a position; empty if it may be.
 QString fault(const QStringList &row, int number, int position)
 {
-    const ValueRule rule = ruleAt(position);
+    const ValueRule rule = MovementLimits::ruleAt(position);
     const QString &value = row.at(position);
     if (rule.refusal(value).isEmpty())
         return QString();
@@ -77,12 +77,35 @@ bool isMovement(const QStringList &row)
     return isInstruction(row.value(Kind)) && row.size() >= HostLength;
 }
 
+/// What a field is called: "Instruction 5, Z". Its neighbours say something else.
+QString nameOf(const QLineEdit *field, int number, const QStringList &row)
+{
+    const int position = positionOf(field);
+    QString name = MovementLimits::tr("text");
+    if (position == Res)
+        name = MovementLimits::tr("remark");
+    else if (position > 0 && isMovement(row))
+        name = row.at(position - 1);
+    return MovementLimits::tr("Instruction %1, %2").arg(number).arg(name);
+}
+
 } // namespace
 
 MovementLimits::MovementLimits(TListWidget *list, QObject *parent) : QObject(parent), m_list(list)
 {
     connect(new RowWatcher(list, this), &RowWatcher::rowEdited, this, &MovementLimits::judge);
     qApp->installEventFilter(this);
+}
+
+ValueRule MovementLimits::ruleAt(int position)
+{
+    if (position == ZValue)
+        return MachineData::zoneRule();
+    if (position == TValue)
+        return MachineData::toolRule();
+    const int pair = (position - detailValue(0)) / 2;
+    return pair < jposDetails ? MachineData::pointRule(pair)
+                              : MachineData::speedRule(pair - jposDetails);
 }
 
 MovementLimits::Fault MovementLimits::firstFault(const QList<QStringList> &rows)
@@ -108,6 +131,12 @@ MovementLimits::Fault MovementLimits::firstFault(const QList<QStringList> &rows)
 
 bool MovementLimits::eventFilter(QObject *watched, QEvent *event)
 {
+    // The list fills a row with another one without a word. It is painted then.
+    if (event->type() == QEvent::Paint) {
+        MJLine *line = qobject_cast<MJLine *>(watched);
+        if (line && line->parent() == m_list)
+            nameFields(line);
+    }
     if (event->type() != QEvent::MouseButtonPress)
         return false;
     QLineEdit *field = qobject_cast<QLineEdit *>(watched);
@@ -116,19 +145,69 @@ bool MovementLimits::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
+void MovementLimits::nameFields(MJLine *line) const
+{
+    const int row = rowOf(line);
+    const QStringList content = m_list->getContent(row);
+    const QList<QLineEdit *> fields = line->findChildren<QLineEdit *>();
+    for (QLineEdit *field : fields) {
+        const QString name = nameOf(field, row, content);
+        if (field->accessibleName() != name)
+            field->setAccessibleName(name);
+    }
+}
+
 void MovementLimits::prepare(QLineEdit *field)
 {
     MJLine *line = lineOf(field);
     if (!line)
         return;
-    const int row = line->getNum().toInt();
+    const int row = rowOf(line);
     m_before = m_list->getContent(row);
+    const QRect own(field->mapToGlobal(QPoint()), field->size());
+    field->setProperty("hmiEditedRect", m_place.isEmpty() ? own : m_place);
+    const QString name = nameOf(field, row, m_before);
     const int position = positionOf(field);
-    if (position == 0 || !isMovement(m_before))
+    if (position == 0 || position == Res || !isMovement(m_before))
+        field->setProperty("hmiName", name);
+    else
+        ruleAt(position).prepare(field, name);
+}
+
+void MovementLimits::open(int row, int position, const QRect &place)
+{
+    MJLine *line = qobject_cast<MJLine *>(m_list->itemAt(m_list->getListPos(row)));
+    QLineEdit *field = line ? fieldAt(line, position) : nullptr;
+    if (!field)
         return;
-    ruleAt(position).prepare(field,
-                             tr("Instruction %1, %2").arg(row).arg(m_before.at(position - 1)));
-    field->setProperty("hmiEditedRect", QRect(field->mapToGlobal(QPoint()), field->size()));
+    m_place = place;
+    const QPointF middle = QRectF(field->rect()).center();
+    QMouseEvent press(QEvent::MouseButtonPress, middle, middle, place.center(), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier, Qt::MouseEventSynthesizedByApplication);
+    const QPointer<MovementLimits> self(this);
+    QApplication::sendEvent(field, &press);
+    if (self)
+        m_place = QRect();
+}
+
+/// The fields of a closed row are made when it is opened for the first time, and its remark gets
+/// its text only then.
+QLineEdit *MovementLimits::fieldAt(MJLine *line, int position) const
+{
+    if (!line->dataEditor()->isHidden())
+        return line->dataEditor()->findChild<QLineEdit *>();
+    line->createLine2();
+    const QList<QLineEdit *> fields = line->findChildren<QLineEdit *>();
+    const auto field = std::find_if(fields.begin(), fields.end(), [position](const QLineEdit *one) {
+        return positionOf(one) == position;
+    });
+    if (field == fields.end())
+        return nullptr;
+    if (position == Res && !line->isExpanded()) {
+        QString remark = m_list->getContent(rowOf(line)).value(Res);
+        line->setText(*field, remark.replace(QLatin1Char('_'), QLatin1Char(' ')));
+    }
+    return *field;
 }
 
 void MovementLimits::judge(int row, const QStringList &content)

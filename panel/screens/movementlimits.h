@@ -4,8 +4,11 @@
 #ifndef MOVEMENTLIMITS_H
 #define MOVEMENTLIMITS_H
 
+#include "screens/valuerule.h"
+
 #include <QList>
 #include <QObject>
+#include <QRect>
 #include <QStringList>
 
 class MJLine;
@@ -32,8 +35,15 @@ public:
     /// \a list has a title. \a parent keeps this object and must not outlive \a list.
     explicit MovementLimits(TListWidget *list, QObject *parent = nullptr);
 
+    /// What the number at \a position of a movement may be. There has to be one.
+    static ValueRule ruleAt(int position);
     /// The first fault in the rows of a taught program.
     static Fault firstFault(const QList<QStringList> &rows);
+
+    /// Opens the keypad of the field that shows \a position of \a row, as a touch on that field
+    /// does. \a place is what must stay visible, on the screen. The row has to be on the page; it
+    /// may be closed.
+    void open(int row, int position, const QRect &place);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -45,12 +55,16 @@ Q_SIGNALS:
 
 private:
     void prepare(QLineEdit *field);
+    void nameFields(MJLine *line) const;
+    QLineEdit *fieldAt(MJLine *line, int position) const;
     void judge(int row, const QStringList &content);
     QString takeBack(int row, const QStringList &content);
 
     TListWidget *m_list;
     /// The row of the field that was touched last, as it was.
     QStringList m_before;
+    /// What must stay visible in the place of the field; empty for the field.
+    QRect m_place;
 };
 
 #endif // MOVEMENTLIMITS_H

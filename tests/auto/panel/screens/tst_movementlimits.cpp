@@ -30,6 +30,8 @@ private Q_SLOTS:
     void numberWithinTheLimitsIsTaken();
     void freeTextAndCommandsAreLeftAlone();
     void otherFieldsAreLeftAlone();
+    void fieldsAreNamedAfterThemselves();
+    void rowThatIsNotThereOpensNothing();
     void faultThatWasThereBeforeIsNotTakenAway();
     void firstFaultIsFound();
     void sampleHasNoFault();
@@ -168,6 +170,38 @@ void TestMovementLimits::otherFieldsAreLeftAlone()
     QTest::mouseClick(&other, Qt::LeftButton);
     QVERIFY(!other.validator());
     QVERIFY(!other.property("hmiName").isValid());
+}
+
+// The next label beside a field is that of another value.
+void TestMovementLimits::fieldsAreNamedAfterThemselves()
+{
+    MovementLimits limits(m_list.get());
+    m_list->update();
+    QTRY_COMPARE(field(1, 0)->accessibleName(), QString("Instruction 1, Z"));
+    QCOMPARE(field(1, 1)->accessibleName(), QString("Instruction 1, T"));
+    QTRY_COMPARE(field(2, 0)->accessibleName(), QString("Instruction 2, text"));
+    qobject_cast<MJLine *>(m_list->itemAt(m_list->getListPos(3)))->on_expand();
+    QTRY_VERIFY(field(3, 11));
+    QTRY_COMPARE(field(3, 11)->accessibleName(), QString("Instruction 3, remark"));
+    QCOMPARE(field(3, 2)->accessibleName(), QString("Instruction 3, X"));
+    QCOMPARE(field(3, 10)->accessibleName(), QString("Instruction 3, D"));
+    // The same widgets show other rows then.
+    m_list->removeWidget(1, true);
+    QTRY_COMPARE(field(2, 0)->accessibleName(), QString("Instruction 2, Z"));
+    DeviceLog::runThenCancel([] {
+        QCOMPARE(DeviceLog::object()->property("hmiName").toString(),
+                 QString("Instruction 1, text"));
+    });
+    QTest::mouseClick(field(1, 0), Qt::LeftButton);
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+}
+
+void TestMovementLimits::rowThatIsNotThereOpensNothing()
+{
+    MovementLimits limits(m_list.get());
+    limits.open(40, ZValue, QRect(0, 0, 10, 10));
+    limits.open(1, HostLength, QRect(0, 0, 10, 10));
+    QVERIFY(DeviceLog::keypadCalls().isEmpty());
 }
 
 void TestMovementLimits::faultThatWasThereBeforeIsNotTakenAway()
