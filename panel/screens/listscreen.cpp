@@ -10,6 +10,7 @@
 #include "look/measures.h"
 #include "look/panelkey.h"
 #include "mjline.h"
+#include "screens/rowdetails.h"
 #include "tlistwidget.h"
 
 #include <QEvent>
@@ -34,9 +35,25 @@ const int gloveTouch = 48;
 // What messages about a disk that does not do its work are about.
 const QLatin1String storage("storage");
 
+// A panel with room for details between a list with a title and its keys.
+const int roomy = 1000;
+// Of the width, for the details of a list that could take it all.
+const int detailsPart = 4;
+// What such details and their keys share where the list has a width of its own.
+const int detailsStretch = 3;
+const int keysStretch = 2;
+const int detailColumns = 2;
+
 int keyPanelWidth()
 {
     return 3 * Measures::touch();
+}
+
+RowDetails *makeDetails(const QSize &surface, bool hasTitle)
+{
+    if (surface.width() < (hasTitle ? roomy : FilarixPanel::wideFrom))
+        return nullptr;
+    return new RowDetails(hasTitle ? detailColumns : 1);
 }
 
 TListWidget *makeList(QStringList title)
@@ -55,6 +72,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     , m_firstRow(title.isEmpty() ? 0 : 1)
     , m_list(makeList(title))
     , m_area(new QScrollArea)
+    , m_details(makeDetails(surface, !title.isEmpty()))
     , m_keyPanel(new QWidget(this))
     , m_keyGrid(new QGridLayout)
     , m_notice(new QLabel(m_area->viewport()))
@@ -76,8 +94,10 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     new LiveText(m_notice, [] { return tr("Loading ..."); });
     m_notice->setAlignment(Qt::AlignCenter);
     m_notice->hide();
-    connect(m_list, &TListWidget::clicked, this,
-            [this](int row) { QTimer::singleShot(0, this, [this, row] { keepRowInView(row); }); });
+    connect(m_list, &TListWidget::clicked, this, [this](int row) {
+        refreshDetails();
+        QTimer::singleShot(0, this, [this, row] { keepRowInView(row); });
+    });
 
     Look::dress(m_keyPanel, Look::KeyPanel);
     m_keyGrid->setSpacing(keyGap);
@@ -93,7 +113,11 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
         m_area->setFixedWidth(m_list->width());
         m_keyPanel->setMinimumWidth(2 * Measures::touch());
         layout->addWidget(m_area);
-        layout->addWidget(m_keyPanel, 1);
+        if (m_details && m_firstRow == 0)
+            m_details->setFixedWidth(surface.width() / detailsPart);
+        if (m_details)
+            layout->addWidget(m_details, detailsStretch);
+        layout->addWidget(m_keyPanel, m_details ? keysStretch : 1);
     } else {
         layout->addWidget(m_area, 1);
         layout->addWidget(m_keyPanel);
@@ -104,7 +128,15 @@ int ListScreen::listWidth(const QSize &surface) const
 {
     if (m_firstRow == 1)
         return qMin(surface.width(), titledWidth);
-    return m_keysBeside ? surface.width() - keyPanelWidth() : surface.width();
+    if (!m_keysBeside)
+        return surface.width();
+    return surface.width() - keyPanelWidth() - (m_details ? surface.width() / detailsPart : 0);
+}
+
+void ListScreen::refreshDetails()
+{
+    if (m_details)
+        showDetails();
 }
 
 void ListScreen::setKeyLines(int lines)
@@ -190,6 +222,7 @@ void ListScreen::setLoading(bool isLoading)
     m_notice->setGeometry(m_area->viewport()->rect());
     m_notice->setVisible(isLoading);
     m_notice->raise();
+    refreshDetails();
 }
 
 void ListScreen::addTurnKey(Turn turn)
@@ -227,12 +260,14 @@ void ListScreen::setRows(const QList<QStringList> &rows)
     m_list->setCurIndex(m_firstRow, true);
     fitPage();
     m_list->home();
+    refreshDetails();
 }
 
 void ListScreen::bringIntoView(int row)
 {
     m_list->setCurIndex(row, true);
     showRow(row);
+    refreshDetails();
 }
 
 QList<QStringList> ListScreen::rows() const

@@ -14,6 +14,7 @@
 #include <QSize>
 #include <QStringList>
 
+class RowDetails;
 class QGridLayout;
 class QLabel;
 class QScrollArea;
@@ -102,8 +103,17 @@ protected:
     void closeRows();
     /// Draws the page anew and turns to \a row, as the list counts it.
     void showRow(int row);
+    /// What the chosen row holds, beside the list; null where the panel has no room for it.
+    RowDetails *details() const { return m_details; }
+    /// Brings details() up to date: another row may be chosen, or hold something else. Called
+    /// where there are some, and in vain at worst.
+    virtual void showDetails() {}
+    /// The same as soon as details() can be there.
+    void refreshDetails();
     /// Rows of the list that are none of the host's: 1 with a title.
     int firstRow() const { return m_firstRow; }
+    /// Rows that a page has room for, the title not counted.
+    int pageRows() const { return m_pageRows; }
 
 private:
     int listWidth(const QSize &surface) const;
@@ -120,6 +130,7 @@ private:
     const int m_firstRow;
     TListWidget *m_list;
     QScrollArea *m_area;
+    RowDetails *m_details;
     QWidget *m_keyPanel;
     QGridLayout *m_keyGrid;
     QLabel *m_notice;

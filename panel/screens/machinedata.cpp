@@ -7,6 +7,11 @@ namespace {
 
 const double widestZone = 100;
 const double lastTool = 99;
+// As a panel's fonts have them, and the words of G-code count them.
+const char millimetres[] = "mm";
+const char degrees[] = "\u00b0";
+const char feedUnit[] = "mm/min";
+const char rampUnit[] = "mm/s\u00b2";
 // The first three axes move along lines, the others turn.
 const int linearAxes = 3;
 const double longestWay = 2000;
@@ -57,7 +62,7 @@ QStringList MachineData::speedKeys()
 
 ValueRule MachineData::zoneRule()
 {
-    return ValueRule::decimal(0, widestZone);
+    return ValueRule::decimal(0, widestZone, QLatin1String(millimetres));
 }
 
 ValueRule MachineData::toolRule()
@@ -67,13 +72,16 @@ ValueRule MachineData::toolRule()
 
 ValueRule MachineData::pointRule(int key)
 {
-    const double most = key < linearAxes ? longestWay : widestTurn;
-    return ValueRule::decimal(-most, most);
+    const bool isLinear = key < linearAxes;
+    const double most = isLinear ? longestWay : widestTurn;
+    return ValueRule::decimal(-most, most, QString::fromUtf8(isLinear ? millimetres : degrees));
 }
 
 ValueRule MachineData::speedRule(int key)
 {
-    return ValueRule::decimal(0, key == 0 ? fastest : highestRamp);
+    const bool isFeed = key == 0;
+    return ValueRule::decimal(0, isFeed ? fastest : highestRamp,
+                              QString::fromUtf8(isFeed ? feedUnit : rampUnit));
 }
 
 void MachineData::setCurrentPoint(int number)

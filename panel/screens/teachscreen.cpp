@@ -5,6 +5,7 @@
 
 #include "dataeditor.h"
 #include "filarixpanel.h"
+#include "filarixrows.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "mjline.h"
@@ -13,7 +14,9 @@
 #include "screens/movementlimits.h"
 #include "screens/pathpicker.h"
 #include "screens/rowchange.h"
+#include "screens/rowdetails.h"
 #include "screens/tablepicker.h"
+#include "screens/taughtdetails.h"
 #include "screens/taughtprogram.h"
 #include "tlistwidget.h"
 
@@ -32,9 +35,6 @@
 namespace {
 
 const int usualKeyColumns = 3;
-// A panel with room for a line of four beside the list.
-const int roomy = 1000;
-const int roomyKeyColumns = 4;
 const int keysInALine = 8;
 // On a panel that has the height for one line alone, its page key among them.
 const int keysInTheOneLine = 9;
@@ -61,7 +61,7 @@ int keyColumns(const QSize &surface)
         return keysInAShortLine;
     if (surface.width() < FilarixPanel::wideFrom)
         return isFlat(surface) ? keysInTheOneLine : keysInALine;
-    return surface.width() < roomy ? usualKeyColumns : roomyKeyColumns;
+    return usualKeyColumns;
 }
 
 /// 0 where there is room for all keys.
@@ -130,15 +130,17 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     , m_isNarrow(isNarrow(surface))
     , m_file(TaughtFolder::pathOf(folder, TaughtFolder::firstName()))
     , m_machine(machine)
+    , m_limits(new MovementLimits(list(), this))
 {
     addKeys(surface);
     connect(list(), &TListWidget::clicked, this, &TeachScreen::followRow);
     connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);
     connect(list(), &TListWidget::sg_v_update, this, &TeachScreen::chooseSpeed);
     connect(list(), &TListWidget::sg_item_deleted, this, &TeachScreen::showClearing);
-    const MovementLimits *limits = new MovementLimits(list(), this);
-    connect(limits, &MovementLimits::refused, this, &TeachScreen::tellRefused);
-    connect(limits, &MovementLimits::judged, this, &TeachScreen::noteEdit);
+    connect(m_limits, &MovementLimits::refused, this, &TeachScreen::tellRefused);
+    connect(m_limits, &MovementLimits::judged, this, &TeachScreen::noteEdit);
+    if (details())
+        connect(details(), &RowDetails::touched, this, &TeachScreen::editDetail);
 
     showLoading(true);
     loadFirst();
@@ -222,6 +224,7 @@ void TeachScreen::showKeys()
 {
     m_pasteKey->setEnabled(!isLoading() && !m_copied.isEmpty());
     m_undoKey->setEnabled(!isLoading() && m_undo.isPossible());
+    refreshDetails();
 }
 
 void TeachScreen::tellRefused(const QString &text)
@@ -347,6 +350,7 @@ void TeachScreen::retranslate()
     cells[1].clear();
     if (MJLine *title = qobject_cast<MJLine *>(list()->itemAt(0)))
         title->dataEditor()->setData(cells);
+    refreshDetails();
 }
 
 QString TeachScreen::title() const
@@ -710,8 +714,46 @@ void TeachScreen::undo()
     refreshStatus();
 }
 
+void TeachScreen::showDetails()
+{
+    QList<RowDetails::Detail> shown;
+    m_positions.clear();
+    const int row = list()->getCurIndex();
+    if (isLoading())
+        return details()->setDetails(QString());
+    if (row >= list()->count())
+        return details()->setDetails(
+            list()->count() > firstRow()
+                ? tr("No instruction is chosen. Touch one.")
+                : tr("No instruction yet. MoveJ, MoveL and Text make one."));
+    const QStringList content = TaughtProgram::stored(list()->getContent(row));
+    const QList<TaughtDetails::Field> fields = TaughtDetails::fieldsOf(content, *m_machine);
+    for (const TaughtDetails::Field &field : fields) {
+        shown.append(field.detail);
+        m_positions.append(field.position);
+    }
+    details()->setDetails(TaughtDetails::headingOf(content), shown);
+}
+
+/// On the same road as a touch in the row.
+void TeachScreen::editDetail(int index)
+{
+    const int position = m_positions.value(index);
+    const int row = list()->getCurIndex();
+    const bool isMovement = FilarixRows::isInstruction(list()->typeAt(row));
+    if (isMovement && position == FilarixRows::JposIndex)
+        return list()->on_jpos_update(row);
+    if (isMovement && position == FilarixRows::VIndex)
+        return list()->on_v_update(row);
+    const int place = list()->getListPos(row);
+    if (place < firstRow() || place > pageRows())
+        showRow(row);
+    m_limits->open(row, position, details()->placeOf(index));
+}
+
 void TeachScreen::choosePoint(int row)
 {
+    refreshDetails();
     const Choice choice = choose(row, tr("Point for instruction %1").arg(row),
                                  {MachineData::pointKeys(), m_machine->points(),
                                   &TListWidget::getJposIndex, &TListWidget::setJpos});
@@ -723,6 +765,7 @@ void TeachScreen::choosePoint(int row)
 
 void TeachScreen::chooseSpeed(int row)
 {
+    refreshDetails();
     const Choice choice = choose(row, tr("Speed for instruction %1").arg(row),
                                  {MachineData::speedKeys(), m_machine->speeds(),
                                   &TListWidget::getVIndex, &TListWidget::setV});

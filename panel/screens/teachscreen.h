@@ -9,6 +9,7 @@
 #include "screens/taughtfolder.h"
 
 class MachineData;
+class MovementLimits;
 
 /// The taught program: the library's list of instructions, with the host's shared tables behind its
 /// points and speeds. What the operator does to the rows can be taken back, an edit too.
@@ -48,6 +49,7 @@ protected:
     void noteStore() override;
     QString storedText(int count) const override;
     QString fileCause() const override;
+    void showDetails() override;
 
 private:
     struct SharedTable;
@@ -107,6 +109,7 @@ private:
     Choice choose(int row, const QString &title, const SharedTable &table);
     void tellChoice(const QString &text, const Choice &choice);
     void followRow(int row);
+    void editDetail(int index);
     bool mayLoseProgram(const QString &question);
 
     const QString m_folder;
@@ -114,6 +117,9 @@ private:
     const bool m_isNarrow;
     QString m_file;
     MachineData *m_machine;
+    MovementLimits *m_limits;
+    /// Where the values among the details stand in their row.
+    QList<int> m_positions;
     FileJob m_adopting;
     int m_stallTime = FileTaskRunner::stallMs;
     /// Stores under another name; null while nothing does.

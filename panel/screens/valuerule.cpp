@@ -86,10 +86,18 @@ QString ValueRule::limits() const
         return tr("on or off");
     if (type == Text)
         return tr("at most %1 letters").arg(letters);
-    QString text = tr("%1 to %2").arg(numberText(minimum), numberText(maximum));
-    if (!unit.isEmpty())
-        text += QLatin1Char(' ') + unit;
+    const QString text = withUnit(range());
     return type == Integer ? tr("%1, whole").arg(text) : text;
+}
+
+QString ValueRule::range() const
+{
+    return isNumber() ? tr("%1 to %2").arg(numberText(minimum), numberText(maximum)) : QString();
+}
+
+QString ValueRule::withUnit(const QString &value) const
+{
+    return value.isEmpty() || unit.isEmpty() ? value : value + QLatin1Char(' ') + unit;
 }
 
 QString ValueRule::shortened(const QString &value)

@@ -37,6 +37,10 @@ public:
     QString refusal(const QString &value) const;
     /// What has to be entered, in a few words: "0.5 to 8.5 N".
     QString limits() const;
+    /// The same of a number in short, without its unit: "0.5 to 8.5".
+    QString range() const;
+    /// "6.0 N"; nothing for an empty value.
+    QString withUnit(const QString &value) const;
     /// The value without blanks around it, and without the unit behind it.
     QString bare(const QString &value) const;
     /// What a keypad asks whether a text may be accepted. Never null; belongs to \a parent.

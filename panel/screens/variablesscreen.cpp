@@ -7,7 +7,9 @@
 #include "filarixpanel.h"
 #include "look/panelkey.h"
 #include "screens/knownrows.h"
+#include "screens/rowdetails.h"
 #include "screens/valuekeypad.h"
+#include "screens/variabledetails.h"
 #include "tlistwidget.h"
 
 #include <QChildEvent>
@@ -75,6 +77,10 @@ VariablesScreen::VariablesScreen(const QSize &surface, const QString &folder,
     addPagingKeys();
     list()->installEventFilter(this);
     connect(this, &PanelScreen::titleChanged, this, &VariablesScreen::refreshMarks);
+    // The value comes first.
+    if (details())
+        connect(details(), &RowDetails::touched, this,
+                [this](int index) { touch(list()->getCurIndex(), details()->placeOf(index)); });
     setLoading(true);
     keeper()->load(m_file, [this](const RowKeeper::Loaded &loaded) { showRead(loaded); });
 }
@@ -255,7 +261,7 @@ bool VariablesScreen::eventFilter(QObject *watched, QEvent *event)
         return field;
     if (event->type() != QEvent::MouseButtonPress)
         return false;
-    touch(row, field);
+    touch(numberOf(row), QRect(field->mapToGlobal(QPoint()), field->size()));
     return true;
 }
 
@@ -293,15 +299,14 @@ void VariablesScreen::fitCells(const QList<QLabel *> &cells, QLineEdit *field) c
 
 /// The library's own field would open the letters for numbers too, and take whatever they give. It
 /// reports a touch after the change, and so does this.
-void VariablesScreen::touch(DataEditor *row, const QLineEdit *field)
+void VariablesScreen::touch(int number, const QRect &place)
 {
-    const int number = numberOf(row);
     if (number >= m_table.count())
         return;
     const QPointer<VariablesScreen> self(this);
     const MachineVariable variable = m_table.at(number);
     if (variable.rule.type != ValueRule::Switch)
-        edit(number, QRect(field->mapToGlobal(QPoint()), field->size()));
+        edit(number, place);
     else
         enter(variable.name,
               value(variable.name) == ValueRule::off() ? ValueRule::on() : ValueRule::off());
@@ -356,6 +361,21 @@ void VariablesScreen::refreshMarks()
         if (markOf(row))
             refreshMark(row);
     }
+    refreshDetails();
+}
+
+void VariablesScreen::showDetails()
+{
+    const int number = list()->getCurIndex();
+    if (isLoading())
+        return details()->setDetails(QString());
+    if (number < 0 || number >= m_table.count())
+        return details()->setDetails(tr("No variable is chosen. Touch one."));
+    const MachineVariable &variable = m_table.at(number);
+    details()->setDetails(QString::fromLatin1("N%1 %2").arg(number).arg(variable.name),
+                          VariableDetails::of(variable, value(variable.name),
+                                              storedRows().value(number).value(valueAt),
+                                              stateOf(variable)));
 }
 
 void VariablesScreen::refreshMark(DataEditor *row)

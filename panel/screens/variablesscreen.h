@@ -53,6 +53,7 @@ protected:
     void noteStore() override;
     QString storedText(int count) const override;
     QString fileCause() const override;
+    void showDetails() override;
 
 private:
     VariablesScreen(const QSize &surface, const QString &folder,
@@ -65,7 +66,7 @@ private:
 
     void adopt(DataEditor *row);
     void fitCells(const QList<QLabel *> &cells, QLineEdit *field) const;
-    void touch(DataEditor *row, const QLineEdit *field);
+    void touch(int number, const QRect &place);
     void edit(int number, const QRect &place);
     void enter(const QString &name, const QString &value);
 

@@ -10,6 +10,8 @@
 #include "mjline.h"
 #include "modaldriver.h"
 #include "screens/machinedata.h"
+#include "screens/movementlimits.h"
+#include "screens/rowdetails.h"
 #include "screens/tablepicker.h"
 #include "screens/taughtprogram.h"
 #include "screens/teachscreen.h"
@@ -22,6 +24,9 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QToolButton>
+
+#include <memory>
 
 class TestTeachScreen : public FilarixTest
 {
@@ -97,6 +102,17 @@ private Q_SLOTS:
     void undoNeverBringsARefusedNumber();
     void refusedNumberIsNeverStored();
     void refusedNumberOfAFileIsTold();
+    void detailsAreThereWhereTheyHaveRoom_data();
+    void detailsAreThereWhereTheyHaveRoom();
+    void detailsFollowTheChosenRow();
+    void detailsFollowEveryChange();
+    void detailsSayWhyThereAreNone();
+    void touchedDetailOpensTheKeypadOfItsField_data();
+    void touchedDetailOpensTheKeypadOfItsField();
+    void touchedDetailKeepsTheLimits();
+    void touchedDetailOfAnotherPageTurnsToItsRow();
+    void touchedDetailChoosesPointAndSpeed();
+    void programMayEndAtTheKeypadOfADetail();
 
 private:
     PanelKey *key(const QString &text, int nth = 0) const;
@@ -104,6 +120,7 @@ private:
     QStringList firstStrings(int position) const;
     void choose(ModalDriver *driver, int number);
     void storeAs(const QString &name);
+    std::unique_ptr<TeachScreen> wideScreen();
 
     MachineData *m_machine = nullptr;
     TeachScreen *m_screen = nullptr;
@@ -1356,6 +1373,247 @@ void TestTeachScreen::refusedNumberOfAFileIsTold()
     QCOMPARE(told.at(1).at(0).toString(),
              QString("Instruction 1: T is 9 bananas. It must be 0 to 99, whole."));
     QCOMPARE(m_list->getContent(1).at(10), QString("9 bananas"));
+}
+
+std::unique_ptr<TeachScreen> TestTeachScreen::wideScreen()
+{
+    std::unique_ptr<TeachScreen> screen(
+        new TeachScreen(QSize(1024, 600), home() + "/wide", m_machine));
+    for (PanelKey *key : screen->keys())
+        key->setParent(screen.get());
+    screen->resize(1024, 525);
+    screen->show();
+    while (screen->isLoading())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return screen;
+}
+
+/// The value of that name beside the list; null for none.
+static QToolButton *detail(const TeachScreen &screen, const QString &name)
+{
+    for (QToolButton *key : screen.findChild<RowDetails *>()->findChildren<QToolButton *>()) {
+        const QString said = key->accessibleName();
+        if (key->isVisible() && (said == name || said.startsWith(name + ", ")))
+            return key;
+    }
+    return nullptr;
+}
+
+/// All that is said of it.
+static QString said(const TeachScreen &screen, const QString &name)
+{
+    const QToolButton *key = detail(screen, name);
+    return key ? key->accessibleName() : QString();
+}
+
+static QString heading(const TeachScreen &screen)
+{
+    return screen.findChild<RowDetails *>()->findChild<QLabel *>()->text();
+}
+
+void TestTeachScreen::detailsAreThereWhereTheyHaveRoom_data()
+{
+    QTest::addColumn<QSize>("panel");
+    QTest::addColumn<bool>("areThere");
+    QTest::newRow("480x272") << QSize(480, 272) << false;
+    QTest::newRow("272x480") << QSize(272, 480) << false;
+    QTest::newRow("800x480") << QSize(800, 480) << false;
+    QTest::newRow("1024x600") << QSize(1024, 600) << true;
+    QTest::newRow("1280x800") << QSize(1280, 800) << true;
+}
+
+void TestTeachScreen::detailsAreThereWhereTheyHaveRoom()
+{
+    QFETCH(QSize, panel);
+    TeachScreen screen(panel, home() + "/teach", m_machine);
+    QTRY_VERIFY(!screen.isLoading());
+    QTEST(screen.findChild<RowDetails *>() != nullptr, "areThere");
+}
+
+void TestTeachScreen::detailsFollowTheChosenRow()
+{
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    QCOMPARE(heading(*screen), QString("Instruction 1: MoveJ"));
+    QCOMPARE(said(*screen, "Point"), QString("Point, 1 Home"));
+    QCOMPARE(said(*screen, "Y"), QString("Y, 60 mm, -2000 to 2000"));
+    screen->list()->on_line_clicked(3);
+    QCOMPARE(heading(*screen), QString("Instruction 3: Text"));
+    QCOMPARE(said(*screen, "Text"), QString("Text, M10 clamp the wire"));
+    QVERIFY(!detail(*screen, "Point"));
+    // A table that is opened and cancelled has chosen the row as well.
+    ModalDriver driver;
+    driver.then([](QWidget *dialog) { static_cast<QDialog *>(dialog)->reject(); });
+    screen->list()->on_jpos_update(2);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(heading(*screen), QString("Instruction 2: MoveJ"));
+    // The list turns its page, and the row stays chosen.
+    screen->list()->end();
+    QCOMPARE(heading(*screen), QString("Instruction 2: MoveJ"));
+}
+
+void TestTeachScreen::detailsFollowEveryChange()
+{
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    screen->list()->on_line_clicked(2);
+    const auto press = [&screen](const QString &text) {
+        for (PanelKey *key : screen->findChildren<PanelKey *>()) {
+            if (key->text() == text)
+                return QTest::mouseClick(key, Qt::LeftButton);
+        }
+        QFAIL(qPrintable(text));
+    };
+    DeviceLog::acceptWith("12.5");
+    MJLine *line = qobject_cast<MJLine *>(screen->list()->itemAt(2));
+    QTest::mouseClick(line->findChild<ComboLineEdit *>(), Qt::LeftButton);
+    QCOMPARE(said(*screen, "Zone Z"), QString("Zone Z, 12.5 mm, 0 to 100"));
+    press("Undo");
+    // The step before had another row.
+    QCOMPARE(heading(*screen), QString("Instruction 1: MoveJ"));
+    screen->list()->on_line_clicked(2);
+    QCOMPARE(said(*screen, "Zone Z"), QString("Zone Z, 0 mm, 0 to 100"));
+    press("Delete");
+    QCOMPARE(heading(*screen), QString("Instruction 2: Text"));
+    press("MoveL");
+    QCOMPARE(heading(*screen), QString("Instruction 3: MoveL"));
+    press("Up");
+    QCOMPARE(heading(*screen), QString("Instruction 2: MoveL"));
+}
+
+void TestTeachScreen::detailsSayWhyThereAreNone()
+{
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    screen->list()->on_line_clicked(5);
+    ModalDriver driver;
+    driver.press(QMessageBox::Yes);
+    for (PanelKey *key : screen->findChildren<PanelKey *>()) {
+        if (key->text() == "Clear")
+            QTest::mouseClick(key, Qt::LeftButton);
+    }
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(heading(*screen), QString("No instruction yet. MoveJ, MoveL and Text make one."));
+    QVERIFY(!detail(*screen, "Point"));
+    QVERIFY(screen->bringBack(screen->filePath(), TaughtProgram::sample(*m_machine)));
+    QCOMPARE(heading(*screen), QString("Instruction 1: MoveJ"));
+    screen->list()->setCurIndex(900, true);
+    screen->list()->clicked(900);
+    QCOMPARE(heading(*screen), QString("No instruction is chosen. Touch one."));
+}
+
+void TestTeachScreen::touchedDetailOpensTheKeypadOfItsField_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("hmiName");
+    QTest::addColumn<QString>("opened");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("entered");
+    QTest::newRow("zone") << 2 << "Zone Z"
+                          << "Instruction 2, Z"
+                          << "NumericKeypad.setText(0)" << 8 << "12";
+    QTest::newRow("coordinate of a closed row") << 2 << "X"
+                                                << "Instruction 2, X"
+                                                << "NumericKeypad.setText(-6)" << 14 << "12";
+    QTest::newRow("ramp") << 2 << "Speed D"
+                          << "Instruction 2, D"
+                          << "NumericKeypad.setText(200)" << 30 << "12";
+    QTest::newRow("remark") << 8 << "Remark"
+                            << "Instruction 8, remark"
+                            << "CharacterKeypad.setText(Wind it)" << 12 << "loose";
+    QTest::newRow("text") << 3 << "Text"
+                          << "Instruction 3, text"
+                          << "CharacterKeypad.setText(M10 clamp the wire)" << 4 << "M11";
+}
+
+void TestTeachScreen::touchedDetailOpensTheKeypadOfItsField()
+{
+    QFETCH(int, row);
+    QFETCH(QString, name);
+    QFETCH(QString, entered);
+    QFETCH(int, position);
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    // The pooled row has been opened before, for another remark.
+    MJLine *line = qobject_cast<MJLine *>(screen->list()->itemAt(row));
+    line->on_expand();
+    line->on_expand();
+    QList<QStringList> rows = screen->rows();
+    rows[7][12] = "Wind_it";
+    QVERIFY(screen->bringBack(screen->filePath(), rows));
+    screen->list()->on_line_clicked(row);
+    DeviceLog::reset();
+    QString receiver;
+    QRect place;
+    DeviceLog::runThenCancel([&] {
+        receiver = DeviceLog::object()->property("hmiName").toString();
+        place = DeviceLog::object()->property("hmiEditedRect").toRect();
+    });
+    QTest::mouseClick(detail(*screen, name), Qt::LeftButton);
+    QTEST(receiver, "hmiName");
+    QCOMPARE(place.center(),
+             detail(*screen, name)->mapToGlobal(detail(*screen, name)->rect().center()));
+    QFETCH(QString, opened);
+    QVERIFY2(DeviceLog::calls().contains(opened), qPrintable(DeviceLog::calls().join(' ')));
+    DeviceLog::acceptWith(entered);
+    QTest::mouseClick(detail(*screen, name), Qt::LeftButton);
+    QCOMPARE(screen->rows().at(row - 1).at(position), entered);
+    QVERIFY2(said(*screen, name).startsWith(name + ", " + entered),
+             qPrintable(said(*screen, name)));
+    QVERIFY(!line->isExpanded());
+    QCOMPARE(DeviceLog::answersLeft(), 0);
+}
+
+void TestTeachScreen::touchedDetailKeepsTheLimits()
+{
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    QSignalSpy told(screen.get(), SIGNAL(told(QString, Message::Tone, QString)));
+    DeviceLog::acceptWith("999");
+    QTest::mouseClick(detail(*screen, "Tool T"), Qt::LeftButton);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(),
+             QString("Instruction 1: T is 999. It must be 0 to 99, whole."));
+    QCOMPARE(said(*screen, "Tool T"), QString("Tool T, 0, 0 to 99"));
+    // One that a file has is marked.
+    QList<QStringList> rows = screen->rows();
+    rows[0][10] = "100";
+    QVERIFY(screen->bringBack(screen->filePath(), rows));
+    QCOMPARE(said(*screen, "Tool T"), QString("Tool T, 100, above 99"));
+}
+
+void TestTeachScreen::touchedDetailOfAnotherPageTurnsToItsRow()
+{
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    screen->list()->on_line_clicked(2);
+    screen->list()->end();
+    QVERIFY(screen->list()->getListPos(2) < 0);
+    DeviceLog::acceptWith("7.5");
+    QTest::mouseClick(detail(*screen, "X"), Qt::LeftButton);
+    QCOMPARE(screen->rows().at(1).at(14), QString("7.5"));
+    QVERIFY(screen->list()->getListPos(2) > 0);
+    QCOMPARE(said(*screen, "X"), QString("X, 7.5 mm, -2000 to 2000"));
+    // The values are no longer those of the table.
+    QCOMPARE(said(*screen, "Point"), QString("Point, own values"));
+}
+
+void TestTeachScreen::touchedDetailChoosesPointAndSpeed()
+{
+    const std::unique_ptr<TeachScreen> screen = wideScreen();
+    ModalDriver driver;
+    choose(&driver, 6);
+    QTest::mouseClick(detail(*screen, "Point"), Qt::LeftButton);
+    choose(&driver, 2);
+    QTest::mouseClick(detail(*screen, "Speed"), Qt::LeftButton);
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(said(*screen, "Point"), QString("Point, 6 Tape"));
+    QCOMPARE(said(*screen, "Y"), QString("Y, 34 mm, -2000 to 2000"));
+    QCOMPARE(said(*screen, "Speed"), QString("Speed, 2 Lay"));
+}
+
+void TestTeachScreen::programMayEndAtTheKeypadOfADetail()
+{
+    std::unique_ptr<TeachScreen> screen = wideScreen();
+    DeviceLog::runThenCancel([&screen] { screen.reset(); });
+    MovementLimits *limits = screen->findChild<MovementLimits *>();
+    limits->open(1, 8, QRect(0, 0, 10, 10));
+    QVERIFY(!screen);
 }
 
 FILARIX_TEST_MAIN(TestTeachScreen)

@@ -7,6 +7,7 @@
 #include "filarixtest.h"
 #include "heldfile.h"
 #include "modaldriver.h"
+#include "screens/rowdetails.h"
 #include "screens/valuemark.h"
 #include "screens/variablesscreen.h"
 #include "tlistwidget.h"
@@ -15,6 +16,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QToolButton>
 
 class TestVariablesScreen : public FilarixTest
 {
@@ -56,6 +58,11 @@ private Q_SLOTS:
     void readOnlyFolderIsToldAndNothingIsLost();
     void fullDiskIsToldAndNothingIsLost();
     void secondStoreAddsNothing();
+    void detailsAreThereWhereTheyHaveRoom_data();
+    void detailsAreThereWhereTheyHaveRoom();
+    void detailsFollowTheChosenVariable();
+    void touchedDetailOpensTheKeypad();
+    void touchedDetailTurnsASwitch();
 
 private:
     static void show(VariablesScreen *screen);
@@ -758,6 +765,105 @@ void TestVariablesScreen::secondStoreAddsNothing()
     QCOMPARE(readFile(path), first);
     QCOMPARE(first.count("\nVariable\tWire\t"), 1);
     QVERIFY(!QFile::exists(path + ".broken"));
+}
+
+void TestVariablesScreen::detailsAreThereWhereTheyHaveRoom_data()
+{
+    QTest::addColumn<QSize>("panel");
+    QTest::addColumn<bool>("areThere");
+    QTest::newRow("480x272") << QSize(480, 272) << false;
+    QTest::newRow("272x480") << QSize(272, 480) << false;
+    QTest::newRow("480x800") << QSize(480, 800) << false;
+    QTest::newRow("800x480") << QSize(800, 480) << true;
+    QTest::newRow("1024x600") << QSize(1024, 600) << true;
+}
+
+void TestVariablesScreen::detailsAreThereWhereTheyHaveRoom()
+{
+    QFETCH(QSize, panel);
+    VariablesScreen screen(panel, home() + "/teach");
+    QTRY_VERIFY(!screen.isLoading());
+    QTEST(screen.findChild<RowDetails *>() != nullptr, "areThere");
+}
+
+static QToolButton *valueKey(const VariablesScreen &screen)
+{
+    return screen.findChild<RowDetails *>()->findChild<QToolButton *>();
+}
+
+static QString heading(const VariablesScreen &screen)
+{
+    return screen.findChild<RowDetails *>()->findChild<QLabel *>()->text();
+}
+
+void TestVariablesScreen::detailsFollowTheChosenVariable()
+{
+    VariablesScreen screen(QSize(800, 480), home() + "/teach");
+    show(&screen);
+    QCOMPARE(heading(screen), QString("N0 Wire"));
+    QCOMPARE(valueKey(screen)->accessibleName(), QString("Value, 0.50 mm"));
+    screen.list()->on_line_clicked(5);
+    QCOMPARE(heading(screen), QString("N5 Tension"));
+    DeviceLog::acceptWith("7.5");
+    touch(screen, "Tension");
+    QCOMPARE(valueKey(screen)->accessibleName(), QString("Value, 7.5 N, changed"));
+    QStringList texts;
+    for (const QLabel *label : screen.findChild<RowDetails *>()->findChildren<QLabel *>())
+        texts.append(label->text());
+    QVERIFY(texts.contains("6.0 N") && texts.contains("0.5 N") && texts.contains("8.5 N"));
+    screen.store();
+    QTRY_COMPARE(valueKey(screen)->accessibleName(), QString("Value, 7.5 N, stored"));
+    QList<QStringList> rows = screen.rows();
+    rows[5].last() = "9999";
+    QVERIFY(screen.bringBack(QString(), rows));
+    screen.list()->on_line_clicked(5);
+    QCOMPARE(valueKey(screen)->accessibleName(), QString("Value, 9999 N, above 8.5"));
+    screen.list()->setCurIndex(900, true);
+    screen.list()->clicked(900);
+    QCOMPARE(heading(screen), QString("No variable is chosen. Touch one."));
+}
+
+void TestVariablesScreen::touchedDetailOpensTheKeypad()
+{
+    VariablesScreen screen(QSize(800, 480), home() + "/teach");
+    show(&screen);
+    screen.list()->on_line_clicked(5);
+    const QRect key(valueKey(screen)->mapToGlobal(QPoint()), valueKey(screen)->size());
+    QRect place;
+    DeviceLog::runThenCancel(
+        [&place] { place = DeviceLog::object()->property("hmiEditedRect").toRect(); });
+    QTest::mouseClick(valueKey(screen), Qt::LeftButton);
+    QCOMPARE(place, key);
+    DeviceLog::acceptWith("7.25");
+    QTest::mouseClick(valueKey(screen), Qt::LeftButton);
+    QCOMPARE(screen.value("Tension"), QString("7.25"));
+    // The row may be on another page.
+    screen.list()->end();
+    DeviceLog::acceptWith("7.5");
+    QTest::mouseClick(valueKey(screen), Qt::LeftButton);
+    QCOMPARE(screen.value("Tension"), QString("7.5"));
+    DeviceLog::acceptWith("9999");
+    QTest::mouseClick(valueKey(screen), Qt::LeftButton);
+    QCOMPARE(screen.value("Tension"), QString("7.5"));
+}
+
+void TestVariablesScreen::touchedDetailTurnsASwitch()
+{
+    VariablesScreen screen(QSize(1024, 600), home() + "/teach");
+    show(&screen);
+    for (int row = 0; row < screen.list()->count(); ++row) {
+        const QString name = screen.list()->getContent(row).at(3);
+        if (screen.value(name) != "on" && screen.value(name) != "off")
+            continue;
+        const QString before = screen.value(name);
+        screen.list()->on_line_clicked(row);
+        QTest::mouseClick(valueKey(screen), Qt::LeftButton);
+        QVERIFY(screen.value(name) != before);
+        QTest::mouseClick(valueKey(screen), Qt::LeftButton);
+        QCOMPARE(screen.value(name), before);
+        return;
+    }
+    QFAIL("no switch");
 }
 
 FILARIX_TEST_MAIN(TestVariablesScreen)
