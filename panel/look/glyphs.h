@@ -62,6 +62,7 @@ enum Glyph {
     StoreAs,
     Inform,
     Warn,
+    Ask,
     Alarm
 };
 

@@ -3,75 +3,231 @@
 
 #include "look/panelstyle.h"
 
-#include "look/look.h"
 #include "look/measures.h"
+#include "look/stylebars.h"
+#include "look/styleboxes.h"
+#include "look/styleicons.h"
+#include "look/stylekeys.h"
+#include "look/styleshades.h"
+#include "look/styletables.h"
 
 #include <QListView>
 #include <QPainter>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QWidget>
-#include <qdrawutil.h>
 
 namespace {
 
 // 9 mm at 133 dpi: files are chosen to be deleted, too.
 const int listRowHeight = 48;
-// As the toolkit rounds the frames of its fields.
-const int fieldRadius = 2;
-// The toolkit makes the colour of a button lighter, and white letters need their contrast.
-const int chosenDarker = 140;
-const int focusPixels = 2;
+const int indicatorSide = 24;
+const int messageIconSide = 40;
+const int splitterWidth = 3;
+// Beside the words of a menu: the mark, and the room around both.
+const int besideMenuWords = 60;
 
-bool isField(QStyle::PrimitiveElement element)
+void drawNothing(const QStyleOption &, QPainter *) {}
+
+void drawLineBetween(const QStyleOption &option, QPainter *painter)
 {
-    return element == QStyle::PE_FrameLineEdit || element == QStyle::PE_IndicatorCheckBox;
+    const QPoint middle = option.rect.center();
+    painter->setPen(StyleShades::edge(option));
+    if (option.rect.height() > option.rect.width())
+        painter->drawLine(middle.x(), option.rect.top(), middle.x(), option.rect.bottom());
+    else
+        painter->drawLine(option.rect.left(), middle.y(), option.rect.right(), middle.y());
 }
 
-/// Two colours, one of which shows on any ground.
-void drawFocus(QPainter *painter, const QRect &place)
+void drawPaper(const QStyleOption &option, QPainter *painter)
 {
-    const QRect inner = place.adjusted(focusPixels, focusPixels, -focusPixels, -focusPixels);
-    qDrawPlainRect(painter, place, Look::focusEdge(), focusPixels);
-    qDrawPlainRect(painter, inner, Look::focus(), focusPixels);
+    painter->fillRect(option.rect, option.palette.brush(QPalette::Window));
+}
+
+template<Qt::ArrowType direction>
+void drawArrow(const QStyleOption &option, QPainter *painter)
+{
+    StyleShades::drawArrow(painter, option.rect, direction, StyleShades::sign(option));
+}
+
+void drawSortSign(const QStyleOption &option, QPainter *painter)
+{
+    if (const QStyleOptionHeader *head = qstyleoption_cast<const QStyleOptionHeader *>(&option))
+        StyleTables::drawSortSign(*head, painter);
+}
+
+void drawFocus(const QStyleOption &option, QPainter *painter)
+{
+    if (option.state & QStyle::State_KeyboardFocusChange)
+        StyleKeys::drawFocus(option.rect, painter);
+}
+
+void drawFocusFrame(const QStyleOption &option, QPainter *painter)
+{
+    StyleKeys::drawFocusFrame(option.rect, painter);
+}
+
+void drawMenuItem(const QStyleOption &option, QPainter *painter)
+{
+    if (const QStyleOptionMenuItem *item = qstyleoption_cast<const QStyleOptionMenuItem *>(&option))
+        StyleTables::drawMenuItem(*item, painter);
+}
+
+void drawTab(const QStyleOption &option, QPainter *painter)
+{
+    if (const QStyleOptionTab *tab = qstyleoption_cast<const QStyleOptionTab *>(&option))
+        StyleTables::drawTab(*tab, painter);
+}
+
+void drawProgress(const QStyleOption &option, QPainter *painter)
+{
+    const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(&option);
+    if (bar)
+        StyleBars::drawProgress(*bar, painter);
+}
+
+void drawProgressText(const QStyleOption &option, QPainter *painter)
+{
+    const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(&option);
+    if (bar)
+        StyleBars::drawProgressText(*bar, painter);
+}
+
+typedef void (*Drawing)(const QStyleOption &option, QPainter *painter);
+
+template<typename Element>
+struct Entry
+{
+    Element element;
+    Drawing drawing;
+};
+
+const Entry<QStyle::PrimitiveElement> primitives[] = {
+    {QStyle::PE_PanelButtonCommand, &StyleKeys::drawGround},
+    {QStyle::PE_PanelButtonBevel, &StyleKeys::drawGround},
+    {QStyle::PE_PanelButtonTool, &StyleKeys::drawGround},
+    {QStyle::PE_FrameDefaultButton, &drawNothing},
+    {QStyle::PE_FrameButtonBevel, &drawNothing},
+    {QStyle::PE_FrameButtonTool, &drawNothing},
+    {QStyle::PE_FrameFocusRect, &drawFocus},
+    {QStyle::PE_IndicatorCheckBox, &StyleBoxes::drawTick},
+    {QStyle::PE_IndicatorItemViewItemCheck, &StyleBoxes::drawTick},
+    {QStyle::PE_IndicatorRadioButton, &StyleBoxes::drawRadio},
+    {QStyle::PE_PanelLineEdit, &StyleBoxes::drawField},
+    {QStyle::PE_FrameLineEdit, &StyleBoxes::drawFieldEdge},
+    {QStyle::PE_Frame, &StyleBoxes::drawFrame},
+    {QStyle::PE_FrameGroupBox, &StyleBoxes::drawFrame},
+    {QStyle::PE_FrameTabWidget, &StyleBoxes::drawFrame},
+    {QStyle::PE_FrameDockWidget, &StyleBoxes::drawFrame},
+    {QStyle::PE_FrameMenu, &StyleBoxes::drawFrame},
+    {QStyle::PE_FrameWindow, &StyleBoxes::drawFrame},
+    {QStyle::PE_FrameStatusBarItem, &drawNothing},
+    {QStyle::PE_FrameTabBarBase, &StyleTables::drawTabBase},
+    {QStyle::PE_PanelMenu, &StyleTables::drawMenuGround},
+    {QStyle::PE_PanelTipLabel, &StyleTables::drawMenuGround},
+    {QStyle::PE_PanelScrollAreaCorner, &drawPaper},
+    {QStyle::PE_PanelToolBar, &drawPaper},
+    {QStyle::PE_IndicatorHeaderArrow, &drawSortSign},
+    {QStyle::PE_IndicatorToolBarSeparator, &drawLineBetween},
+    {QStyle::PE_IndicatorToolBarHandle, &drawNothing},
+    {QStyle::PE_IndicatorArrowUp, &drawArrow<Qt::UpArrow>},
+    {QStyle::PE_IndicatorArrowDown, &drawArrow<Qt::DownArrow>},
+    {QStyle::PE_IndicatorArrowLeft, &drawArrow<Qt::LeftArrow>},
+    {QStyle::PE_IndicatorArrowRight, &drawArrow<Qt::RightArrow>},
+    {QStyle::PE_IndicatorSpinUp, &drawArrow<Qt::UpArrow>},
+    {QStyle::PE_IndicatorSpinDown, &drawArrow<Qt::DownArrow>},
+};
+
+const Entry<QStyle::ControlElement> controls[] = {
+    {QStyle::CE_FocusFrame, &drawFocusFrame},
+    {QStyle::CE_HeaderSection, &StyleTables::drawHead},
+    {QStyle::CE_HeaderEmptyArea, &StyleTables::drawEmptyHead},
+    {QStyle::CE_TabBarTabShape, &drawTab},
+    {QStyle::CE_MenuItem, &drawMenuItem},
+    {QStyle::CE_MenuEmptyArea, &drawNothing},
+    {QStyle::CE_ProgressBarGroove, &StyleBars::drawProgressGroove},
+    {QStyle::CE_ProgressBarContents, &drawProgress},
+    {QStyle::CE_ProgressBarLabel, &drawProgressText},
+    {QStyle::CE_ToolBar, &drawPaper},
+    {QStyle::CE_Splitter, &drawLineBetween},
+    {QStyle::CE_SizeGrip, &drawNothing},
+};
+
+template<typename Element, std::size_t size>
+Drawing drawingOf(const Entry<Element> (&entries)[size], Element wanted)
+{
+    for (const Entry<Element> &entry : entries) {
+        if (entry.element == wanted)
+            return entry.drawing;
+    }
+    return nullptr;
+}
+
+/// Whatever it sets is forgotten, as the toolkit's own drawings do.
+void run(Drawing drawing, const QStyleOption *option, QPainter *painter)
+{
+    painter->save();
+    drawing(*option, painter);
+    painter->restore();
+}
+
+/// The library's cells of a list take the height of their row.
+bool isCell(const QWidget *widget)
+{
+    return widget && widget->inherits("ComboLineEdit");
+}
+
+/// A list marks its current row always, and a finger needs no such mark.
+bool isForKeyboardAlone(QStyle::PrimitiveElement element, const QWidget *widget)
+{
+    return element == QStyle::PE_FrameFocusRect && qobject_cast<const QAbstractItemView *>(widget)
+           && !widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
+int barWidth()
+{
+    return qMin(Measures::touch(), Measures::pixels(Measures::touchMm));
 }
 
 } // namespace
 
 PanelStyle::PanelStyle() : QProxyStyle(QLatin1String("Fusion")) {}
 
+int PanelStyle::focusWidth()
+{
+    return StyleKeys::focusWidth;
+}
+
 QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                                    const QWidget *widget) const
 {
     const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const int touch = Measures::touch();
     switch (type) {
     case CT_PushButton:
-        return own.expandedTo(QSize(2 * Measures::touch(), Measures::touch()));
+        return own.expandedTo(QSize(2 * touch, touch));
+    case CT_MenuItem:
+        return (size + QSize(besideMenuWords, 0)).expandedTo(QSize(own.width(), touch));
     case CT_CheckBox:
     case CT_RadioButton:
-    case CT_MenuItem:
     case CT_ComboBox:
-        return own.expandedTo(QSize(0, Measures::touch()));
+    case CT_TabBarTab:
+    case CT_Slider:
+        return own.expandedTo(QSize(0, touch));
+    case CT_SpinBox:
+        return (own + QSize(2 * touch, 0)).expandedTo(QSize(0, touch));
     case CT_LineEdit:
-        // The cells of a list take the height of their row.
-        if (widget && widget->inherits("ComboLineEdit"))
-            return own;
-        return own.expandedTo(QSize(0, Measures::touch()));
+        return isCell(widget) ? own : own.expandedTo(QSize(0, touch));
     case CT_ItemViewItem:
         // A table sets the heights of its rows itself.
         if (qobject_cast<const QListView *>(widget))
-            return own.expandedTo(QSize(0, qMax(listRowHeight, Measures::touch())));
+            return own.expandedTo(QSize(0, qMax(listRowHeight, touch)));
         return own;
     default:
         return own;
     }
 }
 
-int PanelStyle::focusWidth()
-{
-    return focusPixels;
-}
-
-// Dark around light: one of the two stands out from whatever lies beneath.
 int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                             const QWidget *widget) const
 {
@@ -80,44 +236,126 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return 24;
+    case PM_SliderLength:
+        return indicatorSide;
     case PM_ScrollBarExtent:
-        return 30;
+    case PM_ScrollBarSliderMin:
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+        return barWidth();
+    case PM_MessageBoxIconSize:
+        return messageIconSide;
     case PM_SplitterWidth:
-        return 3;
+        return splitterWidth;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+    case PM_TabBarTabShiftVertical:
+        return 0;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
 }
 
-/// The toolkit draws a chosen button a little darker only, which looks as if it were switched off.
-void PanelStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                             const QWidget *widget) const
+int PanelStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                          QStyleHintReturn *answer) const
 {
-    if (element == CE_FocusFrame)
-        return drawFocus(painter, option->rect);
-    const QStyleOptionButton *button = qstyleoption_cast<const QStyleOptionButton *>(option);
-    const bool isChosen = button && (button->state & State_On)
-                          && (element == CE_PushButtonBevel || element == CE_PushButtonLabel);
-    if (!isChosen)
-        return QProxyStyle::drawControl(element, option, painter, widget);
-    QStyleOptionButton chosen(*button);
-    chosen.palette.setColor(QPalette::Button, Look::accent().darker(chosenDarker));
-    chosen.palette.setColor(QPalette::ButtonText, chosen.palette.color(QPalette::HighlightedText));
-    QProxyStyle::drawControl(element, &chosen, painter, widget);
+    switch (hint) {
+    case SH_UnderlineShortcut:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
+    case SH_Widget_Animate:
+    case SH_Widget_Animation_Duration:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
 }
 
-/// The toolkit's edge is darker than the paper, and dark paper shows none. A field in focus has a
-/// bright one already.
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                QPainter *painter, const QWidget *widget) const
 {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (Look::style() != Look::Dark || !isField(element) || (option->state & State_HasFocus))
+    if (isForKeyboardAlone(element, widget))
         return;
+    if (const Drawing drawing = drawingOf(primitives, element))
+        return run(drawing, option, painter);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void PanelStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                             const QWidget *widget) const
+{
+    if (const Drawing drawing = drawingOf(controls, element))
+        return run(drawing, option, painter);
+    const QStyleOptionButton *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if (!button || element != CE_PushButtonLabel)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton words(*button);
+    words.palette = StyleKeys::wordsOn(*button);
+    QProxyStyle::drawControl(element, &words, painter, widget);
+}
+
+void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                    QPainter *painter, const QWidget *widget) const
+{
+    const QStyleOptionSlider *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    const auto *tool = qstyleoption_cast<const QStyleOptionToolButton *>(option);
     painter->save();
-    painter->setPen(Look::edge());
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(option->rect.adjusted(0, 0, -1, -1), fieldRadius, fieldRadius);
+    if (control == CC_ScrollBar && slider)
+        StyleBars::drawScrollBar(*slider, painter, proxy(), widget);
+    else if (control == CC_Slider && slider)
+        StyleBars::drawSlider(*slider, painter, proxy(), widget);
+    else if (control == CC_ComboBox && combo)
+        StyleBoxes::drawCombo(*combo, painter, proxy(), widget);
+    else if (control == CC_SpinBox && spin)
+        StyleBoxes::drawSpin(*spin, painter, proxy(), widget);
+    else if (control == CC_ToolButton && tool)
+        StyleKeys::drawToolKey(*tool, painter, proxy(), widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
     painter->restore();
+}
+
+/// The focus is seen along the edge of a button, and not between it and its word.
+QRect PanelStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                 const QWidget *widget) const
+{
+    if (element == SE_PushButtonFocusRect)
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                 SubControl part, const QWidget *widget) const
+{
+    const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    if (control != CC_SpinBox || !spin)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    switch (part) {
+    case SC_SpinBoxUp:
+        return StyleBoxes::moreKey(*spin);
+    case SC_SpinBoxDown:
+        return StyleBoxes::fewerKey(*spin);
+    case SC_SpinBoxEditField:
+        return StyleBoxes::spinField(*spin);
+    default:
+        return spin->rect;
+    }
+}
+
+QIcon PanelStyle::standardIcon(StandardPixmap which, const QStyleOption *option,
+                               const QWidget *widget) const
+{
+    const QIcon own = StyleIcons::icon(which);
+    return own.isNull() ? QProxyStyle::standardIcon(which, option, widget) : own;
+}
+
+QPixmap PanelStyle::standardPixmap(StandardPixmap which, const QStyleOption *option,
+                                   const QWidget *widget) const
+{
+    const QIcon own = StyleIcons::icon(which);
+    return own.isNull() ? QProxyStyle::standardPixmap(which, option, widget)
+                        : own.pixmap(messageIconSide, messageIconSide);
 }

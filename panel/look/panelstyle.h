@@ -6,9 +6,12 @@
 
 #include <QProxyStyle>
 
-/// Makes what the toolkit sizes for a mouse large enough for a glove: the buttons of message
-/// boxes, check boxes, entry fields, menus. Sizes that the library fixes stay as they are. A button
-/// that is chosen stands out, and on dark paper fields and boxes have an edge that can be seen.
+/// The panel's look of everything that the toolkit draws: flat keys, boxes, bars, tables, tabs and
+/// progress, without bevels, dotted lines, mnemonics and a desktop's icons. Makes what the toolkit
+/// sizes for a mouse large enough for a glove, too. Sizes that the library fixes stay as they are.
+///
+/// All colours are the palette's, and what is drawn where stands in StyleKeys, StyleBoxes,
+/// StyleBars, StyleTables and StyleIcons.
 ///
 /// Draws the frame around what has the focus, too; see KeyboardWay.
 class PanelStyle : public QProxyStyle
@@ -20,12 +23,24 @@ public:
 
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget) const override;
-    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget) const override;
-    int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                    const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *answer) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                       const QWidget *widget) const override;
+    QPixmap standardPixmap(StandardPixmap which, const QStyleOption *option,
+                           const QWidget *widget) const override;
 
     /// Pixels of either of the two colours of the frame.
     static int focusWidth();
