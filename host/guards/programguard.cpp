@@ -545,12 +545,11 @@ bool ProgramGuard::mayCover(const QString &name, const ProgramOnDisk &there)
         return true;
     return m_questioner->ask(
                {tr("Save as"),
-                tr("%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?")
-                    .arg(name)
-                    .arg(there.lines())
-                    .arg(there.written().toString(QLatin1String("yyyy-MM-dd HH:mm")))
-                    .arg(m_editor->document()->blockCount()),
-                {tr("Cancel"), tr("Write over it")}})
+                tr("%1 is there already: %2 lines, of %3. Write this program over it?")
+                    .arg(name, QString::number(there.lines()),
+                         there.written().toString(QLatin1String("yyyy-MM-dd HH:mm"))),
+                {tr("Cancel"), tr("Write over it")},
+                {tr("This program: %1 lines").arg(m_editor->document()->blockCount())}})
            == 1;
 }
 

@@ -202,8 +202,8 @@ void CheckedDownload::endSent(ProgramSnapshot::Verdict verdict)
         return end(tr("%1 is in the PLC: %2 bytes, compared.").arg(program.name).arg(program.bytes),
                    Message::Information);
     case ProgramSnapshot::Changed:
-        return end(tr("%1 is in the PLC as it was shown, %2. On the panel it has changed since "
-                      "then: download it again to send the new one.")
+        return end(tr("%1 is in the PLC as shown, %2. On the panel it has changed since: download "
+                      "it once more.")
                        .arg(program.name, program.checksum()),
                    Message::Warning);
     case ProgramSnapshot::Gone:

@@ -265,8 +265,8 @@ void PlcTransfer::start(const QString &programPath, const QString &copyPath, con
     m_task = std::make_shared<Task>(programPath, copyPath, m_dropDir, hash);
     // The last download could take back the name of what is sent now, long after that was compared.
     if (m_work.hasChangeUnderWay())
-        m_task->refuse(tr("The PLC has not said yet what became of the last download. Wait for it, "
-                          "or switch the PLC off and on, then download once more."));
+        m_task->refuse(tr("The last download has not ended yet. Wait, or switch the PLC off and "
+                          "on, then download once more."));
     m_work.start(m_task);
 }
 
@@ -299,14 +299,14 @@ void PlcTransfer::endStalled()
     m_isPlcAtFault = true;
     const std::shared_ptr<Task> task = std::move(m_task);
     if (task->isUncertain())
-        Q_EMIT failed(tr("The PLC stopped answering while it took %1: which of the two it holds is "
-                         "not known. Check the PLC, then download once more.")
+        Q_EMIT failed(tr("The PLC stopped answering: whether it holds %1 is not known. Check it, "
+                         "then download again.")
                           .arg(task->name()));
     else if (task->hasArrived())
-        Q_EMIT failed(tr("%1 is in the PLC, but the PLC stopped answering before it was compared. "
-                         "Check the PLC, then download once more.")
+        Q_EMIT failed(tr("%1 is in the PLC but not compared: the PLC stopped answering. Check the "
+                         "PLC, then download again.")
                           .arg(task->name()));
     else
-        Q_EMIT failed(tr("The PLC stopped answering in the middle of the download. Check the PLC "
-                         "and its cable, then download once more."));
+        Q_EMIT failed(tr("The PLC stopped answering during the download. Check the PLC and its "
+                         "cable, then download once more."));
 }

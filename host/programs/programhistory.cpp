@@ -600,10 +600,11 @@ void ProgramHistory::beginRestore()
                                .arg(m_wanted.name),
                            Message::Warning);
     if (m_restoreWork.hasChangeUnderWay())
-        return tellRestore(tr("%1 was not brought back: the panel's storage has not ended the last "
-                              "restore yet. Switch the panel off and on.")
-                               .arg(m_wanted.name),
-                           Message::Warning);
+        return tellRestore(
+            tr("%1 was not brought back: the last restore has not ended yet. Switch the "
+               "panel off and on.")
+                .arg(m_wanted.name),
+            Message::Warning);
     m_restore = std::make_shared<Restore>(m_wanted, m_programDir, m_store, m_writerPatienceMs);
     m_restoreWork.start(m_restore);
 }
@@ -624,8 +625,8 @@ void ProgramHistory::loseRestore()
     const bool isKnown = !m_restore->isUncertain() && !m_restore->hasReplaced();
     tellRestore(isKnown ? tr("The panel's storage stopped answering; %1 was not brought back.")
                               .arg(m_wanted.name)
-                        : tr("The panel's storage stopped answering while %1 was brought back: "
-                             "which version it is now is not known. Switch the panel off and on.")
+                        : tr("The panel's storage stopped answering: the version of %1 is not "
+                             "known. Switch the panel off and on.")
                               .arg(m_wanted.name),
                 Message::Alarm);
 }

@@ -51,7 +51,8 @@ bool ProgramKeeper::ask(const QString &path, const QString &reason)
 {
     const QString name = QFileInfo(path).fileName();
     return m_questioner->ask({tr("History"),
-                              tr("%1 What %2 is now would be lost.").arg(reason, name),
-                              {tr("Cancel"), tr("All the same")}})
+                              tr("What %1 is now would be lost.").arg(name),
+                              {tr("Cancel"), tr("All the same")},
+                              {reason}})
            == 1;
 }

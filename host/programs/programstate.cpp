@@ -44,8 +44,7 @@ QString ProgramState::line() const
 QString ProgramState::saveQuestion() const
 {
     if (kind == Cleaned)
-        return tr("%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty "
-                  "lines out of the file.")
+        return tr("%1 has %2 lines, %3 are shown. Saving takes out its comments and empty lines.")
             .arg(name)
             .arg(fileLines)
             .arg(shownLines);
@@ -58,7 +57,7 @@ QString ProgramState::refusal() const
 {
     if (kind == NotStored)
         return tr("%1 is not stored: %2. Save it first.").arg(name, reason);
-    return tr("Only a part of %1 is here: saving or sending it would lose the rest. Open it again, "
-              "or save the part under another name.")
+    return tr("Only a part of %1 is here: saving or sending loses the rest. Open it again, or take "
+              "another name.")
         .arg(name);
 }

@@ -92,9 +92,10 @@ void StoreCheck::lookForOtherPlace()
 void StoreCheck::ask(const QString &otherFolder)
 {
     Question question{tr("Save"),
-                      tr("%1 is not stored: %2. The whole program is only in the editor.")
-                          .arg(QFileInfo(m_path).fileName(), m_reason),
-                      {tr("Later"), tr("Try again")}};
+                      tr("%1 is not stored. The whole program is only in the editor.")
+                          .arg(QFileInfo(m_path).fileName()),
+                      {tr("Later"), tr("Try again")},
+                      {m_reason}};
     if (!otherFolder.isEmpty())
         question.answers.append(tr("Save to the stick"));
     const QPointer<StoreCheck> self(this);

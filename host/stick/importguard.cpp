@@ -77,8 +77,8 @@ QString shown(const QString &fileName)
 Question question(const QList<Unsafe> &files)
 {
     Question question(ImportGuard::tr("File names"),
-                      ImportGuard::tr("The transfer would not take these file names for what they "
-                                      "are. Nothing is copied or deleted until they are renamed."),
+                      ImportGuard::tr("The transfer cannot take these file names. Nothing is "
+                                      "copied or deleted until they are renamed."),
                       {ImportGuard::tr("Leave them"), ImportGuard::tr("Rename")});
     for (const Unsafe &file : files.mid(0, namesShown))
         question.things.append(shown(file.name) + QString::fromUtf8(" \u2192 ")
@@ -306,8 +306,9 @@ bool ImportGuard::mayLose(const QString &name)
 {
     const QString reason = m_history->reasonNotKept(name);
     return isConfirmed({tr("History"),
-                        tr("%1 What %2 is now would be lost.").arg(reason, name),
-                        {tr("Cancel"), tr("All the same")}});
+                        tr("What %1 is now would be lost.").arg(name),
+                        {tr("Cancel"), tr("All the same")},
+                        {reason}});
 }
 
 /// Whether the operator wants the second of two answers. The guard may be gone by then, and nothing

@@ -3,7 +3,6 @@
 
 #include "shell/messagedialog.h"
 
-#include "filarixpanel.h"
 #include "look/dialogtitle.h"
 #include "look/look.h"
 #include "look/measures.h"
@@ -25,6 +24,7 @@ namespace {
 const QSize roomy(720, 560);
 const int textPixels = 14;
 const int timePixels = 12;
+const int timeBesideFrom = 600;
 // Letters of a word that fit on the narrowest panel, be they the widest.
 const int longestWord = 16;
 
@@ -115,8 +115,8 @@ QWidget *MessageDialog::makeLine(const Message &message, bool stands) const
     grid->setContentsMargins(4, 3, 4, 3);
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(1);
-    // A narrow one has the time above the text.
-    const bool isNarrow = panelSize().width() < FilarixPanel::smallBelow;
+    // The text has the whole width, below its time, where that saves it a line.
+    const bool isNarrow = panelSize().width() < timeBesideFrom;
     grid->addWidget(mark, 0, 0, Qt::AlignTop);
     grid->addWidget(time, 0, 1, Qt::AlignTop);
     if (isNarrow)

@@ -19,6 +19,10 @@ namespace {
 
 const int textPixels = 17;
 const int smallestTextPixels = 12;
+// To save a third line the letters become no smaller than that.
+const int smallestOfTwoLines = 13;
+const int boldFrom = 15;
+const int mostLines = 2;
 const int keyPixels = 15;
 const int margin = 12;
 const int gap = 10;
@@ -28,7 +32,7 @@ const int widest = 560;
 QFont sized(QFont font, int pixels)
 {
     font.setPixelSize(pixels);
-    font.setBold(true);
+    font.setBold(pixels >= boldFrom);
     return font;
 }
 
@@ -65,6 +69,14 @@ QLabel *makeLine(const QString &thing, int room)
     return line;
 }
 
+int linesOf(const QLabel *text, int width)
+{
+    const QFontMetrics metrics = text->fontMetrics();
+    const QRect needed =
+        metrics.boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), Qt::TextWordWrap, text->text());
+    return needed.height() / metrics.lineSpacing();
+}
+
 int keyWidth(const QPushButton *key)
 {
     return key->fontMetrics().horizontalAdvance(key->text()) + keyPadding;
@@ -90,11 +102,13 @@ QuestionDialog::QuestionDialog(const Question &question, QWidget *parent) : Dial
     if (!question.things.isEmpty())
         column->addStretch(1);
     column->addLayout(makeKeys(question.answers, width - 2 * margin));
-    // The keys are always there; what is read gives way.
+    // The keys are always there; what is read gives way. Two lines are read at a glance.
     for (int pixels = textPixels; pixels >= smallestTextPixels; --pixels) {
         text->setFont(sized(text->font(), pixels));
         text->setText(breakable(question.text, text->font(), width - 2 * margin));
-        if (column->heightForWidth(width) <= panel.height())
+        const int lines = linesOf(text, width - 2 * margin);
+        const bool isShort = lines <= mostLines || pixels <= smallestOfTwoLines;
+        if (isShort && column->heightForWidth(width) <= panel.height())
             break;
     }
     setFixedWidth(width);

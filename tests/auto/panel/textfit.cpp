@@ -29,6 +29,8 @@ const int thumb = 34;
 const int narrow = 440;
 const int tall = 480;
 const int anyWidth = QWIDGETSIZE_MAX;
+/// Of a hint, a question or a message.
+const int mostLines = 2;
 
 struct Exception
 {
@@ -406,6 +408,34 @@ QStringList TextFit::faults(const QRect &screen)
         }
     }
     faults.removeDuplicates();
+    return faults;
+}
+
+int TextFit::linesOf(const QLabel *label)
+{
+    const QFontMetrics metrics = label->fontMetrics();
+    const int margins = 2 * label->margin();
+    const int width = label->contentsRect().width() - margins;
+    const int height = wrappedSize(metrics, label->text(), width).height();
+    return label->text().isEmpty() ? 0 : qMax(1, qRound(height / qreal(metrics.lineSpacing())));
+}
+
+QStringList TextFit::longTexts()
+{
+    QStringList faults;
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        const QLabel *label = qobject_cast<const QLabel *>(widget);
+        // Facts are read one by one, the toolkit's boxes are as narrow as it makes them, and lines
+        // that elide have a limit of their own.
+        if (!label || !label->isVisible() || !label->wordWrap()
+            || label->objectName() == QLatin1String("pickerFacts")
+            || label->window()->inherits("QMessageBox"))
+            continue;
+        if (linesOf(label) > mostLines)
+            faults.append(QString::fromLatin1("%1: \"%2\" takes %3 lines")
+                              .arg(nameOf(label), label->text())
+                              .arg(linesOf(label)));
+    }
     return faults;
 }
 

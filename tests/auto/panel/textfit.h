@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QTranslator>
 
+class QLabel;
 class QWidget;
 
 /// What an operator could not read or press of all that stands on a screen.
@@ -20,6 +21,11 @@ public:
     /// than their widgets, widgets beyond their parents or over their neighbours, and keys too
     /// small for a thumb. One line each.
     static QStringList faults(const QRect &screen);
+
+    /// Lines that the text of \a label takes in its width, be they cut or not.
+    static int linesOf(const QLabel *label);
+    /// Hints, questions and messages that are visible and take more than two lines. One line each.
+    static QStringList longTexts();
 
     /// What is let pass although it doesn't fit, with the reason: "class or name: reason".
     static QStringList exceptions();

@@ -532,8 +532,8 @@ void TestProgramGuard::whatIsWrittenAgainIsReadBack()
     QCOMPARE(disk.decays(), 3);
     QCOMPARE(m_questioner->asked.size(), 3);
     for (const Question &question : m_questioner->asked)
-        QVERIFY2(question.text.contains("the file holds something else than the editor"),
-                 qPrintable(question.text));
+        QVERIFY2(question.plainText().contains("the file holds something else than the editor"),
+                 qPrintable(question.plainText()));
     QVERIFY(document()->isModified());
     QCOMPARE(int(m_guard->state().kind), int(ProgramState::NotStored));
     QVERIFY(!wasTold("saved", Message::Information));
@@ -557,7 +557,7 @@ void TestProgramGuard::whatTheStickHoldsIsReadBack()
     QVERIFY(!ended.first().first().toBool());
     QCOMPARE(disk.decays(), 2);
     QCOMPARE(m_questioner->asked.size(), 2);
-    QVERIFY2(m_questioner->asked.last().text.contains(
+    QVERIFY2(m_questioner->asked.last().plainText().contains(
                  "neither here nor on the stick, whose file differs"),
              qPrintable(m_questioner->asked.last().text));
     QVERIFY(document()->isModified());
@@ -610,7 +610,7 @@ void TestProgramGuard::stickThatWasPulledMeanwhileGetsNothing()
     }
     QVERIFY(QDir(stick).entryList(QDir::Files | QDir::Hidden).isEmpty());
     QCOMPARE(m_questioner->asked.size(), 2);
-    QVERIFY(m_questioner->asked.last().text.contains("the stick, which is out"));
+    QVERIFY(m_questioner->asked.last().plainText().contains("the stick, which is out"));
     QVERIFY(document()->isModified());
     m_guard->setOtherPlace(std::function<QString()>());
 }
@@ -908,7 +908,7 @@ void TestProgramGuard::coveringAnotherProgramAsks()
     press("Save");
     QTRY_COMPARE(ended.size(), 1);
     QVERIFY2(driver.finished(), driver.report());
-    const QString text = m_questioner->asked.at(0).text;
+    const QString text = m_questioner->asked.at(0).plainText();
     QVERIFY2(text.contains("3 lines") && text.contains("1 lines")
                  && text.contains(QDate::currentDate().toString("yyyy-MM-dd")),
              qPrintable(text));
@@ -1051,7 +1051,7 @@ void TestProgramGuard::whatTheHistoryCannotKeepIsAskedAbout()
     press("Save");
     QTRY_COMPARE(ended.size(), 1);
     QCOMPARE(m_questioner->asked.size(), 1);
-    QVERIFY(m_questioner->asked.at(0).text.contains("It is too large."));
+    QVERIFY(m_questioner->asked.at(0).plainText().contains("It is too large."));
     QCOMPARE(readFile(path("coil.cnc")) == "G01\n", answer == 0);
     QCOMPARE(document()->isModified(), answer == 0);
 }

@@ -471,7 +471,7 @@ void TestPlcTransfer::stalledSyncRenamesNothing()
     transfer.start(programDir() + "/coil.cnc");
     QTRY_COMPARE(failures.size(), 1);
     QVERIFY(hanging.isHanging());
-    QVERIFY(failures.at(0).at(0).toString().contains("in the middle of the download"));
+    QVERIFY(failures.at(0).at(0).toString().contains("during the download"));
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
 
     transfer.setStallTime(FileTaskRunner::stallMs);
@@ -510,7 +510,7 @@ void TestPlcTransfer::renameThatHangsIsToldAsNotKnown()
     transfer.start(programDir() + "/coil.cnc");
     QCOMPARE(failures.size(), 1);
     QTRY_COMPARE(failures.size(), 2);
-    QVERIFY(failures.at(1).at(0).toString().contains("has not said yet"));
+    QVERIFY(failures.at(1).at(0).toString().contains("has not ended yet"));
     QCOMPARE(readFile(m_plc + "/coil.cnc"), QByteArray("before\n"));
 
     hanging.release();

@@ -776,7 +776,7 @@ void TestProgramHistory::renameThatHangsIsToldAsNotKnown()
     m_history->setStallTime(FileTaskRunner::stallMs);
     m_history->restore(m_history->versions().first());
     QTRY_COMPARE(m_told->size(), 2);
-    QVERIFY2(lastTold().contains("has not ended the last"), qPrintable(lastTold()));
+    QVERIFY2(lastTold().contains("last restore has not ended yet"), qPrintable(lastTold()));
     QCOMPARE(readFile(m_path), QByteArray("two\n"));
     gate->release();
     // The one of before comes to its end; what stood there is kept, wherever it is.

@@ -83,7 +83,7 @@ void TestProgramKeeper::whatCannotBeKeptIsAsked()
     m_kept("The history is full.");
     QCOMPARE(m_answers, QList<bool>() << mayWrite);
     QCOMPARE(m_questioner->asked.size(), 1);
-    const QString text = m_questioner->asked.first().text;
+    const QString text = m_questioner->asked.first().plainText();
     QVERIFY2(text.contains("The history is full.") && text.contains("coil.cnc"), qPrintable(text));
 }
 

@@ -36,7 +36,7 @@ private Q_SLOTS:
 
 private:
     bool run();
-    QString lastText() const { return m_questioner->asked.last().text; }
+    QString lastText() const { return m_questioner->asked.last().plainText(); }
 
     QString m_path;
     QScopedPointer<QTextDocument> m_document;

@@ -626,7 +626,9 @@ void TestImportGuard::programThatTheHistoryCannotKeepGoesOnlyAfterAQuestion()
     QVERIFY2(driver.finished(), driver.report());
     QCOMPARE(m_questioner.asked.size(), 2);
     for (const Question &question : m_questioner.asked) {
-        QVERIFY(question.text.startsWith("The history cannot read coil.cnc: Permission denied."));
+        QCOMPARE(question.text, QString("What coil.cnc is now would be lost."));
+        QCOMPARE(question.things, QStringList()
+                                      << "The history cannot read coil.cnc: Permission denied.");
         QCOMPARE(question.answers, QStringList() << "Cancel"
                                                  << "All the same");
     }

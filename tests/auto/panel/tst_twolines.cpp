@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+// On the smallest panel, whose screen the test has: whether each message, hint and question of
+// panel and companion takes two lines at the most, in each language.
+
+#include "filarixtest.h"
+#include "look/look.h"
+#include "panelprogram.h"
+#include "shell/messagedialog.h"
+#include "shell/messagelog.h"
+#include "shell/questiondialog.h"
+#include "textfit.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+namespace {
+
+const int mostLines = 2;
+/// A shorter one has no sentence.
+const int fewestLetters = 26;
+const char english[] = "en";
+
+/// What stands for the parts of a text: a name first, then numbers, dates and the like.
+const char *const parts[] = {"stator-coil.cnc", "2026-05", "1000620", "501"};
+
+bool isSentence(const QString &source)
+{
+    const QString text = source.trimmed();
+    return text.size() >= fewestLetters && (text.endsWith('.') || text.endsWith('?'));
+}
+
+QString filled(const QString &text)
+{
+    QString whole = text;
+    for (int i = 0; i < int(sizeof parts / sizeof *parts); ++i)
+        whole.replace(QString("%%1").arg(i + 1), parts[i]);
+    return whole;
+}
+
+/// All texts of panel and companion in that language.
+QStringList textsIn(const QString &language)
+{
+    const bool isEnglish = language == english;
+    QStringList texts;
+    for (const char *program : {"filarix-panel", "filarixhost"}) {
+        QFile file(QString("%1/%2_%3.ts")
+                       .arg(FILARIX_TRANSLATION_SOURCES, program, isEnglish ? "de" : language));
+        if (!file.open(QIODevice::ReadOnly))
+            return QStringList();
+        QXmlStreamReader xml(&file);
+        QString source;
+        while (!xml.atEnd()) {
+            xml.readNext();
+            if (!xml.isStartElement())
+                continue;
+            if (xml.name() == QLatin1String("source"))
+                source = xml.readElementText();
+            else if (xml.name() == QLatin1String("translation") && isSentence(source))
+                texts.append(filled(isEnglish ? source : xml.readElementText()));
+        }
+        if (xml.hasError())
+            return QStringList();
+    }
+    return texts;
+}
+
+/// As a dialog of all messages shows them.
+QStringList longMessages(const QStringList &texts)
+{
+    QStringList faults;
+    for (int from = 0; from < texts.size(); from += MessageLog::kept) {
+        MessageLog log;
+        for (const QString &text : texts.mid(from, MessageLog::kept))
+            log.tell(text, Message::Information);
+        MessageDialog dialog(&log, QString());
+        dialog.show();
+        QCoreApplication::processEvents();
+        for (const QLabel *label : dialog.findChildren<QLabel *>("text")) {
+            if (TextFit::linesOf(label) > mostLines)
+                faults.append(label->text().remove(QChar(0x200b)));
+        }
+    }
+    return faults;
+}
+
+QStringList longQuestions(const QStringList &texts)
+{
+    QStringList faults;
+    for (const QString &text : texts) {
+        Question question;
+        question.text = text;
+        question.answers = QStringList{"Cancel", "All the same"};
+        QuestionDialog dialog(question);
+        dialog.show();
+        QCoreApplication::processEvents();
+        if (TextFit::linesOf(dialog.findChild<QLabel *>("question")) > mostLines)
+            faults.append(text);
+    }
+    return faults;
+}
+
+} // namespace
+
+class TestTwoLines : public FilarixTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void threeLinesAreFound();
+    void everyTextTakesTwoLines_data();
+    void everyTextTakesTwoLines();
+};
+
+void TestTwoLines::initTestCase()
+{
+    PanelProgram::setUpStyle();
+    Look::use(Look::Light);
+    QCOMPARE(QGuiApplication::primaryScreen()->availableSize(), QSize(480, 272));
+}
+
+void TestTwoLines::threeLinesAreFound()
+{
+    // The screen comes with the first window.
+    StrictMessages::expect("QVncServer created");
+    const QString two = QString("word ").repeated(15).trimmed();
+    const QString three = QString("word ").repeated(30).trimmed();
+    QCOMPARE(longMessages({two, three}), QStringList{three});
+    QCOMPARE(longQuestions({two, three}), QStringList{three});
+}
+
+void TestTwoLines::everyTextTakesTwoLines_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {english, "de", "it", "tr", "zh_CN"})
+        QTest::newRow(language) << language;
+}
+
+void TestTwoLines::everyTextTakesTwoLines()
+{
+    QFETCH(QString, language);
+    const QStringList texts = textsIn(language);
+    QVERIFY2(texts.size() > 150, qPrintable(QString::number(texts.size())));
+    const QStringList faults =
+        longMessages(texts) + longQuestions(texts.filter(QRegularExpression("[?\xef\xbc\x9f]$")));
+    for (const QString &fault : faults)
+        qDebug("%s", qPrintable(fault));
+    QCOMPARE(faults, QStringList());
+}
+
+FILARIX_TEST_MAIN(TestTwoLines)
+#include "tst_twolines.moc"
