@@ -72,6 +72,8 @@ public:
 
     /// The panel's parts exist once it has started.
     PanelWindow *window() const { return m_window.get(); }
+    /// Of a tour, or of a picture that is turned; else nullptr.
+    const PanelGlass *glass() const { return m_glass.get(); }
     ProgramScreen *programScreen() const { return m_programs; }
     PreviewScreen *previewScreen() const { return m_previewScreen; }
     CoilPreview *coilPreview() const { return m_preview.get(); }

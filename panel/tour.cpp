@@ -112,14 +112,22 @@ void Tour::next()
 void Tour::save(const QString &name)
 {
     Q_EMIT arrived(name);
-    if (m_folder.isEmpty() || !m_glass)
+    if (!m_glass)
         return;
     // A text that has just changed has its new width.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // Where the event loop has to wait, nothing else has painted the panel.
     m_panel->repaint();
+    const QImage picture = m_glass->picture();
+    Q_EMIT taken(name, picture);
+    if (!m_folder.isEmpty())
+        write(name, picture);
+}
+
+void Tour::write(const QString &name, const QImage &picture)
+{
     const QString file = QDir(m_folder).filePath(
         QString::fromLatin1("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));
-    if (!m_glass->picture().save(file))
+    if (!picture.save(file))
         fail(tr("The picture %1 cannot be written.").arg(file));
 }

@@ -12,6 +12,7 @@
 #include <functional>
 
 class PanelGlass;
+class QImage;
 class QWidget;
 
 /// Works the panel without an operator and leaves a numbered PNG of what it shows. Where it goes is
@@ -27,7 +28,7 @@ public:
     typedef std::function<void()> Step;
 
     /// Pictures are what \a glass shows of \a panel, and go to \a folder, which is made if it is
-    /// missing. Without the two none are made.
+    /// missing. Without a glass none are made; without a folder those who listen have them alone.
     explicit Tour(QWidget *panel, const QString &folder = QString(),
                   const PanelGlass *glass = nullptr, QObject *parent = nullptr);
 
@@ -55,11 +56,14 @@ public:
 Q_SIGNALS:
     /// What there is to see at the stop \a name is on the panel.
     void arrived(const QString &name);
+    /// The same as a picture.
+    void taken(const QString &name, const QImage &picture);
     void finished();
 
 private:
     void fail(const QString &error);
     void next();
+    void write(const QString &name, const QImage &picture);
 
     QWidget *m_panel;
     const PanelGlass *m_glass;

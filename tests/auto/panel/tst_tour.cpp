@@ -24,6 +24,7 @@ private Q_SLOTS:
     void stepsGoOnWhileADialogWaits();
     void aDialogThatIsNotThereIsAnError();
     void picturesAreNumbered();
+    void picturesAreToldWithoutAFolder();
     void aFolderThatCannotBeMadeIsAnError();
 
 private:
@@ -142,6 +143,26 @@ void TestTour::picturesAreNumbered()
     const QImage picture(folder + "/01-one.png");
     QCOMPARE(picture.size(), QSize(272, 480));
     QCOMPARE(picture.pixelColor(100, 100), QColor(Qt::red));
+}
+
+void TestTour::picturesAreToldWithoutAFolder()
+{
+    PanelGlass glass(QSize(480, 272), 0);
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    glass.present(&panel);
+    QVERIFY(TestCompat::waitForExposed(&panel));
+    Tour tour(&panel, QString(), &glass);
+    QStringList told;
+    connect(&tour, &Tour::taken, this, [&](const QString &name, const QImage &picture) {
+        told.append(name);
+        QCOMPARE(picture.size(), panel.size());
+    });
+    tour.picture("one");
+    tour.picture("two");
+    run(&tour);
+    QCOMPARE(tour.error(), QString());
+    QCOMPARE(told, QStringList({"one", "two"}));
 }
 
 void TestTour::aFolderThatCannotBeMadeIsAnError()
