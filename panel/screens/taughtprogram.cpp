@@ -115,6 +115,11 @@ QString TaughtProgram::lineWord()
     return QLatin1String("MoveL");
 }
 
+QString TaughtProgram::longestShortWord()
+{
+    return shortWordOf(QLatin1String("ML")) + QString::fromUtf8("(\u2193)");
+}
+
 QStringList TaughtProgram::shown(QStringList row, bool isNarrow)
 {
     const QString kind = row.value(0);

@@ -36,6 +36,8 @@ QStringList stored(QStringList row);
 /// The words of the two kinds of movement.
 QString jointWord();
 QString lineWord();
+/// The widest that a narrow list shows of an instruction's name, with the arrow behind it.
+QString longestShortWord();
 
 /// Whether a list with titleRow() can show the row.
 bool isValid(const QStringList &row);

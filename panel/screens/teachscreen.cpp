@@ -12,6 +12,7 @@
 #include "programs/programname.h"
 #include "screens/machinedata.h"
 #include "screens/movementlimits.h"
+#include "screens/narrowrows.h"
 #include "screens/pathpicker.h"
 #include "screens/rowchange.h"
 #include "screens/rowdetails.h"
@@ -132,6 +133,8 @@ TeachScreen::TeachScreen(const QSize &surface, const QString &folder, MachineDat
     , m_machine(machine)
     , m_limits(new MovementLimits(list(), this))
 {
+    if (m_isNarrow)
+        new NarrowRows(list(), TaughtProgram::longestShortWord());
     addKeys(surface);
     connect(list(), &TListWidget::clicked, this, &TeachScreen::followRow);
     connect(list(), &TListWidget::sg_jpos_update, this, &TeachScreen::choosePoint);

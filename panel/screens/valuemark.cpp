@@ -25,10 +25,28 @@ const int corner = 4;
 const int largestSign = 22;
 const int largestSwitch = 20;
 
+// Letters that do not fit become smaller, down to these.
+const int smallestLetters = 10;
+
 // Rows are black on white in both looks.
 const QRgb rowText = 0xff000000;
 const QRgb rowLine = 0xff9fb0c2;
 const QRgb switchedOff = 0xff66727f;
+
+/// The text with letters that have room; none where the smallest have not.
+void drawWhole(QPainter *painter, const QRect &place, const QString &text)
+{
+    QFont font = painter->font();
+    int pixels = QFontInfo(font).pixelSize();
+    while (pixels > smallestLetters && QFontMetrics(font).horizontalAdvance(text) > place.width())
+        font.setPixelSize(--pixels);
+    if (QFontMetrics(font).horizontalAdvance(text) > place.width())
+        return;
+    const QFont before = painter->font();
+    painter->setFont(font);
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
+    painter->setFont(before);
+}
 
 } // namespace
 
@@ -90,8 +108,7 @@ void ValueMark::paintEvent(QPaintEvent *)
         paintSwitch(&painter, cell);
     } else {
         painter.setPen(QColor(rowText));
-        painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter,
-                         fontMetrics().elidedText(m_state.unit, Qt::ElideRight, cell.width()));
+        drawWhole(&painter, cell, m_state.unit);
     }
     if (!m_state.word.isEmpty())
         paintWord(&painter, rect().adjusted(cell.right() + 2 * gap, 2, -gap, -2));
@@ -123,6 +140,6 @@ void ValueMark::paintWord(QPainter *painter, const QRect &cell) const
     ToneMark::draw(painter, sign, m_state.tone);
     painter->setPen(Qt::white);
     const QRect words = cell.adjusted(side + gap, 0, -gap, 0);
-    painter->drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
-                      fontMetrics().elidedText(m_state.word, Qt::ElideRight, words.width()));
+    // Too narrow for the word, its sign says enough.
+    drawWhole(painter, words, m_state.word);
 }
