@@ -80,6 +80,8 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/finddialogkeypad.h
   guards/fittedlist.h
   guards/lineentry.h
+  guards/pickerfacts.h
+  guards/pickertable.h
   guards/programguard.h
   guards/programpickers.h
   guards/programwalk.h
@@ -97,6 +99,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   programs/programhistory.h
   programs/programinspection.h
   programs/programkeeper.h
+  programs/programlisting.h
   programs/programname.h
   programs/programondisk.h
   programs/programopener.h

@@ -275,6 +275,12 @@ void PanelProgram::connectScreens()
     connect(m_programs, &PanelScreen::titleChanged, m_history.get(), &ProgramHistory::scan);
     connect(m_files, &FilesScreen::importWanted, programWindow,
             [programWindow] { QMetaObject::invokeMethod(programWindow, "importExport"); });
+    m_files->setProfile([this] { return m_preview->profile(); });
+    m_files->setInspector([this](const QString &path) { return m_review->inspect(path); });
+    connect(m_files, &FilesScreen::openWanted, this, [this](const QString &path) {
+        m_window->showScreen(m_programs);
+        m_programs->open(path);
+    });
     m_window->status()->follow(m_programs->transfer());
     connectPreview();
     connectReview();

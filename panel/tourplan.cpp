@@ -382,6 +382,7 @@ void TourPlan::visitConnectionsScreen(ConnectionsScreen *screen)
 void TourPlan::visitFilesScreen(FilesScreen *screen)
 {
     showScreen(screen);
+    m_tour->waitUntil([screen] { return !screen->chosenPath().isEmpty() && screen->isUpToDate(); });
     m_tour->picture(QLatin1String("files"));
     m_tour->then([screen] { QTimer::singleShot(0, screen, [screen] { screen->plug(); }); });
     // Without a folder that stands in for the stick nothing can be plugged, and nothing is asked.
@@ -403,7 +404,7 @@ void TourPlan::visitFilesScreen(FilesScreen *screen)
     });
     m_tour->picture(QLatin1String("history"));
     m_tour->closeDialog();
-    pressKey(screen, QLatin1String("Pick"));
+    pressKey(screen, QLatin1String("Browse"));
     m_tour->picture(QLatin1String("pick-path"));
     m_tour->closeDialog();
 }

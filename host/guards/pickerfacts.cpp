@@ -15,6 +15,7 @@ namespace {
 
 const int edge = 4;
 const int bytesPerKilobyte = 1024;
+const char lineGap[] = "   ";
 
 } // namespace
 
@@ -37,10 +38,19 @@ PickerFacts::PickerFacts(const QString &folder, const MachineProfile &profile, b
     connect(&m_runner, SIGNAL(stalled()), SLOT(showStalled()));
 }
 
+void PickerFacts::setRoom(Room room)
+{
+    m_room = room;
+    setWordWrap(room != OneLine);
+    setAlignment((room == OneLine ? Qt::AlignVCenter : Qt::AlignTop) | Qt::AlignLeft);
+    fit();
+}
+
 void PickerFacts::tell(const QString &name)
 {
     m_name = name;
-    clear();
+    m_isStopped = false;
+    say(QString());
     if (m_runner.isRunning())
         m_runner.stop();
     m_rest.start();
@@ -53,18 +63,36 @@ void PickerFacts::begin()
     if (m_rest.isActive() || m_runner.isRunning())
         return;
     m_summary.reset();
+    if (m_isStopped) {
+        say(tr("Not read to its end: it was stopped."));
+        Q_EMIT settled();
+        return;
+    }
     // What no program can be called needs no look at the disk.
-    if (m_name.isEmpty() || !ProgramName::complaint(m_name).isEmpty())
-        return clear();
-    setText(tr("Reading %1 ...").arg(m_name));
+    if (m_name.isEmpty() || !ProgramName::complaint(m_name).isEmpty()) {
+        say(QString());
+        Q_EMIT settled();
+        return;
+    }
+    say(tr("Reading %1 ...").arg(m_name));
     m_summary = std::make_shared<ProgramSummary>(m_folder + QLatin1Char('/') + m_name, m_profile);
     m_runner.start(m_summary);
 }
 
+void PickerFacts::stop()
+{
+    if (!m_runner.isRunning() || m_rest.isActive())
+        return;
+    m_isStopped = true;
+    m_runner.stop();
+}
+
 void PickerFacts::showProgress()
 {
-    if (!m_rest.isActive())
-        setText(linesOf(*m_summary, false));
+    if (m_rest.isActive())
+        return;
+    display(factsOf(*m_summary, false));
+    Q_EMIT progressed(m_summary->percent());
 }
 
 void PickerFacts::showAll()
@@ -72,7 +100,8 @@ void PickerFacts::showAll()
     // The choice has moved on in the last step.
     if (m_rest.isActive())
         return;
-    setText(linesOf(*m_summary, true));
+    display(factsOf(*m_summary, true));
+    Q_EMIT settled();
 }
 
 /// The reader may still be at work: nobody looks at it any more.
@@ -81,7 +110,55 @@ void PickerFacts::showStalled()
     m_summary.reset();
     if (m_rest.isActive())
         return;
-    setText(tr("The panel's storage does not answer."));
+    say(tr("The panel's storage does not answer."));
+    Q_EMIT settled();
+}
+
+void PickerFacts::say(const QString &words)
+{
+    display(words.isEmpty() ? QStringList() : QStringList(words));
+}
+
+void PickerFacts::display(const QStringList &facts)
+{
+    m_shown = facts;
+    fit();
+}
+
+/// The first one stays, however long it is.
+void PickerFacts::fit()
+{
+    const QString gap = QLatin1String(m_room == OneLine ? lineGap : "\n");
+    QString shown = m_shown.value(0);
+    for (int i = 1; i < m_shown.size(); ++i) {
+        const QString more = shown + gap + m_shown.at(i);
+        if (m_room == AllOfThem || fits(more))
+            shown = more;
+    }
+    if (shown != text())
+        setText(shown);
+}
+
+bool PickerFacts::fits(const QString &text) const
+{
+    const QSize room = contentsRect().size() - QSize(2 * margin(), 2 * margin());
+    if (m_room == OneLine)
+        return fontMetrics().width(text) <= room.width();
+    const QRect place(0, 0, room.width(), QWIDGETSIZE_MAX);
+    return fontMetrics().boundingRect(place, Qt::TextWordWrap, text).height() <= room.height();
+}
+
+void PickerFacts::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    fit();
+}
+
+void PickerFacts::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fit();
 }
 
 QString PickerFacts::missing() const
@@ -89,22 +166,23 @@ QString PickerFacts::missing() const
     return m_isForSaving ? tr("A new program.") : tr("There is no program of this name.");
 }
 
-QString PickerFacts::linesOf(const ProgramSummary &summary, bool isDone) const
+QStringList PickerFacts::factsOf(const ProgramSummary &summary, bool isDone) const
 {
     switch (summary.kind()) {
     case ProgramSummary::Missing:
-        return missing();
+        return QStringList(missing());
     case ProgramSummary::NoProgram:
-        return tr("This is no program file.");
+        return QStringList(tr("This is no program file."));
     case ProgramSummary::Unreadable:
-        return tr("It cannot be read: %1.").arg(summary.error());
+        return QStringList(tr("It cannot be read: %1.").arg(summary.error()));
     default:
         break;
     }
     QStringList lines;
     if (m_isForSaving)
         lines.append(tr("It is there already."));
-    if (!summary.comment().isEmpty())
+    // In one line the comment takes what room is left.
+    if (!summary.comment().isEmpty() && m_room != OneLine)
         lines.append(summary.comment());
     if (isDone && !summary.isWhole())
         lines.append(tr("More than %1 lines: too long to be read here.").arg(summary.lines()));
@@ -116,7 +194,11 @@ QString PickerFacts::linesOf(const ProgramSummary &summary, bool isDone) const
         lines.append(tr("%1 turns, %2 m of wire")
                          .arg(CoilFigures::number(summary.turns(), 1),
                               CoilFigures::number(summary.wireLength(), 1)));
+    if (summary.seconds() > 0)
+        lines.append(tr("Runs for %1").arg(CoilFigures::timeText(summary.seconds())));
     lines.append(tr("%1 KB").arg((summary.size() + bytesPerKilobyte - 1) / bytesPerKilobyte));
     lines.append(summary.written().toLocalTime().toString(QLatin1String("yyyy-MM-dd HH:mm")));
-    return lines.join(QLatin1String("\n"));
+    if (!summary.comment().isEmpty() && m_room == OneLine)
+        lines.append(summary.comment());
+    return lines;
 }

@@ -22,6 +22,7 @@ const int columns = 3;
 const int rowHeight = 50;
 const int headerHeight = 28;
 const int gap = 12;
+const int bytesPerKilobyte = 1024;
 
 /// Where the number that begins at \a begin ends; without its leading zeros it begins at \a first.
 int endOfNumber(const QString &text, int begin, int *first)
@@ -84,8 +85,7 @@ PickerTable::PickerTable(QTableWidget *table, QObject *parent) : QObject(parent)
         m_entries.append(entry);
     }
     table->setColumnCount(columns);
-    // The library's own labels go with the first clear() of its table.
-    table->setHorizontalHeaderLabels(QStringList() << tr("Name") << tr("Size") << tr("Changed"));
+    retranslate();
     table->horizontalHeader()->setFixedHeight(headerHeight);
     table->setColumnWidth(sizeColumn, textWidth(table, QLatin1String("88888 KB")));
     table->setColumnWidth(dateColumn, textWidth(table, QLatin1String("2026-08-28 08:08")));
@@ -94,6 +94,22 @@ PickerTable::PickerTable(QTableWidget *table, QObject *parent) : QObject(parent)
     // Two names may differ at the end alone.
     table->setTextElideMode(Qt::ElideMiddle);
     setRecent(QStringList());
+}
+
+/// The library's own labels go with the first clear() of its table.
+void PickerTable::retranslate()
+{
+    m_table->setHorizontalHeaderLabels(QStringList() << tr("Name") << tr("Size") << tr("Changed"));
+}
+
+void PickerTable::setNames(const QStringList &names)
+{
+    m_entries.clear();
+    for (int i = 0; i < names.size(); ++i) {
+        const Entry entry = {names.at(i), QString(), QString(), 0, 0, 0};
+        m_entries.append(entry);
+    }
+    setRecent(m_recent);
 }
 
 void PickerTable::setRecent(const QStringList &names)
@@ -121,6 +137,10 @@ void PickerTable::setListing(const ProgramListing &listing)
         Entry &entry = m_entries[i];
         const ProgramListing::Entry known = listing.entries().value(entry.name);
         entry.size = known.size;
+        // The library says its own.
+        if (entry.sizeText.isEmpty())
+            entry.sizeText =
+                tr("%1 KB").arg((known.size + bytesPerKilobyte - 1) / bytesPerKilobyte);
         entry.written = known.written;
         entry.dateText = known.written == 0 ? QString()
                                             : QDateTime::fromMSecsSinceEpoch(known.written)

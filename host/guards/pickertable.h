@@ -4,6 +4,7 @@
 #ifndef PICKERTABLE_H
 #define PICKERTABLE_H
 
+#include "base/filarixhostglobal.h"
 #include "programs/programlisting.h"
 
 #include <QObject>
@@ -13,11 +14,16 @@
 
 class QTableWidget;
 
-/// Sorts and filters the table of the library's program picker, and adds the dates to it.
+/// Sorts and filters a table of programs: that of the library's program picker, or a host's own.
 ///
-/// The table stays the library's own: its rows get other texts, in the order that is asked for. The
-/// names are those that the library listed.
-class PickerTable : public QObject
+/// The library's table stays what it is: its rows get other texts, in the order that is asked for.
+/// The names are those that the library listed, until others are set.
+///
+///     PickerTable rows(table);
+///     rows.setNames(names);
+///     rows.setListing(listing); // sizes and dates
+///     rows.fill();
+class FILARIX_HOST_EXPORT PickerTable : public QObject
 {
     Q_OBJECT
 
@@ -31,6 +37,11 @@ public:
 
     /// Takes the names out of \a table, which has to outlive the object.
     explicit PickerTable(QTableWidget *table, QObject *parent = nullptr);
+
+    /// In the place of the names before; of sizes and dates nothing is known then.
+    void setNames(const QStringList &names);
+    /// Says once more what each column is: the language has changed.
+    void retranslate();
 
     /// The programs used last, the very last one first.
     void setRecent(const QStringList &names);
@@ -47,7 +58,9 @@ public:
 
     /// Marks the row of this name, and moves it into view; without such a row none is marked.
     void mark(const QString &name);
+    /// In no order.
     QStringList allNames() const;
+    /// Those that the filter leaves, in the order of the rows.
     QStringList shownNames() const { return m_shown; }
 
 private:

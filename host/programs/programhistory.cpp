@@ -585,13 +585,18 @@ void ProgramHistory::restore(const ProgramVersion &version)
     whenSettled(this, [this] { beginRestore(); });
 }
 
+/// A restore that waits for the history has no checksum from now on, and ends when it would begin.
 void ProgramHistory::stopRestoring()
 {
+    if (!m_restore)
+        m_wanted.hash.clear();
     m_restoreWork.stop();
 }
 
 void ProgramHistory::beginRestore()
 {
+    if (m_wanted.hash.isEmpty())
+        return endStopped();
     if (m_isLost)
         return tellRestore(tr("%1 was not brought back.").arg(m_wanted.name), Message::Warning);
     if (!isKept(m_wanted.name))

@@ -63,6 +63,7 @@ public:
     /// the permissions of that one. Does nothing while another one is brought back. Ends in told().
     void restore(const ProgramVersion &version);
     void stopRestoring();
+    bool isRestoring() const { return m_isRestoring; }
 
     /// Milliseconds that a step of a look or of a restore may take.
     void setStallTime(int ms);

@@ -4,6 +4,7 @@
 #ifndef PROGRAMLISTING_H
 #define PROGRAMLISTING_H
 
+#include "base/filarixhostglobal.h"
 #include "storage/filetaskrunner.h"
 
 #include <QHash>
@@ -11,7 +12,11 @@
 #include <QStringList>
 
 /// Sizes and dates of the files of a folder, a few hundred a step.
-class ProgramListing : public FileTask
+///
+///     auto listing = std::make_shared<ProgramListing>(folder, names);
+///     connect(&runner, SIGNAL(ended()), ...); // then listing->entries()
+///     runner.start(listing);
+class FILARIX_HOST_EXPORT ProgramListing : public FileTask
 {
 public:
     struct Entry

@@ -157,3 +157,8 @@ double ProgramSummary::wireLength() const
 {
     return isWhole() ? m_reading.model().totals().wireLength : 0;
 }
+
+double ProgramSummary::seconds() const
+{
+    return isWhole() ? m_reading.model().totals().seconds : 0;
+}

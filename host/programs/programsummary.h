@@ -57,6 +57,10 @@ public:
     double turns() const;
     /// Likewise, in metres.
     double wireLength() const;
+    /// Likewise, from the first line to the end.
+    double seconds() const;
+    /// The coil of what was read; of a whole program once there is no step left to do.
+    const WindingModel &model() const { return m_reading.model(); }
 
 private:
     bool open();

@@ -16,6 +16,7 @@
 #include "programs/checkeddownload.h"
 #include "programs/programdirectory.h"
 #include "programs/programname.h"
+#include "programs/programopener.h"
 #include "programs/recentprograms.h"
 #include "screens/downloadquestion.h"
 #include "screens/findingsbar.h"
@@ -399,6 +400,16 @@ void ProgramScreen::retranslate()
 void ProgramScreen::stopWork(const QString &)
 {
     m_download->stop();
+}
+
+void ProgramScreen::open(const QString &path)
+{
+    if (m_isOpening)
+        return;
+    m_isOpening = true;
+    ProgramOpener opener(m_window, [this] { return m_guard->isBusy(); });
+    opener.open(path);
+    m_isOpening = false;
 }
 
 void ProgramScreen::insertTaughtPoint()

@@ -77,6 +77,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
+    /// Has the program at \a path in the editor, as its operator would: what the window asks about
+    /// unsaved work is asked first.
+    void open(const QString &path);
     void stopWork(const QString &work = QString()) override;
     /// Shows the findings of the check below the program, or hides them. A small panel has no room
     /// for the state of the program meanwhile.
@@ -123,6 +126,7 @@ private:
     /// In the key's place where there is no room for one.
     StateLine *m_checkLine = nullptr;
     PanelKey *m_checkKey = nullptr;
+    bool m_isOpening = false;
 };
 
 #endif // PROGRAMSCREEN_H

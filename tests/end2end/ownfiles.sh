@@ -111,7 +111,11 @@ move_files() {
     # The stand-in for the stick brings a name that is not safe.
     touch_text Rename "File names"
     expect_gone Rename "File names"
-    expect_text "All are safe for the transfer"
+    expect_text "Files renamed: 1."
+    touch_text stator-coil.cnc
+    touch_text Check
+    desk_until 20 said "stator-coil.cnc: " || desk_fail "stator-coil.cnc is not checked"
+    nothing_called "looking at a program"
     echo "G00 X1" >"$stick/fresh.cnc"
     open_manager
     touch_text fresh.cnc
@@ -140,12 +144,17 @@ move_files() {
     touch_text coil5.cnc History
     touch_text "Bring back" History
     desk_until 20 test -s "$programs/coil5.cnc" || desk_fail "nothing came back"
-    touch_text Pick
+    touch_text Browse
     touch_text Cancel "Pick a path"
     expect_gone Cancel "Pick a path"
     touch_text Pull
     expect_text "The stick is out."
     nothing_called "bringing back"
+    touch_text test-coil.cnc
+    touch_text Open
+    expect_text Find
+    expect_text test-coil.cnc
+    nothing_called "opening from the list"
 }
 
 choose_settings() {

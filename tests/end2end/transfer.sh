@@ -66,7 +66,7 @@ touch_text Quit
 expect_gone Quit
 
 touch_text Files
-expect_text Pick
+expect_text Browse
 touch_text I/E
 expect_text Quit
 # A stick that is pulled while its files are shown.

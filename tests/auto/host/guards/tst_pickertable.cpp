@@ -21,6 +21,8 @@ private Q_SLOTS:
     void datesComeWithTheListing();
     void markFollowsItsName();
     void emptyTable();
+    void otherNamesComeWithTheirSizes();
+    void headsAreSaidOnceMore();
 
 private:
     QStringList column(int column) const;
@@ -145,6 +147,41 @@ void TestPickerTable::emptyTable()
     table.fill();
     table.mark("a.cnc");
     QCOMPARE(table.allNames(), QStringList());
+}
+
+void TestPickerTable::otherNamesComeWithTheirSizes()
+{
+    writeFile(programDir() + "/new.cnc", QByteArray(2500, 'x'));
+    PickerTable table(&m_widget);
+    table.setRecent(QStringList("old.cnc"));
+    table.setNames(QStringList() << "new.cnc"
+                                 << "old.cnc");
+    table.fill();
+    QCOMPARE(column(0), QStringList() << "old.cnc"
+                                      << "new.cnc");
+    QCOMPARE(column(1), QStringList() << ""
+                                      << "");
+    ProgramListing listing(programDir(), table.allNames());
+    while (listing.step()) {
+    }
+    table.setListing(listing);
+    table.fill();
+    QCOMPARE(column(1), QStringList() << "0 KB"
+                                      << "3 KB");
+    table.setNames(QStringList());
+    table.fill();
+    QCOMPARE(m_widget.rowCount(), 0);
+}
+
+void TestPickerTable::headsAreSaidOnceMore()
+{
+    PickerTable table(&m_widget);
+    m_widget.setHorizontalHeaderLabels(QStringList() << "1"
+                                                     << "2"
+                                                     << "3");
+    table.retranslate();
+    QCOMPARE(m_widget.horizontalHeaderItem(0)->text(), QString("Name"));
+    QCOMPARE(m_widget.horizontalHeaderItem(2)->text(), QString("Changed"));
 }
 
 FILARIX_TEST_MAIN(TestPickerTable)

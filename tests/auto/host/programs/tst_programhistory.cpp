@@ -36,6 +36,7 @@ private Q_SLOTS:
     void restoreKeepsWhatIsThereFirst();
     void restoreThatCannotKeepWhatIsThereIsRefused();
     void longRestoreTellsItsProgressAndStops();
+    void restoreIsStoppedBeforeItBegins();
     void damagedVersionIsNotBroughtBack();
     void versionThatWentMeanwhileIsTold();
     void restoreIntoAFolderThatTakesNothing();
@@ -310,6 +311,23 @@ void TestProgramHistory::longRestoreTellsItsProgressAndStops()
     QVERIFY(lastTold().contains("Stopped"));
     QCOMPARE(readFile(m_path), QByteArray("saved over it again\n"));
     QTRY_COMPARE(hidden(), QStringList());
+}
+
+// It waits for the program's last version to be kept.
+void TestProgramHistory::restoreIsStoppedBeforeItBegins()
+{
+    QVERIFY(keep({"one\n", "two\n"}));
+    const ProgramVersion version = m_history->versions().first();
+    m_history->restore(version);
+    QVERIFY(m_history->isRestoring());
+    m_history->stopRestoring();
+    QTRY_COMPARE(m_told->size(), 1);
+    QCOMPARE(lastTold(), QString("Stopped. coil.cnc is as it was."));
+    QVERIFY(!m_history->isRestoring());
+    QCOMPARE(readFile(m_path), QByteArray("two\n"));
+    m_history->restore(version);
+    QTRY_COMPARE(m_told->size(), 2);
+    QCOMPARE(readFile(m_path), QByteArray("one\n"));
 }
 
 void TestProgramHistory::damagedVersionIsNotBroughtBack()
