@@ -31,27 +31,6 @@ bool isTaken(const QString &path)
     return false;
 }
 
-/// False without a reason when somebody has taken the name meanwhile.
-bool copy(const QString &from, const QString &to, QString *error)
-{
-    QFile source(from);
-    if (source.size() > largestFile) {
-        *error = Words::tr("it is too large");
-        return false;
-    }
-    const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-    if (source.error() != QFileDevice::NoError) {
-        *error = source.errorString();
-        return false;
-    }
-    DurableFile file(to);
-    const auto isFree = [&to] { return !isTaken(to); };
-    if (file.open(from) && file.write(bytes) && file.commit(isFree))
-        return true;
-    *error = file.errorString();
-    return false;
-}
-
 /// A pipe or a device of such a name is no file: to open it would wait for ever.
 QStringList programsIn(const QString &folder, QDir::SortFlags order)
 {
@@ -77,26 +56,78 @@ QString TaughtFolder::pathOf(const QString &folder, const QString &name)
     return QDir(folder).filePath(isWhole ? name : name + suffix());
 }
 
+TaughtFolder::Adopting::Adopting(const QString &earlier, const QString &folder)
+    : m_earlier(earlier), m_folder(folder)
+{}
+
+bool TaughtFolder::Adopting::step()
+{
+    if (m_isListed)
+        copyNext();
+    else
+        list();
+    return !m_names.isEmpty() && !isGivenUp();
+}
+
+void TaughtFolder::Adopting::list()
+{
+    m_isListed = true;
+    const QStringList stored = programsIn(m_folder, QDir::Time);
+    m_adoption.first = pathOf(m_folder, stored.isEmpty() ? firstName() : stored.first());
+    if (!m_earlier.isEmpty())
+        m_names = programsIn(m_earlier, QDir::Name);
+}
+
+void TaughtFolder::Adopting::copyNext()
+{
+    const QString name = m_names.takeFirst();
+    const QString to = pathOf(m_folder, name);
+    if (isTaken(to) || !beginChange())
+        return;
+    QDir().mkpath(m_folder);
+    endChange();
+    const QString from = QDir(m_earlier).filePath(name);
+    QString error;
+    if (copy(from, to, &error))
+        m_adoption.copied.append(name);
+    if (!error.isEmpty())
+        m_adoption.error =
+            Words::tr("%1 could not be copied to %2: %3.").arg(from, m_folder, error);
+    if (name == firstName())
+        m_adoption.first = error.isEmpty() ? to : from;
+}
+
+/// False without a reason when somebody has taken the name meanwhile, or nobody waits any more.
+bool TaughtFolder::Adopting::copy(const QString &from, const QString &to, QString *error)
+{
+    QFile source(from);
+    if (source.size() > largestFile) {
+        *error = Words::tr("it is too large");
+        return false;
+    }
+    const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+    if (source.error() != QFileDevice::NoError) {
+        *error = source.errorString();
+        return false;
+    }
+    DurableFile file(to);
+    bool isChanging = false;
+    const auto mayAppear = [&] {
+        isChanging = !isTaken(to) && beginChange();
+        return isChanging;
+    };
+    const bool isCopied = file.open(from) && file.write(bytes) && file.commit(mayAppear);
+    if (isChanging)
+        endChange();
+    if (!isCopied)
+        *error = file.errorString();
+    return isCopied;
+}
+
 TaughtFolder::Adoption TaughtFolder::adopt(const QString &earlier, const QString &folder)
 {
-    Adoption adoption;
-    const QStringList stored = programsIn(folder, QDir::Time);
-    adoption.first = pathOf(folder, stored.isEmpty() ? firstName() : stored.first());
-    const QStringList names = earlier.isEmpty() ? QStringList() : programsIn(earlier, QDir::Name);
-    for (const QString &name : names) {
-        const QString to = pathOf(folder, name);
-        if (isTaken(to))
-            continue;
-        QDir().mkpath(folder);
-        const QString from = QDir(earlier).filePath(name);
-        QString error;
-        if (copy(from, to, &error))
-            adoption.copied.append(name);
-        if (!error.isEmpty())
-            adoption.error =
-                Words::tr("%1 could not be copied to %2: %3.").arg(from, folder, error);
-        if (name == firstName())
-            adoption.first = error.isEmpty() ? to : from;
+    Adopting task(earlier, folder);
+    while (task.step()) {
     }
-    return adoption;
+    return task.adoption();
 }

@@ -4,6 +4,8 @@
 #ifndef TAUGHTFOLDER_H
 #define TAUGHTFOLDER_H
 
+#include "storage/filetaskrunner.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -29,8 +31,30 @@ struct Adoption
     QString first;
 };
 
-/// Copies the programs of \a earlier, where panels kept them before, that \a folder has not got.
-/// The old files stay as they are. For a thread.
+/// Copies the programs of an earlier place, where panels kept them before, that a folder has not
+/// got: one a step. The old files stay as they are.
+class Adopting : public FileTask
+{
+public:
+    Adopting(const QString &earlier, const QString &folder);
+
+    bool step() override;
+    /// What came of the steps so far. To be read between two of them.
+    const Adoption &adoption() const { return m_adoption; }
+
+private:
+    void list();
+    void copyNext();
+    bool copy(const QString &from, const QString &to, QString *error);
+
+    const QString m_earlier;
+    const QString m_folder;
+    QStringList m_names;
+    bool m_isListed = false;
+    Adoption m_adoption;
+};
+
+/// All steps of Adopting at once. For a thread.
 Adoption adopt(const QString &earlier, const QString &folder);
 
 } // namespace TaughtFolder

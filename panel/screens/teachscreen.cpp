@@ -284,15 +284,24 @@ void TeachScreen::setStallTime(int ms)
 
 void TeachScreen::loadFirst()
 {
+    const std::shared_ptr<TaughtFolder::Adopting> task =
+        std::make_shared<TaughtFolder::Adopting>(m_earlier, m_folder);
+    connect(&m_adopting, &FileTaskRunner::ended, this,
+            [this, task] { loadAdopted(task->adoption()); });
+    connect(&m_adopting, &FileTaskRunner::stalled, this, &TeachScreen::loadUnadopted);
+    m_adopting.start(task);
+}
+
+/// What hangs copies nothing any more. The next start goes on.
+void TeachScreen::loadUnadopted()
+{
+    if (!m_earlier.isEmpty())
+        Q_EMIT told(tr("The panel's storage does not answer: taught programs of %1 may be missing.")
+                        .arg(m_earlier),
+                    Message::Alarm, QLatin1String("storage"));
     TaughtFolder::Adoption none;
     none.first = m_file;
-    const std::shared_ptr<TaughtFolder::Adoption> adoption =
-        std::make_shared<TaughtFolder::Adoption>();
-    const QString earlier = m_earlier;
-    const QString folder = m_folder;
-    m_adopting.run(
-        [adoption, earlier, folder] { *adoption = TaughtFolder::adopt(earlier, folder); },
-        [this, adoption] { loadAdopted(*adoption); }, [this, none] { loadAdopted(none); });
+    loadAdopted(none);
 }
 
 void TeachScreen::loadAdopted(const TaughtFolder::Adoption &adoption)

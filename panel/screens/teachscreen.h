@@ -74,6 +74,7 @@ private:
     void showKeys();
     void showClearing(int percent);
     void loadFirst();
+    void loadUnadopted();
     void loadAdopted(const TaughtFolder::Adoption &adoption);
     void showFirst(const QString &path, const RowKeeper::Loaded &loaded);
     void showRead(const QString &path, const RowKeeper::Loaded &loaded);
@@ -120,7 +121,7 @@ private:
     MovementLimits *m_limits;
     /// Where the values among the details stand in their row.
     QList<int> m_positions;
-    FileJob m_adopting;
+    FileTaskRunner m_adopting;
     int m_stallTime = FileTaskRunner::stallMs;
     /// Stores under another name; null while nothing does.
     RowKeeper *m_storing = nullptr;

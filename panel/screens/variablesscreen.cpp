@@ -161,19 +161,25 @@ QString VariablesScreen::describe(const QString &name, const QString &time, int 
 bool VariablesScreen::bringBack(const QString &, const QList<QStringList> &rows)
 {
     QList<QStringList> all = this->rows();
-    bool isAny = false;
+    int brought = 0;
     for (const QStringList &row : rows) {
         const int number =
             row.size() == VariableTable::rowLength ? m_table.numberOf(row.at(nameAt)) : -1;
         if (number < 0 || number >= all.size())
             continue;
         all[number][valueAt] = m_table.at(number).rule.bare(row.at(valueAt));
-        isAny = true;
+        ++brought;
     }
-    if (isAny)
-        setRows(all);
+    if (brought == 0)
+        return false;
+    setRows(all);
     refreshStatus();
-    return isAny;
+    if (brought < rows.size())
+        Q_EMIT told(tr("Values that are no variable's now, not brought back: %1.")
+                        .arg(rows.size() - brought),
+                    Message::Warning, fileCause());
+    tellRefused();
+    return true;
 }
 
 QString VariablesScreen::value(const QString &name) const
@@ -215,6 +221,11 @@ void VariablesScreen::tellFaults()
                         .arg(faults.size())
                         .arg(faults.first()),
                     Message::Warning, fileCause());
+    tellRefused();
+}
+
+void VariablesScreen::tellRefused()
+{
     const QStringList refused = refusedNames();
     if (refused.size() == 1)
         Q_EMIT told(demand(m_table.at(m_table.numberOf(refused.first())), value(refused.first())),

@@ -61,6 +61,7 @@ private:
 
     void showRead(const RowKeeper::Loaded &loaded);
     void tellFaults();
+    void tellRefused();
     QStringList refusedNames() const;
     static QString demand(const MachineVariable &variable, const QString &value);
 

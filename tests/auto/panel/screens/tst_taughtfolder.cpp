@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "heldfile.h"
 #include "screens/taughtfolder.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QSignalSpy>
 #include <QThread>
 
 #include <memory>
@@ -30,6 +32,8 @@ private Q_SLOTS:
     void aFullDiskIsToldAndTheOldFileIsRead();
     void aFolderThatCannotBeMadeIsTold();
     void aFileThatCannotBeReadIsTold();
+    void whatIsGivenUpCopiesNothingMore();
+    void aCopyThatHangsChangesNothingLater();
 
 private:
     static QString earlier() { return home() + "/hmi"; }
@@ -184,6 +188,47 @@ void TestTaughtFolder::aFileThatCannotBeReadIsTold()
              qPrintable(adoption.error));
     QCOMPARE(adoption.copied, QStringList("b.teach"));
     QFile::setPermissions(earlier() + "/a.teach", QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+void TestTaughtFolder::whatIsGivenUpCopiesNothingMore()
+{
+    for (const char *name : {"/a.teach", "/b.teach", "/c.teach"})
+        writeFile(earlier() + name, program);
+    TaughtFolder::Adopting task(earlier(), folder());
+    QVERIFY(task.step());
+    QVERIFY(!QDir(folder()).exists());
+    QVERIFY(task.step());
+    task.giveUp();
+    QVERIFY(!task.step());
+    QVERIFY(!task.isUncertain());
+    QCOMPARE(QDir(folder()).entryList(QDir::Files | QDir::Hidden), QStringList("a.teach"));
+    QCOMPARE(task.adoption().copied, QStringList("a.teach"));
+    // The next start does the rest.
+    QCOMPARE(TaughtFolder::adopt(earlier(), folder()).copied, (QStringList{"b.teach", "c.teach"}));
+}
+
+void TestTaughtFolder::aCopyThatHangsChangesNothingLater()
+{
+    writeFile(earlier() + "/a.teach", program);
+    writeFile(earlier() + "/b.teach", program);
+    HeldFile held(earlier() + "/a.teach");
+    QVERIFY(held.isHeld());
+    std::shared_ptr<TaughtFolder::Adopting> task =
+        std::make_shared<TaughtFolder::Adopting>(earlier(), folder());
+    const std::weak_ptr<TaughtFolder::Adopting> running = task;
+    {
+        FileTaskRunner runner;
+        runner.setStallTime(100);
+        QSignalSpy stalled(&runner, SIGNAL(stalled()));
+        runner.start(task);
+        QTRY_COMPARE(stalled.size(), 1);
+    }
+    task.reset();
+    QVERIFY(!running.expired());
+    held.letGo();
+    // The thread keeps the task for as long as it works on it.
+    QTRY_VERIFY(running.expired());
+    QCOMPARE(QDir(folder()).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 FILARIX_TEST_MAIN(TestTaughtFolder)

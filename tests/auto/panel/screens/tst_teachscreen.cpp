@@ -92,6 +92,7 @@ private Q_SLOTS:
     void unreadableProgramIsToldAndPutAside();
     void storeThatFailsIsAnAlarm();
     void screenIsUpWhileItsFileHangs();
+    void oldPlaceThatHangsIsTold();
     void storeAtTheEndWaitsForTheDisk();
     void closingWithChangesAsks();
     void rowsThatAreBroughtBackAreChanges();
@@ -1214,6 +1215,22 @@ void TestTeachScreen::screenIsUpWhileItsFileHangs()
     QTRY_COMPARE(told.size(), 2);
     QCOMPARE(told.at(1).at(1).value<Message::Tone>(), Message::Information);
     QCOMPARE(readFile(path + ".broken"), program);
+}
+
+void TestTeachScreen::oldPlaceThatHangsIsTold()
+{
+    writeFile(home() + "/old/program.teach", "# Taught program\nOth\t1\t\tOth\tM05\n");
+    HeldFile held(home() + "/old/program.teach");
+    QVERIFY(held.isHeld());
+    TeachScreen screen(QSize(480, 800), home() + "/old/taught", m_machine, home() + "/old");
+    screen.setStallTime(200);
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QTRY_VERIFY(!screen.isLoading());
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told.at(0).at(0).toString().contains(home() + "/old may be missing"),
+             qPrintable(told.at(0).at(0).toString()));
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Alarm);
+    QCOMPARE(screen.filePath(), home() + "/old/taught/program.teach");
 }
 
 void TestTeachScreen::storeAtTheEndWaitsForTheDisk()

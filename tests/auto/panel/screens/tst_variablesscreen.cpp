@@ -47,6 +47,7 @@ private Q_SLOTS:
     void refusedValueOfAFileIsShownAndTold();
     void refusedValueIsNeverStored();
     void refusedValueThatIsBroughtBackIsMarked();
+    void valueOfNoVariableIsToldAtBringingBack();
     void faultyDefinitionIsTold();
     void fileDefinesAVariable();
     void hostileFileIsTold_data();
@@ -535,10 +536,28 @@ void TestVariablesScreen::refusedValueThatIsBroughtBackIsMarked()
     QList<QStringList> rows = screen.rows();
     rows[5].last() = "9999 banana";
     rows[0].last() = "0.9 mm";
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
     QVERIFY(screen.bringBack(QString(), rows));
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(),
+             QString("Tension is 9999 banana. It must be 0.5 to 8.5 N."));
     QTRY_COMPARE(markOf(screen, "Tension"), QString("not a number"));
     QTRY_COMPARE(markOf(screen, "Wire"), QString("changed"));
     QCOMPARE(screen.value("Wire"), QString("0.9"));
+}
+
+void TestVariablesScreen::valueOfNoVariableIsToldAtBringingBack()
+{
+    VariablesScreen screen(QSize(800, 480), home() + "/teach");
+    show(&screen);
+    QSignalSpy told(&screen, SIGNAL(told(QString, Message::Tone, QString)));
+    QVERIFY(screen.bringBack(QString(), {{"DataEditor", "N5", "", "Tension", "7.5"},
+                                         {"DataEditor", "N6", "", "no such variable", "1"},
+                                         {"DataEditor"}}));
+    QCOMPARE(screen.value("Tension"), QString("7.5"));
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(),
+             QString("Values that are no variable's now, not brought back: 2."));
 }
 
 void TestVariablesScreen::faultyDefinitionIsTold()
