@@ -16,6 +16,8 @@ namespace {
 const qreal mmPerInch = 25.4;
 // Of the shorter side: five keys and the strips stand above one another on the smallest panel.
 const int keysOnASide = 5;
+// 9 mm at 133 dpi.
+const int gloveSide = 48;
 
 qreal currentDotsPerInch = Measures::usualDotsPerInch;
 int shorterSide = QWIDGETSIZE_MAX;
@@ -65,6 +67,11 @@ int Measures::pixels(qreal millimetres)
 int Measures::touch()
 {
     return withRoom(touchMm);
+}
+
+int Measures::glove()
+{
+    return qMax(gloveSide, touch());
 }
 
 int Measures::stop()

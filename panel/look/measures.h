@@ -41,6 +41,9 @@ int pixels(qreal millimetres);
 /// The smallest side of anything that is meant to be touched: `touchMm`, as far as there is room.
 /// Never below Look::smallestTouch.
 int touch();
+/// The same of what is touched in gloves all day, rows and keys of lists among it: 48 pixels at the
+/// least, which are 9 mm on the usual panel.
+int glove();
 /// The side of the key that stops what runs: `stopMm`, as far as there is room.
 int stop();
 

@@ -22,6 +22,8 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include <cmath>
+
 namespace {
 
 // A list with a title is no wider: its title keeps the width that the library gives it.
@@ -29,8 +31,10 @@ const int titledWidth = 480;
 const int keyGap = 4;
 const int largeIcon = 36;
 const int keyStretch = 1000;
-// For a thumb in a glove.
-const int gloveTouch = 48;
+// A panel has room for so many rows of a list at the least, strips and keys among them.
+const int rowsOfAPanel = 10;
+// What the library makes of a surface's height.
+const qreal rowPart = 1.04 / 24;
 
 // What messages about a disk that does not do its work are about.
 const QLatin1String storage("storage");
@@ -56,9 +60,18 @@ RowDetails *makeDetails(const QSize &surface, bool hasTitle)
     return new RowDetails(hasTitle ? detailColumns : 1);
 }
 
-TListWidget *makeList(QStringList title)
+/// Rows are as high as a thumb, 9 mm, where the panel has room for enough of them.
+int heightToLend(const QSize &surface)
 {
-    const SurfaceLoan tall;
+    const qreal wanted =
+        SurfaceLoan::tallPanel * Measures::dotsPerInch() / Measures::usualDotsPerInch;
+    const qreal most = surface.height() / rowsOfAPanel / rowPart;
+    return qMax(SurfaceLoan::tallPanel, int(std::ceil(qMin(wanted, most))));
+}
+
+TListWidget *makeList(const QSize &surface, QStringList title)
+{
+    const SurfaceLoan tall(heightToLend(surface));
     return new TListWidget(title, nullptr);
 }
 
@@ -70,7 +83,7 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     , m_keysBeside(surface.width() >= FilarixPanel::wideFrom)
     , m_keyColumns(keyColumns)
     , m_firstRow(title.isEmpty() ? 0 : 1)
-    , m_list(makeList(title))
+    , m_list(makeList(surface, title))
     , m_area(new QScrollArea)
     , m_details(makeDetails(surface, !title.isEmpty()))
     , m_keyPanel(new QWidget(this))
@@ -162,8 +175,7 @@ PanelKey *ListScreen::makeKey(const QIcon &icon, const std::function<QString()> 
     PanelKey *key = new PanelKey(icon, text, m_keyPanel);
     key->setSizePolicy(QSizePolicy::Expanding,
                        m_keysBeside ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    const int glove = qMax(gloveTouch, Measures::touch());
-    key->setMinimumSize(glove, glove);
+    key->setMinimumSize(Measures::glove(), Measures::glove());
     key->setMaximumHeight(2 * Measures::touch());
     if (m_keysBeside)
         key->setIconSize(QSize(largeIcon, largeIcon));

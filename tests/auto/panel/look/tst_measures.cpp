@@ -15,6 +15,7 @@ private Q_SLOTS:
     void aScreenTellsItsDotsPerInch();
     void millimetresBecomePixels_data();
     void millimetresBecomePixels();
+    void glovesHave48PixelsAtLeast();
     void senselessDotsAreNotUsed();
     void textSizesAreKnownByTheirNames();
     void aTextSizeIsToldToAllWidgets();
@@ -90,6 +91,13 @@ void TestMeasures::millimetresBecomePixels()
     QCOMPARE(Measures::pixels(25.4), dots);
     QTEST(Measures::touch(), "touch");
     QTEST(Measures::stop(), "stop");
+}
+
+void TestMeasures::glovesHave48PixelsAtLeast()
+{
+    QCOMPARE(Measures::glove(), 48);
+    Measures::use(170, QSize(1024, 600));
+    QCOMPARE(Measures::glove(), 61);
 }
 
 void TestMeasures::senselessDotsAreNotUsed()

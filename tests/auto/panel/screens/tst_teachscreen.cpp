@@ -6,6 +6,7 @@
 #include "filarixtest.h"
 #include "heldfile.h"
 #include "label.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "mjline.h"
 #include "modaldriver.h"
@@ -22,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QToolButton>
@@ -46,6 +48,8 @@ private Q_SLOTS:
     void everyRowShowsItsKindAtOnce();
     void keysAreLargeEnoughForGloves_data();
     void keysAreLargeEnoughForGloves();
+    void rowsFollowTheScreen_data();
+    void rowsFollowTheScreen();
     void copiedRowIsPastedBelowTheCurrentOne();
     void copiedRowsArePastedIntoAnotherProgram();
     void pasteAndUndoAreOffWithNothingToDo();
@@ -398,6 +402,30 @@ void TestTeachScreen::keysAreLargeEnoughForGloves()
     for (const char *name : {"First", "Last", "MoveJ", "MoveL", "Text", "Copy", "Paste", "Up",
                              "Down", "Delete", "Undo", "Select", "Clear"})
         QVERIFY2(seen.contains(name), name);
+}
+
+void TestTeachScreen::rowsFollowTheScreen_data()
+{
+    QTest::addColumn<QSize>("panel");
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<int>("height");
+    QTest::newRow("a PC") << QSize(800, 480) << 96 << 34;
+    QTest::newRow("7 inch, 9 mm") << QSize(800, 480) << 133 << 48;
+    QTest::newRow("7 inch, fine") << QSize(1024, 600) << 170 << 60;
+    QTest::newRow("4.3 inch, low") << QSize(480, 272) << 128 << 34;
+    QTest::newRow("4.3 inch, upright") << QSize(272, 480) << 128 << 46;
+}
+
+void TestTeachScreen::rowsFollowTheScreen()
+{
+    QFETCH(QSize, panel);
+    QFETCH(int, dpi);
+    const auto back = qScopeGuard([] { Measures::use(Measures::usualDotsPerInch); });
+    Measures::use(dpi, panel);
+    TeachScreen screen(panel, home() + "/teach", m_machine);
+    QTRY_VERIFY(!screen.isLoading());
+    QTEST(screen.list()->itemAt(0)->minimumHeight(), "height");
+    QTEST(screen.list()->itemAt(1)->minimumHeight(), "height");
 }
 
 void TestTeachScreen::copiedRowIsPastedBelowTheCurrentOne()
