@@ -607,7 +607,9 @@ void KeypadFrame::showHead()
     m_oldValue->setText(old.isEmpty() ? tr("Was empty") : tr("Was: %1").arg(old));
     // For a line of G-code the caller gives the line itself as the hint. It is shown once: the line
     // above has the whole width.
-    m_limit->setText(m_request.limit == old ? QString() : m_request.limit);
+    // So are limits that stand in the title.
+    const bool isSaid = m_request.limit == old || !m_value.range.isEmpty();
+    m_limit->setText(isSaid ? QString() : m_request.limit);
     m_limit->setVisible(!m_limit->text().isEmpty());
 }
 

@@ -173,7 +173,9 @@ void ConnectionsScreen::beginEdit()
 void ConnectionsScreen::edit(const std::shared_ptr<Copy> &copy)
 {
     showConnections();
-    ConnectionTable table(copy->path(), copy->before, {tr("Edit the addresses"), tr("Connection")});
+    ConnectionTable table(
+        copy->path(), copy->before,
+        {tr("Edit the addresses"), tr("Connection"), tr("TCP port"), tr("not set yet")});
     if (table.exec())
         store(copy, ConnectionFile::changedAddresses(copy->before, table.changes()));
     else

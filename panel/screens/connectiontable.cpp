@@ -8,6 +8,7 @@
 #include "display/surfaceloan.h"
 #include "filarixpanel.h"
 #include "listwidget.h"
+#include "look/measures.h"
 
 #include <QBoxLayout>
 #include <QGuiApplication>
@@ -24,8 +25,6 @@ namespace {
 const int libraryWidth = 480;
 // The library divides the height that it sees by it.
 const int rowsInHeight = 24;
-const int rowPixels = 48;
-const int smallRowPixels = 40;
 const int widestName = 220;
 const int narrowestName = 96;
 const int portPixels = 60;
@@ -35,8 +34,6 @@ const int sideMargin = 6;
 const int footMargin = 4;
 // Heading, buttons and what lies between.
 const int aroundRows = 110;
-const int buttonPixels = 48;
-const int smallButtonPixels = 40;
 const int headingPixels = 18;
 const int smallHeadingPixels = 15;
 const QLatin1String longestAddress("255.255.255.255");
@@ -58,6 +55,11 @@ QSize panelSize()
 bool isSmall()
 {
     return panelSize().height() < FilarixPanel::smallBelow;
+}
+
+int touchHeight()
+{
+    return isSmall() ? Measures::touch() : Measures::glove();
 }
 
 QWidget *cell(const DataEditor *row, int column)
@@ -115,8 +117,7 @@ ConnectionTable::ConnectionTable(const QString &path, const ConnectionFile::Cont
     : m_contents(contents)
 {
     {
-        const int row = isSmall() ? smallRowPixels : rowPixels;
-        const SurfaceLoan loan(rowsInHeight * row, libraryWidth);
+        const SurfaceLoan loan(rowsInHeight * touchHeight(), libraryWidth);
         m_editor.reset(new ConnEditor(path, nullptr));
         m_editor->init_list();
     }
@@ -139,14 +140,17 @@ void ConnectionTable::dress(const Texts &texts)
     const int bar = hasBar ? m_editor->style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
     const QMargins row = rowAt(m_rows, 0)->layout()->contentsMargins();
     const int around = 2 * sideMargin + bar + row.left() + row.right();
-    m_portsWidth = hasPorts(m_contents) ? portPixels : 0;
+    const int heading = m_rows->fontMetrics().horizontalAdvance(texts.ports) + 4 * letterMargin;
+    m_portsWidth = hasPorts(m_contents) ? qMax(portPixels, heading) : 0;
     const int wanted = around + widestName + cellsWidth(rowAt(m_rows, 0), {}) + m_portsWidth;
     const int width = qMin(wanted, panelSize().width());
     hideColumns(width - around);
-    dressRow(0, texts.names, QString());
+    dressRow(0, texts.names, texts.ports);
     for (int i = 0; i < qMin(m_rows->count() - 1, m_contents.connections.size()); ++i) {
         const ConnectionFile::Connection &connection = m_contents.connections.at(i);
         dressRow(i + 1, connection.name, ConnectionFile::portOf(connection.address));
+        if (connection.address.isEmpty())
+            showUnset(i, texts.unset);
         watch(i);
     }
     m_editor->setFixedWidth(width);
@@ -191,6 +195,24 @@ void ConnectionTable::dressRow(int index, const QString &name, const QString &po
     addLabel(row, 0, name, m_namesWidth)->setObjectName(QLatin1String("connectionName"));
 }
 
+/// The library shows an address of its own where none is stored.
+void ConnectionTable::showUnset(int number, const QString &text)
+{
+    QLineEdit *field = rowAt(m_rows, number + 1)->findChild<QLineEdit *>();
+    field->clear();
+    QLabel *unset = new QLabel(text, field);
+    unset->setObjectName(QLatin1String("unset"));
+    unset->setTextFormat(Qt::PlainText);
+    unset->setAttribute(Qt::WA_TransparentForMouseEvents);
+    unset->setStyleSheet(QLatin1String("border: 0"));
+    unset->setIndent(letterMargin);
+    QHBoxLayout *line = new QHBoxLayout(field);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(unset);
+    connect(field, &QLineEdit::textChanged, unset,
+            [unset](const QString &address) { unset->setVisible(address.isEmpty()); });
+}
+
 /// An answer counts although it is the address that was shown: that may be a default, which the
 /// file does not hold yet.
 void ConnectionTable::watch(int number)
@@ -220,7 +242,7 @@ void ConnectionTable::dressFrame(const QString &heading)
     m_editor->findChild<QScrollArea *>()->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const QList<QPushButton *> buttons = m_editor->findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {
-        button->setFixedHeight(isSmall() ? smallButtonPixels : buttonPixels);
+        button->setFixedHeight(touchHeight());
         button->setFixedWidth(qMin(button->width(), (m_editor->width() - 3 * sideMargin) / 2));
     }
 }

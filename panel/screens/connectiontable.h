@@ -17,7 +17,8 @@ class ListWidget;
 /// The library's table of addresses, dressed for the panel: with a heading, the connections' names,
 /// the ports that their addresses keep, and rows for thumbs.
 ///
-///     ConnectionTable table(copyPath, contents, {tr("Edit the addresses"), tr("Connection")});
+///     ConnectionTable table(copyPath, contents, {tr("Edit the addresses"), tr("Connection"),
+///                                            tr("TCP port"), tr("not set yet")});
 ///     if (table.exec())
 ///         store(ConnectionFile::changedAddresses(contents, table.changes()));
 class ConnectionTable : public QObject
@@ -30,6 +31,10 @@ public:
         QString heading;
         /// Above the names.
         QString names;
+        /// Above the ports.
+        QString ports;
+        /// In the place of an address that is not set.
+        QString unset;
     };
 
     /// \a path is a copy of the file that \a contents was read from: the library's table writes to
@@ -49,6 +54,7 @@ private:
     void widenAddresses();
     void hideColumns(int room);
     void dressRow(int index, const QString &name, const QString &port);
+    void showUnset(int number, const QString &text);
     void watch(int number);
 
     const ConnectionFile::Contents m_contents;

@@ -196,6 +196,16 @@ void TestKeypadValue::titleTellsTheValidatorsLimits()
         QCOMPARE(title(), QString("Number"));
         QCOMPARE(line(pad(), "limit"), QString(" min:1, max:20"));
     });
+    QObject tension;
+    tension.setProperty("hmiName", QString("N5 Tension"));
+    tension.setProperty("hmiMinimum", 0.5);
+    tension.setProperty("hmiMaximum", 8.5);
+    pad()->setObject(&tension);
+    pad()->setLimitToolTip(QLatin1String("0.5 to 8.5 N"));
+    runPad([] {
+        QCOMPARE(title(), QString("N5 Tension, 0.5 to 8.5"));
+        QVERIFY(line(pad(), "limit").isNull());
+    });
 
     runPad([&] {
         QCOMPARE(title(), QString("Number"));

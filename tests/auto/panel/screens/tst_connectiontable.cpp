@@ -25,6 +25,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void namesAndPortsStandBesideTheAddresses();
+    void addressThatIsNotSetIsShownAsThat();
     void columnOfPortsIsThereForPortsOnly();
     void onlyEnteredAddressesAreChanges();
     void sameAddressEnteredAgainIsAChange();
@@ -68,7 +69,8 @@ void TestConnectionTable::write(const QByteArray &ofSecond)
                       "Spindlenew%20IP=10.0.0.1\nTensionnew%20IP="
                           + ofSecond + "\nconnect%20count=2\n");
     m_contents = ConnectionFile::read(m_file);
-    m_table.reset(new ConnectionTable(m_file, m_contents, {"Heading", "Name"}));
+    m_table.reset(
+        new ConnectionTable(m_file, m_contents, {"Heading", "Name", "TCP port", "Unset"}));
 }
 
 QStringList TestConnectionTable::texts(const QWidget *dialog, const char *name) const
@@ -86,7 +88,7 @@ void TestConnectionTable::namesAndPortsStandBesideTheAddresses()
         const auto end = qScopeGuard([dialog] { dialog->close(); });
         QCOMPARE(texts(dialog, "heading"), QStringList("Heading"));
         QCOMPARE(texts(dialog, "connectionName"), QStringList({"Name", "Spindle", "Tension"}));
-        QCOMPARE(texts(dialog, "port"), QStringList({"", "", ":4001"}));
+        QCOMPARE(texts(dialog, "port"), QStringList({"TCP port", "", ":4001"}));
         const QList<ComboLineEdit *> fields = dialog->findChildren<ComboLineEdit *>();
         QCOMPARE(fields.at(1)->text(), QString("10.0.0.2"));
         const QList<QLabel *> names = dialog->findChildren<QLabel *>("connectionName");
@@ -97,6 +99,34 @@ void TestConnectionTable::namesAndPortsStandBesideTheAddresses()
     });
     QVERIFY(!m_table->exec());
     QVERIFY2(driver.finished(), driver.report());
+}
+
+// The library fills in an address of its own.
+void TestConnectionTable::addressThatIsNotSetIsShownAsThat()
+{
+    write("");
+    DeviceLog::cancel();
+    DeviceLog::acceptWith("10.0.0.7");
+    ModalDriver driver;
+    driver.then([this](QWidget *dialog) {
+        const auto end = qScopeGuard([dialog] { dialog->close(); });
+        ComboLineEdit *field = dialog->findChildren<ComboLineEdit *>().at(1);
+        const QLabel *unset = field->findChild<QLabel *>("unset");
+        QCOMPARE(texts(dialog, "unset"), QStringList("Unset"));
+        QVERIFY(unset->isVisible());
+        QCOMPARE(field->text(), QString());
+        QTest::mouseClick(field, Qt::LeftButton);
+        QVERIFY(DeviceLog::calls().contains("CharacterKeypad.setText()")
+                || DeviceLog::calls().contains("NumericKeypad.setText()"));
+        QVERIFY(unset->isVisible());
+        QTest::mouseClick(field, Qt::LeftButton);
+        QCOMPARE(field->text(), QString("10.0.0.7"));
+        QVERIFY(!unset->isVisible());
+    });
+    QVERIFY(!m_table->exec());
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(m_table->changes().size(), 1);
+    QCOMPARE(m_table->changes().value(1), QString("10.0.0.7"));
 }
 
 void TestConnectionTable::columnOfPortsIsThereForPortsOnly()
@@ -168,7 +198,8 @@ void TestConnectionTable::namesAreWholeWhereOtherColumnsCanGiveWay()
     writeFile(m_file, "[General]\nConnect%200=Tension unit 2\n"
                       "Tension%20unit%202new%20IP=10.0.0.1:4001\nconnect%20count=1\n");
     m_contents = ConnectionFile::read(m_file);
-    m_table.reset(new ConnectionTable(m_file, m_contents, {"Heading", "Name"}));
+    m_table.reset(
+        new ConnectionTable(m_file, m_contents, {"Heading", "Name", "TCP port", "Unset"}));
     ModalDriver driver;
     driver.then([this](QWidget *dialog) {
         const auto end = qScopeGuard([dialog] { dialog->close(); });
