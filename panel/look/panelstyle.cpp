@@ -24,6 +24,8 @@ const int listRowHeight = 48;
 const int indicatorSide = 24;
 const int messageIconSide = 40;
 const int splitterWidth = 3;
+// A finger moves a list, too: on a screen of fine pixels its bar leaves room to the texts.
+const int widestBar = 40;
 // Beside the words of a menu: the mark, and the room around both.
 const int besideMenuWords = 60;
 
@@ -186,7 +188,7 @@ bool isForKeyboardAlone(QStyle::PrimitiveElement element, const QWidget *widget)
 
 int barWidth()
 {
-    return qMin(Measures::touch(), Measures::pixels(Measures::touchMm));
+    return qMin(widestBar, Measures::pixels(Measures::touchMm));
 }
 
 } // namespace
@@ -239,7 +241,6 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_SliderLength:
         return indicatorSide;
     case PM_ScrollBarExtent:
-    case PM_ScrollBarSliderMin:
     case PM_SliderThickness:
     case PM_SliderControlThickness:
         return barWidth();
