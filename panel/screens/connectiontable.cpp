@@ -231,6 +231,8 @@ void ConnectionTable::dressFrame(const QString &heading)
 {
     QLabel *title = new QLabel(heading);
     title->setObjectName(QLatin1String("heading"));
+    // A strip above the dialog shows it instead, where there is one.
+    m_editor->setWindowTitle(heading);
     QFont font = title->font();
     font.setPixelSize(isSmall() ? smallHeadingPixels : headingPixels);
     font.setBold(true);

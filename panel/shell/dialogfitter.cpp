@@ -7,6 +7,7 @@
 #include "filarixpanel.h"
 #include "look/letters.h"
 #include "look/look.h"
+#include "shell/titlestrip.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -67,6 +68,8 @@ bool DialogFitter::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (type == QEvent::Show) {
         bind(dialog);
+        if (!Platform::hasWindowManager())
+            TitleStrip::putOn(dialog);
         enlargeLetters(dialog);
         // The dialog places itself in its own handler, which has not run yet.
         const QPointer<QDialog> shown(dialog);

@@ -14,10 +14,10 @@ class QWidget;
 
 /// Fits dialogs to the panel, with a window manager or without.
 ///
-/// A dialog stays above the panel when the panel is touched. Each dialog gets an edge, which no
-/// window manager draws on a panel. A dialog that is larger than the panel is made smaller when it
-/// is shown, and one that the toolkit places stands in the middle. The import manager gets most of
-/// the panel: its own size leaves a file name no room.
+/// A dialog stays above the panel when the panel is touched. Each dialog gets an edge and, where no
+/// window manager shows its title, a TitleStrip. A dialog that is larger than the panel is made
+/// smaller when it is shown, and one that the toolkit places stands in the middle. The import
+/// manager gets most of the panel: its own size leaves a file name no room.
 class DialogFitter : public QObject
 {
     Q_OBJECT

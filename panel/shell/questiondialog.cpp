@@ -5,6 +5,7 @@
 
 #include "look/look.h"
 #include "look/measures.h"
+#include "shell/titlestrip.h"
 
 #include <QBoxLayout>
 #include <QGuiApplication>
@@ -87,7 +88,8 @@ int keyWidth(const QPushButton *key)
 QuestionDialog::QuestionDialog(const Question &question, QWidget *parent) : Dialog(parent)
 {
     setTitle(question.title);
-    const QSize panel = QGuiApplication::primaryScreen()->availableSize() - QSize(gap, gap);
+    const QSize panel =
+        QGuiApplication::primaryScreen()->availableSize() - QSize(gap, gap + TitleStrip::room());
     const int width = qMin(widest, panel.width());
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);

@@ -6,6 +6,7 @@
 #include "filarixtest.h"
 #include "importmanage.h"
 #include "shell/dialogfitter.h"
+#include "shell/titlestrip.h"
 
 #include <QDialog>
 #include <QListView>
@@ -66,9 +67,13 @@ void TestDialogFitter::dialogThatTheToolkitPlacesStandsInTheMiddle()
     glass.present(&panel);
     DialogFitter keeper(nullptr);
     QDialog dialog(&panel);
+    dialog.setWindowTitle("Check");
     dialog.resize(200, 100);
     dialog.show();
-    QTRY_COMPARE(dialog.geometry(), QRect(140, 86, 200, 100));
+    // With the title above it.
+    const int title = TitleStrip::room();
+    QTRY_COMPARE(dialog.size(), QSize(200, 100 + title));
+    QTRY_COMPARE(dialog.geometry().topLeft(), QPoint(140, 86 - title / 2));
     QDialog placed(&panel);
     placed.setGeometry(10, 20, 200, 100);
     placed.show();
