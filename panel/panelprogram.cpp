@@ -27,6 +27,7 @@
 #include "screens/previewscreen.h"
 #include "screens/programreview.h"
 #include "screens/programscreen.h"
+#include "screens/settingsscreen.h"
 #include "screens/stickcover.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
@@ -124,6 +125,7 @@ PanelProgram::Status PanelProgram::start()
     takeMeasures();
     chooseLook();
     chooseLanguage();
+    chooseSounds();
     const StartUp::Outcome outcome = m_startUp.wait(startPatienceMs);
     if (outcome == StartUp::Occupied || outcome == StartUp::NoProgramDir)
         return refuse(outcome);
@@ -186,6 +188,12 @@ void PanelProgram::chooseLanguage()
         std::fprintf(stderr, "The translation for %s is not installed.\n", qPrintable(wanted));
 }
 
+void PanelProgram::chooseSounds()
+{
+    const QString wanted = m_settings.choice(TouchSound::settingsKey(), TouchSound::names());
+    m_sounds.setOn(wanted == TouchSound::nameOf(true));
+}
+
 void PanelProgram::makeWindow()
 {
     const QSize surface = surfaceSize(m_options);
@@ -213,6 +221,8 @@ void PanelProgram::makeScreens()
     m_variables = new VariablesScreen(surface, m_folders.own);
     m_connections = new ConnectionsScreen(ownPath("connections.ini"));
     m_files = new FilesScreen(&m_stick, m_history.get());
+    m_settingsScreen =
+        new SettingsScreen(surface, m_folders.own, &m_languages, &m_settings, &m_sounds);
 }
 
 void PanelProgram::makePreview()
@@ -256,7 +266,7 @@ void PanelProgram::addScreens()
         m_window->addScreen(
             entry.screen, [name] { return PanelWindow::tr(name); }, Glyphs::icon(entry.glyph));
     }
-    m_window->setLanguages(&m_languages);
+    m_window->addSettings(m_settingsScreen);
     m_window->setSettings(&m_settings);
 }
 
@@ -264,6 +274,7 @@ void PanelProgram::connectWindow()
 {
     connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLook);
     connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseLanguage);
+    connect(&m_settings, &Settings::arrived, this, &PanelProgram::chooseSounds);
     // Not by the last window: the find dialog may be open, and it has no parent.
     connect(m_window.get(), &PanelWindow::closed, qApp, &QApplication::quit);
 }
@@ -333,6 +344,7 @@ void PanelProgram::watchDevices()
         new DeviceWatch([plcDir, programDir] { return DeviceWatch::lookAt(plcDir, programDir); }));
     connect(m_watch.get(), &DeviceWatch::changed, m_window.get(), &PanelWindow::showDevices);
     connect(m_watch.get(), &DeviceWatch::changed, m_files, &FilesScreen::showDevices);
+    connect(m_watch.get(), &DeviceWatch::changed, m_settingsScreen, &SettingsScreen::showDevices);
     connect(m_watch.get(), &DeviceWatch::changed, new StickCover(m_window.get()),
             &StickCover::showDevices);
     connect(m_files, &FilesScreen::stickMoved, m_watch.get(), &DeviceWatch::lookNow);
@@ -410,7 +422,7 @@ void PanelProgram::plan(Tour *tour) const
     plan->visitVariablesScreen(m_variables);
     plan->visitConnectionsScreen(m_connections);
     plan->visitFilesScreen(m_files);
-    plan->visitLanguages();
+    plan->visitSettingsScreen(m_settingsScreen);
 }
 
 int PanelProgram::walk()

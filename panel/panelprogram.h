@@ -11,6 +11,7 @@
 #include "shell/questiondialog.h"
 #include "shell/questionkeeper.h"
 #include "shell/settings.h"
+#include "shell/touchsound.h"
 #include "startup.h"
 #include "stick/stick.h"
 #include "terminationsignals.h"
@@ -32,6 +33,7 @@ class PreviewScreen;
 class ProgramHistory;
 class ProgramReview;
 class ProgramScreen;
+class SettingsScreen;
 class SpokenNames;
 class TeachScreen;
 class Tour;
@@ -82,6 +84,7 @@ public:
     VariablesScreen *variablesScreen() const { return m_variables; }
     ConnectionsScreen *connectionsScreen() const { return m_connections; }
     FilesScreen *filesScreen() const { return m_files; }
+    SettingsScreen *settingsScreen() const { return m_settingsScreen; }
     DeviceWatch *deviceWatch() const { return m_watch.get(); }
     Languages *languages() { return &m_languages; }
 
@@ -92,6 +95,7 @@ private:
     void takeMeasures();
     void chooseLook();
     void chooseLanguage();
+    void chooseSounds();
     void makeWindow();
     void makeScreens();
     void makePreview();
@@ -121,6 +125,7 @@ private:
     StartUp m_startUp;
     Settings m_settings;
     Languages m_languages;
+    TouchSound m_sounds;
     Stick m_stick;
     MachineData m_machine;
     std::unique_ptr<PanelGlass> m_glass;
@@ -138,6 +143,7 @@ private:
     VariablesScreen *m_variables = nullptr;
     ConnectionsScreen *m_connections = nullptr;
     FilesScreen *m_files = nullptr;
+    SettingsScreen *m_settingsScreen = nullptr;
     DialogQuestioner m_questioner;
     // These two look at the screens.
     std::unique_ptr<UnsavedWork> m_unsaved;

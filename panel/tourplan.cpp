@@ -12,6 +12,7 @@
 #include "screens/previewscreen.h"
 #include "screens/programreview.h"
 #include "screens/programscreen.h"
+#include "screens/settingsscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
 #include "shell/messagebar.h"
@@ -418,12 +419,25 @@ void TourPlan::saveDownload(int percent)
     m_tour->save(QLatin1String("download-running"));
 }
 
-void TourPlan::visitLanguages()
+// By its key, as an operator comes there.
+void TourPlan::visitSettingsScreen(SettingsScreen *screen)
 {
+    m_tour->then([this] { m_panel->messages()->closeAll(); });
     openMenu();
-    m_tour->press([this] { return m_panel->findChild<QWidget *>(QLatin1String("languageKey")); });
-    m_tour->picture(QLatin1String("language"));
-    m_tour->closeDialog();
+    m_tour->press([this] { return m_panel->findChild<QWidget *>(QLatin1String("settingsKey")); });
+    m_tour->picture(QLatin1String("settings"));
+    // A panel with room shows all sections at once.
+    for (const QString &section : SettingsScreen::sections().mid(1)) {
+        m_tour->then([screen, section] {
+            if (QWidget *key = screen->findChild<QWidget *>(QLatin1String("section_") + section))
+                Tour::tap(key);
+        });
+        m_tour->then([] {});
+        m_tour->then([this, screen, section] {
+            if (screen->findChild<QWidget *>(QLatin1String("section_") + section))
+                m_tour->save(QLatin1String("settings-") + section);
+        });
+    }
 }
 
 void TourPlan::pressTool(QWidget *among, const QString &text)

@@ -14,6 +14,7 @@ class PanelScreen;
 class PanelWindow;
 class PreviewScreen;
 class ProgramScreen;
+class SettingsScreen;
 class TeachScreen;
 class Tour;
 class VariablesScreen;
@@ -42,7 +43,8 @@ public:
     void visitConnectionsScreen(ConnectionsScreen *screen);
     /// Plugs the stick in if it is a simulated one that can be.
     void visitFilesScreen(FilesScreen *screen);
-    void visitLanguages();
+    /// By its key, and each of its sections.
+    void visitSettingsScreen(SettingsScreen *screen);
 
 private:
     void openProgram(ProgramScreen *screen);

@@ -8,6 +8,7 @@
 
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformintegration.h>
+#include <qpa/qplatformnativeinterface.h>
 
 bool Platform::isDesktop()
 {
@@ -20,4 +21,10 @@ bool Platform::hasWindowManager()
 {
     return QGuiApplicationPrivate::platformIntegration()->hasCapability(
         QPlatformIntegration::WindowManagement);
+}
+
+bool Platform::hasBell()
+{
+    const QObject *native = QGuiApplication::platformNativeInterface();
+    return native && native->metaObject()->indexOfMethod("beep()") >= 0;
 }

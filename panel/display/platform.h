@@ -12,6 +12,9 @@ bool isDesktop();
 /// Whether something places and frames the windows: a desktop does, a display that is the program's
 /// alone does not, nor does a PanelGlass.
 bool hasWindowManager();
+/// Whether QApplication::beep() asks the platform for a sound. Whether one is heard is up to the
+/// display and its loudspeaker.
+bool hasBell();
 
 } // namespace Platform
 

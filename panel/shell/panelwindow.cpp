@@ -10,8 +10,6 @@
 #include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/taparea.h"
-#include "shell/languagepicker.h"
-#include "shell/languages.h"
 #include "shell/messagebar.h"
 #include "shell/messagedialog.h"
 #include "shell/settings.h"
@@ -27,7 +25,7 @@
 
 namespace {
 
-// Six of them and the key of the languages are as wide as the narrowest panel.
+// Seven of them are as wide as the narrowest panel.
 const int tabWidth = 52;
 const int menuTabWidth = 76;
 const int statusMs = 2000;
@@ -219,40 +217,18 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
         showScreen(0);
 }
 
-void PanelWindow::setLanguages(Languages *languages)
+void PanelWindow::addSettings(PanelScreen *screen)
 {
-    m_languages = languages;
-    PanelKey *key = new PanelKey(Glyphs::icon(Glyphs::Language),
-                                 [languages] { return languages->shortName(); });
-    key->setObjectName(QLatin1String("languageKey"));
-    connect(key, &PanelKey::clicked, this, &PanelWindow::chooseLanguage);
-    addTab(key);
-}
-
-void PanelWindow::chooseLanguage()
-{
-    hideMenu();
-    LanguagePicker picker(m_languages->current());
-    connect(&picker, &LanguagePicker::lookWanted, this, &PanelWindow::changeLook);
-    connect(&picker, &LanguagePicker::textSizeWanted, this, &PanelWindow::changeTextSize);
-    if (picker.exec() != QDialog::Accepted)
+    addScreen(
+        screen, [] { return tr("Settings"); }, Glyphs::icon(Glyphs::Gear));
+    PanelKey *key = m_entries.last().tab;
+    key->setObjectName(QLatin1String("settingsKey"));
+    if (hasMenu())
         return;
-    if (!m_languages->choose(picker.code()))
-        m_log.tell(tr("The translation is not installed."), Message::Warning);
-}
-
-void PanelWindow::changeLook()
-{
-    Look::use(Look::style() == Look::Dark ? Look::Light : Look::Dark);
-    if (m_settings)
-        m_settings->setChoice(Look::settingsKey(), Look::name(Look::style()));
-}
-
-void PanelWindow::changeTextSize(int percent)
-{
-    Measures::useTextSize(percent);
-    if (m_settings)
-        m_settings->setChoice(Measures::textSizeKey(), Measures::nameOf(percent));
+    // Beside the other tabs its sign says enough, and leaves them the room.
+    key->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    key->setMinimumWidth(0);
+    key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
 void PanelWindow::setSettings(Settings *settings)

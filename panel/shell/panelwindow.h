@@ -17,7 +17,6 @@
 #include <functional>
 
 class ElidedLabel;
-class Languages;
 class MessageBar;
 class PanelKey;
 class QGridLayout;
@@ -53,9 +52,8 @@ public:
     void addScreen(PanelScreen *screen, const QString &name, const QIcon &icon);
     /// The same with a name that follows the language; see LiveText.
     void addScreen(PanelScreen *screen, const std::function<QString()> &name, const QIcon &icon);
-    /// Adds the key by which the operator changes the language. \a languages must outlive the
-    /// window.
-    void setLanguages(Languages *languages);
+    /// The same for the screen with the panel's settings, whose key bears a gear.
+    void addSettings(PanelScreen *screen);
     /// Tells the operator of troubles with the settings, from now on and those until now.
     /// \a settings must outlive the window.
     void setSettings(Settings *settings);
@@ -104,9 +102,6 @@ private:
     void addTab(PanelKey *tab);
     void toggleMenu();
     void hideMenu();
-    void chooseLanguage();
-    void changeLook();
-    void changeTextSize(int percent);
     void tellTrouble();
     void showTitle();
     void showMessages();
@@ -134,7 +129,6 @@ private:
     StatusStrip *m_status;
     MessageBar *m_messageBar;
     QWidget *m_shade;
-    Languages *m_languages = nullptr;
     Settings *m_settings = nullptr;
     QTimer m_statusTimer;
 };

@@ -298,12 +298,18 @@ void StatusStrip::showStick()
     m_stick->setToneless(named(name, tr("out")), tr("Stick: out"));
 }
 
+QString StatusStrip::roomText(qint64 bytes)
+{
+    const qint64 megabytes = bytes / megabyte;
+    if (megabytes < 1000)
+        return tr("%1 MB").arg(megabytes);
+    const int decimals = megabytes < qint64(10) * 1024 ? 1 : 0;
+    return tr("%1 GB").arg(double(megabytes) / 1024, 0, 'f', decimals);
+}
+
 void StatusStrip::showStorage()
 {
-    const qint64 megabytes = m_devices.freeBytes / megabyte;
-    const QString room = megabytes < 1000 ? tr("%1 MB").arg(megabytes)
-                                          : tr("%1 GB").arg(double(megabytes) / 1024, 0, 'f',
-                                                            megabytes < qint64(10) * 1024 ? 1 : 0);
+    const QString room = roomText(m_devices.freeBytes);
     const QString name = tr("Storage");
     switch (storage()) {
     case StorageUnknown:

@@ -63,6 +63,8 @@ public:
     /// Low when the import manager could no longer fill the program directory, full when no
     /// program of a usual size can be stored.
     static Storage storageOf(qint64 freeBytes);
+    /// "12 GB": that much room, not negative, for an operator.
+    static QString roomText(qint64 bytes);
 
     /// What the check says of the program. Nothing is shown of it before the first call. A strip
     /// that is not roomy shows faults alone, in the place of the clock.

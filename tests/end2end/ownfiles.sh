@@ -158,21 +158,19 @@ move_files() {
 }
 
 choose_settings() {
-    touch_named languageKey
-    touch_named look
-    expect_gone Cancel Language
-    touch_named languageKey
+    touch_named settingsKey
+    touch_named look_dark
     touch_named textsize_125
-    touch_named languageKey
+    touch_named sounds_on
     touch_named language_de
     expect_text Programm
     desk_until 20 grep -qsx language=de "$own/panel.ini" || desk_fail "no language is stored"
     desk_until 20 grep -qsx textsize=125 "$own/panel.ini" || desk_fail "no size of texts is stored"
     desk_until 20 grep -qs "=dark" "$own/panel.ini" || desk_fail "no look is stored"
-    touch_named languageKey
+    desk_until 20 grep -qsx sounds=on "$own/panel.ini" || desk_fail "no sounds are stored"
     touch_named language_en
     expect_text Program
-    nothing_called "choosing language and look"
+    nothing_called "choosing in the settings"
 }
 
 kept_work() { find "$own" -path '*/unsaved/*.kept' -size +0 | grep -q .; }

@@ -100,9 +100,9 @@ for tab, sign in (("Teach", "Select"), ("Variables", "Store"), ("Connections", "
     press(tab)
     named(sign)
     look_over(tab)
-# A dialog is opened, read, and answered.
-press("EN")
+# A language is chosen, and the panel speaks it.
+press("Settings")
 named("Text size 150 %")
-look_over("the languages")
-press("Deutsch")
+look_over("Settings")
+press("Language Deutsch")
 until("Programm", lambda: any(node.get_name() == "Programm" for node in shown(panel())))

@@ -9,11 +9,13 @@
 #include "modaldriver.h"
 #include "panelprogram.h"
 #include "samples.h"
+#include "screens/choicepage.h"
 #include "screens/connectionsscreen.h"
 #include "screens/filesscreen.h"
 #include "screens/previewpane.h"
 #include "screens/previewscreen.h"
 #include "screens/programscreen.h"
+#include "screens/settingsscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
 #include "shell/panelwindow.h"
@@ -103,12 +105,13 @@ void TestPanelProgram::aStartedPanelHasItsScreens()
     QCOMPARE(program.window()->size(), QSize(800, 480));
     const QList<PanelScreen *> screens{program.programScreen(),     program.previewScreen(),
                                        program.teachScreen(),       program.variablesScreen(),
-                                       program.connectionsScreen(), program.filesScreen()};
+                                       program.connectionsScreen(), program.filesScreen(),
+                                       program.settingsScreen()};
     for (int i = 0; i < screens.size(); ++i) {
         program.window()->showScreen(i);
         QCOMPARE(program.window()->currentScreen(), screens.at(i));
     }
-    QVERIFY(program.window()->findChild<PanelKey *>("languageKey"));
+    QVERIFY(program.window()->findChild<PanelKey *>("settingsKey"));
     for (const QString &name : Samples::names())
         QTRY_VERIFY(QFileInfo(programDir() + '/' + name).isFile());
 }
@@ -127,12 +130,18 @@ void TestPanelProgram::theEditorHasTheFocusAtFirst()
 
 void TestPanelProgram::itLooksAsTheOperatorChose()
 {
-    writeFile(home() + "/hmi/panel.ini", "[General]\nlook=dark\ntextsize=125\n");
+    writeFile(home() + "/hmi/panel.ini", "[General]\nlook=dark\ntextsize=125\nsounds=on\n");
     {
         PanelProgram program(english(), QStringList());
         QCOMPARE(program.start(), PanelProgram::Started);
         QTRY_COMPARE(Look::style(), Look::Dark);
         QCOMPARE(Measures::textSize(), 125);
+        const auto marked = [&program](const char *page) {
+            return program.settingsScreen()->findChild<ChoicePage *>(page)->marked();
+        };
+        QTRY_COMPARE(marked("page_sounds"), QString("on"));
+        QCOMPARE(marked("page_look"), QString("dark"));
+        QCOMPARE(marked("page_textsize"), QString("125"));
     }
     QTRY_COMPARE(HomeLock(lockPath()).take(), HomeLock::Own);
     Options options = english();

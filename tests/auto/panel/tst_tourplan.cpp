@@ -3,6 +3,7 @@
 
 #include "filarixtest.h"
 #include "panelprogram.h"
+#include "screens/settingsscreen.h"
 #include "screens/variablesscreen.h"
 #include "shell/panelwindow.h"
 #include "tour.h"
@@ -67,9 +68,11 @@ void TestTourPlan::stopsComeInTheOrderOfTheVisits()
     TourPlan *plan = new TourPlan(program.window(), &tour);
     plan->visitVariablesScreen(program.variablesScreen());
     plan->visitConnectionsScreen(program.connectionsScreen());
-    plan->visitLanguages();
-    QCOMPARE(stops(&tour), QStringList({"variables", "variables-keypad", "connections",
-                                        "connect-table", "address-keypad", "language"}));
+    plan->visitSettingsScreen(program.settingsScreen());
+    QCOMPARE(stops(&tour),
+             QStringList({"variables", "variables-keypad", "connections", "connect-table",
+                          "address-keypad", "settings", "settings-look", "settings-textsize",
+                          "settings-sounds", "settings-clock", "settings-about"}));
     QCOMPARE(tour.error(), QString());
 }
 
@@ -77,10 +80,10 @@ void TestTourPlan::aKeyThatIsGoneEndsTheTour()
 {
     PanelProgram program(options(), QStringList());
     QCOMPARE(program.start(), PanelProgram::Started);
-    delete program.window()->findChild<QWidget *>("languageKey");
+    delete program.window()->findChild<QWidget *>("settingsKey");
     Tour tour(program.window());
     TourPlan *plan = new TourPlan(program.window(), &tour);
-    plan->visitLanguages();
+    plan->visitSettingsScreen(program.settingsScreen());
     QCOMPARE(stops(&tour), QStringList());
     QVERIFY2(tour.error().contains("not on the screen"), qPrintable(tour.error()));
 }

@@ -11,7 +11,6 @@
 #include "screens/programscreen.h"
 #include "screens/teachscreen.h"
 #include "screens/variablesscreen.h"
-#include "shell/languagepicker.h"
 #include "shell/orderlyend.h"
 #include "shell/questionkeeper.h"
 #include "terminationsignals.h"
@@ -281,11 +280,6 @@ void TestOrderlyEnd::nothingIsLostUnderAQuestion_data()
          [](Desk *) {
              HistoryDialog dialog((QList<ProgramVersion>()));
              QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-         }},
-        {"languages", "LanguagePicker",
-         [](Desk *) {
-             LanguagePicker picker("en");
-             QCOMPARE(picker.exec(), int(QDialog::Rejected));
          }},
     };
     const struct

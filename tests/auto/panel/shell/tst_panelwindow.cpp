@@ -3,14 +3,12 @@
 
 #include "filarixtest.h"
 #include "look/glyphs.h"
-#include "look/look.h"
 #include "look/measures.h"
 #include "look/panelkey.h"
+#include "look/spokennames.h"
 #include "modaldriver.h"
-#include "shell/languages.h"
 #include "shell/messagebar.h"
 #include "shell/panelwindow.h"
-#include "shell/settings.h"
 #include "shell/statusstrip.h"
 
 #include <QLabel>
@@ -71,8 +69,8 @@ private Q_SLOTS:
     void messageSurvivesAChangeOfScreens();
     void messageGoesWithItsCause();
     void whatIsToldMeanwhileEndsNoWork();
-    void lookIsChangedByTouchAndKept_data();
-    void lookIsChangedByTouchAndKept();
+    void gearLeadsToTheSettings_data();
+    void gearLeadsToTheSettings();
     void messagesAndProgressOfAScreenAreShown();
     void stopReachesTheScreenThatWorks();
     void workOfTwoScreensIsShownInTurn();
@@ -441,41 +439,34 @@ void TestPanelWindow::whatIsToldMeanwhileEndsNoWork()
     QCOMPARE(panel.messageBar()->text(), QString("It was stopped."));
 }
 
-void TestPanelWindow::lookIsChangedByTouchAndKept_data()
+void TestPanelWindow::gearLeadsToTheSettings_data()
 {
     touchTargets_data();
 }
 
-void TestPanelWindow::lookIsChangedByTouchAndKept()
+void TestPanelWindow::gearLeadsToTheSettings()
 {
     QFETCH(QSize, size);
-    const QString file = home() + "/panel.ini";
-    {
-        Settings settings(file);
-        Languages languages(QStringList(), &settings);
-        PanelWindow panel(size);
-        QList<FakeScreen *> screens;
-        addScreens(&panel, &screens);
-        panel.setLanguages(&languages);
-        panel.setSettings(&settings);
-        panel.show();
-        for (Look::Style style : {Look::Dark, Look::Light, Look::Dark}) {
-            if (PanelKey *menu = key(panel, "Menu"))
-                QTest::mouseClick(menu, Qt::LeftButton);
-            ModalDriver driver;
-            driver.then([](QWidget *dialog) {
-                QTest::mouseClick(dialog->findChild<QPushButton *>("look"), Qt::LeftButton);
-            });
-            PanelKey *languageKey = panel.findChild<PanelKey *>("languageKey");
-            QVERIFY(languageKey->isVisible());
-            QTest::mouseClick(languageKey, Qt::LeftButton);
-            QVERIFY2(driver.finished(), driver.report());
-            QCOMPARE(Look::style(), style);
-            QCOMPARE(panel.palette(), Look::palette());
-        }
+    PanelWindow panel(size);
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    FakeScreen *settings = new FakeScreen;
+    panel.addSettings(settings);
+    panel.show();
+    PanelKey *gear = panel.findChild<PanelKey *>("settingsKey");
+    if (PanelKey *menu = key(panel, "Menu")) {
+        QTest::mouseClick(menu, Qt::LeftButton);
+        QCOMPARE(gear->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+    } else {
+        QCOMPARE(gear->toolButtonStyle(), Qt::ToolButtonIconOnly);
     }
-    Look::use(Look::Light);
-    QCOMPARE(Settings(file).choice(Look::settingsKey(), Look::names()), QString("dark"));
+    QVERIFY(gear->isVisible());
+    QVERIFY(!gear->icon().isNull());
+    QVERIFY(gear->width() >= Measures::touch() && gear->height() >= Measures::touch());
+    QCOMPARE(SpokenNames::nameOf(gear), QString("Settings"));
+    QTest::mouseClick(gear, Qt::LeftButton);
+    QCOMPARE(panel.currentScreen(), static_cast<PanelScreen *>(settings));
+    QVERIFY(gear->isChecked());
 }
 
 void TestPanelWindow::messagesAndProgressOfAScreenAreShown()
