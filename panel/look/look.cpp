@@ -3,6 +3,8 @@
 
 #include "look/look.h"
 
+#include "look/recolour.h"
+
 #include <QApplication>
 #include <QVariant>
 #include <QWidget>
@@ -14,8 +16,6 @@ namespace {
 using Look::Role;
 
 const char dressProperty[] = "lookDress";
-// Beside the values of Look::Dress.
-const int lightGround = -1;
 
 Look::Style currentStyle = Look::Light;
 
@@ -132,20 +132,6 @@ QString messageListSheet()
                  .arg(hex(Role::OnAccent), hex(Role::Text));
 }
 
-/// The other roles go on following the application's palette, and what the widget has set itself
-/// stays.
-void lighten(QWidget *widget)
-{
-    QPalette palette = widget->palette();
-    const Role paper = currentStyle == Look::Dark ? Role::Surface : Role::Field;
-    palette.setColor(QPalette::Base, Look::colour(paper, Look::Light));
-    // The editor marks the current line with it, so it has to differ from the paper in bright
-    // light. A line that is marked already keeps the colour, so all looks have the same.
-    palette.setColor(QPalette::AlternateBase, QColor(0xcf, 0xe3, 0xfb));
-    palette.setColor(QPalette::Text, Look::colour(Role::Text, Look::Light));
-    widget->setPalette(palette);
-}
-
 } // namespace
 
 Look::Style Look::style()
@@ -160,13 +146,10 @@ void Look::use(Style style)
     const QWidgetList all = QApplication::allWidgets();
     for (QWidget *widget : all) {
         const QVariant dress = widget->property(dressProperty);
-        if (!dress.isValid())
-            continue;
-        if (dress.toInt() == lightGround)
-            lighten(widget);
-        else
+        if (dress.isValid())
             widget->setStyleSheet(sheet(Dress(dress.toInt())));
     }
+    Recolour::follow();
 }
 
 QString Look::name(Style style)
@@ -201,8 +184,13 @@ void Look::dress(QWidget *widget, Dress dress)
 
 void Look::keepLight(QWidget *widget)
 {
-    widget->setProperty(dressProperty, lightGround);
-    lighten(widget);
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Base, colour(Role::Field, Light));
+    // The editor marks the current line with it, so it has to differ from the paper in bright
+    // light. A line that is marked already keeps the colour, so all looks have the same.
+    palette.setColor(QPalette::AlternateBase, QColor(0xcf, 0xe3, 0xfb));
+    palette.setColor(QPalette::Text, colour(Role::Text, Light));
+    widget->setPalette(palette);
 }
 
 QString Look::sheet(Dress dress)

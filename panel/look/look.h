@@ -21,9 +21,8 @@ class QWidget;
 /// lies on the other stands in pairs(), which tests hold to leastContrast().
 ///
 /// Sheets are set on the host's own widgets only, never on the application or on a parent of a
-/// widget of the library. The library's rows and fields carry fixed sheets of their own. Rows and
-/// fields stay black on white in the dark look. So does the editor, whose words have fixed dark
-/// colours.
+/// widget of the library. The library's rows and fields carry fixed sheets of their own, and the
+/// words of its editor have fixed dark colours: Recolour brings them into the other looks.
 ///
 ///     Look::use(Look::Dark);
 ///     Look::dress(strip, Look::Strip);
@@ -101,7 +100,8 @@ bool read(const QString &name, Style *style);
 /// Gives a widget the style sheet of its kind, now and at each change of the style. Once a
 /// widget.
 void dress(QWidget *widget, Dress dress);
-/// Dark words on light ground in both styles: for the library's editor.
+/// Dark words on light ground, for the library's editor, whose words have fixed dark colours. In
+/// the other looks Recolour changes what it draws.
 void keepLight(QWidget *widget);
 /// The sheet of a kind in the style in use.
 QString sheet(Dress dress);

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Filarix Module developers
+// SPDX-License-Identifier: MIT
+
+#ifndef RECOLOUR_H
+#define RECOLOUR_H
+
+#include "look/look.h"
+
+#include <QGraphicsEffect>
+#include <QRegion>
+
+class QImage;
+
+/// Brings the editor, the lists and the rows of the library into the look in use.
+///
+/// Their words and sheets have fixed colours, made for light paper, and hosts read them. So all of
+/// that stays, and what is drawn is changed on its way to the screen: each lightness has its
+/// counterpart in the look, and hues stay. Only what is painted anew is changed, in its place.
+/// Scroll bars have the colours of the look itself.
+///
+/// Look::use() calls follow(). In the light look there is no effect and nobody is watched.
+class Recolour : public QGraphicsEffect
+{
+    Q_OBJECT
+
+public:
+    /// Covers what the library has made and will make, in the look in use.
+    static void follow();
+    /// What becomes of a colour in a look.
+    static QColor drawn(const QColor &colour, Look::Style style);
+    /// Changes the pixels of a part of an image of 32 or 16 bits a pixel.
+    static void change(QImage *image, const QRect &part, Look::Style style);
+
+protected:
+    void draw(QPainter *painter) override;
+
+private:
+    explicit Recolour(QWidget *widget);
+
+    static void cover(QWidget *widget);
+    static void uncover(QWidget *widget);
+    friend class RecolourWatch;
+
+    void note(const QWidget *widget, const QRegion &region);
+    QRegion ownPart(const QRegion &part) const;
+    void repairAbove();
+    bool drawInPlace(QPainter *painter);
+    void drawByPicture(QPainter *painter);
+
+    /// The one that the toolkit paints; null at other times.
+    static Recolour *drawing;
+
+    QWidget *const m_widget;
+    QRegion m_painted;
+    QRect m_repaired;
+};
+
+#endif // RECOLOUR_H
