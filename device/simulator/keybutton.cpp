@@ -22,7 +22,7 @@ struct KeyColours
     QRgb text;
 };
 
-// By role, in the order of the enum; light and dark.
+// By role, in the order of the enum; by look.
 const KeyColours roleColours[][4] = {{
                                          {0xffffffff, 0xff8c96a0, 0xff10161c}, // typing
                                          {0xffc3ccd5, 0xff7d8892, 0xff10161c}, // editing
@@ -34,10 +34,17 @@ const KeyColours roleColours[][4] = {{
                                          {0xff232c35, 0xff566473, 0xffeef2f6},
                                          {0xff1b7a3a, 0xff2f9a53, 0xffffffff},
                                          {0xff4c5763, 0xff6b7885, 0xffffffff},
+                                     },
+                                     {
+                                         {0xffffffff, 0xff000000, 0xff000000},
+                                         {0xffe0e0e0, 0xff000000, 0xff000000},
+                                         {0xff0f5a26, 0xff000000, 0xffffffff},
+                                         {0xff2b2b2b, 0xff000000, 0xffffffff},
                                      }};
 const KeyColours pressedColours = {0xffffb000, 0xffa06a00, 0xff10161c};
-const KeyColours disabledColours[] = {{0xffb4bbc2, 0xffa3abb3, 0xff5a636c},
-                                      {0xff1b222a, 0xff333c45, 0xff7b848d}};
+const KeyColours disabledColours[] = {{0xffc3cad1, 0xffa3abb3, 0xff47505a},
+                                      {0xff1b222a, 0xff333c45, 0xff9aa3ac},
+                                      {0xffe6e6e6, 0xff454545, 0xff454545}};
 
 // The glyphs are drawn in a square from -1 to 1.
 
@@ -164,7 +171,7 @@ bool KeyButton::event(QEvent *event)
 
 void KeyButton::paintEvent(QPaintEvent *)
 {
-    const int look = KeypadLook::isDark() ? 1 : 0;
+    const KeypadLook::Look look = KeypadLook::look();
     const KeyColours &colours = !isEnabled() ? disabledColours[look]
                                 : isDown()   ? pressedColours
                                              : roleColours[look][m_role];

@@ -39,8 +39,8 @@ const int highestInfo = 26;
 const int lowestValue = 34;
 const int highestValue = 60;
 
-// Light and dark.
-const QRgb frameColours[] = {0xff26303a, 0xff0b0f13};
+// By look.
+const QRgb frameColours[] = {0xff26303a, 0xff0b0f13, 0xff000000};
 const QRgb titleColour = 0xffffffff;
 const QRgb oldValueColour = 0xffd5dce3;
 const QRgb limitColour = 0xffffd479;
@@ -358,7 +358,7 @@ void KeypadFrame::end()
 
 void KeypadFrame::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(rect(), QColor(frameColours[KeypadLook::isDark() ? 1 : 0]));
+    QPainter(this).fillRect(rect(), QColor(frameColours[KeypadLook::look()]));
 }
 
 void KeypadFrame::resizeEvent(QResizeEvent *)
@@ -369,6 +369,9 @@ void KeypadFrame::resizeEvent(QResizeEvent *)
 void KeypadFrame::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
+    // The host changes its look, and the field's own sheet hides that from the field.
+    if (event->type() == QEvent::PaletteChange && isVisible())
+        m_edit->fitFont();
     if (event->type() != QEvent::LanguageChange)
         return;
     labelKeys();

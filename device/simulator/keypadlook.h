@@ -10,8 +10,8 @@
 
 #include <cmath>
 
-/// What the keypads take over from the host: whether they are light or dark, which its palette
-/// tells, and by properties of the application how large things are.
+/// What the keypads take over from the host: whether they are light, dark or of high contrast,
+/// which its palette tells, and by properties of the application how large things are.
 namespace KeypadLook {
 
 /// Wide enough for a finger on a small screen: 10 mm at 96 dpi.
@@ -27,11 +27,18 @@ const double mostDotsPerInch = 400;
 const int usualTextSize = 100;
 const int largestTextSize = 150;
 
-inline bool isDark()
+/// In the order in which the tables of colours have them.
+enum Look { Light, Dark, HighContrast };
+
+/// Black on white is what a host chooses for glare; any other light palette is for usual light.
+inline Look look()
 {
     const QPalette palette = QApplication::palette();
-    return palette.color(QPalette::Window).lightness()
-           < palette.color(QPalette::WindowText).lightness();
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    if (ground.lightness() < text.lightness())
+        return Dark;
+    return ground == QColor(Qt::white) && text == QColor(Qt::black) ? HighContrast : Light;
 }
 
 /// The smallest side in pixels of a key for a glove, by the property hmiDotsPerInch.

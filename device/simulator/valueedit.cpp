@@ -22,7 +22,18 @@ const char *const sheet =
     " border-radius: 4px; margin: 0px; padding: 0px %2px; font-size: %3px;"
     " font-weight: normal; min-width: 0px; min-height: 0px; max-width: 9999px;"
     " max-height: 9999px; selection-color: #ffffff;"
-    " selection-background-color: #1f5fa8; }";
+    " selection-background-color: %6; }";
+// By look.
+const struct
+{
+    const char *text;
+    const char *ground;
+    const char *selection;
+} colours[] = {
+    {"#10161c", "#ffffff", "#1f5fa8"},
+    {"#eef2f6", "#12171c", "#1f5fa8"},
+    {"#000000", "#ffffff", "#003f9e"},
+};
 
 } // namespace
 
@@ -99,13 +110,14 @@ void ValueEdit::resizeEvent(QResizeEvent *event)
 void ValueEdit::fitFont()
 {
     const int size = fittingSize();
-    const bool dark = KeypadLook::isDark();
-    if (size == m_fontSize && dark == m_dark)
+    const int look = KeypadLook::look();
+    if (size == m_fontSize && look == m_look)
         return;
     m_fontSize = size;
-    m_dark = dark;
+    m_look = look;
     setStyleSheet(QString::fromLatin1(sheet).arg(border).arg(padding).arg(size).arg(
-        QLatin1String(dark ? "#eef2f6" : "#10161c"), QLatin1String(dark ? "#12171c" : "#ffffff")));
+        QLatin1String(colours[look].text), QLatin1String(colours[look].ground),
+        QLatin1String(colours[look].selection)));
 }
 
 QString ValueEdit::permitted(const QString &typed) const

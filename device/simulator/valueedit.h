@@ -41,7 +41,8 @@ protected:
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
-private Q_SLOTS:
+public Q_SLOTS:
+    /// Takes the size of letters that has room, and the colours of the look in use.
     void fitFont();
 
 private:
@@ -50,7 +51,7 @@ private:
 
     TypingRules m_rules;
     int m_fontSize = 0;
-    bool m_dark = false;
+    int m_look = -1;
 };
 
 #endif // VALUEEDIT_H

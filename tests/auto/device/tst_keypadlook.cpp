@@ -24,16 +24,23 @@ private Q_SLOTS:
     void keysFitAGloveAtEachFineness();
     void lettersGrowWithTheHosts_data();
     void lettersGrowWithTheHosts();
+    void followsWhileOpen_data();
+    void followsWhileOpen();
 
 private:
-    static void setDark(bool dark);
+    enum Look { Light, Dark, HighContrast };
+    static void setLook(int look);
     static QDialog *keypad(const QString &kind);
 };
 
-void TestKeypadLook::setDark(bool dark)
+void TestKeypadLook::setLook(int look)
 {
-    QApplication::setPalette(dark ? QPalette(QColor(0x32, 0x3e, 0x4a), QColor(0x1d, 0x24, 0x2c))
-                                  : QPalette(QColor(0xdf, 0xe5, 0xec), QColor(0xee, 0xf1, 0xf5)));
+    const QPalette palettes[] = {
+        QPalette(QColor(0xdf, 0xe5, 0xec), QColor(0xee, 0xf1, 0xf5)),
+        QPalette(QColor(0x32, 0x3e, 0x4a), QColor(0x1d, 0x24, 0x2c)),
+        QPalette(QColor(0xf0, 0xf0, 0xf0), QColor(Qt::white)),
+    };
+    QApplication::setPalette(palettes[look]);
 }
 
 QDialog *TestKeypadLook::keypad(const QString &kind)
@@ -47,7 +54,7 @@ QDialog *TestKeypadLook::keypad(const QString &kind)
 
 void TestKeypadLook::cleanup()
 {
-    setDark(false);
+    setLook(Light);
     qApp->setProperty("hmiDotsPerInch", QVariant());
     qApp->setProperty("hmiTextSize", QVariant());
     FilarixTest::cleanup();
@@ -56,20 +63,23 @@ void TestKeypadLook::cleanup()
 void TestKeypadLook::keysAndLinesAreReadable_data()
 {
     QTest::addColumn<QString>("kind");
-    QTest::addColumn<bool>("dark");
+    QTest::addColumn<int>("look");
     Q_FOREACH (const char *kind, QList<const char *>() << "numeric"
                                                        << "character"
                                                        << "gcode") {
-        QTest::newRow(kind) << kind << false;
-        QTest::newRow(QByteArray(kind).append(" dark").constData()) << kind << true;
+        QTest::newRow(kind) << kind << int(Light);
+        QTest::newRow(QByteArray(kind).append(" dark").constData()) << kind << int(Dark);
+        QTest::newRow(QByteArray(kind).append(" high contrast").constData())
+            << kind << int(HighContrast);
     }
 }
 
 void TestKeypadLook::keysAndLinesAreReadable()
 {
     QFETCH(QString, kind);
-    QFETCH(bool, dark);
-    setDark(dark);
+    QFETCH(int, look);
+    setLook(look);
+    const double wanted = look == HighContrast ? 7 : Contrast::textContrast;
     QDialog *pad = keypad(kind);
     QIntValidator validator(1, 9);
     if (kind == "numeric") {
@@ -80,8 +90,6 @@ void TestKeypadLook::keysAndLinesAreReadable()
     run(pad, [&] {
         Q_FOREACH (QAbstractButton *button, pad->findChildren<QAbstractButton *>()) {
             const QRect inside = button->rect().adjusted(5, 5, -5, -5);
-            const double wanted =
-                button->isEnabled() ? Contrast::textContrast : Contrast::disabledContrast;
             QVERIFY2(Contrast::drawn(button, inside) >= wanted, qPrintable(button->objectName()));
             button->setDown(true);
             QVERIFY2(Contrast::drawn(button, inside) >= wanted, qPrintable(button->objectName()));
@@ -94,15 +102,13 @@ void TestKeypadLook::keysAndLinesAreReadable()
             if (!label->isVisible() || line(pad, name).isEmpty())
                 continue;
             const QRect place(label->mapTo(pad, QPoint(0, 0)), label->size());
-            QVERIFY2(Contrast::drawn(pad, place) >= Contrast::textContrast, name);
+            QVERIFY2(Contrast::drawn(pad, place) >= wanted, name);
         }
         value(pad)->deselect();
         value(pad)->setText("123");
-        QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6))
-                >= Contrast::textContrast);
+        QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6)) >= wanted);
         value(pad)->selectAll();
-        QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6))
-                >= Contrast::textContrast);
+        QVERIFY(Contrast::drawn(value(pad), value(pad)->rect().adjusted(6, 6, -6, -6)) >= wanted);
     });
 }
 
@@ -110,8 +116,8 @@ void TestKeypadLook::goesWithTheHost()
 {
     QDialog *pad = keypad("gcode");
     QList<int> brightness;
-    Q_FOREACH (bool dark, QList<bool>() << false << true << false) {
-        setDark(dark);
+    Q_FOREACH (int look, QList<int>() << Light << Dark << Light) {
+        setLook(look);
         run(pad, [&] {
             brightness.append(
                 QColor(TestCompat::grab(key(pad, "G")).toImage().pixel(8, 8)).lightness());
@@ -123,6 +129,42 @@ void TestKeypadLook::goesWithTheHost()
     QVERIFY(brightness.at(0) > 192 && brightness.at(1) > 192);
     QVERIFY(brightness.at(2) < 96 && brightness.at(3) < 96);
     QCOMPARE(brightness.mid(4), brightness.mid(0, 2));
+}
+
+void TestKeypadLook::followsWhileOpen_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("numeric") << "numeric";
+    QTest::newRow("character") << "character";
+    QTest::newRow("gcode") << "gcode";
+}
+
+// A keypad that the host changes its look under is the same as one that was opened in it.
+void TestKeypadLook::followsWhileOpen()
+{
+    QFETCH(QString, kind);
+    QDialog *pad = keypad(kind);
+    // A cursor that blinks would make two pictures of one look.
+    const int flashTime = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(0);
+    // What was asked of it before is shown once.
+    run(pad, [] {});
+    QList<QImage> opened;
+    Q_FOREACH (int look, QList<int>() << Light << Dark << HighContrast) {
+        setLook(look);
+        run(pad, [&] { opened.append(TestCompat::grab(pad).toImage()); });
+    }
+    QVERIFY(opened.at(0) != opened.at(1) && opened.at(1) != opened.at(2));
+    QVERIFY(opened.at(0) != opened.at(2));
+    setLook(Light);
+    run(pad, [&] {
+        Q_FOREACH (int look, QList<int>() << Dark << HighContrast << Light) {
+            setLook(look);
+            QVERIFY2(TestCompat::grab(pad).toImage() == opened.at(look),
+                     qPrintable(QString::number(look)));
+        }
+    });
+    QApplication::setCursorFlashTime(flashTime);
 }
 
 void TestKeypadLook::keysFitAGloveAtEachFineness_data()
