@@ -166,8 +166,6 @@ void lighten(QWidget *widget)
             palette.setBrush(QPalette::Inactive, role, light.brush(QPalette::Inactive, role));
     }
     widget->setPalette(palette);
-    // What lets something through would show the look's own ground, and that would be changed, too.
-    widget->setAutoFillBackground(true);
     if (!widget->inherits(editorClass))
         return;
     Look::keepLight(widget);
@@ -363,8 +361,15 @@ QRegion Recolour::ownPart(const QRegion &part) const
     return own;
 }
 
-void Recolour::note(const QWidget *widget, const QRegion &region)
+/// Before the widget paints. What it leaves unpainted would show the look's own ground, and that
+/// would be changed, too.
+void Recolour::note(QWidget *widget, const QRegion &region)
 {
+    if (widget == m_widget && !widget->autoFillBackground()) {
+        QPainter painter(widget);
+        for (const QRect &rect : region)
+            painter.fillRect(rect, Look::colour(Look::Role::Surface, Look::Light));
+    }
     m_painted += region.translated(widget->mapTo(m_widget, QPoint()));
 }
 

@@ -41,7 +41,7 @@ private:
     static void uncover(QWidget *widget);
     friend class RecolourWatch;
 
-    void note(const QWidget *widget, const QRegion &region);
+    void note(QWidget *widget, const QRegion &region);
     QRegion ownPart(const QRegion &part) const;
     void repairAbove();
     bool drawInPlace(QPainter *painter);

@@ -2,19 +2,28 @@
 // SPDX-License-Identifier: MIT
 
 #include "contrast.h"
+#include "dataeditor.h"
 #include "filarixtest.h"
+#include "filedialog.h"
+#include "importmanage.h"
 #include "look/look.h"
 #include "look/panelstyle.h"
 #include "look/recolour.h"
 #include "mjline.h"
 #include "rowfixture.h"
+#include "strictmessages.h"
 #include "tlistwidget.h"
+#include "wcopydialog.h"
+#include "wfiledialog.h"
+#include "wfinddialog.h"
 #include "wgcodeediter.h"
 
-#include <QPainter>
+#include <QMenu>
+#include <QMessageBox>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTableWidget>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -53,6 +62,9 @@ private Q_SLOTS:
     void lightCostsNothing();
     void looksFollowOneAnother();
     void rowsThatComeLaterAreChangedOnce();
+    void edgesOfARowAreDark();
+    void whatIsOpenFollows_data();
+    void whatIsOpenFollows();
     void turningPagesStaysQuick();
 
 private:
@@ -435,6 +447,93 @@ void TestRecolour::rowsThatComeLaterAreChangedOnce()
     const QImage screen = screenOf(&window);
     QCOMPARE(screen.pixelColor(line->mapTo(&window, QPoint(20, 3))),
              Look::colour(Look::Role::Field, Look::Dark));
+}
+
+void TestRecolour::edgesOfARowAreDark()
+{
+    Look::use(Look::Dark);
+    QWidget window;
+    window.resize(480, 100);
+    QStringList cells{"DataEditor", "1", "2", "3"};
+    DataEditor row(false, cells, QSize(480, 800), &window, false);
+    row.resize(480, 40);
+    show(&window);
+    const QImage screen = screenOf(&window);
+    for (int x : {0, 1, 2, 3, 478, 479}) {
+        for (int y : {2, 20, 36})
+            QVERIFY2(screen.pixelColor(x, y).lightness() < 64
+                         || screen.pixelColor(x, y) == Recolour::drawn(Qt::black, Look::Dark),
+                     qPrintable(QString("%1 %2").arg(x).arg(y)));
+    }
+}
+
+/// What an operator may have open, one of each kind.
+static QWidget *makeOpen(const QString &kind)
+{
+    if (kind == "find")
+        return new WFindDialog(nullptr);
+    if (kind == "copy")
+        return new WCopyDialog(nullptr);
+    if (kind == "picker")
+        return new WFileDialog(nullptr);
+    if (kind == "transfer") {
+        StrictMessages::expect("ImportManage::slot_checkUSB");
+        return new ImportManage(nullptr);
+    }
+    if (kind == "path")
+        return new FileDialog(QDir::Files, "Pick", FilarixTest::programDir(), nullptr,
+                              Qt::WindowTitleHint);
+    if (kind == "message") {
+        return new QMessageBox(QMessageBox::Warning, "Title", "The document has been modified.",
+                               QMessageBox::Save | QMessageBox::Cancel);
+    }
+    if (kind == "menu") {
+        QMenu *menu = new QMenu;
+        menu->addAction("One");
+        menu->addAction("Two")->setEnabled(false);
+        return menu;
+    }
+    QTableWidget *table = new QTableWidget(40, 2);
+    table->setAlternatingRowColors(true);
+    return table;
+}
+
+void TestRecolour::whatIsOpenFollows_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind :
+         {"find", "copy", "picker", "transfer", "path", "message", "menu", "table"})
+        QTest::newRow(kind) << QString(kind);
+}
+
+// What was opened before a look was chosen is the same as what is opened in it: no ground, edge or
+// bar of the look before is left.
+void TestRecolour::whatIsOpenFollows()
+{
+    QFETCH(QString, kind);
+    for (int i = 0; i < 30; ++i)
+        writeFile(programDir() + QString("/coil-%1.cnc").arg(i), "G01\n");
+    const int flashTime = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(0);
+    const Look::Style looks[] = {Look::Light, Look::Dark, Look::HighContrast};
+    QList<QImage> opened;
+    for (Look::Style look : looks) {
+        Look::use(look);
+        const QScopedPointer<QWidget> open(makeOpen(kind));
+        show(open.data());
+        opened.append(TestCompat::grab(open.data()).toImage());
+    }
+    QVERIFY(opened.at(0) != opened.at(1) && opened.at(1) != opened.at(2));
+    QVERIFY(opened.at(0) != opened.at(2));
+    Look::use(Look::Light);
+    const QScopedPointer<QWidget> open(makeOpen(kind));
+    show(open.data());
+    for (Look::Style look : {Look::Dark, Look::HighContrast, Look::Dark, Look::Light}) {
+        Look::use(look);
+        QTRY_VERIFY2(TestCompat::grab(open.data()).toImage() == opened.at(look),
+                     qPrintable(Look::name(look)));
+    }
+    QApplication::setCursorFlashTime(flashTime);
 }
 
 static qint64 threadTime()
