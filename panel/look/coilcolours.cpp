@@ -4,6 +4,7 @@
 #include "look/coilcolours.h"
 
 #include "look/look.h"
+#include "look/recolour.h"
 
 CoilDrawing::Palette CoilColours::palette()
 {
@@ -14,5 +15,11 @@ CoilDrawing::Palette CoilColours::palette()
     palette.colours[CoilDrawing::Ink] = screens.color(QPalette::Text);
     palette.colours[CoilDrawing::FaintInk] = screens.color(QPalette::PlaceholderText);
     palette.colours[CoilDrawing::WireEdge] = screens.color(QPalette::Base);
+    if (Look::style() != Look::HighContrast)
+        return palette;
+    // Curves and the mark are drawn for light paper, and glare asks for more.
+    for (CoilDrawing::Role role :
+         {CoilDrawing::Traverse, CoilDrawing::Speed, CoilDrawing::Tension, CoilDrawing::Mark})
+        palette.colours[role] = Recolour::drawn(palette.colours[role], Look::HighContrast);
     return palette;
 }

@@ -38,12 +38,12 @@ void TestCoilColours::theyAreThoseOfTheScreens()
 
 void TestCoilColours::wordsAreReadable()
 {
-    for (Look::Style style : {Look::Light, Look::Dark}) {
+    for (Look::Style style : {Look::Light, Look::Dark, Look::HighContrast}) {
         Look::use(style);
         const D::Palette palette = CoilColours::palette();
         for (D::Role role : {D::Ink, D::FaintInk, D::Traverse, D::Speed, D::Tension, D::Mark})
             QVERIFY2(Contrast::ratio(palette.colour(role), palette.colour(D::Paper))
-                         >= Contrast::textContrast,
+                         >= Look::leastContrast(style),
                      qPrintable(QString("%1 %2").arg(style).arg(role)));
     }
 }
@@ -51,7 +51,7 @@ void TestCoilColours::wordsAreReadable()
 // By its hue where not by its light: it has a rim of paper, too.
 void TestCoilColours::theMarkStandsOutFromTheWire()
 {
-    for (Look::Style style : {Look::Light, Look::Dark}) {
+    for (Look::Style style : {Look::Light, Look::Dark, Look::HighContrast}) {
         Look::use(style);
         const D::Palette palette = CoilColours::palette();
         for (int i = 0; i <= 20; ++i) {
