@@ -5,7 +5,8 @@
 # docs/pictures.sh
 #
 # Makes the pictures of the README and of the documentation anew: the panel program walks its screens,
-# and the named ones go to docs/images; classpictures leaves one of each class in docs/images/classes.
+# and the named ones go to docs/images; classpictures leaves one of each class in docs/images/classes, and
+# design.py the examples of the page of the design in docs/images/design.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
@@ -31,6 +32,8 @@ keep 800x480 find
 tour 480x800 90
 keep 480x800 program
 keep 480x800 gcode-keypad
+
+docs/pictures/design.py
 
 cmake --preset dev >/dev/null
 cmake --build --preset dev --target classpictures >/dev/null
