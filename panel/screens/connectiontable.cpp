@@ -207,7 +207,8 @@ void ConnectionTable::showUnset(int number, const QString &text)
     unset->setStyleSheet(QLatin1String("border: 0"));
     unset->setIndent(letterMargin);
     QHBoxLayout *line = new QHBoxLayout(field);
-    line->setContentsMargins(0, 0, 0, 0);
+    // The field's border stays in sight.
+    line->setContentsMargins(1, 1, 1, 1);
     line->addWidget(unset);
     connect(field, &QLineEdit::textChanged, unset,
             [unset](const QString &address) { unset->setVisible(address.isEmpty()); });

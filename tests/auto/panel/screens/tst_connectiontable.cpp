@@ -115,6 +115,7 @@ void TestConnectionTable::addressThatIsNotSetIsShownAsThat()
         QCOMPARE(texts(dialog, "unset"), QStringList("Unset"));
         QVERIFY(unset->isVisible());
         QCOMPARE(field->text(), QString());
+        QVERIFY(field->rect().adjusted(1, 1, -1, -1).contains(unset->geometry()));
         QTest::mouseClick(field, Qt::LeftButton);
         QVERIFY(DeviceLog::calls().contains("CharacterKeypad.setText()")
                 || DeviceLog::calls().contains("NumericKeypad.setText()"));
