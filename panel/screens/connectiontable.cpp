@@ -206,6 +206,8 @@ void ConnectionTable::showUnset(int number, const QString &text)
     unset->setAttribute(Qt::WA_TransparentForMouseEvents);
     unset->setStyleSheet(QLatin1String("border: 0"));
     unset->setIndent(letterMargin);
+    // In some languages it takes two lines.
+    unset->setWordWrap(true);
     QHBoxLayout *line = new QHBoxLayout(field);
     // The field's border stays in sight.
     line->setContentsMargins(1, 1, 1, 1);
