@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
+#include <QPainter>
 #include <QProgressDialog>
 #include <QScreen>
 
@@ -24,6 +25,7 @@ namespace {
 
 const int lowHeight = 26;
 const int margin = 2;
+const int edgeWidth = 2;
 const int sideMargin = 8;
 const int titlePixels = 16;
 const int lowTitlePixels = 14;
@@ -177,6 +179,15 @@ int TitleStrip::room()
 QString TitleStrip::title() const
 {
     return m_title->text();
+}
+
+/// The edge of the dialog goes on around it: dark strips would merge with a dark panel behind.
+void TitleStrip::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(QPen(Look::edge(), edgeWidth));
+    painter.drawRect(rect().adjusted(1, 1, -1, edgeWidth));
 }
 
 bool TitleStrip::eventFilter(QObject *watched, QEvent *event)

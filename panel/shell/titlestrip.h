@@ -32,6 +32,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     explicit TitleStrip(QDialog *dialog);
     void addCloseKey(QDialog *dialog);

@@ -4,6 +4,7 @@
 #include "display/panelglass.h"
 #include "filarixtest.h"
 #include "importmanage.h"
+#include "look/look.h"
 #include "shell/dialogfitter.h"
 #include "shell/titlestrip.h"
 
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void cleanup();
     void windowManagerShowsTheTitleItself();
     void dialogGrowsByItsTitleAndItsInsideStays();
+    void edgeOfTheDialogGoesAroundIt();
     void fixedHeightGrows();
     void shownTwiceItGrowsOnce();
     void titleFollowsTheDialog();
@@ -127,6 +129,21 @@ void TestTitleStrip::dialogGrowsByItsTitleAndItsInsideStays()
     QCOMPARE(dialog.size(), QSize(300, 200 + strip->height()));
     QCOMPARE(strip->geometry(), QRect(0, 0, 300, strip->height()));
     QCOMPARE(list->geometry(), QRect(4, 4 + strip->height(), 292, 192));
+}
+
+void TestTitleStrip::edgeOfTheDialogGoesAroundIt()
+{
+    Look::use(Look::Dark);
+    QDialog dialog;
+    fill(&dialog);
+    dialog.show();
+    const QImage image = TestCompat::grab(&dialog).toImage();
+    const QColor edge = Look::edge();
+    Look::use(Look::Light);
+    const int middle = TitleStrip::room() / 2;
+    for (const QPoint &place : {QPoint(0, middle), QPoint(299, middle), QPoint(150, 0)})
+        QCOMPARE(image.pixelColor(place), edge);
+    QVERIFY(image.pixelColor(150, TitleStrip::room() - 1) != image.pixelColor(150, 0));
 }
 
 void TestTitleStrip::fixedHeightGrows()
