@@ -3,8 +3,18 @@
 
 #include "look/taparea.h"
 
+#include "look/styleshades.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+// Of the colour of what is chosen: the texts keep their contrast on strips, paper and messages.
+const qreal downShare = 0.35;
+
+} // namespace
 
 TapArea::TapArea(QWidget *parent) : QFrame(parent)
 {
@@ -23,10 +33,43 @@ void TapArea::keyPressEvent(QKeyEvent *event)
 void TapArea::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
+    setDown(true);
+}
+
+void TapArea::mouseMoveEvent(QMouseEvent *event)
+{
+    setDown(rect().contains(event->pos()));
 }
 
 void TapArea::mouseReleaseEvent(QMouseEvent *event)
 {
+    setDown(false);
     if (rect().contains(event->pos()))
         Q_EMIT touched();
+}
+
+/// Whoever hides it under a finger gets no release.
+void TapArea::hideEvent(QHideEvent *event)
+{
+    setDown(false);
+    QFrame::hideEvent(event);
+}
+
+void TapArea::setDown(bool isDown)
+{
+    if (m_isDown == isDown)
+        return;
+    m_isDown = isDown;
+    update();
+}
+
+void TapArea::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    if (!m_isDown)
+        return;
+    QColor ground = palette().color(QPalette::Highlight);
+    ground.setAlphaF(downShare);
+    QPainter painter(this);
+    StyleShades::fill(&painter, rect(), ground, QColor(), 0);
 }

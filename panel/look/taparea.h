@@ -7,6 +7,7 @@
 #include <QFrame>
 
 /// Texts that together are large enough for a thumb: a touch on any of them counts as one.
+/// While a finger is on it, its ground is that of a pressed key.
 ///
 ///     connect(block, &TapArea::touched, this, &Screen::tellInFull);
 class TapArea : public QFrame
@@ -23,7 +24,15 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void setDown(bool isDown);
+
+    bool m_isDown = false;
 };
 
 #endif // TAPAREA_H

@@ -121,6 +121,13 @@ QWidget *makeBar()
     return bar;
 }
 
+QWidget *dressed(Look::Dress dress)
+{
+    PanelKey *key = new PanelKey("More");
+    Look::dress(key, dress);
+    return key;
+}
+
 QImage picture(QWidget *widget)
 {
     return TestCompat::grab(widget).toImage();
@@ -335,6 +342,8 @@ void TestPanelStyle::pressIsSeenInTheNextFrame_data()
     QTest::newRow("button") << Make([] { return new QPushButton("OK"); }) << middle;
     QTest::newRow("tool button") << Make(&makeToolButton) << middle;
     QTest::newRow("key") << Make([] { return new PanelKey("More"); }) << middle;
+    QTest::newRow("key of a strip") << Make([] { return dressed(Look::Strip); }) << middle;
+    QTest::newRow("key of a key panel") << Make([] { return dressed(Look::KeyPanel); }) << middle;
     QTest::newRow("check box") << Make([] { return new QCheckBox("Case"); }) << QPoint(12, 20);
     QTest::newRow("radio button") << Make([] { return new QRadioButton("mm"); }) << QPoint(12, 20);
     QTest::newRow("scroll bar") << Make(&makeBar) << QPoint(60, 20);

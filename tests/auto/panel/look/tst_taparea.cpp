@@ -5,6 +5,7 @@
 #include "look/taparea.h"
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QSignalSpy>
 
 class TestTapArea : public FilarixTest
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void aFingerThatSlidesOffTouchesNothing();
     void whatLiesBehindIsNotTouched();
     void keysTouchItToo();
+    void pressIsSeenInTheNextFrame();
+    void pressEndsWhereTheFingerLeaves();
 };
 
 void TestTapArea::aTouchOnAnyOfItsTextsIsOne()
@@ -67,6 +70,39 @@ void TestTapArea::keysTouchItToo()
     for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_A})
         QTest::keyClick(&area, key);
     QCOMPARE(touched.size(), 3);
+}
+
+void TestTapArea::pressIsSeenInTheNextFrame()
+{
+    TapArea area;
+    area.resize(200, 60);
+    area.show();
+    QVERIFY(TestCompat::waitForExposed(&area));
+    const QImage before = TestCompat::grab(&area).toImage();
+    QTest::mousePress(&area, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QVERIFY(TestCompat::grab(&area).toImage() != before);
+    QTest::mouseRelease(&area, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QCOMPARE(TestCompat::grab(&area).toImage(), before);
+}
+
+void TestTapArea::pressEndsWhereTheFingerLeaves()
+{
+    TapArea area;
+    area.resize(200, 60);
+    area.show();
+    const QImage before = TestCompat::grab(&area).toImage();
+    QTest::mousePress(&area, Qt::LeftButton);
+    QMouseEvent move(QEvent::MouseMove, QPoint(10, 80), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&area, &move);
+    QCOMPARE(TestCompat::grab(&area).toImage(), before);
+    // One that goes away under the finger is as before when it comes back.
+    QTest::mousePress(&area, Qt::LeftButton);
+    area.hide();
+    area.show();
+    QCOMPARE(TestCompat::grab(&area).toImage(), before);
 }
 
 FILARIX_TEST_MAIN(TestTapArea)
