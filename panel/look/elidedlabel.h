@@ -17,6 +17,7 @@ public:
     /// Lines that the text may fill; one at first. The caller gives the label their height, and
     /// what has no room in it stays away.
     void setLines(int lines);
+    int lines() const { return m_lines; }
     /// The lines that minimumSizeHint() has room for; one at first.
     void keepLines(int lines);
 

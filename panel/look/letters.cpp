@@ -44,13 +44,16 @@ bool showsText(const QWidget *widget)
            || qobject_cast<const QLineEdit *>(widget);
 }
 
-/// The container's own widgets, each behind the one that it is in.
+/// The container's own widgets, each behind the one that it is in. What has Letters of its own is
+/// left to them.
 QWidgetList ownWidgets(QWidget *container)
 {
     QWidgetList all;
     for (QObject *child : container->children()) {
         QWidget *widget = qobject_cast<QWidget *>(child);
-        if (widget && !widget->isWindow() && !Letters::isForeign(widget))
+        const bool hasOwn =
+            widget && widget->findChild<Letters *>(QString(), Qt::FindDirectChildrenOnly);
+        if (widget && !hasOwn && !widget->isWindow() && !Letters::isForeign(widget))
             all += QWidgetList{widget} + ownWidgets(widget);
     }
     return all;

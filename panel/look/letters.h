@@ -14,7 +14,8 @@ class QWidget;
 /// keeps them there. Where the room is short they grow as far as it lasts, all alike: no text is
 /// cut for being large, and none is smaller than at 100 percent.
 ///
-/// What the library makes keeps the size that its design gives it.
+/// What the library makes keeps the size that its design gives it, and what has Letters of its own
+/// is left to them.
 ///
 ///     new Letters(strip);           // lives with the strip
 ///     Letters::grow(&dialog, room); // once, for a dialog that opens

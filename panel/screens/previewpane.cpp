@@ -64,7 +64,8 @@ PreviewPane::PreviewPane(CoilPreview *preview, const QSize &surface, Place place
     m_message->setAttribute(Qt::WA_TransparentForMouseEvents);
     QVBoxLayout *inView = new QVBoxLayout(m_view);
     inView->setContentsMargins(24, 12, 24, 12);
-    inView->addWidget(m_message, 0, Qt::AlignVCenter);
+    // All of the view, so that one message after another moves nothing.
+    inView->addWidget(m_message);
 
     connect(m_preview, &CoilPreview::changed, this, &PreviewPane::showState);
     connect(m_preview, &CoilPreview::progressed, this, &PreviewPane::showProgress);

@@ -119,6 +119,9 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     for (QToolBar *bar : bars)
         new BarPager(bar);
     m_fileLabel->parentWidget()->installEventFilter(this);
+    // The head has the name in full, and the numbers beside it need the room.
+    if (QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow)
+        m_fileLabel->hide();
     nameUnnamed();
 
     // The window leaves it to its host whether the modified mark lives.
@@ -271,6 +274,16 @@ QString ProgramScreen::title() const
 bool ProgramScreen::hasChanges() const
 {
     return m_window->isWindowModified();
+}
+
+QString ProgramScreen::stateWord() const
+{
+    if (transfer()->isRunning())
+        return tr("downloading");
+    if (m_guard->state().kind == ProgramState::NotStored)
+        return tr("not stored");
+    const bool isInFile = !m_window->getCurrentFile().isEmpty() && !hasChanges();
+    return isInFile ? tr("stored") : PanelScreen::stateWord();
 }
 
 QList<PanelKey *> ProgramScreen::keys()

@@ -61,6 +61,7 @@ public:
 
     QString title() const override;
     bool hasChanges() const override;
+    QString stateWord() const override;
     QList<PanelKey *> keys() override;
     bool mayClose() override;
     bool isWorking() const override;

@@ -19,9 +19,9 @@ namespace {
 
 const int rowPixels = 13;
 const int rowLines = 2;
-const int linePixels = 12;
+const int linePixels = 11;
 const int rowBar = 8;
-const int lineBar = 3;
+const int lineBar = 2;
 // A thumb that is on its way to Stop must not close what says how the work ended.
 const int keyRestMs = 700;
 const int wholePercent = 100;

@@ -24,6 +24,8 @@ public:
     virtual QString title() const = 0;
     /// Whether that has changes that are not stored.
     virtual bool hasChanges() const { return false; }
+    /// The same in a word, beside the title; empty where there is nothing to say.
+    virtual QString stateWord() const { return hasChanges() ? tr("changed") : QString(); }
     /// Keys for the shell's strip while the screen is up; the shell takes them.
     virtual QList<PanelKey *> keys() { return QList<PanelKey *>(); }
     /// Asks what has to be asked before the program ends; false keeps it open.

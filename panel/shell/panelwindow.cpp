@@ -4,10 +4,10 @@
 #include "shell/panelwindow.h"
 
 #include "filarixpanel.h"
-#include "look/elidedlabel.h"
 #include "look/letters.h"
 #include "look/look.h"
 #include "look/measures.h"
+#include "look/namelabel.h"
 #include "look/panelkey.h"
 #include "look/taparea.h"
 #include "shell/messagebar.h"
@@ -29,14 +29,17 @@ namespace {
 const int tabWidth = 52;
 const int menuTabWidth = 76;
 const int statusMs = 2000;
-const int messageLine = 20;
+// Below the title and the state of the devices, in the height of the keys.
+const int messageLine = 15;
 // Each pixel more is taken from a row of the screens.
 const int stripMargin = 1;
 // What a strip may take of the screens for larger letters, where there are pixels enough.
 const int forLetters = 12;
-// Between the keys of a slim panel a title is broken: a part of a name is the name of nothing.
-const int slimTitle = 11;
+// Between the keys of a slim panel a title has many short lines.
+const int slimTitle = 12;
 const int slimTitleLines = 3;
+const int slimSide = 1;
+const int titleLines = 2;
 
 } // namespace
 
@@ -46,7 +49,7 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     , m_stack(new QStackedWidget)
     , m_tabs(new QGridLayout)
     , m_keys(new QHBoxLayout)
-    , m_title(new ElidedLabel)
+    , m_title(new NameLabel)
     , m_status(new StatusStrip(m_shape == Wide))
     , m_messageBar(new MessageBar(&m_log, m_shape == Small ? MessageBar::Line : MessageBar::Row))
 {
@@ -108,7 +111,7 @@ QWidget *PanelWindow::makeTopStrip()
     font.setBold(true);
     m_title->setFont(font);
     m_title->setObjectName(QLatin1String("title"));
-    m_title->setLines(m_shape == Slim ? slimTitleLines : 1);
+    m_title->setLines(m_shape == Slim ? slimTitleLines : titleLines);
     m_status->setObjectName(QLatin1String("status"));
 
     TapArea *titleBlock = new TapArea;
@@ -116,7 +119,10 @@ QWidget *PanelWindow::makeTopStrip()
     titleBlock->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(titleBlock, &TapArea::touched, this, &PanelWindow::showMessages);
     QVBoxLayout *titles = new QVBoxLayout(titleBlock);
-    const int side = m_shape == Small ? 3 : 6;
+    // A message that comes makes room among the titles, and not among the keys.
+    if (m_shape == Small)
+        new Letters(titleBlock);
+    const int side = m_shape == Small ? 3 : m_shape == Slim ? slimSide : 4;
     titles->setContentsMargins(side, 0, side, 0);
     titles->setSpacing(0);
     titles->addWidget(m_title);
@@ -318,11 +324,13 @@ void PanelWindow::showTitle()
     const PanelScreen *screen = currentScreen();
     if (!screen)
         return;
-    const QString mark = screen->hasChanges() ? QString(QLatin1String("*")) : QString();
-    m_title->setText(screen->title() + mark);
-    m_title->setStyleSheet(screen->hasChanges()
-                               ? QString::fromLatin1("color: %1;").arg(Look::changed().name())
-                               : QString());
+    m_title->setName(screen->title(), screen->hasChanges() ? QString(QLatin1Char('*')) : QString(),
+                     screen->stateWord());
+    const QString sheet = screen->hasChanges()
+                              ? QString::fromLatin1("color: %1;").arg(Look::changed().name())
+                              : QString();
+    if (m_title->styleSheet() != sheet)
+        m_title->setStyleSheet(sheet);
     setWindowTitle(tr("%1[*] - Winding panel").arg(screen->title()));
     setWindowModified(screen->hasChanges());
 }
@@ -333,6 +341,7 @@ void PanelWindow::tellOf(const PanelScreen *screen, const QString &text, Message
     if (!screen->isWorking())
         m_works.end(screen, QString());
     m_log.tell(text, tone, cause);
+    showTitle();
 }
 
 void PanelWindow::showMessages()
@@ -346,10 +355,10 @@ void PanelWindow::showInFull(const QString &subject)
     dialog.exec();
 }
 
-/// The state of the devices gives way: on a small panel there is one line for the two.
+/// The key of the message stands where some of the devices' states have been.
 void PanelWindow::placeMessages()
 {
-    m_status->setVisible(m_messageBar->text().isEmpty());
+    m_status->setBrief(!m_messageBar->text().isEmpty());
 }
 
 void PanelWindow::showWork()
@@ -357,6 +366,7 @@ void PanelWindow::showWork()
     // A thumb that is on its way to Stop must not stop what comes in the place of its work.
     const bool isAnother = m_shownWork != 0 && m_works.number() != m_shownWork;
     m_shownWork = m_works.number();
+    showTitle();
     if (m_shownWork == 0)
         return m_messageBar->endWork();
     m_messageBar->showWork(m_works.text(), m_works.percent(), m_works.left(),

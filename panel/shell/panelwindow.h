@@ -16,8 +16,8 @@
 
 #include <functional>
 
-class ElidedLabel;
 class MessageBar;
+class NameLabel;
 class PanelKey;
 class QGridLayout;
 class QHBoxLayout;
@@ -33,9 +33,9 @@ class StatusStrip;
 /// that the screen gets every line there is. Upright and small: the same, with the state of the
 /// devices at the foot.
 ///
-/// Messages have a row of their own at the foot, and cover nothing. On a small panel they take the
-/// line of the devices' state while there are some. A touch on the row or on the title opens the
-/// last messages.
+/// Messages have a row of their own at the foot, and cover nothing. On a small panel they have a
+/// line below the state of the devices while there are some. A touch on the row or on the title
+/// opens the last messages, with the title in full.
 ///
 ///     PanelWindow panel(QSize(800, 480));
 ///     panel.addScreen(new ProgramScreen(0, "/srv/plc", &machine), [] { return tr("Program"); },
@@ -125,7 +125,7 @@ private:
     PanelKey *m_menuKey = nullptr;
     QGridLayout *m_tabs;
     QHBoxLayout *m_keys;
-    ElidedLabel *m_title;
+    NameLabel *m_title;
     StatusStrip *m_status;
     MessageBar *m_messageBar;
     QWidget *m_shade;

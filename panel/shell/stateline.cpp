@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QRegExp>
 #include <QScreen>
 
 namespace {
@@ -37,15 +38,10 @@ StateLine::StateLine(QWidget *parent) : TapArea(parent), m_label(new ElidedLabel
     hide();
 }
 
-QString StateLine::text() const
-{
-    return m_label->text();
-}
-
 void StateLine::show(const QString &text, Message::Tone tone)
 {
     m_tone = tone;
-    m_label->setText(text);
+    m_text = text;
     colour();
     setVisible(!text.isEmpty());
     fit();
@@ -69,11 +65,25 @@ void StateLine::fit()
 {
     const int panel = QGuiApplication::primaryScreen()->availableSize().height();
     const bool isHigh = panel >= FilarixPanel::smallBelow;
-    const int needed = m_label->fontMetrics().horizontalAdvance(text());
-    const int lines = isHigh && needed > width() - 2 * sideMargin ? 2 : 1;
+    const QFontMetrics metrics = m_label->fontMetrics();
+    const int room = width() - 2 * sideMargin;
+    const int lines = isHigh && metrics.horizontalAdvance(m_text) > room ? 2 : 1;
+    const QRect needed =
+        metrics.boundingRect(QRect(0, 0, room, QWIDGETSIZE_MAX), Qt::TextWordWrap, m_text);
+    const bool isWhole = needed.height() <= lines * qMax(metrics.height(), metrics.lineSpacing())
+                         && needed.width() <= room;
+    m_label->setText(isWhole ? m_text : head());
     m_label->setLines(lines);
     m_label->keepLines(lines);
     setFixedHeight(lineHeight + (lines - 1) * m_label->fontMetrics().lineSpacing());
+}
+
+/// The whole text where it has no colon.
+QString StateLine::head() const
+{
+    // The second one is China's.
+    const int colon = m_text.indexOf(QRegExp(QString::fromUtf8(": |\uff1a")));
+    return m_text.left(colon);
 }
 
 void StateLine::colour()

@@ -11,6 +11,8 @@ class ElidedLabel;
 
 /// A line, or two, that stays in view for as long as something is to be kept in mind; a touch asks
 /// for it in full. Hidden while there is nothing.
+///
+/// Of a text that is too long, what stands before its colon is shown, rather than a part of a word.
 class StateLine : public TapArea
 {
     Q_OBJECT
@@ -18,7 +20,8 @@ class StateLine : public TapArea
 public:
     explicit StateLine(QWidget *parent = nullptr);
 
-    QString text() const;
+    /// In full.
+    QString text() const { return m_text; }
     void show(const QString &text, Message::Tone tone);
 
 protected:
@@ -29,7 +32,10 @@ private:
     void colour();
     void fit();
 
+    QString head() const;
+
     ElidedLabel *m_label;
+    QString m_text;
     Message::Tone m_tone = Message::Information;
 };
 

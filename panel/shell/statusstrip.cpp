@@ -52,6 +52,32 @@ void StatusItem::setGlyph(Glyphs::Glyph glyph)
     update();
 }
 
+void StatusItem::keepRoomFor(const QStringList &usual, const QStringList &rare)
+{
+    m_usual = usual;
+    m_rare = rare;
+    updateGeometry();
+}
+
+QSize StatusItem::withRoomFor(const QStringList &words, const QSize &least) const
+{
+    int widest = 0;
+    for (const QString &word : words)
+        widest = qMax(widest, fontMetrics().horizontalAdvance(word));
+    // A label takes what is drawn of a letter beyond its own width, too.
+    return least.expandedTo(QSize(glyphSide + glyphGap + widest + 1, 0));
+}
+
+QSize StatusItem::sizeHint() const
+{
+    return withRoomFor(m_rare, minimumSizeHint());
+}
+
+QSize StatusItem::minimumSizeHint() const
+{
+    return withRoomFor(m_usual, QLabel::sizeHint());
+}
+
 void StatusItem::set(const QString &word, Message::Tone tone, const QString &meaning)
 {
     setToneless(word, meaning);
@@ -100,7 +126,8 @@ StatusStrip::StatusStrip(bool roomy, QWidget *parent)
                           static_cast<QWidget *>(m_stick), static_cast<QWidget *>(m_storage),
                           static_cast<QWidget *>(m_clock)})
         row->addWidget(item);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // What is kept for other words gives way before a word is cut.
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 
     connect(&m_clockTimer, &QTimer::timeout, this, &StatusStrip::tick);
     m_clockTimer.setSingleShot(true);
@@ -154,6 +181,16 @@ void StatusStrip::showCheck(Check check, int errors, int warnings)
     m_errors = errors;
     m_warnings = warnings;
     m_isCheckTold = true;
+    showCheck();
+}
+
+void StatusStrip::setBrief(bool isBrief)
+{
+    if (isBrief == m_isBrief)
+        return;
+    m_isBrief = isBrief;
+    m_stick->setHidden(isBrief);
+    m_storage->setHidden(isBrief);
     showCheck();
 }
 
@@ -226,6 +263,7 @@ void StatusStrip::noteStop()
 
 void StatusStrip::showAll()
 {
+    keepRoom();
     showCheck();
     showPlc();
     showStick();
@@ -237,27 +275,33 @@ QString StatusStrip::named(const QString &name, const QString &word) const
     return m_roomy ? name + QLatin1Char(' ') + word : word;
 }
 
-// Its word changes while the operator types, and nothing beside it may move.
-void StatusStrip::keepCheckWidth()
+/// The words change by themselves, and while the operator types: nothing beside them may move.
+void StatusStrip::keepRoom()
 {
-    if (!m_roomy)
-        return;
-    const QFontMetrics metrics = m_check->fontMetrics();
-    int widest = 0;
-    for (const QString &word : {dash(), tr("ok"), QString::fromLatin1("999")})
-        widest = qMax(widest, metrics.horizontalAdvance(named(tr("Check"), word)));
-    m_check->setMinimumWidth(glyphSide + glyphGap + widest + 1);
+    const auto keep = [this](StatusItem *item, const QString &name, QStringList usual,
+                             QStringList rare) {
+        for (QStringList *words : {&usual, &rare}) {
+            for (QString &word : *words)
+                word = named(name, word);
+        }
+        item->keepRoomFor(usual, rare);
+    };
+    if (m_roomy)
+        keep(m_check, tr("Check"), {dash(), tr("ok"), QLatin1String("999")}, {});
+    keep(m_plc, tr("PLC"), {dash(), tr("ready"), tr("away")}, {tr("failed"), tr("%1 %").arg(100)});
+    keep(m_stick, tr("Stick"), {dash(), tr("in"), tr("out")}, {});
+    keep(m_storage, tr("Storage"), {dash(), tr("%1 GB").arg(99)},
+         {tr("%1 MB").arg(999), tr("full"), QLatin1String("! ") + tr("%1 MB").arg(99)});
 }
 
 void StatusStrip::showCheck()
 {
     const QString name = tr("Check");
     const bool isFaulty = m_errors > 0 || m_warnings > 0;
-    keepCheckWidth();
     // On a small panel faults take the place of the clock, and there is no room for good news.
     m_check->setVisible(m_isCheckTold && (m_roomy || isFaulty));
     setFocusPolicy(m_check->isHidden() ? Qt::NoFocus : Qt::TabFocus);
-    m_clock->setVisible(m_roomy || !isFaulty);
+    m_clock->setVisible((m_roomy || !isFaulty) && !m_isBrief);
     m_check->setGlyph(m_errors > 0 ? Glyphs::Alarm : m_warnings > 0 ? Glyphs::Warn : Glyphs::Check);
     if (m_checkState == CheckUnknown)
         return m_check->setToneless(named(name, dash()), tr("Check: not known"));

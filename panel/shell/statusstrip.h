@@ -26,15 +26,25 @@ public:
     void set(const QString &word, Message::Tone tone, const QString &meaning);
     /// The same for what is not known, or not there and need not be.
     void setToneless(const QString &word, const QString &meaning);
+    /// Is never narrower than the \a usual words ask for in letters of any size, nor, where there
+    /// is room, than the \a rare ones: a word that is followed by another moves nothing beside it.
+    void keepRoomFor(const QStringList &usual, const QStringList &rare);
     bool hasTone() const { return m_hasTone; }
     /// Means something only where there is one.
     Message::Tone tone() const { return m_tone; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QSize withRoomFor(const QStringList &words, const QSize &least) const;
+
     Glyphs::Glyph m_glyph;
+    QStringList m_usual;
+    QStringList m_rare;
     Message::Tone m_tone = Message::Information;
     bool m_hasTone = false;
 };
@@ -69,6 +79,8 @@ public:
     /// What the check says of the program. Nothing is shown of it before the first call. A strip
     /// that is not roomy shows faults alone, in the place of the clock.
     void showCheck(Check check, int errors, int warnings);
+    /// A brief strip keeps to the check and the PLC, for as long as something else needs its room.
+    void setBrief(bool isBrief);
 
 Q_SIGNALS:
     /// The operator touched what the strip shows of the check.
@@ -89,7 +101,7 @@ private:
     void noteFailure(bool isPlcAtFault);
     void noteStop();
     void showAll();
-    void keepCheckWidth();
+    void keepRoom();
     void showCheck();
     void showPlc();
     void showStick();
@@ -101,6 +113,7 @@ private:
     const bool m_roomy;
     DeviceState m_devices;
     bool m_isKnown = false;
+    bool m_isBrief = false;
     bool m_isCheckTold = false;
     Check m_checkState = CheckUnknown;
     int m_errors = 0;

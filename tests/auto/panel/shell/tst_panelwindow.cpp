@@ -4,6 +4,7 @@
 #include "filarixtest.h"
 #include "look/glyphs.h"
 #include "look/measures.h"
+#include "look/namelabel.h"
 #include "look/panelkey.h"
 #include "look/spokennames.h"
 #include "modaldriver.h"
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void aKeyboardGoesIntoTheMenuAndBack();
     void titleCarriesTheMarkOfChanges();
     void slimPanelShowsTheWholeName();
+    void headShowsNameAndState_data();
+    void headShowsNameAndState();
     void statusIsInViewOnEveryScreen_data();
     void statusIsInViewOnEveryScreen();
     void touchShowsEverythingInFull_data();
@@ -226,16 +229,46 @@ void TestPanelWindow::slimPanelShowsTheWholeName()
     QList<FakeScreen *> screens;
     addScreens(&panel, &screens);
     panel.show();
-    QWidget *title = panel.findChild<QLabel *>("title");
-    const auto pictured = [&](const QString &name) {
+    NameLabel *title = panel.findChild<NameLabel *>("title");
+    const auto shown = [&](const QString &name) {
         screens.first()->m_title = name;
         Q_EMIT screens.first()->titleChanged();
         QCoreApplication::processEvents();
-        return TestCompat::grab(title).toImage();
+        return title->shown().join(QString());
     };
-    QVERIFY(pictured("stator-coil-of-machine-1.cnc") != pictured("stator-coil-of-machine-1.cn_"));
+    QCOMPARE(shown("stator-coil-of-machine-1.cnc"), QString("stator-coil-of-machine-1.cnc"));
     QVERIFY(title->fontMetrics().horizontalAdvance("stator-coil-of-machine-1.cnc")
             > title->width());
+    // Longer than all lines, it keeps its number and its end.
+    const QString longer = shown(QString(60, 'm') + "-4711.cnc");
+    QVERIFY2(longer.startsWith("mm") && longer.endsWith("-4711.cnc"), qPrintable(longer));
+}
+
+void TestPanelWindow::headShowsNameAndState_data()
+{
+    touchTargets_data();
+}
+
+// With the keys of the program's screen, beside which there is the least room.
+void TestPanelWindow::headShowsNameAndState()
+{
+    QFETCH(QSize, size);
+    PanelWindow panel(size);
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    panel.show();
+    NameLabel *title = panel.findChild<NameLabel *>("title");
+    FakeScreen *screen = screens.first();
+    screen->m_title = "coil-12.cnc";
+    screen->m_changed = true;
+    Q_EMIT screen->titleChanged();
+    QCoreApplication::processEvents();
+    QCOMPARE(title->shown().join(QLatin1Char(' ')), QString("coil-12.cnc (changed)"));
+    // A message leaves the name where it is.
+    Q_EMIT screen->told(QString(200, 'w'), Message::Warning);
+    QCoreApplication::processEvents();
+    const QString shown = title->shown().join(QString());
+    QVERIFY2(shown.startsWith("coil-12.cnc"), qPrintable(shown));
 }
 
 void TestPanelWindow::statusIsInViewOnEveryScreen_data()
@@ -258,7 +291,7 @@ void TestPanelWindow::statusIsInViewOnEveryScreen()
         panel.showScreen(i);
         screens.at(i)->m_title = QString(200, 'w');
         Q_EMIT screens.at(i)->titleChanged();
-        // On a small panel there is one line for the two.
+        // On a small panel it takes the place of some.
         if (size != QSize(480, 272))
             Q_EMIT screens.at(i)->told(QString(200, 'w'), Message::Information);
         QCoreApplication::processEvents();
@@ -392,11 +425,14 @@ void TestPanelWindow::messageSurvivesAChangeOfScreens()
         panel.showScreen(i);
         QCOMPARE(panel.messageBar()->text(), QString("The PLC does not answer."));
         QVERIFY(panel.messageBar()->isVisible());
-        QVERIFY(!panel.status()->isVisible());
+        // What the PLC is stays in view meanwhile.
+        QVERIFY(panel.findChild<QLabel *>("plcState")->isVisible());
+        QVERIFY(!panel.findChild<QLabel *>("stickState")->isVisible());
     }
     Q_EMIT screens.at(3)->causeEnded("plc");
     QCOMPARE(panel.messageBar()->text(), QString());
-    QVERIFY(panel.status()->isVisible());
+    QVERIFY(panel.findChild<QLabel *>("plcState")->isVisible());
+    QVERIFY(panel.findChild<QLabel *>("stickState")->isVisible());
 }
 
 void TestPanelWindow::messageGoesWithItsCause()

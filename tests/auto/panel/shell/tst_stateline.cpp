@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aTouchIsTold();
     void aLongTextHasASecondLine();
     void aLowPanelHasOneLineOnly();
+    void ofALongTextTheHeadIsShown();
 };
 
 static QColor colourOf(const StateLine &line)
@@ -106,6 +107,31 @@ void TestStateLine::aLowPanelHasOneLineOnly()
     const int one = line.height();
     line.show(QString("a long text ").repeated(5), Message::Warning);
     QCOMPARE(line.height(), one);
+}
+
+void TestStateLine::ofALongTextTheHeadIsShown()
+{
+    const SurfaceLoan low(272);
+    QWidget screen;
+    StateLine line(&screen);
+    const QLabel *label = line.findChild<QLabel *>("stateLine");
+    line.resize(300, 26);
+    screen.show();
+    const QString text = "620 lines, 501 shown: comments and empty lines are left out";
+    line.show(text, Message::Warning);
+    QCOMPARE(label->text(), QString("620 lines, 501 shown"));
+    QCOMPARE(line.text(), text);
+    line.show(QString::fromUtf8("620\u884c\uff1a") + QString(60, 'x'), Message::Warning);
+    QCOMPARE(label->text(), QString::fromUtf8("620\u884c"));
+    // A short one is whole.
+    line.show("Errors: 5", Message::Alarm);
+    QCOMPARE(label->text(), QString("Errors: 5"));
+    // Without a colon there is no head.
+    line.show(QString("a long text ").repeated(9), Message::Warning);
+    QCOMPARE(label->text(), line.text());
+    line.show(text, Message::Warning);
+    line.resize(900, 26);
+    QCOMPARE(label->text(), text);
 }
 
 FILARIX_TEST_MAIN(TestStateLine)
