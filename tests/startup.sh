@@ -4,14 +4,16 @@
 #
 # tests/startup.sh [RUNS]
 #
-# How long an operator waits: from "./run" to a panel that answers a touch, when nothing has to be
-# built. Prints the times of RUNS starts (5) in ms and fails if the quickest took more than 3 s: a
+# How long an operator waits. First from the start of the program to its first frame, with the tabs and
+# the screen: 400 ms at the most. Then from "./run" to a panel that answers a touch, when nothing has to be
+# built: 3 s at the most. Prints the times of RUNS starts (5) of each in ms and judges the quickest: a
 # machine that does something else meanwhile makes single starts slower, never all of them quicker.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
 runs=${1:-5}
 budget=3000
+frame_budget=400
 cmake/ensure-packages.sh xvfb xdotool openbox x11-utils
 
 scratch=$(mktemp -d)
@@ -52,6 +54,29 @@ pids+=($!)
 
 # Builds what is missing, and leaves everything warm.
 ./run --help >/dev/null
+[ -f build/dev/build.ninja ] || cmake --preset dev >/dev/null
+cmake --build --preset dev --target filarix_firstframe >/dev/null
+watcher=$PWD/build/dev/tests/end2end/libfilarix_firstframe.so
+
+best=
+for ((i = 1; i <= runs; ++i)); do
+    mkdir -p "$scratch/home"
+    began=$(milliseconds)
+    HOME=$scratch/home FILARIX_FIRST_FRAME=$scratch/frame LD_PRELOAD=$watcher \
+        build/release/panel/filarix-panel --size 800x480 >"$scratch/panel.log" 2>&1 &
+    panel=$!
+    until_ms 60000 test -s "$scratch/frame" || { cat "$scratch/panel.log" >&2; exit 1; }
+    read -r painted worked <"$scratch/frame" || true
+    took=$((painted - began))
+    echo "program $i: first frame after $took ms, $worked ms of them on a processor"
+    [ -n "$best" ] && [ "$best" -le "$took" ] || best=$took
+    kill "$panel"
+    wait "$panel" || true
+    panel=
+    rm -rf "${scratch:?}/home" "$scratch/frame"
+done
+echo "quickest: $best ms, allowed: $frame_budget ms"
+[ "$best" -le "$frame_budget" ]
 
 best=
 for ((i = 1; i <= runs; ++i)); do
