@@ -57,6 +57,7 @@ const int tidyMs = 60 * 1000;
 const int flushMs = 1000;
 const int startPatienceMs = 300;
 const int fontPixels = 15;
+const int readingPatienceMs = 2000;
 // Long enough to be read, and nobody has to answer it.
 const int occupiedMs = 6 * 1000;
 
@@ -294,6 +295,7 @@ void PanelProgram::connectScreens()
     });
     m_window->status()->follow(m_programs->transfer());
     connectPreview();
+    connectReading();
     connectReview();
 }
 
@@ -327,6 +329,23 @@ void PanelProgram::connectPreview()
     };
     connect(editor, &QPlainTextEdit::cursorPositionChanged, m_previewScreen, follow);
     follow();
+}
+
+// Each change begins a reading, so a bar that came at once would come and go with the keys.
+void PanelProgram::connectReading()
+{
+    CoilPreview *const preview = m_preview.get();
+    connect(preview, &CoilPreview::progressed, this, [this, preview](int percent) {
+        if (preview->readingFor() < readingPatienceMs)
+            return;
+        m_window->works()->report(
+            preview, QString(),
+            tr("%1 is read and checked: %2 %").arg(m_programs->title()).arg(percent), percent,
+            [preview] { preview->stop(); });
+    });
+    const auto end = [this, preview] { m_window->works()->end(preview, QString()); };
+    connect(preview, &CoilPreview::settled, this, end);
+    connect(preview, &CoilPreview::halted, this, end);
 }
 
 void PanelProgram::connectStartUp()

@@ -104,6 +104,7 @@ private:
     void connectWindow();
     void connectScreens();
     void connectPreview();
+    void connectReading();
     void connectReview();
     void connectStartUp();
     void watchDevices();

@@ -94,6 +94,7 @@ CoilPreview::CoilPreview(QTextDocument *document, QObject *parent)
         return m_growth;
     });
     connect(&m_review, &WindingReview::reviewed, this, &CoilPreview::end);
+    connect(&m_review, &WindingReview::stopped, this, &CoilPreview::halted);
     connect(&m_review, &WindingReview::progressed, this, [this](int percent) {
         m_percent = percent;
         Q_EMIT progressed(percent);
@@ -152,9 +153,21 @@ void CoilPreview::setViewed(QObject *viewer, bool isViewed)
 void CoilPreview::noteChange()
 {
     m_isStale = true;
+    m_isStopped = false;
     m_review.stop();
     m_grow.stop();
     m_pause.start();
+}
+
+void CoilPreview::stop()
+{
+    if (!isReading())
+        return;
+    m_isStale = true;
+    m_isStopped = true;
+    m_grow.stop();
+    m_review.stop();
+    Q_EMIT changed();
 }
 
 void CoilPreview::begin()
@@ -162,7 +175,9 @@ void CoilPreview::begin()
     if (!m_hasProfile || !m_isStale || m_viewers.isEmpty())
         return;
     m_isStale = false;
+    m_isStopped = false;
     m_percent = 0;
+    m_readFor.start();
     m_review.start(m_document);
     m_grow.start(growMs);
     Q_EMIT changed();

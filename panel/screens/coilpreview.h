@@ -62,6 +62,12 @@ public:
     /// Whether the program is being read, and the model grows.
     bool isReading() const { return m_review.isRunning(); }
     int percent() const { return m_percent; }
+    /// Milliseconds since the reading began.
+    qint64 readingFor() const { return m_readFor.elapsed(); }
+    /// Ends the reading. The next change, or a view that comes up, begins another one.
+    void stop();
+    /// Whether the operator has ended the last reading.
+    bool isStopped() const { return m_isStopped; }
     /// Whether the model is that of the document as it is.
     bool isCurrent() const;
     /// Lines with something that neither the reader nor the machine knows, and the first of them.
@@ -81,6 +87,8 @@ Q_SIGNALS:
     void progressed(int percent);
     /// A reading ended: model() is the whole coil.
     void settled();
+    /// A reading was stopped, by a change of the program or by stop().
+    void halted();
     void told(const QString &text, Message::Tone tone, const QString &cause);
 
 private:
@@ -109,11 +117,13 @@ private:
     QSet<QObject *> m_viewers;
     QTimer m_pause;
     QTimer m_grow;
+    QElapsedTimer m_readFor;
     Unknown m_unknown;
     int m_percent = 0;
     int m_readRevision = -1;
     bool m_hasProfile = false;
     bool m_isStale = true;
+    bool m_isStopped = false;
 };
 
 #endif // COILPREVIEW_H

@@ -90,7 +90,7 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     , m_list(new ProgramList(m_folder))
     , m_name(new QLabel)
     , m_facts(new PickerFacts(ProgramDirectory::path(), MachineProfile::forSamples(), false, this))
-    , m_picture(new ProgramPicture)
+    , m_picture(new ProgramPicture(this))
     , m_stateArea(new TapArea)
     , m_state(new ElidedLabel)
     , m_openKey(addKey(keyIcon(Glyphs::Program), [] { return tr("Open"); }))

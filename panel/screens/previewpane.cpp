@@ -267,8 +267,12 @@ void PreviewPane::showState()
 
 void PreviewPane::showProgress()
 {
-    m_view->setNotice(m_preview->isReading() ? tr("Read: %1 %").arg(m_preview->percent())
-                                             : QString());
+    if (m_preview->isReading())
+        m_view->setNotice(tr("Read: %1 %").arg(m_preview->percent()));
+    else if (m_preview->isStopped())
+        m_view->setNotice(tr("Stopped at %1 %").arg(m_preview->percent()));
+    else
+        m_view->setNotice(QString());
 }
 
 void PreviewPane::showMessage()
@@ -282,7 +286,9 @@ QString PreviewPane::message() const
 {
     switch (m_preview->state()) {
     case CoilPreview::NotRead:
-        return tr("Reading the program ...");
+        return m_preview->isStopped()
+                   ? tr("The reading was stopped. The next change begins it anew.")
+                   : tr("Reading the program ...");
     case CoilPreview::Empty:
         return tr("There is no program yet. Open or write one, and its coil is shown here.");
     case CoilPreview::WindsNothing:

@@ -56,7 +56,10 @@ QString ProgramReview::summary() const
     case Off:
         return tr("No check: the machine's profile has a fault.");
     case Waiting:
-        return tr("The program is being checked.");
+        return m_preview->isStopped()
+                   ? tr("The check was stopped. The next change, or the screen Preview, begins it "
+                        "anew.")
+                   : tr("The program is being checked.");
     case Checked:
         break;
     }

@@ -21,6 +21,7 @@
 #include "screens/downloadquestion.h"
 #include "screens/findingsbar.h"
 #include "screens/findingsdialog.h"
+#include "screens/loadprogress.h"
 #include "screens/machinedata.h"
 #include "screens/programreview.h"
 #include "screens/walkkeys.h"
@@ -54,6 +55,8 @@ const int closingTickMs = 50;
 const char libraryUnnamed[] = "Untitled";
 // The window keeps what its bars need.
 const int besideWidth = 440;
+// A name of work.
+const QLatin1String loadWork("load");
 
 QSet<QToolButton *> buttonsWithoutParent()
 {
@@ -94,6 +97,7 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
                                      m_questioner.data(), this))
     , m_guard(new ProgramGuard(m_window, ProgramDirectory::path(), m_questioner.data(), this))
     , m_lineEntry(new LineEntry(m_window, this))
+    , m_load(new LoadProgress(m_editor->document(), this))
     , m_walk(new ProgramWalk(m_window))
     , m_walkKeys(new WalkKeys(m_walk))
     , m_findGuide(new FindDialogGuide(m_editor))
@@ -113,6 +117,7 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
     // The line is marked already, in the colour of before.
     QMetaObject::invokeMethod(m_editor, "highlightCurrentLine");
     makeWalk();
+    connectLoad();
     // The strips hold what they hold: dragged shut they would be lost to a thumb.
     m_window->setChildrenCollapsible(false);
     const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
@@ -168,6 +173,14 @@ void ProgramScreen::makeWalk()
         m_walkKeys->putBeside(m_window);
     connect(m_findGuide, &FindDialogGuide::told, this, &ProgramScreen::told);
     connect(m_findGuide, &FindDialogGuide::causeEnded, this, &ProgramScreen::causeEnded);
+}
+
+void ProgramScreen::connectLoad()
+{
+    connect(m_load, &LoadProgress::worked, this, [this](int percent) {
+        Q_EMIT worked(tr("The program is loaded: %1 %").arg(percent), percent, loadWork);
+    });
+    connect(m_load, &LoadProgress::ended, this, [this] { Q_EMIT workEnded(loadWork); });
 }
 
 void ProgramScreen::setHistory(ProgramHistory *history)
@@ -410,8 +423,10 @@ void ProgramScreen::retranslate()
     FindDialogFitter::retranslate();
 }
 
-void ProgramScreen::stopWork(const QString &)
+void ProgramScreen::stopWork(const QString &work)
 {
+    if (work == loadWork)
+        return m_load->stop();
     m_download->stop();
 }
 

@@ -14,6 +14,7 @@ class CheckedDownload;
 class FindDialogGuide;
 class FindingsBar;
 class LineEntry;
+class LoadProgress;
 class MachineData;
 class PlcTransfer;
 class ProgramGuard;
@@ -95,6 +96,7 @@ private:
     void insertTaughtPoint();
     void find();
     void makeWalk();
+    void connectLoad();
     void nameUnnamed();
     void showState();
     void showCheck();
@@ -111,6 +113,7 @@ private:
     CheckedDownload *m_download;
     ProgramGuard *m_guard;
     LineEntry *m_lineEntry;
+    LoadProgress *m_load;
     ProgramWalk *m_walk;
     WalkKeys *m_walkKeys;
     FindDialogGuide *m_findGuide;

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void aLongProgramGrowsBesideTheScreen();
     void anEditWhileItIsReadBeginsAnew();
     void itMayGoWhileItReads();
+    void readingIsStoppedUntilTheNextChange();
+    void viewThatComesUpBeginsAStoppedReadingAnew();
 };
 
 namespace {
@@ -332,6 +334,47 @@ void TestCoilPreview::itMayGoWhileItReads()
     desk.look(longProgram(scaled(200000, 5000)));
     QTRY_VERIFY(desk.preview.isReading());
     // The desk goes with its document.
+}
+
+void TestCoilPreview::readingIsStoppedUntilTheNextChange()
+{
+    Desk desk;
+    // Nothing is read yet.
+    desk.preview.stop();
+    QVERIFY(!desk.preview.isStopped());
+    QSignalSpy settled(&desk.preview, SIGNAL(settled()));
+    QSignalSpy halted(&desk.preview, SIGNAL(halted()));
+    const QMetaObject::Connection stopping =
+        connect(&desk.preview, &CoilPreview::progressed, &desk.preview, &CoilPreview::stop);
+    desk.look(longProgram(scaled(40000, 4000)));
+    QTRY_COMPARE(halted.size(), 1);
+    disconnect(stopping);
+    QVERIFY(desk.preview.isStopped());
+    QVERIFY(!desk.preview.isReading());
+    QVERIFY(!desk.preview.isCurrent());
+    QCOMPARE(settled.size(), 0);
+    setText(desk.document, longProgram(10));
+    QVERIFY(!desk.preview.isStopped());
+    QTRY_COMPARE(settled.size(), 1);
+    QVERIFY(desk.preview.isCurrent());
+}
+
+void TestCoilPreview::viewThatComesUpBeginsAStoppedReadingAnew()
+{
+    Desk desk;
+    QSignalSpy settled(&desk.preview, SIGNAL(settled()));
+    QSignalSpy halted(&desk.preview, SIGNAL(halted()));
+    const QMetaObject::Connection stopping =
+        connect(&desk.preview, &CoilPreview::progressed, &desk.preview, &CoilPreview::stop);
+    desk.look(longProgram(scaled(40000, 4000)));
+    QTRY_COMPARE(halted.size(), 1);
+    disconnect(stopping);
+    QObject view;
+    desk.preview.setViewed(&view, true);
+    QVERIFY(!desk.preview.isStopped());
+    QTRY_COMPARE(settled.size(), 1);
+    QVERIFY(desk.preview.isCurrent());
+    desk.preview.setViewed(&view, false);
 }
 
 FILARIX_TEST_MAIN(TestCoilPreview)
