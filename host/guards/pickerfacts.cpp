@@ -194,7 +194,8 @@ QStringList PickerFacts::factsOf(const ProgramSummary &summary, bool isDone) con
         lines.append(tr("%1 turns, %2 m of wire")
                          .arg(CoilFigures::number(summary.turns(), 1),
                               CoilFigures::number(summary.wireLength(), 1)));
-    if (summary.seconds() > 0)
+    // The pickers show all of the others, and have no room for one more.
+    if (summary.seconds() > 0 && m_room != AllOfThem)
         lines.append(tr("Runs for %1").arg(CoilFigures::timeText(summary.seconds())));
     lines.append(tr("%1 KB").arg((summary.size() + bytesPerKilobyte - 1) / bytesPerKilobyte));
     lines.append(summary.written().toLocalTime().toString(QLatin1String("yyyy-MM-dd HH:mm")));

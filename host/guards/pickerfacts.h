@@ -45,8 +45,8 @@ public:
     void setFolder(const QString &folder) { m_folder = folder; }
     /// By whose rules the turns of the next program are counted.
     void setProfile(const MachineProfile &profile) { m_profile = profile; }
-    /// Whether all facts are shown, or in so many lines as many as there is room for. Those that
-    /// matter come first. All at first.
+    /// Whether all facts are shown, or as many as there is room for, and then the time that the
+    /// program runs, too. Those that matter come first. All at first.
     void setRoom(Room room);
     /// Ends the reading, and says so.
     void stop();

@@ -150,10 +150,14 @@ move_files() {
     touch_text Pull
     expect_text "The stick is out."
     nothing_called "bringing back"
-    touch_text test-coil.cnc
-    touch_text Open
-    expect_text Find
-    expect_text test-coil.cnc
+    for program in test-coil.cnc rotor.cnc; do
+        touch_text Files
+        expect_text Browse
+        touch_text "$program"
+        touch_text Open
+        expect_text Find
+        expect_text "$program"
+    done
     nothing_called "opening from the list"
 }
 

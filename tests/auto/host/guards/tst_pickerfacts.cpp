@@ -148,6 +148,12 @@ void TestPickerFacts::coilOfAWindingProgram()
     writeFile(programDir() + "/winds.cnc", SomeCoil::program(2, 10));
     m_facts->setProfile(MachineProfile::forSamples());
     m_facts->tell("winds.cnc");
+    QTRY_VERIFY(m_facts->text().contains("20 turns"));
+    // In a picker there is no room for it.
+    QVERIFY(!m_facts->text().contains("Runs for"));
+    m_facts->setRoom(PickerFacts::AsManyAsFit);
+    m_facts->resize(400, 300);
+    m_facts->tell("winds.cnc");
     QTRY_VERIFY(m_facts->isSettled());
     QVERIFY(m_facts->summary());
     QCOMPARE(m_facts->summary()->model().layers().size(), 2);

@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTextDocument>
+#include <QTimer>
 #include <QToolButton>
 #include <QWindow>
 
@@ -67,6 +68,9 @@ private Q_SLOTS:
     void keypadIsToldTheWordsInForce();
     void cancelledInsertionLeavesNoLine();
     void pickerIsDressedAndTheNameOutlivesThePanel();
+    void programIsOpenedByItsPath();
+    void unsavedWorkIsAskedAboutBeforeAProgramIsOpened();
+    void loadOfALongProgramIsShownAndStopped();
 
 private:
     QToolButton *button(const QString &text) const;
@@ -668,6 +672,64 @@ void TestProgramScreen::pickerIsDressedAndTheNameOutlivesThePanel()
     RecentPrograms recent(home() + "/hmi/recent.ini");
     QVERIFY(recent.settle(patience(5000)));
     QCOMPARE(recent.names().first(), QString("coil.cnc"));
+}
+
+void TestProgramScreen::programIsOpenedByItsPath()
+{
+    writeFile(programDir() + "/coil.cnc", "G01 X1\n");
+    m_screen->open(programDir() + "/coil.cnc");
+    QCOMPARE(m_screen->programWindow()->getCurrentFile(), programDir() + "/coil.cnc");
+    QCOMPARE(m_screen->title(), QString("coil.cnc"));
+    QVERIFY(!m_screen->hasChanges());
+    // What is not there leaves the program as it is.
+    m_screen->open(home() + "/elsewhere.cnc");
+    QCOMPARE(m_screen->programWindow()->getCurrentFile(), programDir() + "/coil.cnc");
+}
+
+void TestProgramScreen::unsavedWorkIsAskedAboutBeforeAProgramIsOpened()
+{
+    writeFile(programDir() + "/coil.cnc", "G01 X1\n");
+    m_screen->editor()->insertPlainText("G01 X9\n");
+    {
+        ModalDriver driver;
+        driver.press(QMessageBox::Cancel);
+        m_screen->open(programDir() + "/coil.cnc");
+        QVERIFY2(driver.finished(), driver.report());
+    }
+    QCOMPARE(m_screen->programWindow()->getCurrentFile(), QString());
+    QVERIFY(m_screen->editor()->toPlainText().contains("X9"));
+    // The picker that is answered unseen behind the question is left alone.
+    int asked = 0;
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, [&asked] {
+        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        ++asked;
+        box->button(QMessageBox::Discard)->click();
+    });
+    look.start(10);
+    m_screen->open(programDir() + "/coil.cnc");
+    look.stop();
+    QCOMPARE(asked, 1);
+    QCOMPARE(m_screen->programWindow()->getCurrentFile(), programDir() + "/coil.cnc");
+}
+
+void TestProgramScreen::loadOfALongProgramIsShownAndStopped()
+{
+    const int lines = 30000;
+    writeFile(programDir() + "/long.cnc", QByteArray("G01 X1 Y2 Z3\n").repeated(lines));
+    QSignalSpy ended(m_screen, SIGNAL(workEnded(QString)));
+    // At its first piece, whether the load takes long here or not.
+    const QMetaObject::Connection stopping =
+        connect(m_screen->editor()->document(), &QTextDocument::contentsChanged, m_screen,
+                [this] { m_screen->stopWork("load"); });
+    m_screen->open(programDir() + "/long.cnc");
+    disconnect(stopping);
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(ended.first().at(0).toString(), QString("load"));
+    QVERIFY(m_screen->editor()->blockCount() < lines);
+    QTRY_COMPARE(m_screen->guard()->state().kind, ProgramState::Incomplete);
 }
 
 FILARIX_TEST_MAIN(TestProgramScreen)
