@@ -4,12 +4,16 @@
 #include "guards/finddialogfitter.h"
 
 #include "base/hostcompat.h"
+#include "filarixpanel.h"
 #include "wgcodeediter.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBoxLayout>
 #include <QEvent>
+#include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStringList>
 #include <QWidget>
 
@@ -20,6 +24,17 @@ const char dialogClass[] = "WFindDialog";
 const char title[] = "Find";
 const char *const labels[] = {"Find &what:", "Replace &what:"};
 const char *const buttons[] = {"Match &case", "Search &backward", "&Find", "&Replace", "Close"};
+
+/// A screen of less width leaves the library's two columns no room for what is looked for.
+const int columnsFrom = 600;
+const int margin = 6;
+const char formProperty[] = "filarixFindForm";
+
+enum Form {
+    Columns, ///< The library's own: labels, fields and boxes beside the keys.
+    Rows,    ///< Each field beside its key, and the boxes in one row.
+    Stacked  ///< The same with the labels above the fields.
+};
 
 QWidgetList dialogs()
 {
@@ -43,6 +58,68 @@ void setTexts(const QWidget *dialog, const char *const (&sources)[count])
     const QList<Widget *> widgets = dialog->findChildren<Widget *>();
     for (int i = 0; i < qMin(count, widgets.size()); ++i)
         widgets.at(i)->setText(translated(sources[i]));
+}
+
+Form formFor(int width)
+{
+    if (width >= columnsFrom)
+        return Columns;
+    return width >= FilarixPanel::smallBelow ? Rows : Stacked;
+}
+
+void addRow(QGridLayout *grid, QLabel *label, QWidget *field, QWidget *key, Form form)
+{
+    const int row = grid->rowCount();
+    if (form == Rows) {
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row, 1);
+        grid->addWidget(key, row, 2);
+        return;
+    }
+    grid->addWidget(label, row, 0, 1, 3);
+    grid->addWidget(field, row + 1, 0, 1, 2);
+    grid->addWidget(key, row + 1, 2);
+}
+
+int widthOf(const QWidget *one, const QWidget *other, const QWidget *third)
+{
+    return one->sizeHint().width() + other->sizeHint().width() + third->sizeHint().width()
+           + 4 * margin;
+}
+
+/// The library's widgets, in the order in which it made them, in other places. Where there is room
+/// again they stay there: nobody looks for a key twice.
+void layOut(QWidget *dialog, Form form, int width)
+{
+    const QList<QLabel *> texts = dialog->findChildren<QLabel *>();
+    const QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
+    const QList<QAbstractButton *> keys = dialog->findChildren<QAbstractButton *>();
+    if (form == Columns || dialog->property(formProperty).toInt() == form || texts.size() != 2
+        || fields.size() != 2 || keys.size() != 5)
+        return;
+    dialog->setProperty(formProperty, int(form));
+    delete dialog->layout();
+    QGridLayout *grid = new QGridLayout(dialog);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setSpacing(margin);
+    grid->setColumnStretch(1, 1);
+    addRow(grid, texts.at(0), fields.at(0), keys.at(2), form);
+    addRow(grid, texts.at(1), fields.at(1), keys.at(3), form);
+    // The boxes stand one below the other where their words are long.
+    const bool isRow = widthOf(keys.at(0), keys.at(1), keys.at(4)) <= width;
+    QHBoxLayout *last = new QHBoxLayout;
+    last->setSpacing(margin);
+    QBoxLayout *boxes = new QBoxLayout(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    boxes->setSpacing(margin);
+    boxes->addWidget(keys.at(0));
+    boxes->addWidget(keys.at(1));
+    last->addLayout(boxes);
+    last->addStretch(1);
+    last->addWidget(keys.at(4), 0, Qt::AlignBottom);
+    grid->addLayout(last, grid->rowCount(), 0, 1, 3);
+    dialog->setMinimumHeight(0);
+    dialog->setMaximumHeight(QWIDGETSIZE_MAX);
+    dialog->setFixedHeight(grid->sizeHint().height());
 }
 
 /// Binds each dialog that is shown while it lives. The native window is there by then, and the
@@ -116,6 +193,8 @@ void FindDialogFitter::retranslate()
 {
     Q_FOREACH (QWidget *dialog, dialogs()) {
         dialog->setWindowTitle(translated(title));
+        // Longer words may want other places.
+        dialog->setProperty(formProperty, int(Columns));
         setTexts<QLabel>(dialog, labels);
         setTexts<QAbstractButton>(dialog, buttons);
         dialog->adjustSize();
@@ -139,7 +218,11 @@ void FindDialogFitter::place(const QWidget *host)
             continue;
         HostCompat::keepBefore(dialog, host->window());
         TopKeeper::keep(dialog, host->window());
-        if (2 * dialog->width() > area.width())
+        const Form form = formFor(area.width());
+        layOut(dialog, form, area.width());
+        if (form != Columns)
+            dialog->resize(area.width(), dialog->height());
+        else if (2 * dialog->width() > area.width())
             dialog->resize(dialog->minimumSizeHint().width(), dialog->height());
         dialog->move(corner(dialog, area, true, true));
         dialog->raise();

@@ -21,13 +21,14 @@ class FILARIX_HOST_EXPORT FindDialogFitter
 public:
     /// Gives the dialogs their texts in the language that is installed now.
     static void retranslate();
-    /// Shows the dialog of \a editor as findAndReplace() does, and places it. It belongs to the
-    /// window of \a host before it is shown, for a window manager asks no later; so the window
-    /// never covers it, nor when the window is touched.
+    /// Shows the dialog of \a editor as findAndReplace() does, and places it. The dialog belongs to
+    /// the window of \a host before it is shown: a window manager asks no later. So the window
+    /// never covers the dialog, nor when the window is touched.
     static void show(WGCodeEditer *editor, const QWidget *host);
     /// Puts the visible dialogs before the window of \a host, into its lower right corner: the
-    /// starts of the lines stay in view. Where a dialog would take more than half of the width, it
-    /// is as narrow as it can be.
+    /// starts of the lines stay in view. A dialog that would take more than half of the width is as
+    /// narrow as it can be. A host of less than 600 pixels gives a dialog its whole width: the
+    /// fields stand in rows of their own there, and the dialog is lower.
     static void place(const QWidget *host);
     /// Moves the visible dialogs off \a spot, to another side of \a area. A dialog that covers
     /// \a spot on each side stays. Both in global coordinates.

@@ -8,6 +8,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
 #include <QVBoxLayout>
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QWindow>
@@ -23,7 +25,9 @@ private Q_SLOTS:
     void dialogStandsInTheCornerOfItsHost();
     void dialogBelongsToItsHostBeforeItIsShown();
     void dialogComesUpWithItsHost();
-    void dialogIsNarrowWhereThereIsLittleRoom();
+    void dialogIsNarrowWhereItWouldTakeHalf();
+    void fieldsHaveRoomOnASmallHost_data();
+    void fieldsHaveRoomOnASmallHost();
     void hiddenDialogStaysWhereItIs();
     void dialogStepsAside_data();
     void dialogStepsAside();
@@ -177,22 +181,60 @@ void TestFindDialogFitter::dialogComesUpWithItsHost()
     QCOMPARE(raises.count, 1);
 }
 
-void TestFindDialogFitter::dialogIsNarrowWhereThereIsLittleRoom()
+void TestFindDialogFitter::dialogIsNarrowWhereItWouldTakeHalf()
 {
     QWidget host;
-    host.setGeometry(0, 0, 400, 250);
+    host.setGeometry(0, 0, 610, 250);
     WGCodeEditer editor(nullptr);
-    FindDialogFitter::show(&editor, &host);
-    const int narrow = dialog()->width();
-    QCOMPARE(narrow, dialog()->minimumSizeHint().width());
+    editor.findAndReplace();
+    dialog()->resize(400, dialog()->height());
+    FindDialogFitter::place(&host);
+    QCOMPARE(dialog()->width(), dialog()->minimumSizeHint().width());
     dialog()->hide();
-    host.resize(1000, 250);
-    dialog()->adjustSize();
-    const int usual = dialog()->width();
-    FindDialogFitter::show(&editor, &host);
-    QCOMPARE(dialog()->width(), usual);
-    QVERIFY(usual > narrow);
-    dialog()->hide();
+}
+
+void TestFindDialogFitter::fieldsHaveRoomOnASmallHost_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("leastField");
+    QTest::newRow("lying") << QSize(480, 272) << 200;
+    // The letters here are larger than a panel's.
+    QTest::newRow("upright") << QSize(290, 480) << 140;
+}
+
+// At 72 and 50 pixels nobody saw what was looked for.
+void TestFindDialogFitter::fieldsHaveRoomOnASmallHost()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, leastField);
+    QWidget host;
+    host.setGeometry(QRect(QPoint(), size));
+    WGCodeEditer editor(nullptr);
+    // The second time nothing moves.
+    QRect before;
+    for (int i = 0; i < 2; ++i) {
+        FindDialogFitter::show(&editor, &host);
+        QCoreApplication::processEvents();
+        QCOMPARE(dialog()->width(), size.width());
+        QVERIFY2(2 * dialog()->height() <= qMax(size.width(), size.height()),
+                 qPrintable(QString::number(dialog()->height())));
+        QCOMPARE(dialog()->findChildren<QLineEdit *>().size(), 2);
+        Q_FOREACH (const QLineEdit *field, dialog()->findChildren<QLineEdit *>())
+            QVERIFY2(field->width() >= leastField, qPrintable(QString::number(field->width())));
+        Q_FOREACH (const QWidget *part, dialog()->findChildren<QWidget *>())
+            QVERIFY(part->parentWidget()->rect().contains(part->geometry()));
+        if (i > 0)
+            QCOMPARE(dialog()->findChild<QLineEdit *>()->geometry(), before);
+        before = dialog()->findChild<QLineEdit *>()->geometry();
+        dialog()->hide();
+    }
+    // The library's keys do what they did.
+    qRegisterMetaType<Qt::CaseSensitivity>("Qt::CaseSensitivity");
+    QSignalSpy found(dialog(), SIGNAL(findNext(QString, Qt::CaseSensitivity)));
+    editor.setPlainText("G00\nG01");
+    dialog()->findChild<QLineEdit *>()->setText("G01");
+    dialog()->findChildren<QAbstractButton *>().at(2)->click();
+    QCOMPARE(found.size(), 1);
 }
 
 void TestFindDialogFitter::dialogStepsAside_data()
