@@ -18,9 +18,14 @@ const qreal mmPerInch = 25.4;
 const int keysOnASide = 5;
 // 9 mm at 133 dpi.
 const int gloveSide = 48;
+// Whatever the screen tells of itself, something has to stand beside it.
+const int stopsOnASide = 3;
+// A surface of no more height has no room for a key of 15 mm.
+const int lowSurface = 300;
 
 qreal currentDotsPerInch = Measures::usualDotsPerInch;
 int shorterSide = QWIDGETSIZE_MAX;
+bool isLow = false;
 int currentTextSize = 100;
 
 int withRoom(qreal millimetres)
@@ -48,6 +53,7 @@ qreal Measures::dotsPerInchOf(const QSize &pixels, const QSizeF &millimetres)
 void Measures::use(qreal dotsPerInch, const QSize &surface)
 {
     currentDotsPerInch = isSensible(dotsPerInch) ? dotsPerInch : usualDotsPerInch;
+    isLow = surface.isValid() && surface.height() <= lowSurface;
     shorterSide = surface.isValid() ? qMin(surface.width(), surface.height()) : QWIDGETSIZE_MAX;
     // Where nobody says how fine the screen is, the keypads take it for that of most panels.
     const bool isTold = isSensible(dotsPerInch) && dotsPerInch != usualDotsPerInch;
@@ -74,9 +80,10 @@ int Measures::glove()
     return qMax(gloveSide, touch());
 }
 
-int Measures::stop()
+QSize Measures::stop()
 {
-    return withRoom(stopMm);
+    const int side = qMax(Look::smallestTouch, qMin(pixels(stopMm), shorterSide / stopsOnASide));
+    return QSize(side, isLow ? withRoom(stopMm) : side);
 }
 
 QList<int> Measures::textSizes()

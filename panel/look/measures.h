@@ -44,8 +44,8 @@ int touch();
 /// The same of what is touched in gloves all day, rows and keys of lists among it: 48 pixels at the
 /// least, which are 9 mm on the usual panel.
 int glove();
-/// The side of the key that stops what runs: `stopMm`, as far as there is room.
-int stop();
+/// The key that stops what runs: `stopMm` wide, and as high where the surface is not low.
+QSize stop();
 
 /// In percent of the usual size, the usual one first.
 QList<int> textSizes();

@@ -6,6 +6,7 @@
 #include "display/surfaceloan.h"
 #include "filarixpanel.h"
 #include "filedialog.h"
+#include "look/measures.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -18,7 +19,7 @@ namespace {
 // Of a surface's height, as the browser divides it.
 const int linesInHeight = 24;
 const int linePixels = 48;
-// Higher ones leave a small panel no room for files.
+// Higher ones leave a small panel no room for files, and are there only where 9 mm take them.
 const int smallLinePixels = 34;
 // Beside the text of a button.
 const int buttonMargin = 6;
@@ -26,7 +27,8 @@ const int buttonMargin = 6;
 int lineHeight()
 {
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
-    return panel.height() < FilarixPanel::smallBelow ? smallLinePixels : linePixels;
+    const int least = panel.height() < FilarixPanel::smallBelow ? smallLinePixels : linePixels;
+    return qMax(least, Measures::pixels(Measures::touchMm));
 }
 
 } // namespace
@@ -48,7 +50,8 @@ QString PathPicker::pick(const QString &title, const QString &folder)
     const QList<QPushButton *> buttons = dialog->findChildren<QPushButton *>();
     for (QPushButton *button : buttons) {
         const int text = button->fontMetrics().horizontalAdvance(button->text());
-        button->setFixedWidth(qMax(button->maximumWidth(), text + 2 * buttonMargin));
+        button->setFixedWidth(
+            qMax(qMax(button->maximumWidth(), lineHeight()), text + 2 * buttonMargin));
     }
     return dialog->exec() == QDialog::Accepted ? FileDialog::m_returnStr : QString();
 }

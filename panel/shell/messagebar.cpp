@@ -86,7 +86,7 @@ void MessageBar::layOut()
     QSizePolicy policy = m_key->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_key->setSizePolicy(policy);
-    m_key->setLeastWidth(Measures::stop());
+    m_key->setLeastWidth(Measures::stop().width());
     placeKey();
 }
 
@@ -94,9 +94,9 @@ void MessageBar::layOut()
 void MessageBar::placeKey()
 {
     if (m_form == Line)
-        return m_key->setLeastWidth(m_isWorking ? Measures::stop() : 0);
+        return m_key->setLeastWidth(m_isWorking ? Measures::stop().width() : 0);
     const int lines = rowLines * m_label->fontMetrics().height();
-    setFixedHeight(qMax(m_isWorking ? Measures::stop() : Measures::touch(), lines));
+    setFixedHeight(qMax(m_isWorking ? Measures::stop().height() : Measures::touch(), lines));
     m_key->setFixedHeight(height());
 }
 

@@ -74,12 +74,13 @@ void TestMeasures::millimetresBecomePixels_data()
     QTest::addColumn<int>("dots");
     QTest::addColumn<QSize>("surface");
     QTest::addColumn<int>("touch");
-    QTest::addColumn<int>("stop");
-    QTest::newRow("a PC, where 9 mm are 34") << 96 << QSize() << 40 << 57;
-    QTest::newRow("4.3 inch, with room for 9 mm and not for 15")
-        << 130 << QSize(480, 272) << 47 << 54;
-    QTest::newRow("7 inch") << 170 << QSize(1024, 600) << 61 << 101;
-    QTest::newRow("without room") << 350 << QSize(272, 480) << 54 << 54;
+    QTest::addColumn<QSize>("stop");
+    QTest::newRow("a PC, where 9 mm are 34") << 96 << QSize() << 40 << QSize(57, 57);
+    QTest::newRow("4.3 inch, with room for 9 mm and for 15 in the width alone")
+        << 130 << QSize(480, 272) << 47 << QSize(77, 54);
+    QTest::newRow("the same upright") << 130 << QSize(272, 480) << 47 << QSize(77, 77);
+    QTest::newRow("7 inch") << 170 << QSize(1024, 600) << 61 << QSize(101, 101);
+    QTest::newRow("without room") << 350 << QSize(272, 480) << 54 << QSize(90, 90);
 }
 
 void TestMeasures::millimetresBecomePixels()

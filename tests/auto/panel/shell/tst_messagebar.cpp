@@ -74,9 +74,9 @@ void TestMessageBar::whatStopsRunningWorkHasRoom()
     bar.show();
     bar.showWork("on its way", 3);
     QCoreApplication::processEvents();
-    QCOMPARE(bar.height(), Measures::stop());
-    QCOMPARE(bar.key()->height(), Measures::stop());
-    QVERIFY(bar.key()->width() >= Measures::stop());
+    QCOMPARE(bar.height(), Measures::stop().height());
+    QCOMPARE(bar.key()->height(), Measures::stop().height());
+    QVERIFY(bar.key()->width() >= Measures::stop().width());
 
     QWidget strip;
     MessageBar *line = new MessageBar(&log, MessageBar::Line);
@@ -86,7 +86,7 @@ void TestMessageBar::whatStopsRunningWorkHasRoom()
     strip.resize(480, 44);
     strip.show();
     line->showWork("on its way", 3);
-    QTRY_VERIFY(line->key()->width() >= Measures::stop());
+    QTRY_VERIFY(line->key()->width() >= Measures::stop().width());
     line->endWork();
 }
 

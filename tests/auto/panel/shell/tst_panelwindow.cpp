@@ -382,7 +382,7 @@ void TestPanelWindow::messageCoversNothing()
         QCoreApplication::processEvents();
         // What stops running work is 15 mm high, where the panel is high enough.
         if (state == 2 && panel.messageBar()->height() >= Measures::touch())
-            content.setHeight(content.height() + Measures::touch() - Measures::stop());
+            content.setHeight(content.height() + Measures::touch() - Measures::stop().height());
         for (int i = 0; i < screens.size(); ++i) {
             panel.showScreen(i);
             QCoreApplication::processEvents();
