@@ -147,7 +147,11 @@ void ProgramWalk::askForLine()
     // Empty: each digit of the old number would have to be taken away first.
     keypad->setText(QString());
     const QPointer<ProgramWalk> self(this);
-    if (keypad->exec() != QDialog::Accepted || !self)
+    const bool isAccepted = keypad->exec() == QDialog::Accepted;
+    // The library's next field says nothing of either.
+    keypad->setDecimalPointEnabled(true);
+    keypad->setLimitToolTip(QString());
+    if (!isAccepted || !self)
         return;
     goTo(m_text.toInt());
     m_editor->setFocus(Qt::OtherFocusReason);

@@ -34,7 +34,12 @@ bool ValueKeypad::ask(const QString &value)
         return false;
     keypad->setLimitToolTip(m_rule.limits());
     keypad->setDecimalPointEnabled(m_rule.type == ValueRule::Decimal);
-    return run(keypad, value);
+    const bool isAccepted = run(keypad, value);
+    // The library's next field says nothing of either.
+    keypad->setDecimalPointEnabled(true);
+    keypad->setLimitToolTip(QString());
+    m_text = ValueRule::plain(m_text);
+    return isAccepted;
 }
 
 template<class Keypad>

@@ -161,6 +161,24 @@ bool ValueRule::readNumber(const QString &text, double *number)
     return true;
 }
 
+QString ValueRule::plain(const QString &text)
+{
+    double number = 0;
+    if (!readNumber(text, &number))
+        return text;
+    const bool isNegative = number < 0;
+    QString digits = text;
+    while (digits.startsWith(QLatin1Char('+')) || digits.startsWith(QLatin1Char('-'))
+           || (digits.size() > 1 && digits.startsWith(QLatin1Char('0'))
+               && digits.at(1) != QLatin1Char('.')))
+        digits.remove(0, 1);
+    if (digits.startsWith(QLatin1Char('.')))
+        digits.prepend(QLatin1Char('0'));
+    if (digits.endsWith(QLatin1Char('.')))
+        digits.chop(1);
+    return isNegative ? QLatin1Char('-') + digits : digits;
+}
+
 QString ValueRule::numberText(double number)
 {
     return QString::number(number, 'g', shownDigits);

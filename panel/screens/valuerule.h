@@ -53,6 +53,9 @@ public:
     /// A text that is a finite number in plain digits; false, and \a number as it was, otherwise.
     static bool readNumber(const QString &text, double *number);
     static QString numberText(double number);
+    /// A number as it is stored: "+05" is "5", "-0" is "0", ".5" is "0.5". Its decimals stay as
+    /// they were typed. What is no number stays as it is.
+    static QString plain(const QString &text);
     /// So much of \a value that it fills no message.
     static QString shortened(const QString &value);
     /// The two values of a switch.

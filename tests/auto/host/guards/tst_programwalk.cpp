@@ -137,6 +137,10 @@ void TestProgramWalk::keypadHasTheLimits()
     QVERIFY(calls.contains("NumericKeypad.setText()"));
     QVERIFY(calls.contains("NumericKeypad.setLimitToolTip(1 - 5000)"));
     QVERIFY(calls.contains("NumericKeypad.setDecimalPointEnabled(false)"));
+    // The next caller's number has its point, and no limits of ours.
+    QCOMPARE(calls.mid(calls.size() - 2), QStringList()
+                                              << "NumericKeypad.setDecimalPointEnabled(true)"
+                                              << "NumericKeypad.setLimitToolTip()");
 }
 
 void TestProgramWalk::answerBeyondTheProgramLeadsToItsEnd_data()

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void unitBehindANumberIsDropped();
     void numbersArePlainAndFinite_data();
     void numbersArePlainAndFinite();
+    void plainNumberIsWrittenInOneWay_data();
+    void plainNumberIsWrittenInOneWay();
     void validatorIsOfOneMindWithTheRule();
     void receiverIsDescribed();
     void fieldIsPreparedOnceForEachRule();
@@ -155,6 +157,25 @@ void TestValueRule::numbersArePlainAndFinite()
 }
 
 // The keypad shows OK by the validator, and the screen takes by the rule.
+void TestValueRule::plainNumberIsWrittenInOneWay_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("plain");
+    const char *const texts[][2] = {
+        {"5", "5"},       {"+5", "5"},    {"007", "7"},      {"-007", "-7"}, {"-0", "0"},
+        {"-0.0", "0.0"},  {".5", "0.5"},  {"-.5", "-0.5"},   {"5.", "5"},    {"0.50", "0.50"},
+        {"00.5", "0.5"},  {"0", "0"},     {"000", "0"},      {"+-5", "+-5"}, {"", ""},
+        {"coil", "coil"}, {"1e3", "1e3"}, {"-12.5", "-12.5"}};
+    for (const auto &text : texts)
+        QTest::newRow(text[0][0] ? text[0] : "empty") << text[0] << text[1];
+}
+
+void TestValueRule::plainNumberIsWrittenInOneWay()
+{
+    QFETCH(QString, text);
+    QTEST(ValueRule::plain(text), "plain");
+}
+
 void TestValueRule::validatorIsOfOneMindWithTheRule()
 {
     const QList<ValueRule> rules = {ValueRule::decimal(0.5, 8.5, "N"), ValueRule::decimal(-6, 2),
