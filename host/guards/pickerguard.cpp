@@ -83,7 +83,7 @@ void PickerGuard::check()
     if (wantsSuffix(name)) {
         m_bareName = name;
         m_field->setText(name + ProgramName::suffix());
-        return drop(tr("%1 is added to the name. Press OK to take it, or take it away again.")
+        return drop(tr("%1 is now at the end of the name. Press OK once more, or change the name.")
                         .arg(ProgramName::suffix()));
     }
     m_hint->hide();

@@ -414,7 +414,7 @@ void ProgramGuard::tellStored(StoreCheck::Outcome outcome)
         state.shownLines = state.fileLines = ProgramText::lines(m_check.text());
         m_stamp = m_check.stamp();
         setState(state);
-        Q_EMIT told(tr("%1 saved, %2 lines.").arg(name).arg(state.shownLines),
+        Q_EMIT told(tr("%1 saved, %2 lines.").arg(name, QString::number(state.shownLines)),
                     Message::Information);
         if (!m_check.isFaithful())
             Q_EMIT told(

@@ -162,7 +162,9 @@ bool CheckedDownload::isAgreedTo()
 
 void CheckedDownload::showSending(int percent)
 {
-    Q_EMIT worked(tr("%1 goes to the PLC: %2 %").arg(m_facts.program.name).arg(percent), percent);
+    Q_EMIT worked(
+        tr("%1 goes to the PLC: %2 %").arg(m_facts.program.name, QString::number(percent)),
+        percent);
 }
 
 void CheckedDownload::endUncopied(const QString &reason)
@@ -199,7 +201,8 @@ void CheckedDownload::endSent(ProgramSnapshot::Verdict verdict)
     const ProgramFacts &program = m_facts.program;
     switch (verdict) {
     case ProgramSnapshot::Same:
-        return end(tr("%1 is in the PLC: %2 bytes, compared.").arg(program.name).arg(program.bytes),
+        return end(tr("%1 is in the PLC: %2 bytes, compared.")
+                       .arg(program.name, QString::number(program.bytes)),
                    Message::Information);
     case ProgramSnapshot::Changed:
         return end(tr("%1 is in the PLC as shown, %2. On the panel it has changed since: download "

@@ -638,7 +638,8 @@ void ProgramHistory::loseRestore()
 
 void ProgramHistory::tellProgress(int percent)
 {
-    Q_EMIT worked(tr("%1 is brought back: %2 %").arg(m_wanted.name).arg(percent), percent);
+    Q_EMIT worked(tr("%1 is brought back: %2 %").arg(m_wanted.name, QString::number(percent)),
+                  percent);
 }
 
 void ProgramHistory::endStopped()

@@ -627,7 +627,7 @@ void MachineProfileText::failKey(const QString &key)
 
 void MachineProfileText::fail(const QString &reason)
 {
-    failWhole(tr("%1, line %2: %3").arg(m_name).arg(m_line).arg(reason));
+    failWhole(tr("%1, line %2: %3").arg(m_name, QString::number(m_line), reason));
 }
 
 void MachineProfileText::failWhole(const QString &reason)

@@ -539,13 +539,15 @@ bool TeachScreen::mayCover(const QString &path, const RowKeeper::Loaded &there) 
     const QString question =
         there.state == RowKeeper::Loaded::Read
             ? tr("%1 is there already, instructions: %2. Write over it?")
-                  .arg(nameOf(path))
-                  .arg(there.rows.size())
+                  .arg(nameOf(path), QString::number(there.rows.size()))
             : tr("%1 is there already and cannot be read. Put it aside and store?")
                   .arg(nameOf(path));
-    return QMessageBox::question(nullptr, tr("Store as"), question,
-                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-           == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, tr("Store as"), question,
+                    QMessageBox::Yes | QMessageBox::No);
+    // A name is no markup, whatever it looks like.
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void TeachScreen::storeAt(const QString &path)
