@@ -11,8 +11,8 @@
 #include <QTextBlock>
 
 //! [line after line]
-/// The keypad of \a window goes on to the next line, and shows the words that hold there, as
-/// \a profile has them. The window owns what does so.
+/// The keypad of \a window goes on to the next line. It shows the words that hold there, by
+/// \a profile. The window owns what does so.
 inline void enterLineAfterLine(WMMainWindow *window, const MachineProfile &profile)
 {
     LineEntry *entry = new LineEntry(window, window);

@@ -10,8 +10,8 @@
 
 class QWidget;
 
-/// Opens the character keypad on a touched field of the library's find dialog, and on the text to
-/// find as soon as the dialog is shown.
+/// Opens the character keypad on a touched field of the library's find dialog. As soon as the
+/// dialog is shown, it opens the keypad on the text to find.
 ///
 /// The library's other fields open a keypad by themselves. The fields of the find dialog are made
 /// for keys, and a panel may have no keys. One serves all windows of the application: a second one

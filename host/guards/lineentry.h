@@ -68,8 +68,8 @@ private:
     bool m_isOnLastLine = false;
     /// The keypad edits a line that an Ins has just added.
     bool m_isOnNewLine = false;
-    /// QTextDocument::revision() at which the cursor stood on a line that Ins had just added, and
-    /// at which it stood on the empty one that the library had left; -1 for never.
+    /// QTextDocument::revision() at which the cursor stood on a line that Ins had just added; -1
+    /// for never. The other one: on the empty line that the library had left.
     int m_newRevision = -1;
     int m_spareRevision = -1;
     int m_newLine = -1;

@@ -9,8 +9,8 @@
 
 class QWidget;
 
-/// Gives what can be touched or typed into a name and a role for whoever can't see it: a screen
-/// reader, or a switch in the place of a finger.
+/// Gives what can be touched or typed into a name and a role. Both are for whoever can't see it: a
+/// screen reader, or a switch in the place of a finger.
 ///
 /// What has a text of its own is called so. A field, a list or a table is called by the label
 /// beside it, else by its window or its screen, in the language that is shown. That goes for the

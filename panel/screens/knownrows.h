@@ -8,8 +8,8 @@
 #include <QMutex>
 #include <QStringList>
 
-/// The rows that a screen knows its file to hold. A RowKeeper with such a reader takes a file that
-/// somebody else has changed since for one that it has not read, and puts that aside.
+/// The rows that a screen knows its file to hold. With such a reader a RowKeeper puts aside what
+/// somebody else has made of the file since.
 ///
 /// May be used from two threads.
 class KnownRows
