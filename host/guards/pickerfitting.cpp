@@ -27,7 +27,7 @@ const QSize largest(800, 800);
 const int gap = 4;
 /// A table of less width shows no dates.
 const int datesFrom = 460;
-/// A dialog of less width or height shows no heads, one of less width no "Name:".
+/// A dialog of less width or height shows no heads, one of less width has the name above the keys.
 const int headsFrom = 300;
 /// Beside the table, or below it where the screen is upright.
 const int facts = 230;
@@ -39,8 +39,9 @@ const int narrowBelow = 600;
 const int factsPixels = 16;
 const int narrowFactsPixels = 14;
 
-/// Where the library puts its table.
+/// Where the library puts its table, and below it the field and the keys.
 const int tableRow = 1;
+const int keyRow = 2;
 
 bool isMove(int key)
 {
@@ -106,8 +107,6 @@ void PickerFitting::layOut()
     const int tableWidth = size.width() - (isUpright ? 0 : factsWidth + gap) - 2 * gap;
     m_rows->showDates(tableWidth >= datesFrom);
     m_table->horizontalHeader()->setVisible(qMin(size.width(), size.height()) >= headsFrom);
-    // The library's first label: the field would have no room for a name.
-    m_dialog->findChild<QLabel *>()->setVisible(size.width() >= headsFrom);
     m_table->setMinimumHeight(leastTable);
     m_strip->fit(size.width());
 
@@ -132,11 +131,30 @@ void PickerFitting::layOut()
     m_facts->setFont(font);
     m_facts->setSizePolicy(isUpright ? QSizePolicy::Ignored : QSizePolicy::Fixed,
                            isUpright ? QSizePolicy::Fixed : QSizePolicy::Ignored);
-    grid->addLayout(middle, tableRow, 0);
+    QVBoxLayout *upper = new QVBoxLayout;
+    upper->setSpacing(gap);
+    upper->addLayout(middle, 1);
+    if (size.width() < headsFrom)
+        upper->addLayout(takeNameRow(grid));
+    grid->addLayout(upper, tableRow, 0);
     // The dialog's other children were shown before.
     m_strip->show();
     m_facts->show();
     m_dialog->resize(size);
+}
+
+/// "Name:" and its field out of the row of the keys, where they would have no room.
+QLayout *PickerFitting::takeNameRow(const QGridLayout *grid) const
+{
+    QHBoxLayout *row = new QHBoxLayout;
+    row->setSpacing(gap);
+    QLayout *keys = grid->itemAtPosition(keyRow, 0)->layout();
+    QWidget *const parts[] = {m_dialog->findChild<QLabel *>(), m_field};
+    for (QWidget *part : parts) {
+        keys->removeWidget(part);
+        row->addWidget(part);
+    }
+    return row;
 }
 
 void PickerFitting::refill()

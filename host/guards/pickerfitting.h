@@ -19,6 +19,8 @@
 class PickerFacts;
 class PickerStrip;
 class QDialog;
+class QGridLayout;
+class QLayout;
 class QLineEdit;
 class QTableWidget;
 class RecentPrograms;
@@ -53,6 +55,7 @@ private Q_SLOTS:
 
 private:
     void layOut();
+    QLayout *takeNameRow(const QGridLayout *grid) const;
     void refill();
     void take(int row);
 

@@ -24,7 +24,7 @@ QString ProgramState::line() const
     case Plain:
         return QString();
     case Cleaned:
-        return tr("%1 lines in the file, %2 shown: comments and empty lines are left out")
+        return tr("%1 lines in the file, %2 shown: no comments, no empty lines")
             .arg(fileLines)
             .arg(shownLines);
     case Different:
@@ -45,9 +45,7 @@ QString ProgramState::saveQuestion() const
 {
     if (kind == Cleaned)
         return tr("%1 has %2 lines, %3 are shown. Saving takes out its comments and empty lines.")
-            .arg(name)
-            .arg(fileLines)
-            .arg(shownLines);
+            .arg(name, QString::number(fileLines), QString::number(shownLines));
     return tr("%1 is shown otherwise than the file has it. Saving replaces the file by what is "
               "shown.")
         .arg(name);

@@ -36,40 +36,61 @@ void ElidedLabel::setLines(int lines)
     update();
 }
 
+void ElidedLabel::shrinkTo(int pixels)
+{
+    m_smallestPixels = pixels;
+    update();
+}
+
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QRect area = contentsRect();
-    const QStringList lines = linesIn(area.width());
-    painter.drawText(area, int(alignment()), lines.join(QLatin1Char('\n')));
+    const QFont font = fittingFont();
+    painter.setFont(font);
+    painter.drawText(contentsRect(), int(alignment()), linesIn(font).texts.join(QLatin1Char('\n')));
 }
 
-/// The two are rounded each on its own, and lines that are kept must be filled, too.
-int ElidedLabel::lineHeight() const
+/// The largest one in which the whole text has room.
+QFont ElidedLabel::fittingFont() const
 {
-    return qMin(fontMetrics().height(), fontMetrics().lineSpacing());
+    if (m_smallestPixels <= 0 || linesIn(font()).isWhole)
+        return font();
+    QFont smaller = font();
+    for (int pixels = font().pixelSize() - 1; pixels >= m_smallestPixels; --pixels) {
+        smaller.setPixelSize(pixels);
+        // Thin letters are narrower.
+        smaller.setBold(false);
+        if (linesIn(smaller).isWhole)
+            break;
+    }
+    return smaller;
 }
 
 /// The last one holds all that is left.
-QStringList ElidedLabel::linesIn(int width) const
+ElidedLabel::Lines ElidedLabel::linesIn(const QFont &font) const
 {
+    const QFontMetrics metrics(font);
+    const QRect area = contentsRect();
+    // The two are rounded each on its own, and lines that are kept must be filled, too.
+    const int lineHeight = qMin(metrics.height(), metrics.lineSpacing());
     QString rest = text();
     rest.replace(QLatin1Char('\n'), QLatin1Char(' '));
     QStringList lines;
-    const int most = qMin(m_lines, qMax(1, contentsRect().height() / lineHeight()));
-    while (lines.size() + 1 < most && fontMetrics().horizontalAdvance(rest) > width) {
-        QTextLayout layout(rest, font());
+    const int most = qMin(m_lines, qMax(1, area.height() / lineHeight));
+    while (lines.size() + 1 < most && metrics.horizontalAdvance(rest) > area.width()) {
+        QTextLayout layout(rest, font);
         // The name of a file may be one word that is longer than a line.
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
         layout.beginLayout();
         QTextLine line = layout.createLine();
-        line.setLineWidth(width);
+        line.setLineWidth(area.width());
         layout.endLayout();
         lines.append(rest.left(line.textLength()).trimmed());
         rest = rest.mid(line.textLength());
     }
-    lines.append(fontMetrics().elidedText(rest, Qt::ElideRight, width));
-    return lines;
+    const bool isWhole = metrics.horizontalAdvance(rest) <= area.width();
+    lines.append(metrics.elidedText(rest, Qt::ElideRight, area.width()));
+    return {lines, isWhole};
 }

@@ -6,7 +6,8 @@
 
 #include <QLabel>
 
-/// A text that gives way: what doesn't fit into its lines ends in three dots.
+/// A text that gives way: what doesn't fit into its lines ends in three dots. Its letters give way
+/// before, where they may.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -18,6 +19,8 @@ public:
     /// what has no room in it stays away.
     void setLines(int lines);
     int lines() const { return m_lines; }
+    /// A text that has no room is written in smaller letters first, of no less than \a pixels.
+    void shrinkTo(int pixels);
     /// The lines that minimumSizeHint() has room for; one at first.
     void keepLines(int lines);
 
@@ -28,11 +31,19 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    int lineHeight() const;
-    QStringList linesIn(int width) const;
+    struct Lines
+    {
+        QStringList texts;
+        bool isWhole;
+    };
+
+    Lines linesIn(const QFont &font) const;
+    QFont fittingFont() const;
 
     int m_lines = 1;
     int m_keptLines = 1;
+    /// 0 for letters that stay as they are.
+    int m_smallestPixels = 0;
 };
 
 #endif // ELIDEDLABEL_H

@@ -19,6 +19,9 @@
 namespace {
 
 const int textPixels = 14;
+const int smallestPixels = 12;
+// Less width is the text's: the keys have their pictures alone.
+const int wordsFrom = 600;
 const int textLines = 3;
 const int narrowLines = 2;
 const int keyWidth = 46;
@@ -41,6 +44,7 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
     const bool isNarrow =
         QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
     const int lines = isNarrow ? narrowLines : textLines;
+    m_text->shrinkTo(smallestPixels);
     m_text->setLines(lines);
     m_text->keepLines(lines);
     QBoxLayout *whole =
@@ -76,6 +80,8 @@ PanelKey *FindingsBar::addKey(QHBoxLayout *row, const char *name, Glyphs::Glyph 
     PanelKey *key = new PanelKey(Glyphs::icon(glyph, Glyphs::OnKey), text);
     key->setObjectName(QLatin1String(name));
     key->setMinimumWidth(keyWidth);
+    if (QGuiApplication::primaryScreen()->availableSize().width() < wordsFrom)
+        key->setToolButtonStyle(Qt::ToolButtonIconOnly);
     row->addWidget(key);
     return key;
 }

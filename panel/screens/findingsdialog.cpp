@@ -3,7 +3,6 @@
 
 #include "screens/findingsdialog.h"
 
-#include "filarixpanel.h"
 #include "look/dialogtitle.h"
 #include "look/pagekeys.h"
 #include "look/paneltable.h"
@@ -22,16 +21,9 @@ namespace {
 
 const QSize roomy(720, 560);
 const int rowHeight = 44;
-// For four lines of text.
-const int narrowRowHeight = 72;
 const int textPixels = 14;
 const int margin = 6;
 const int signSide = 22;
-
-bool isNarrow()
-{
-    return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
-}
 
 QIcon signOf(Finding::Severity severity)
 {
@@ -48,15 +40,15 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     : Dialog(parent)
     , m_nearest(qMax(0, review->after(line - 1)))
     , m_findings(review->findings())
-    , m_table(new PanelTable(0, 2, isNarrow() ? narrowRowHeight : rowHeight))
+    , m_table(new PanelTable(0, 2, rowHeight))
 {
     setTitle(tr("Check"));
     QLabel *head = new QLabel(review->summary());
     head->setObjectName(QLatin1String("summary"));
     head->setWordWrap(true);
     if (review->leftOut() > 0)
-        head->setText(
-            tr("%1. The first %2 are listed.").arg(review->summary()).arg(m_findings.size()));
+        head->setText(tr("%1. The first %2 are listed.")
+                          .arg(review->summary(), QString::number(m_findings.size())));
     QFont font = m_table->font();
     font.setPixelSize(textPixels);
     m_table->setFont(font);
@@ -65,12 +57,16 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     m_table->setFocusPolicy(Qt::TabFocus);
     m_table->setIconSize(QSize(signSide, signSide));
     m_table->setWordWrap(true);
+    // One that came later would take room from rows that are measured.
+    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     const QFontMetrics metrics(font);
-    m_table->setColumnWidth(0, metrics.horizontalAdvance(QLatin1String("0000000")) + 36);
+    const int last = m_findings.isEmpty() ? 0 : m_findings.last().line;
+    m_table->setColumnWidth(0, metrics.horizontalAdvance(QString::number(last)) + signSide + 18);
+    m_table->verticalHeader()->setMinimumSectionSize(rowHeight);
 
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
@@ -106,6 +102,8 @@ void FindingsDialog::showEvent(QShowEvent *event)
 {
     Dialog::showEvent(event);
     layout()->activate();
+    // What to do stands behind what happened, and is never cut.
+    m_table->resizeRowsToContents();
     // From there the arrows go on.
     m_table->setCurrentCell(m_nearest, 0, QItemSelectionModel::NoUpdate);
     m_table->scrollTo(m_table->model()->index(m_nearest, 0), QAbstractItemView::PositionAtTop);
@@ -119,7 +117,8 @@ void FindingsDialog::fill()
         const Finding &finding = m_findings.at(row);
         m_table->setItem(
             row, 0, new QTableWidgetItem(signs[finding.severity], QString::number(finding.line)));
-        m_table->setItem(row, 1, new QTableWidgetItem(finding.text()));
+        m_table->setItem(
+            row, 1, new QTableWidgetItem(finding.text() + QLatin1Char(' ') + finding.advice()));
     }
 }
 

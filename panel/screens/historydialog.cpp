@@ -25,6 +25,12 @@ namespace {
 const QSize roomy(720, 560);
 const int columns = 4;
 const int wideFrom = 600;
+const int rowMargin = 8;
+
+bool isNarrow()
+{
+    return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+}
 
 } // namespace
 
@@ -43,6 +49,10 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     const QFontMetrics metrics(m_table->font());
+    if (isNarrow())
+        m_table->verticalHeader()->setDefaultSectionSize(
+            qMax(Measures::touch(), 2 * metrics.lineSpacing() + rowMargin));
+    m_table->setColumnHidden(1, isNarrow());
     m_table->setColumnWidth(1, metrics.horizontalAdvance(QLatin1String("0000-00-00 00:00")) + 14);
     m_table->setColumnWidth(2, metrics.horizontalAdvance(QLatin1String("DDDD DDDD")) + 14);
     m_table->setColumnWidth(3, metrics.horizontalAdvance(QLatin1String("00000 KB")) + 14);
@@ -58,7 +68,7 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     m_onlyKey = keys->add(tr("Only this"), "only");
     m_onlyKey->setCheckable(true);
     QHBoxLayout *answers = keys;
-    if (panel.width() < FilarixPanel::smallBelow) {
+    if (isNarrow()) {
         answers = new QHBoxLayout;
         answers->setSpacing(keys->spacing());
         column->addLayout(answers);
@@ -87,7 +97,7 @@ void HistoryDialog::resizeEvent(QResizeEvent *event)
 {
     // The name comes first.
     m_table->setColumnHidden(2, width() < wideFrom);
-    m_table->setColumnHidden(3, width() < FilarixPanel::smallBelow);
+    m_table->setColumnHidden(3, isNarrow());
     Dialog::resizeEvent(event);
 }
 
@@ -106,8 +116,12 @@ void HistoryDialog::fill()
         QTableWidgetItem *size =
             new QTableWidgetItem(tr("%1 KB").arg((version.bytes + 1023) / 1024));
         size->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        m_table->setItem(row, 0, new QTableWidgetItem(version.name.simplified()));
-        m_table->setItem(row, 1, new QTableWidgetItem(ProgramHistory::shownDate(version)));
+        const QString name = version.name.simplified();
+        const QString date = ProgramHistory::shownDate(version);
+        // A narrow panel has the date below the name, which has the whole width then.
+        const QString both = name + QChar(QChar::LineSeparator) + date;
+        m_table->setItem(row, 0, new QTableWidgetItem(isNarrow() ? both : name));
+        m_table->setItem(row, 1, new QTableWidgetItem(date));
         m_table->setItem(row, 2, new QTableWidgetItem(ProgramFacts::checksum(version.hash)));
         m_table->setItem(row, 3, size);
         if (version.number == chosen)

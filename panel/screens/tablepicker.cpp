@@ -3,6 +3,7 @@
 
 #include "screens/tablepicker.h"
 
+#include "filarixpanel.h"
 #include "look/look.h"
 #include "look/measures.h"
 #include "look/paneltable.h"
@@ -18,6 +19,22 @@
 namespace {
 
 const int valueWidth = 50;
+const int rowMargin = 8;
+const int narrowLines = 3;
+
+bool isNarrow()
+{
+    return QGuiApplication::primaryScreen()->availableSize().width() < FilarixPanel::smallBelow;
+}
+
+/// The values below the name, each beside its key.
+QString withValues(const TableEntry &entry, const QStringList &keys)
+{
+    QStringList values;
+    for (int i = 0; i < keys.size(); ++i)
+        values.append(keys.at(i) + QChar(QChar::Nbsp) + entry.values.value(i));
+    return entry.name + QChar(QChar::LineSeparator) + values.join(QLatin1String("  "));
+}
 
 } // namespace
 
@@ -39,10 +56,17 @@ TablePicker::TablePicker(const QString &title, const QStringList &keys,
     m_table->setColumnWidth(0, Measures::touch());
     for (int row = 0; row < table.size(); ++row) {
         m_table->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
-        m_table->setItem(row, 1, new QTableWidgetItem(table.at(row).name));
+        const TableEntry &entry = table.at(row);
+        m_table->setItem(row, 1,
+                         new QTableWidgetItem(isNarrow() ? withValues(entry, keys) : entry.name));
         for (int i = 0; i < keys.size(); ++i)
-            m_table->setItem(row, 2 + i, new QTableWidgetItem(table.at(row).values.value(i)));
+            m_table->setItem(row, 2 + i, new QTableWidgetItem(entry.values.value(i)));
     }
+    for (int i = 0; isNarrow() && i < keys.size(); ++i)
+        m_table->setColumnHidden(2 + i, true);
+    if (isNarrow())
+        m_table->verticalHeader()->setDefaultSectionSize(
+            narrowLines * m_table->fontMetrics().lineSpacing() + rowMargin);
 
     QPushButton *ok = new QPushButton(tr("OK"));
     QPushButton *cancel = new QPushButton(tr("Cancel"));

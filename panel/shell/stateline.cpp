@@ -16,7 +16,8 @@
 namespace {
 
 const int textPixels = 14;
-const int lineHeight = 26;
+const int smallestPixels = 12;
+const int lineHeight = 24;
 const int sideMargin = 10;
 
 } // namespace
@@ -28,6 +29,7 @@ StateLine::StateLine(QWidget *parent) : TapArea(parent), m_label(new ElidedLabel
     Look::dress(this, Look::Strip);
     setFixedHeight(lineHeight);
     m_label->setObjectName(QLatin1String("stateLine"));
+    m_label->shrinkTo(smallestPixels);
     QFont font = m_label->font();
     font.setPixelSize(textPixels);
     font.setBold(true);
@@ -75,7 +77,8 @@ void StateLine::fit()
     m_label->setText(isWhole ? m_text : head());
     m_label->setLines(lines);
     m_label->keepLines(lines);
-    setFixedHeight(lineHeight + (lines - 1) * m_label->fontMetrics().lineSpacing());
+    const QFontMetrics metrics = m_label->fontMetrics();
+    setFixedHeight(qMax(lineHeight, metrics.height()) + (lines - 1) * metrics.lineSpacing());
 }
 
 /// The whole text where it has no colon.

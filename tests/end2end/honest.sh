@@ -47,7 +47,7 @@ cp "$programs"/* /tmp/before/
 
 # Undo does not go behind what was opened, and what is left out stays in view.
 open_program stator-coil.cnc
-left_out="620 lines in the file, 501 shown: comments and empty lines are left out"
+left_out="620 lines in the file, 501 shown: no comments, no empty lines"
 expect_text "$left_out"
 desk_shows Undo && desk_fail "there is something to undo after opening"
 xdotool key ctrl+z

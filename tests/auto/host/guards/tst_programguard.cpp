@@ -250,7 +250,7 @@ void TestProgramGuard::openingTellsWhatIsLeftOut_data()
     QTest::newRow("long and clean") << numbered(700) << int(ProgramState::Plain) << QString();
     QTest::newRow("long with comments")
         << QByteArray("; head\n\n") + numbered(600, " ; tail\n") << int(ProgramState::Cleaned)
-        << "603 lines in the file, 600 shown: comments and empty lines are left out";
+        << "603 lines in the file, 600 shown: no comments, no empty lines";
     QTest::newRow("characters that are shown as others")
         << QByteArray("G01\xc2\xa0X1\n") << int(ProgramState::Different)
         << "Not as in the file: it has characters that cannot be shown, or has changed";

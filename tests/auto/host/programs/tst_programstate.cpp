@@ -15,6 +15,7 @@ private Q_SLOTS:
     void linesSayWhatIsMissing();
     void sameNumberOfLinesHasItsOwnWords();
     void textsNameTheProgram();
+    void placeholderInANameStaysThere();
 };
 
 static ProgramState stateOf(ProgramState::Kind kind)
@@ -102,6 +103,16 @@ void TestProgramState::textsNameTheProgram()
     ProgramState state = stateOf(ProgramState::NotStored);
     state.reason = "No space left on device";
     QVERIFY(state.refusal().contains("No space left on device"));
+}
+
+void TestProgramState::placeholderInANameStaysThere()
+{
+    ProgramState state = stateOf(ProgramState::Cleaned);
+    state.name = "coil%2.cnc";
+    const QString question = state.saveQuestion();
+    QVERIFY2(question.contains("coil%2.cnc") && question.contains("1200")
+                 && question.contains("700"),
+             qPrintable(question));
 }
 
 FILARIX_TEST_MAIN(TestProgramState)

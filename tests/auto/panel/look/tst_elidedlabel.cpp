@@ -14,6 +14,7 @@ private Q_SLOTS:
     void wordLongerThanALineIsBroken();
     void textThatFitsIsShownWhole();
     void linesWithoutRoomStayAway();
+    void lettersGiveWayFirst();
 };
 
 static QImage picture(const QString &text, int width)
@@ -94,6 +95,28 @@ void TestElidedLabel::linesWithoutRoomStayAway()
     QVERIFY(label.sizeHint().height() > one);
     const int kept = label.minimumSizeHint().height();
     QVERIFY(pictured(3, kept) != pictured(2, kept));
+}
+
+void TestElidedLabel::lettersGiveWayFirst()
+{
+    const auto pictured = [](const QString &text, int smallest) {
+        ElidedLabel label;
+        QFont font = label.font();
+        font.setPixelSize(16);
+        font.setBold(true);
+        label.setFont(font);
+        label.shrinkTo(smallest);
+        label.setText(text);
+        label.resize(100, 30);
+        return TestCompat::grab(&label).toImage();
+    };
+    const QString begin = "a text too wi";
+    // Two texts that differ at the end alone look alike until the letters give way.
+    QCOMPARE(pictured(begin + "d", 0), pictured(begin + "l", 0));
+    QVERIFY(pictured(begin + "d", 10) != pictured(begin + "l", 10));
+    // Not below the smallest, and not where there is room.
+    QCOMPARE(pictured(begin.repeated(4) + "d", 10), pictured(begin.repeated(4) + "l", 10));
+    QCOMPARE(pictured("short", 10), pictured("short", 0));
 }
 
 FILARIX_TEST_MAIN(TestElidedLabel)

@@ -533,7 +533,7 @@ void TestProgramScreen::stateStaysInView()
     QVERIFY(!line->isVisible());
     open("long.cnc", "; head\n" + QByteArray("G01 X1\n").repeated(600));
     QVERIFY(line->isVisible());
-    const QString text = "602 lines in the file, 600 shown: comments and empty lines are left out";
+    const QString text = "602 lines in the file, 600 shown: no comments, no empty lines";
     QCOMPARE(line->text(), text);
     // A row of its own: nothing is covered.
     const QRect row(line->mapTo(m_screen, QPoint()), line->size());
