@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>Program: %1 %2</source>
+        <translation>Programm: %1 %2</translation>
+    </message>
+    <message>
+        <source>Toolkit: Qt %1</source>
+        <translation>Toolkit: Qt %1</translation>
+    </message>
+    <message>
+        <source>Licences: MIT; toolkit LGPL 3</source>
+        <translation>Lizenzen: MIT; Toolkit LGPL 3</translation>
+    </message>
+    <message>
+        <source>Data: %1</source>
+        <translation>Daten: %1</translation>
+    </message>
+    <message>
+        <source>Room left: %1</source>
+        <translation>Noch frei: %1</translation>
+    </message>
+</context>
+<context>
     <name>BarPager</name>
     <message>
         <source>More</source>
         <translation>Mehr</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPage</name>
+    <message>
+        <source>Clock</source>
+        <translation>Uhr</translation>
+    </message>
+    <message>
+        <source>The system keeps the clock, and it is set there, not here.</source>
+        <translation>Die Uhr führt das System; dort wird sie gestellt, nicht hier.</translation>
+    </message>
+    <message>
+        <source>Time zone: %1</source>
+        <translation>Zeitzone: %1</translation>
     </message>
 </context>
 <context>
@@ -108,6 +154,10 @@
         <source>Loading ...</source>
         <translation>Wird geladen ...</translation>
     </message>
+    <message>
+        <source>TCP port</source>
+        <translation>TCP-Port</translation>
+    </message>
 </context>
 <context>
     <name>DownloadQuestion</name>
@@ -135,26 +185,6 @@
         <translation>Im/Ex</translation>
     </message>
     <message>
-        <source>Pick</source>
-        <translation>Wählen</translation>
-    </message>
-    <message>
-        <source>Stick</source>
-        <translation>Stick</translation>
-    </message>
-    <message>
-        <source>Names</source>
-        <translation>Namen</translation>
-    </message>
-    <message>
-        <source>Programs</source>
-        <translation>Programme</translation>
-    </message>
-    <message>
-        <source>Path</source>
-        <translation>Pfad</translation>
-    </message>
-    <message>
         <source>Files and stick</source>
         <translation>Dateien und Stick</translation>
     </message>
@@ -171,34 +201,6 @@
         <translation>Pfad wählen</translation>
     </message>
     <message>
-        <source>In. Files: %1, </source>
-        <translation>Steckt. Dateien: %1, </translation>
-    </message>
-    <message>
-        <source>Out. </source>
-        <translation>Fehlt. </translation>
-    </message>
-    <message>
-        <source>All are safe for the transfer</source>
-        <translation>Alle sind sicher für die Übertragung</translation>
-    </message>
-    <message>
-        <source>Names that are not safe: %1</source>
-        <translation>Unsichere Namen: %1</translation>
-    </message>
-    <message>
-        <source>Files: %1, </source>
-        <translation>Dateien: %1, </translation>
-    </message>
-    <message>
-        <source>%1 KB of %2 MB</source>
-        <translation>%1 KB von %2 MB</translation>
-    </message>
-    <message>
-        <source>None picked yet</source>
-        <translation>Noch keiner gewählt</translation>
-    </message>
-    <message>
         <source>simulated: %1</source>
         <translation>Ersatz: %1</translation>
     </message>
@@ -211,20 +213,100 @@
         <translation>Der Stick antwortet nicht.</translation>
     </message>
     <message>
-        <source>Does not answer. </source>
-        <translation>Antwortet nicht. </translation>
-    </message>
-    <message>
-        <source>Loading ...</source>
-        <translation>Wird geladen ...</translation>
-    </message>
-    <message>
         <source>The panel&apos;s storage does not answer.</source>
         <translation>Der Speicher des Panels antwortet nicht.</translation>
     </message>
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>Um einen Stick auszuprobieren, das Panel mit „./run --stick DIR“ starten.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Stöbern</translation>
+    </message>
+    <message>
+        <source>%1 is checked: %2 %</source>
+        <translation>%1 wird geprüft: %2 %</translation>
+    </message>
+    <message>
+        <source>The check of %1 was stopped.</source>
+        <translation>Die Prüfung von %1 wurde gestoppt.</translation>
+    </message>
+    <message>
+        <source>%1 was not checked: its storage does not answer.</source>
+        <translation>%1 wurde nicht geprüft: der Speicher antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Touch a program: its facts and its coil are shown here.</source>
+        <translation>Ein Programm berühren: Angaben und Spule erscheinen hier.</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>%1 is read: %2 %</source>
+        <translation>%1 wird gelesen: %2 %</translation>
+    </message>
+    <message>
+        <source>Too long for a picture here. Open it to see its coil.</source>
+        <translation>Zu lang für ein Bild hier. Öffnen zeigt die Spule.</translation>
+    </message>
+    <message>
+        <source>This program winds no wire.</source>
+        <translation>Dieses Programm wickelt keinen Draht.</translation>
+    </message>
+    <message>
+        <source>%1 could not be checked to its end.</source>
+        <translation>%1 konnte nicht bis zum Ende geprüft werden.</translation>
+    </message>
+    <message>
+        <source>%1: nothing found.</source>
+        <translation>%1: nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>%1: %2. Open it to see where.</source>
+        <translation>%1: %2. Öffnen zeigt, wo.</translation>
+    </message>
+    <message>
+        <source>Unsafe names: %1</source>
+        <translation>Unsichere Namen: %1</translation>
+    </message>
+    <message>
+        <source>Stick: looking ...</source>
+        <translation>Stick: wird gesucht ...</translation>
+    </message>
+    <message>
+        <source>Stick: in, files: %1</source>
+        <translation>Stick: steckt, Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>Stick: fehlt</translation>
+    </message>
+    <message>
+        <source>Programs: looking ...</source>
+        <translation>Programme: werden gezählt ...</translation>
+    </message>
+    <message>
+        <source>Programs: %1, %2 KB of %3 MB</source>
+        <translation>Programme: %1, %2 KB von %3 MB</translation>
+    </message>
+    <message>
+        <source>All names are safe for the transfer.</source>
+        <translation>Alle Namen sind sicher für die Übertragung.</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1. Rename them by the key Rename.</source>
+        <translation>Unsichere Namen: %1. Die Taste Umbenennen benennt sie um.</translation>
     </message>
 </context>
 <context>
@@ -263,14 +345,6 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Page up</source>
-        <translation>Seite zurück</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Seite vor</translation>
     </message>
 </context>
 <context>
@@ -311,47 +385,12 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>Seite zurück</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Seite vor</translation>
-    </message>
 </context>
 <context>
     <name>KnownRows</name>
     <message>
         <source>%1 was changed by somebody else.</source>
         <translation>%1 wurde von jemand anderem geändert.</translation>
-    </message>
-</context>
-<context>
-    <name>LanguagePicker</name>
-    <message>
-        <source>Language</source>
-        <translation>Sprache</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Light colours</source>
-        <translation>Helle Farben</translation>
-    </message>
-    <message>
-        <source>Dark colours</source>
-        <translation>Dunkle Farben</translation>
-    </message>
-    <message>
-        <source>Text size</source>
-        <translation>Schrift</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -406,14 +445,6 @@
         <source>There was nothing to tell yet.</source>
         <translation>Noch gibt es keine Meldung.</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>Seite zurück</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Seite vor</translation>
-    </message>
 </context>
 <context>
     <name>MovementLimits</name>
@@ -425,6 +456,25 @@
         <source>Instruction %1, %2</source>
         <translation>Befehl %1, %2</translation>
     </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+</context>
+<context>
+    <name>PageKeys</name>
+    <message>
+        <source>Page up</source>
+        <translation>Seite zurück</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite vor</translation>
+    </message>
 </context>
 <context>
     <name>PanelProgram</name>
@@ -435,6 +485,17 @@
     <message>
         <source>Another panel works on the same programs. This one does not start.</source>
         <translation>Ein anderes Panel arbeitet mit denselben Programmen. Dieses startet nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is read and checked: %2 %</source>
+        <translation>%1 wird gelesen und geprüft: %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>PanelScreen</name>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
     </message>
 </context>
 <context>
@@ -468,12 +529,12 @@
         <translation>%1[*] - Wickelpanel</translation>
     </message>
     <message>
-        <source>The translation is not installed.</source>
-        <translation>Die Übersetzung ist nicht installiert.</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -550,12 +611,50 @@
         <source>Line %1</source>
         <translation>Zeile %1</translation>
     </message>
+    <message>
+        <source>Stopped at %1 %</source>
+        <translation>Gestoppt bei %1 %</translation>
+    </message>
+    <message>
+        <source>The reading was stopped. The next change begins it anew.</source>
+        <translation>Das Lesen wurde gestoppt. Die nächste Änderung beginnt es neu.</translation>
+    </message>
 </context>
 <context>
     <name>PreviewScreen</name>
     <message>
         <source>Coil of %1</source>
         <translation>Spule von %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramList</name>
+    <message>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>Der Speicher des Panels antwortet nicht. Die Programme kommen, sobald er antwortet.</translation>
+    </message>
+    <message>
+        <source>Reading the programs ...</source>
+        <translation>Die Programme werden gelesen ...</translation>
+    </message>
+    <message>
+        <source>The folder of the programs cannot be read: %1.</source>
+        <translation>Der Ordner der Programme ist nicht lesbar: %1.</translation>
+    </message>
+    <message>
+        <source>No programs yet. Write one on the screen Program, or bring some from the stick by I/E.</source>
+        <translation>Noch keine Programme. Auf dem Bildschirm Programm eines schreiben oder mit I/E vom Stick holen.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramPicture</name>
+    <message>
+        <source>Coil</source>
+        <translation>Spule</translation>
     </message>
 </context>
 <context>
@@ -575,6 +674,10 @@
     <message>
         <source>Errors: %1, warnings: %2</source>
         <translation>Fehler: %1, Warnungen: %2</translation>
+    </message>
+    <message>
+        <source>The check was stopped. The next change, or the screen Preview, begins it anew.</source>
+        <translation>Die Prüfung wurde gestoppt. Die nächste Änderung oder die Vorschau beginnt sie neu.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +726,22 @@
         <source>Coil</source>
         <translation>Spule</translation>
     </message>
+    <message>
+        <source>The program is loaded: %1 %</source>
+        <translation>Das Programm wird geladen: %1 %</translation>
+    </message>
+    <message>
+        <source>downloading</source>
+        <translation>Übertragung</translation>
+    </message>
+    <message>
+        <source>not stored</source>
+        <translation>nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>Settings</name>
@@ -637,6 +756,69 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Die Einstellungen lassen sich nicht in %1 speichern. Was Sie wählen, gilt bis zum Programmende.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Texts grow as far as each screen has room.</source>
+        <translation>Texte wachsen, soweit der Schirm Platz hat.</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Töne</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>The display&apos;s bell at each touch of a key.</source>
+        <translation>Der Ton des Displays bei jedem Tastendruck.</translation>
+    </message>
+    <message>
+        <source>This display has no bell: nothing is heard.</source>
+        <translation>Dieses Display hat keinen Ton: es bleibt still.</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>Die Übersetzung ist nicht installiert.</translation>
     </message>
 </context>
 <context>
@@ -827,6 +1009,45 @@
     <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtDetails</name>
+    <message>
+        <source>own values</source>
+        <translation>eigene Werte</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschw.</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Geschw. %1</translation>
+    </message>
+    <message>
+        <source>Zone %1</source>
+        <translation>Zone %1</translation>
+    </message>
+    <message>
+        <source>Tool %1</source>
+        <translation>Werkzeug %1</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>Instruction %1: %2</source>
+        <translation>Befehl %1: %2</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1246,33 @@
         <source>Instructions copied: %1. Paste puts them below a row.</source>
         <translation>Kopierte Befehle: %1. „Einf.“ setzt sie unter eine Zeile.</translation>
     </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: taught programs of %1 may be missing.</source>
+        <translation>Der Speicher des Panels antwortet nicht: Eingelernte Programme aus %1 können fehlen.</translation>
+    </message>
+    <message>
+        <source>No instruction is chosen. Touch one.</source>
+        <translation>Kein Befehl gewählt. Berühren Sie einen.</translation>
+    </message>
+    <message>
+        <source>No instruction yet. MoveJ, MoveL and Text make one.</source>
+        <translation>Noch kein Befehl. MoveJ, MoveL und Text legen einen an.</translation>
+    </message>
+</context>
+<context>
+    <name>TitleStrip</name>
+    <message>
+        <source>Panel and stick</source>
+        <translation>Panel und Stick</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Bitte warten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -1094,6 +1342,61 @@
     <message>
         <source>%1, whole</source>
         <translation>%1, ganz</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDetails</name>
+    <message>
+        <source>whole number</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on oder off</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
     </message>
 </context>
 <context>
@@ -1205,6 +1508,14 @@
         <source>stored</source>
         <translation>gespeichert</translation>
     </message>
+    <message>
+        <source>Values that are no variable&apos;s now, not brought back: %1.</source>
+        <translation>Nicht zurückgeholte Werte ohne Variable: %1.</translation>
+    </message>
+    <message>
+        <source>No variable is chosen. Touch one.</source>
+        <translation>Keine Variable gewählt. Berühren Sie eine.</translation>
+    </message>
 </context>
 <context>
     <name>WalkKeys</name>
@@ -1243,6 +1554,25 @@
     <message>
         <source>Last line</source>
         <translation>Letzte Zeile</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Wird gestoppt ...</translation>
+    </message>
+    <message>
+        <source>%1 (more work: %2)</source>
+        <translation>%1 (weitere Arbeit: %2)</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>noch %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>noch %1 min</translation>
     </message>
 </context>
 </TS>

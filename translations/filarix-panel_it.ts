@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>Program: %1 %2</source>
+        <translation>Programma: %1 %2</translation>
+    </message>
+    <message>
+        <source>Toolkit: Qt %1</source>
+        <translation>Toolkit: Qt %1</translation>
+    </message>
+    <message>
+        <source>Licences: MIT; toolkit LGPL 3</source>
+        <translation>Licenze: MIT; toolkit LGPL 3</translation>
+    </message>
+    <message>
+        <source>Data: %1</source>
+        <translation>Dati: %1</translation>
+    </message>
+    <message>
+        <source>Room left: %1</source>
+        <translation>Spazio libero: %1</translation>
+    </message>
+</context>
+<context>
     <name>BarPager</name>
     <message>
         <source>More</source>
         <translation>Altro</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPage</name>
+    <message>
+        <source>Clock</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>The system keeps the clock, and it is set there, not here.</source>
+        <translation>L&apos;ora è del sistema e si imposta lì, non qui.</translation>
+    </message>
+    <message>
+        <source>Time zone: %1</source>
+        <translation>Fuso orario: %1</translation>
     </message>
 </context>
 <context>
@@ -108,6 +154,10 @@
         <source>Loading ...</source>
         <translation>Caricamento ...</translation>
     </message>
+    <message>
+        <source>TCP port</source>
+        <translation>Porta TCP</translation>
+    </message>
 </context>
 <context>
     <name>DownloadQuestion</name>
@@ -135,26 +185,6 @@
         <translation>Imp/Esp</translation>
     </message>
     <message>
-        <source>Pick</source>
-        <translation>Scegli</translation>
-    </message>
-    <message>
-        <source>Stick</source>
-        <translation>USB</translation>
-    </message>
-    <message>
-        <source>Names</source>
-        <translation>Nomi</translation>
-    </message>
-    <message>
-        <source>Programs</source>
-        <translation>Programmi</translation>
-    </message>
-    <message>
-        <source>Path</source>
-        <translation>Percorso</translation>
-    </message>
-    <message>
         <source>Files and stick</source>
         <translation>File e chiavetta</translation>
     </message>
@@ -171,34 +201,6 @@
         <translation>Scegli un percorso</translation>
     </message>
     <message>
-        <source>In. Files: %1, </source>
-        <translation>Inserita. File: %1, </translation>
-    </message>
-    <message>
-        <source>Out. </source>
-        <translation>Assente. </translation>
-    </message>
-    <message>
-        <source>All are safe for the transfer</source>
-        <translation>Tutti sicuri per il trasferimento</translation>
-    </message>
-    <message>
-        <source>Names that are not safe: %1</source>
-        <translation>Nomi non sicuri: %1</translation>
-    </message>
-    <message>
-        <source>Files: %1, </source>
-        <translation>File: %1, </translation>
-    </message>
-    <message>
-        <source>%1 KB of %2 MB</source>
-        <translation>%1 KB di %2 MB</translation>
-    </message>
-    <message>
-        <source>None picked yet</source>
-        <translation>Nessuno scelto</translation>
-    </message>
-    <message>
         <source>simulated: %1</source>
         <translation>simulata: %1</translation>
     </message>
@@ -211,20 +213,100 @@
         <translation>La chiavetta non risponde.</translation>
     </message>
     <message>
-        <source>Does not answer. </source>
-        <translation>Non risponde. </translation>
-    </message>
-    <message>
-        <source>Loading ...</source>
-        <translation>Caricamento ...</translation>
-    </message>
-    <message>
         <source>The panel&apos;s storage does not answer.</source>
         <translation>La memoria del pannello non risponde.</translation>
     </message>
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>Per provare una chiavetta, avviare il pannello con &quot;./run --stick DIR&quot;.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Sfoglia</translation>
+    </message>
+    <message>
+        <source>%1 is checked: %2 %</source>
+        <translation>Controllo di %1: %2 %</translation>
+    </message>
+    <message>
+        <source>The check of %1 was stopped.</source>
+        <translation>Il controllo di %1 è stato fermato.</translation>
+    </message>
+    <message>
+        <source>%1 was not checked: its storage does not answer.</source>
+        <translation>%1 non è stato controllato: la sua memoria non risponde.</translation>
+    </message>
+    <message>
+        <source>Touch a program: its facts and its coil are shown here.</source>
+        <translation>Toccare un programma: i suoi dati e la sua bobina appaiono qui.</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>Lettura di %1 ...</translation>
+    </message>
+    <message>
+        <source>%1 is read: %2 %</source>
+        <translation>Lettura di %1: %2 %</translation>
+    </message>
+    <message>
+        <source>Too long for a picture here. Open it to see its coil.</source>
+        <translation>Troppo lungo per un’immagine qui. Aprirlo per vedere la bobina.</translation>
+    </message>
+    <message>
+        <source>This program winds no wire.</source>
+        <translation>Questo programma non avvolge filo.</translation>
+    </message>
+    <message>
+        <source>%1 could not be checked to its end.</source>
+        <translation>%1 non è stato controllato fino alla fine.</translation>
+    </message>
+    <message>
+        <source>%1: nothing found.</source>
+        <translation>%1: nessun problema.</translation>
+    </message>
+    <message>
+        <source>%1: %2. Open it to see where.</source>
+        <translation>%1: %2. Aprirlo per vedere dove.</translation>
+    </message>
+    <message>
+        <source>Unsafe names: %1</source>
+        <translation>Nomi non sicuri: %1</translation>
+    </message>
+    <message>
+        <source>Stick: looking ...</source>
+        <translation>Chiavetta: ricerca ...</translation>
+    </message>
+    <message>
+        <source>Stick: in, files: %1</source>
+        <translation>Chiavetta: inserita, file: %1</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>Chiavetta: assente</translation>
+    </message>
+    <message>
+        <source>Programs: looking ...</source>
+        <translation>Programmi: ricerca ...</translation>
+    </message>
+    <message>
+        <source>Programs: %1, %2 KB of %3 MB</source>
+        <translation>Programmi: %1, %2 KB di %3 MB</translation>
+    </message>
+    <message>
+        <source>All names are safe for the transfer.</source>
+        <translation>Tutti i nomi sono sicuri per il trasferimento.</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1. Rename them by the key Rename.</source>
+        <translation>Nomi non sicuri: %1. Rinominarli con il tasto Rinomina.</translation>
     </message>
 </context>
 <context>
@@ -263,14 +345,6 @@
     <message>
         <source>Close</source>
         <translation>Chiudi</translation>
-    </message>
-    <message>
-        <source>Page up</source>
-        <translation>Pagina su</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Pagina giù</translation>
     </message>
 </context>
 <context>
@@ -311,47 +385,12 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>Pagina su</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Pagina giù</translation>
-    </message>
 </context>
 <context>
     <name>KnownRows</name>
     <message>
         <source>%1 was changed by somebody else.</source>
         <translation>%1 è stato modificato da altri.</translation>
-    </message>
-</context>
-<context>
-    <name>LanguagePicker</name>
-    <message>
-        <source>Language</source>
-        <translation>Lingua</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Light colours</source>
-        <translation>Colori chiari</translation>
-    </message>
-    <message>
-        <source>Dark colours</source>
-        <translation>Colori scuri</translation>
-    </message>
-    <message>
-        <source>Text size</source>
-        <translation>Testo</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -406,14 +445,6 @@
         <source>There was nothing to tell yet.</source>
         <translation>Ancora nessun messaggio.</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>Pagina su</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Pagina giù</translation>
-    </message>
 </context>
 <context>
     <name>MovementLimits</name>
@@ -425,6 +456,25 @@
         <source>Instruction %1, %2</source>
         <translation>Istruzione %1, %2</translation>
     </message>
+    <message>
+        <source>text</source>
+        <translation>testo</translation>
+    </message>
+    <message>
+        <source>remark</source>
+        <translation>nota</translation>
+    </message>
+</context>
+<context>
+    <name>PageKeys</name>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
 </context>
 <context>
     <name>PanelProgram</name>
@@ -435,6 +485,17 @@
     <message>
         <source>Another panel works on the same programs. This one does not start.</source>
         <translation>Un altro pannello lavora sugli stessi programmi. Questo non si avvia.</translation>
+    </message>
+    <message>
+        <source>%1 is read and checked: %2 %</source>
+        <translation>Lettura e controllo di %1: %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>PanelScreen</name>
+    <message>
+        <source>changed</source>
+        <translation>modificato</translation>
     </message>
 </context>
 <context>
@@ -468,12 +529,12 @@
         <translation>%1[*] - Pannello avvolgitrice</translation>
     </message>
     <message>
-        <source>The translation is not installed.</source>
-        <translation>La traduzione non è installata.</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
     </message>
 </context>
 <context>
@@ -550,12 +611,50 @@
         <source>Line %1</source>
         <translation>Riga %1</translation>
     </message>
+    <message>
+        <source>Stopped at %1 %</source>
+        <translation>Fermato al %1 %</translation>
+    </message>
+    <message>
+        <source>The reading was stopped. The next change begins it anew.</source>
+        <translation>La lettura è stata fermata. La prossima modifica la riavvia.</translation>
+    </message>
 </context>
 <context>
     <name>PreviewScreen</name>
     <message>
         <source>Coil of %1</source>
         <translation>Bobina di %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramList</name>
+    <message>
+        <source>Programs</source>
+        <translation>Programmi</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>La memoria del pannello non risponde. I programmi appariranno quando risponderà.</translation>
+    </message>
+    <message>
+        <source>Reading the programs ...</source>
+        <translation>Lettura dei programmi ...</translation>
+    </message>
+    <message>
+        <source>The folder of the programs cannot be read: %1.</source>
+        <translation>La cartella dei programmi non è leggibile: %1.</translation>
+    </message>
+    <message>
+        <source>No programs yet. Write one on the screen Program, or bring some from the stick by I/E.</source>
+        <translation>Ancora nessun programma. Scriverne uno nella schermata Programma o prenderlo dalla chiavetta con Imp/Esp.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramPicture</name>
+    <message>
+        <source>Coil</source>
+        <translation>Bobina</translation>
     </message>
 </context>
 <context>
@@ -575,6 +674,10 @@
     <message>
         <source>Errors: %1, warnings: %2</source>
         <translation>Errori: %1, avvisi: %2</translation>
+    </message>
+    <message>
+        <source>The check was stopped. The next change, or the screen Preview, begins it anew.</source>
+        <translation>Il controllo è stato fermato. La prossima modifica o l’Anteprima lo riavvia.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +726,22 @@
         <source>Coil</source>
         <translation>Bobina</translation>
     </message>
+    <message>
+        <source>The program is loaded: %1 %</source>
+        <translation>Caricamento del programma: %1 %</translation>
+    </message>
+    <message>
+        <source>downloading</source>
+        <translation>invio</translation>
+    </message>
+    <message>
+        <source>not stored</source>
+        <translation>non salvato</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>salvato</translation>
+    </message>
 </context>
 <context>
     <name>Settings</name>
@@ -637,6 +756,69 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Le impostazioni non si possono salvare in %1. Le scelte valgono fino alla chiusura del programma.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Chiaro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Scuro</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contrasto alto</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Colori</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Texts grow as far as each screen has room.</source>
+        <translation>I testi crescono dove lo schermo ha spazio.</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Suoni</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Spenti</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Accesi</translation>
+    </message>
+    <message>
+        <source>The display&apos;s bell at each touch of a key.</source>
+        <translation>Il segnale del display a ogni tasto.</translation>
+    </message>
+    <message>
+        <source>This display has no bell: nothing is heard.</source>
+        <translation>Questo display non ha segnale: non si sente nulla.</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>La traduzione non è installata.</translation>
     </message>
 </context>
 <context>
@@ -827,6 +1009,45 @@
     <message>
         <source>Messages</source>
         <translation>Messaggi</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtDetails</name>
+    <message>
+        <source>own values</source>
+        <translation>valori propri</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Veloc.</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Veloc. %1</translation>
+    </message>
+    <message>
+        <source>Zone %1</source>
+        <translation>Zona %1</translation>
+    </message>
+    <message>
+        <source>Tool %1</source>
+        <translation>Utensile %1</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Instruction %1: %2</source>
+        <translation>Istruzione %1: %2</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1246,33 @@
         <source>Instructions copied: %1. Paste puts them below a row.</source>
         <translation>Istruzioni copiate: %1. &quot;Incolla&quot; le mette sotto una riga.</translation>
     </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: taught programs of %1 may be missing.</source>
+        <translation>La memoria del pannello non risponde: possono mancare programmi appresi di %1.</translation>
+    </message>
+    <message>
+        <source>No instruction is chosen. Touch one.</source>
+        <translation>Nessuna istruzione scelta. Toccarne una.</translation>
+    </message>
+    <message>
+        <source>No instruction yet. MoveJ, MoveL and Text make one.</source>
+        <translation>Ancora nessuna istruzione. MoveJ, MoveL e Testo ne creano una.</translation>
+    </message>
+</context>
+<context>
+    <name>TitleStrip</name>
+    <message>
+        <source>Panel and stick</source>
+        <translation>Pannello e chiavetta</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Attendere</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -1094,6 +1342,61 @@
     <message>
         <source>%1, whole</source>
         <translation>%1, intero</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDetails</name>
+    <message>
+        <source>whole number</source>
+        <translation>numero intero</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>numero</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>testo</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on o off</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Nel file</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>niente</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lunghezza</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unità</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Massimo</translation>
     </message>
 </context>
 <context>
@@ -1205,6 +1508,14 @@
         <source>stored</source>
         <translation>salvato</translation>
     </message>
+    <message>
+        <source>Values that are no variable&apos;s now, not brought back: %1.</source>
+        <translation>Valori senza variabile, non ripristinati: %1.</translation>
+    </message>
+    <message>
+        <source>No variable is chosen. Touch one.</source>
+        <translation>Nessuna variabile scelta. Toccarne una.</translation>
+    </message>
 </context>
 <context>
     <name>WalkKeys</name>
@@ -1243,6 +1554,25 @@
     <message>
         <source>Last line</source>
         <translation>Ultima riga</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Arresto in corso ...</translation>
+    </message>
+    <message>
+        <source>%1 (more work: %2)</source>
+        <translation>%1 (altri lavori: %2)</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>ancora %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>ancora %1 min</translation>
     </message>
 </context>
 </TS>

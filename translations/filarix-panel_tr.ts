@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>Bilgi</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>bilinmiyor</translation>
+    </message>
+    <message>
+        <source>Program: %1 %2</source>
+        <translation>Program: %1 %2</translation>
+    </message>
+    <message>
+        <source>Toolkit: Qt %1</source>
+        <translation>Araç takımı: Qt %1</translation>
+    </message>
+    <message>
+        <source>Licences: MIT; toolkit LGPL 3</source>
+        <translation>Lisanslar: MIT; araç takımı LGPL 3</translation>
+    </message>
+    <message>
+        <source>Data: %1</source>
+        <translation>Veriler: %1</translation>
+    </message>
+    <message>
+        <source>Room left: %1</source>
+        <translation>Boş yer: %1</translation>
+    </message>
+</context>
+<context>
     <name>BarPager</name>
     <message>
         <source>More</source>
         <translation>Daha</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPage</name>
+    <message>
+        <source>Clock</source>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>The system keeps the clock, and it is set there, not here.</source>
+        <translation>Saati sistem tutar; burada değil, orada ayarlanır.</translation>
+    </message>
+    <message>
+        <source>Time zone: %1</source>
+        <translation>Saat dilimi: %1</translation>
     </message>
 </context>
 <context>
@@ -108,6 +154,10 @@
         <source>Loading ...</source>
         <translation>Yükleniyor ...</translation>
     </message>
+    <message>
+        <source>TCP port</source>
+        <translation>TCP portu</translation>
+    </message>
 </context>
 <context>
     <name>DownloadQuestion</name>
@@ -135,26 +185,6 @@
         <translation>Aktar</translation>
     </message>
     <message>
-        <source>Pick</source>
-        <translation>Seç</translation>
-    </message>
-    <message>
-        <source>Stick</source>
-        <translation>Bellek</translation>
-    </message>
-    <message>
-        <source>Names</source>
-        <translation>Adlar</translation>
-    </message>
-    <message>
-        <source>Programs</source>
-        <translation>Programlar</translation>
-    </message>
-    <message>
-        <source>Path</source>
-        <translation>Yol</translation>
-    </message>
-    <message>
         <source>Files and stick</source>
         <translation>Dosyalar ve bellek</translation>
     </message>
@@ -171,34 +201,6 @@
         <translation>Yol seç</translation>
     </message>
     <message>
-        <source>In. Files: %1, </source>
-        <translation>Takılı. Dosya: %1, </translation>
-    </message>
-    <message>
-        <source>Out. </source>
-        <translation>Yok. </translation>
-    </message>
-    <message>
-        <source>All are safe for the transfer</source>
-        <translation>Tümü aktarım için güvenli</translation>
-    </message>
-    <message>
-        <source>Names that are not safe: %1</source>
-        <translation>Güvenli olmayan ad: %1</translation>
-    </message>
-    <message>
-        <source>Files: %1, </source>
-        <translation>Dosya: %1, </translation>
-    </message>
-    <message>
-        <source>%1 KB of %2 MB</source>
-        <translation>%1 KB / %2 MB</translation>
-    </message>
-    <message>
-        <source>None picked yet</source>
-        <translation>Henüz seçilmedi</translation>
-    </message>
-    <message>
         <source>simulated: %1</source>
         <translation>taklit: %1</translation>
     </message>
@@ -211,20 +213,100 @@
         <translation>Bellek yanıt vermiyor.</translation>
     </message>
     <message>
-        <source>Does not answer. </source>
-        <translation>Yanıt vermiyor. </translation>
-    </message>
-    <message>
-        <source>Loading ...</source>
-        <translation>Yükleniyor ...</translation>
-    </message>
-    <message>
         <source>The panel&apos;s storage does not answer.</source>
         <translation>Panelin belleği yanıt vermiyor.</translation>
     </message>
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>Bellek denemek için paneli &quot;./run --stick DIR&quot; ile başlatın.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aç</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Denetim</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Gözat</translation>
+    </message>
+    <message>
+        <source>%1 is checked: %2 %</source>
+        <translation>%1 denetleniyor: %2 %</translation>
+    </message>
+    <message>
+        <source>The check of %1 was stopped.</source>
+        <translation>%1 denetimi durduruldu.</translation>
+    </message>
+    <message>
+        <source>%1 was not checked: its storage does not answer.</source>
+        <translation>%1 denetlenmedi: bulunduğu bellek yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>Touch a program: its facts and its coil are shown here.</source>
+        <translation>Bir programa dokunun: bilgileri ve bobini burada görünür.</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 okunuyor ...</translation>
+    </message>
+    <message>
+        <source>%1 is read: %2 %</source>
+        <translation>%1 okunuyor: %2 %</translation>
+    </message>
+    <message>
+        <source>Too long for a picture here. Open it to see its coil.</source>
+        <translation>Burada resim için çok uzun. Bobini görmek için açın.</translation>
+    </message>
+    <message>
+        <source>This program winds no wire.</source>
+        <translation>Bu program tel sarmıyor.</translation>
+    </message>
+    <message>
+        <source>%1 could not be checked to its end.</source>
+        <translation>%1 sonuna kadar denetlenemedi.</translation>
+    </message>
+    <message>
+        <source>%1: nothing found.</source>
+        <translation>%1: hiçbir şey bulunmadı.</translation>
+    </message>
+    <message>
+        <source>%1: %2. Open it to see where.</source>
+        <translation>%1: %2. Yerini görmek için açın.</translation>
+    </message>
+    <message>
+        <source>Unsafe names: %1</source>
+        <translation>Güvenli olmayan ad: %1</translation>
+    </message>
+    <message>
+        <source>Stick: looking ...</source>
+        <translation>Bellek: bakılıyor ...</translation>
+    </message>
+    <message>
+        <source>Stick: in, files: %1</source>
+        <translation>Bellek: takılı, dosya: %1</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>Bellek: takılı değil</translation>
+    </message>
+    <message>
+        <source>Programs: looking ...</source>
+        <translation>Programlar: bakılıyor ...</translation>
+    </message>
+    <message>
+        <source>Programs: %1, %2 KB of %3 MB</source>
+        <translation>Program: %1, %2 KB / %3 MB</translation>
+    </message>
+    <message>
+        <source>All names are safe for the transfer.</source>
+        <translation>Tüm adlar aktarım için güvenli.</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1. Rename them by the key Rename.</source>
+        <translation>Güvenli olmayan ad: %1. Adlandır tuşuyla yeniden adlandırın.</translation>
     </message>
 </context>
 <context>
@@ -263,14 +345,6 @@
     <message>
         <source>Close</source>
         <translation>Kapat</translation>
-    </message>
-    <message>
-        <source>Page up</source>
-        <translation>Önceki sayfa</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Sonraki sayfa</translation>
     </message>
 </context>
 <context>
@@ -311,47 +385,12 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>Önceki sayfa</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Sonraki sayfa</translation>
-    </message>
 </context>
 <context>
     <name>KnownRows</name>
     <message>
         <source>%1 was changed by somebody else.</source>
         <translation>%1 başkası tarafından değiştirildi.</translation>
-    </message>
-</context>
-<context>
-    <name>LanguagePicker</name>
-    <message>
-        <source>Language</source>
-        <translation>Dil</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
-        <source>Light colours</source>
-        <translation>Açık renkler</translation>
-    </message>
-    <message>
-        <source>Dark colours</source>
-        <translation>Koyu renkler</translation>
-    </message>
-    <message>
-        <source>Text size</source>
-        <translation>Yazı</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -406,14 +445,6 @@
         <source>There was nothing to tell yet.</source>
         <translation>Henüz ileti yok.</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>Önceki sayfa</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Sonraki sayfa</translation>
-    </message>
 </context>
 <context>
     <name>MovementLimits</name>
@@ -425,6 +456,25 @@
         <source>Instruction %1, %2</source>
         <translation>Komut %1, %2</translation>
     </message>
+    <message>
+        <source>text</source>
+        <translation>metin</translation>
+    </message>
+    <message>
+        <source>remark</source>
+        <translation>not</translation>
+    </message>
+</context>
+<context>
+    <name>PageKeys</name>
+    <message>
+        <source>Page up</source>
+        <translation>Sayfa yukarı</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sayfa aşağı</translation>
+    </message>
 </context>
 <context>
     <name>PanelProgram</name>
@@ -435,6 +485,17 @@
     <message>
         <source>Another panel works on the same programs. This one does not start.</source>
         <translation>Başka bir panel aynı programlarla çalışıyor. Bu panel başlamaz.</translation>
+    </message>
+    <message>
+        <source>%1 is read and checked: %2 %</source>
+        <translation>%1 okunup denetleniyor: %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>PanelScreen</name>
+    <message>
+        <source>changed</source>
+        <translation>değişti</translation>
     </message>
 </context>
 <context>
@@ -468,12 +529,12 @@
         <translation>%1[*] - Sarım paneli</translation>
     </message>
     <message>
-        <source>The translation is not installed.</source>
-        <translation>Çeviri kurulu değil.</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>Önizleme</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
     </message>
 </context>
 <context>
@@ -550,12 +611,50 @@
         <source>Line %1</source>
         <translation>Satır %1</translation>
     </message>
+    <message>
+        <source>Stopped at %1 %</source>
+        <translation>%1 % iken durduruldu</translation>
+    </message>
+    <message>
+        <source>The reading was stopped. The next change begins it anew.</source>
+        <translation>Okuma durduruldu. Sonraki değişiklik onu yeniden başlatır.</translation>
+    </message>
 </context>
 <context>
     <name>PreviewScreen</name>
     <message>
         <source>Coil of %1</source>
         <translation>Bobin: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramList</name>
+    <message>
+        <source>Programs</source>
+        <translation>Programlar</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>Panelin belleği yanıt vermiyor. Yanıt verince programlar gelir.</translation>
+    </message>
+    <message>
+        <source>Reading the programs ...</source>
+        <translation>Programlar okunuyor ...</translation>
+    </message>
+    <message>
+        <source>The folder of the programs cannot be read: %1.</source>
+        <translation>Program klasörü okunamıyor: %1.</translation>
+    </message>
+    <message>
+        <source>No programs yet. Write one on the screen Program, or bring some from the stick by I/E.</source>
+        <translation>Henüz program yok. Program ekranında yazın ya da Aktar ile bellekten alın.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramPicture</name>
+    <message>
+        <source>Coil</source>
+        <translation>Bobin</translation>
     </message>
 </context>
 <context>
@@ -575,6 +674,10 @@
     <message>
         <source>Errors: %1, warnings: %2</source>
         <translation>Hatalar: %1, uyarılar: %2</translation>
+    </message>
+    <message>
+        <source>The check was stopped. The next change, or the screen Preview, begins it anew.</source>
+        <translation>Denetim durduruldu. Sonraki değişiklik ya da Önizleme onu yeniden başlatır.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +726,22 @@
         <source>Coil</source>
         <translation>Bobin</translation>
     </message>
+    <message>
+        <source>The program is loaded: %1 %</source>
+        <translation>Program yükleniyor: %1 %</translation>
+    </message>
+    <message>
+        <source>downloading</source>
+        <translation>yükleniyor</translation>
+    </message>
+    <message>
+        <source>not stored</source>
+        <translation>kaydedilmedi</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>kaydedildi</translation>
+    </message>
 </context>
 <context>
     <name>Settings</name>
@@ -637,6 +756,69 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>Ayarlar %1 dosyasına kaydedilemiyor. Seçimleriniz program kapanana kadar geçerlidir.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Açık renk</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Koyu renk</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Yüksek karşıtlık</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Renkler</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Yazı</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Texts grow as far as each screen has room.</source>
+        <translation>Yazılar ekranda yer olduğunca büyür.</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Sesler</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Kapalı</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>The display&apos;s bell at each touch of a key.</source>
+        <translation>Her tuşta ekranın zili.</translation>
+    </message>
+    <message>
+        <source>This display has no bell: nothing is heard.</source>
+        <translation>Bu ekranda zil yok: hiçbir şey duyulmaz.</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>Çeviri kurulu değil.</translation>
     </message>
 </context>
 <context>
@@ -827,6 +1009,45 @@
     <message>
         <source>Messages</source>
         <translation>İletiler</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtDetails</name>
+    <message>
+        <source>own values</source>
+        <translation>kendi değerleri</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Nokta</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Hız</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Hız %1</translation>
+    </message>
+    <message>
+        <source>Zone %1</source>
+        <translation>Bölge %1</translation>
+    </message>
+    <message>
+        <source>Tool %1</source>
+        <translation>Takım %1</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Not</translation>
+    </message>
+    <message>
+        <source>Instruction %1: %2</source>
+        <translation>Komut %1: %2</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1246,33 @@
         <source>Instructions copied: %1. Paste puts them below a row.</source>
         <translation>Kopyalanan komut: %1. &quot;Yapıştır&quot; onları satırın altına koyar.</translation>
     </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: taught programs of %1 may be missing.</source>
+        <translation>Panelin belleği yanıt vermiyor: %1 içindeki öğretilmiş programlar eksik olabilir.</translation>
+    </message>
+    <message>
+        <source>No instruction is chosen. Touch one.</source>
+        <translation>Seçili komut yok. Birine dokunun.</translation>
+    </message>
+    <message>
+        <source>No instruction yet. MoveJ, MoveL and Text make one.</source>
+        <translation>Henüz komut yok. MoveJ, MoveL ve Metin bir tane ekler.</translation>
+    </message>
+</context>
+<context>
+    <name>TitleStrip</name>
+    <message>
+        <source>Panel and stick</source>
+        <translation>Panel ve bellek</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Lütfen bekleyin</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -1094,6 +1342,61 @@
     <message>
         <source>%1, whole</source>
         <translation>%1, tam sayı</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDetails</name>
+    <message>
+        <source>whole number</source>
+        <translation>tam sayı</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>sayı</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>metin</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on veya off</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Değer</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Dosyada</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>hiçbir şey</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tür</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Uzunluk</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Birim</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>yok</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>En az</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>En çok</translation>
     </message>
 </context>
 <context>
@@ -1205,6 +1508,14 @@
         <source>stored</source>
         <translation>kaydedildi</translation>
     </message>
+    <message>
+        <source>Values that are no variable&apos;s now, not brought back: %1.</source>
+        <translation>Değişkeni olmayan, geri getirilmeyen değerler: %1.</translation>
+    </message>
+    <message>
+        <source>No variable is chosen. Touch one.</source>
+        <translation>Seçili değişken yok. Birine dokunun.</translation>
+    </message>
 </context>
 <context>
     <name>WalkKeys</name>
@@ -1243,6 +1554,25 @@
     <message>
         <source>Last line</source>
         <translation>Son satır</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Durduruluyor ...</translation>
+    </message>
+    <message>
+        <source>%1 (more work: %2)</source>
+        <translation>%1 (diğer iş: %2)</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>%1 sn kaldı</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>%1 dk kaldı</translation>
     </message>
 </context>
 </TS>

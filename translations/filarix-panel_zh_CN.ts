@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Program: %1 %2</source>
+        <translation>程序:%1 %2</translation>
+    </message>
+    <message>
+        <source>Toolkit: Qt %1</source>
+        <translation>工具包:Qt %1</translation>
+    </message>
+    <message>
+        <source>Licences: MIT; toolkit LGPL 3</source>
+        <translation>许可证:MIT;工具包 LGPL 3</translation>
+    </message>
+    <message>
+        <source>Data: %1</source>
+        <translation>数据:%1</translation>
+    </message>
+    <message>
+        <source>Room left: %1</source>
+        <translation>剩余空间:%1</translation>
+    </message>
+</context>
+<context>
     <name>BarPager</name>
     <message>
         <source>More</source>
         <translation>更多</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPage</name>
+    <message>
+        <source>Clock</source>
+        <translation>时钟</translation>
+    </message>
+    <message>
+        <source>The system keeps the clock, and it is set there, not here.</source>
+        <translation>时钟由系统管理,在系统中设置,不在此处。</translation>
+    </message>
+    <message>
+        <source>Time zone: %1</source>
+        <translation>时区:%1</translation>
     </message>
 </context>
 <context>
@@ -108,6 +154,10 @@
         <source>Loading ...</source>
         <translation>正在加载...</translation>
     </message>
+    <message>
+        <source>TCP port</source>
+        <translation>TCP 端口</translation>
+    </message>
 </context>
 <context>
     <name>DownloadQuestion</name>
@@ -135,26 +185,6 @@
         <translation>导入导出</translation>
     </message>
     <message>
-        <source>Pick</source>
-        <translation>选择</translation>
-    </message>
-    <message>
-        <source>Stick</source>
-        <translation>U 盘</translation>
-    </message>
-    <message>
-        <source>Names</source>
-        <translation>文件名</translation>
-    </message>
-    <message>
-        <source>Programs</source>
-        <translation>程序</translation>
-    </message>
-    <message>
-        <source>Path</source>
-        <translation>路径</translation>
-    </message>
-    <message>
         <source>Files and stick</source>
         <translation>文件和 U 盘</translation>
     </message>
@@ -171,34 +201,6 @@
         <translation>选择路径</translation>
     </message>
     <message>
-        <source>In. Files: %1, </source>
-        <translation>已插入。文件: %1, </translation>
-    </message>
-    <message>
-        <source>Out. </source>
-        <translation>未插入。</translation>
-    </message>
-    <message>
-        <source>All are safe for the transfer</source>
-        <translation>均可安全传输</translation>
-    </message>
-    <message>
-        <source>Names that are not safe: %1</source>
-        <translation>不安全的文件名: %1</translation>
-    </message>
-    <message>
-        <source>Files: %1, </source>
-        <translation>文件: %1, </translation>
-    </message>
-    <message>
-        <source>%1 KB of %2 MB</source>
-        <translation>%1 KB, 共 %2 MB</translation>
-    </message>
-    <message>
-        <source>None picked yet</source>
-        <translation>尚未选择</translation>
-    </message>
-    <message>
         <source>simulated: %1</source>
         <translation>模拟:%1</translation>
     </message>
@@ -211,20 +213,100 @@
         <translation>U 盘无应答。</translation>
     </message>
     <message>
-        <source>Does not answer. </source>
-        <translation>无应答。</translation>
-    </message>
-    <message>
-        <source>Loading ...</source>
-        <translation>正在加载...</translation>
-    </message>
-    <message>
         <source>The panel&apos;s storage does not answer.</source>
         <translation>面板存储器无应答。</translation>
     </message>
     <message>
         <source>To try a stick, start the panel by &quot;./run --stick DIR&quot;.</source>
         <translation>要试用 U 盘, 请用“./run --stick DIR”启动面板。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>%1 is checked: %2 %</source>
+        <translation>正在检查 %1: %2 %</translation>
+    </message>
+    <message>
+        <source>The check of %1 was stopped.</source>
+        <translation>%1 的检查已停止。</translation>
+    </message>
+    <message>
+        <source>%1 was not checked: its storage does not answer.</source>
+        <translation>%1 未检查: 其存储器无应答。</translation>
+    </message>
+    <message>
+        <source>Touch a program: its facts and its coil are shown here.</source>
+        <translation>点按一个程序, 此处显示其信息和线圈。</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>正在读取 %1 ...</translation>
+    </message>
+    <message>
+        <source>%1 is read: %2 %</source>
+        <translation>正在读取 %1: %2 %</translation>
+    </message>
+    <message>
+        <source>Too long for a picture here. Open it to see its coil.</source>
+        <translation>太长, 此处无法绘图。打开后可查看线圈。</translation>
+    </message>
+    <message>
+        <source>This program winds no wire.</source>
+        <translation>此程序不绕线。</translation>
+    </message>
+    <message>
+        <source>%1 could not be checked to its end.</source>
+        <translation>%1 未能检查到结尾。</translation>
+    </message>
+    <message>
+        <source>%1: nothing found.</source>
+        <translation>%1: 未发现问题。</translation>
+    </message>
+    <message>
+        <source>%1: %2. Open it to see where.</source>
+        <translation>%1: %2。打开后可查看位置。</translation>
+    </message>
+    <message>
+        <source>Unsafe names: %1</source>
+        <translation>不安全的文件名: %1</translation>
+    </message>
+    <message>
+        <source>Stick: looking ...</source>
+        <translation>U盘: 正在查看 ...</translation>
+    </message>
+    <message>
+        <source>Stick: in, files: %1</source>
+        <translation>U盘: 已插入, 文件: %1</translation>
+    </message>
+    <message>
+        <source>Stick: out</source>
+        <translation>U盘:未插入</translation>
+    </message>
+    <message>
+        <source>Programs: looking ...</source>
+        <translation>程序: 正在查看 ...</translation>
+    </message>
+    <message>
+        <source>Programs: %1, %2 KB of %3 MB</source>
+        <translation>程序: %1, %2 KB / %3 MB</translation>
+    </message>
+    <message>
+        <source>All names are safe for the transfer.</source>
+        <translation>所有文件名均可安全传输。</translation>
+    </message>
+    <message>
+        <source>Names that are not safe: %1. Rename them by the key Rename.</source>
+        <translation>不安全的文件名: %1。请用重命名键重命名。</translation>
     </message>
 </context>
 <context>
@@ -263,14 +345,6 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Page up</source>
-        <translation>上一页</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>下一页</translation>
     </message>
 </context>
 <context>
@@ -311,47 +385,12 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>上一页</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>下一页</translation>
-    </message>
 </context>
 <context>
     <name>KnownRows</name>
     <message>
         <source>%1 was changed by somebody else.</source>
         <translation>%1 已被他人更改。</translation>
-    </message>
-</context>
-<context>
-    <name>LanguagePicker</name>
-    <message>
-        <source>Language</source>
-        <translation>语言</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>Light colours</source>
-        <translation>浅色</translation>
-    </message>
-    <message>
-        <source>Dark colours</source>
-        <translation>深色</translation>
-    </message>
-    <message>
-        <source>Text size</source>
-        <translation>字号</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -406,14 +445,6 @@
         <source>There was nothing to tell yet.</source>
         <translation>还没有消息。</translation>
     </message>
-    <message>
-        <source>Page up</source>
-        <translation>上一页</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>下一页</translation>
-    </message>
 </context>
 <context>
     <name>MovementLimits</name>
@@ -425,6 +456,25 @@
         <source>Instruction %1, %2</source>
         <translation>指令 %1, %2</translation>
     </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>remark</source>
+        <translation>备注</translation>
+    </message>
+</context>
+<context>
+    <name>PageKeys</name>
+    <message>
+        <source>Page up</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一页</translation>
+    </message>
 </context>
 <context>
     <name>PanelProgram</name>
@@ -435,6 +485,17 @@
     <message>
         <source>Another panel works on the same programs. This one does not start.</source>
         <translation>另一个面板正在使用相同的程序。此面板不启动。</translation>
+    </message>
+    <message>
+        <source>%1 is read and checked: %2 %</source>
+        <translation>正在读取并检查 %1: %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>PanelScreen</name>
+    <message>
+        <source>changed</source>
+        <translation>已更改</translation>
     </message>
 </context>
 <context>
@@ -468,12 +529,12 @@
         <translation>%1[*] - 绕线机面板</translation>
     </message>
     <message>
-        <source>The translation is not installed.</source>
-        <translation>未安装该语言的翻译。</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>预览</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
     </message>
 </context>
 <context>
@@ -550,12 +611,50 @@
         <source>Line %1</source>
         <translation>第%1行</translation>
     </message>
+    <message>
+        <source>Stopped at %1 %</source>
+        <translation>停止于 %1 %</translation>
+    </message>
+    <message>
+        <source>The reading was stopped. The next change begins it anew.</source>
+        <translation>读取已停止。下次更改时重新开始。</translation>
+    </message>
 </context>
 <context>
     <name>PreviewScreen</name>
     <message>
         <source>Coil of %1</source>
         <translation>%1 的线圈</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramList</name>
+    <message>
+        <source>Programs</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>The panel&apos;s storage does not answer. The programs come once it does.</source>
+        <translation>面板存储器无应答。恢复应答后程序将出现。</translation>
+    </message>
+    <message>
+        <source>Reading the programs ...</source>
+        <translation>正在读取程序列表 ...</translation>
+    </message>
+    <message>
+        <source>The folder of the programs cannot be read: %1.</source>
+        <translation>无法读取程序文件夹: %1。</translation>
+    </message>
+    <message>
+        <source>No programs yet. Write one on the screen Program, or bring some from the stick by I/E.</source>
+        <translation>还没有程序。请在“程序”界面编写, 或用导入导出从 U盘取得。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramPicture</name>
+    <message>
+        <source>Coil</source>
+        <translation>线圈</translation>
     </message>
 </context>
 <context>
@@ -575,6 +674,10 @@
     <message>
         <source>Errors: %1, warnings: %2</source>
         <translation>错误：%1，警告：%2</translation>
+    </message>
+    <message>
+        <source>The check was stopped. The next change, or the screen Preview, begins it anew.</source>
+        <translation>检查已停止。下次更改或打开预览时重新开始。</translation>
     </message>
 </context>
 <context>
@@ -623,6 +726,22 @@
         <source>Coil</source>
         <translation>线圈</translation>
     </message>
+    <message>
+        <source>The program is loaded: %1 %</source>
+        <translation>正在载入程序: %1 %</translation>
+    </message>
+    <message>
+        <source>downloading</source>
+        <translation>正在下载</translation>
+    </message>
+    <message>
+        <source>not stored</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>stored</source>
+        <translation>已保存</translation>
+    </message>
 </context>
 <context>
     <name>Settings</name>
@@ -637,6 +756,69 @@
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>
         <translation>设置无法保存到 %1。您的选择在程序结束前有效。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>高对比度</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>字号</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Texts grow as far as each screen has room.</source>
+        <translation>文字按屏幕的空间放大。</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>声音</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>The display&apos;s bell at each touch of a key.</source>
+        <translation>每次按键时显示屏响一声。</translation>
+    </message>
+    <message>
+        <source>This display has no bell: nothing is heard.</source>
+        <translation>此显示屏没有铃声:听不到声音。</translation>
+    </message>
+    <message>
+        <source>The translation is not installed.</source>
+        <translation>未安装该语言的翻译。</translation>
     </message>
 </context>
 <context>
@@ -827,6 +1009,45 @@
     <message>
         <source>Messages</source>
         <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>TaughtDetails</name>
+    <message>
+        <source>own values</source>
+        <translation>自有数值</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>速度 %1</translation>
+    </message>
+    <message>
+        <source>Zone %1</source>
+        <translation>区域 %1</translation>
+    </message>
+    <message>
+        <source>Tool %1</source>
+        <translation>工具 %1</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Instruction %1: %2</source>
+        <translation>指令 %1: %2</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1246,33 @@
         <source>Instructions copied: %1. Paste puts them below a row.</source>
         <translation>已复制指令: %1。“粘贴”将其放在行下。</translation>
     </message>
+    <message>
+        <source>The panel&apos;s storage does not answer: taught programs of %1 may be missing.</source>
+        <translation>面板存储器无应答: %1 的示教程序可能缺失。</translation>
+    </message>
+    <message>
+        <source>No instruction is chosen. Touch one.</source>
+        <translation>未选择指令。请点按一条。</translation>
+    </message>
+    <message>
+        <source>No instruction yet. MoveJ, MoveL and Text make one.</source>
+        <translation>还没有指令。MoveJ、MoveL 和文本可添加。</translation>
+    </message>
+</context>
+<context>
+    <name>TitleStrip</name>
+    <message>
+        <source>Panel and stick</source>
+        <translation>面板和 U 盘</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>请稍候</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>Tour</name>
@@ -1094,6 +1342,61 @@
     <message>
         <source>%1, whole</source>
         <translation>%1, 整数</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDetails</name>
+    <message>
+        <source>whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on 或 off</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>文件中</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大</translation>
     </message>
 </context>
 <context>
@@ -1205,6 +1508,14 @@
         <source>stored</source>
         <translation>已保存</translation>
     </message>
+    <message>
+        <source>Values that are no variable&apos;s now, not brought back: %1.</source>
+        <translation>没有对应变量、未恢复的数值: %1。</translation>
+    </message>
+    <message>
+        <source>No variable is chosen. Touch one.</source>
+        <translation>未选择变量。请点按一个。</translation>
+    </message>
 </context>
 <context>
     <name>WalkKeys</name>
@@ -1243,6 +1554,25 @@
     <message>
         <source>Last line</source>
         <translation>最后一行</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Stopping ...</source>
+        <translation>正在停止 ...</translation>
+    </message>
+    <message>
+        <source>%1 (more work: %2)</source>
+        <translation>%1 (其他任务: %2)</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>剩余 %1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>剩余 %1 分钟</translation>
     </message>
 </context>
 </TS>

@@ -24,12 +24,12 @@
         <translation>%1 ist in der SPS: %2 Bytes, verglichen.</translation>
     </message>
     <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel hat es sich seither geändert: erneut senden, um das neue zu senden.</translation>
-    </message>
-    <message>
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel ist es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as shown, %2. On the panel it has changed since: download it once more.</source>
+        <translation>%1 ist wie gezeigt in der SPS, %2. Auf dem Panel ist es seither geändert: erneut senden.</translation>
     </message>
 </context>
 <context>
@@ -619,10 +619,6 @@
         <translation>Die Kopie von %1 weicht vom Original ab. Ist noch Platz? Noch einmal kopieren.</translation>
     </message>
     <message>
-        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
-        <translation>Die Übertragung würde diese Dateinamen falsch verstehen. Bis sie umbenannt sind, wird nichts kopiert oder gelöscht.</translation>
-    </message>
-    <message>
         <source>Leave them</source>
         <translation>So lassen</translation>
     </message>
@@ -631,16 +627,20 @@
         <translation>Umbenennen</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 Der jetzige Stand von %2 ginge verloren.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>Trotzdem</translation>
+    </message>
+    <message>
+        <source>The transfer cannot take these file names. Nothing is copied or deleted until they are renamed.</source>
+        <translation>Die Übertragung kann diese Dateinamen nicht. Bis sie umbenannt sind, wird nichts kopiert oder gelöscht.</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>Der jetzige Stand von %1 ginge verloren.</translation>
     </message>
 </context>
 <context>
@@ -815,6 +815,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Not read to its end: it was stopped.</source>
+        <translation>Nicht zu Ende gelesen: es wurde gestoppt.</translation>
+    </message>
+    <message>
+        <source>Runs for %1</source>
+        <translation>Läuft %1</translation>
+    </message>
 </context>
 <context>
     <name>PickerFitting</name>
@@ -830,8 +838,8 @@
 <context>
     <name>PickerGuard</name>
     <message>
-        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
-        <translation>%1 ist an den Namen angefügt. Mit OK übernehmen oder wieder entfernen.</translation>
+        <source>%1 is now at the end of the name. Press OK once more, or change the name.</source>
+        <translation>Der Name endet jetzt mit %1. Noch einmal OK drücken oder den Namen ändern.</translation>
     </message>
 </context>
 <context>
@@ -915,6 +923,10 @@
         <source>Changed</source>
         <translation>Geändert</translation>
     </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
 </context>
 <context>
     <name>PlcTransfer</name>
@@ -947,10 +959,6 @@
         <translation>Vor dem Vergleich mit der SPS gestoppt. Das Programm erneut senden.</translation>
     </message>
     <message>
-        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
-        <translation>Die SPS antwortet mitten im Senden nicht mehr. SPS und Kabel prüfen, dann erneut senden.</translation>
-    </message>
-    <message>
         <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
         <translation>Die Kopie von %1 hat sich seit dem Anzeigen geändert und wurde nicht gesendet. Erneut senden.</translation>
     </message>
@@ -963,16 +971,20 @@
         <translation>%1 in der SPS weicht vom Gesendeten ab. Nicht starten; erneut senden.</translation>
     </message>
     <message>
-        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
-        <translation>Die SPS hat noch nicht gemeldet, was aus der letzten Übertragung wurde. Abwarten oder SPS aus- und einschalten, dann erneut senden.</translation>
+        <source>The last download has not ended yet. Wait, or switch the PLC off and on, then download once more.</source>
+        <translation>Die letzte Übertragung ist noch nicht zu Ende. Abwarten oder SPS aus- und einschalten, dann erneut senden.</translation>
     </message>
     <message>
-        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
-        <translation>Die SPS antwortet bei der Übernahme von %1 nicht mehr: Ob sie das alte oder das neue hält, ist unbekannt. SPS prüfen, dann erneut senden.</translation>
+        <source>The PLC stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>Die SPS antwortet nicht mehr: Ob sie %1 hat, ist unbekannt. SPS prüfen, dann erneut senden.</translation>
     </message>
     <message>
-        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
-        <translation>%1 ist in der SPS, doch sie antwortet seit vor dem Vergleich nicht mehr. SPS prüfen, dann erneut senden.</translation>
+        <source>%1 is in the PLC but not compared: the PLC stopped answering. Check the PLC, then download again.</source>
+        <translation>%1 ist in der SPS, aber nicht verglichen: keine Antwort mehr. SPS prüfen, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering during the download. Check the PLC and its cable, then download once more.</source>
+        <translation>Die SPS antwortet mitten im Senden nicht mehr. SPS und Kabel prüfen, dann erneut senden.</translation>
     </message>
 </context>
 <context>
@@ -1034,10 +1046,6 @@
         <translation>Speichern unter</translation>
     </message>
     <message>
-        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
-        <translation>%1 ist schon da: %2 Zeilen, vom %3. Mit diesem Programm überschreiben, %4 Zeilen?</translation>
-    </message>
-    <message>
         <source>Write over it</source>
         <translation>Überschreiben</translation>
     </message>
@@ -1056,6 +1064,14 @@
     <message>
         <source>%1 could not be removed: it is still there.</source>
         <translation>%1 ließ sich nicht löschen: Es ist noch da.</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it?</source>
+        <translation>%1 ist schon da: %2 Zeilen, vom %3. Mit diesem Programm überschreiben?</translation>
+    </message>
+    <message>
+        <source>This program: %1 lines</source>
+        <translation>Dieses Programm: %1 Zeilen</translation>
     </message>
 </context>
 <context>
@@ -1113,12 +1129,12 @@
         <translation>Der Verlauf hat %1 noch nicht gesichert.</translation>
     </message>
     <message>
-        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
-        <translation>%1 wurde nicht zurückgeholt: Der Speicher des Panels hat das letzte Zurückholen noch nicht beendet. Das Panel aus- und einschalten.</translation>
+        <source>%1 was not brought back: the last restore has not ended yet. Switch the panel off and on.</source>
+        <translation>%1 wurde nicht zurückgeholt: Das letzte Zurückholen läuft noch. Das Panel aus- und einschalten.</translation>
     </message>
     <message>
-        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
-        <translation>Der Speicher des Panels antwortet beim Zurückholen von %1 nicht mehr: Welche Fassung es jetzt ist, ist unbekannt. Das Panel aus- und einschalten.</translation>
+        <source>The panel&apos;s storage stopped answering: the version of %1 is not known. Switch the panel off and on.</source>
+        <translation>Der Speicher des Panels antwortet nicht mehr: Fassung von %1 unbekannt. Panel aus- und einschalten.</translation>
     </message>
 </context>
 <context>
@@ -1132,16 +1148,16 @@
         <translation>Verlauf</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 Der jetzige Stand von %2 ginge verloren.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>Trotzdem</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>Der jetzige Stand von %1 ginge verloren.</translation>
     </message>
 </context>
 <context>
@@ -1181,10 +1197,6 @@
 <context>
     <name>ProgramState</name>
     <message>
-        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
-        <translation>%1 Zeilen in der Datei, %2 gezeigt: ohne Kommentare und Leerzeilen</translation>
-    </message>
-    <message>
         <source>Not compared with the file: %1</source>
         <translation>Nicht mit der Datei verglichen: %1</translation>
     </message>
@@ -1205,10 +1217,6 @@
         <translation>%1 ist nicht gespeichert: %2</translation>
     </message>
     <message>
-        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
-        <translation>%1 hat %2 Zeilen in der Datei, gezeigt sind %3. Sichern nimmt Kommentare und Leerzeilen aus der Datei.</translation>
-    </message>
-    <message>
         <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
         <translation>%1 ist anders gezeigt, als die Datei es hat. Sichern ersetzt die Datei durch das Gezeigte.</translation>
     </message>
@@ -1217,8 +1225,16 @@
         <translation>%1 ist nicht gespeichert: %2. Erst sichern.</translation>
     </message>
     <message>
-        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
-        <translation>Nur ein Teil von %1 ist da: Sichern oder Senden verlöre den Rest. Erneut öffnen oder den Teil unter anderem Namen sichern.</translation>
+        <source>%1 lines in the file, %2 shown: no comments, no empty lines</source>
+        <translation>%1 Zeilen in der Datei, %2 gezeigt: ohne Kommentare, Leerzeilen</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines, %3 are shown. Saving takes out its comments and empty lines.</source>
+        <translation>%1 hat %2 Zeilen, gezeigt sind %3. Sichern entfernt Kommentare und Leerzeilen.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending loses the rest. Open it again, or take another name.</source>
+        <translation>Nur ein Teil von %1 ist da: Sichern oder Senden verliert den Rest. Neu öffnen oder anderer Name.</translation>
     </message>
 </context>
 <context>
@@ -1346,10 +1362,6 @@
         <translation>Sichern</translation>
     </message>
     <message>
-        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
-        <translation>%1 ist nicht gespeichert: %2. Das ganze Programm steht nur im Editor.</translation>
-    </message>
-    <message>
         <source>Later</source>
         <translation>Später</translation>
     </message>
@@ -1376,6 +1388,10 @@
     <message>
         <source>neither here nor on the stick, whose file differs</source>
         <translation>weder hier noch auf dem Stick, dessen Datei abweicht</translation>
+    </message>
+    <message>
+        <source>%1 is not stored. The whole program is only in the editor.</source>
+        <translation>%1 ist nicht gespeichert. Das ganze Programm steht nur im Editor.</translation>
     </message>
 </context>
 <context>

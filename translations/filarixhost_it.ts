@@ -24,12 +24,12 @@
         <translation>%1 è nel PLC: %2 byte, confrontati.</translation>
     </message>
     <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 è nel PLC come mostrato, %2. Sul pannello è cambiato da allora: inviarlo di nuovo per inviare il nuovo.</translation>
-    </message>
-    <message>
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 è nel PLC come mostrato, %2. Sul pannello non c&apos;è più.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as shown, %2. On the panel it has changed since: download it once more.</source>
+        <translation>%1 è nel PLC come mostrato, %2. Sul pannello è cambiato da allora: inviarlo di nuovo.</translation>
     </message>
 </context>
 <context>
@@ -619,10 +619,6 @@
         <translation>La copia di %1 è diversa dall&apos;originale. C&apos;è ancora spazio? Copiarlo di nuovo.</translation>
     </message>
     <message>
-        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
-        <translation>Il trasferimento interpreterebbe male questi nomi di file. Finché non sono rinominati, nulla viene copiato o eliminato.</translation>
-    </message>
-    <message>
         <source>Leave them</source>
         <translation>Lascia così</translation>
     </message>
@@ -631,16 +627,20 @@
         <translation>Rinomina</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 Lo stato attuale di %2 andrebbe perso.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>Comunque</translation>
+    </message>
+    <message>
+        <source>The transfer cannot take these file names. Nothing is copied or deleted until they are renamed.</source>
+        <translation>Il trasferimento non accetta questi nomi. Finché non sono rinominati, nulla viene copiato o eliminato.</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>Lo stato attuale di %1 andrebbe perso.</translation>
     </message>
 </context>
 <context>
@@ -815,6 +815,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Not read to its end: it was stopped.</source>
+        <translation>Non letto fino alla fine: è stato fermato.</translation>
+    </message>
+    <message>
+        <source>Runs for %1</source>
+        <translation>Dura %1</translation>
+    </message>
 </context>
 <context>
     <name>PickerFitting</name>
@@ -830,8 +838,8 @@
 <context>
     <name>PickerGuard</name>
     <message>
-        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
-        <translation>%1 è aggiunto al nome. Premere OK per accettare, o toglierlo.</translation>
+        <source>%1 is now at the end of the name. Press OK once more, or change the name.</source>
+        <translation>Il nome ora finisce con %1. Premere di nuovo OK, o cambiare il nome.</translation>
     </message>
 </context>
 <context>
@@ -915,6 +923,10 @@
         <source>Changed</source>
         <translation>Modificato</translation>
     </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
 </context>
 <context>
     <name>PlcTransfer</name>
@@ -947,10 +959,6 @@
         <translation>Invio interrotto prima del confronto nel PLC. Inviare di nuovo il programma.</translation>
     </message>
     <message>
-        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
-        <translation>Il PLC non risponde più durante l&apos;invio. Controllare il PLC e il cavo, poi inviare di nuovo.</translation>
-    </message>
-    <message>
         <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
         <translation>La copia di %1 è cambiata da quando è stata mostrata e non è stata inviata. Inviare di nuovo.</translation>
     </message>
@@ -963,16 +971,20 @@
         <translation>%1 nel PLC è diverso da quanto inviato. Non eseguirlo; inviare di nuovo.</translation>
     </message>
     <message>
-        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
-        <translation>Il PLC non ha ancora comunicato l&apos;esito dell&apos;ultimo invio. Attendere, o spegnere e riaccendere il PLC, poi inviare di nuovo.</translation>
+        <source>The last download has not ended yet. Wait, or switch the PLC off and on, then download once more.</source>
+        <translation>L&apos;ultimo invio non è ancora finito. Attendere, o spegnere e riaccendere il PLC, poi inviare di nuovo.</translation>
     </message>
     <message>
-        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
-        <translation>Il PLC non risponde più mentre riceveva %1: non si sa se contiene il vecchio o il nuovo. Controllare il PLC, poi inviare di nuovo.</translation>
+        <source>The PLC stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>Il PLC non risponde più: non si sa se contiene %1. Controllarlo, poi inviare di nuovo.</translation>
     </message>
     <message>
-        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
-        <translation>%1 è nel PLC, ma il PLC non risponde più da prima del confronto. Controllare il PLC, poi inviare di nuovo.</translation>
+        <source>%1 is in the PLC but not compared: the PLC stopped answering. Check the PLC, then download again.</source>
+        <translation>%1 è nel PLC ma non confrontato: il PLC non risponde più. Controllarlo, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering during the download. Check the PLC and its cable, then download once more.</source>
+        <translation>Il PLC non risponde più durante l&apos;invio. Controllare il PLC e il cavo, poi inviare di nuovo.</translation>
     </message>
 </context>
 <context>
@@ -1034,10 +1046,6 @@
         <translation>Salva con nome</translation>
     </message>
     <message>
-        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
-        <translation>%1 esiste già: %2 righe, del %3. Sovrascriverlo con questo programma, %4 righe?</translation>
-    </message>
-    <message>
         <source>Write over it</source>
         <translation>Sovrascrivi</translation>
     </message>
@@ -1056,6 +1064,14 @@
     <message>
         <source>%1 could not be removed: it is still there.</source>
         <translation>Impossibile eliminare %1: c&apos;è ancora.</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it?</source>
+        <translation>%1 esiste già: %2 righe, del %3. Sovrascriverlo con questo programma?</translation>
+    </message>
+    <message>
+        <source>This program: %1 lines</source>
+        <translation>Questo programma: %1 righe</translation>
     </message>
 </context>
 <context>
@@ -1113,12 +1129,12 @@
         <translation>Lo storico non ha ancora salvato %1.</translation>
     </message>
     <message>
-        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
-        <translation>%1 non è stato ripristinato: la memoria del pannello non ha ancora finito l&apos;ultimo ripristino. Spegnere e riaccendere il pannello.</translation>
+        <source>%1 was not brought back: the last restore has not ended yet. Switch the panel off and on.</source>
+        <translation>%1 non è stato ripristinato: l&apos;ultimo ripristino non è finito. Spegnere e riaccendere il pannello.</translation>
     </message>
     <message>
-        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
-        <translation>La memoria del pannello non risponde più durante il ripristino di %1: non si sa quale versione sia ora. Spegnere e riaccendere il pannello.</translation>
+        <source>The panel&apos;s storage stopped answering: the version of %1 is not known. Switch the panel off and on.</source>
+        <translation>La memoria del pannello non risponde più: versione di %1 ignota. Spegnere e riaccendere il pannello.</translation>
     </message>
 </context>
 <context>
@@ -1132,16 +1148,16 @@
         <translation>Storico</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 Lo stato attuale di %2 andrebbe perso.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>Comunque</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>Lo stato attuale di %1 andrebbe perso.</translation>
     </message>
 </context>
 <context>
@@ -1181,10 +1197,6 @@
 <context>
     <name>ProgramState</name>
     <message>
-        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
-        <translation>%1 righe nel file, %2 mostrate: senza commenti e righe vuote</translation>
-    </message>
-    <message>
         <source>Not compared with the file: %1</source>
         <translation>Non confrontato con il file: %1</translation>
     </message>
@@ -1205,10 +1217,6 @@
         <translation>%1 non è salvato: %2</translation>
     </message>
     <message>
-        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
-        <translation>%1 ha %2 righe nel file, %3 mostrate. Salvando, commenti e righe vuote spariscono dal file.</translation>
-    </message>
-    <message>
         <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
         <translation>%1 è mostrato diversamente dal file. Salvando, il file è sostituito da quanto mostrato.</translation>
     </message>
@@ -1217,8 +1225,16 @@
         <translation>%1 non è salvato: %2. Salvarlo prima.</translation>
     </message>
     <message>
-        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
-        <translation>Solo una parte di %1 è presente: salvando o inviando si perderebbe il resto. Riaprirlo, o salvare la parte con un altro nome.</translation>
+        <source>%1 lines in the file, %2 shown: no comments, no empty lines</source>
+        <translation>%1 righe nel file, %2 mostrate: senza commenti e righe vuote</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines, %3 are shown. Saving takes out its comments and empty lines.</source>
+        <translation>%1 ha %2 righe, %3 mostrate. Salvando spariscono commenti e righe vuote.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending loses the rest. Open it again, or take another name.</source>
+        <translation>Solo una parte di %1 è presente: salvando o inviando si perde il resto. Riaprirlo, o altro nome.</translation>
     </message>
 </context>
 <context>
@@ -1346,10 +1362,6 @@
         <translation>Salva</translation>
     </message>
     <message>
-        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
-        <translation>%1 non è salvato: %2. Il programma completo è solo nell&apos;editor.</translation>
-    </message>
-    <message>
         <source>Later</source>
         <translation>Più tardi</translation>
     </message>
@@ -1376,6 +1388,10 @@
     <message>
         <source>neither here nor on the stick, whose file differs</source>
         <translation>né qui né sulla chiavetta, il cui file è diverso</translation>
+    </message>
+    <message>
+        <source>%1 is not stored. The whole program is only in the editor.</source>
+        <translation>%1 non è salvato. Il programma completo è solo nell&apos;editor.</translation>
     </message>
 </context>
 <context>

@@ -24,12 +24,12 @@
         <translation>%1 PLC&apos;de: %2 bayt, karşılaştırıldı.</translation>
     </message>
     <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde o zamandan beri değişti: yenisi için yeniden yükleyin.</translation>
-    </message>
-    <message>
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde artık yok.</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as shown, %2. On the panel it has changed since: download it once more.</source>
+        <translation>%1 gösterildiği gibi PLC&apos;de, %2. Panelde o zamandan beri değişti: yeniden yükleyin.</translation>
     </message>
 </context>
 <context>
@@ -619,10 +619,6 @@
         <translation>%1 kopyası aslından farklı. Yer var mı? Yeniden kopyalayın.</translation>
     </message>
     <message>
-        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
-        <translation>Aktarım bu dosya adlarını yanlış anlar. Adlar değiştirilene kadar hiçbir şey kopyalanmaz veya silinmez.</translation>
-    </message>
-    <message>
         <source>Leave them</source>
         <translation>Böyle kalsın</translation>
     </message>
@@ -631,16 +627,20 @@
         <translation>Adlandır</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 %2 dosyasının şimdiki hâli kaybolur.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>İptal</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>Yine de</translation>
+    </message>
+    <message>
+        <source>The transfer cannot take these file names. Nothing is copied or deleted until they are renamed.</source>
+        <translation>Aktarım bu dosya adlarını alamaz. Adlar değişene kadar hiçbir şey kopyalanmaz veya silinmez.</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>%1 dosyasının şimdiki hâli kaybolur.</translation>
     </message>
 </context>
 <context>
@@ -815,6 +815,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Not read to its end: it was stopped.</source>
+        <translation>Sonuna kadar okunmadı: durduruldu.</translation>
+    </message>
+    <message>
+        <source>Runs for %1</source>
+        <translation>Süre: %1</translation>
+    </message>
 </context>
 <context>
     <name>PickerFitting</name>
@@ -830,8 +838,8 @@
 <context>
     <name>PickerGuard</name>
     <message>
-        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
-        <translation>Ada %1 eklendi. Kabul için Tamam&apos;a basın ya da silin.</translation>
+        <source>%1 is now at the end of the name. Press OK once more, or change the name.</source>
+        <translation>Adın sonunda artık %1 var. Yeniden Tamam&apos;a basın ya da adı değiştirin.</translation>
     </message>
 </context>
 <context>
@@ -915,6 +923,10 @@
         <source>Changed</source>
         <translation>Değişme</translation>
     </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
 </context>
 <context>
     <name>PlcTransfer</name>
@@ -947,10 +959,6 @@
         <translation>Yükleme, PLC&apos;deki program karşılaştırılmadan durduruldu. Yeniden yükleyin.</translation>
     </message>
     <message>
-        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
-        <translation>PLC yükleme sırasında yanıt vermeyi kesti. PLC&apos;yi ve kablosunu denetleyip yeniden yükleyin.</translation>
-    </message>
-    <message>
         <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
         <translation>%1 kopyası gösterildikten sonra değişti, yüklenmedi. Yeniden yükleyin.</translation>
     </message>
@@ -963,16 +971,20 @@
         <translation>PLC&apos;deki %1 gönderilenden farklı. Çalıştırmayın; yeniden yükleyin.</translation>
     </message>
     <message>
-        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
-        <translation>PLC son yüklemenin sonucunu henüz bildirmedi. Bekleyin ya da PLC&apos;yi kapatıp açın, sonra yeniden yükleyin.</translation>
+        <source>The last download has not ended yet. Wait, or switch the PLC off and on, then download once more.</source>
+        <translation>Son yükleme henüz bitmedi. Bekleyin ya da PLC&apos;yi kapatıp açın, sonra yeniden yükleyin.</translation>
     </message>
     <message>
-        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
-        <translation>PLC %1 alınırken yanıt vermeyi kesti: eskisi mi yenisi mi içinde, bilinmiyor. PLC&apos;yi denetleyip yeniden yükleyin.</translation>
+        <source>The PLC stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>PLC yanıt vermeyi kesti: %1 içinde mi, bilinmiyor. PLC&apos;yi denetleyip yeniden yükleyin.</translation>
     </message>
     <message>
-        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
-        <translation>%1 PLC&apos;de, ama PLC karşılaştırmadan önce yanıt vermeyi kesti. PLC&apos;yi denetleyip yeniden yükleyin.</translation>
+        <source>%1 is in the PLC but not compared: the PLC stopped answering. Check the PLC, then download again.</source>
+        <translation>%1 PLC&apos;de ama karşılaştırılmadı: PLC yanıt vermeyi kesti. PLC&apos;yi denetleyip yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering during the download. Check the PLC and its cable, then download once more.</source>
+        <translation>PLC yükleme sırasında yanıt vermeyi kesti. PLC&apos;yi ve kablosunu denetleyip yeniden yükleyin.</translation>
     </message>
 </context>
 <context>
@@ -1034,10 +1046,6 @@
         <translation>Farklı kaydet</translation>
     </message>
     <message>
-        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
-        <translation>%1 zaten var: %2 satır, %3 tarihli. Üzerine bu program yazılsın mı, %4 satır?</translation>
-    </message>
-    <message>
         <source>Write over it</source>
         <translation>Üzerine yaz</translation>
     </message>
@@ -1056,6 +1064,14 @@
     <message>
         <source>%1 could not be removed: it is still there.</source>
         <translation>%1 silinemedi: hâlâ duruyor.</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it?</source>
+        <translation>%1 zaten var: %2 satır, %3 tarihli. Üzerine bu program yazılsın mı?</translation>
+    </message>
+    <message>
+        <source>This program: %1 lines</source>
+        <translation>Bu program: %1 satır</translation>
     </message>
 </context>
 <context>
@@ -1113,12 +1129,12 @@
         <translation>Geçmiş %1 dosyasını henüz saklamadı.</translation>
     </message>
     <message>
-        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
-        <translation>%1 geri alınmadı: panelin belleği son geri almayı henüz bitirmedi. Paneli kapatıp açın.</translation>
+        <source>%1 was not brought back: the last restore has not ended yet. Switch the panel off and on.</source>
+        <translation>%1 geri alınmadı: son geri alma henüz bitmedi. Paneli kapatıp açın.</translation>
     </message>
     <message>
-        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
-        <translation>%1 geri alınırken panelin belleği yanıt vermeyi kesti: şimdi hangi sürüm olduğu bilinmiyor. Paneli kapatıp açın.</translation>
+        <source>The panel&apos;s storage stopped answering: the version of %1 is not known. Switch the panel off and on.</source>
+        <translation>Panelin belleği yanıt vermeyi kesti: %1 dosyasının sürümü bilinmiyor. Paneli kapatıp açın.</translation>
     </message>
 </context>
 <context>
@@ -1132,16 +1148,16 @@
         <translation>Geçmiş</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 %2 dosyasının şimdiki hâli kaybolur.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>İptal</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>Yine de</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>%1 dosyasının şimdiki hâli kaybolur.</translation>
     </message>
 </context>
 <context>
@@ -1181,10 +1197,6 @@
 <context>
     <name>ProgramState</name>
     <message>
-        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
-        <translation>Dosyada %1 satır, ekranda %2: yorumlar ve boş satırlar atlandı</translation>
-    </message>
-    <message>
         <source>Not compared with the file: %1</source>
         <translation>Dosyayla karşılaştırılmadı: %1</translation>
     </message>
@@ -1205,10 +1217,6 @@
         <translation>%1 kaydedilmedi: %2</translation>
     </message>
     <message>
-        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
-        <translation>%1 dosyada %2 satır, ekranda %3. Kaydetmek yorumları ve boş satırları dosyadan siler.</translation>
-    </message>
-    <message>
         <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
         <translation>%1 dosyadakinden farklı gösteriliyor. Kaydetmek dosyayı gösterilenle değiştirir.</translation>
     </message>
@@ -1217,8 +1225,16 @@
         <translation>%1 kaydedilmedi: %2. Önce kaydedin.</translation>
     </message>
     <message>
-        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
-        <translation>%1 programının yalnız bir kısmı burada: kaydetmek ya da yüklemek kalanını kaybettirir. Yeniden açın ya da kısmı başka adla kaydedin.</translation>
+        <source>%1 lines in the file, %2 shown: no comments, no empty lines</source>
+        <translation>Dosyada %1 satır, ekranda %2: yorumlar, boş satırlar yok</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines, %3 are shown. Saving takes out its comments and empty lines.</source>
+        <translation>%1 dosyasında %2 satır, ekranda %3. Kaydetmek yorumları ve boş satırları siler.</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending loses the rest. Open it again, or take another name.</source>
+        <translation>%1 yalnız kısmen burada: kaydetmek ya da yüklemek kalanı siler. Yeniden açın ya da başka ad verin.</translation>
     </message>
 </context>
 <context>
@@ -1346,10 +1362,6 @@
         <translation>Kaydet</translation>
     </message>
     <message>
-        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
-        <translation>%1 kaydedilmedi: %2. Programın tamamı yalnız düzenleyicide.</translation>
-    </message>
-    <message>
         <source>Later</source>
         <translation>Sonra</translation>
     </message>
@@ -1376,6 +1388,10 @@
     <message>
         <source>neither here nor on the stick, whose file differs</source>
         <translation>ne burada ne de dosyası farklı olan bellekte</translation>
+    </message>
+    <message>
+        <source>%1 is not stored. The whole program is only in the editor.</source>
+        <translation>%1 kaydedilmedi. Programın tamamı yalnız düzenleyicide.</translation>
     </message>
 </context>
 <context>

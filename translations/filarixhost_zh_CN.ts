@@ -24,12 +24,12 @@
         <translation>%1 已在 PLC 中: %2 字节, 校验一致。</translation>
     </message>
     <message>
-        <source>%1 is in the PLC as it was shown, %2. On the panel it has changed since then: download it again to send the new one.</source>
-        <translation>%1 已按显示的内容下载到 PLC, %2。面板上的程序此后已更改: 如需新程序请重新下载。</translation>
-    </message>
-    <message>
         <source>%1 is in the PLC as it was shown, %2. On the panel it is gone.</source>
         <translation>%1 已按显示的内容下载到 PLC, %2。面板上已没有此程序。</translation>
+    </message>
+    <message>
+        <source>%1 is in the PLC as shown, %2. On the panel it has changed since: download it once more.</source>
+        <translation>%1 已按显示的内容下载到 PLC, %2。面板上的程序此后已更改: 请重新下载。</translation>
     </message>
 </context>
 <context>
@@ -619,10 +619,6 @@
         <translation>%1 的副本与原文件不同。空间是否足够? 请重新复制。</translation>
     </message>
     <message>
-        <source>The transfer would not take these file names for what they are. Nothing is copied or deleted until they are renamed.</source>
-        <translation>传输会误解这些文件名。重命名之前不会复制或删除任何文件。</translation>
-    </message>
-    <message>
         <source>Leave them</source>
         <translation>保持不变</translation>
     </message>
@@ -631,16 +627,20 @@
         <translation>重命名</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 %2 的现有内容将丢失。</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>仍然继续</translation>
+    </message>
+    <message>
+        <source>The transfer cannot take these file names. Nothing is copied or deleted until they are renamed.</source>
+        <translation>传输无法处理这些文件名。重命名之前不会复制或删除任何文件。</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>%1 的现有内容将丢失。</translation>
     </message>
 </context>
 <context>
@@ -815,6 +815,14 @@
         <source>%1 KB</source>
         <translation>%1 KB</translation>
     </message>
+    <message>
+        <source>Not read to its end: it was stopped.</source>
+        <translation>未读完: 已停止。</translation>
+    </message>
+    <message>
+        <source>Runs for %1</source>
+        <translation>运行 %1</translation>
+    </message>
 </context>
 <context>
     <name>PickerFitting</name>
@@ -830,8 +838,8 @@
 <context>
     <name>PickerGuard</name>
     <message>
-        <source>%1 is added to the name. Press OK to take it, or take it away again.</source>
-        <translation>名称已加上 %1。按“确定”采用, 或将其删去。</translation>
+        <source>%1 is now at the end of the name. Press OK once more, or change the name.</source>
+        <translation>名称末尾现在是 %1。请再按“确定”, 或更改名称。</translation>
     </message>
 </context>
 <context>
@@ -915,6 +923,10 @@
         <source>Changed</source>
         <translation>修改时间</translation>
     </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
 </context>
 <context>
     <name>PlcTransfer</name>
@@ -947,10 +959,6 @@
         <translation>下载在校验之前停止。请重新下载。</translation>
     </message>
     <message>
-        <source>The PLC stopped answering in the middle of the download. Check the PLC and its cable, then download once more.</source>
-        <translation>下载途中 PLC 停止响应。请检查 PLC 和电缆, 然后重新下载。</translation>
-    </message>
-    <message>
         <source>The copy of %1 has changed since it was shown, and was not sent. Download once more.</source>
         <translation>%1 的副本在显示后已改变, 未下载。请重新下载。</translation>
     </message>
@@ -963,16 +971,20 @@
         <translation>PLC 中的 %1 与下载的内容不同。请勿运行; 重新下载。</translation>
     </message>
     <message>
-        <source>The PLC has not said yet what became of the last download. Wait for it, or switch the PLC off and on, then download once more.</source>
-        <translation>PLC 尚未报告上次下载的结果。请等待, 或将 PLC 断电重启, 然后重新下载。</translation>
+        <source>The last download has not ended yet. Wait, or switch the PLC off and on, then download once more.</source>
+        <translation>上次下载尚未结束。请等待, 或将 PLC 断电重启, 然后重新下载。</translation>
     </message>
     <message>
-        <source>The PLC stopped answering while it took %1: which of the two it holds is not known. Check the PLC, then download once more.</source>
-        <translation>PLC 在接收 %1 时停止响应: 其中是旧程序还是新程序尚不清楚。请检查 PLC, 然后重新下载。</translation>
+        <source>The PLC stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>PLC 停止响应: 其中是否有 %1 尚不清楚。请检查 PLC, 然后重新下载。</translation>
     </message>
     <message>
-        <source>%1 is in the PLC, but the PLC stopped answering before it was compared. Check the PLC, then download once more.</source>
-        <translation>%1 已在 PLC 中, 但 PLC 在校验之前停止响应。请检查 PLC, 然后重新下载。</translation>
+        <source>%1 is in the PLC but not compared: the PLC stopped answering. Check the PLC, then download again.</source>
+        <translation>%1 已在 PLC 中但未校验: PLC 停止响应。请检查 PLC, 然后重新下载。</translation>
+    </message>
+    <message>
+        <source>The PLC stopped answering during the download. Check the PLC and its cable, then download once more.</source>
+        <translation>下载途中 PLC 停止响应。请检查 PLC 和电缆, 然后重新下载。</translation>
     </message>
 </context>
 <context>
@@ -1034,10 +1046,6 @@
         <translation>另存为</translation>
     </message>
     <message>
-        <source>%1 is there already: %2 lines, of %3. Write this program over it, %4 lines?</source>
-        <translation>%1 已存在: %2 行, %3。用此程序 (%4 行) 覆盖吗?</translation>
-    </message>
-    <message>
         <source>Write over it</source>
         <translation>覆盖</translation>
     </message>
@@ -1056,6 +1064,14 @@
     <message>
         <source>%1 could not be removed: it is still there.</source>
         <translation>无法删除 %1: 它仍然存在。</translation>
+    </message>
+    <message>
+        <source>%1 is there already: %2 lines, of %3. Write this program over it?</source>
+        <translation>%1 已存在: %2 行, %3。用此程序覆盖吗?</translation>
+    </message>
+    <message>
+        <source>This program: %1 lines</source>
+        <translation>此程序: %1 行</translation>
     </message>
 </context>
 <context>
@@ -1113,12 +1129,12 @@
         <translation>历史尚未保存 %1。</translation>
     </message>
     <message>
-        <source>%1 was not brought back: the panel&apos;s storage has not ended the last restore yet. Switch the panel off and on.</source>
-        <translation>%1 未恢复: 面板存储器尚未完成上次恢复。请关闭面板后重新打开。</translation>
+        <source>%1 was not brought back: the last restore has not ended yet. Switch the panel off and on.</source>
+        <translation>%1 未恢复: 上次恢复尚未完成。请关闭面板后重新打开。</translation>
     </message>
     <message>
-        <source>The panel&apos;s storage stopped answering while %1 was brought back: which version it is now is not known. Switch the panel off and on.</source>
-        <translation>恢复 %1 时面板存储器停止响应: 现在是哪个版本尚不清楚。请关闭面板后重新打开。</translation>
+        <source>The panel&apos;s storage stopped answering: the version of %1 is not known. Switch the panel off and on.</source>
+        <translation>面板存储器停止响应: %1 的版本尚不清楚。请关闭面板后重新打开。</translation>
     </message>
 </context>
 <context>
@@ -1132,16 +1148,16 @@
         <translation>历史</translation>
     </message>
     <message>
-        <source>%1 What %2 is now would be lost.</source>
-        <translation>%1 %2 的现有内容将丢失。</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
     <message>
         <source>All the same</source>
         <translation>仍然继续</translation>
+    </message>
+    <message>
+        <source>What %1 is now would be lost.</source>
+        <translation>%1 的现有内容将丢失。</translation>
     </message>
 </context>
 <context>
@@ -1181,10 +1197,6 @@
 <context>
     <name>ProgramState</name>
     <message>
-        <source>%1 lines in the file, %2 shown: comments and empty lines are left out</source>
-        <translation>文件中 %1 行, 显示 %2 行: 省略了注释和空行</translation>
-    </message>
-    <message>
         <source>Not compared with the file: %1</source>
         <translation>未与文件比较: %1</translation>
     </message>
@@ -1205,10 +1217,6 @@
         <translation>%1 未保存: %2</translation>
     </message>
     <message>
-        <source>%1 has %2 lines in the file, %3 are shown. Saving takes the comments and empty lines out of the file.</source>
-        <translation>%1 在文件中有 %2 行, 显示 %3 行。保存会从文件中删去注释和空行。</translation>
-    </message>
-    <message>
         <source>%1 is shown otherwise than the file has it. Saving replaces the file by what is shown.</source>
         <translation>%1 的显示与文件不同。保存会用显示的内容替换文件。</translation>
     </message>
@@ -1217,8 +1225,16 @@
         <translation>%1 未保存: %2。请先保存。</translation>
     </message>
     <message>
-        <source>Only a part of %1 is here: saving or sending it would lose the rest. Open it again, or save the part under another name.</source>
-        <translation>只有 %1 的一部分: 保存或下载会丢失其余部分。请重新打开, 或将这部分另存为其他名称。</translation>
+        <source>%1 lines in the file, %2 shown: no comments, no empty lines</source>
+        <translation>文件中 %1 行, 显示 %2 行: 省略了注释和空行</translation>
+    </message>
+    <message>
+        <source>%1 has %2 lines, %3 are shown. Saving takes out its comments and empty lines.</source>
+        <translation>%1 有 %2 行, 显示 %3 行。保存会删去注释和空行。</translation>
+    </message>
+    <message>
+        <source>Only a part of %1 is here: saving or sending loses the rest. Open it again, or take another name.</source>
+        <translation>只有 %1 的一部分: 保存或下载会丢失其余部分。请重新打开, 或另存为其他名称。</translation>
     </message>
 </context>
 <context>
@@ -1346,10 +1362,6 @@
         <translation>保存</translation>
     </message>
     <message>
-        <source>%1 is not stored: %2. The whole program is only in the editor.</source>
-        <translation>%1 未保存: %2。完整程序只在编辑器中。</translation>
-    </message>
-    <message>
         <source>Later</source>
         <translation>稍后</translation>
     </message>
@@ -1376,6 +1388,10 @@
     <message>
         <source>neither here nor on the stick, whose file differs</source>
         <translation>面板和 U 盘上都没有, U 盘上的文件不同</translation>
+    </message>
+    <message>
+        <source>%1 is not stored. The whole program is only in the editor.</source>
+        <translation>%1 未保存。完整程序只在编辑器中。</translation>
     </message>
 </context>
 <context>
