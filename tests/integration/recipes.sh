@@ -33,7 +33,9 @@ md5=$(md5sum <"$root/LICENSE" | cut -d' ' -f1)
 grep -q "file://LICENSE;md5=$md5\"" "$recipe" || fail "the licence is another"
 
 echo "== a build with these options"
+# What is installed is looked at, and no more: nothing is optimised, which takes half the time.
 cmake -S "$root" -B "$scratch/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_CXX_FLAGS_RELEASE="-O0 -DNDEBUG" -DFILARIX_QUICK_BUILD=ON \
     -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_LIBDIR=lib "${options[@]}" >"$scratch/log" 2>&1
 if grep -q 'not used by the project' "$scratch/log"; then
     fail "an option is not used"
