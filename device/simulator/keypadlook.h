@@ -34,8 +34,8 @@ enum Look { Light, Dark, HighContrast };
 inline Look look()
 {
     const QPalette palette = QApplication::palette();
-    const QColor ground = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::WindowText);
+    const QColor &ground = palette.color(QPalette::Window);
+    const QColor &text = palette.color(QPalette::WindowText);
     if (ground.lightness() < text.lightness())
         return Dark;
     return ground == QColor(Qt::white) && text == QColor(Qt::black) ? HighContrast : Light;
