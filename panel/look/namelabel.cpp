@@ -122,7 +122,7 @@ QString NameLabel::shortened(const QString &name, const std::function<bool(const
     if (fits(name))
         return name;
     for (int count = 2; count < name.size(); ++count) {
-        const QString text = without(name, count);
+        QString text = without(name, count);
         if (text.isEmpty())
             break;
         if (fits(text))

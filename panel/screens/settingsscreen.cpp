@@ -108,7 +108,7 @@ ChoicePage *SettingsScreen::makeLanguages()
         QLatin1String("language"), [] { return tr("Language"); }, languageColumns);
     // Each in its own words: whoever cannot read the others finds the own one.
     for (const Languages::Language &language : Languages::all()) {
-        const QString name = language.name;
+        QString name = language.name;
         page->addChoice(language.code, [name] { return name; });
     }
     return page;
