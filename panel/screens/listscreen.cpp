@@ -65,7 +65,8 @@ int heightToLend(const QSize &surface)
 {
     const qreal wanted =
         SurfaceLoan::tallPanel * Measures::dotsPerInch() / Measures::usualDotsPerInch;
-    const qreal most = surface.height() / rowsOfAPanel / rowPart;
+    const int mostRow = surface.height() / rowsOfAPanel;
+    const qreal most = mostRow / rowPart;
     return qMax(SurfaceLoan::tallPanel, int(std::ceil(qMin(wanted, most))));
 }
 

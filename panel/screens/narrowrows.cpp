@@ -157,6 +157,8 @@ void NarrowRows::fitAround()
     const QWidget *at = changed;
     while (at && !qobject_cast<const MJLine *>(at))
         at = at->parentWidget();
+    if (!at)
+        return;
     for (const QList<QLineEdit *> &line : detailLines(static_cast<const MJLine *>(at))) {
         if (line.contains(changed))
             divide(line);
