@@ -77,7 +77,6 @@ void StateLine::fit()
     m_label->setText(isWhole ? m_text : head());
     m_label->setLines(lines);
     m_label->keepLines(lines);
-    const QFontMetrics metrics = m_label->fontMetrics();
     setFixedHeight(qMax(lineHeight, metrics.height()) + (lines - 1) * metrics.lineSpacing());
 }
 
