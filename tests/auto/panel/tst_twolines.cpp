@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-// On the smallest panel, whose screen the test has: whether each message, hint and question of
-// panel and companion takes two lines at the most, in each language.
+// Holds MessageDialog and QuestionDialog on the smallest panel, whose screen the test has: whether
+// each message, hint and question of panel and companion takes two lines, in each language.
 
 #include "filarixtest.h"
 #include "look/look.h"
