@@ -66,6 +66,10 @@ void Tour::picture(const QString &name)
 {
     // One tick for what the step before started.
     then([] {});
+    if (m_isAtRest) {
+        waitUntil(m_isAtRest);
+        then([] {});
+    }
     then([this, name] { save(name); });
 }
 

@@ -41,6 +41,8 @@ public:
     void then(const Step &step);
     /// Appends a step that lasts until \a condition holds; it is an error if that takes a minute.
     void waitUntil(const std::function<bool()> &condition);
+    /// Before each stop that is appended from now on the tour waits until \a isAtRest holds.
+    void restBeforePictures(const std::function<bool()> &isAtRest) { m_isAtRest = isAtRest; }
     /// Appends a stop: what the steps before started is shown by then.
     void picture(const QString &name);
     /// Appends a touch on what \a target gives in its turn; nothing is an error.
@@ -70,6 +72,7 @@ private:
     const QString m_folder;
     QList<Step> m_steps;
     Step m_lastStep;
+    std::function<bool()> m_isAtRest;
     QTimer m_timer;
     int m_step = 0;
     int m_pictures = 0;

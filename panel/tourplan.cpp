@@ -3,6 +3,7 @@
 
 #include "tourplan.h"
 
+#include "guards/programguard.h"
 #include "look/panelkey.h"
 #include "programs/plctransfer.h"
 #include "programs/programdirectory.h"
@@ -165,6 +166,9 @@ void TourPlan::openProgram(ProgramScreen *screen)
     m_tour->press([] { return pickerKey("stator-coil.cnc"); });
     // A program of this length comes in pieces, between which the steps go on.
     m_tour->waitUntil([screen] { return screen->title() == QLatin1String("stator-coil.cnc"); });
+    // The line of state takes a line of the editor's.
+    m_tour->waitUntil([screen] { return !screen->guard()->isBusy(); });
+    m_tour->then([] {});
     m_tour->then([screen] {
         QTextCursor cursor(screen->editor()->document()->findBlockByNumber(24));
         screen->editor()->setTextCursor(cursor);

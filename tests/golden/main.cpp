@@ -13,6 +13,7 @@
 
 #include "look/look.h"
 #include "screens/filesscreen.h"
+#include "screens/programreview.h"
 #include "shell/panelwindow.h"
 #include "stick/devicewatch.h"
 #include "stick/stick.h"
@@ -185,6 +186,9 @@ int walk(const Options &options, QStringList wanted, Keeper *keeper)
     QApplication::setCursorFlashTime(0);
     const SteadyDevices devices(&program);
     Tour tour(program.window(), QString(), program.glass());
+    // Else a mark of the check is there or not.
+    const ProgramReview *review = program.programReview();
+    tour.restBeforePictures([review] { return review->state() != ProgramReview::Waiting; });
     program.plan(&tour);
     const QString size =
         QString::fromLatin1("%1x%2").arg(options.size.width()).arg(options.size.height());

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aTouchPressesWhatIsThereThen();
     void whatIsNotThereIsAnError();
     void aStepWaitsForItsCondition();
+    void aPictureWaitsForRest();
     void stepsGoOnWhileADialogWaits();
     void aDialogThatIsNotThereIsAnError();
     void picturesAreNumbered();
@@ -95,6 +96,19 @@ void TestTour::aStepWaitsForItsCondition()
     run(&tour);
     QCOMPARE(before, 5);
     QCOMPARE(asked, 5);
+}
+
+void TestTour::aPictureWaitsForRest()
+{
+    QWidget panel;
+    Tour tour(&panel);
+    int asked = 0;
+    int before = 0;
+    tour.restBeforePictures([&asked] { return ++asked == 5; });
+    connect(&tour, &Tour::arrived, this, [&] { before = asked; });
+    tour.picture("rest");
+    run(&tour);
+    QCOMPARE(before, 5);
 }
 
 void TestTour::stepsGoOnWhileADialogWaits()
