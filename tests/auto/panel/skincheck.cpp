@@ -86,9 +86,10 @@ int touchSide()
     return qMin(Measures::pixels(Measures::touchMm), Measures::touch());
 }
 
-int stopSide()
+QSize stopSize()
 {
-    return qMin(Measures::pixels(Measures::stopMm), Measures::stop());
+    const int side = Measures::pixels(Measures::stopMm);
+    return Measures::stop().boundedTo(QSize(side, side));
 }
 
 QString faultOfRows(const QAbstractItemView *view)
@@ -112,8 +113,8 @@ QString faultOfTouch(const QWidget *widget)
         return QString();
     const QString text = widget->property("text").toString();
     const bool isStop = widget->inherits("PanelKey") && text == QLatin1String("Stop");
-    const int side = isStop ? stopSide() : touchSide();
-    if (widget->width() >= side && widget->height() >= side)
+    const QSize least = isStop ? stopSize() : QSize(touchSide(), touchSide());
+    if (widget->size().expandedTo(least) == widget->size())
         return QString();
     return inMillimetres(widget->size());
 }
