@@ -751,7 +751,7 @@
     </message>
     <message>
         <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
-        <translation>Die Einstellungsdatei %1 ist fehlerhaft und lässt sich nicht umbenennen. Was Sie wählen, gilt bis zum Programmende.</translation>
+        <translation>Die Einstellungsdatei %1 ist fehlerhaft und nicht umbenennbar. Ihre Wahl gilt bis zum Ende.</translation>
     </message>
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>

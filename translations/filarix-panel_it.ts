@@ -647,7 +647,7 @@
     </message>
     <message>
         <source>No programs yet. Write one on the screen Program, or bring some from the stick by I/E.</source>
-        <translation>Ancora nessun programma. Scriverne uno nella schermata Programma o prenderlo dalla chiavetta con Imp/Esp.</translation>
+        <translation>Ancora nessun programma. Scriverlo in Programma o prenderlo dalla chiavetta con Imp/Esp.</translation>
     </message>
 </context>
 <context>
@@ -751,7 +751,7 @@
     </message>
     <message>
         <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
-        <translation>Il file delle impostazioni %1 contiene errori e non si può rinominare. Le scelte valgono fino alla chiusura del programma.</translation>
+        <translation>Il file delle impostazioni %1 è errato e non si rinomina. Le scelte valgono fino alla chiusura.</translation>
     </message>
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>

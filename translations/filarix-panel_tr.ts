@@ -751,7 +751,7 @@
     </message>
     <message>
         <source>The settings file %1 has errors and cannot be renamed. What you choose lasts until the program ends.</source>
-        <translation>Ayar dosyası %1 hatalı ve yeniden adlandırılamıyor. Seçimleriniz program kapanana kadar geçerlidir.</translation>
+        <translation>Ayar dosyası %1 hatalı, adı değiştirilemiyor. Seçimler program kapanana kadar geçerli.</translation>
     </message>
     <message>
         <source>The settings cannot be stored in %1. What you choose lasts until the program ends.</source>

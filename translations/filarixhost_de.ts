@@ -1102,7 +1102,7 @@
     </message>
     <message>
         <source>The panel&apos;s storage stopped answering: nothing goes into the history any more. Switch the panel off and on.</source>
-        <translation>Der Speicher des Panels antwortet nicht mehr: Der Verlauf sichert nichts mehr. Das Panel aus- und einschalten.</translation>
+        <translation>Der Speicher antwortet nicht mehr: Der Verlauf sichert nichts. Panel aus- und einschalten.</translation>
     </message>
     <message>
         <source>%1 was not brought back.</source>
@@ -1134,7 +1134,7 @@
     </message>
     <message>
         <source>The panel&apos;s storage stopped answering: the version of %1 is not known. Switch the panel off and on.</source>
-        <translation>Der Speicher des Panels antwortet nicht mehr: Fassung von %1 unbekannt. Panel aus- und einschalten.</translation>
+        <translation>Der Speicher antwortet nicht mehr: Fassung von %1 unbekannt. Panel aus- und einschalten.</translation>
     </message>
 </context>
 <context>

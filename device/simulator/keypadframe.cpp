@@ -14,6 +14,8 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QRegExp>
+#include <QStringList>
 
 #include <algorithm>
 #include <numeric>
@@ -181,6 +183,22 @@ void shareRow(const QRect &row, const QList<KeypadLabel *> &labels, int gap)
 int shareOf(int length, int wanted)
 {
     return wanted * 100 > length * 85 ? length : wanted;
+}
+
+QStringList numbersOf(const QString &text)
+{
+    QStringList numbers;
+    QRegExp number(QLatin1String("-?[0-9]+([.,][0-9]+)?"));
+    for (int at = 0; (at = number.indexIn(text, at)) >= 0; at += number.matchedLength())
+        numbers.append(number.cap());
+    return numbers;
+}
+
+/// Whether the two tell the same limits, in whatever words.
+bool hasSameNumbers(const QString &text, const QString &other)
+{
+    const QStringList numbers = numbersOf(text);
+    return !numbers.isEmpty() && numbers == numbersOf(other);
 }
 
 } // namespace
@@ -609,9 +627,8 @@ void KeypadFrame::showHead()
     const QString old = m_request.text;
     m_oldValue->setText(old.isEmpty() ? tr("Was empty") : tr("Was: %1").arg(old));
     // For a line of G-code the caller gives the line itself as the hint. It is shown once: the line
-    // above has the whole width.
-    // So are limits that stand in the title.
-    const bool isSaid = m_request.limit == old || !m_value.range.isEmpty();
+    // above has the whole width. So are limits that stand in the title.
+    const bool isSaid = m_request.limit == old || hasSameNumbers(m_request.limit, m_value.range);
     m_limit->setText(isSaid ? QString() : m_request.limit);
     m_limit->setVisible(!m_limit->text().isEmpty());
 }

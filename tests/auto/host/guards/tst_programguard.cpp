@@ -851,7 +851,7 @@ void TestProgramGuard::bareNameGetsASuffixProposed()
         pick(dialog, "rotor");
         QTRY_COMPARE(field->text(), QString("rotor.cnc"));
         QVERIFY(dialog->isVisible());
-        QVERIFY(hint(dialog).contains(".cnc is added"));
+        QVERIFY(hint(dialog).startsWith(".cnc is now at the end of the name."));
         // Taken away again, it is let be.
         pick(dialog, "rotor");
         QTRY_VERIFY(!dialog->isVisible());

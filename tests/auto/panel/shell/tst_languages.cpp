@@ -111,6 +111,8 @@ struct Panel
         return !row || label->isVisibleTo(row);
     }
 
+    static QString textOf(const QTableWidgetItem *item) { return item ? item->text() : QString(); }
+
     /// All that can be read on it, but the clock.
     QStringList texts() const
     {
@@ -123,10 +125,12 @@ struct Panel
         const QList<QAbstractButton *> buttons = window().findChildren<QAbstractButton *>();
         for (const QAbstractButton *button : buttons)
             texts << button->text();
-        const QTableWidget *table = window().findChild<QTableWidget *>();
-        for (int column = 0; column < table->columnCount(); ++column)
-            texts << table->horizontalHeaderItem(column)->text()
-                  << table->item(table->rowCount() - 1, column)->text();
+        const QList<QTableWidget *> tables = window().findChildren<QTableWidget *>();
+        for (const QTableWidget *table : tables) {
+            for (int column = 0; column < table->columnCount(); ++column)
+                texts << textOf(table->horizontalHeaderItem(column))
+                      << textOf(table->item(table->rowCount() - 1, column));
+        }
         return texts.replaceInStrings(QRegExp(QLatin1String("\\d{1,2}:\\d\\d(:\\d\\d)?")),
                                       QString());
     }
@@ -296,18 +300,18 @@ void TestLanguages::withoutAChoiceTheSystemsLanguageIsTaken()
 void TestLanguages::aLiveTextFollowsTheLanguage()
 {
     QLabel label;
-    new LiveText(&label, [] { return translated("FilesScreen", "Names"); });
-    PanelKey key(QIcon(), [] { return translated("FilesScreen", "Pick"); });
-    QCOMPARE(label.text(), QString("Names"));
+    new LiveText(&label, [] { return translated("FilesScreen", "Rename"); });
+    PanelKey key(QIcon(), [] { return translated("FilesScreen", "Browse"); });
+    QCOMPARE(label.text(), QString("Rename"));
     Settings settings(settingsFile());
     Languages languages(folders(), &settings);
     QVERIFY(languages.use("de"));
     QCoreApplication::processEvents();
-    QCOMPARE(label.text(), QString("Namen"));
-    QCOMPARE(key.text(), QString::fromUtf8("W\u00e4hlen"));
+    QCOMPARE(label.text(), QString("Umbenennen"));
+    QCOMPARE(key.text(), QString::fromUtf8("St\u00f6bern"));
     QVERIFY(languages.use("en"));
     QCoreApplication::processEvents();
-    QCOMPARE(label.text(), QString("Names"));
+    QCOMPARE(label.text(), QString("Rename"));
 }
 
 void TestLanguages::theRunningPanelChangesItsLanguage_data()
