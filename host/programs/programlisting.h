@@ -19,6 +19,7 @@
 class FILARIX_HOST_EXPORT ProgramListing : public FileTask
 {
 public:
+    /// What is known of one file.
     struct Entry
     {
         qint64 size = 0;
