@@ -374,6 +374,16 @@ QString faultOfKey(const QWidget *widget)
         .arg(widget->height());
 }
 
+/// Of a page whose lines are one fact each: a table, and no message, hint or question.
+bool isOfFacts(const QWidget *widget)
+{
+    for (const QWidget *around = widget; around; around = around->parentWidget()) {
+        if (around->inherits("AboutPage"))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 QStringList TextFit::faults(const QRect &screen)
@@ -428,7 +438,7 @@ QStringList TextFit::longTexts()
         // Facts are read one by one, the toolkit's boxes are as narrow as it makes them, and lines
         // that elide have a limit of their own.
         if (!label || !label->isVisible() || !label->wordWrap()
-            || label->objectName() == QLatin1String("pickerFacts")
+            || label->objectName() == QLatin1String("pickerFacts") || isOfFacts(label)
             || label->window()->inherits("QMessageBox"))
             continue;
         if (linesOf(label) > mostLines)
