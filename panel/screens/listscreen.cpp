@@ -47,6 +47,8 @@ const int detailsPart = 4;
 const int detailsStretch = 3;
 const int keysStretch = 2;
 const int detailColumns = 2;
+// Of the width, for the keys beside such details, whatever the language.
+const int keysPart = 6;
 
 int keyPanelWidth()
 {
@@ -136,6 +138,12 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
         layout->addWidget(m_area, 1);
         layout->addWidget(m_keyPanel);
     }
+}
+
+bool ListScreen::hasRoomForKeys(const QSize &surface, int columns)
+{
+    const int needed = columns * Measures::glove() + (columns + 1) * keyGap;
+    return surface.width() < roomy || needed <= surface.width() / keysPart;
 }
 
 int ListScreen::listWidth(const QSize &surface) const

@@ -45,6 +45,9 @@ public:
     /// Milliseconds after which a file counts as one that does not answer.
     virtual void setStallTime(int ms) { m_keeper->setStallTime(ms); }
 
+    /// Whether \a columns keys have room side by side, next to a list with a title and its details.
+    static bool hasRoomForKeys(const QSize &surface, int columns);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:

@@ -36,6 +36,9 @@
 namespace {
 
 const int usualKeyColumns = 3;
+// On a panel whose display is too fine for three, with so many lines above one another.
+const int fewKeyColumns = 2;
+const int linesOfFew = 7;
 const int keysInALine = 8;
 // On a panel that has the height for one line alone, its page key among them.
 const int keysInTheOneLine = 9;
@@ -62,14 +65,14 @@ int keyColumns(const QSize &surface)
         return keysInAShortLine;
     if (surface.width() < FilarixPanel::wideFrom)
         return isFlat(surface) ? keysInTheOneLine : keysInALine;
-    return usualKeyColumns;
+    return ListScreen::hasRoomForKeys(surface, usualKeyColumns) ? usualKeyColumns : fewKeyColumns;
 }
 
 /// 0 where there is room for all keys.
 int keyLines(const QSize &surface)
 {
     if (surface.width() >= FilarixPanel::wideFrom)
-        return 0;
+        return keyColumns(surface) == fewKeyColumns ? linesOfFew : 0;
     return isNarrow(surface) ? shortLines : isFlat(surface) ? 1 : 0;
 }
 
