@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QSet>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,6 +25,7 @@ const int rowHeight = 44;
 const int textPixels = 14;
 const int margin = 6;
 const int signSide = 22;
+const int cellMargin = 4;
 
 QIcon signOf(Finding::Severity severity)
 {
@@ -32,6 +34,21 @@ QIcon signOf(Finding::Severity severity)
     QPainter painter(&sign);
     ToneMark::draw(&painter, sign.rect(), FindingsDialog::toneOf(severity));
     return QIcon(sign);
+}
+
+void addWords(const QString &text, QSet<QString> *words)
+{
+    for (const QString &word : text.split(QLatin1Char(' ')))
+        words->insert(word);
+}
+
+int widestOf(const QSet<QString> &words, const QFont &font)
+{
+    const QFontMetrics metrics(font);
+    int widest = 0;
+    for (const QString &word : words)
+        widest = qMax(widest, metrics.horizontalAdvance(word));
+    return widest;
 }
 
 } // namespace
@@ -102,11 +119,28 @@ void FindingsDialog::showEvent(QShowEvent *event)
 {
     Dialog::showEvent(event);
     layout()->activate();
+    shrinkToWords();
     // What to do stands behind what happened, and is never cut.
     m_table->resizeRowsToContents();
     // From there the arrows go on.
     m_table->setCurrentCell(m_nearest, 0, QItemSelectionModel::NoUpdate);
     m_table->scrollTo(m_table->model()->index(m_nearest, 0), QAbstractItemView::PositionAtTop);
+}
+
+/// Large letters can make a word wider than its column, which would cut it.
+void FindingsDialog::shrinkToWords()
+{
+    QSet<QString> words;
+    for (const Finding &finding : m_findings) {
+        for (const QString &text : {finding.text(), finding.advice()})
+            addWords(text, &words);
+    }
+    const int room = m_table->columnWidth(1) - 2 * cellMargin;
+    QFont font = m_table->font();
+    while (font.pixelSize() > textPixels && widestOf(words, font) > room)
+        font.setPixelSize(font.pixelSize() - 1);
+    if (font != m_table->font())
+        m_table->setFont(font);
 }
 
 void FindingsDialog::fill()

@@ -34,6 +34,7 @@ protected:
 
 private:
     void fill();
+    void shrinkToWords();
     void choose(int row);
 
     /// The row of the finding at the operator's line, or of the next one.
