@@ -6,6 +6,8 @@
 #include "look/recolour.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
 #include <QVariant>
 #include <QWidget>
 
@@ -16,6 +18,8 @@ namespace {
 using Look::Role;
 
 const char dressProperty[] = "lookDress";
+// The toolkit's own.
+const char iconLabelName[] = "qt_msgboxex_icon_label";
 
 Look::Style currentStyle = Look::Light;
 
@@ -132,6 +136,15 @@ QString messageListSheet()
                  .arg(hex(Role::OnAccent), hex(Role::Text));
 }
 
+/// A message box keeps the picture that was drawn when it was made. Given to the box itself, a new
+/// one would have it lay itself out anew, without its title.
+void redrawIcon(const QMessageBox *box)
+{
+    QLabel *label = box->findChild<QLabel *>(QLatin1String(iconLabelName));
+    if (label && box->icon() != QMessageBox::NoIcon)
+        label->setPixmap(QMessageBox(box->icon(), QString(), QString()).iconPixmap());
+}
+
 } // namespace
 
 Look::Style Look::style()
@@ -148,6 +161,8 @@ void Look::use(Style style)
         const QVariant dress = widget->property(dressProperty);
         if (dress.isValid())
             widget->setStyleSheet(sheet(Dress(dress.toInt())));
+        if (const QMessageBox *box = qobject_cast<QMessageBox *>(widget))
+            redrawIcon(box);
     }
     Recolour::follow();
 }
