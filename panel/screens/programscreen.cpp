@@ -55,6 +55,8 @@ const int closingTickMs = 50;
 const char libraryUnnamed[] = "Untitled";
 // The window keeps what its bars need.
 const int besideWidth = 440;
+// The find dialog and as many lines once more.
+const int findRoom = 440;
 // A name of work.
 const QLatin1String loadWork("load");
 
@@ -458,5 +460,7 @@ void ProgramScreen::insertTaughtPoint()
 
 void ProgramScreen::find()
 {
-    FindDialogFitter::show(m_editor, this);
+    // High enough, it has room for the dialog, and the keys below can be used meanwhile.
+    const bool hasRoom = m_editor->height() >= findRoom;
+    FindDialogFitter::show(m_editor, hasRoom ? static_cast<QWidget *>(m_editor) : this);
 }
