@@ -87,13 +87,13 @@ edit_lists() {
     desk_until 20 test -s "$own/variables.txt" || desk_fail "the variables are not stored"
     touch_text Connections
     touch_text "Edit the addresses"
-    expect_text OK "Connect Table"
+    expect_text OK "Edit the addresses"
     touch_named ComboLineEdit
     touch_named key_clear
     type_keys 10.0.0.7
     touch_named key_ok
-    expect_text 10.0.0.7 "Connect Table"
-    touch_text OK "Connect Table"
+    expect_text 10.0.0.7 "Edit the addresses"
+    touch_text OK "Edit the addresses"
     desk_until 20 grep -qs "=10.0.0.7$" "$own/connections.ini" || desk_fail "no address is stored"
     nothing_called "storing the lists"
 }

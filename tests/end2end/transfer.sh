@@ -84,16 +84,16 @@ expect_text "The stick is out."
 
 touch_text Connections
 touch_text "Edit the addresses"
-expect_text OK "Connect Table"
+expect_text OK "Edit the addresses"
 touch_named ComboLineEdit
 touch_named key_clear
 type_keys 10.0.0.7
 desk_picture transfer-address.png
 touch_named key_ok
-expect_text 10.0.0.7 "Connect Table"
+expect_text 10.0.0.7 "Edit the addresses"
 desk_picture transfer-connections.png
-touch_text OK "Connect Table"
-expect_gone OK "Connect Table"
+touch_text OK "Edit the addresses"
+expect_gone OK "Edit the addresses"
 desk_until 20 grep -rqs "=10.0.0.7$" "$HOME" --include=connections.ini || desk_fail "not stored"
 
 echo "1 passed, 0 failed"
