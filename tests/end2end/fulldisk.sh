@@ -41,7 +41,8 @@ dd if=/dev/zero of="$HOME/filling" bs=4096 2>/dev/null || true
 
 touch_text Save
 expect_text "Try again" Save
-expect_words "test-coil.cnc is not stored: No space left on device."
+expect_words "test-coil.cnc is not stored. The whole program is only in the editor."
+expect_text "No space left on device" Save
 desk_picture fulldisk-question.png
 touch_text Later Save
 expect_gone "Try again"
