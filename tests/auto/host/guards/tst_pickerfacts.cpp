@@ -155,7 +155,7 @@ void TestPickerFacts::coilOfAWindingProgram()
     m_facts->resize(400, 300);
     m_facts->tell("winds.cnc");
     QTRY_VERIFY(m_facts->isSettled());
-    QVERIFY(m_facts->summary());
+    QVERIFY(m_facts->summary() != nullptr);
     QCOMPARE(m_facts->summary()->model().layers().size(), 2);
     QVERIFY2(m_facts->text().contains("20 turns"), qPrintable(m_facts->text()));
     QVERIFY2(m_facts->text().contains("\nRuns for 5.2 s\n"), qPrintable(m_facts->text()));
