@@ -29,7 +29,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <functional>
 #include <memory>
 
 namespace {
@@ -543,16 +542,16 @@ QList<SkinFault> SkinCheck::lines(const QWidgetList &windows)
             faults.append({QLatin1String("line"), key.widget, fault});
     };
     const QList<Key> keys = keysIn(windows);
-    for (const Key &key : keys) {
+    for (int i = 0; i < keys.size(); ++i) {
+        const Key &key = keys.at(i);
         QList<Key> others;
-        for (const Key &other : keys) {
-            if (other.widget != key.widget
-                && other.widget->parentWidget() == key.widget->parentWidget())
-                others.append(other);
-        }
-        // Each pair once.
-        for (const Key &other : qAsConst(others)) {
-            if (std::less<const QWidget *>()(key.widget, other.widget))
+        for (int j = 0; j < keys.size(); ++j) {
+            const Key &other = keys.at(j);
+            if (j == i || other.widget->parentWidget() != key.widget->parentWidget())
+                continue;
+            others.append(other);
+            // Each pair once, with the first of the two, whatever the addresses are.
+            if (i < j)
                 note(key, faultOfEdges(key, other));
         }
         note(key, faultOfGap(key, others, true));
