@@ -49,6 +49,8 @@ private Q_SLOTS:
     void tagTellsWhenNothingIsLeft();
     void undoAndRedoKeysFollowTheDocument();
     void findKeyOpensTheDialog();
+    void findDialogLeavesTheKeysOfAHighScreenFree_data();
+    void findDialogLeavesTheKeysOfAHighScreenFree();
     void findTellsWhenItGoesOnAtTheTop();
     void findShowsReadableHits_data();
     void findShowsReadableHits();
@@ -342,6 +344,28 @@ static QWidget *findDialog()
             return widget;
     }
     return nullptr;
+}
+
+void TestProgramScreen::findDialogLeavesTheKeysOfAHighScreenFree_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isFree");
+    QTest::newRow("480x800") << QSize(480, 700) << true;
+    QTest::newRow("800x480") << QSize(800, 380) << false;
+}
+
+// On a low one it stands in the corner of the screen, so that lines stay in view.
+void TestProgramScreen::findDialogLeavesTheKeysOfAHighScreenFree()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isFree);
+    m_screen->resize(size);
+    QCoreApplication::processEvents();
+    QTest::mouseClick(key("Find"), Qt::LeftButton);
+    const WGCodeEditer *editor = m_screen->editor();
+    const QRect lines(editor->mapToGlobal(QPoint()), editor->size());
+    QVERIFY(findDialog()->isVisible());
+    QCOMPARE(lines.contains(QRect(findDialog()->pos(), findDialog()->size())), isFree);
 }
 
 static void findNext(const QString &text)
