@@ -3,7 +3,6 @@
 
 #include "screens/findingsdialog.h"
 
-#include "look/dialogtitle.h"
 #include "look/pagekeys.h"
 #include "look/paneltable.h"
 #include "look/tonemark.h"
@@ -88,7 +87,6 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(margin);
-    column->addWidget(new DialogTitle(this));
     column->addWidget(head);
     column->addWidget(m_table, 1);
     PageKeys *keys = new PageKeys(m_table, PageKeys::oneRow);

@@ -4,7 +4,6 @@
 #include "screens/historydialog.h"
 
 #include "filarixpanel.h"
-#include "look/dialogtitle.h"
 #include "look/pagekeys.h"
 #include "look/paneltable.h"
 #include "programs/programhistory.h"
@@ -60,7 +59,6 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->setSpacing(6);
-    column->addWidget(new DialogTitle(this));
     column->addWidget(m_table, 1);
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
     PageKeys *keys = new PageKeys(m_table, PageKeys::oneRow);

@@ -3,7 +3,6 @@
 
 #include "shell/messagedialog.h"
 
-#include "look/dialogtitle.h"
 #include "look/look.h"
 #include "look/measures.h"
 #include "look/pagekeys.h"
@@ -74,7 +73,6 @@ MessageDialog::MessageDialog(MessageLog *log, const QString &subject, QWidget *p
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->setSpacing(6);
-    column->addWidget(new DialogTitle(this));
     if (!subject.isEmpty()) {
         QLabel *label = makeLabel(breakable(subject), textPixels);
         label->setObjectName(QLatin1String("subject"));
