@@ -470,20 +470,26 @@ void CoilPicture::Maker::drawScaleLegend()
     const float letters = m_scene.letters;
     const qreal base = qreal(letters) * qreal(1.25);
     const qreal gap = qreal(letters) / 2;
-    qreal x = m_picture->m_frame.area.right();
+    const int coils = m_model.totals().coils;
+    const QString coil =
+        coils > 1 ? tr("Coil %1 of %2").arg(m_scene.coil + 1).arg(coils) : QString();
+    const QRectF area = m_picture->m_frame.area;
+    qreal x = area.right();
     m_drawing->addText(QPointF(x, base), high, letters, D::Ink, D::AtRight);
     x -= D::textWidth(high, letters) + gap;
-    const qreal step = legendWidth * qreal(letters) / legendSteps;
+    // The colours give way to the words.
+    const qreal words =
+        D::textWidth(coil, letters) + D::textWidth(low, letters) + 2 * qreal(letters);
+    const qreal room = x - gap - area.left() - words;
+    const qreal step = qBound(qreal(0), room, legendWidth * qreal(letters)) / legendSteps;
     for (int i = 0; i < legendSteps; ++i)
         m_drawing->addBar(QRectF(x - (legendSteps - i) * step, base - qreal(letters) * qreal(0.8),
                                  step + qreal(0.5), qreal(letters) * qreal(0.9)),
                           float(i) / (legendSteps - 1));
     x -= legendSteps * step + gap;
     m_drawing->addText(QPointF(x, base), low, letters, D::Ink, D::AtRight);
-    const int coils = m_model.totals().coils;
-    if (coils > 1)
-        m_drawing->addText(QPointF(m_picture->m_frame.area.left() + qreal(letters), base),
-                           tr("Coil %1 of %2").arg(m_scene.coil + 1).arg(coils), letters);
+    if (!coil.isEmpty())
+        m_drawing->addText(QPointF(area.left() + qreal(letters), base), coil, letters);
 }
 
 void CoilPicture::Maker::makePath()

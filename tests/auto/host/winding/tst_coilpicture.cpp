@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aPartShowsItsTurns();
     void oneCoilAtATimeIsSeen();
     void aCoilIsSeenWithItsBobbin();
+    void theScaleGivesWayToTheNumberOfTheCoil();
     void anEmptyProgramShowsTheBobbin();
     void theGuidesPathHasItsKinds();
     void nothingIsDrawnBesideThePicture_data();
@@ -193,6 +194,25 @@ void TestCoilPicture::aCoilIsSeenWithItsBobbin()
     QVERIFY(picture.frame().world.top() < bobbin.coreDiameter / 2);
     // The whole has the flanges up to their rims.
     QVERIFY(picture.whole().bottom() > bobbin.flangeDiameter / 2);
+}
+
+void TestCoilPicture::theScaleGivesWayToTheNumberOfTheCoil()
+{
+    const WindingModel model = twoCoils();
+    for (int width = 240; width <= 700; width += 20) {
+        const CoilPicture picture(model, sceneOf(CoilScene::Section, width, 240));
+        qreal coilEnds = 0;
+        qreal scaleBegins = 0;
+        for (int i = 0; i < picture.drawing().shapes().size(); ++i) {
+            const D::Shape &shape = picture.drawing().shapes().at(i);
+            if (shape.text == QLatin1String("Coil 1 of 2"))
+                coilEnds = shape.box.left() + D::textWidth(shape.text, shape.width);
+            if (shape.text == QLatin1String("Layer 1"))
+                scaleBegins = shape.box.left() - D::textWidth(shape.text, shape.width);
+        }
+        QVERIFY(coilEnds > 0);
+        QVERIFY2(coilEnds < scaleBegins, qPrintable(QString::number(width)));
+    }
 }
 
 void TestCoilPicture::anEmptyProgramShowsTheBobbin()
