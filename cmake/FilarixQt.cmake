@@ -92,6 +92,8 @@ function(filarix_precompile_test target)
       ${FILARIX_PRECOMPILED_HEADERS} <QSignalSpy> <QTest>)
   endif()
   target_precompile_headers(${target} REUSE_FROM filarix_precompiled_tests)
+  # As the headers are compiled, whatever libraries the program links.
+  target_compile_options(${target} PRIVATE -fPIC)
   if(NOT FILARIX_COVERAGE)
     target_compile_options(${target} PRIVATE -O1)
   endif()
