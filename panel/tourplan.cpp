@@ -77,6 +77,14 @@ bool turnBars(const QWidget *among)
     return !keys.isEmpty();
 }
 
+/// A command that is given while the disk works comes later, and what is pressed meanwhile is
+/// refused.
+template<typename Screen>
+void waitForDisk(Tour *tour, const Screen *screen)
+{
+    tour->waitUntil([screen] { return !screen->guard()->isBusy(); });
+}
+
 QWidget *topLevel(const char *className)
 {
     const QWidgetList topLevels = QApplication::topLevelWidgets();
@@ -148,6 +156,7 @@ void TourPlan::visitProgramScreen(ProgramScreen *screen)
     checkProgram(screen);
     turnToOtherKeys(screen->programWindow());
     find();
+    waitForDisk(m_tour, screen);
     pressTool(screen->programWindow(), QLatin1String("New"));
     m_tour->picture(QLatin1String("unsaved-changes"));
     m_tour->closeDialog();
@@ -158,6 +167,7 @@ void TourPlan::visitProgramScreen(ProgramScreen *screen)
 void TourPlan::openProgram(ProgramScreen *screen)
 {
     WMMainWindow *window = screen->programWindow();
+    waitForDisk(m_tour, screen);
     pressTool(window, QLatin1String("Open"));
     m_tour->then([] {});
     m_tour->then([] { choose("stator-coil.cnc"); });
@@ -167,7 +177,7 @@ void TourPlan::openProgram(ProgramScreen *screen)
     // A program of this length comes in pieces, between which the steps go on.
     m_tour->waitUntil([screen] { return screen->title() == QLatin1String("stator-coil.cnc"); });
     // The line of state takes a line of the editor's.
-    m_tour->waitUntil([screen] { return !screen->guard()->isBusy(); });
+    waitForDisk(m_tour, screen);
     m_tour->then([] {});
     m_tour->then([screen] {
         QTextCursor cursor(screen->editor()->document()->findBlockByNumber(24));
@@ -187,13 +197,16 @@ void TourPlan::changeProgram(ProgramScreen *screen)
     m_tour->then([window] { window->insertLine(QLatin1String("G33 X18.50 K0.50")); });
     m_tour->picture(QLatin1String("program-changed"));
 
+    waitForDisk(m_tour, screen);
     pressTool(window, QLatin1String("Save"));
     m_tour->picture(QLatin1String("program-first-save"));
     m_tour->closeDialog();
+    waitForDisk(m_tour, screen);
     pressTool(window, QLatin1String("SaveAs"));
     m_tour->press([] { return pickerKey("rotor"); });
     m_tour->picture(QLatin1String("save-as"));
     m_tour->closeDialog();
+    waitForDisk(m_tour, screen);
     pressTool(window, QLatin1String("RM"));
     m_tour->then([] {});
     m_tour->then([] { choose("test-coil.cnc"); });
@@ -397,7 +410,7 @@ void TourPlan::visitFilesScreen(FilesScreen *screen)
         if (QWidget *question = topLevel("QuestionDialog"))
             question->findChild<QPushButton *>(QLatin1String("answer1"))->click();
     });
-    m_tour->waitUntil([screen] { return !screen->guard()->isBusy(); });
+    waitForDisk(m_tour, screen);
     m_tour->picture(QLatin1String("stick-names"));
     pressKey(screen, QLatin1String("I/E"));
     m_tour->picture(QLatin1String("import-export"));
