@@ -346,7 +346,7 @@ void TestCoilPreview::readingIsStoppedUntilTheNextChange()
     QSignalSpy halted(&desk.preview, SIGNAL(halted()));
     const QMetaObject::Connection stopping =
         connect(&desk.preview, &CoilPreview::progressed, &desk.preview, &CoilPreview::stop);
-    desk.look(longProgram(scaled(40000, 4000)));
+    desk.look(longProgram(scaled(40000, 20000)));
     QTRY_COMPARE(halted.size(), 1);
     disconnect(stopping);
     QVERIFY(desk.preview.isStopped());
@@ -366,7 +366,7 @@ void TestCoilPreview::viewThatComesUpBeginsAStoppedReadingAnew()
     QSignalSpy halted(&desk.preview, SIGNAL(halted()));
     const QMetaObject::Connection stopping =
         connect(&desk.preview, &CoilPreview::progressed, &desk.preview, &CoilPreview::stop);
-    desk.look(longProgram(scaled(40000, 4000)));
+    desk.look(longProgram(scaled(40000, 20000)));
     QTRY_COMPARE(halted.size(), 1);
     disconnect(stopping);
     QObject view;
