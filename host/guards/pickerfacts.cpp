@@ -53,6 +53,7 @@ void PickerFacts::tell(const QString &name)
     say(QString());
     if (m_runner.isRunning())
         m_runner.stop();
+    m_summary.reset();
     m_rest.start();
 }
 
@@ -89,7 +90,7 @@ void PickerFacts::stop()
 
 void PickerFacts::showProgress()
 {
-    if (m_rest.isActive())
+    if (!m_summary)
         return;
     display(factsOf(*m_summary, false));
     Q_EMIT progressed(m_summary->percent());
@@ -97,9 +98,9 @@ void PickerFacts::showProgress()
 
 void PickerFacts::showAll()
 {
-    // The choice has moved on in the last step.
-    if (m_rest.isActive())
-        return;
+    // The choice has moved on in the last step, which may have taken longer than the rest.
+    if (!m_summary)
+        return begin();
     display(factsOf(*m_summary, true));
     Q_EMIT settled();
 }
