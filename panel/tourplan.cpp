@@ -3,6 +3,7 @@
 
 #include "tourplan.h"
 
+#include "guards/pickerfacts.h"
 #include "guards/programguard.h"
 #include "look/panelkey.h"
 #include "programs/plctransfer.h"
@@ -111,14 +112,25 @@ void choose(const char *name)
         dialog->findChild<QLineEdit *>()->setText(QLatin1String(name));
 }
 
+const PickerFacts *pickerFacts()
+{
+    const QWidget *dialog = topLevel("WFileDialog");
+    return dialog ? dialog->findChild<PickerFacts *>() : nullptr;
+}
+
 // Whether the picker shows all that it finds out about its program.
 bool hasFacts()
 {
-    const QWidget *dialog = topLevel("WFileDialog");
-    const QLabel *facts =
-        dialog ? dialog->findChild<QLabel *>(QLatin1String("pickerFacts")) : nullptr;
+    const PickerFacts *facts = pickerFacts();
     return facts && facts->text().contains(QLatin1Char('\n'))
            && !facts->text().contains(QLatin1Char('%'));
+}
+
+// Whether it looks for nothing more, as for a name that no program has.
+bool hasLooked()
+{
+    const PickerFacts *facts = pickerFacts();
+    return facts && facts->isSettled();
 }
 
 QWidget *keypadKey(const QString &token)
@@ -204,6 +216,7 @@ void TourPlan::changeProgram(ProgramScreen *screen)
     waitForDisk(m_tour, screen);
     pressTool(window, QLatin1String("SaveAs"));
     m_tour->press([] { return pickerKey("rotor"); });
+    m_tour->waitUntil(hasLooked);
     m_tour->picture(QLatin1String("save-as"));
     m_tour->closeDialog();
     waitForDisk(m_tour, screen);
