@@ -15,6 +15,8 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include <sys/stat.h>
 
 /// What a host does with the program in the library's window.
@@ -43,6 +45,16 @@ namespace {
 QString pathOf(const QString &name)
 {
     return FilarixTest::programDir() + QLatin1Char('/') + name;
+}
+
+/// Whether the history has these bytes as a version of that program.
+bool isHeld(const ProgramHistory &history, const QString &name, const QByteArray &bytes)
+{
+    const QList<ProgramVersion> versions = history.versions();
+    return std::any_of(versions.begin(), versions.end(), [&](const ProgramVersion &version) {
+        return version.name == name
+               && FilarixTest::readFile(version.path).mid(int(version.offset)) == bytes;
+    });
 }
 
 /// What is done once, as soon as the editor has some lines.
@@ -186,8 +198,7 @@ void TestWindowProgram::guardComparesAndKeepsAsEver()
     guard.save();
     QTRY_COMPARE(saved.size(), 1);
     QVERIFY(saved.first().first().toBool());
-    QTRY_COMPARE(history.versions().size(), 2);
-    QVERIFY(readFile(history.versions().first().path).endsWith("G01 X1\nM2\n"));
+    QTRY_VERIFY(isHeld(history, "coil.cnc", "G01 X1\nM2\n"));
 }
 
 void TestWindowProgram::guardMayRefuse()
