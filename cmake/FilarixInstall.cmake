@@ -74,6 +74,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   base/filarixhostglobal.h
   base/message.h
   base/questioner.h
+  guards/checkmarks.h
   guards/errormarks.h
   guards/finddialogfitter.h
   guards/finddialogguide.h

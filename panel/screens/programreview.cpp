@@ -3,27 +3,11 @@
 
 #include "screens/programreview.h"
 
+#include "guards/checkmarks.h"
 #include "programs/windinginspection.h"
 #include "screens/coilpreview.h"
 
 #include <algorithm>
-
-namespace {
-
-ErrorMarks::Severity markOf(Finding::Severity severity)
-{
-    switch (severity) {
-    case Finding::Note:
-        return ErrorMarks::Note;
-    case Finding::Warning:
-        return ErrorMarks::Warning;
-    case Finding::Error:
-        break;
-    }
-    return ErrorMarks::Error;
-}
-
-} // namespace
 
 ProgramReview::ProgramReview(CoilPreview *preview, QPlainTextEdit *editor, QObject *parent)
     : QObject(parent), m_preview(preview), m_marks(editor)
@@ -125,18 +109,6 @@ void ProgramReview::take()
     // Without rules each word would be a fault, and nobody has to end a program that is not begun.
     m_isSilent = state() == Off || m_preview->state() == CoilPreview::Empty;
     m_findings = m_check && !m_isSilent ? m_check->findings() : QVector<Finding>();
-    mark();
+    CheckMarks::mark(m_findings, &m_marks);
     Q_EMIT changed();
-}
-
-// The worst of a line comes last, and stays.
-void ProgramReview::mark()
-{
-    m_marks.clear();
-    QVector<Finding> sorted = m_findings;
-    std::stable_sort(sorted.begin(), sorted.end(), [](const Finding &one, const Finding &other) {
-        return one.severity < other.severity;
-    });
-    for (const Finding &finding : qAsConst(sorted))
-        m_marks.mark(finding.line, markOf(finding.severity), finding.text());
 }

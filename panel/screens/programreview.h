@@ -65,7 +65,6 @@ Q_SIGNALS:
 private:
     int count(Finding::Severity severity) const;
     void take();
-    void mark();
 
     CoilPreview *m_preview;
     ErrorMarks m_marks;
