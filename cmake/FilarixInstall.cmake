@@ -88,6 +88,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/programwalk.h
   guards/rowwatcher.h
   guards/windowcommands.h
+  guards/unsavedlist.h
   guards/windowdialogs.h
   guards/windowprogram.h
   programs/checkeddownload.h

@@ -376,28 +376,10 @@ void PanelProgram::offerUnsavedWork()
     m_offer.reset(new UnsavedOffer(folder, m_unsaved.get(), &m_questioner));
     m_window->messages()->listenTo(m_unsaved.get());
     m_window->messages()->listenTo(m_offer.get());
-    keepUnsavedProgram();
+    m_programs->guard()->keepUnsaved(m_unsaved.get(), m_offer.get());
     keepUnsavedRows("teach", m_teach);
     keepUnsavedRows("variables", m_variables);
     keepUnsavedWork();
-}
-
-void PanelProgram::keepUnsavedProgram()
-{
-    ProgramGuard *guard = m_programs->guard();
-    WMMainWindow *window = m_programs->programWindow();
-    // A save is one once the guard has read it back.
-    m_unsaved->watchProgram(
-        m_programs->editor()->document(),
-        [window, guard] {
-            return UnsavedOffer::headOf(window, guard->state().kind == ProgramState::Incomplete);
-        },
-        [guard] { return !guard->isBusy(); });
-    UnsavedOffer::Program program;
-    program.window = window;
-    program.isBusy = [guard] { return guard->isBusy(); };
-    program.noteNew = [guard] { guard->noteNewProgram(); };
-    m_offer->setProgram(program);
 }
 
 void PanelProgram::keepUnsavedRows(const char *subject, ListScreen *screen)

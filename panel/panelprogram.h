@@ -109,7 +109,6 @@ private:
     void connectStartUp();
     void watchDevices();
     void offerUnsavedWork();
-    void keepUnsavedProgram();
     void keepUnsavedRows(const char *subject, ListScreen *screen);
     void keepUnsavedWork();
     void tidyNowAndThen();

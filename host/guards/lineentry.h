@@ -23,7 +23,7 @@ class WMMainWindow;
 /// empty line that the library leaves below a program's end leaves no empty line within it.
 ///
 ///     LineEntry *entry = new LineEntry(window, window);
-///     entry->setHint([](const QTextBlock &line) { return ModalWords::before(line, profile); });
+///     entry->setHint(ModalWords::hintBy(profile));
 ///
 /// A keypad that knows nothing of the properties hmiNextLine, hmiName, hmiHint and hmiEditedRect
 /// works as it does without this object.

@@ -12,6 +12,8 @@
 #include "programs/programhistory.h"
 #include "programs/programname.h"
 #include "programs/programtext.h"
+#include "programs/unsavedoffer.h"
+#include "programs/unsavedwork.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -104,6 +106,19 @@ void ProgramGuard::setDownload(CheckedDownload *download)
     });
     connect(m_window, SIGNAL(signal_download(QString)), this, SLOT(startDownload(QString)));
     connect(download, SIGNAL(ended()), this, SLOT(endDownload()));
+}
+
+void ProgramGuard::keepUnsaved(UnsavedWork *work, UnsavedOffer *offer)
+{
+    work->watchProgram(
+        m_editor->document(),
+        [this] { return UnsavedOffer::headOf(m_window, m_state.kind == ProgramState::Incomplete); },
+        [this] { return !isBusy(); });
+    UnsavedOffer::Program program;
+    program.window = m_window;
+    program.isBusy = [this] { return isBusy(); };
+    program.noteNew = [this] { noteNewProgram(); };
+    offer->setProgram(program);
 }
 
 QString ProgramGuard::programPath(const QString &name) const

@@ -24,6 +24,8 @@ class ProgramHistory;
 class QMessageBox;
 class QPlainTextEdit;
 class Questioner;
+class UnsavedOffer;
+class UnsavedWork;
 class WMMainWindow;
 
 /// Shields an operator from what the library's program window loses without a word.
@@ -56,6 +58,10 @@ public:
     /// The window's Download key leads to \a download, and is off while one runs. The question is
     /// told what the editor shows. \a download must outlive the guard.
     void setDownload(CheckedDownload *download);
+    /// Has \a work keep the program while it is not saved, and \a offer bring it back. A save
+    /// counts once it was read back. To be called before UnsavedOffer::start(); the guard must
+    /// outlive both.
+    void keepUnsaved(UnsavedWork *work, UnsavedOffer *offer);
     /// Milliseconds after which the panel's storage counts as one that does not answer.
     void setStallTime(int ms) { m_jobs.setStallTime(ms); }
 

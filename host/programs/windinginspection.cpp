@@ -17,6 +17,14 @@ WindingInspection::WindingInspection(const QString &path, const MachineProfile &
     , m_piece(pieceBytes, Qt::Uninitialized)
 {}
 
+std::function<std::shared_ptr<ProgramInspection>(const QString &path)>
+WindingInspection::by(const MachineProfile &profile)
+{
+    return [profile](const QString &path) {
+        return std::make_shared<WindingInspection>(path, profile);
+    };
+}
+
 bool WindingInspection::step()
 {
     if (!m_hasProfile)

@@ -9,17 +9,22 @@
 
 #include <QFile>
 
+#include <functional>
+#include <memory>
+
 /// Checks a program by a machine's profile before it goes to that machine.
 ///
-///     download.setInspector([profile](const QString &path) {
-///         return std::make_shared<WindingInspection>(path, profile);
-///     });
+///     download.setInspector(WindingInspection::by(profile));
 class FILARIX_HOST_EXPORT WindingInspection : public ProgramInspection
 {
 public:
     /// Reads the file at \a path when it runs. By a profile that knows nothing all words would be
-    /// errors: the verdict is Unfinished then, as it is for a file that cannot be read.
+    /// errors. The verdict is Unfinished then, as it is for a file that cannot be read.
     WindingInspection(const QString &path, const MachineProfile &profile);
+
+    /// Makes one of each program, for CheckedDownload::setInspector().
+    static std::function<std::shared_ptr<ProgramInspection>(const QString &path)>
+    by(const MachineProfile &profile);
 
     bool step() override;
     int percent() const override;

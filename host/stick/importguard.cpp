@@ -342,6 +342,13 @@ void ImportGuard::settle(const std::function<void(Settled)> &then)
         });
 }
 
+void ImportGuard::settleNewStick(const DeviceState &state)
+{
+    if (state.stickIn && !m_isStickIn)
+        settle();
+    m_isStickIn = state.stickIn;
+}
+
 void ImportGuard::ask(const Look &look, const std::function<void(Settled)> &then)
 {
     const QPointer<ImportGuard> guard(this);

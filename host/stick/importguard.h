@@ -6,6 +6,7 @@
 
 #include "base/filarixhostglobal.h"
 #include "base/message.h"
+#include "stick/devicewatch.h"
 #include "stick/transferreport.h"
 #include "storage/filejob.h"
 
@@ -65,6 +66,11 @@ public:
     /// Keeps no event back.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+public Q_SLOTS:
+    /// For DeviceWatch::changed(): a stick that was just plugged in is settled, before the operator
+    /// uses it. While the guard is busy the first press on a transfer key does so.
+    void settleNewStick(const DeviceState &state);
+
 Q_SIGNALS:
     /// \a text is for the operator. The cause is "stick", or none.
     void told(const QString &text, Message::Tone tone, const QString &cause = QString());
@@ -111,6 +117,7 @@ private:
     QPointer<ImportManage> m_manager;
     Gate m_held;
     bool m_isAsking = false;
+    bool m_isStickIn = false;
 };
 
 #endif // IMPORTGUARD_H

@@ -84,6 +84,11 @@ QString ModalWords::before(const QTextBlock &line, const MachineProfile &profile
     return words.text();
 }
 
+std::function<QString(const QTextBlock &)> ModalWords::hintBy(const MachineProfile &profile)
+{
+    return [profile](const QTextBlock &line) { return before(line, profile); };
+}
+
 ModalWords::Kind ModalWords::kindOf(MachineFunction::Action action)
 {
     switch (action) {

@@ -9,6 +9,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QTextBlock;
 
 /// The words that hold at a line of a program, from lines above it: "G90 G01 F200 S300 M03".
@@ -36,6 +38,8 @@ public:
 
     /// text() for \a line of a document. \a line itself counts for nothing.
     static QString before(const QTextBlock &line, const MachineProfile &profile);
+    /// before() by \a profile, for LineEntry::setHint().
+    static std::function<QString(const QTextBlock &)> hintBy(const MachineProfile &profile);
 
 private:
     enum Kind { Positions, Motion, Feed, Speed, Spindle, Units, Tool, kindCount };

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void hostileNamesAreRenamedAndTouchNothing();
     void withoutRenamingNothingIsTransferred();
     void questionShowsEachNameBesideItsProposal();
+    void newStickIsSettledOnce();
     void guardMayGoWhileItAsks();
     void chosenNameOfAStickThatHasGoneIsRefused();
     void keysPressedByAKeyboardAreGuardedToo();
@@ -235,6 +236,28 @@ void TestImportGuard::withoutRenamingNothingIsTransferred()
     QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
     QVERIFY(QDir(programDir()).entryList(QDir::Files).isEmpty());
     QCOMPARE(QDir("/mnt/Storage").entryList(QDir::Files).size(), 2);
+}
+
+void TestImportGuard::newStickIsSettledOnce()
+{
+    writeFile("/mnt/Storage/a b.cnc", "G01\n");
+    ImportGuard guard(programDir(), "/mnt/Storage", &m_questioner);
+    DeviceState out;
+    out.isKnown = true;
+    DeviceState in = out;
+    in.stickIn = true;
+    guard.settleNewStick(out);
+    QVERIFY(!guard.isBusy());
+    guard.settleNewStick(in);
+    QTRY_VERIFY(!guard.isBusy());
+    QCOMPARE(m_questioner.asked.size(), 1);
+    in.freeBytes = 1;
+    guard.settleNewStick(in);
+    QVERIFY(!guard.isBusy());
+    guard.settleNewStick(out);
+    guard.settleNewStick(in);
+    QTRY_VERIFY(!guard.isBusy());
+    QCOMPARE(m_questioner.asked.size(), 2);
 }
 
 void TestImportGuard::questionShowsEachNameBesideItsProposal()
