@@ -36,6 +36,15 @@ FILARIX_HOST_EXPORT WGCodeEditer *editorOf(const QWidget *window);
 FILARIX_HOST_EXPORT bool openProgram(WMMainWindow *window, const QString &path,
                                      ProgramGuard *guard = nullptr);
 
+/// Puts the cursor on the line that the file of the open program has at \a line, from 1. A PLC
+/// counts these, and the editor may have dropped comments. The line stands in red until the cursor
+/// moves. A comment that was dropped leads to the line before.
+///
+/// Waits, with the event loop running. False, with the cursor where it was, when the editor shows
+/// something else than the file. The same where there is no such line, and where the storage does
+/// not answer.
+FILARIX_HOST_EXPORT bool goToFileLine(WMMainWindow *window, int line);
+
 } // namespace WindowProgram
 
 #endif // WINDOWPROGRAM_H

@@ -95,3 +95,14 @@ QStringList ProgramText::loaded(const QString &text)
         pieces.append(all.takeCode(pieceSize(count, i)));
     return pieces;
 }
+
+int ProgramText::rowOf(const QString &text, int line)
+{
+    Lines all(text);
+    int row = 0;
+    for (int i = 0; i < line; ++i) {
+        if (!all.takeCode(1).isEmpty())
+            ++row;
+    }
+    return row;
+}

@@ -29,6 +29,9 @@ qint64 lines(const QString &text);
 /// What the loader puts into the editor, piece by piece; one piece for a program that it doesn't
 /// clean. A piece of nothing but comments is empty, and adds no line.
 QStringList loaded(const QString &text);
+/// Of a program that the loader cleans: where line \a line of the file, from 1, is in the editor.
+/// Of a line without code it is the one before, and 0 above the first.
+int rowOf(const QString &text, int line);
 
 } // namespace ProgramText
 

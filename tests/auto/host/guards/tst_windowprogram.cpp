@@ -38,6 +38,10 @@ private Q_SLOTS:
     void nothingIsOpenedBehindADialog();
     void nothingIsOpenedWhileAProgramLoads();
     void windowMayGoMeanwhile();
+    void lineOfTheFileIsShown();
+    void lineOfTheFileIsFoundBehindDroppedComments();
+    void lineOfAnotherProgramIsNotGuessed();
+    void lineIsNotShownOnceTheWindowHasGone();
 };
 
 namespace {
@@ -253,6 +257,62 @@ void TestWindowProgram::windowMayGoMeanwhile()
     const WhenLoading gone(host.editor(), [window] { window->deleteLater(); });
     QPointer<WMMainWindow> watched(window);
     QVERIFY(!WindowProgram::openProgram(window, pathOf("long.cnc")));
+    QVERIFY(!watched);
+}
+
+void TestWindowProgram::lineOfTheFileIsShown()
+{
+    writeFile(pathOf("coil.cnc"), "; start\n\nG01 X1\nM2\n");
+    ProgramWindow host;
+    QVERIFY(WindowProgram::openProgram(host.window(), pathOf("coil.cnc")));
+    QVERIFY(WindowProgram::goToFileLine(host.window(), 4));
+    QCOMPARE(host.editor()->curLineText(), QString("M2"));
+    QVERIFY(!WindowProgram::goToFileLine(host.window(), 0));
+    QVERIFY(!WindowProgram::goToFileLine(host.window(), 6));
+    QCOMPARE(host.editor()->curLineText(), QString("M2"));
+}
+
+void TestWindowProgram::lineOfTheFileIsFoundBehindDroppedComments()
+{
+    // A comment before each 20 lines of code.
+    QByteArray program;
+    for (int i = 1; i <= 600; ++i)
+        program += i % 20 == 1 ? QByteArray("; layer\n") : "G01 X" + QByteArray::number(i) + "\n";
+    writeFile(pathOf("long.cnc"), program);
+    ProgramWindow host;
+    QVERIFY(WindowProgram::openProgram(host.window(), pathOf("long.cnc")));
+    QVERIFY(WindowProgram::goToFileLine(host.window(), 600));
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X600"));
+    QVERIFY(WindowProgram::goToFileLine(host.window(), 42));
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X42"));
+    QVERIFY(WindowProgram::goToFileLine(host.window(), 41)); // a comment
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X40"));
+    QVERIFY(WindowProgram::goToFileLine(host.window(), 1));
+    QCOMPARE(host.editor()->curLineText(), QString("G01 X2"));
+}
+
+void TestWindowProgram::lineOfAnotherProgramIsNotGuessed()
+{
+    writeFile(pathOf("coil.cnc"), "G01 X1\nM2\n");
+    ProgramWindow host;
+    QVERIFY(!WindowProgram::goToFileLine(nullptr, 1));
+    QVERIFY(!WindowProgram::goToFileLine(host.window(), 1));
+    QVERIFY(WindowProgram::openProgram(host.window(), pathOf("coil.cnc")));
+    host.editor()->insertLine("G01 X2");
+    QVERIFY(!WindowProgram::goToFileLine(host.window(), 2));
+    QVERIFY(QFile::remove(pathOf("coil.cnc")));
+    QVERIFY(!WindowProgram::goToFileLine(host.window(), 2));
+}
+
+void TestWindowProgram::lineIsNotShownOnceTheWindowHasGone()
+{
+    writeFile(pathOf("coil.cnc"), "G01 X1\nM2\n");
+    ProgramWindow host;
+    WMMainWindow *window = host.window();
+    QVERIFY(WindowProgram::openProgram(window, pathOf("coil.cnc")));
+    QPointer<WMMainWindow> watched(window);
+    window->deleteLater();
+    QVERIFY(!WindowProgram::goToFileLine(window, 1));
     QVERIFY(!watched);
 }
 

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void shortProgramIsOnePiece();
     void codeIsWhatStandsBeforeTheSemicolon();
     void pieceOutlivesTheText();
+    void rowsAreCountedWithoutComments();
 
 private:
     static QString path() { return programDir() + "/coil.cnc"; }
@@ -128,6 +129,17 @@ void TestProgramText::pieceOutlivesTheText()
         text.fill('x');
     }
     QCOMPARE(pieces.first(), QString("G77"));
+}
+
+void TestProgramText::rowsAreCountedWithoutComments()
+{
+    const QString text("; title\nG01\n\n  ; blanks\nG02 ; why\n");
+    QCOMPARE(ProgramText::rowOf(text, 1), 0);
+    QCOMPARE(ProgramText::rowOf(text, 2), 1);
+    QCOMPARE(ProgramText::rowOf(text, 3), 1);
+    QCOMPARE(ProgramText::rowOf(text, 4), 2);
+    QCOMPARE(ProgramText::rowOf(text, 5), 3);
+    QCOMPARE(ProgramText::rowOf(text, 100), 3);
 }
 
 FILARIX_TEST_MAIN(TestProgramText)
