@@ -81,6 +81,7 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/finddialogkeypad.h
   guards/fittedlist.h
   guards/lineentry.h
+  guards/owntransfer.h
   guards/pickerfacts.h
   guards/pickertable.h
   guards/programguard.h
