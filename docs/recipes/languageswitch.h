@@ -9,39 +9,20 @@
 #include <QTranslator>
 
 //! [language switch]
-/// The one language that the screens show. The library loads none; it follows the application's
-/// translators, and so do the dialogs that are made for each use.
-class LanguageSwitch
+/// Has the screens show the language of the file \a name in \a folder, in the place of \a current.
+/// The library loads no language. It follows the application's translators, and so do the dialogs
+/// that are made for each use. On failure the language stays what it was. `current->reset()` goes
+/// back to the English of the sources.
+inline bool switchLanguage(QScopedPointer<QTranslator> *current, const QString &name,
+                           const QString &folder)
 {
-public:
-    LanguageSwitch() {}
-    ~LanguageSwitch() { use(nullptr); }
-
-    /// Loads the file \a name from \a folder. On failure the language stays what it was.
-    bool load(const QString &name, const QString &folder)
-    {
-        QScopedPointer<QTranslator> next(new QTranslator);
-        if (!next->load(name, folder))
-            return false;
-        use(next.take());
-        return true;
-    }
-
-    /// Takes \a next over; null goes back to the English of the sources.
-    void use(QTranslator *next)
-    {
-        if (m_current)
-            QCoreApplication::removeTranslator(m_current.data());
-        m_current.reset(next);
-        if (next)
-            QCoreApplication::installTranslator(next);
-    }
-
-private:
-    Q_DISABLE_COPY(LanguageSwitch)
-
-    QScopedPointer<QTranslator> m_current;
-};
+    QScopedPointer<QTranslator> next(new QTranslator);
+    if (!next->load(name, folder))
+        return false;
+    QCoreApplication::installTranslator(next.data());
+    current->reset(next.take()); // the old one removes itself
+    return true;
+}
 //! [language switch]
 
 #endif // LANGUAGESWITCH_H

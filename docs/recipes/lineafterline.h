@@ -8,15 +8,13 @@
 #include "winding/modalwords.h"
 #include "wmmainwindow.h"
 
-#include <QTextBlock>
-
 //! [line after line]
 /// The keypad of \a window goes on to the next line. It shows the words that hold there, by
 /// \a profile. The window owns what does so.
 inline void enterLineAfterLine(WMMainWindow *window, const MachineProfile &profile)
 {
     LineEntry *entry = new LineEntry(window, window);
-    entry->setHint([profile](const QTextBlock &line) { return ModalWords::before(line, profile); });
+    entry->setHint(ModalWords::hintBy(profile));
 }
 //! [line after line]
 

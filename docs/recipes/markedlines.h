@@ -11,25 +11,25 @@
 #include <guards/errormarks.h>
 
 //! [marked lines]
-/// To the next finding behind \a row, or to the first one again; what it says, for the operator.
-inline QString goToFinding(ErrorMarks *marks, WGCodeEditer *editor, int row)
+/// Marks the lines that a check of the host's own found at fault, in place of those of the check
+/// before. \a findings has a text for the operator by its row, from 1.
+inline void showFindings(ErrorMarks *marks, const QMap<int, QString> &findings)
+{
+    marks->clear();
+    Q_FOREACH (int row, findings.keys())
+        marks->mark(row, ErrorMarks::Error, findings.value(row));
+}
+//! [marked lines]
+
+//! [next mark]
+/// To the next mark behind \a row, or to the first one again; what it says, for the operator.
+inline QString goToNextMark(ErrorMarks *marks, WGCodeEditer *editor, int row)
 {
     const int next = marks->nextRow(row) > 0 ? marks->nextRow(row) : marks->nextRow(0);
     if (next > 0)
         editor->gotoLine(next);
     return marks->text(next);
 }
-
-/// Marks the lines that a check of the program found at fault, in place of those of the check
-/// before, and goes to the first. \a findings has a text for the operator by its row, from 1.
-inline void showFindings(ErrorMarks *marks, WGCodeEditer *editor,
-                         const QMap<int, QString> &findings)
-{
-    marks->clear();
-    Q_FOREACH (int row, findings.keys())
-        marks->mark(row, ErrorMarks::Error, findings.value(row));
-    goToFinding(marks, editor, 0);
-}
-//! [marked lines]
+//! [next mark]
 
 #endif // MARKEDLINES_H

@@ -9,7 +9,7 @@
 #include <storage/durablefile.h>
 #include <storage/rowtext.h>
 
-//! [rows for others]
+//! [rows for a spreadsheet]
 /// Writes \a rows for a spreadsheet, to a stick, say: the file is there as a whole or not at all.
 /// Runs in a thread of files. The result says why it failed.
 inline QString writeCsv(const QString &path, const QList<QStringList> &rows)
@@ -18,7 +18,9 @@ inline QString writeCsv(const QString &path, const QList<QStringList> &rows)
     const bool isStored = file.open() && file.write(RowText::toCsv(rows)) && file.commit();
     return isStored ? QString() : file.errorString();
 }
+//! [rows for a spreadsheet]
 
+//! [rows from a server]
 /// What came from a server, if a list takes it as it is; otherwise none, and why in \a error.
 inline QList<QStringList> rowsFromServer(const QByteArray &json, int firstIndex, QString *error)
 {
@@ -31,6 +33,6 @@ inline QList<QStringList> rowsFromServer(const QByteArray &json, int firstIndex,
     *error = FilarixRows::describe(problems.first());
     return QList<QStringList>();
 }
-//! [rows for others]
+//! [rows from a server]
 
 #endif // ROWSFOROTHERS_H

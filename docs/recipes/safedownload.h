@@ -4,6 +4,7 @@
 #ifndef SAFEDOWNLOAD_H
 #define SAFEDOWNLOAD_H
 
+#include "guards/owntransfer.h"
 #include "guards/programguard.h"
 #include "programs/checkeddownload.h"
 #include "wmmainwindow.h"
@@ -21,49 +22,14 @@ inline CheckedDownload *addDownload(ProgramGuard *guard, const QString &plcDir,
 //! [safe download]
 
 //! [own transfer]
-/// The same for a machine that takes no files: \a transfer carries a copy over that nobody changes
-/// meanwhile, and says whether it went well. The button comes back however that ends.
-class OwnTransfer : public QObject
+/// For a machine that takes no files: \a send, the host's own, carries a private copy over. It runs
+/// in a thread, and gives why the machine refused, or nothing. The guard of the window keeps back
+/// what is not whole. The window owns the transfer, whose told() says what came of it.
+inline OwnTransfer *addTransfer(WMMainWindow *window, const QString &copyDir,
+                                const OwnTransfer::Send &send)
 {
-    Q_OBJECT
-
-public:
-    typedef std::function<bool(const QString &copyPath, const ProgramFacts &facts)> Transfer;
-
-    OwnTransfer(WMMainWindow *window, ProgramGuard *guard, const QString &copyDir,
-                const Transfer &transfer)
-        : QObject(guard), m_window(window), m_guard(guard), m_copy(copyDir), m_transfer(transfer)
-    {
-        connect(window, SIGNAL(signal_download(QString)), SLOT(copy(QString)));
-        connect(&m_copy, SIGNAL(taken()), SLOT(send()));
-        connect(&m_copy, SIGNAL(failed(QString)), SIGNAL(failed(QString)));
-    }
-
-Q_SIGNALS:
-    void failed(const QString &reason);
-
-private Q_SLOTS:
-    void copy(const QString &path)
-    {
-        if (m_guard->mayDownload(path))
-            m_copy.take(path);
-    }
-    void send()
-    {
-        m_window->setDownloading(true);
-        const bool isTaken = m_transfer(m_copy.copyPath(), m_copy.facts());
-        m_window->setDownloading(false);
-        m_copy.drop();
-        if (!isTaken)
-            Q_EMIT failed(tr("The machine did not take the program."));
-    }
-
-private:
-    WMMainWindow *m_window;
-    ProgramGuard *m_guard;
-    ProgramSnapshot m_copy;
-    const Transfer m_transfer;
-};
+    return new OwnTransfer(window, copyDir, send, window);
+}
 //! [own transfer]
 
 #endif // SAFEDOWNLOAD_H

@@ -7,7 +7,7 @@
 #include "fillrows.h"
 #include "storage/rowfile.h"
 
-//! [stored rows]
+//! [rows to a file]
 /// Writes the rows of \a list, from \a firstIndex on: 1 where it has a title, 0 elsewhere. The file
 /// is replaced as a whole or stays as it was; the result says why.
 inline QString exportRows(const TListWidget *list, int firstIndex, const QString &path)
@@ -19,7 +19,9 @@ inline QString exportRows(const TListWidget *list, int firstIndex, const QString
     RowFile::write(path, QLatin1String("Taught rows"), rows, &error);
     return error;
 }
+//! [rows to a file]
 
+//! [rows from a file]
 /// Fills \a list from the file; or leaves the list as it is and says what is wrong. A list takes
 /// rows as it gets them, so they are looked at before.
 inline QString importRows(TListWidget *list, int firstIndex, const QString &path)
@@ -34,6 +36,6 @@ inline QString importRows(TListWidget *list, int firstIndex, const QString &path
     fillRows(list, rows);
     return QString();
 }
-//! [stored rows]
+//! [rows from a file]
 
 #endif // STOREDROWS_H

@@ -6,39 +6,25 @@
 
 #include "fillrows.h"
 
-#include <QVBoxLayout>
+#include <QLayout>
 
 #include <guards/fittedlist.h>
 #include <guards/rowwatcher.h>
 
 //! [watched rows]
-/// A titled list of taught rows that fills the screen it stands on, and says what its operator
-/// edits.
-class TaughtScreen : public QWidget
+/// Adds a titled list of taught rows to \a layout. The list fills its place there. Each edit of the
+/// operator's calls the slot rowEdited(int, QStringList) of \a host: the row's index, and what the
+/// row holds now.
+inline TListWidget *addTaughtList(QLayout *layout, const QList<QStringList> &rows, QObject *host)
 {
-    Q_OBJECT
-
-public:
-    explicit TaughtScreen(const QList<QStringList> &rows, QWidget *parent = nullptr)
-        : QWidget(parent)
-        , m_fitted(new FittedList(
-              FilarixRows::titleRow(tr("Instr."), tr("Point"), tr("Speed"), "Z", "T")))
-    {
-        (new QVBoxLayout(this))->addWidget(m_fitted);
-        fillRows(m_fitted->list(), rows);
-        connect(new RowWatcher(m_fitted->list(), this), SIGNAL(rowEdited(int, QStringList)),
-                SIGNAL(edited(int, QStringList)));
-    }
-
-    TListWidget *list() const { return m_fitted->list(); }
-
-Q_SIGNALS:
-    /// The row of index \a row holds \a content now.
-    void edited(int row, const QStringList &content);
-
-private:
-    FittedList *m_fitted;
-};
+    const QStringList title = FilarixRows::titleRow("Instr.", "Point", "Speed", "Z", "T");
+    FittedList *fitted = new FittedList(title);
+    layout->addWidget(fitted);
+    fillRows(fitted->list(), rows);
+    QObject::connect(new RowWatcher(fitted->list(), fitted), SIGNAL(rowEdited(int, QStringList)),
+                     host, SLOT(rowEdited(int, QStringList)));
+    return fitted->list();
+}
 //! [watched rows]
 
 #endif // WATCHEDROWS_H

@@ -21,7 +21,9 @@ inline WMMainWindow *newWindowThatGoes(QWidget *parent, int rotation)
     }
     return window;
 }
+//! [window that goes]
 
+//! [window taken away]
 /// Takes a window away at any moment, from an alarm or a timer too. The window may be loading a
 /// program or waiting behind one of its dialogs just then. `delete` would pull the window away from
 /// under that.
@@ -30,6 +32,6 @@ inline void takeAway(WMMainWindow *window)
     window->hide();
     window->deleteLater();
 }
-//! [window that goes]
+//! [window taken away]
 
 #endif // WINDOWTHATGOES_H

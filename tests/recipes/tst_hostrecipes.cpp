@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
+#include "checkedprogram.h"
 #include "devicelog.h"
+#include "editbuttons.h"
 #include "filarixtest.h"
 #include "guardedwindow.h"
 #include "keptunsaved.h"
@@ -9,6 +11,7 @@
 #include "markedlines.h"
 #include "modaldriver.h"
 #include "openedprogram.h"
+#include "plcerror.h"
 #include "programwindow.h"
 #include "rowprobe.h"
 #include "rowsforothers.h"
@@ -17,9 +20,14 @@
 #include "storedrows.h"
 #include "watchedrows.h"
 
+#include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QProgressDialog>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -92,7 +100,14 @@ private Q_SLOTS:
     void guardKnowsHowTheProgramStands();
     void guardKeepsWhatASaveCovers();
     void programIsOpenedAtARow();
+    void undoGoesBackToTheLoadedProgram_data();
+    void undoGoesBackToTheLoadedProgram();
+    void findOpensTheDialog();
+    void plcErrorIsShown();
+    void plcErrorOfAnotherProgramIsNotGuessed();
     void findingsStayMarkedAndAreGoneTo();
+    void programIsCheckedWhileItIsEdited();
+    void programIsCheckedBeforeADownload();
     void downloadSendsWhatWasAgreedTo();
     void downloadOfALongProgramSendsItsComments();
     void downloadThatIsRefusedSendsNothing();
@@ -101,12 +116,13 @@ private Q_SLOTS:
     void ownTransferRefusesAProgramWithoutAFile();
     void ownTransferGivesTheButtonBackAfterAFailure();
     void unsavedWorkComesBack();
+    void unsavedRowsComeBack();
     void linesAreEnteredOneAfterTheOther();
     void exportedRowsComeBack();
     void importRefusesRowsThatAListWouldTake();
     void importOfAMissingFileLeavesTheList();
     void exportThatFailsTellsWhy();
-    void taughtScreenFillsItsPlaceAndTellsOfEdits();
+    void taughtListFillsItsPlaceAndTellsOfEdits();
     void spreadsheetsAndServersGetAndGiveRows();
 };
 
@@ -144,6 +160,68 @@ void TestHostRecipes::programIsOpenedAtARow()
     QCOMPARE(host.host.window()->getCurrentFile(), pathOf("part.cnc"));
 }
 
+void TestHostRecipes::undoGoesBackToTheLoadedProgram_data()
+{
+    QTest::addColumn<QByteArray>("program");
+    QTest::newRow("short") << QByteArray("G01 X1\nM2");
+    // Such a program is appended piece by piece, and each piece could be undone.
+    QTest::newRow("long") << QByteArray("G01 X1\n").repeated(599) + "M2";
+}
+
+void TestHostRecipes::undoGoesBackToTheLoadedProgram()
+{
+    QFETCH(QByteArray, program);
+    writeFile(pathOf("part.cnc"), program);
+    GuardedHost host;
+    addEditButtons(host.host.window());
+    host.open("part.cnc");
+    QToolButton *undo = host.host.button("Undo");
+    QVERIFY(!undo->isEnabled());
+    host.host.editor()->deleteLine();
+    host.host.editor()->insertLine("M30");
+    QVERIFY(undo->isEnabled());
+    while (undo->isEnabled())
+        undo->click();
+    QCOMPARE(host.host.editor()->toPlainText(), QString::fromLatin1(program));
+}
+
+void TestHostRecipes::findOpensTheDialog()
+{
+    ProgramWindow host;
+    addEditButtons(host.window());
+    host.press("Find");
+    QWidget *dialog = nullptr;
+    Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets())
+        if (widget->windowTitle() == QLatin1String("Find") && widget->isVisible())
+            dialog = widget;
+    QVERIFY(dialog);
+    QVERIFY(dialog->findChild<QCheckBox *>());
+}
+
+void TestHostRecipes::plcErrorIsShown()
+{
+    writeFile(pathOf("long.cnc"), longProgram());
+    GuardedHost host;
+    QStatusBar bar;
+    host.open("long.cnc");
+    showPlcError(host.host.window(), &bar, 42, "X is out of range");
+    QCOMPARE(host.host.editor()->curLineText(), QString("G01 X42"));
+    QCOMPARE(bar.currentMessage(), QString("X is out of range"));
+}
+
+void TestHostRecipes::plcErrorOfAnotherProgramIsNotGuessed()
+{
+    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
+    GuardedHost host;
+    QStatusBar bar;
+    host.open("part.cnc");
+    host.host.editor()->insertLine("G01 X2");
+    const int row = host.host.editor()->getCurRowNumber();
+    showPlcError(host.host.window(), &bar, 2, "X is out of range");
+    QCOMPARE(host.host.editor()->getCurRowNumber(), row);
+    QVERIFY(bar.currentMessage().contains("2") && bar.currentMessage().contains("out of range"));
+}
+
 void TestHostRecipes::findingsStayMarkedAndAreGoneTo()
 {
     ProgramWindow host;
@@ -153,16 +231,46 @@ void TestHostRecipes::findingsStayMarkedAndAreGoneTo()
     QMap<int, QString> findings;
     findings.insert(2, "a number is missing");
     findings.insert(4, "unknown word");
-    showFindings(&marks, editor, findings);
+    showFindings(&marks, findings);
+    QCOMPARE(goToNextMark(&marks, editor, 0), QString("a number is missing"));
     QCOMPARE(editor->getCurRowNumber(), 2);
     editor->insertBefore();
-    QCOMPARE(goToFinding(&marks, editor, 3), QString("unknown word"));
+    QCOMPARE(goToNextMark(&marks, editor, 3), QString("unknown word"));
     QCOMPARE(editor->getCurRowNumber(), 5);
-    QCOMPARE(goToFinding(&marks, editor, 5), QString("a number is missing"));
+    QCOMPARE(goToNextMark(&marks, editor, 5), QString("a number is missing"));
     QCOMPARE(editor->getCurRowNumber(), 3);
-    showFindings(&marks, editor, QMap<int, QString>());
-    QCOMPARE(goToFinding(&marks, editor, 0), QString());
+    showFindings(&marks, QMap<int, QString>());
+    QCOMPARE(goToNextMark(&marks, editor, 0), QString());
     QCOMPARE(editor->getCurRowNumber(), 3);
+}
+
+void TestHostRecipes::programIsCheckedWhileItIsEdited()
+{
+    ProgramWindow host;
+    CheckMarks *check = checkWhileEdited(host.window(), MachineProfile::forSamples());
+    host.editor()->setPlainText("G21\nT1 Q1\nM30\n");
+    QTRY_VERIFY(check->isCurrent());
+    QCOMPARE(check->findings().size(), 1);
+    QCOMPARE(goToNextMark(check->marks(), host.editor(), 0), check->findings().first().text());
+    QCOMPARE(host.editor()->getCurRowNumber(), 2);
+}
+
+void TestHostRecipes::programIsCheckedBeforeADownload()
+{
+    writeFile(pathOf("part.cnc"), "Q1\nM30\n");
+    QVERIFY(QDir(home()).mkdir("plc"));
+    GuardedHost host;
+    host.questioner.answers << 1;
+    CheckedDownload *download =
+        addDownload(host.guard, home() + "/plc", home() + "/outgoing", &host.questioner);
+    checkBeforeDownload(download, MachineProfile::forSamples());
+    host.open("part.cnc");
+    QSignalSpy ended(download, SIGNAL(ended()));
+    host.host.press("D/L");
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(download->facts().verdict.errors, 1);
+    QCOMPARE(host.questioner.asked.size(), 2);
+    QVERIFY(QDir(home() + "/plc").entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
 void TestHostRecipes::downloadSendsWhatWasAgreedTo()
@@ -213,26 +321,22 @@ void TestHostRecipes::downloadThatIsRefusedSendsNothing()
     QVERIFY(QDir(home() + "/plc").entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
-/// What a machine got.
+/// What a machine got. To be looked at while nothing is sent.
 struct Machine
 {
-    bool accepts = true;
-    bool wasGreyed = false;
+    QString refusal;
     QList<QByteArray> taken;
     QList<qint64> lines;
-    QStringList told;
 };
 
-static OwnTransfer *addTransfer(const GuardedHost &host, Machine *machine)
+static OwnTransfer *addMachine(const GuardedHost &host, Machine *machine)
 {
-    WMMainWindow *window = host.host.window();
-    return new OwnTransfer(window, host.guard, FilarixTest::home() + "/outgoing",
-                           [machine, window](const QString &copy, const ProgramFacts &facts) {
-                               machine->wasGreyed = window->isDownloading();
-                               machine->taken.append(FilarixTest::readFile(copy));
-                               machine->lines.append(facts.lines);
-                               return machine->accepts;
-                           });
+    return addTransfer(host.host.window(), FilarixTest::home() + "/outgoing",
+                       [machine](const QString &copy, const ProgramFacts &facts) {
+                           machine->taken.append(FilarixTest::readFile(copy));
+                           machine->lines.append(facts.lines);
+                           return machine->refusal;
+                       });
 }
 
 void TestHostRecipes::ownTransferGetsTheStoredProgram()
@@ -240,13 +344,13 @@ void TestHostRecipes::ownTransferGetsTheStoredProgram()
     writeFile(pathOf("long.cnc"), longProgram());
     GuardedHost host;
     Machine machine;
-    addTransfer(host, &machine);
+    QSignalSpy told(addMachine(host, &machine), SIGNAL(told(QString, Message::Tone, QString)));
     host.open("long.cnc");
     host.host.press("D/L");
-    QTRY_COMPARE(machine.taken.size(), 1);
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(machine.taken.size(), 1);
     QCOMPARE(machine.taken.first(), longProgram());
     QCOMPARE(machine.lines.first(), qint64(601));
-    QVERIFY(machine.wasGreyed);
     QVERIFY(!host.host.window()->isDownloading());
 }
 
@@ -277,7 +381,7 @@ void TestHostRecipes::ownTransferRefusesAProgramThatIsHalfLoaded()
     writeFile(pathOf("long.cnc"), QByteArray("G01 X1\n").repeated(9999));
     GuardedHost host;
     Machine machine;
-    addTransfer(host, &machine);
+    addMachine(host, &machine);
     QSignalSpy told(host.guard, SIGNAL(told(QString, Message::Tone, QString)));
     const Abort abort(host.host.editor());
     ModalDriver driver;
@@ -295,9 +399,9 @@ void TestHostRecipes::ownTransferRefusesAProgramWithoutAFile()
 {
     GuardedHost host;
     Machine machine;
-    QSignalSpy failed(addTransfer(host, &machine), SIGNAL(failed(QString)));
+    QSignalSpy told(addMachine(host, &machine), SIGNAL(told(QString, Message::Tone, QString)));
     host.host.press("D/L");
-    QTRY_COMPARE(failed.size(), 1);
+    QTRY_COMPARE(told.size(), 1);
     QCOMPARE(machine.taken.size(), 0);
 }
 
@@ -306,11 +410,12 @@ void TestHostRecipes::ownTransferGivesTheButtonBackAfterAFailure()
     writeFile(pathOf("part.cnc"), "M2\n");
     GuardedHost host;
     Machine machine;
-    machine.accepts = false;
-    QSignalSpy failed(addTransfer(host, &machine), SIGNAL(failed(QString)));
+    machine.refusal = "The machine is winding.";
+    QSignalSpy told(addMachine(host, &machine), SIGNAL(told(QString, Message::Tone, QString)));
     host.open("part.cnc");
     host.host.press("D/L");
-    QTRY_COMPARE(failed.size(), 1);
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.first().first().toString(), machine.refusal);
     QVERIFY(!host.host.window()->isDownloading());
 }
 
@@ -321,7 +426,7 @@ void TestHostRecipes::unsavedWorkComesBack()
     {
         GuardedHost host;
         UnsavedWork work(folder);
-        keepUnsaved(host.host.window(), host.guard, folder, &work, &host.questioner);
+        keepUnsaved(host.guard, folder, &work, &host.questioner);
         host.open("part.cnc");
         host.host.editor()->insertLine("G01 X7");
         QVERIFY(work.flush(10000));
@@ -330,12 +435,37 @@ void TestHostRecipes::unsavedWorkComesBack()
     GuardedHost host;
     host.questioner.answers << 1;
     UnsavedWork work(folder);
-    QSignalSpy ended(keepUnsaved(host.host.window(), host.guard, folder, &work, &host.questioner),
-                     SIGNAL(ended()));
+    UnsavedOffer *offer = keepUnsaved(host.guard, folder, &work, &host.questioner);
+    QSignalSpy ended(offer, SIGNAL(ended()));
+    offer->start();
     QTRY_COMPARE(ended.size(), 1);
     QCOMPARE(host.questioner.asked.size(), 1);
     QVERIFY(host.host.text().contains("G01 X7"));
     QVERIFY(host.host.isModified());
+}
+
+void TestHostRecipes::unsavedRowsComeBack()
+{
+    const QString folder = home() + "/unsaved";
+    for (int run = 0; run < 2; ++run) {
+        GuardedHost host;
+        QStringList titleRow = title();
+        TListWidget list(titleRow, nullptr);
+        QScopedPointer<UnsavedList> rows;
+        UnsavedWork work(folder);
+        QScopedPointer<UnsavedOffer> offer(
+            keepUnsaved(host.guard, folder, &work, &host.questioner));
+        rows.reset(keepRows(&list, &work, offer.data()));
+        QSignalSpy ended(offer.data(), SIGNAL(ended()));
+        host.questioner.answers << 1;
+        offer->start();
+        QTRY_COMPARE(ended.size(), 1);
+        QCOMPARE(host.questioner.asked.size(), run);
+        if (run == 0)
+            fillRows(&list, taught(3));
+        QVERIFY(work.flush(10000));
+        QCOMPARE(rows->rows(), taught(3));
+    }
 }
 
 void TestHostRecipes::linesAreEnteredOneAfterTheOther()
@@ -413,21 +543,37 @@ void TestHostRecipes::exportThatFailsTellsWhy()
              QStringList("taught.rows"));
 }
 
-void TestHostRecipes::taughtScreenFillsItsPlaceAndTellsOfEdits()
+/// A host that wants to know what its operator edits.
+class RowHost : public QWidget
+{
+    Q_OBJECT
+
+public:
+    QList<int> edited;
+    QStringList content;
+
+public Q_SLOTS:
+    void rowEdited(int row, const QStringList &rowContent)
+    {
+        edited.append(row);
+        content = rowContent;
+    }
+};
+
+void TestHostRecipes::taughtListFillsItsPlaceAndTellsOfEdits()
 {
     DeviceLog::reset();
-    TaughtScreen screen(taught(10));
+    RowHost screen;
+    TListWidget *list = addTaughtList(new QVBoxLayout(&screen), taught(10), &screen);
     screen.resize(620, 300);
     screen.show();
     QVERIFY(TestCompat::waitForExposed(&screen));
-    QTRY_VERIFY(screen.list()->width() > 560);
+    QTRY_VERIFY(list->width() > 560);
     QCoreApplication::processEvents();
-    QSignalSpy edited(&screen, SIGNAL(edited(int, QStringList)));
     DeviceLog::acceptWith("2.5");
-    RowProbe::tap(RowView(qobject_cast<MJLine *>(screen.list()->itemAt(3))).cell(RowView::Z));
-    QCOMPARE(edited.size(), 1);
-    QCOMPARE(edited.first().at(0).toInt(), 3);
-    QCOMPARE(edited.first().at(1).toStringList().at(FilarixRows::ZValue), QString("2.5"));
+    RowProbe::tap(RowView(qobject_cast<MJLine *>(list->itemAt(3))).cell(RowView::Z));
+    QCOMPARE(screen.edited, QList<int>() << 3);
+    QCOMPARE(screen.content.at(FilarixRows::ZValue), QString("2.5"));
 }
 
 void TestHostRecipes::spreadsheetsAndServersGetAndGiveRows()

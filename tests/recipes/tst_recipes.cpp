@@ -1,18 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Filarix Module developers
 // SPDX-License-Identifier: MIT
 
-#include "editbuttons.h"
 #include "filarixtest.h"
 #include "fillrows.h"
 #include "languageswitch.h"
 #include "marktranslator.h"
 #include "modaldriver.h"
 #include "modifiedmark.h"
-#include "plcerror.h"
 #include "wfiledialog.h"
 #include "windowthatgoes.h"
 
-#include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QPointer>
@@ -35,14 +32,6 @@ public:
 
     WGCodeEditer *editor() { return window.findChild<WGCodeEditer *>(); }
 
-    /// Opens the program \a name the way the operator does.
-    void open(const QString &name)
-    {
-        ModalDriver driver;
-        driver.then([name](QWidget *dialog) { pick(dialog, name); });
-        QVERIFY(QMetaObject::invokeMethod(&window, "open"));
-        QVERIFY2(driver.finished(), driver.report());
-    }
     void saveAs(const QString &name)
     {
         ModalDriver driver;
@@ -71,20 +60,6 @@ private:
     }
 };
 
-QString pathOf(const char *name)
-{
-    return FilarixTest::programDir() + QLatin1Char('/') + QLatin1String(name);
-}
-
-/// 600 lines: a comment before each 20 of code.
-QByteArray longProgram()
-{
-    QByteArray program;
-    for (int i = 1; i <= 600; ++i)
-        program += i % 20 == 1 ? QByteArray("; layer\n") : "G01 X" + QByteArray::number(i) + "\n";
-    return program;
-}
-
 QStringList title()
 {
     return FilarixRows::titleRow("Instr.", "Point", "Speed", "Z", "T");
@@ -110,14 +85,8 @@ class TestRecipes : public FilarixTest
 
 private Q_SLOTS:
     void modifiedMarkFollowsTheDocument();
-    void undoGoesBackToTheLoadedProgram();
-    void undoDoesNotTakeALongProgramApart();
-    void findOpensTheDialog();
-    void plcErrorIsShownInAShortProgram();
-    void plcErrorIsFoundBehindDroppedComments();
-    void plcErrorOfAnotherProgramIsNotGuessed();
     void languageSwitchReachesTheWindowAndBack();
-    void languageIsLoadedFromAFile();
+    void languageTakesThePlaceOfAnother();
     void languageThatIsMissingChangesNothing();
     void windowThatGoesLeavesNothingBehind();
     void windowIsTakenAwayFromUnderALoad();
@@ -137,111 +106,36 @@ void TestRecipes::modifiedMarkFollowsTheDocument()
     QCOMPARE(host.window.windowTitle(), QString("part.cnc[*] - Application"));
 }
 
-void TestRecipes::undoGoesBackToTheLoadedProgram()
-{
-    writeFile(pathOf("part.cnc"), "G01 X1\nM2");
-    Host host;
-    EditButtons buttons(&host.window);
-    host.open("part.cnc");
-    QVERIFY(!host.button("Undo")->isEnabled());
-    host.editor()->deleteLine();
-    QVERIFY(host.button("Undo")->isEnabled());
-    while (host.button("Undo")->isEnabled())
-        host.button("Undo")->click();
-    QCOMPARE(host.editor()->toPlainText(), QString("G01 X1\nM2"));
-}
-
-void TestRecipes::undoDoesNotTakeALongProgramApart()
-{
-    writeFile(pathOf("long.cnc"), longProgram());
-    Host host;
-    EditButtons buttons(&host.window);
-    host.open("long.cnc");
-    QCOMPARE(host.editor()->blockCount(), 570);
-    QVERIFY(!host.button("Undo")->isEnabled());
-    host.editor()->insertLine("M30");
-    while (host.button("Undo")->isEnabled())
-        host.button("Undo")->click();
-    QCOMPARE(host.editor()->blockCount(), 570);
-}
-
-void TestRecipes::findOpensTheDialog()
-{
-    Host host;
-    EditButtons buttons(&host.window);
-    host.button("Find")->click();
-    QWidget *dialog = nullptr;
-    Q_FOREACH (QWidget *widget, QApplication::topLevelWidgets())
-        if (widget->windowTitle() == QLatin1String("Find") && widget->isVisible())
-            dialog = widget;
-    QVERIFY(dialog);
-    QVERIFY(dialog->findChild<QCheckBox *>());
-}
-
-void TestRecipes::plcErrorIsShownInAShortProgram()
-{
-    writeFile(pathOf("part.cnc"), "; start\n\nG01 X1\nM2\n");
-    Host host;
-    host.open("part.cnc");
-    QVERIFY(goToPlcError(&host.window, 4));
-    QCOMPARE(host.editor()->curLineText(), QString("M2"));
-    QVERIFY(!goToPlcError(&host.window, 0));
-    QVERIFY(!goToPlcError(&host.window, 6));
-}
-
-void TestRecipes::plcErrorIsFoundBehindDroppedComments()
-{
-    writeFile(pathOf("long.cnc"), longProgram());
-    Host host;
-    host.open("long.cnc");
-    QVERIFY(goToPlcError(&host.window, 600));
-    QCOMPARE(host.editor()->curLineText(), QString("G01 X600"));
-    QVERIFY(goToPlcError(&host.window, 42));
-    QCOMPARE(host.editor()->curLineText(), QString("G01 X42"));
-    QVERIFY(goToPlcError(&host.window, 41)); // a comment
-    QCOMPARE(host.editor()->curLineText(), QString("G01 X40"));
-    QVERIFY(goToPlcError(&host.window, 1));
-    QCOMPARE(host.editor()->curLineText(), QString("G01 X2"));
-}
-
-void TestRecipes::plcErrorOfAnotherProgramIsNotGuessed()
-{
-    writeFile(pathOf("part.cnc"), "G01 X1\nM2\n");
-    Host host;
-    QVERIFY(!goToPlcError(&host.window, 1));
-    host.open("part.cnc");
-    host.editor()->insertLine("G01 X2");
-    QVERIFY(!goToPlcError(&host.window, 2));
-}
-
 void TestRecipes::languageSwitchReachesTheWindowAndBack()
 {
     Host host;
-    {
-        LanguageSwitch language;
-        language.use(new MarkTranslator("+"));
-        QTRY_VERIFY(host.button("+Open"));
-    }
-    QTRY_VERIFY(host.button("Open"));
-}
-
-void TestRecipes::languageIsLoadedFromAFile()
-{
-    Host host;
-    LanguageSwitch language;
-    QVERIFY(language.load("filarix_de", TRANSLATIONS_DIR));
+    QScopedPointer<QTranslator> language;
+    QVERIFY(switchLanguage(&language, "filarix_de", TRANSLATIONS_DIR));
     const QString open = QCoreApplication::translate("WMMainWindow", "Open");
     QVERIFY(open != QLatin1String("Open"));
     QTRY_VERIFY(host.button(open));
+    language.reset();
+    QTRY_VERIFY(host.button("Open"));
+}
+
+void TestRecipes::languageTakesThePlaceOfAnother()
+{
+    Host host;
+    QScopedPointer<QTranslator> language;
+    QVERIFY(switchLanguage(&language, "filarix_de", TRANSLATIONS_DIR));
+    QVERIFY(switchLanguage(&language, "filarix_it", TRANSLATIONS_DIR));
+    QTRY_VERIFY(host.button(QCoreApplication::translate("WMMainWindow", "Open")));
+    language.reset();
+    QTRY_VERIFY(host.button("Open"));
 }
 
 void TestRecipes::languageThatIsMissingChangesNothing()
 {
     Host host;
-    LanguageSwitch language;
-    language.use(new MarkTranslator("+"));
+    QScopedPointer<QTranslator> language(new MarkTranslator("+"));
+    QCoreApplication::installTranslator(language.data());
     QTRY_VERIFY(host.button("+Open"));
-    QVERIFY(!language.load("filarix_xx", TRANSLATIONS_DIR));
+    QVERIFY(!switchLanguage(&language, "filarix_xx", TRANSLATIONS_DIR));
     QCoreApplication::processEvents();
     QVERIFY(host.button("+Open"));
 }
