@@ -6,6 +6,9 @@
 
 #include <QByteArray>
 
+/// The companion's DurableFile does not serve a command. DurableFile takes names as text, and here
+/// a name is the bytes that the shell gave, in any encoding. DurableFile replaces what its owner
+/// made read-only, and writes to no pipe or device.
 namespace WholeFile {
 
 /// Writes \a bytes to the file \a name, all or nothing: what stood there before stays until the new
