@@ -88,8 +88,8 @@ set(FILARIX_HOST_PUBLIC_HEADERS
   guards/programpickers.h
   guards/programwalk.h
   guards/rowwatcher.h
-  guards/windowcommands.h
   guards/unsavedlist.h
+  guards/windowcommands.h
   guards/windowdialogs.h
   guards/windowprogram.h
   programs/checkeddownload.h
