@@ -109,8 +109,26 @@ Status checkFile(const QByteArray &file, const MachineProfile &profile, const QB
     return isDrawn ? statusOf(check) : NotRead;
 }
 
+/// A slip of the hand must not put a drawing in the place of a program.
+bool wouldCoverItsSource(const CheckOptions &options)
+{
+    if (options.svg.isEmpty())
+        return false;
+    QList<QByteArray> sources = options.files;
+    if (!options.profile.isEmpty())
+        sources.append(options.profile);
+    for (const QByteArray &source : sources)
+        if (WholeFile::isSame(options.svg, source))
+            return true;
+    return false;
+}
+
 Status run(const CheckOptions &options)
 {
+    if (wouldCoverItsSource(options)) {
+        complain(options.svg + ": is a file that is to be read, and no place for a drawing");
+        return Refused;
+    }
     MachineProfile profile;
     if (!readProfile(options.profile, &profile))
         return Refused;

@@ -98,7 +98,22 @@ bool writeAnywhere(const QByteArray &name, const QByteArray &bytes)
     return writeBeside(placeOf(name), facts.st_mode & 07777, bytes);
 }
 
+bool isFile(const QByteArray &name, struct stat *facts)
+{
+    const bool isThere =
+        name == "-" ? ::fstat(STDIN_FILENO, facts) == 0 : ::stat(name.constData(), facts) == 0;
+    return isThere && S_ISREG(facts->st_mode);
+}
+
 } // namespace
+
+bool WholeFile::isSame(const QByteArray &name, const QByteArray &other)
+{
+    struct stat facts;
+    struct stat others;
+    return isFile(name, &facts) && isFile(other, &others) && facts.st_dev == others.st_dev
+           && facts.st_ino == others.st_ino;
+}
 
 bool WholeFile::write(const QByteArray &name, const QByteArray &bytes, QByteArray *error)
 {

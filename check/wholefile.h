@@ -16,6 +16,10 @@ namespace WholeFile {
 /// error, half a sentence.
 bool write(const QByteArray &name, const QByteArray &bytes, QByteArray *error);
 
+/// Whether two names are of one and the same file. Devices and pipes are none, nor is what is not
+/// there. "-" is the standard input.
+bool isSame(const QByteArray &name, const QByteArray &other);
+
 } // namespace WholeFile
 
 #endif // WHOLEFILE_H

@@ -128,6 +128,21 @@ check 3 --svg "$PWD" right.cnc
 complains 'Is a directory'
 [ "$(find . -name 'coil.svg.*' | wc -l)" -eq 0 ] || fail "leaves a file behind"
 
+# Nor does a drawing take the place of what it is drawn from, by whatever name.
+cp right.cnc own.cnc
+ln own.cnc hard.cnc
+ln -s own.cnc soft.cnc
+for name in own.cnc ./own.cnc hard.cnc soft.cnc; do
+    check 4 --svg "$name" own.cnc
+    complains "^filarix-check: $name: is a file that is to be read"
+done
+check 4 --svg own.cnc - <own.cnc
+check 4 --svg small.ini --profile small.ini small.cnc
+cmp own.cnc right.cnc || fail "a drawing covers its program"
+grep -q '^core = 5' small.ini || fail "a drawing covers the profile"
+check 0 --svg /dev/null right.cnc
+check 2 --svg /dev/null - </dev/null
+
 # The findings speak the user's language.
 if [ -e "$(dirname "$program")/../translations/filarixhost_de.qm" ]; then
     LC_ALL=de_DE.UTF-8 check 2 error.cnc

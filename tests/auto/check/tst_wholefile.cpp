@@ -26,6 +26,7 @@ private Q_SLOTS:
     void whatCannotBeWrittenStays_data();
     void whatCannotBeWrittenStays();
     void deviceIsWrittenTo();
+    void oneFileHasManyNames();
 };
 
 static QByteArray pathTo(const char *name)
@@ -121,6 +122,21 @@ void TestWholeFile::deviceIsWrittenTo()
     struct stat facts;
     QCOMPARE(::stat("/dev/null", &facts), 0);
     QVERIFY(S_ISCHR(facts.st_mode));
+}
+
+void TestWholeFile::oneFileHasManyNames()
+{
+    writeFile(home() + "/a.cnc", "G21");
+    writeFile(home() + "/b.cnc", "G21");
+    QVERIFY(QFile::link(home() + "/a.cnc", home() + "/soft.cnc"));
+    QCOMPARE(::link(pathTo("a.cnc").constData(), pathTo("hard.cnc").constData()), 0);
+    QVERIFY(WholeFile::isSame(pathTo("a.cnc"), pathTo("a.cnc")));
+    QVERIFY(WholeFile::isSame(pathTo("./a.cnc"), pathTo("soft.cnc")));
+    QVERIFY(WholeFile::isSame(pathTo("hard.cnc"), pathTo("a.cnc")));
+    QVERIFY(!WholeFile::isSame(pathTo("a.cnc"), pathTo("b.cnc")));
+    QVERIFY(!WholeFile::isSame(pathTo("a.cnc"), pathTo("none.cnc")));
+    QVERIFY(!WholeFile::isSame(pathTo("none.cnc"), pathTo("none.cnc")));
+    QVERIFY(!WholeFile::isSame("/dev/null", "/dev/null"));
 }
 
 FILARIX_TEST_MAIN(TestWholeFile)
