@@ -337,6 +337,9 @@ void LineScanner<Character>::addWord(const GCodeWord &word)
 template<class Character>
 void LineScanner<Character>::addFault(BlockFault::Kind kind, int column, int length)
 {
+    // What machines skip takes no place from what stops them, and is no fault beyond it.
+    if (kind == BlockFault::NonAsciiInComment && m_block->faultCount >= GCodeBlock::mostNotes)
+        return;
     if (m_block->faultCount == GCodeBlock::mostFaults) {
         ++m_block->moreFaults;
         return;

@@ -51,6 +51,8 @@ struct FILARIX_HOST_EXPORT GCodeBlock
 {
     static const int mostWords = 32;
     static const int mostFaults = 16;
+    /// A BlockFault::NonAsciiInComment is left out where so many faults stand before it.
+    static const int mostNotes = mostFaults / 2;
     /// No machine has an axis, a speed or a number beyond it; sums of such values stay finite.
     static const int largestValue = 1000000000;
 
@@ -58,7 +60,7 @@ struct FILARIX_HOST_EXPORT GCodeBlock
     int line = 0;
     int wordCount = 0;
     int faultCount = 0;
-    /// Faults beyond mostFaults.
+    /// Faults beyond mostFaults; a NonAsciiInComment is none of them.
     int moreFaults = 0;
     /// Of the first comment, from its ";" or "(" on; 0 for none.
     int commentColumn = 0;

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void commentHasItsPlace();
     void tapeMarkIsNoFault();
     void onlySoManyWordsAndFaultsAreKept();
+    void aCommentOfManyLettersHidesNoFault();
     void whatStandsBeyondTheLongestLineIsTold();
     void codesAreTenths();
     void numbersAreThoseOfTheToolkit();
@@ -276,6 +277,15 @@ void TestBlockReader::onlySoManyWordsAndFaultsAreKept()
     const GCodeBlock &faults = reader.read(QString("X ").repeated(mostFaults + 3));
     QCOMPARE(faults.faultCount, mostFaults);
     QCOMPARE(faults.moreFaults, 3);
+}
+
+void TestBlockReader::aCommentOfManyLettersHidesNoFault()
+{
+    BlockReader reader;
+    const QString letters = QString(QChar(0xe4)) + 'a';
+    const GCodeBlock &block = reader.read('(' + letters.repeated(100) + ") X @");
+    QCOMPARE(block.moreFaults, 0);
+    QVERIFY2(faultsOf(block).endsWith("missing@204+1 stray@206+1"), qPrintable(faultsOf(block)));
 }
 
 void TestBlockReader::whatStandsBeyondTheLongestLineIsTold()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void sentencesNameTheWordAndTheLimit();
     void aStateIsMissedOnce();
     void profileSaysWhatIsDemanded();
+    void commentsInAnyLanguageAreRight();
     void inchesAreCheckedInMillimetres();
     void findingsComeInOrder();
     void manyFindingsAreCounted();
@@ -210,6 +211,15 @@ void TestProgramCheck::profileSaysWhatIsDemanded()
     profile.replace("= required", "= optional").replace("-10, 40", "-10, 60");
     profile.replace("width = 20", "width = 60").replace("pitch = 2\n", "");
     QCOMPARE(told(checked(program, profileOf(profile))), QString("4 tension-jump"));
+}
+
+void TestProgramCheck::commentsInAnyLanguageAreRight()
+{
+    const ProgramCheck check = checked(framed("; " + QByteArray("\xc3\xbc a ").repeated(50)));
+    QCOMPARE(check.count(Finding::Error), 0);
+    QCOMPARE(check.count(Finding::Warning), 0);
+    QVERIFY(check.count(Finding::Note) > 0);
+    QCOMPARE(check.leftOut(), 0);
 }
 
 void TestProgramCheck::inchesAreCheckedInMillimetres()
