@@ -110,11 +110,8 @@ bool ProgramCheck::forbidsSending() const
 
 void ProgramCheck::add(const GCodeBlock &block, const WindingStep &step, const WindingModel &)
 {
-    if (step.isBehindEnd) {
-        if (isNews(&m_isBehindEndSaid, m_isBehindEndSaid || block.wordCount > 0))
-            report(Finding::BehindEnd, placeOf(block));
-        return;
-    }
+    if (step.isBehindEnd)
+        return checkBehindEnd(block);
     if (block.faultCount > 0)
         checkWriting(block);
     if (block.wordCount == 0)
@@ -147,6 +144,8 @@ void ProgramCheck::finish(const WindingModel &model)
 
 ProgramCheck::Place ProgramCheck::placeOf(const GCodeBlock &block)
 {
+    if (block.wordCount == 0 && block.faultCount > 0)
+        return placeOf(block, block.faults[0]);
     Place place;
     place.line = block.line;
     if (block.wordCount > 0) {
@@ -163,6 +162,15 @@ ProgramCheck::Place ProgramCheck::placeOf(const GCodeBlock &block, const GCodeWo
     place.line = block.line;
     place.column = word.column;
     place.length = word.length;
+    return place;
+}
+
+ProgramCheck::Place ProgramCheck::placeOf(const GCodeBlock &block, const BlockFault &fault)
+{
+    Place place;
+    place.line = block.line;
+    place.column = fault.column;
+    place.length = fault.length;
     return place;
 }
 
@@ -186,15 +194,21 @@ ProgramCheck::Place ProgramCheck::placeOf(const GCodeBlock &block,
     return placeOf(block);
 }
 
+/// Comments may stand there, in any language.
+void ProgramCheck::checkBehindEnd(const GCodeBlock &block)
+{
+    bool isComment = block.wordCount == 0;
+    for (int i = 0; i < block.faultCount; ++i)
+        isComment = isComment && block.faults[i].kind == BlockFault::NonAsciiInComment;
+    if (isNews(&m_isBehindEndSaid, m_isBehindEndSaid || !isComment))
+        report(Finding::BehindEnd, placeOf(block));
+}
+
 void ProgramCheck::checkWriting(const GCodeBlock &block)
 {
     for (int i = 0; i < block.faultCount; ++i) {
         const BlockFault &fault = block.faults[i];
-        Place place;
-        place.line = block.line;
-        place.column = fault.column;
-        place.length = fault.length;
-        report(writingKinds[fault.kind], place);
+        report(writingKinds[fault.kind], placeOf(block, fault));
     }
     m_counts[Finding::Error] += block.moreFaults;
 }
@@ -243,7 +257,10 @@ void ProgramCheck::checkValue(const GCodeBlock &block, const WindingStep &step,
                               const GCodeWord &word)
 {
     const Letter &letter = m_letters[slotOf(word.letter)];
-    switch (letter.use) {
+    const bool isDwell = step.does(MachineFunction::Dwell);
+    // In a dwell's block its letter is a time, whatever it is elsewhere.
+    const bool isTime = isDwell && word.letter == m_profile.dwellLetter();
+    switch (isTime ? MachineProfile::DwellUse : letter.use) {
     case MachineProfile::AxisUse:
         return checkAxis(placeOf(block, word), *letter.axis, step.to[letter.axis->slot]);
     case MachineProfile::SpeedUse:
@@ -256,7 +273,7 @@ void ProgramCheck::checkValue(const GCodeBlock &block, const WindingStep &step,
     case MachineProfile::DwellUse:
         if (word.value < 0)
             report(Finding::NegativeValue, placeOf(block, word), wordText(word));
-        else if (letter.use == MachineProfile::DwellUse && !step.does(MachineFunction::Dwell))
+        else if (letter.use == MachineProfile::DwellUse && !isDwell)
             report(Finding::IdleWord, placeOf(block, word), wordText(word));
         return;
     default:

@@ -59,8 +59,10 @@ private:
 
     static Place placeOf(const GCodeBlock &block);
     static Place placeOf(const GCodeBlock &block, const GCodeWord &word);
+    static Place placeOf(const GCodeBlock &block, const BlockFault &fault);
     Place placeOf(const GCodeBlock &block, MachineAxis::Role role) const;
     Place placeOf(const GCodeBlock &block, MachineFunction::Action action) const;
+    void checkBehindEnd(const GCodeBlock &block);
     void checkWriting(const GCodeBlock &block);
     void checkWords(const GCodeBlock &block, const WindingStep &step);
     void checkFunction(const GCodeBlock &block, int index);

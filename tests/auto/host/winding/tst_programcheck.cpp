@@ -22,6 +22,8 @@ private Q_SLOTS:
     void sentencesNameTheWordAndTheLimit();
     void aStateIsMissedOnce();
     void profileSaysWhatIsDemanded();
+    void aDwellsLetterIsItsTimeThere_data();
+    void aDwellsLetterIsItsTimeThere();
     void commentsInAnyLanguageAreRight();
     void inchesAreCheckedInMillimetres();
     void findingsComeInOrder();
@@ -213,6 +215,31 @@ void TestProgramCheck::profileSaysWhatIsDemanded()
     QCOMPARE(told(checked(program, profileOf(profile))), QString("4 tension-jump"));
 }
 
+void TestProgramCheck::aDwellsLetterIsItsTimeThere_data()
+{
+    QTest::addColumn<QByteArray>("words");
+    QTest::addColumn<QByteArray>("dwell");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("speed") << QByteArray("dwell = S") << QByteArray("G04 S2500") << QString();
+    QTest::newRow("pitch") << QByteArray("dwell = K") << QByteArray("G04 K2.5") << QString();
+    QTest::newRow("tool") << QByteArray("dwell = T") << QByteArray("G04 T2.5") << QString();
+    QTest::newRow("negative") << QByteArray("dwell = T") << QByteArray("G04 T-1")
+                              << QString("4 negative-value");
+    QTest::newRow("elsewhere") << QByteArray("dwell = S") << QByteArray("S2500")
+                               << QString("4 speed-limit");
+}
+
+void TestProgramCheck::aDwellsLetterIsItsTimeThere()
+{
+    QFETCH(QByteArray, words);
+    QFETCH(QByteArray, dwell);
+    QFETCH(QString, expected);
+    QByteArray profile = RightProgram::profile();
+    QVERIFY(profile.contains("dwell = F"));
+    profile.replace("dwell = F", words);
+    QCOMPARE(told(checked(framed(dwell), profileOf(profile))), expected);
+}
+
 void TestProgramCheck::commentsInAnyLanguageAreRight()
 {
     const ProgramCheck check = checked(framed("; " + QByteArray("\xc3\xbc a ").repeated(50)));
@@ -270,6 +297,9 @@ void TestProgramCheck::emptyProgramHasNoEnd()
     QCOMPARE(told(checked("M30")), QString());
     QCOMPARE(told(checked("%\nM30\n%\n\n; notes\n")), QString());
     QCOMPARE(told(checked("M30\n; f\xc3\xbc\nG00 X5\nG00 X6\n")), QString("3 behind-end"));
+    QCOMPARE(told(checked("M30\n; \xc3\xbc\n  @\nX\n")), QString("3 behind-end"));
+    QCOMPARE(checked("M30\n  @\n").findings().first().column, 3);
+    QCOMPARE(told(checked(QByteArray("M30\n") + QByteArray(512, '\0'))), QString("2 behind-end"));
 }
 
 void TestProgramCheck::profileMayForbidSending()
