@@ -13,8 +13,6 @@ namespace {
 const int letters = 26;
 const int codes = 10000;
 const int mostErrors = 20;
-const int mostTools = 1000;
-const int mostGroups = 100;
 const double copperDensity = 8.89;
 const double copperResistivity = 0.017241;
 const double aluminiumDensity = 2.703;
@@ -136,6 +134,16 @@ enum TimeUnit { Seconds, Milliseconds };
 const Choice timeUnits[] = {{"s", Seconds}, {"ms", Milliseconds}};
 enum Metal { Copper, Aluminium };
 const Choice metals[] = {{"copper", Copper}, {"aluminium", Aluminium}};
+/// Of the conductor: g/cm³, and ohm mm²/m at 20 °C.
+struct MetalFacts
+{
+    double density;
+    double resistivity;
+};
+
+// In the order of Metal.
+const MetalFacts metalFacts[] = {{copperDensity, copperResistivity},
+                                 {aluminiumDensity, aluminiumResistivity}};
 const Choice demands[] = {{"required", true}, {"optional", false}};
 const Choice answers[] = {{"ask", false}, {"forbid", true}};
 const Choice growths[] = {{"guide", MachineLayers::ByGuide},
@@ -206,6 +214,13 @@ QString textOf(double number)
     return QString::number(number, 'g', digits);
 }
 
+/// Some editors begin a text in UTF-8 with a mark.
+QByteArray withoutMark(const QByteArray &bytes)
+{
+    const QByteArray mark = "\xef\xbb\xbf";
+    return bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes;
+}
+
 bool isText(const QByteArray &bytes)
 {
     for (const char byte : bytes)
@@ -263,6 +278,7 @@ private:
     template<int count>
     bool choice(const QString &text, const Choice (&choices)[count], int *target);
     bool oneOf(const QString &text, const Choice *choices, int count, int *target);
+    void takeMetal();
     void checkWhole();
     void checkDwell();
     void failKey(const QString &key);
@@ -275,20 +291,21 @@ private:
     QStringList m_seen;
     QString m_section;
     int m_line = 0;
+    int m_metal = Copper;
 };
 
 MachineProfile MachineProfileText::read(const QByteArray &text, QStringList *errors)
 {
-    m_profile.m_wire.density = copperDensity;
-    m_profile.m_wire.resistivity = copperResistivity;
+    const QByteArray lines = withoutMark(text);
     if (text.size() > MachineProfile::mostBytes)
         failWhole(tr("%1 is too large for a machine profile.").arg(m_name));
-    else if (!isText(text))
+    else if (!isText(lines))
         failWhole(tr("%1 is no text, and so no machine profile.").arg(m_name));
     else
         for (const QString &line :
-             QString::fromUtf8(text.constData(), text.size()).split(QLatin1Char('\n')))
+             QString::fromUtf8(lines.constData(), lines.size()).split(QLatin1Char('\n')))
             readLine(line);
+    takeMetal();
     if (m_errors.isEmpty())
         checkWhole();
     *errors = m_errors;
@@ -449,7 +466,7 @@ void MachineProfileText::readFunction(const QString &key, const QString &value)
     const GCodeWord &word = block.words[0];
     const bool isWord = block.wordCount == 1 && block.faultCount == 0 && block.commentColumn == 0
                         && (word.letter == 'G' || word.letter == 'M') && word.code() >= 0;
-    if (!isWord || list.size() > 2) {
+    if (!isWord || list.size() > 2 || list.last().isEmpty()) {
         fail(tr("A function is: G or M with a number = action, modal group."));
         return;
     }
@@ -493,8 +510,7 @@ void MachineProfileText::readTool(const QString &key, const QString &value)
 {
     double wanted = 0;
     MachineProfile::Tool tool;
-    if (m_profile.m_tools.size() >= mostTools || !number(key, 0, mostLimit, &wanted)
-        || !number(value, 0, mostMillimetres, &tool.bore))
+    if (!number(key, 0, mostLimit, &wanted) || !number(value, 0, mostMillimetres, &tool.bore))
         return;
     tool.number = int(wanted);
     if (tool.number != wanted || m_profile.hasListedTool(tool.number))
@@ -505,7 +521,6 @@ void MachineProfileText::readTool(const QString &key, const QString &value)
 
 void MachineProfileText::readWire(const QString &key, const QString &value)
 {
-    int metal = 0;
     MachineWire &wire = m_profile.m_wire;
     if (key == QLatin1String("size")) {
         readSize(value);
@@ -516,9 +531,8 @@ void MachineProfileText::readWire(const QString &key, const QString &value)
         number(value, 0.001, mostMillimetres, &wire.conductorDiameter);
     } else if (key != QLatin1String("metal")) {
         failKey(key);
-    } else if (choice(value, metals, &metal)) {
-        wire.density = metal == Copper ? copperDensity : aluminiumDensity;
-        wire.resistivity = metal == Copper ? copperResistivity : aluminiumResistivity;
+    } else {
+        choice(value, metals, &m_metal);
     }
 }
 
@@ -549,7 +563,7 @@ void MachineProfileText::useLetter(char letter, MachineProfile::Use use)
 int MachineProfileText::groupOf(const QString &name)
 {
     int index = m_profile.m_groups.indexOf(plain(name));
-    if (index < 0 && m_profile.m_groups.size() < mostGroups) {
+    if (index < 0) {
         index = m_profile.m_groups.size();
         m_profile.m_groups.append(plain(name));
     }
@@ -586,6 +600,16 @@ bool MachineProfileText::oneOf(const QString &text, const Choice *choices, int c
     }
     fail(tr("\"%1\" is none of: %2.").arg(text, names.join(QLatin1String(", "))));
     return false;
+}
+
+/// The figures of the metal, where the profile has none of its own.
+void MachineProfileText::takeMetal()
+{
+    MachineWire &wire = m_profile.m_wire;
+    if (wire.density <= 0)
+        wire.density = metalFacts[m_metal].density;
+    if (wire.resistivity <= 0)
+        wire.resistivity = metalFacts[m_metal].resistivity;
 }
 
 void MachineProfileText::checkWhole()

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void sizesOfTheStandard_data();
     void sizesOfTheStandard();
     void wayOfWritingMakesNoDifference();
+    void orderOfTheWiresKeysMakesNoDifference();
+    void markOfTheEncodingIsSkipped();
+    void manyToolsAndGroupsAreAllKnown();
     void nonsense_data();
     void nonsense();
     void allFaultsAreTold();
@@ -246,6 +249,39 @@ void TestMachineProfile::wayOfWritingMakesNoDifference()
     QCOMPARE(profile.rules().tensionJumpLimit, 2.0);
 }
 
+void TestMachineProfile::orderOfTheWiresKeysMakesNoDifference()
+{
+    const MachineProfile own = read(least() + "[wire]\ndensity = 5\nmetal = aluminium\n");
+    QCOMPARE(own.wire().density, 5.0);
+    QCOMPARE(own.wire().resistivity, 0.028264);
+    const MachineProfile other = read(least() + "[wire]\nmetal = copper\nresistivity = 0.02\n");
+    QCOMPARE(other.wire().density, 8.89);
+    QCOMPARE(other.wire().resistivity, 0.02);
+    QCOMPARE(read(least() + "[wire]\nresistivity = 0.02\nmetal = copper\n").wire().resistivity,
+             0.02);
+}
+
+/// Editors of some systems put it in front of each text in UTF-8.
+void TestMachineProfile::markOfTheEncodingIsSkipped()
+{
+    QCOMPARE(read("\xef\xbb\xbf" + least()).axes().size(), 1);
+}
+
+void TestMachineProfile::manyToolsAndGroupsAreAllKnown()
+{
+    const int count = 2000;
+    QByteArray text = least() + "[tools]\n";
+    for (int i = 1; i <= count; ++i)
+        text += QByteArray::number(i) + "=1\n";
+    text += "[functions]\n";
+    for (int i = 1; i < 1000; ++i)
+        text += 'G' + QByteArray::number(i) + "=ignored,a" + QByteArray::number(i) + '\n';
+    const MachineProfile profile = read(text);
+    QVERIFY(profile.hasTool(count));
+    QVERIFY(!profile.hasTool(count + 1));
+    QCOMPARE(profile.groupName(profile.function('G', 9990)->group), QString("a999"));
+}
+
 void TestMachineProfile::nonsense_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -281,6 +317,7 @@ void TestMachineProfile::nonsense_data()
     QTest::newRow("no code") << l + "[functions]\nG1.25 = feed" << functionForm;
     QTest::newRow("code too large") << l + "[functions]\nG1000 = feed" << functionForm;
     QTest::newRow("two groups") << l + "[functions]\nG1 = feed, a, b" << functionForm;
+    QTest::newRow("no name of a group") << l + "[functions]\nG1 = feed," << functionForm;
     QTest::newRow("same function") << l + "[functions]\nG1 = feed\nG01 = rapid"
                                    << "p.ini, line 9: \"g01\" stands there twice.";
     const QString axisForm = "p.ini, line 8: An axis is: letter = role, unit, minimum, maximum.";
