@@ -28,6 +28,8 @@ const double widestWire = 5.1;
 // A nested layer has its last turn beside the flange, if the guide waits there for that.
 const double closingTurn = 1;
 const double leastStanding = 0.5;
+// What sums of the guide's ways may be off by, in mm.
+const double rounding = 1e-6;
 // At one distance of the guide; more are layers of their own.
 const int mostPasses = 4096;
 
@@ -458,7 +460,7 @@ void WindingModel::closeLayer(const WindingLayer &layer)
     m_totals.outerDiameter = std::max(m_totals.outerDiameter, outer);
     m_coilTurns += layer.turns;
     m_fullestTurns = std::max(m_fullestTurns, m_coilTurns);
-    if (outer > m_profile.bobbin().flangeDiameter && m_totals.overfullLine == 0)
+    if (outer > m_profile.bobbin().flangeDiameter + rounding && m_totals.overfullLine == 0)
         m_totals.overfullLine = layer.firstLine;
     if (m_layers.size() < mostLayers)
         m_layers.append(layer);

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void nothingIsWoundWithout();
     void behindTheEndNothingIsWound();
     void overfullCoilHasItsLine();
+    void coilUpToTheFlangeIsNotOverfull();
     void inches();
     void placesOfLines();
     void linesOfPlaces();
@@ -450,6 +451,21 @@ void TestWindingModel::overfullCoilHasItsLine()
     QCOMPARE(model.totals().overfullLine, model.layers().at(2).firstLine);
     QCOMPARE(model.layers().size(), 4);
     QCOMPARE(modelOf(plainLayers(2, 0.5), narrow).totals().overfullLine, 0);
+}
+
+/// Sums of tenths are never quite what they should be.
+void TestWindingModel::coilUpToTheFlangeIsNotOverfull()
+{
+    for (int count = 1; count < 40; ++count) {
+        QByteArray program = "G00 X0 Y10\nS600 M03\n";
+        for (int i = 0; i < count; ++i)
+            program += "G01 Y" + number(10 + i * 0.3) + " F6000\n"
+                       + (i % 2 == 0 ? "G33 X10 K0.3\n" : "G33 X0 K0.3\n");
+        const QByteArray flange = "flange = " + QByteArray::number(13 + count * 0.6);
+        const WindingTotals full = modelOf(program, profileWith("flange = 100", flange)).totals();
+        QCOMPARE(full.layers, count);
+        QVERIFY2(full.overfullLine == 0, flange.constData());
+    }
 }
 
 void TestWindingModel::inches()
