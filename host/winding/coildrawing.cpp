@@ -42,6 +42,14 @@ QColor between(const QColor &one, const QColor &other, qreal part)
                             one.blueF() + (other.blueF() - one.blueF()) * part);
 }
 
+/// What no document of this kind may hold: a name of a file may.
+bool isForbidden(QChar character)
+{
+    const ushort value = character.unicode();
+    const bool isBlank = value == '\t' || value == '\n' || value == '\r';
+    return (value < ' ' && !isBlank) || value >= 0xfffe;
+}
+
 /// Writes numbers and names as the text of a file wants them: short, and the same in each language.
 class SvgWriter
 {
@@ -213,6 +221,9 @@ void SvgWriter::text(const CoilDrawing::Shape &shape)
     }
     colour("fill", shape.fill, shape.shade);
     QString escaped = shape.text;
+    for (QChar &character : escaped)
+        if (isForbidden(character))
+            character = QChar(QChar::ReplacementCharacter);
     escaped.replace(QLatin1Char('&'), QLatin1String("&amp;"));
     escaped.replace(QLatin1Char('<'), QLatin1String("&lt;"));
     escaped.replace(QLatin1Char('>'), QLatin1String("&gt;"));

@@ -185,6 +185,10 @@ void TestCoilDrawing::svgIsWellFormedWhateverATextHolds()
     drawing.beginClip(QRectF(0, 0, 10, 10));
     drawing.addText(QPointF(0, 0), QString::fromUtf8("a<b>&\"c\" \xc3\x98 \xe7\xba\xbf"), 12);
     drawing.addTurnedText(QPointF(0, 0), "up", 12);
+    // A file system takes any name; a document of this kind does not take all characters.
+    drawing.addText(QPointF(0, 0), QString("a\x01\x1b\x7f.cnc") + QChar(0xfffe) + QChar(0xd800),
+                    12);
+    drawing.addText(QPointF(0, 0), QString::fromUtf8("\xf0\x9f\xa7\xb5"), 12);
     // The clip that nobody ended is ended.
     const QByteArray svg = drawing.svg(D::darkPalette());
     QCOMPARE(elements(svg), QStringList() << "svg"
@@ -192,7 +196,11 @@ void TestCoilDrawing::svgIsWellFormedWhateverATextHolds()
                                           << "rect"
                                           << "g"
                                           << "text"
+                                          << "text"
+                                          << "text"
                                           << "text");
+    QVERIFY(svg.contains(">a\xef\xbf\xbd\xef\xbf\xbd"));
+    QVERIFY(svg.contains(">\xf0\x9f\xa7\xb5<"));
     QVERIFY(svg.contains("a&lt;b&gt;&amp;\"c\""));
     QVERIFY(svg.contains("rotate(-90 0 0)"));
 }
