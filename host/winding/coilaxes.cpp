@@ -18,6 +18,8 @@ const qreal rowRoom = 2.6;
 const qreal gap = 4;
 const int mostTicks = 12;
 const double rounding = 1e-9;
+// Ticks of larger numbers, counted from 0, could not be told from one another.
+const double farthestTick = 1e12;
 
 double niceStep(double span, int most)
 {
@@ -46,6 +48,8 @@ QVector<double> CoilAxes::ticks(double from, double to, int most)
     // Both ends may be ticks, which is one more.
     if (std::floor(to / step + rounding) - std::ceil(from / step - rounding) >= most)
         step = niceStep(step * most * (1 + 2 * rounding), most);
+    if (qMax(std::fabs(from), std::fabs(to)) > farthestTick * step)
+        return ticks;
     const double slack = step * rounding;
     for (double number = std::ceil((from - slack) / step); number * step <= to + slack; ++number)
         ticks.append(number * step);

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void ticksAreRound_data();
     void ticksAreRound();
     void noRoomNoTicks();
+    void tooFarAwayNoTicks();
     void ticksHaveTheDecimalsTheyNeed();
     void scalesStayInTheirRoom();
     void numbersOfAScaleDoNotTouch();
@@ -49,6 +50,14 @@ void TestCoilAxes::noRoomNoTicks()
     QVERIFY(CoilAxes::ticks(0, 10, 0).isEmpty());
     QVERIFY(CoilAxes::ticks(5, 5, 4).isEmpty());
     QVERIFY(CoilAxes::ticks(5, 4, 4).isEmpty());
+}
+
+/// Out there a number and the next one are the same: to count from one to the other has no end.
+void TestCoilAxes::tooFarAwayNoTicks()
+{
+    QVERIFY(CoilAxes::ticks(1e15, 1e15 + 0.25, 10).isEmpty());
+    QVERIFY(CoilAxes::ticks(-1e15, -1e15 + 0.25, 10).isEmpty());
+    QCOMPARE(CoilAxes::ticks(1e9, 1e9 + 1, 2).size(), 2);
 }
 
 void TestCoilAxes::ticksHaveTheDecimalsTheyNeed()
