@@ -11,6 +11,8 @@ const double gramsPerKilogram = 1000;
 const double metresPerKilometre = 1000;
 const int secondsPerMinute = 60;
 const int secondsPerHour = 3600;
+// A longer time is none of any machine, and no whole number could hold it.
+const double longestTime = 1e15;
 // Of a value for a table.
 const int tableDigits = 9;
 
@@ -66,7 +68,7 @@ QString CoilFigures::number(double value, int decimals)
 
 QString CoilFigures::timeText(double seconds)
 {
-    const qint64 whole = qint64(std::floor(seconds + 0.5));
+    const qint64 whole = qint64(std::floor(qMin(seconds, longestTime) + 0.5));
     const QString rest =
         QString::fromLatin1("%1").arg(whole % secondsPerMinute, 2, 10, QLatin1Char('0'));
     const qint64 minutes = whole / secondsPerMinute;

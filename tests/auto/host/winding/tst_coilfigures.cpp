@@ -78,6 +78,8 @@ void TestCoilFigures::timesAreReadable()
     QCOMPARE(CoilFigures::timeText(253.2), QString("4:13 min"));
     QCOMPARE(CoilFigures::timeText(3599.6), QString("1:00:00 h"));
     QCOMPARE(CoilFigures::timeText(15719), QString("4:21:59 h"));
+    // A feed of next to nothing never ends.
+    QVERIFY2(!CoilFigures::timeText(1e31).contains('-'), qPrintable(CoilFigures::timeText(1e31)));
 }
 
 void TestCoilFigures::theTableHasEachFigureWithItsUnit()
