@@ -31,7 +31,8 @@ void ProgramReading::addBytes(const char *bytes, qint64 count)
 /// Keeps what may be the beginning of a line; of one that is too long, what shows that it is.
 void ProgramReading::hold(const char *bytes, qint64 count)
 {
-    const qint64 room = BlockReader::longestLine + 1 - m_rest.size();
+    // A "\r" that stands last is none of the line: one more shows whether it does.
+    const qint64 room = BlockReader::longestLine + 2 - m_rest.size();
     m_rest.append(bytes, int(qMin(room, count)));
     m_hasRest = true;
 }
