@@ -246,8 +246,11 @@ bool WindingModel::windInStep(const WindingStep &step)
 bool WindingModel::windByFeed(const WindingStep &step)
 {
     const double way = step.to[MachineAxis::Traverse] - step.from[MachineAxis::Traverse];
-    const double turns = spin(secondsOfMove(step));
-    const double pitch = turns > 0 ? std::fabs(way) / turns : 0;
+    const double seconds = secondsOfMove(step);
+    const double turns = spin(seconds);
+    // What the program means: the wire lies wider only until the spindle has come up to its speed.
+    const double steady = std::fabs(m_target) / secondsPerMinute * seconds;
+    const double pitch = steady > 0 ? std::fabs(way) / steady : 0;
     const bool isPlacing = m_wire > 0 ? pitch > widestLay * m_wire : pitch > widestWire;
     if (pitch > 0 && !isPlacing)
         return lay(step, turns, pitch);

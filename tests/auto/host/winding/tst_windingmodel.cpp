@@ -49,6 +49,7 @@ private Q_SLOTS:
     void turnsAndLinesAgree();
     void plotOverTurns();
     void plotOverTime();
+    void pitchOfAFeedIsThatOfTheSteadySpindle();
     void plotOfNothing();
     void plotKeepsExtremes();
     void pathKeepsItsEnds();
@@ -581,6 +582,16 @@ void TestWindingModel::plotOverTime()
         highest = qMax(highest, point.high);
     QCOMPARE(highest, 600.0);
     QVERIFY(plot.last().low < 10);
+}
+
+void TestWindingModel::pitchOfAFeedIsThatOfTheSteadySpindle()
+{
+    // Half a second up to the speed: 1.25 turns in place of 2.5.
+    const WindingModel model = modelOf("S300 M03\nG01 X10 F150\nX0\n");
+    QCOMPARE(model.totals().wireDiameter, 0.5);
+    QCOMPARE(model.layers().at(0).turns, 18.75);
+    QCOMPARE(model.layers().at(0).pitch, 0.5);
+    QCOMPARE(model.layers().at(1).turns, 20.0);
 }
 
 void TestWindingModel::plotOfNothing()
