@@ -50,6 +50,7 @@ private Q_SLOTS:
     void plotOverTurns();
     void plotOverTime();
     void pitchOfAFeedIsThatOfTheSteadySpindle();
+    void speedOfALongMoveIsEven();
     void plotOfNothing();
     void plotKeepsExtremes();
     void pathKeepsItsEnds();
@@ -592,6 +593,37 @@ void TestWindingModel::pitchOfAFeedIsThatOfTheSteadySpindle()
     QCOMPARE(model.layers().at(0).turns, 18.75);
     QCOMPARE(model.layers().at(0).pitch, 0.5);
     QCOMPARE(model.layers().at(1).turns, 20.0);
+}
+
+/// The spindle is at its speed long before a layer is wound.
+void TestWindingModel::speedOfALongMoveIsEven()
+{
+    const QByteArray program = "S300 M03\nG33 X25 K0.5\nS600\nG33 X0 K0.5\n";
+    const WindingModel model = modelOf(program);
+    QCOMPARE(model.totals().turns, 100.0);
+    const QVector<WindingPlotPoint> turns =
+        model.plot(WindingModel::Speed, WindingModel::Turns, 100);
+    // 1.25 turns up to 300, and 3.75 on to 600, each in half a second.
+    QCOMPARE(turns.at(0).low, 0.0);
+    QCOMPARE(turns.at(2).low, 300.0);
+    QCOMPARE(turns.at(49).high, 300.0);
+    QCOMPARE(turns.at(54).low, 600.0);
+    QCOMPARE(turns.at(99).low, 600.0);
+    const QVector<WindingPlotPoint> time =
+        model.plot(WindingModel::Speed, WindingModel::Time, 1000);
+    for (const WindingPlotPoint &point : time) {
+        if (point.at > 0.6 && point.at < 10)
+            QCOMPARE(point.high, 300.0);
+        if (point.at > 10.9)
+            QCOMPARE(point.low, 600.0);
+    }
+    // A spindle without a ramp has no slope, either.
+    const QVector<WindingPlotPoint> steep =
+        modelOf(program, profileWith("spindle ramp = 600", "spindle ramp = 0"))
+            .plot(WindingModel::Speed, WindingModel::Turns, 100);
+    QCOMPARE(steep.at(1).low, 300.0);
+    QCOMPARE(steep.at(48).high, 300.0);
+    QCOMPARE(steep.at(51).low, 600.0);
 }
 
 void TestWindingModel::plotOfNothing()
