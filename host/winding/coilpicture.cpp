@@ -704,7 +704,8 @@ QVector<QRectF> CoilPicture::placesOf(const WindingModel &model, const CoilScene
     case CoilScene::Section:
         return sectionPlaces(model, place);
     case CoilScene::Path:
-        return QVector<QRectF>() << around(QPointF(qreal(place.xFrom), qreal(place.distanceFrom)),
+        // Its corners may be exchanged: they are where the way begins and where it ends.
+        return QVector<QRectF>() << QRectF(QPointF(qreal(place.xFrom), qreal(place.distanceFrom)),
                                            QPointF(qreal(place.xTo), qreal(place.distanceTo)));
     case CoilScene::Plots:
         break;

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void nothingIsDrawnBesideThePicture();
     void aTouchLeadsToItsLine_data();
     void aTouchLeadsToItsLine();
+    void aWayHasItsBeginAndItsEnd();
     void aTouchBesideTheCoilLeadsNowhere();
     void aLineThatWindsNothingHasItsPlace();
     void theCoilOfALineIsKnown();
@@ -316,6 +317,18 @@ void TestCoilPicture::aTouchLeadsToItsLine()
         // It is in the picture, where somebody can touch it.
         QVERIFY(CoilPicture(model, scene).frame().world.contains(middleOf(places.first())));
     }
+}
+
+void TestCoilPicture::aWayHasItsBeginAndItsEnd()
+{
+    const WindingModel model = SomeCoil::model("G00 X10 Y30\nG00 X2 Y40\nG00 X8 Y35\n");
+    const CoilScene scene = sceneOf(CoilScene::Path);
+    const QRectF back = CoilPicture::placesOf(model, scene, 2).value(0);
+    QCOMPARE(back.topLeft(), QPointF(10, 30));
+    QCOMPARE(back.bottomRight(), QPointF(2, 40));
+    const QRectF down = CoilPicture::placesOf(model, scene, 3).value(0);
+    QCOMPARE(down.topLeft(), QPointF(2, 40));
+    QCOMPARE(down.bottomRight(), QPointF(8, 35));
 }
 
 void TestCoilPicture::aTouchBesideTheCoilLeadsNowhere()
