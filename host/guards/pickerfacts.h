@@ -53,6 +53,7 @@ public:
     /// Of the program that was told of; null before it was read, and when it could not be. To be
     /// looked at while the reading isSettled().
     std::shared_ptr<const ProgramSummary> summary() const { return m_summary; }
+    /// Milliseconds in place of stallMs.
     void setStallTime(int ms) { m_runner.setStallTime(ms); }
     /// Whether nothing is read, and nothing waits to be.
     bool isSettled() const { return !m_rest.isActive() && !m_runner.isRunning(); }

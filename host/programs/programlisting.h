@@ -22,6 +22,7 @@ public:
     /// What is known of one file.
     struct Entry
     {
+        /// Bytes.
         qint64 size = 0;
         /// Milliseconds since 1970; 0 where there is no such file.
         qint64 written = 0;

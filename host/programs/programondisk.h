@@ -25,6 +25,7 @@ public:
     Kind kind() const { return m_kind; }
     /// Lines as the editor counts; 0 when the file can't be read.
     qint64 lines() const { return m_lines; }
+    /// In local time; invalid for none.
     QDateTime written() const { return m_written; }
     FileStamp stamp() const { return m_stamp; }
 

@@ -45,7 +45,9 @@ public:
     Kind kind() const { return m_kind; }
     /// The system's words: "Permission denied".
     QString error() const { return m_error; }
+    /// Bytes of the whole file.
     qint64 size() const { return m_size; }
+    /// In UTC; invalid for none.
     QDateTime written() const { return m_written; }
     /// The words of the first comment that has any, without the comment's signs; empty for none.
     QString comment() const { return m_comment; }

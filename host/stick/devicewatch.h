@@ -35,7 +35,7 @@ Q_DECLARE_METATYPE(DeviceState)
 /// Looks at the devices every second, in a thread of its own. A folder on a network or on a dying
 /// stick may keep whoever asks for it waiting, and the screen must not wait.
 ///
-///     DeviceWatch watch([plcDir] { return DeviceWatch::lookAt(plcDir, programDir); });
+///     DeviceWatch watch([=] { return DeviceWatch::lookAt(plcDir, programDir); });
 ///     connect(&watch, SIGNAL(changed(DeviceState)), strip, SLOT(showDevices(DeviceState)));
 class FILARIX_HOST_EXPORT DeviceWatch : public QObject
 {

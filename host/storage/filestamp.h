@@ -17,6 +17,7 @@ class QString;
 /// clock stands: see age().
 struct FILARIX_HOST_EXPORT FileStamp
 {
+    /// Bytes; -1 where there is no file.
     qint64 size = -1;
     qint64 inode = 0;
     /// Nanoseconds since 1970.

@@ -12,7 +12,7 @@
 /// withdraw() the first one wins. So what was reported as not stored stays so. A
 /// std::shared_ptr to one goes to each side:
 ///
-///     job.run([leave] { file.commit([leave] { return leave->take(); }); }, done,
+///     job.run([file, leave] { file->commit([leave] { return leave->take(); }); }, done,
 ///             [leave] { tell(leave->withdraw() ? "It is not stored." : "Nobody knows."); });
 class FILARIX_HOST_EXPORT WriteLeave
 {

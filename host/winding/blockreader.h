@@ -41,7 +41,7 @@ struct FILARIX_HOST_EXPORT BlockFault
     };
 
     Kind kind = StrayCharacter;
-    /// From 1.
+    /// From 1, in characters, and as many of them.
     int column = 0;
     int length = 0;
 };

@@ -87,6 +87,7 @@ public:
     bool isEmpty() const { return m_shapes.isEmpty(); }
     const QVector<Shape> &shapes() const { return m_shapes; }
 
+    /// Places, lengths and heights of letters are pixels, see Shape; a shade is 0 to 1.
     void addBox(const QRectF &box, Role fill, Role edge = NoRole, float width = 1);
     void addCircle(const QPointF &centre, qreal radius, Role fill, float shade, Role edge = NoRole,
                    float width = 1);

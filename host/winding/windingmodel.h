@@ -34,6 +34,7 @@ struct FILARIX_HOST_EXPORT WindingLayer
     double guideDistance = 0;
     /// Of the wire's middle round the coil.
     double diameter = 0;
+    /// In mm like all of these, where WindingTotals has metres.
     double wireLength = 0;
     /// The wires lie in the grooves of the layer below, or bear one that lies so.
     bool isNested = false;
@@ -65,7 +66,9 @@ struct FILARIX_HOST_EXPORT WindingTotals
     /// In mm, as reckoned with: the profile's, or else the first pitch.
     double wireDiameter = 0;
     double conductorDiameter = 0;
+    /// In newtons.
     double highestTension = 0;
+    /// Of the spindle, in 1/min.
     double highestSpeed = 0;
     /// The first line that winds beyond the flange; 0 for none.
     int overfullLine = 0;
@@ -78,7 +81,7 @@ struct FILARIX_HOST_EXPORT WindingPlotPoint
 {
     /// Turn or second where it begins.
     double at = 0;
-    /// The least and the most within.
+    /// The least and the most within, in the unit of the quantity.
     double low = 0;
     double high = 0;
 };
@@ -108,6 +111,7 @@ struct FILARIX_HOST_EXPORT WindingPlace
     double xTo = 0;
     double distanceFrom = 0;
     double distanceTo = 0;
+    /// Turns that are wound before the line, and behind it.
     double firstTurn = 0;
     double lastTurn = 0;
     /// Since the beginning, in seconds.
