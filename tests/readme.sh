@@ -5,11 +5,11 @@
 # readme.sh
 #
 # What a host's developer does in the first hour, word for word: takes the commands out of README.md, runs
-# them in a new clone of the last commit with an empty prefix, and builds the host of the README by each row
-# of its table, with warnings that are errors, with g++ and clang++, at C++11 and C++20. Each host then runs.
+# them in a new clone of the last commit with an empty prefix, builds the documentation, and the host of the
+# README by each row of its table, with warnings that are errors, with g++ and clang++, at C++11 and C++20. Each host then runs.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
-"$root/cmake/ensure-packages.sh" g++ clang cmake ninja-build ccache make pkg-config git bubblewrap \
+"$root/cmake/ensure-packages.sh" g++ clang doxygen cmake ninja-build ccache make pkg-config git bubblewrap \
     qtbase5-dev qttools5-dev qttools5-dev-tools
 
 work=$root/build/readme
@@ -52,6 +52,19 @@ while read -r command; do
         fail "fails: $command"
     }
 done <<<"$commands"
+
+echo "-- the documentation"
+# shellcheck disable=SC2016 # the backquotes of the table
+{
+    documentation=$(grep -o '`cmake --build [^`]*--target doc`' "$readme" | tr -d '`') || true
+    first_page=$(grep -o '`build/[^`]*/index.html`' "$readme" | tr -d '`') || true
+}
+[ -n "$documentation" ] && [ -n "$first_page" ] || fail "README.md does not tell how the documentation is built"
+(cd "$work/filarix" && bash -euc "$documentation") </dev/null >>"$work/log" 2>&1 || {
+    tail -n 40 "$work/log" >&2
+    fail "fails: $documentation"
+}
+[ -s "$work/filarix/$first_page" ] || fail "there is no $first_page"
 
 # The host of the README; its downloader ends it at once.
 host=$work/host

@@ -13,6 +13,8 @@
 
 namespace {
 
+const char winder[] = "Winder";
+
 void writeConnection(QSettings &settings, int number, const QString &name, int com, int baud)
 {
     const QString key = QString("Connect %1").arg(number);
@@ -29,7 +31,7 @@ void provideConnections(const QString &path)
     QSettings settings(path, QSettings::IniFormat);
     if (settings.contains("connect count"))
         return;
-    writeConnection(settings, 0, "Winder", 3, 187500);
+    writeConnection(settings, 0, winder, 3, 187500);
     writeConnection(settings, 1, "Tension control", 1, 9600);
     settings.setValue("connect count", 2);
 }
@@ -49,12 +51,7 @@ int main(int argc, char **argv)
 
     // An address is kept under the connection's name, not its number.
     QSettings settings(path, QSettings::IniFormat);
-    QTextStream(stdout) << (accepted ? "stored: " : "left: ")
-                        << settings
-                               .value("Winder"
-                                      "new IP",
-                                      "192.168.1.3")
-                               .toString()
-                        << "\n";
+    const QString address = settings.value(QString(winder) + "new IP", "192.168.1.3").toString();
+    QTextStream(stdout) << (accepted ? "stored: " : "left: ") << address << "\n";
     return 0;
 }
