@@ -6,7 +6,8 @@
 #
 # What a host's developer does in the first hour, word for word: takes the commands out of README.md, runs
 # them in a new clone of the last commit with an empty prefix, builds the documentation, and the host of the
-# README by each row of its table, with warnings that are errors, with g++ and clang++, at C++11 and C++20. Each host then runs.
+# README by each row of its table, with warnings that are errors, with g++ and clang++, at C++11 and C++20.
+# Each host then runs.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 "$root/cmake/ensure-packages.sh" g++ clang doxygen cmake ninja-build ccache make pkg-config git bubblewrap \
@@ -59,7 +60,8 @@ echo "-- the documentation"
     documentation=$(grep -o '`cmake --build [^`]*--target doc`' "$readme" | tr -d '`') || true
     first_page=$(grep -o '`build/[^`]*/index.html`' "$readme" | tr -d '`') || true
 }
-[ -n "$documentation" ] && [ -n "$first_page" ] || fail "README.md does not tell how the documentation is built"
+[ -n "$documentation" ] || fail "README.md does not tell how the documentation is built"
+[ -n "$first_page" ] || fail "README.md does not tell where the documentation is"
 (cd "$work/filarix" && bash -euc "$documentation") </dev/null >>"$work/log" 2>&1 || {
     tail -n 40 "$work/log" >&2
     fail "fails: $documentation"
