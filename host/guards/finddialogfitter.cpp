@@ -51,11 +51,24 @@ QString translated(const char *source)
     return QCoreApplication::translate(dialogClass, source);
 }
 
-/// Gives a dialog's widgets of one kind their texts, in the order in which it made them.
+/// The dialog's own widgets of one kind, in the order in which it made them. A host may have put a
+/// strip with a title and a key above them.
+template<class Widget>
+QList<Widget *> ownOf(const QWidget *dialog)
+{
+    QList<Widget *> found;
+    Q_FOREACH (Widget *widget, dialog->findChildren<Widget *>()) {
+        if (widget->parentWidget() == dialog)
+            found.append(widget);
+    }
+    return found;
+}
+
+/// Gives a dialog's widgets of one kind their texts.
 template<class Widget, int count>
 void setTexts(const QWidget *dialog, const char *const (&sources)[count])
 {
-    const QList<Widget *> widgets = dialog->findChildren<Widget *>();
+    const QList<Widget *> widgets = ownOf<Widget>(dialog);
     for (int i = 0; i < qMin(count, widgets.size()); ++i)
         widgets.at(i)->setText(translated(sources[i]));
 }
@@ -87,19 +100,21 @@ int widthOf(const QWidget *one, const QWidget *other, const QWidget *third)
            + 4 * margin;
 }
 
-/// The library's widgets, in the order in which it made them, in other places. Where there is room
+/// The library's widgets in other places. Where there is room
 /// again they stay there: nobody looks for a key twice.
 void layOut(QWidget *dialog, Form form, int width)
 {
-    const QList<QLabel *> texts = dialog->findChildren<QLabel *>();
-    const QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
-    const QList<QAbstractButton *> keys = dialog->findChildren<QAbstractButton *>();
+    const QList<QLabel *> texts = ownOf<QLabel>(dialog);
+    const QList<QLineEdit *> fields = ownOf<QLineEdit>(dialog);
+    const QList<QAbstractButton *> keys = ownOf<QAbstractButton>(dialog);
     if (form == Columns || dialog->property(formProperty).toInt() == form || texts.size() != 2
         || fields.size() != 2 || keys.size() != 5)
         return;
     dialog->setProperty(formProperty, int(form));
+    QWidget *strip = dialog->layout() ? dialog->layout()->menuBar() : nullptr;
     delete dialog->layout();
     QGridLayout *grid = new QGridLayout(dialog);
+    grid->setMenuBar(strip);
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setSpacing(margin);
     grid->setColumnStretch(1, 1);
@@ -119,7 +134,7 @@ void layOut(QWidget *dialog, Form form, int width)
     grid->addLayout(last, grid->rowCount(), 0, 1, 3);
     dialog->setMinimumHeight(0);
     dialog->setMaximumHeight(QWIDGETSIZE_MAX);
-    dialog->setFixedHeight(grid->sizeHint().height());
+    dialog->setFixedHeight(grid->totalSizeHint().height());
 }
 
 /// Binds each dialog that is shown while it lives. The native window is there by then, and the

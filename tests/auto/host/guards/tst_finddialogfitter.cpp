@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void dialogIsNarrowWhereItWouldTakeHalf();
     void fieldsHaveRoomOnASmallHost_data();
     void fieldsHaveRoomOnASmallHost();
+    void stripOfTheHostStaysAboveTheFields();
     void hiddenDialogStaysWhereItIs();
     void dialogStepsAside_data();
     void dialogStepsAside();
@@ -235,6 +237,38 @@ void TestFindDialogFitter::fieldsHaveRoomOnASmallHost()
     dialog()->findChild<QLineEdit *>()->setText("G01");
     dialog()->findChildren<QAbstractButton *>().at(2)->click();
     QCOMPARE(found.size(), 1);
+}
+
+// A host's style may give each dialog a title and a key that closes it.
+void TestFindDialogFitter::stripOfTheHostStaysAboveTheFields()
+{
+    QWidget host;
+    host.setGeometry(0, 0, 290, 480);
+    WGCodeEditer editor(nullptr);
+    editor.findAndReplace();
+    QVERIFY(dialog());
+    QWidget *strip = new QWidget(dialog());
+    QVBoxLayout *inStrip = new QVBoxLayout(strip);
+    inStrip->addWidget(new QLabel(QLatin1String("Title")));
+    inStrip->addWidget(new QPushButton(QLatin1String("X")));
+    dialog()->layout()->setMenuBar(strip);
+    strip->show();
+    FindDialogFitter::place(&host);
+    QCoreApplication::processEvents();
+    QCOMPARE(dialog()->width(), 290);
+    QCOMPARE(strip->geometry().topLeft(), QPoint(0, 0));
+    QCOMPARE(strip->width(), 290);
+    Q_FOREACH (const QWidget *field, dialog()->findChildren<QLineEdit *>()) {
+        QVERIFY2(field->width() >= 140, qPrintable(QString::number(field->width())));
+        QVERIFY(field->y() >= strip->height());
+    }
+    Q_FOREACH (const QWidget *part, dialog()->findChildren<QWidget *>())
+        QVERIFY(part->parentWidget()->rect().contains(part->geometry()));
+    // Its texts are the host's.
+    const TestCompat::MarkingTranslator translator("WFindDialog");
+    FindDialogFitter::retranslate();
+    QCOMPARE(strip->findChild<QLabel *>()->text(), QString("Title"));
+    QCOMPARE(strip->findChild<QPushButton *>()->text(), QString("X"));
 }
 
 void TestFindDialogFitter::dialogStepsAside_data()
