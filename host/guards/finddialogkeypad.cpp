@@ -13,17 +13,24 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRegExp>
 
 namespace {
 
 const char dialogClass[] = "WFindDialog";
+
+/// Some languages have the letter of the shortcut in brackets behind the words.
+QString withoutShortcut(QString text)
+{
+    return text.remove(QRegExp(QLatin1String("\\(&[^)]\\)"))).remove(QLatin1Char('&'));
+}
 
 /// What the field is for: its label, without the mark of the shortcut and the colon.
 QString nameOf(const QLineEdit *field)
 {
     Q_FOREACH (const QLabel *label, field->window()->findChildren<QLabel *>()) {
         if (label->buddy() == field)
-            return label->text().remove(QLatin1Char('&')).remove(QLatin1Char(':'));
+            return withoutShortcut(label->text()).remove(QLatin1Char(':'));
     }
     return QString();
 }

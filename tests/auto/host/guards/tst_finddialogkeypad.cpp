@@ -8,6 +8,7 @@
 
 #include <hmidevice/characterkeypad.h>
 
+#include <QLabel>
 #include <QLineEdit>
 
 class TestFindDialogKeypad : public FilarixTest
@@ -115,13 +116,23 @@ void TestFindDialogKeypad::keypadIsToldWhatTheFieldIsFor()
     dialog.show();
     FindDialogKeypad keypad(nullptr);
     QStringList names;
-    Q_FOREACH (QLineEdit *field, dialog.findChildren<QLineEdit *>()) {
-        DeviceLog::runThenCancel(
-            [&] { names.append(DeviceLog::object()->property("hmiName").toString()); });
-        QTest::mouseClick(field, Qt::LeftButton);
-    }
+    const auto touchEach = [&] {
+        Q_FOREACH (QLineEdit *field, dialog.findChildren<QLineEdit *>()) {
+            DeviceLog::runThenCancel(
+                [&] { names.append(DeviceLog::object()->property("hmiName").toString()); });
+            QTest::mouseClick(field, Qt::LeftButton);
+        }
+    };
+    touchEach();
     QCOMPARE(names, QStringList() << "Find what"
                                   << "Replace what");
+    // As in Chinese.
+    Q_FOREACH (QLabel *label, dialog.findChildren<QLabel *>())
+        label->setText(QLatin1String("Text(&N):"));
+    names.clear();
+    touchEach();
+    QCOMPARE(names, QStringList() << "Text"
+                                  << "Text");
 }
 
 void TestFindDialogKeypad::fieldsOfOtherDialogsAreLeftAlone()
