@@ -13,6 +13,7 @@
 
 #include <QListView>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyleOption>
 #include <QTabBar>
 #include <QWidget>
@@ -186,6 +187,12 @@ bool isForKeyboardAlone(QStyle::PrimitiveElement element, const QWidget *widget)
            && !widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
+QString withoutShortcut(const QString &text)
+{
+    static const QRegularExpression shortcut(QLatin1String("\\s*\\(&[^)]\\)"));
+    return QString(text).remove(shortcut);
+}
+
 int barWidth()
 {
     return qMin(widestBar, Measures::pixels(Measures::touchMm));
@@ -317,6 +324,15 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     painter->restore();
+}
+
+void PanelStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
+                              const QPalette &palette, bool isEnabled, const QString &text,
+                              QPalette::ColorRole role) const
+{
+    const bool hasShortcuts = flags & (Qt::TextShowMnemonic | Qt::TextHideMnemonic);
+    QProxyStyle::drawItemText(painter, rect, flags, palette, isEnabled,
+                              hasShortcuts ? withoutShortcut(text) : text, role);
 }
 
 /// The focus is seen along the edge of a button, and not between it and its word.

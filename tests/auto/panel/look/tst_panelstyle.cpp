@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void theFrameOfTheFocusHasTwoColours();
     void messageBoxesHaveNeitherMnemonicsNorIconsOnKeys_data();
     void messageBoxesHaveNeitherMnemonicsNorIconsOnKeys();
+    void lettersOfShortcutsAreNotDrawn();
     void nothingOfTheToolkitsBevelsIsLeft_data();
     void nothingOfTheToolkitsBevelsIsLeft();
     void pressIsSeenInTheNextFrame_data();
@@ -302,6 +304,35 @@ void TestPanelStyle::messageBoxesHaveNeitherMnemonicsNorIconsOnKeys()
     const int side = box.iconPixmap().width();
     QCOMPARE(box.iconPixmap().toImage(),
              StyleIcons::icon(QStyle::StandardPixmap(which)).pixmap(side, side).toImage());
+}
+
+// As the toolkit's own translations into Chinese have them.
+void TestPanelStyle::lettersOfShortcutsAreNotDrawn()
+{
+    QPushButton button;
+    QCheckBox box;
+    QLineEdit field;
+    QLabel label;
+    label.setBuddy(&field);
+    const auto shown = [&](const QString &text) {
+        button.setText(text);
+        box.setText(text);
+        label.setText(text);
+        QList<QImage> images;
+        for (QWidget *widget : {static_cast<QWidget *>(&button), static_cast<QWidget *>(&box),
+                                static_cast<QWidget *>(&label)}) {
+            widget->resize(160, 60);
+            images.append(picture(widget));
+        }
+        return images;
+    };
+    QCOMPARE(shown("Yes(&Y)"), shown("Yes"));
+    QCOMPARE(shown("Yes (&Y)"), shown("Yes"));
+    QVERIFY(shown("Yes (Y)") != shown("Yes"));
+    QVERIFY(shown("&Yes") == shown("Yes"));
+    // What a label without a field shows has no shortcut.
+    label.setBuddy(nullptr);
+    QVERIFY(shown("Yes(&Y)").last() != shown("Yes").last());
 }
 
 void TestPanelStyle::nothingOfTheToolkitsBevelsIsLeft_data()
