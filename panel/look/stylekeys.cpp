@@ -18,6 +18,10 @@ const int defaultEdge = 2;
 // Keys of a bar stand side by side without a space.
 const int gapInBar = 1;
 const int arrowSide = 12;
+// As the toolkit has it.
+const int betweenIconAndWords = 4;
+// A key that is this much higher than what is on it has both in its middle.
+const int roomyFrom = 16;
 
 bool isDefault(const QStyleOption &option)
 {
@@ -38,6 +42,21 @@ bool hasMenu(const QStyleOptionToolButton &option)
 {
     return option.features
            & (QStyleOptionToolButton::MenuButtonPopup | QStyleOptionToolButton::HasMenu);
+}
+
+/// The toolkit leaves the icon at the upper edge of a high key, far from its words.
+QRect rectOfLabel(const QStyleOptionToolButton &option)
+{
+    if (option.toolButtonStyle != Qt::ToolButtonTextUnderIcon || option.icon.isNull())
+        return option.rect;
+    const int words = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).height();
+    const int height = option.iconSize.height() + betweenIconAndWords + words;
+    if (option.rect.height() - height < roomyFrom)
+        return option.rect;
+    QRect label = option.rect;
+    label.setHeight(height);
+    label.moveCenter(option.rect.center());
+    return label;
 }
 
 /// In the corner, where no word is.
@@ -77,10 +96,11 @@ void StyleKeys::drawToolKey(const QStyleOptionToolButton &option, QPainter *pain
         focus.QStyleOption::operator=(key);
         style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, widget);
     }
-    key.palette = wordsOn(option);
-    style->drawControl(QStyle::CE_ToolButtonLabel, &key, painter, widget);
     if (hasMenu(option))
         drawMenuSign(key, painter);
+    key.palette = wordsOn(option);
+    key.rect = rectOfLabel(key);
+    style->drawControl(QStyle::CE_ToolButtonLabel, &key, painter, widget);
 }
 
 void StyleKeys::drawFocus(const QRect &rect, QPainter *painter)

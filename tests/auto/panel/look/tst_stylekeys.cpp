@@ -18,21 +18,53 @@ private Q_SLOTS:
     void keysOfABarHaveAGround();
     void toolKeyShowsItsFocusAndItsMenu();
     void frameOfTheFocusLiesAlongTheEdge();
+    void highKeyHasIconAndWordsInItsMiddle();
 };
 
 namespace {
 
 const QSize side(80, 40);
 
-QImage toolKey(QStyleOptionToolButton option)
+QImage drawnKey(const QStyleOptionToolButton &option)
 {
     PanelStyle style;
-    QImage image(side, QImage::Format_RGB32);
+    QImage image(option.rect.size(), QImage::Format_RGB32);
     image.fill(option.palette.color(QPalette::Window));
     QPainter painter(&image);
-    option.toolButtonStyle = Qt::ToolButtonTextOnly;
     StyleKeys::drawToolKey(option, &painter, &style, nullptr);
     return image;
+}
+
+QImage toolKey(QStyleOptionToolButton option)
+{
+    option.toolButtonStyle = Qt::ToolButtonTextOnly;
+    return drawnKey(option);
+}
+
+/// A red icon above a word.
+QImage keyWithIcon(QStyleOptionToolButton option)
+{
+    QPixmap icon(20, 20);
+    icon.fill(Qt::red);
+    option.icon = QIcon(icon);
+    option.iconSize = icon.size();
+    option.text = QLatin1String("Word");
+    option.toolButtonStyle = Qt::ToolButtonTextUnderIcon;
+    option.fontMetrics = QFontMetrics(option.font);
+    return drawnKey(option);
+}
+
+/// The first row and the one behind the last where the middle column has the colour.
+QPair<int, int> rowsOf(const QImage &image, const QColor &colour)
+{
+    QPair<int, int> rows(-1, -1);
+    for (int y = 0; y < image.height(); ++y) {
+        if (image.pixelColor(image.width() / 2, y) != colour)
+            continue;
+        rows.first = rows.first < 0 ? y : rows.first;
+        rows.second = y + 1;
+    }
+    return rows;
 }
 
 } // namespace
@@ -97,6 +129,24 @@ void TestStyleKeys::frameOfTheFocusLiesAlongTheEdge()
         drawn(side, [&](QPainter *painter) { StyleKeys::drawFocusFrame(place, painter); });
     QCOMPARE(around.pixelColor(0, 20), Look::focusEdge());
     QCOMPARE(around.pixelColor(StyleKeys::focusWidth, 20), Look::focus());
+}
+
+void TestStyleKeys::highKeyHasIconAndWordsInItsMiddle()
+{
+    const int words = QFontMetrics(QStyleOptionToolButton().font).height();
+    const auto iconOn = [this, words](int room) {
+        return rowsOf(keyWithIcon(optionOf<QStyleOptionToolButton>(QSize(80, room + words), rest)),
+                      Qt::red);
+    };
+    const QPair<int, int> low = iconOn(30);
+    QCOMPARE(low.second - low.first, 20);
+    QVERIFY(low.first <= 4);
+    const QPair<int, int> high = iconOn(100);
+    QCOMPARE(high.second - high.first, 20);
+    // As much above the icon as below the word.
+    const int above = high.first;
+    const int below = 100 - high.second;
+    QVERIFY2(qAbs(above - below) <= 6, qPrintable(QString("%1 %2").arg(above).arg(below)));
 }
 
 FILARIX_TEST_MAIN(TestStyleKeys)
