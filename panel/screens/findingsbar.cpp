@@ -92,6 +92,13 @@ bool FindingsBar::isAtFinding() const
     return m_finding >= 0 && m_review->findings().at(m_finding).line == m_line;
 }
 
+// -1 where nothing was found at the line of the cursor.
+int FindingsBar::firstAtLine() const
+{
+    const int index = m_review->after(m_line - 1);
+    return index >= 0 && m_review->findings().at(index).line == m_line ? index : -1;
+}
+
 int FindingsBar::next() const
 {
     if (!isAtFinding())
@@ -122,13 +129,18 @@ void FindingsBar::goTo(int index)
 void FindingsBar::setLine(int line)
 {
     m_line = line;
+    // What was found before a change may stand at another line by now.
+    if (m_review->state() == ProgramReview::Checked && !isAtFinding() && firstAtLine() >= 0)
+        m_finding = firstAtLine();
     showAll();
 }
 
 // The findings are numbered anew: the one in view may be mended, or another one.
 void FindingsBar::takeChange()
 {
-    if (m_review->state() == ProgramReview::Checked || m_finding >= m_review->findings().size())
+    if (m_review->state() == ProgramReview::Checked)
+        m_finding = firstAtLine();
+    else if (m_finding >= m_review->findings().size())
         m_finding = -1;
     showAll();
 }

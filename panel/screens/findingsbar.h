@@ -52,6 +52,7 @@ private:
     PanelKey *addKey(QHBoxLayout *row, const char *name, Glyphs::Glyph glyph,
                      const std::function<QString()> &text);
     bool isAtFinding() const;
+    int firstAtLine() const;
     int next() const;
     int previous() const;
     void takeChange();

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void tellsHowManyThereAre();
     void nextAndBackLeadFromOneToTheOther();
     void nextGoesOnFromTheCursor();
+    void lineOfTheCursorIsToldOf();
     void mendedFindingIsNoLongerShown();
     void keysAsk();
 
@@ -104,6 +105,28 @@ void TestFindingsBar::nextGoesOnFromTheCursor()
     m_bar->setLine(4);
     key("findingBack")->click();
     QCOMPARE(m_bar->finding(), 1);
+}
+
+void TestFindingsBar::lineOfTheCursorIsToldOf()
+{
+    make(faulty);
+    m_bar->setLine(3);
+    QCOMPARE(m_bar->finding(), 0);
+    const Finding first = m_review->findings().first();
+    QCOMPARE(m_bar->text(), QString("1 of 3, line 3: %1 %2").arg(first.text(), first.advice()));
+    // The other one of the same line is not passed over, nor left again by a move in the line.
+    key("findingNext")->click();
+    m_bar->setLine(3);
+    QCOMPARE(m_bar->finding(), 1);
+    // What was told last stays, with its line.
+    m_bar->setLine(4);
+    QCOMPARE(m_bar->finding(), 1);
+    m_bar->setLine(5);
+    QCOMPARE(m_bar->finding(), 2);
+    // After a check, too.
+    make("G21\nG90\nT1\nG04 F1\nM05 Q3\nM30");
+    QCOMPARE(m_bar->finding(), 0);
+    QVERIFY(m_bar->text().startsWith("1 of 1, line 5: "));
 }
 
 void TestFindingsBar::mendedFindingIsNoLongerShown()
