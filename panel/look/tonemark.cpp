@@ -14,6 +14,7 @@ namespace {
 
 const int side = 22;
 const int corner = 4;
+const int aroundGlyph = 2;
 
 Glyphs::Glyph glyphOf(Message::Tone tone)
 {
@@ -26,6 +27,13 @@ Glyphs::Glyph glyphOf(Message::Tone tone)
         return Glyphs::Alarm;
     }
     return Glyphs::Inform;
+}
+
+void drawGlyph(QPainter *painter, const QRect &rect, Message::Tone tone)
+{
+    Glyphs::draw(glyphOf(tone), painter,
+                 rect.adjusted(aroundGlyph, aroundGlyph, -aroundGlyph, -aroundGlyph),
+                 Look::stripText());
 }
 
 void putName(QWidget *widget, const char *name)
@@ -49,8 +57,15 @@ ToneMark::ToneMark(QWidget *parent) : QWidget(parent)
 void ToneMark::setTone(Message::Tone tone)
 {
     m_isClear = false;
+    m_isQuiet = false;
     m_tone = tone;
     update();
+}
+
+void ToneMark::setQuiet(Message::Tone tone)
+{
+    setTone(tone);
+    m_isQuiet = true;
 }
 
 void ToneMark::clear()
@@ -76,6 +91,8 @@ void ToneMark::paintEvent(QPaintEvent *)
     if (m_isClear)
         return;
     QPainter painter(this);
+    if (m_isQuiet)
+        return drawGlyph(&painter, rect(), m_tone);
     draw(&painter, rect(), m_tone);
 }
 
@@ -85,5 +102,5 @@ void ToneMark::draw(QPainter *painter, const QRect &rect, Message::Tone tone)
     painter->setPen(Qt::NoPen);
     painter->setBrush(Look::ground(tone));
     painter->drawRoundedRect(rect, corner, corner);
-    Glyphs::draw(glyphOf(tone), painter, rect.adjusted(2, 2, -2, -2), Look::stripText());
+    drawGlyph(painter, rect, tone);
 }

@@ -19,6 +19,8 @@ public:
     explicit ToneMark(QWidget *parent = nullptr);
 
     void setTone(Message::Tone tone);
+    /// Draws what setTone() draws without the tone's colour: for what is no longer urgent.
+    void setQuiet(Message::Tone tone);
     /// Draws nothing, and keeps the place.
     void clear();
 
@@ -35,6 +37,7 @@ protected:
 
 private:
     bool m_isClear = true;
+    bool m_isQuiet = false;
     Message::Tone m_tone = Message::Information;
 };
 

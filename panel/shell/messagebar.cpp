@@ -165,8 +165,10 @@ void MessageBar::showNothing()
     m_label->setText(messages.isEmpty() ? QString()
                                         : messages.first().time.toString(QLatin1String("HH:mm  "))
                                               + messages.first().text);
-    if (m_mark)
+    if (m_mark && messages.isEmpty())
         m_mark->clear();
+    else if (m_mark)
+        m_mark->setQuiet(messages.first().tone);
     ToneMark::putNone(this);
 }
 

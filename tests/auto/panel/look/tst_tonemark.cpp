@@ -15,6 +15,7 @@ class TestToneMark : public FilarixTest
 
 private Q_SLOTS:
     void aMarkHasTheGroundOfItsTone();
+    void aQuietMarkHasNoGround();
     void aClearMarkKeepsItsPlace();
     void aSheetCanAskForTheTone();
 };
@@ -32,6 +33,23 @@ void TestToneMark::aMarkHasTheGroundOfItsTone()
         mark.setTone(tone);
         QCOMPARE(groundOf(&mark), Look::ground(tone));
     }
+}
+
+void TestToneMark::aQuietMarkHasNoGround()
+{
+    ToneMark mark;
+    const QImage empty = mark.grab().toImage();
+    QList<QImage> pictures;
+    for (Message::Tone tone : {Message::Information, Message::Warning, Message::Alarm}) {
+        mark.setQuiet(tone);
+        pictures.append(mark.grab().toImage());
+        QVERIFY(pictures.last() != empty);
+        QVERIFY(groundOf(&mark) != Look::ground(tone));
+    }
+    QVERIFY(pictures.at(0) != pictures.at(1));
+    QVERIFY(pictures.at(1) != pictures.at(2));
+    mark.setTone(Message::Alarm);
+    QCOMPARE(groundOf(&mark), Look::ground(Message::Alarm));
 }
 
 void TestToneMark::aClearMarkKeepsItsPlace()
