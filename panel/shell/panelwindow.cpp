@@ -40,6 +40,17 @@ const int slimTitle = 12;
 const int slimTitleLines = 3;
 const int slimSide = 1;
 const int titleLines = 2;
+// Beside the tabs: two lines of about ten letters.
+const int leastTitle = 80;
+
+// The sign of a key that has one says enough where its word has no room.
+void showWords(const QList<PanelKey *> &keys, bool shows)
+{
+    for (PanelKey *key : keys) {
+        if (!key->icon().isNull() && !key->text().isEmpty())
+            key->setToolButtonStyle(shows ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+    }
+}
 
 } // namespace
 
@@ -117,6 +128,9 @@ QWidget *PanelWindow::makeTopStrip()
     TapArea *titleBlock = new TapArea;
     titleBlock->setObjectName(QLatin1String("titleBlock"));
     titleBlock->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // Larger letters of the keys leave the name its place.
+    if (m_shape == Wide)
+        titleBlock->setMinimumWidth(leastTitle);
     connect(titleBlock, &TapArea::touched, this, &PanelWindow::showMessages);
     QVBoxLayout *titles = new QVBoxLayout(titleBlock);
     // A message that comes makes room among the titles, and not among the keys.
@@ -221,6 +235,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     screen->refreshStatus();
     if (index == 0)
         showScreen(0);
+    fitKeys();
 }
 
 void PanelWindow::addSettings(PanelScreen *screen)
@@ -235,6 +250,7 @@ void PanelWindow::addSettings(PanelScreen *screen)
     key->setToolButtonStyle(Qt::ToolButtonIconOnly);
     key->setMinimumWidth(0);
     key->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    fitKeys();
 }
 
 void PanelWindow::setSettings(Settings *settings)
@@ -308,6 +324,7 @@ void PanelWindow::showScreen(int index)
         for (PanelKey *key : m_entries.at(i).keys)
             key->setVisible(i == index);
     }
+    fitKeys();
     showTitle();
 }
 
@@ -317,6 +334,21 @@ void PanelWindow::showScreen(const PanelScreen *screen)
         if (m_entries.at(i).screen == screen)
             return showScreen(i);
     }
+}
+
+/// What is open, and whether it is stored, comes before the words of keys that have a sign.
+void PanelWindow::fitKeys()
+{
+    if (m_shape != Wide || m_entries.isEmpty())
+        return;
+    const QList<PanelKey *> keys = m_entries.at(m_stack->currentIndex()).keys;
+    showWords(keys, true);
+    int room = width();
+    for (const Entry &entry : qAsConst(m_entries))
+        room -= entry.tab->sizeHint().width() + m_tabs->spacing();
+    for (const PanelKey *key : keys)
+        room -= key->isHidden() ? 0 : key->sizeHint().width() + m_keys->spacing();
+    showWords(keys, room >= leastTitle);
 }
 
 void PanelWindow::showTitle()
@@ -403,6 +435,8 @@ void PanelWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         showTitle();
         refreshStatus();
+        // The keys have their new words after this window.
+        QTimer::singleShot(0, this, &PanelWindow::fitKeys);
     }
     QWidget::changeEvent(event);
 }

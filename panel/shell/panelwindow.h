@@ -103,6 +103,7 @@ private:
     void toggleMenu();
     void hideMenu();
     void tellTrouble();
+    void fitKeys();
     void showTitle();
     void showMessages();
     void showInFull(const QString &subject);

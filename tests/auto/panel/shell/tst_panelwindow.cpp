@@ -61,6 +61,7 @@ private Q_SLOTS:
     void aKeyboardGoesIntoTheMenuAndBack();
     void titleCarriesTheMarkOfChanges();
     void slimPanelShowsTheWholeName();
+    void keysGiveUpTheirWordsForTheName();
     void headShowsNameAndState_data();
     void headShowsNameAndState();
     void statusIsInViewOnEveryScreen_data();
@@ -242,6 +243,42 @@ void TestPanelWindow::slimPanelShowsTheWholeName()
     // Longer than all lines, it keeps its number and its end.
     const QString longer = shown(QString(60, 'm') + "-4711.cnc");
     QVERIFY2(longer.startsWith("mm") && longer.endsWith("-4711.cnc"), qPrintable(longer));
+}
+
+// As in German, whose words are long.
+void TestPanelWindow::keysGiveUpTheirWordsForTheName()
+{
+    PanelWindow panel(QSize(800, 480));
+    QList<FakeScreen *> screens;
+    addScreens(&panel, &screens);
+    PanelKey *own = screens.first()->m_key;
+    own->setIcon(Glyphs::icon(Glyphs::Check));
+    const QWidget *block = panel.findChild<QWidget *>("titleBlock");
+    const auto show = [&](const QString &word) {
+        own->setText(word);
+        panel.showScreen(screens.last());
+        panel.showScreen(screens.first());
+        panel.show();
+        QCoreApplication::processEvents();
+    };
+    show("Check");
+    QCOMPARE(own->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+    QVERIFY(block->width() >= 80);
+    show("A word that is as long as all the room beside the tabs of the panel");
+    QCOMPARE(own->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    QVERIFY2(block->width() >= 80, qPrintable(QString::number(block->width())));
+    QVERIFY(own->geometry().right() < panel.width());
+    // It is for eyes only.
+    QVERIFY(!own->text().isEmpty());
+    // What has no sign keeps its word.
+    QCOMPARE(screens.last()->m_key->toolButtonStyle(), Qt::ToolButtonTextOnly);
+    show("Check");
+    QCOMPARE(own->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+    // In another language, without a change of the screen.
+    own->setText("A word that is as long as all the room beside the tabs of the panel");
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&panel, &change);
+    QTRY_COMPARE(own->toolButtonStyle(), Qt::ToolButtonIconOnly);
 }
 
 void TestPanelWindow::headShowsNameAndState_data()
