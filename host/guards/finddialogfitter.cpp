@@ -100,8 +100,8 @@ int widthOf(const QWidget *one, const QWidget *other, const QWidget *third)
            + 4 * margin;
 }
 
-/// The library's widgets in other places. Where there is room
-/// again they stay there: nobody looks for a key twice.
+/// The library's widgets in other places. Where there is room again they stay there: nobody looks
+/// for a key twice.
 void layOut(QWidget *dialog, Form form, int width)
 {
     const QList<QLabel *> texts = ownOf<QLabel>(dialog);
@@ -120,15 +120,15 @@ void layOut(QWidget *dialog, Form form, int width)
     grid->setColumnStretch(1, 1);
     addRow(grid, texts.at(0), fields.at(0), keys.at(2), form);
     addRow(grid, texts.at(1), fields.at(1), keys.at(3), form);
-    // The boxes stand one below the other where their words are long.
+    // The boxes stand one below the other where their words are long, the upper one without a key.
     const bool isRow = widthOf(keys.at(0), keys.at(1), keys.at(4)) <= width;
     QHBoxLayout *last = new QHBoxLayout;
     last->setSpacing(margin);
-    QBoxLayout *boxes = new QBoxLayout(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    boxes->setSpacing(margin);
-    boxes->addWidget(keys.at(0));
-    boxes->addWidget(keys.at(1));
-    last->addLayout(boxes);
+    if (isRow)
+        last->addWidget(keys.at(0));
+    else
+        grid->addWidget(keys.at(0), grid->rowCount(), 0, 1, 3);
+    last->addWidget(keys.at(1));
     last->addStretch(1);
     last->addWidget(keys.at(4), 0, Qt::AlignBottom);
     grid->addLayout(last, grid->rowCount(), 0, 1, 3);

@@ -58,7 +58,6 @@ const Exception exceptionTable[] = {
      narrow},
     {Exception::Text, "WCopyDialog", "its widths are fixed", narrow},
     {Exception::Text, "WFileDialog", "its font and its keys are fixed", narrow},
-    {Exception::Text, "WFindDialog", "fields and keys side by side", narrow},
     {Exception::Place, "WGCodeEditer", "the scroll bar's fixed length", narrow},
     {Exception::Text, "MJLine", "cells are shares of the width", narrow},
     {Exception::Text, "DataEditor", "cells are shares of the width", narrow},

@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -253,9 +254,13 @@ void TestFindDialogFitter::stripOfTheHostStaysAboveTheFields()
     inStrip->addWidget(new QPushButton(QLatin1String("X")));
     dialog()->layout()->setMenuBar(strip);
     strip->show();
+    // As in German.
+    QCheckBox *box = dialog()->findChild<QCheckBox *>();
+    box->setText(QLatin1String("Small or large letters"));
     FindDialogFitter::place(&host);
     QCoreApplication::processEvents();
     QCOMPARE(dialog()->width(), 290);
+    QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(QString::number(box->width())));
     QCOMPARE(strip->geometry().topLeft(), QPoint(0, 0));
     QCOMPARE(strip->width(), 290);
     Q_FOREACH (const QWidget *field, dialog()->findChildren<QLineEdit *>()) {
