@@ -7,7 +7,7 @@
 #include "tlistwidget.h"
 
 UnsavedList::UnsavedList(TListWidget *list, int firstRow, const QString &name)
-    : m_list(list), m_firstRow(firstRow), m_name(name), m_stored(rows())
+    : m_list(list), m_firstRow(firstRow), m_name(name), m_stored(UnsavedList::rows())
 {}
 
 QList<QStringList> UnsavedList::rows() const
