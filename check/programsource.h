@@ -11,7 +11,7 @@ class ProgramReading;
 
 namespace ProgramSource {
 
-/// What is longer is no program. It also ends what would never end by itself.
+/// What is longer is no program. The limit also ends what would never end by itself.
 const qint64 mostBytes = qint64(256) << 20;
 
 /// Reads the program \a name piece by piece into \a reading; "-" is the standard input. Takes

@@ -9,7 +9,7 @@
 #include <QButtonGroup>
 #include <QPointer>
 
-/// A button says released() right before clicked(), whatever pressed the button. It also does so
+/// A button says released() right before clicked(), whatever pressed the button. The same happens
 /// when a finger slides off or the focus goes, and no click follows. So the button's signals are
 /// blocked from released() on. The group has signals of its own, which tell whether there was a
 /// click.

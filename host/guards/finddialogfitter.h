@@ -27,7 +27,7 @@ public:
     static void show(WGCodeEditer *editor, const QWidget *host);
     /// Puts the visible dialogs before the window of \a host, into its lower right corner: the
     /// starts of the lines stay in view. A dialog that would take more than half of the width is as
-    /// narrow as it can be. A host of less than 600 pixels gives a dialog its whole width: the
+    /// narrow as it can be. A host of less than 600 pixels gives a dialog its whole width. The
     /// fields stand in rows of their own there, and the dialog is lower.
     static void place(const QWidget *host);
     /// Moves the visible dialogs off \a spot, to another side of \a area. A dialog that covers

@@ -61,7 +61,7 @@ QRect selectionOnScreen(const WGCodeEditer *editor)
     return rect.translated(editor->viewport()->mapToGlobal(QPoint()));
 }
 
-/// Where the library's own search, which began at \a from, meets \a hit at once: in a long program
+/// Where the library's own search, which began at \a from, meets \a hit at once. In a long program
 /// the way there is not made twice.
 QTextCursor before(const QTextCursor &hit, const QTextCursor &from, bool isBackward)
 {
@@ -105,7 +105,7 @@ void FindDialogGuide::take(QWidget *dialog)
     m_dialog = dialog;
 }
 
-/// What is found is selected, and the dialog has the focus meanwhile: the editor then has a ground
+/// What is found is selected, and the dialog has the focus meanwhile. The editor then has a ground
 /// of its own, and the application's text upon it.
 void FindDialogGuide::makeHitsReadable()
 {

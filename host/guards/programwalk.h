@@ -21,8 +21,8 @@ class WMMainWindow;
 ///     ProgramWalk *walk = new ProgramWalk(window);
 ///     connect(pageKey, SIGNAL(clicked()), walk, SLOT(pageDown()));
 ///
-/// The cursor goes along, so that the window's commands act on what is seen. It stands before the
-/// first character of its line then. Without a touch screen no keypad opens.
+/// The cursor goes along, so that the window's commands act on what is seen. The cursor stands
+/// before the first character of its line then. Without a touch screen no keypad opens.
 class FILARIX_HOST_EXPORT ProgramWalk : public QObject
 {
     Q_OBJECT

@@ -196,8 +196,9 @@ bool ProgramHistory::Scan::end()
 
 /// Writes one version into the program directory, a piece a step.
 ///
-/// It is written in a folder of its own there, and then changes places with the program. What stood
-/// in that place is looked at after that: it goes once the history holds it, and else comes back.
+/// The version is written in a folder of its own there, and then changes places with the program.
+/// What stood in that place is looked at after that: it goes once the history holds it, and else
+/// comes back.
 class Q_DECL_HIDDEN ProgramHistory::Restore : public FileTask
 {
 public:

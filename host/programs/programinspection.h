@@ -36,7 +36,7 @@ public:
 
 /// A host's own check of a program, of exactly the bytes that would be sent.
 ///
-/// It runs in a thread of its own, in steps of a moment each.
+/// The check runs in a thread of its own, in steps of a moment each.
 class FILARIX_HOST_EXPORT ProgramInspection : public FileTask
 {
 public:

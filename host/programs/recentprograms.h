@@ -20,8 +20,7 @@ class SettingsFile;
 ///     recent.note("coil.cnc");
 ///
 /// The file is read and written beside the event loop. Where nothing can be written, or the file
-/// holds something else, the names last until the program ends: nothing that an operator would have
-/// to know.
+/// holds something else, the names last until the program ends. No operator has to know of that.
 class FILARIX_HOST_EXPORT RecentPrograms : public QObject
 {
     Q_OBJECT

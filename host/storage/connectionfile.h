@@ -69,8 +69,9 @@ FILARIX_HOST_EXPORT QString portOf(const QString &address);
 /// table takes none. Connections of one name share an address, the last one that was entered.
 FILARIX_HOST_EXPORT QStringList changedAddresses(const Contents &before,
                                                  const QMap<int, QString> &changes);
-/// The bytes of \a before with the addresses \a wanted, one for each connection. They are the same
-/// where nothing differs, and incomplete where the temporary storage is full: store() sees that.
+/// The bytes of \a before with the addresses \a wanted, one for each connection. The bytes are the
+/// same where nothing differs, and incomplete where the temporary storage is full: store() sees
+/// that.
 FILARIX_HOST_EXPORT QByteArray withAddresses(const Contents &before, const QStringList &wanted);
 /// Writes \a bytes, which were edited, in the place of \a before, and reads them back. Returns the
 /// reason in words when the file does not hold the addresses \a wanted then, one for each

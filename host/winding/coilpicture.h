@@ -52,7 +52,7 @@ struct FILARIX_HOST_EXPORT CoilScene
 ///     editor->gotoLine(picture.lineAt(finger));
 ///
 /// Made in any thread, and without an application object but for the language of its texts. However
-/// many turns there are, a drawing has some ten thousand shapes at the most: turns too small to be
+/// many turns there are, a drawing has some ten thousand shapes at the most. Turns too small to be
 /// told apart are drawn as layers.
 class FILARIX_HOST_EXPORT CoilPicture
 {

@@ -228,9 +228,9 @@ public:
     const MachineMotion &motion() const { return m_motion; }
     const MachineLayers &layers() const { return m_layers; }
 
-    /// The largest outer diameter in mm that IEC 60317-0-1 allows an enamelled round wire, for a
-    /// nominal conductor diameter in mm and grade 1 or 2. The result is 0 for a size that the
-    /// standard does not have.
+    /// The largest outer diameter that IEC 60317-0-1 allows an enamelled round wire, for a nominal
+    /// conductor diameter and grade 1 or 2. Both diameters in mm. The result is 0 for a size that
+    /// the standard does not have.
     static double iecOuterDiameter(double conductorDiameter, int grade);
 
 private:

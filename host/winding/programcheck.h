@@ -18,8 +18,8 @@
 ///     if (WindingReview::read(path, &reading, &error))
 ///         show(check.findings());
 ///
-/// It says nothing about a line that the machine performs as it stands. Of a program with very many
-/// faults the first ones of each severity are kept, and the others counted.
+/// The check says nothing about a line that the machine performs as it stands. Of a program with
+/// very many faults the first ones of each severity are kept, and the others counted.
 class FILARIX_HOST_EXPORT ProgramCheck : public BlockListener
 {
 public:

@@ -16,10 +16,10 @@ class QAbstractScrollArea;
 
 /// Lets a finger move what is longer than its place: editor, lists and tables, in dialogs too.
 ///
-/// A press waits until the finger is lifted. It is handed on then, at once, unless the finger has
-/// moved farther than a tap does, or has stopped what was still moving. So a press that moves a
-/// list chooses no row, takes no focus, opens no keypad and moves no cursor. Bars and headers get
-/// their presses as ever, and so does what fits its place.
+/// A press waits until the finger is lifted. The press is handed on then, at once, unless the
+/// finger has moved farther than a tap does, or has stopped what was still moving. So a press that
+/// moves a list chooses no row, takes no focus, opens no keypad and moves no cursor. Bars and
+/// headers get their presses as ever, and so does what fits its place.
 ///
 ///     new FingerScroll(panel); // for the whole application
 class FingerScroll : public QObject

@@ -11,8 +11,8 @@
 class QWidget;
 
 /// Brings the texts of a widget and of all in it to the size that the operator has chosen, and
-/// keeps them there. Where the room is short they grow as far as it lasts, all alike: no text is
-/// cut for being large, and none is smaller than at 100 percent.
+/// keeps them there. Where the room is short the texts grow as far as it lasts, all alike. No text
+/// is cut for being large, and none is smaller than at 100 percent.
 ///
 /// What the library makes keeps the size that its design gives it, and what has Letters of its own
 /// is left to them.

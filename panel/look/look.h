@@ -22,7 +22,7 @@ class QWidget;
 ///
 /// Sheets are set on the host's own widgets only, never on the application or on a parent of a
 /// widget of the library. The library's rows and fields carry fixed sheets of their own, and the
-/// words of its editor have fixed dark colours: Recolour brings them into the other looks.
+/// words of its editor have fixed dark colours. Recolour brings all of these into the other looks.
 ///
 ///     Look::use(Look::Dark);
 ///     Look::dress(strip, Look::Strip);

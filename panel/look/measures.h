@@ -9,8 +9,8 @@
 #include <QSizeF>
 #include <QStringList>
 
-/// Sizes that a hand and an eye ask for: millimetres in pixels of the panel, and the size of the
-/// texts that the operator has chosen.
+/// Sizes that a hand and an eye ask for: millimetres in pixels of the panel, and the size that the
+/// operator has chosen for texts.
 ///
 /// Both count for the panel program's own widgets and, by properties of the application, for the
 /// keypads. The library's texts and geometry are fixed by its design, and stay as they are.
@@ -41,8 +41,8 @@ int pixels(qreal millimetres);
 /// The smallest side of anything that is meant to be touched: `touchMm`, as far as there is room.
 /// Never below Look::smallestTouch.
 int touch();
-/// The same of what is touched in gloves all day, rows and keys of lists among it: 48 pixels at the
-/// least, which are 9 mm on the usual panel.
+/// The same of what is touched in gloves all day, rows and keys of lists among it. At least 48
+/// pixels, which are 9 mm on the usual panel.
 int glove();
 /// The key that stops what runs: `stopMm` wide, and as high where the surface is not low.
 QSize stop();

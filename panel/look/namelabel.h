@@ -10,8 +10,8 @@
 
 /// The name of what an operator works on, and how it stands: "stator-coil.cnc (changed)".
 ///
-/// A name that is longer than its lines loses its middle and nothing else: names of programs differ
-/// in their numbers and at their ends, which stay. Before that its letters get smaller, it is
+/// A name that is longer than its lines loses its middle and nothing else. Names of programs differ
+/// in their numbers and at their ends, which stay. Before that the letters get smaller, the name is
 /// broken between its parts and then within them, and the state gives way to its mark.
 ///
 ///     label->setLines(2);

@@ -10,8 +10,8 @@ class QAbstractScrollArea;
 class QPushButton;
 class QScrollBar;
 
-/// The row of keys below a content that is read a page at a time: a page up, a page down, and what
-/// the dialog adds. A key that leads nowhere is off.
+/// The row of keys below what is read a page at a time: a page up, a page down, and what the dialog
+/// adds. A key that leads nowhere is off.
 ///
 ///     PageKeys *keys = new PageKeys(table, PageKeys::oneRow);
 ///     QPushButton *closeKey = keys->add(tr("Close"), "close");
@@ -24,11 +24,11 @@ public:
     /// For a table that is scrolled by rows.
     static const int oneRow = 1;
 
-    /// Turns \a view, which must outlive the keys. Of each page \a kept, in the steps of its bar,
-    /// stay in view: the last line of a page is the first of the next.
+    /// Turns \a view, which must outlive the keys. Of each page \a kept steps of the bar stay in
+    /// view: the last line of a page is the first of the next.
     PageKeys(QAbstractScrollArea *view, int kept);
 
-    /// One more key at the end of the row. It is no default of its dialog.
+    /// One more key at the end of the row. The key is no default of its dialog.
     QPushButton *add(const QString &text, const char *objectName);
     /// A key for a second row. A word takes twice the room of an arrow.
     static QPushButton *addTo(QHBoxLayout *row, const QString &text, const char *objectName);

@@ -7,8 +7,9 @@
 #include <QProxyStyle>
 
 /// The panel's look of everything that the toolkit draws: flat keys, boxes, bars, tables, tabs and
-/// progress, without bevels, dotted lines, mnemonics and a desktop's icons. Makes what the toolkit
-/// sizes for a mouse large enough for a glove, too. Sizes that the library fixes stay as they are.
+/// progress. There are no bevels, dotted lines, mnemonics or a desktop's icons. Makes what the
+/// toolkit sizes for a mouse large enough for a glove, too. Sizes that the library fixes stay as
+/// they are.
 ///
 /// All colours are the palette's, and what is drawn where stands in StyleKeys, StyleBoxes,
 /// StyleBars, StyleTables and StyleIcons.

@@ -13,8 +13,8 @@ class QImage;
 
 /// Brings the editor, the lists and the rows of the library into the look in use.
 ///
-/// Their words and sheets have fixed colours, made for light paper, and hosts read them. So all of
-/// that stays, and what is drawn is changed on its way to the screen: each lightness has its
+/// The words and sheets of these have fixed colours, made for light paper, and hosts read them. So
+/// all of that stays, and what is drawn is changed on its way to the screen. Each lightness has its
 /// counterpart in the look, and hues stay. Only what is painted anew is changed, in its place.
 /// Scroll bars have the colours of the look itself.
 ///

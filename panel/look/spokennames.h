@@ -13,8 +13,8 @@ class QWidget;
 /// screen reader, or a switch in the place of a finger.
 ///
 /// What has a text of its own is called so. A field, a list or a table is called by the label
-/// beside it, else by its window or its screen, in the language that is shown. That goes for the
-/// library's widgets, too. What bears a picture alone has a name from who made it.
+/// beside it, else by its window or its screen. The name is in the language that is shown. The
+/// library's widgets have names likewise. What bears a picture alone has a name from who made it.
 ///
 ///     new SpokenNames(&application); // before the first widget
 class SpokenNames : public QObject

@@ -7,8 +7,8 @@
 #include <QIcon>
 #include <QStyle>
 
-/// The pictures that the toolkit asks its style for, drawn like all the others of the panel: what
-/// a message box is about, a file, a folder.
+/// The pictures that the toolkit asks its style for, drawn like all others of the panel: a message
+/// box's subject, a file, a folder.
 namespace StyleIcons {
 
 /// Null where the toolkit's own is not replaced. It follows the look when it is drawn.

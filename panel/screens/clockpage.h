@@ -13,7 +13,7 @@ class QLabel;
 
 /// Date, time and time zone as the system has them, in the way of the page's locale().
 ///
-/// They are shown and not set: the panel program runs without the right to set a clock.
+/// All three are shown and not set: the panel program runs without the right to set a clock.
 class ClockPage : public SettingsPage
 {
     Q_OBJECT

@@ -16,7 +16,7 @@
 
 /// Takes the picture and the totals of a coil to the stick, beside the event loop.
 ///
-/// They go into a new folder, "stator-coil-picture", say, so nothing that is there is covered:
+/// Both go into a new folder, "stator-coil-picture", say, so nothing that is there is covered:
 /// where the name is taken, the folder is "stator-coil-picture-2". What could not be written as a
 /// whole is taken away again. Each begin() ends in one told().
 class CoilExport : public QObject

@@ -21,8 +21,8 @@ class QTextDocument;
 /// The coil of the program in the editor, for the views of it: follows the document while a view is
 /// up, beside the event loop.
 ///
-/// The document is read when it has not changed for a while, and from the begin of a new reading
-/// the views get what is wound so far several times a second.
+/// The document is read when it has not changed for a while. From the begin of a new reading the
+/// views get what is wound so far, several times a second.
 class CoilPreview : public QObject
 {
     Q_OBJECT

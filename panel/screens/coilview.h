@@ -15,8 +15,8 @@
 /// A picture that is made elsewhere, for fingers: one drags it, two zoom it, a touch asks what is
 /// there. The wheel and the keys plus, minus, Home and the arrows do the same.
 ///
-/// What is to be seen is told by wanted(); until its picture comes by showPicture(), the last one
-/// is shown shifted and stretched, so that it follows the finger at once.
+/// What is to be seen is told by wanted(). Until its picture comes by showPicture(), the last
+/// picture is shown shifted and stretched, and so follows the finger at once.
 class CoilView : public QWidget
 {
     Q_OBJECT

@@ -30,8 +30,8 @@ class QLabel;
 class Stick;
 class TapArea;
 
-/// The programs of the panel, what is known of the chosen one, and what can be done with it; and
-/// the stick that programs come from and go to.
+/// The programs of the panel, what is known of the chosen one, and what can be done with it.
+/// Besides the stick that programs come from and go to.
 ///
 /// What is known is facts and a picture of the coil; a small panel has room for the facts alone. A
 /// program on the stick is looked at in the same way, by the library's path browser.

@@ -33,7 +33,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The load takes longer than a moment; \a percent of the program is there.
     void worked(int percent);
-    /// It goes on no more, whether it came to its end or not.
+    /// The load goes on no more, whether it came to its end or not.
     void ended();
 
 private:

@@ -35,8 +35,8 @@ public:
     static QStringList pointKeys();
     static QStringList speedKeys();
 
-    /// What the numbers of an instruction may be. The zone is where a movement may leave its path;
-    /// a value of a point or a speed is named by its place among the keys.
+    /// What the numbers of an instruction may be. The zone is where a movement may leave its path.
+    /// A value of a point or a speed is named by its place among the keys.
     static ValueRule zoneRule();
     static ValueRule toolRule();
     static ValueRule pointRule(int key);

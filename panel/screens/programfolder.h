@@ -14,7 +14,7 @@
 #include <functional>
 #include <memory>
 
-/// The programs of a folder, looked at on request, in a thread of its own: a disk that hangs keeps
+/// The programs of a folder, looked at on request, in a thread of its own. A disk that hangs keeps
 /// the thread waiting, and nobody else.
 ///
 ///     ProgramFolder folder(ProgramDirectory::path());

@@ -117,7 +117,8 @@ private:
     ProgramWalk *m_walk;
     WalkKeys *m_walkKeys;
     FindDialogGuide *m_findGuide;
-    /// The library's, with the program's name. It goes with the window, before the screen does.
+    /// The library's, with the program's name. The label goes with the window, before the screen
+    /// does.
     QPointer<QLabel> m_fileLabel;
     QString m_unnamed;
     RecentPrograms *m_recent;

@@ -18,8 +18,8 @@ class Settings;
 class SettingsPage;
 class TouchSound;
 
-/// What the operator chooses for the panel: language, look, size of texts and sounds; and what is
-/// to be known of it: the clock, the program and its room.
+/// What the operator chooses for the panel: language, look, size of texts and sounds. Besides what
+/// is to be known of the panel: the clock, the program and its room.
 ///
 /// A choice holds at once, for the whole panel, and is kept by the Settings. Where the panel has
 /// room, all sections are in view. On a small one there is one at a time, with a key for each.

@@ -13,7 +13,7 @@ class ImportManage;
 class QLabel;
 class QListView;
 
-/// Covers the import manager's list of the stick while no stick is in: the library shows the files
+/// Covers the import manager's list of the stick while no stick is in. The library shows the files
 /// of a stick that was pulled until the next press, and notices none that comes.
 ///
 ///     StickCover *cover = new StickCover(panel);

@@ -26,8 +26,9 @@ struct Adoption
     QStringList copied;
     /// Why some were not, a sentence for the operator; empty if all went well.
     QString error;
-    /// The file to read first: the one that was stored last. It is that of firstName() where there
-    /// is none, and where that was copied just now; in the old place where it couldn't be.
+    /// The file to read first: the one that was stored last. Where there is none, and where the old
+    /// file was copied just now, the file of firstName(). Where the old file couldn't be copied,
+    /// that one.
     QString first;
 };
 

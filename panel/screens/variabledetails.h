@@ -8,8 +8,8 @@
 #include "screens/valuemark.h"
 #include "screens/variabletable.h"
 
-/// A variable of the machine in the words of RowDetails: its value, what stands in the file, what
-/// it may be, and what is wrong with it.
+/// A variable of the machine in the words of RowDetails: the value, what stands in the file, the
+/// limits, and what is wrong with the value.
 namespace VariableDetails {
 
 /// The value is the first of them, and the one that a touch changes. \a shown is on the screen, as

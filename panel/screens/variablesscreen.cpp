@@ -308,8 +308,8 @@ void VariablesScreen::fitCells(const QList<QLabel *> &cells, QLineEdit *field) c
     widen(field, -forNumber - forName);
 }
 
-/// The library's own field would open the letters for numbers too, and take whatever they give. It
-/// reports a touch after the change, and so does this.
+/// The library's own field would open the letters for numbers too, and take whatever they give.
+/// That field reports a touch after the change, and so does this function.
 void VariablesScreen::touch(int number, const QRect &place)
 {
     if (number >= m_table.count())

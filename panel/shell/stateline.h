@@ -9,8 +9,8 @@
 
 class ElidedLabel;
 
-/// A line, or two, that stays in view for as long as something is to be kept in mind; a touch asks
-/// for it in full. Hidden while there is nothing.
+/// A line, or two, that stays in view for as long as something is to be kept in mind. A touch asks
+/// for the whole text. Hidden while there is nothing.
 ///
 /// Of a text that is too long, what stands before its colon is shown, rather than a part of a word.
 class StateLine : public TapArea

@@ -26,8 +26,9 @@ public:
     void set(const QString &word, Message::Tone tone, const QString &meaning);
     /// The same for what is not known, or not there and need not be.
     void setToneless(const QString &word, const QString &meaning);
-    /// Is never narrower than the \a usual words ask for in letters of any size, nor, where there
-    /// is room, than the \a rare ones: a word that is followed by another moves nothing beside it.
+    /// Is never narrower than the \a usual words ask for in letters of any size. Where there is
+    /// room, the same goes for the \a rare ones. So a word that is followed by another moves
+    /// nothing beside it.
     void keepRoomFor(const QStringList &usual, const QStringList &rare);
     bool hasTone() const { return m_hasTone; }
     /// Means something only where there is one.

@@ -9,8 +9,8 @@
 class ElidedLabel;
 class QDialog;
 
-/// The title of a dialog where no window manager shows one: a strip in the panel's look above what
-/// the dialog holds, with a key that closes it.
+/// The title of a dialog where no window manager shows one. A strip in the panel's look stands
+/// above what the dialog holds, with a key that closes the dialog.
 ///
 /// The dialog grows by the strip, so that its inside stays as it is. A heading of its own with the
 /// same words gives way. A message box and a progress dialog have no key there: what closes them is

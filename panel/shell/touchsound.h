@@ -10,7 +10,7 @@
 /// Sounds at each touch of a key that can be pressed, keys of keypads and dialogs too, while it is
 /// switched on.
 ///
-/// The sound is the display's own bell, as QApplication::beep() has it: a desktop may have one, and
+/// The sound is the display's own bell, as QApplication::beep() has it. A desktop may have one, and
 /// a panel that draws on its screen by itself has none. Then nothing is heard.
 ///
 ///     TouchSound sounds;

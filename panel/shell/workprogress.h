@@ -17,7 +17,7 @@
 /// stop it.
 ///
 /// Several pieces of work may go on at once. The one that began last stands in front: it is shown
-/// and can be stopped, and the one before it comes back when it has ended.
+/// and can be stopped. When it has ended, the one before it comes back.
 ///
 ///     works.report(screen, "copy", tr("%1 goes to the stick").arg(name), 40, [this] { stop(); });
 ///     works.end(screen, "copy");
