@@ -61,6 +61,7 @@ FindingsDialog::FindingsDialog(const ProgramReview *review, int line, QWidget *p
     setTitle(tr("Check"));
     QLabel *head = new QLabel(review->summary());
     head->setObjectName(QLatin1String("summary"));
+    head->setTextFormat(Qt::PlainText);
     head->setWordWrap(true);
     if (review->leftOut() > 0)
         head->setText(tr("%1. The first %2 are listed.")

@@ -57,6 +57,8 @@ PreviewPane::PreviewPane(CoilPreview *preview, const QSize &surface, Place place
     font.setPixelSize(messagePixels);
     m_message->setFont(font);
     m_message->setObjectName(QLatin1String("previewMessage"));
+    // A profile's fault may have words of the profile in it.
+    m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setAutoFillBackground(true);

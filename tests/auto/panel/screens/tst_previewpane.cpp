@@ -290,6 +290,12 @@ void TestPreviewPane::whatCannotBeShownIsSaid()
     unknown.preview.readProfile(home() + "/machine.ini");
     QTRY_VERIFY(message(unknown.pane).contains("machine is not known"));
     QVERIFY(!key(unknown.pane, "Export")->isEnabled());
+
+    // What the file says is shown as it stands there.
+    writeFile(home() + "/machine.ini", "[<b>bold</b>]");
+    unknown.preview.readProfile(home() + "/machine.ini");
+    QTRY_VERIFY(message(unknown.pane).contains("<b>bold</b>"));
+    QCOMPARE(unknown.pane.findChild<QLabel *>("previewMessage")->textFormat(), Qt::PlainText);
 }
 
 void TestPreviewPane::linesThatAreNotKnownLeadThere()
