@@ -136,7 +136,7 @@ for name in own.cnc ./own.cnc hard.cnc soft.cnc; do
     check 4 --svg "$name" own.cnc
     complains "^filarix-check: $name: is a file that is to be read"
 done
-check 4 --svg own.cnc - <own.cnc
+check 4 --svg own.cnc - <hard.cnc
 check 4 --svg small.ini --profile small.ini small.cnc
 cmp own.cnc right.cnc || fail "a drawing covers its program"
 grep -q '^core = 5' small.ini || fail "a drawing covers the profile"
