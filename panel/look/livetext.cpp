@@ -7,16 +7,16 @@
 #include <QVariant>
 #include <QWidget>
 
-LiveText::LiveText(QWidget *widget, const std::function<QString()> &text)
-    : QObject(widget), m_text(text)
+LiveText::LiveText(QWidget *widget, const std::function<QString()> &text, const char *property)
+    : QObject(widget), m_text(text), m_property(property)
 {
-    widget->setProperty("text", m_text());
+    widget->setProperty(m_property, m_text());
     widget->installEventFilter(this);
 }
 
 bool LiveText::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
-        watched->setProperty("text", m_text());
+        watched->setProperty(m_property, m_text());
     return false;
 }

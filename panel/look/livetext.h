@@ -11,10 +11,11 @@
 
 class QWidget;
 
-/// A text that follows the language: a widget's property `text`, set at once and again with each
-/// change of language.
+/// A text that follows the language: a property of a widget, set at once and again with each change
+/// of language.
 ///
 ///     new LiveText(label, [] { return tr("Names"); });
+///     new LiveText(key, &PageKeys::backName, "accessibleName");
 ///
 /// Belongs to the widget. What \a text refers to must live as long.
 class LiveText : public QObject
@@ -22,12 +23,14 @@ class LiveText : public QObject
     Q_OBJECT
 
 public:
-    LiveText(QWidget *widget, const std::function<QString()> &text);
+    /// \a property has to be one of \a widget's own, and a name that lasts.
+    LiveText(QWidget *widget, const std::function<QString()> &text, const char *property = "text");
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     std::function<QString()> m_text;
+    const char *m_property;
 };
 
 #endif // LIVETEXT_H

@@ -24,8 +24,8 @@ PageKeys::PageKeys(QAbstractScrollArea *view, int kept)
     , m_forthKey(add(downArrow, "forth"))
 {
     setSpacing(gap);
-    m_backKey->setAccessibleName(tr("Page up"));
-    m_forthKey->setAccessibleName(tr("Page down"));
+    m_backKey->setAccessibleName(backName());
+    m_forthKey->setAccessibleName(forthName());
     connect(m_backKey, &QPushButton::clicked, this, [this] { turn(-1); });
     connect(m_forthKey, &QPushButton::clicked, this, [this] { turn(1); });
     connect(m_bar, &QScrollBar::valueChanged, this, &PageKeys::showState);

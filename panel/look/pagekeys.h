@@ -28,6 +28,11 @@ public:
     /// view: the last line of a page is the first of the next.
     PageKeys(QAbstractScrollArea *view, int kept);
 
+    /// What a key that turns a page is called where its face is an arrow or the word "Page" alone:
+    /// the same on every screen.
+    static QString backName() { return tr("Page up"); }
+    static QString forthName() { return tr("Page down"); }
+
     /// One more key at the end of the row. The key is no default of its dialog.
     QPushButton *add(const QString &text, const char *objectName);
     /// A key for a second row. A word takes twice the room of an arrow.

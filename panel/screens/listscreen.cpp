@@ -8,6 +8,7 @@
 #include "look/livetext.h"
 #include "look/look.h"
 #include "look/measures.h"
+#include "look/pagekeys.h"
 #include "look/panelkey.h"
 #include "mjline.h"
 #include "screens/rowdetails.h"
@@ -252,17 +253,22 @@ void ListScreen::addTurnKey(Turn turn)
     {
         const char *icon;
         const char *text;
+        /// Where the text would be two keys' name.
+        QString (*name)();
         void (TListWidget::*turn)();
     } plans[] = {
-        {"home", QT_TR_NOOP("First"), &TListWidget::home},
-        {"pageUp", QT_TR_NOOP("Page"), &TListWidget::prevPage},
-        {"pageDown", QT_TR_NOOP("Page"), &TListWidget::nextPage},
-        {"end", QT_TR_NOOP("Last"), &TListWidget::end},
+        {"home", QT_TR_NOOP("First"), nullptr, &TListWidget::home},
+        {"pageUp", QT_TR_NOOP("Page"), &PageKeys::backName, &TListWidget::prevPage},
+        {"pageDown", QT_TR_NOOP("Page"), &PageKeys::forthName, &TListWidget::nextPage},
+        {"end", QT_TR_NOOP("Last"), nullptr, &TListWidget::end},
     };
     const auto &plan = plans[turn];
     const QIcon icon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(plan.icon)));
     const char *const text = plan.text;
-    connect(addKey(icon, [text] { return tr(text); }), &PanelKey::clicked, m_list, plan.turn);
+    PanelKey *key = addKey(icon, [text] { return tr(text); });
+    if (plan.name)
+        new LiveText(key, plan.name, "accessibleName");
+    connect(key, &PanelKey::clicked, m_list, plan.turn);
 }
 
 void ListScreen::addPagingKeys()

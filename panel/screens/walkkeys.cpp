@@ -6,6 +6,7 @@
 #include "guards/programwalk.h"
 #include "look/look.h"
 #include "look/measures.h"
+#include "look/pagekeys.h"
 #include "look/panelkey.h"
 
 #include <QEvent>
@@ -22,26 +23,37 @@ const int gap = 2;
 // Of the window's parts, from the top.
 const int editorPart = 1;
 
+QString firstName()
+{
+    return WalkKeys::tr("First line");
+}
+
+QString lineName()
+{
+    return WalkKeys::tr("Go to a line");
+}
+
+QString lastName()
+{
+    return WalkKeys::tr("Last line");
+}
+
 // In the order of the keys. The library has most of the drawings for its hosts.
 const struct
 {
     const char *icon;
     const char *text;
-    const char *description;
+    QString (*name)();
     void (ProgramWalk::*step)();
     /// So many keys have room at least where this one is shown.
     int fromRoom;
 } walkTable[] = {
-    {"home", QT_TRANSLATE_NOOP("WalkKeys", "First"), QT_TRANSLATE_NOOP("WalkKeys", "First line"),
-     &ProgramWalk::goToFirst, 4},
-    {"pageUp", QT_TRANSLATE_NOOP("WalkKeys", "Page"), QT_TRANSLATE_NOOP("WalkKeys", "Page up"),
-     &ProgramWalk::pageUp, 0},
-    {nullptr, QT_TRANSLATE_NOOP("WalkKeys", "Line"), QT_TRANSLATE_NOOP("WalkKeys", "Go to a line"),
-     &ProgramWalk::askForLine, 5},
-    {"pageDown", QT_TRANSLATE_NOOP("WalkKeys", "Page"), QT_TRANSLATE_NOOP("WalkKeys", "Page down"),
+    {"home", QT_TRANSLATE_NOOP("WalkKeys", "First"), &firstName, &ProgramWalk::goToFirst, 4},
+    {"pageUp", QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::backName, &ProgramWalk::pageUp, 0},
+    {nullptr, QT_TRANSLATE_NOOP("WalkKeys", "Line"), &lineName, &ProgramWalk::askForLine, 5},
+    {"pageDown", QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::forthName,
      &ProgramWalk::pageDown, 0},
-    {"end", QT_TRANSLATE_NOOP("WalkKeys", "Last"), QT_TRANSLATE_NOOP("WalkKeys", "Last line"),
-     &ProgramWalk::goToLast, 4},
+    {"end", QT_TRANSLATE_NOOP("WalkKeys", "Last"), &lastName, &ProgramWalk::goToLast, 4},
 };
 const int keyCount = sizeof walkTable / sizeof *walkTable;
 const int leastKeys = 2;
@@ -136,7 +148,7 @@ void WalkKeys::retranslate()
 {
     for (int i = 0; i < m_keys.size(); ++i) {
         m_keys.at(i)->setText(tr(walkTable[i].text));
-        m_keys.at(i)->setAccessibleName(tr(walkTable[i].description));
+        m_keys.at(i)->setAccessibleName(walkTable[i].name());
     }
 }
 

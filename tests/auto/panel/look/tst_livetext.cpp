@@ -13,6 +13,7 @@ class TestLiveText : public FilarixTest
 private Q_SLOTS:
     void theTextIsThereAtOnce();
     void theTextFollowsTheLanguage();
+    void anotherPropertyFollowsToo();
     void nothingElseSetsItAgain();
 };
 
@@ -38,6 +39,19 @@ void TestLiveText::theTextFollowsTheLanguage()
     QCOMPARE(label.text(), QString("Names"));
     changeLanguage(&label);
     QCOMPARE(label.text(), QString("Namen"));
+}
+
+void TestLiveText::anotherPropertyFollowsToo()
+{
+    QString name = "Page up";
+    QLabel label("Page");
+    new LiveText(
+        &label, [&name] { return name; }, "accessibleName");
+    QCOMPARE(label.accessibleName(), QString("Page up"));
+    name = "Seite zurück";
+    changeLanguage(&label);
+    QCOMPARE(label.accessibleName(), QString("Seite zurück"));
+    QCOMPARE(label.text(), QString("Page"));
 }
 
 void TestLiveText::nothingElseSetsItAgain()

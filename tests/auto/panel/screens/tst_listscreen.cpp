@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "filarixtest.h"
+#include "look/pagekeys.h"
 #include "look/panelkey.h"
+#include "look/spokennames.h"
 #include "modaldriver.h"
 #include "screens/listscreen.h"
 #include "storage/rowfile.h"
@@ -75,6 +77,7 @@ private Q_SLOTS:
     void whatIsStoredIsNoChange();
     void whatCannotBeStoredStaysAChange();
     void noKeyWorksWhileRowsAreToCome();
+    void pageKeysAreNamedApart();
     void keysBeyondTheLinesTakeTurns();
     void aRowIsShownWhereverItIs_data();
     void aRowIsShownWhereverItIs();
@@ -187,6 +190,24 @@ void TestListScreen::noKeyWorksWhileRowsAreToCome()
     for (const PanelKey *key : keys)
         QVERIFY(key->isEnabled());
     QVERIFY(late->isEnabled());
+}
+
+// As everywhere else in the panel: both read "Page".
+void TestListScreen::pageKeysAreNamedApart()
+{
+    Screen screen(path());
+    const auto names = [&screen] {
+        QStringList names;
+        for (PanelKey *key : screen.findChildren<PanelKey *>())
+            names.append(SpokenNames::nameOf(key));
+        return names;
+    };
+    const QStringList english{"First", PageKeys::backName(), PageKeys::forthName(), "Last"};
+    QCOMPARE(names(), english);
+    QCOMPARE(english.at(1), QString("Page up"));
+    const TestCompat::MarkingTranslator translator("PageKeys");
+    QCoreApplication::processEvents();
+    QCOMPARE(names(), (QStringList{"First", "Page up*", "Page down*", "Last"}));
 }
 
 void TestListScreen::keysBeyondTheLinesTakeTurns()

@@ -204,6 +204,7 @@ void TestWalkKeys::keysAreNamedApartInEachLanguage()
     m_keys->putBeside(m_program->window());
     QCOMPARE(key("Page up")->text(), QString("Page"));
     const TestCompat::MarkingTranslator translator("WalkKeys");
+    const TestCompat::MarkingTranslator pages("PageKeys");
     m_keys->retranslate();
     QVERIFY(!key("Page up"));
     QCOMPARE(key("Page up*")->text(), QString("Page*"));
