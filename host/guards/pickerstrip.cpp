@@ -9,6 +9,7 @@
 #include <hmidevice/characterkeypad.h>
 #include <hmidevice/hmideviceinfo.h>
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -16,10 +17,21 @@
 #include <QPainter>
 #include <QPointer>
 #include <QToolButton>
+#include <QVariant>
+
+#include <cmath>
 
 namespace {
 
-const int keySize = 48;
+// 9 mm at 133 dpi, the screen of most panels.
+const int leastKey = 48;
+// What a glove needs, where the screen says by a property how fine it is.
+const double gloveMm = 9;
+const double mmPerInch = 25.4;
+const double fewestDotsPerInch = 50;
+const double mostDotsPerInch = 400;
+// So many keys have room side by side, however fine the screen is.
+const int keysOnAWidth = 7;
 const int wideKey = 84;
 const int narrowKey = 76;
 const int titlePixels = 16;
@@ -37,6 +49,16 @@ const QRgb dangerGround = 0xffb92525;
 const QRgb keyGround = 0xff2b3a4a;
 const QRgb faint = 0xff8b9aab;
 const int arrowSize = 24;
+
+/// The side of a key on a strip of \a width pixels.
+int sideOfKey(int width)
+{
+    const double dotsPerInch = qApp->property("hmiDotsPerInch").toDouble();
+    if (!(dotsPerInch >= fewestDotsPerInch && dotsPerInch <= mostDotsPerInch))
+        return leastKey;
+    const int glove = int(std::ceil(gloveMm / mmPerInch * dotsPerInch));
+    return qMax(leastKey, qMin(glove, width / keysOnAWidth));
+}
 
 QFont sized(QFont font, int pixels, bool isBold)
 {
@@ -140,13 +162,10 @@ PickerStrip::PickerStrip(WindowDialogs::Picker picker, QWidget *parent)
         keys->addWidget(key);
     }
     m_nextOrder = makeKey(QString(), "pickerNextOrder", SLOT(takeNextOrder()));
-    m_nextOrder->setFixedWidth(narrowKey);
     keys->addWidget(m_nextOrder);
     m_allKey = makeKey(tr("Show all"), "pickerAll", SLOT(clearFilter()));
-    m_allKey->setFixedWidth(narrowKey);
     keys->addWidget(m_allKey);
     m_filter->setObjectName(QLatin1String("pickerFilter"));
-    m_filter->setFixedHeight(keySize);
     m_filter->setMinimumWidth(leastFilter);
     m_filter->setMaximumWidth(mostFilter);
     m_filter->setPlaceholderText(tr("Find"));
@@ -165,6 +184,7 @@ PickerStrip::PickerStrip(WindowDialogs::Picker picker, QWidget *parent)
     m_rows->addLayout(titles, 1);
     m_rows->addLayout(keys, 1);
     setLayout(m_rows);
+    sizeKeys(leastKey);
     choose(PickerTable::LastUsed);
 }
 
@@ -174,7 +194,6 @@ QToolButton *PickerStrip::makeKey(const QString &text, const char *name, const c
     key->setObjectName(QLatin1String(name));
     key->setText(text);
     key->setFocusPolicy(Qt::StrongFocus);
-    key->setFixedSize(wideKey, keySize);
     connect(key, SIGNAL(clicked()), this, slot);
     return key;
 }
@@ -186,13 +205,24 @@ QToolButton *PickerStrip::makeArrow(bool isUp, const QString &name, const char *
     key->setIconSize(QSize(arrowSize, arrowSize));
     key->setAccessibleName(name);
     key->setAutoRepeat(true);
-    key->setFixedWidth(keySize);
     return key;
+}
+
+void PickerStrip::sizeKeys(int side)
+{
+    Q_FOREACH (QToolButton *key, m_orderKeys)
+        key->setFixedSize(qMax(wideKey, side), side);
+    m_nextOrder->setFixedSize(qMax(narrowKey, side), side);
+    m_allKey->setFixedSize(qMax(narrowKey, side), side);
+    m_filter->setFixedHeight(side);
+    m_up->setFixedSize(side, side);
+    m_down->setFixedSize(side, side);
 }
 
 void PickerStrip::fit(int width)
 {
     m_isWide = width >= FilarixPanel::wideFrom;
+    sizeKeys(sideOfKey(width));
     m_rows->setDirection(width < oneRowFrom ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     // The keys have their widths; what is left is the title's.
     m_rows->setStretch(1, width < oneRowFrom ? 1 : 0);

@@ -18,7 +18,9 @@ class QToolButton;
 /// The strip above a program picker: what the picker is for, and the keys that find a program.
 ///
 /// A wide strip has a key for each order. On a narrow one a single key goes from one order to the
-/// next, and takes the filter away while there is one.
+/// next, and takes the filter away while there is one. The keys are fit for a glove, 9 mm, where
+/// the application's property `hmiDotsPerInch` says how fine the screen is; the keypads read it,
+/// too.
 class PickerStrip : public QWidget
 {
     Q_OBJECT
@@ -63,6 +65,7 @@ private Q_SLOTS:
 private:
     QToolButton *makeKey(const QString &text, const char *name, const char *slot);
     QToolButton *makeArrow(bool isUp, const QString &name, const char *slot);
+    void sizeKeys(int side);
     void choose(PickerTable::Order order);
     void showKeys();
     void enterFilter();

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void narrowStripTakesTheFilterAway();
     void heightIsThatOfItsRows_data();
     void heightIsThatOfItsRows();
+    void keysAreForAGlove_data();
+    void keysAreForAGlove();
     void pagesAreAskedFor();
     void countsAreTold();
     void nothingIsWithoutAName();
@@ -52,6 +54,7 @@ void TestPickerStrip::init()
 
 void TestPickerStrip::cleanup()
 {
+    qApp->setProperty("hmiDotsPerInch", QVariant());
     m_strip.reset();
     FilarixTest::cleanup();
 }
@@ -125,6 +128,38 @@ void TestPickerStrip::heightIsThatOfItsRows()
     m_strip->fit(width);
     QCOMPARE(m_strip->sizeHint().height() > 60, isHigh);
     QVERIFY(m_strip->minimumSizeHint().width() <= width);
+}
+
+void TestPickerStrip::keysAreForAGlove_data()
+{
+    QTest::addColumn<double>("dotsPerInch");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("side");
+    QTest::newRow("nothing told") << 0.0 << 800 << 48;
+    QTest::newRow("no sensible number") << 4000.0 << 800 << 48;
+    QTest::newRow("coarse") << 85.0 << 800 << 48;
+    QTest::newRow("4.3 inches, upright") << 128.0 << 272 << 48;
+    QTest::newRow("5 inches, upright") << 187.0 << 480 << 67;
+    QTest::newRow("7 inches") << 170.0 << 1024 << 61;
+    QTest::newRow("finer than there is room") << 390.0 << 480 << 68;
+}
+
+void TestPickerStrip::keysAreForAGlove()
+{
+    QFETCH(double, dotsPerInch);
+    QFETCH(int, width);
+    QFETCH(int, side);
+    if (dotsPerInch > 0)
+        qApp->setProperty("hmiDotsPerInch", dotsPerInch);
+    m_strip->fit(width);
+    const QList<QToolButton *> all = m_strip->findChildren<QToolButton *>();
+    for (const QToolButton *key : all)
+        QVERIFY(key->width() >= side && key->height() == side);
+    QCOMPARE(keys("pickerPage").first()->size(), QSize(side, side));
+    QCOMPARE(filter()->height(), side);
+    QVERIFY(m_strip->sizeHint().height() >= side);
+    QVERIFY2(m_strip->minimumSizeHint().width() <= width,
+             qPrintable(QString::number(m_strip->minimumSizeHint().width())));
 }
 
 void TestPickerStrip::pagesAreAskedFor()
