@@ -24,6 +24,7 @@ private Q_SLOTS:
     void titleTellsTheProperties_data();
     void titleTellsTheProperties();
     void everyKeypadHasATitle();
+    void showTypeTellsNothing();
     void titleIsToldFromTheCaller_data();
     void titleIsToldFromTheCaller();
     void titleTellsTheValidatorsLimits();
@@ -132,6 +133,25 @@ void TestKeypadValue::everyKeypadHasATitle()
     run(gcode, [&] { QCOMPARE(line(gcode, "title"), QString("Line 12")); });
     characters->setObject(&caller);
     run(characters, [&] { QCOMPARE(line(characters, "title"), QString("Line 12")); });
+}
+
+// The library gives all its texts the same one.
+void TestKeypadValue::showTypeTellsNothing()
+{
+    CharacterKeypad *characters = CharacterKeypad::instance();
+    for (int type = -1; type < 4; ++type) {
+        pad()->setShowType(type);
+        pad()->setEditMode(type);
+        runPad([] { QCOMPARE(title(), QString("Number")); });
+        characters->setShowType(type);
+        run(characters, [&] { QCOMPARE(line(characters, "title"), QString("Text")); });
+        // Whatever is known tells more.
+        Caller caller;
+        caller.setProperty("hmiName", QLatin1String("N5 Tension"));
+        pad()->setObject(&caller);
+        pad()->setShowType(type);
+        runPad([] { QCOMPARE(title(), QString("N5 Tension")); });
+    }
 }
 
 void TestKeypadValue::titleIsToldFromTheCaller_data()
