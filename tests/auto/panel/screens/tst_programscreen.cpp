@@ -5,6 +5,7 @@
 #include "devicelog.h"
 #include "filarixtest.h"
 #include "guards/programguard.h"
+#include "heldfile.h"
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "modaldriver.h"
@@ -61,6 +62,9 @@ private Q_SLOTS:
     void closingWithChangesAsks();
     void closingWaitsForASave();
     void closingDuringADownloadIsRefused();
+    void aDiskThatHangsHoldsNoClosing_data();
+    void aDiskThatHangsHoldsNoClosing();
+    void closingIsRefusedWhileASaveHangs();
     void undoKeyIsOffAfterOpening();
     void stateStaysInView();
     void questionShowsBothNumbers();
@@ -540,6 +544,68 @@ void TestProgramScreen::closingWaitsForASave()
     QVERIFY(!m_screen->mayClose());
     QVERIFY2(driver.finished(), driver.report());
     QVERIFY(m_screen->hasChanges());
+}
+
+void TestProgramScreen::aDiskThatHangsHoldsNoClosing_data()
+{
+    QTest::addColumn<bool>("isSaving");
+    QTest::newRow("saved at the end") << false;
+    QTest::newRow("while a save hangs") << true;
+}
+
+void TestProgramScreen::aDiskThatHangsHoldsNoClosing()
+{
+    QFETCH(bool, isSaving);
+    const QString path = programDir() + "/coil.cnc";
+    open("coil.cnc", "G01\n");
+    QTRY_VERIFY(!m_screen->guard()->isBusy());
+    m_screen->programWindow()->insertLine("G99");
+    HeldFile held(path);
+    QVERIFY(held.isHeld());
+    m_screen->guard()->setStallTime(300);
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    LoopPulse pulse;
+    ModalDriver driver;
+    if (isSaving) {
+        m_screen->guard()->save();
+        QTRY_VERIFY(m_screen->guard()->isBusy());
+    } else {
+        driver.press(QMessageBox::Save);
+        QVERIFY(!m_screen->mayClose());
+        QVERIFY2(driver.finished(), driver.report());
+        QCOMPARE(told.size(), 1);
+    }
+    driver.press(QMessageBox::Discard);
+    QVERIFY(m_screen->mayClose());
+    QVERIFY2(driver.finished(), driver.report());
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(), QString("The panel's storage does not answer."));
+    QCOMPARE(told.at(0).at(1).value<Message::Tone>(), Message::Warning);
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+    QVERIFY(held.isHeld());
+    held.letGo();
+    QCOMPARE(readFile(path), QByteArray("G01\n"));
+}
+
+void TestProgramScreen::closingIsRefusedWhileASaveHangs()
+{
+    open("coil.cnc", "G01\n");
+    QTRY_VERIFY(!m_screen->guard()->isBusy());
+    m_screen->programWindow()->insertLine("G99");
+    HeldFile held(programDir() + "/coil.cnc");
+    QVERIFY(held.isHeld());
+    m_screen->guard()->save();
+    QTRY_VERIFY(m_screen->guard()->isBusy());
+    QSignalSpy told(m_screen, SIGNAL(told(QString, Message::Tone, QString)));
+    LoopPulse pulse;
+    QVERIFY(!m_screen->mayClose());
+    QCOMPARE(told.size(), 1);
+    QVERIFY(told.at(0).at(0).toString().endsWith("Close the panel after that."));
+    QVERIFY2(pulse.longest() < patience(2000), qPrintable(QString::number(pulse.longest())));
+    held.letGo();
+    QTRY_VERIFY(!m_screen->guard()->isBusy());
+    QVERIFY(!m_screen->hasChanges());
+    QVERIFY(m_screen->mayClose());
 }
 
 void TestProgramScreen::undoKeyIsOffAfterOpening()
