@@ -6,7 +6,7 @@
 #
 # File systems that hang. The panel starts while the PLC and the stick do, and every screen comes up at
 # a touch; then its own storage hangs, too, at a start and later, and every screen still does. When all
-# is well again, so is the panel.
+# is well again, so is the panel. Nor does it keep an operator from closing the panel.
 # shellcheck source-path=SCRIPTDIR source=desk.sh
 source "$(dirname "$(readlink -f "$0")")/desk.sh"
 
@@ -79,6 +79,35 @@ walk "everything hangs later"
 rm "$hang"
 walk "everything is back again"
 end "everything was back"
+
+# What cannot be saved is told, and the operator decides. No question is answered by waiting.
+close_panel() {
+    # Just after a dialog no window may be the active one.
+    desk_until 20 xdotool getactivewindow >/dev/null || desk_fail "no window is active"
+    xdotool key alt+F4
+    expect_text Discard
+}
+
+start "all is well before the end"
+touch_text Open
+touch_text test-coil.cnc "Open file"
+touch_text OK "Open file"
+expect_gone OK "Open file"
+touch_text Ins
+expect_text "test-coil.cnc*"
+before=$(sha256sum "$HOME/cnc/test-coil.cnc")
+touch "$hang"
+close_panel
+touch_text Save
+expect_gone Discard
+walk "a save at the end hangs"
+desk_until 40 grep -qF "The panel's storage" "$desk_map" || desk_fail "nobody tells that nothing was saved"
+expect_text "test-coil.cnc*"
+close_panel
+touch_text Discard
+desk_until 20 desk_has_ended || desk_fail "the panel does not close while everything hangs"
+rm "$hang"
+[ "$(sha256sum "$HOME/cnc/test-coil.cnc")" = "$before" ] || desk_fail "the program is another one"
 
 # The stand-in for the stick is filled at the start.
 rm /tmp/udiskattach
