@@ -201,9 +201,7 @@ void Look::keepLight(QWidget *widget)
 {
     QPalette palette = widget->palette();
     palette.setColor(QPalette::Base, colour(Role::Field, Light));
-    // The editor marks the current line with it, so it has to differ from the paper in bright
-    // light. A line that is marked already keeps the colour, so all looks have the same.
-    palette.setColor(QPalette::AlternateBase, QColor(0xcf, 0xe3, 0xfb));
+    palette.setColor(QPalette::AlternateBase, Recolour::lineMark(currentStyle));
     palette.setColor(QPalette::Text, colour(Role::Text, Light));
     widget->setPalette(palette);
 }

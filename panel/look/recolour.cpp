@@ -29,6 +29,10 @@ const int percent = 100;
 const char editorClass[] = "WGCodeEditer";
 const char *const fixedClasses[] = {editorClass, "TListWidget", "MJLine", "DataEditor", "Label"};
 
+// What the editor marks the current line with. In bright light the mark has to differ from the
+// paper, and in the light look the fixed colours of the words leave it no more than a tint.
+const QRgb lineMarks[] = {0xffddffff, 0xffcfe3fb, 0xffcfe3fb};
+
 // An operator's eye takes blue for brighter than the formula for contrast does. So blue words keep
 // some of their blue when they are made light.
 const int redShare = 77;
@@ -138,15 +142,25 @@ QList<QScrollBar *> barsOf(const QWidget *widget)
     return {area->horizontalScrollBar(), area->verticalScrollBar()};
 }
 
+/// Whether a look marks the line in hand with it, in an editor that is kept light or in any other.
+bool isLineMark(const QColor &colour)
+{
+    for (Look::Style style : {Look::Light, Look::Dark, Look::HighContrast}) {
+        if (colour == Recolour::lineMark(style)
+            || colour == Look::colour(Look::Role::Alternate, style))
+            return true;
+    }
+    return false;
+}
+
 /// The line in hand keeps the colour that it was marked in. What else is marked stays as it is.
 void markAnew(QPlainTextEdit *editor)
 {
+    Look::keepLight(editor);
     QList<QTextEdit::ExtraSelection> marks = editor->extraSelections();
     for (QTextEdit::ExtraSelection &mark : marks) {
-        for (Look::Style style : {Look::Dark, Look::HighContrast}) {
-            if (mark.format.background().color() == Look::colour(Look::Role::Alternate, style))
-                mark.format.setBackground(editor->palette().alternateBase());
-        }
+        if (isLineMark(mark.format.background().color()))
+            mark.format.setBackground(editor->palette().alternateBase());
     }
     editor->setExtraSelections(marks);
 }
@@ -166,10 +180,8 @@ void lighten(QWidget *widget)
             palette.setBrush(QPalette::Inactive, role, light.brush(QPalette::Inactive, role));
     }
     widget->setPalette(palette);
-    if (!widget->inherits(editorClass))
-        return;
-    Look::keepLight(widget);
-    markAnew(static_cast<QPlainTextEdit *>(widget));
+    if (widget->inherits(editorClass))
+        markAnew(static_cast<QPlainTextEdit *>(widget));
 }
 
 QRgb toRgb(QRgb pixel)
@@ -300,6 +312,13 @@ void Recolour::uncover(QWidget *widget)
     for (QScrollBar *bar : barsOf(widget))
         bar->setPalette(Look::palette());
     widget->setGraphicsEffect(nullptr);
+    if (widget->inherits(editorClass))
+        markAnew(static_cast<QPlainTextEdit *>(widget));
+}
+
+QColor Recolour::lineMark(Look::Style style)
+{
+    return QColor(lineMarks[style]);
 }
 
 QColor Recolour::drawn(const QColor &colour, Look::Style style)

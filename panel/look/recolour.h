@@ -26,6 +26,9 @@ class Recolour : public QGraphicsEffect
 public:
     /// Covers what the library has made and will make, in the look in use.
     static void follow();
+    /// Behind the current line of the editor, before it is changed. In light each word that has a
+    /// contrast of 4.5 on white has it there.
+    static QColor lineMark(Look::Style style);
     /// What becomes of a colour in a look.
     static QColor drawn(const QColor &colour, Look::Style style);
     /// Changes the pixels of a part of an image of 32 or 16 bits a pixel.

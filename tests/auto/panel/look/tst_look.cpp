@@ -7,6 +7,7 @@
 #include "look/look.h"
 #include "look/panelkey.h"
 #include "look/panelstyle.h"
+#include "look/recolour.h"
 #include "look/tonemark.h"
 #include "shell/messagebar.h"
 #include "shell/messagedialog.h"
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void stripColoursAreReadable_data();
     void stripColoursAreReadable();
     void whatIsShownFollows();
+    void wordsOnTheMarkedLineAreReadable();
     void editorStaysLight();
     void sheetsOfTheLibraryStay();
 
@@ -423,6 +425,27 @@ void TestLook::whatIsShownFollows()
     Look::use(Look::Light);
     QCOMPARE(TestCompat::grab(&strip).toImage(), lightStrip);
     QCOMPARE(table.viewport()->palette().color(QPalette::Base), lightBase);
+}
+
+// In light nothing is drawn otherwise than the editor does.
+void TestLook::wordsOnTheMarkedLineAreReadable()
+{
+    Look::use(Look::Light);
+    WGCodeEditer editor(nullptr);
+    Look::keepLight(&editor);
+    const QColor mark = editor.palette().color(QPalette::AlternateBase);
+    QCOMPARE(mark, Recolour::lineMark(Look::Light));
+    int readable = 0;
+    for (const QColor &word : {QColor(Qt::darkGreen), QColor(Qt::darkCyan), QColor(Qt::darkMagenta),
+                               QColor(Qt::blue), QColor(Qt::darkYellow)}) {
+        const double best = Contrast::ratio(word, Qt::white);
+        QVERIFY2(Contrast::ratio(word, mark) >= qMin(Contrast::textContrast, 0.94 * best),
+                 qPrintable(word.name()));
+        readable += best >= Contrast::textContrast;
+    }
+    QCOMPARE(readable, 4);
+    // An eye sees the line all the same.
+    QVERIFY(mark.saturation() >= 30);
 }
 
 // The colours of the words are fixed, and made for paper.

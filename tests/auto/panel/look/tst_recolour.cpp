@@ -61,6 +61,7 @@ private Q_SLOTS:
     void whatHostsReadStays();
     void lightCostsNothing();
     void looksFollowOneAnother();
+    void theMarkedLineFollows();
     void rowsThatComeLaterAreChangedOnce();
     void edgesOfARowAreDark();
     void whatIsOpenFollows_data();
@@ -425,6 +426,25 @@ void TestRecolour::looksFollowOneAnother()
         Look::use(looks[step]);
         QCoreApplication::processEvents();
         QCOMPARE(screenOf(editor.data()), started.at(step));
+    }
+}
+
+// What somebody else has marked keeps its colour.
+void TestRecolour::theMarkedLineFollows()
+{
+    const QScopedPointer<WGCodeEditer> editor(makeEditor());
+    QList<QTextEdit::ExtraSelection> marks = editor->extraSelections();
+    QTextEdit::ExtraSelection other;
+    other.cursor = QTextCursor(editor->document()->lastBlock());
+    other.format.setBackground(QColor(1, 2, 3));
+    editor->setExtraSelections(marks << other);
+    for (Look::Style look : {Look::Light, Look::Dark, Look::HighContrast, Look::Light}) {
+        Look::use(look);
+        marks = editor->extraSelections();
+        QCOMPARE(marks.size(), 2);
+        QCOMPARE(marks.at(0).format.background().color(), Recolour::lineMark(look));
+        QCOMPARE(marks.at(1).format.background().color(), QColor(1, 2, 3));
+        QCOMPARE(editor->palette().color(QPalette::AlternateBase), Recolour::lineMark(look));
     }
 }
 
