@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QLabel>
 #include <QLayout>
 #include <QListView>
 #include <QPainter>
@@ -35,7 +36,8 @@ bool isMisplaced(const QDialog *dialog)
     return !dialog->testAttribute(Qt::WA_Moved) && !Platform::hasWindowManager();
 }
 
-/// Side by side on an upright panel, two lists have no room for bars. A finger moves them.
+/// Side by side on an upright panel, two lists have no room for bars. A finger moves them. What is
+/// told of the space has a line more.
 void leaveRoomForNames(QDialog *manager)
 {
     const QList<QListView *> lists = manager->findChildren<QListView *>();
@@ -47,6 +49,10 @@ void leaveRoomForNames(QDialog *manager)
     for (QPushButton *key : keys)
         key->setFixedWidth(narrowKey);
     manager->layout()->setContentsMargins(narrowMargin, narrowMargin, narrowMargin, narrowMargin);
+    const QList<QLabel *> labels =
+        manager->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QLabel *label : labels)
+        label->setWordWrap(true);
 }
 
 } // namespace

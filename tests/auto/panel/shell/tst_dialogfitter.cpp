@@ -9,6 +9,7 @@
 #include "shell/titlestrip.h"
 
 #include <QDialog>
+#include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QWindow>
@@ -110,6 +111,21 @@ void TestDialogFitter::listsOfTheManagerHaveRoomForNames()
                      qPrintable(QString::number(list->viewport()->width())));
     for (const QPushButton *key : manager.findChildren<QPushButton *>())
         QVERIFY(key->width() >= 48 && manager.rect().contains(key->geometry()));
+    // So had what is told of the space, beside the key that closes it.
+    manager.init();
+    const QLabel *status = nullptr;
+    for (const QLabel *label : manager.findChildren<QLabel *>()) {
+        if (label->text().contains(QLatin1String("Left Space")))
+            status = label;
+    }
+    QVERIFY(status);
+    const auto needed = [status] {
+        return status->fontMetrics().boundingRect(QRect(0, 0, status->width(), 1000),
+                                                  Qt::TextWordWrap, status->text());
+    };
+    QTRY_VERIFY(status->height() >= needed().height());
+    QVERIFY(status->width() >= needed().width());
+    QVERIFY(manager.rect().contains(status->geometry()));
 }
 
 void TestDialogFitter::dialogWithoutAParentBelongsToThePanel()
