@@ -3,6 +3,7 @@
 
 #include "look/taparea.h"
 
+#include "look/measures.h"
 #include "look/styleshades.h"
 
 #include <QKeyEvent>
@@ -19,6 +20,11 @@ const qreal downShare = 0.35;
 TapArea::TapArea(QWidget *parent) : QFrame(parent)
 {
     setFocusPolicy(Qt::TabFocus);
+}
+
+int TapArea::leastHeight()
+{
+    return qMin(Measures::pixels(Measures::touchMm), Measures::touch());
 }
 
 void TapArea::keyPressEvent(QKeyEvent *event)

@@ -18,6 +18,9 @@ public:
     /// Reached by the keyboard, too, whose Return and Space count as a touch.
     explicit TapArea(QWidget *parent = nullptr);
 
+    /// What one that is no higher than its texts has at the least: a finger's width.
+    static int leastHeight();
+
 Q_SIGNALS:
     void touched();
 

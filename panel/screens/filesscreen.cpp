@@ -156,6 +156,7 @@ void FilesScreen::makeState()
     QVBoxLayout *column = new QVBoxLayout(m_stateArea);
     column->setContentsMargins(edge, 0, edge, 0);
     column->addWidget(m_state);
+    m_stateArea->setMinimumHeight(TapArea::leastHeight());
     connect(m_stateArea, &TapArea::touched, this, [this] { Q_EMIT explained(stateInFull()); });
 }
 

@@ -56,6 +56,7 @@ FindingsBar::FindingsBar(const ProgramReview *review, QWidget *parent)
     inside->setContentsMargins(0, 0, 0, 0);
     inside->addWidget(m_mark);
     inside->addWidget(m_text);
+    texts->setMinimumHeight(TapArea::leastHeight());
     whole->addWidget(texts, 1);
     QHBoxLayout *row = new QHBoxLayout;
     row->setSpacing(4);

@@ -74,6 +74,7 @@ PreviewPane::PreviewPane(CoilPreview *preview, const QSize &surface, Place place
     connect(&m_maker, &PictureMaker::made, this, &PreviewPane::take);
     connect(m_view, &CoilView::wanted, this, &PreviewPane::order);
     connect(m_view, &CoilView::touched, this, &PreviewPane::touch);
+    m_note->setLeastHeight(TapArea::leastHeight());
     connect(m_note, &StateLine::touched, this,
             [this] { Q_EMIT lineWanted(m_preview->firstUnknownLine()); });
     showView(Coil);

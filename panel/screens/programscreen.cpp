@@ -111,6 +111,9 @@ ProgramScreen::ProgramScreen(int rotation, const QString &plcDir, const QString 
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
+    // On a small panel its pixels are rows of the program.
+    if (!isSmall())
+        m_stateLine->setLeastHeight(TapArea::leastHeight());
     m_layout->addWidget(m_stateLine, 0, 0);
     m_layout->addWidget(m_window, 1, 0);
     m_layout->setRowStretch(1, 1);

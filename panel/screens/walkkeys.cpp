@@ -19,7 +19,8 @@ namespace {
 
 // Pixels: 9 mm at 133 dpi.
 const int keySide = 48;
-const int gap = 2;
+const int gap = 4;
+const int margin = 2;
 // Of the window's parts, from the top.
 const int editorPart = 1;
 
@@ -65,7 +66,7 @@ int sideOfKey()
 
 int heightOf(int keys, int side)
 {
-    return keys * (side + gap) + gap;
+    return keys * (side + gap) - gap + 2 * margin;
 }
 
 /// How many keys \a height has room for. All of them are of full height; fewer may be lower.
@@ -86,16 +87,19 @@ void WalkKeys::putBeside(QSplitter *window)
     panel->setObjectName(QLatin1String("walkKeys"));
     Look::dress(panel, Look::KeyPanel);
     QVBoxLayout *column = new QVBoxLayout(panel);
-    column->setContentsMargins(gap, gap, gap, gap);
+    column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(gap);
+    // What the keys leave of a high column is above and below them all.
+    column->addStretch();
     for (int i = 0; i < keyCount; ++i) {
         PanelKey *key = new PanelKey(icon(i, false), QLatin1String("-"));
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         key->setMinimumSize(sideOfKey(), Measures::touch());
         key->setMaximumHeight(2 * Measures::touch());
-        column->addWidget(key);
+        column->addWidget(key, 1);
         add(key, i);
     }
+    column->addStretch();
     // The keys that have room are shown, so they ask for none.
     panel->setMinimumHeight(heightOf(leastKeys, Measures::touch()));
     panel->installEventFilter(this);

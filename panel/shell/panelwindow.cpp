@@ -33,6 +33,10 @@ const int statusMs = 2000;
 const int messageLine = 15;
 // Each pixel more is taken from a row of the screens.
 const int stripMargin = 1;
+const int stripSide = 3;
+// Between the keys of a strip. On a panel with a menu all else is the title's.
+const int usualGap = 4;
+const int narrowGap = 2;
 // What a strip may take of the screens for larger letters, where there are pixels enough.
 const int forLetters = 12;
 // Between the keys of a slim panel a title has many short lines.
@@ -50,6 +54,12 @@ void showWords(const QList<PanelKey *> &keys, bool shows)
         if (!key->icon().isNull() && !key->text().isEmpty())
             key->setToolButtonStyle(shows ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
     }
+}
+
+/// The keys of a strip are as high as it is.
+void fillHeight(PanelKey *key)
+{
+    key->setSizePolicy(key->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
 }
 
 } // namespace
@@ -108,15 +118,16 @@ QWidget *PanelWindow::makeTopStrip()
     Look::dress(strip, Look::Strip);
     new Letters(strip, hasMenu() ? 0 : forLetters);
     QHBoxLayout *row = new QHBoxLayout(strip);
-    row->setContentsMargins(3, stripMargin, 3, stripMargin);
-    row->setSpacing(4);
+    row->setContentsMargins(stripSide, stripMargin, stripSide, stripMargin);
+    const int gap = hasMenu() ? narrowGap : usualGap;
+    row->setSpacing(gap);
 
     // As high as with keys, so that the screens keep their height.
     strip->setMinimumHeight(PanelKey(Glyphs::icon(Glyphs::Menu), tr("Menu")).sizeHint().height()
                             + 2 * stripMargin);
 
-    m_tabs->setSpacing(3);
-    m_keys->setSpacing(3);
+    m_tabs->setSpacing(usualGap);
+    m_keys->setSpacing(gap);
     QFont font = m_title->font();
     font.setPixelSize(m_shape == Slim ? slimTitle : m_shape == Small ? 14 : 16);
     font.setBold(true);
@@ -143,6 +154,7 @@ QWidget *PanelWindow::makeTopStrip()
     if (hasMenu()) {
         m_menuKey = new PanelKey(Glyphs::icon(Glyphs::Menu), [] { return tr("Menu"); });
         m_menuKey->setObjectName(QLatin1String("menuKey"));
+        fillHeight(m_menuKey);
         connect(m_menuKey, &PanelKey::clicked, this, &PanelWindow::toggleMenu);
         row->addWidget(m_menuKey);
     } else if (m_shape == Wide) {
@@ -154,8 +166,11 @@ QWidget *PanelWindow::makeTopStrip()
     if (m_shape == Small) {
         titles->addWidget(m_messageBar);
         m_messageBar->setFixedHeight(messageLine);
+        // Lower than a finger: the block, which tells the same, takes its touches.
+        m_messageBar->setAttribute(Qt::WA_TransparentForMouseEvents);
         // Beside the title: what comes and goes there moves no other key.
         row->addWidget(m_messageBar->key());
+        fillHeight(m_messageBar->key());
         connect(m_messageBar, &MessageBar::changed, this, &PanelWindow::placeMessages);
     }
     row->addLayout(m_keys);
@@ -170,7 +185,7 @@ QWidget *PanelWindow::makeFootStrip()
     Look::dress(strip, Look::Strip);
     new Letters(strip, hasMenu() ? 0 : forLetters);
     QVBoxLayout *column = new QVBoxLayout(strip);
-    column->setContentsMargins(3, 0, 3, stripMargin);
+    column->setContentsMargins(stripSide, 0, stripSide, stripMargin);
     column->setSpacing(stripMargin);
 
     QHBoxLayout *line = new QHBoxLayout;
@@ -212,6 +227,7 @@ void PanelWindow::addScreen(PanelScreen *screen, const std::function<QString()> 
     entry.keys = screen->keys();
     for (PanelKey *key : qAsConst(entry.keys)) {
         m_keys->addWidget(key);
+        fillHeight(key);
         key->hide();
     }
     m_stack->addWidget(screen);

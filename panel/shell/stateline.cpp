@@ -49,6 +49,12 @@ void StateLine::show(const QString &text, Message::Tone tone)
     fit();
 }
 
+void StateLine::setLeastHeight(int height)
+{
+    m_leastHeight = height;
+    fit();
+}
+
 void StateLine::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::PaletteChange)
@@ -77,7 +83,8 @@ void StateLine::fit()
     m_label->setText(isWhole ? m_text : head());
     m_label->setLines(lines);
     m_label->keepLines(lines);
-    setFixedHeight(qMax(lineHeight, metrics.height()) + (lines - 1) * metrics.lineSpacing());
+    const int high = qMax(lineHeight, metrics.height()) + (lines - 1) * metrics.lineSpacing();
+    setFixedHeight(qMax(m_leastHeight, high));
 }
 
 /// The whole text where it has no colon.

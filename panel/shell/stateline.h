@@ -23,6 +23,8 @@ public:
     /// In full.
     QString text() const { return m_text; }
     void show(const QString &text, Message::Tone tone);
+    /// Where there is room for a finger.
+    void setLeastHeight(int height);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -37,6 +39,7 @@ private:
     ElidedLabel *m_label;
     QString m_text;
     Message::Tone m_tone = Message::Information;
+    int m_leastHeight = 0;
 };
 
 #endif // STATELINE_H

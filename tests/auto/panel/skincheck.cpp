@@ -9,6 +9,7 @@
 #include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/spokennames.h"
+#include "look/taparea.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -103,8 +104,17 @@ QString faultOfRows(const QAbstractItemView *view)
            + inMillimetres(QSize(view->viewport()->width(), height));
 }
 
+/// What lets presses through is touched in what is around it, and that has a size of its own.
+bool takesPresses(const QWidget *widget)
+{
+    return !widget->testAttribute(Qt::WA_TransparentForMouseEvents)
+           || !qobject_cast<const TapArea *>(widget->parentWidget());
+}
+
 QString faultOfTouch(const QWidget *widget)
 {
+    if (!takesPresses(widget))
+        return QString();
     if (const QAbstractItemView *view = qobject_cast<const QAbstractItemView *>(widget))
         return faultOfRows(view);
     // A page of text is touched somewhere.

@@ -10,6 +10,7 @@
 #include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/panelstyle.h"
+#include "look/taparea.h"
 #include "panelprogram.h"
 #include "shell/panelwindow.h"
 #include "skincheck.h"
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void smallKeysAreFound();
+    void lowTextsThatAreTouchedAreFound();
     void crookedKeysAreFound();
     void paleTextsAreFound_data();
     void paleTextsAreFound();
@@ -190,6 +192,29 @@ void TestSkinWalk::smallKeysAreFound()
     Measures::use(140);
     QVERIFY(isMentioned(SkinCheck::touch({&window}), "\"key\""));
     Measures::use(96);
+}
+
+void TestSkinWalk::lowTextsThatAreTouchedAreFound()
+{
+    QWidget window;
+    window.resize(400, 300);
+    TapArea *line = new TapArea(&window);
+    line->setGeometry(0, 0, 400, 20);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(SkinCheck::touch({&window}).size(), 1);
+    // What lets presses through to another area is as large as that.
+    TapArea *block = new TapArea(&window);
+    block->setGeometry(0, 100, 400, 50);
+    line->setParent(block);
+    block->show();
+    line->show();
+    QCOMPARE(SkinCheck::touch({&window}).size(), 1);
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    QCOMPARE(texts(SkinCheck::touch({&window})), QStringList());
+    line->setParent(&window);
+    line->show();
+    QCOMPARE(SkinCheck::touch({&window}).size(), 1);
 }
 
 void TestSkinWalk::crookedKeysAreFound()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void theTextHasTheColourOfItsTone();
     void theColourFollowsTheLook();
     void aTouchIsTold();
+    void aLineIsAsHighAsItHasToBe();
     void aLongTextHasASecondLine();
     void aLowPanelHasOneLineOnly();
     void ofALongTextTheHeadIsShown();
@@ -76,6 +77,20 @@ void TestStateLine::aTouchIsTold()
     QSignalSpy touched(&line, SIGNAL(touched()));
     QTest::mouseClick(&line, Qt::LeftButton);
     QCOMPARE(touched.size(), 1);
+}
+
+void TestStateLine::aLineIsAsHighAsItHasToBe()
+{
+    QWidget screen;
+    StateLine line(&screen);
+    line.show("text", Message::Warning);
+    const int own = line.height();
+    line.setLeastHeight(own + 11);
+    QCOMPARE(line.height(), own + 11);
+    line.show("another", Message::Alarm);
+    QCOMPARE(line.height(), own + 11);
+    line.setLeastHeight(own - 11);
+    QCOMPARE(line.height(), own);
 }
 
 void TestStateLine::aLongTextHasASecondLine()
