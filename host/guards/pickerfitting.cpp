@@ -33,6 +33,9 @@ const int headsFrom = 300;
 const int facts = 230;
 const int narrowFacts = 158;
 const int factsHeight = 130;
+/// Of a program that is written there is less to know, and a low screen has few rows.
+const int lowSaveFactsHeight = 70;
+const int lowBelow = 600;
 /// A row, for what the guard says above the table.
 const int leastTable = 52;
 const int narrowBelow = 600;
@@ -121,10 +124,13 @@ void PickerFitting::layOut()
     middle->addWidget(m_table, 1);
     middle->addWidget(m_facts);
     // What has no room is cut: facts must never push the list away.
+    const bool isLowSave = m_picker == WindowDialogs::SavePicker && size.height() < lowBelow;
     if (isUpright)
-        m_facts->setFixedHeight(factsHeight);
+        m_facts->setFixedHeight(isLowSave ? lowSaveFactsHeight : factsHeight);
     else
         m_facts->setFixedWidth(factsWidth);
+    if (isLowSave)
+        m_facts->setRoom(PickerFacts::AsManyAsFit);
     QFont font = m_facts->font();
     font.setPixelSize(factsWidth == facts ? factsPixels : narrowFactsPixels);
     font.setBold(false);
