@@ -54,6 +54,13 @@ double turnsOfRamp(double from, double to, double seconds)
     return (std::fabs(from) * part + std::fabs(to) * (1 - part)) / 2 * seconds / secondsPerMinute;
 }
 
+/// Seconds or turns in which a spindle comes from one speed to another, by so much each second.
+double lengthOfRamp(double from, double to, double ramp, WindingModel::Over over)
+{
+    const double seconds = ramp > 0 ? std::fabs(to - from) / ramp : 0;
+    return over == WindingModel::Time ? seconds : turnsOfRamp(from, to, seconds);
+}
+
 double lengthOfTurns(const WindingLayer &layer, double turns)
 {
     return turns * std::sqrt(pi * layer.diameter * pi * layer.diameter + layer.pitch * layer.pitch);
@@ -132,7 +139,7 @@ void WindingModel::add(const WindingStep &step)
         turnLoose(spin(step.dwellSeconds));
     const bool isWinding = step.motion != MachineFunction::Ignored && makeMove(step);
     if (step.motion != MachineFunction::Ignored || m_totals.seconds > secondsBefore)
-        record(step, secondsBefore, speedBefore, isWinding);
+        record(step, speedBefore, isWinding);
 }
 
 void WindingModel::finish()
@@ -157,10 +164,6 @@ double WindingModel::rampTo(double speed)
     const double seconds = ramp > 0 ? std::fabs(speed - m_speed) / ramp : 0;
     const double turns = turnsOfRamp(m_speed, speed, seconds);
     m_totals.seconds += seconds;
-    if (seconds > 0) {
-        m_rampEnd = m_totals.seconds;
-        m_rampTurns = turns;
-    }
     m_speed = speed;
     return turns;
 }
@@ -497,8 +500,7 @@ double WindingModel::outerDiameter() const
     return std::max(below, diameterAt(m_heightDistance, m_level) + m_wire);
 }
 
-void WindingModel::record(const WindingStep &step, double secondsBefore, double speedBefore,
-                          bool isWinding)
+void WindingModel::record(const WindingStep &step, double speedBefore, bool isWinding)
 {
     const double speed = std::fabs(m_speed);
     const double before = std::fabs(speedBefore);
@@ -519,8 +521,6 @@ void WindingModel::record(const WindingStep &step, double secondsBefore, double 
     record.highestTension = float(std::max(tensionFrom, tensionTo));
     record.lowestSpeed = float(std::min(before, speed));
     record.highestSpeed = float(std::max(before, speed));
-    record.rampSeconds = float(std::max(0.0, m_rampEnd - secondsBefore));
-    record.rampTurns = isWinding && record.rampSeconds > 0 ? float(m_rampTurns) : 0;
     record.line = step.line;
     record.moves = 1;
     record.isWinding = isWinding;
@@ -587,26 +587,23 @@ double WindingModel::placeOf(const Record &record, Over over)
     return over == Turns ? record.turns : record.seconds;
 }
 
-double WindingModel::rampOf(const Record &record, Over over)
-{
-    return double(over == Turns ? record.rampTurns : record.rampSeconds);
-}
-
 QVector<WindingPlotPoint> WindingModel::plot(Quantity quantity, Over over, int points) const
 {
     const double whole = m_records.isEmpty() ? 0 : placeOf(m_records.last(), over);
     if (whole <= 0 || points <= 0)
         return QVector<WindingPlotPoint>();
     Plot plot(whole, points);
+    const double ramp = m_profile.motion().spindleRamp;
     double before = 0;
     // The spindle stands at first.
     double value = quantity == Speed ? 0 : spanOf(m_records.first(), quantity).end;
     for (const Record &record : m_records) {
         const Span span = spanOf(record, quantity);
         const double at = placeOf(record, over);
+        double bend = at;
         // A long move is wound at one speed, once the spindle has come up to it.
-        const bool isBent = quantity == Speed && record.moves == 1;
-        const double bend = isBent ? std::min(at, before + rampOf(record, over)) : at;
+        if (quantity == Speed && record.moves == 1)
+            bend = std::min(at, before + lengthOfRamp(value, span.end, ramp, over));
         plot.addLine(before, value, bend, span.end);
         plot.addLine(bend, span.end, at, span.end);
         // What is kept together has its least and its most somewhere between; one move has them at

@@ -197,9 +197,6 @@ private:
         float highestTension;
         float lowestSpeed;
         float highestSpeed;
-        /// How long the speed changes before it stays; of one move alone.
-        float rampTurns;
-        float rampSeconds;
         int line;
         /// How many moves are kept together, and what they do.
         int moves;
@@ -239,13 +236,12 @@ private:
     void addClosingTurn(WindingLayer *layer);
     void closeLayer(const WindingLayer &layer);
     double diameterAt(double distance, int level) const;
-    void record(const WindingStep &step, double secondsBefore, double speedBefore, bool isWinding);
+    void record(const WindingStep &step, double speedBefore, bool isWinding);
     void append(const Record &record);
     void joinRecords();
     static Record joined(const Record &first, const Record &second);
     static Span spanOf(const Record &record, Quantity quantity);
     static double placeOf(const Record &record, Over over);
-    static double rampOf(const Record &record, Over over);
     static GuidePoint pointOf(const Record &record, double x);
     void appendGroup(int begin, int end, QVector<GuidePoint> *path) const;
     int recordOfLine(int line) const;
@@ -260,9 +256,6 @@ private:
     /// Of the spindle in 1/min: as it turns, and as it is told to; negative in reverse.
     double m_speed = 0;
     double m_target = 0;
-    /// When the speed changed last, and the turns of that.
-    double m_rampEnd = 0;
-    double m_rampTurns = 0;
 
     /// 0 until the first pitch says it.
     double m_wire = 0;
