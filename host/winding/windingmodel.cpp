@@ -605,7 +605,8 @@ QVector<WindingPlotPoint> WindingModel::plot(Quantity quantity, Over over, int p
         if (quantity == Speed && record.moves == 1)
             bend = std::min(at, before + lengthOfRamp(value, span.end, ramp, over));
         plot.addLine(before, value, bend, span.end);
-        plot.addLine(bend, span.end, at, span.end);
+        if (bend < at)
+            plot.addLine(bend, span.end, at, span.end);
         // What is kept together has its least and its most somewhere between; one move has them at
         // its ends, where the line is.
         if (record.moves > 1) {
