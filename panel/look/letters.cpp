@@ -4,6 +4,7 @@
 #include "look/letters.h"
 
 #include "look/measures.h"
+#include "look/namelabel.h"
 
 #include <QAbstractButton>
 #include <QEvent>
@@ -172,6 +173,8 @@ bool isCut(const QWidget *widget)
         return isCut(button);
     if (const QPushButton *button = qobject_cast<const QPushButton *>(widget))
         return isCut(button);
+    if (const NameLabel *name = qobject_cast<const NameLabel *>(widget))
+        return !name->isWhole();
     const QLabel *label = qobject_cast<const QLabel *>(widget);
     const bool givesWay = !label || label->wordWrap() || label->inherits("ElidedLabel");
     return !givesWay

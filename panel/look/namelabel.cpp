@@ -9,6 +9,8 @@ namespace {
 
 // Smaller letters are hard to read at arm's length.
 const int leastPixels = 11;
+// In percent of their width, before a word is broken. Narrower ones run together.
+const int narrowLetters[] = {90, 80};
 
 QString dots()
 {
@@ -156,8 +158,18 @@ NameLabel::Fitted NameLabel::fitted() const
     };
     const QString whole =
         m_state.isEmpty() ? m_name : QString::fromLatin1("%1 (%2)").arg(m_name, m_state);
-    if (fitsSomehow(whole, false) || fitsSomehow(m_name + m_mark, false)
-        || fitsSomehow(m_name + m_mark, true))
+    const auto fitsNarrow = [&](const QString &text) {
+        for (int percent : narrowLetters) {
+            fitted.font.setStretch(percent);
+            if (fits(text, false))
+                return true;
+        }
+        fitted.font.setStretch(QFont::Unstretched);
+        return false;
+    };
+    fitted.isWhole = fitsSomehow(whole, false) || fitsSomehow(m_name + m_mark, false)
+                     || fitsNarrow(m_name + m_mark);
+    if (fitted.isWhole || fitsSomehow(m_name + m_mark, true))
         return fitted;
     // In the smallest letters, which were tried last.
     shortened(m_name, [&](const QString &text) { return fits(text + m_mark, true); });

@@ -11,8 +11,9 @@
 /// The name of what an operator works on, and how it stands: "stator-coil.cnc (changed)".
 ///
 /// A name that is longer than its lines loses its middle and nothing else. Names of programs differ
-/// in their numbers and at their ends, which stay. Before that the letters get smaller, the name is
-/// broken between its parts and then within them, and the state gives way to its mark.
+/// in their numbers and at their ends, which stay. Before that the name is broken between its parts,
+/// its letters get smaller, the state gives way to its mark, and the letters get narrower. Only then
+/// is the name broken within its parts.
 ///
 ///     label->setLines(2);
 ///     label->setName("stator-coil.cnc", "*", tr("changed"));
@@ -29,6 +30,8 @@ public:
                  const QString &state = QString());
     /// The lines that are shown in the size of this moment.
     QStringList shown() const { return fitted().lines; }
+    /// Whether nothing of it is left out, and no line ends within a word.
+    bool isWhole() const { return fitted().isWhole; }
 
     /// As much of \a name as \a fits, with its longest number, its first and its last letter. Only
     /// three dots where that is too much.
@@ -42,6 +45,7 @@ private:
     {
         QFont font;
         QStringList lines;
+        bool isWhole = false;
     };
 
     Fitted fitted() const;

@@ -7,6 +7,7 @@
 #include "filarixtest.h"
 #include "look/look.h"
 #include "look/measures.h"
+#include "look/namelabel.h"
 #include "look/spokennames.h"
 #include "panelprogram.h"
 #include "programs/downloadfacts.h"
@@ -40,6 +41,8 @@ private Q_SLOTS:
     void cleanup();
     void whatDoesNotFitIsFound();
     void whatHasNoNameIsFound();
+    void titlesAreWhole_data();
+    void titlesAreWhole();
     void everyTextFits_data();
     void everyTextFits();
 
@@ -170,6 +173,15 @@ void TestTextFit::whatDoesNotFitIsFound()
     QVERIFY(TextFit::faults(window.geometry().adjusted(0, 0, -1, 0))
                 .join('\n')
                 .contains("leaves the screen"));
+    NameLabel *name = new NameLabel(&window);
+    name->setLines(3);
+    name->setName("programmed.teach");
+    name->setGeometry(0, 120, name->fontMetrics().horizontalAdvance("progra"), 80);
+    name->show();
+    const QString broken = TextFit::faults(window.geometry()).join('\n');
+    QVERIFY2(broken.contains("not whole: "), qPrintable(broken));
+    name->setName("pro.teach");
+    QCOMPARE(TextFit::faults(window.geometry()).size(), 4);
     for (const QString &exception : TextFit::exceptions())
         QVERIFY2(exception.section(": ", 1).size() > 10, qPrintable(exception));
 }
@@ -194,6 +206,45 @@ void TestTextFit::whatHasNoNameIsFound()
     QCOMPARE(unnamed().size(), 1);
     delete arrow;
     QCOMPARE(unnamed(), QStringList());
+}
+
+void TestTextFit::titlesAreWhole_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("textSize");
+    // The keys of German have longer words, and leave a name of one word too little.
+    for (const char *language : {"en", "it", "tr", "zh_CN"}) {
+        for (int textSize : Measures::textSizes())
+            QTest::newRow(qPrintable(QString("%1 %2").arg(language).arg(textSize)))
+                << QString(language) << textSize;
+    }
+}
+
+// On the panel whose keys leave the title the least room.
+void TestTextFit::titlesAreWhole()
+{
+    QFETCH(QString, language);
+    QFETCH(int, textSize);
+    Options options = optionsFor(QSize(272, 480));
+    options.textSize = Measures::nameOf(textSize);
+    options.language = language;
+    StrictMessages::expect("This plugin does not support");
+    PanelProgram program(options, QStringList(FILARIX_TRANSLATIONS));
+    QCOMPARE(program.start(), PanelProgram::Started);
+    PanelWindow &panel = *program.window();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    QStringList cut;
+    int screens = 0;
+    for (PanelScreen *screen : panel.findChildren<PanelScreen *>()) {
+        panel.showScreen(screen);
+        QCoreApplication::processEvents();
+        const NameLabel *title = panel.findChild<NameLabel *>("title");
+        if (!title->isWhole())
+            cut.append(screen->title() + QLatin1String(": ") + title->shown().join('|'));
+        ++screens;
+    }
+    QVERIFY(screens >= 7);
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
 }
 
 void TestTextFit::everyTextFits_data()

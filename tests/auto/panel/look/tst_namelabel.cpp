@@ -17,6 +17,7 @@ private Q_SLOTS:
     void theNumberStaysWhereverItStands_data();
     void theNumberStaysWhereverItStands();
     void lettersGetSmallerBeforeAnythingIsLost();
+    void lettersGetNarrowerBeforeAWordIsBroken();
     void whatIsShownIsPainted();
 };
 
@@ -138,12 +139,32 @@ void TestNameLabel::lettersGetSmallerBeforeAnythingIsLost()
     label.setName("stator-coil-left-4711.cnc");
     label.resize(widthOf(small, "stator-coil-left-4711.cnc"), 30);
     QCOMPARE(label.shown(), QStringList("stator-coil-left-4711.cnc"));
-    label.resize(label.width() - 1, 30);
+    QVERIFY(label.isWhole());
+    // They get narrower, too, down to four fifths.
+    label.resize(label.width() * 3 / 4, 30);
+    QVERIFY(!label.isWhole());
     QVERIFY2(label.shown().first().contains(QChar(0x2026)), qPrintable(label.shown().first()));
     QVERIFY2(label.shown().first().contains("4711"), qPrintable(label.shown().first()));
     // Of no width there is nothing to show.
     label.resize(1, 30);
     QCOMPARE(label.shown(), QStringList(QString(QChar(0x2026))));
+}
+
+void TestNameLabel::lettersGetNarrowerBeforeAWordIsBroken()
+{
+    NameLabel label;
+    prepare(&label, 11, 3);
+    label.setName("program.teach", "*", "changed");
+    const int whole = widthOf(label, "program");
+    label.resize(whole * 85 / 100, 60);
+    QCOMPARE(label.shown(), QStringList({"program", ".teach*"}));
+    QVERIFY(label.isWhole());
+    // Narrower than that nobody reads it, and the letters have their width again.
+    label.resize(whole * 70 / 100, 60);
+    QVERIFY(label.shown().first() != "program");
+    QVERIFY(!label.isWhole());
+    QCOMPARE(label.shown().join(QString()), QString("program.teach*"));
+    QVERIFY(widthOf(label, label.shown().first()) <= label.width());
 }
 
 void TestNameLabel::whatIsShownIsPainted()
