@@ -1532,20 +1532,12 @@
         <translation>Seite</translation>
     </message>
     <message>
-        <source>Page up</source>
-        <translation>Seite zurück</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Zeile</translation>
     </message>
     <message>
         <source>Go to a line</source>
         <translation>Zu einer Zeile</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Seite weiter</translation>
     </message>
     <message>
         <source>Last</source>

@@ -1532,20 +1532,12 @@
         <translation>Pagina</translation>
     </message>
     <message>
-        <source>Page up</source>
-        <translation>Pagina su</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Riga</translation>
     </message>
     <message>
         <source>Go to a line</source>
         <translation>Vai a una riga</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Pagina giù</translation>
     </message>
     <message>
         <source>Last</source>

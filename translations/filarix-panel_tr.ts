@@ -1532,20 +1532,12 @@
         <translation>Sayfa</translation>
     </message>
     <message>
-        <source>Page up</source>
-        <translation>Sayfa yukarı</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>Satır</translation>
     </message>
     <message>
         <source>Go to a line</source>
         <translation>Satıra git</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>Sayfa aşağı</translation>
     </message>
     <message>
         <source>Last</source>

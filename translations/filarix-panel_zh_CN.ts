@@ -1532,20 +1532,12 @@
         <translation>翻页</translation>
     </message>
     <message>
-        <source>Page up</source>
-        <translation>上一页</translation>
-    </message>
-    <message>
         <source>Line</source>
         <translation>行</translation>
     </message>
     <message>
         <source>Go to a line</source>
         <translation>转到某行</translation>
-    </message>
-    <message>
-        <source>Page down</source>
-        <translation>下一页</translation>
     </message>
     <message>
         <source>Last</source>

@@ -766,6 +766,21 @@
     </message>
 </context>
 <context>
+    <name>OwnTransfer</name>
+    <message>
+        <source>The machine has not ended the last download yet. Wait, then download once more.</source>
+        <translation>Die letzte Übertragung zur Maschine ist noch nicht zu Ende. Abwarten, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>The machine stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>Die Maschine antwortet nicht mehr: Ob sie %1 hat, ist unbekannt. Maschine prüfen, dann erneut senden.</translation>
+    </message>
+    <message>
+        <source>%1 is in the machine.</source>
+        <translation>%1 ist in der Maschine.</translation>
+    </message>
+</context>
+<context>
     <name>PickerFacts</name>
     <message>
         <source>Reading %1 ...</source>
@@ -1392,6 +1407,13 @@
     <message>
         <source>%1 is not stored. The whole program is only in the editor.</source>
         <translation>%1 ist nicht gespeichert. Das ganze Programm steht nur im Editor.</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedList</name>
+    <message>
+        <source>%1, %2, rows: %3</source>
+        <translation>%1, %2, Zeilen: %3</translation>
     </message>
 </context>
 <context>

@@ -766,6 +766,21 @@
     </message>
 </context>
 <context>
+    <name>OwnTransfer</name>
+    <message>
+        <source>The machine has not ended the last download yet. Wait, then download once more.</source>
+        <translation>L&apos;ultimo invio alla macchina non è ancora finito. Attendere, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The machine stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>La macchina non risponde più: non si sa se contiene %1. Controllarla, poi inviare di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 is in the machine.</source>
+        <translation>%1 è nella macchina.</translation>
+    </message>
+</context>
+<context>
     <name>PickerFacts</name>
     <message>
         <source>Reading %1 ...</source>
@@ -1392,6 +1407,13 @@
     <message>
         <source>%1 is not stored. The whole program is only in the editor.</source>
         <translation>%1 non è salvato. Il programma completo è solo nell&apos;editor.</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedList</name>
+    <message>
+        <source>%1, %2, rows: %3</source>
+        <translation>%1, %2, righe: %3</translation>
     </message>
 </context>
 <context>

@@ -766,6 +766,21 @@
     </message>
 </context>
 <context>
+    <name>OwnTransfer</name>
+    <message>
+        <source>The machine has not ended the last download yet. Wait, then download once more.</source>
+        <translation>Makineye son yükleme henüz bitmedi. Bekleyip yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>The machine stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>Makine yanıt vermeyi kesti: %1 içinde mi, bilinmiyor. Makineyi denetleyip yeniden yükleyin.</translation>
+    </message>
+    <message>
+        <source>%1 is in the machine.</source>
+        <translation>%1 makinede.</translation>
+    </message>
+</context>
+<context>
     <name>PickerFacts</name>
     <message>
         <source>Reading %1 ...</source>
@@ -1392,6 +1407,13 @@
     <message>
         <source>%1 is not stored. The whole program is only in the editor.</source>
         <translation>%1 kaydedilmedi. Programın tamamı yalnız düzenleyicide.</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedList</name>
+    <message>
+        <source>%1, %2, rows: %3</source>
+        <translation>%1, %2, satır: %3</translation>
     </message>
 </context>
 <context>

@@ -766,6 +766,21 @@
     </message>
 </context>
 <context>
+    <name>OwnTransfer</name>
+    <message>
+        <source>The machine has not ended the last download yet. Wait, then download once more.</source>
+        <translation>上次向机器的下载尚未结束。请等待, 然后重新下载。</translation>
+    </message>
+    <message>
+        <source>The machine stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
+        <translation>机器停止响应: 其中是否有 %1 尚不清楚。请检查机器, 然后重新下载。</translation>
+    </message>
+    <message>
+        <source>%1 is in the machine.</source>
+        <translation>%1 已在机器中。</translation>
+    </message>
+</context>
+<context>
     <name>PickerFacts</name>
     <message>
         <source>Reading %1 ...</source>
@@ -1392,6 +1407,13 @@
     <message>
         <source>%1 is not stored. The whole program is only in the editor.</source>
         <translation>%1 未保存。完整程序只在编辑器中。</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedList</name>
+    <message>
+        <source>%1, %2, rows: %3</source>
+        <translation>%1, %2, 行数: %3</translation>
     </message>
 </context>
 <context>
