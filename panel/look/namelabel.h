@@ -10,10 +10,10 @@
 
 /// The name of what an operator works on, and how it stands: "stator-coil.cnc (changed)".
 ///
-/// A name that is longer than its lines loses its middle and nothing else. Names of programs differ
-/// in their numbers and at their ends, which stay. Before that the name is broken between its parts,
-/// its letters get smaller, the state gives way to its mark, and the letters get narrower. Only then
-/// is the name broken within its parts.
+/// A name that is longer than its lines loses its middle and nothing else. Names of programs
+/// differ in their numbers and at their ends, which stay. Before that the name is broken
+/// between its parts, its letters get smaller, the state gives way to its mark, and the
+/// letters get narrower. Only then is the name broken within its parts.
 ///
 ///     label->setLines(2);
 ///     label->setName("stator-coil.cnc", "*", tr("changed"));
