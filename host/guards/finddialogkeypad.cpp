@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QRegExp>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -40,8 +41,10 @@ bool edit(QLineEdit *field)
 {
     CharacterKeypad *keypad =
         HMIDeviceInfo::isTouchScreen() ? CharacterKeypad::instance() : nullptr;
-    // A touch may have opened it before.
-    if (!keypad || !keypad->isHidden())
+    // A touch may have opened it before. One that is closed may wait for a message that came up
+    // over it, and must not be opened until that is over.
+    static bool isOpen = false;
+    if (!keypad || isOpen || !keypad->isHidden())
         return true;
     field->setProperty("hmiName", nameOf(field));
     keypad->setObject(field);
@@ -49,6 +52,8 @@ bool edit(QLineEdit *field)
     keypad->setText(field->text());
     keypad->setShowType(0);
     const QPointer<QLineEdit> watch(field);
+    const QScopedValueRollback<bool> end(isOpen);
+    isOpen = true;
     keypad->exec();
     return !watch.isNull();
 }

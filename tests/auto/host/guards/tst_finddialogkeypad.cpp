@@ -22,6 +22,7 @@ private Q_SLOTS:
     void keypadOpensThoughTakenForVisible();
     void shownDialogOpensTheKeypadAtOnce();
     void dialogThatGoesFirstOpensNothing();
+    void keypadThatHasNotEndedIsNotOpenedAgain();
     void keypadIsToldWhatTheFieldIsFor();
     void fieldsOfOtherDialogsAreLeftAlone();
 };
@@ -108,6 +109,21 @@ void TestFindDialogKeypad::dialogThatGoesFirstOpensNothing()
     dialog.hide();
     QCoreApplication::processEvents();
     QVERIFY(DeviceLog::keypadCalls().isEmpty());
+}
+
+// It is hidden, but what came up over it, a message that nothing was found say, has still to end.
+void TestFindDialogKeypad::keypadThatHasNotEndedIsNotOpenedAgain()
+{
+    WFindDialog dialog(nullptr);
+    dialog.show();
+    FindDialogKeypad keypad(nullptr);
+    QLineEdit *field = dialog.findChild<QLineEdit *>();
+    DeviceLog::runThenCancel([&] { QTest::mouseClick(field, Qt::LeftButton); });
+    DeviceLog::cancel();
+    QTest::mouseClick(field, Qt::LeftButton);
+    QCOMPARE(DeviceLog::answersLeft(), 1);
+    QTest::mouseClick(field, Qt::LeftButton);
+    QCOMPARE(DeviceLog::answersLeft(), 0);
 }
 
 void TestFindDialogKeypad::keypadIsToldWhatTheFieldIsFor()
