@@ -29,6 +29,7 @@ const int lettersShown = 24;
 const int momentMs = 300;
 // What messages are about.
 const QLatin1String stickCause("stick");
+const char stickIn[] = "filarixStickIn";
 
 // The library's texts; not written into tr(), which would have them translated once more for us.
 const struct
@@ -344,9 +345,11 @@ void ImportGuard::settle(const std::function<void(Settled)> &then)
 
 void ImportGuard::settleNewStick(const DeviceState &state)
 {
-    if (state.stickIn && !m_isStickIn)
+    // A member would shift those of the hosts' classes that derive from this one.
+    const bool wasIn = property(stickIn).toBool();
+    setProperty(stickIn, state.stickIn);
+    if (state.stickIn && !wasIn)
         settle();
-    m_isStickIn = state.stickIn;
 }
 
 void ImportGuard::ask(const Look &look, const std::function<void(Settled)> &then)

@@ -117,7 +117,6 @@ private:
     QPointer<ImportManage> m_manager;
     Gate m_held;
     bool m_isAsking = false;
-    bool m_isStickIn = false;
 };
 
 #endif // IMPORTGUARD_H
