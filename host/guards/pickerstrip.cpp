@@ -29,7 +29,7 @@ const int leastKey = 48;
 const double gloveMm = 9;
 const double mmPerInch = 25.4;
 const double fewestDotsPerInch = 50;
-const double mostDotsPerInch = 400;
+const double mostDotsPerInch = 360;
 // So many keys have room side by side, however fine the screen is.
 const int keysOnAWidth = 7;
 const int wideKey = 84;

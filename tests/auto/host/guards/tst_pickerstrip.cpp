@@ -141,7 +141,7 @@ void TestPickerStrip::keysAreForAGlove_data()
     QTest::newRow("4.3 inches, upright") << 128.0 << 272 << 48;
     QTest::newRow("5 inches, upright") << 187.0 << 480 << 67;
     QTest::newRow("7 inches") << 170.0 << 1024 << 61;
-    QTest::newRow("finer than there is room") << 390.0 << 480 << 68;
+    QTest::newRow("finer than there is room") << 350.0 << 480 << 68;
 }
 
 void TestPickerStrip::keysAreForAGlove()
