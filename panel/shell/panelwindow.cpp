@@ -34,8 +34,10 @@ const int messageLine = 15;
 // Each pixel more is taken from a row of the screens.
 const int stripMargin = 1;
 const int stripSide = 3;
-// Between the keys of a strip. On a panel with a menu all else is the title's.
+// Between the keys of a strip. On a panel with a menu all else is the title's, and between the tabs
+// of an upright one all else is their words'.
 const int usualGap = 4;
+const int uprightGap = 3;
 const int narrowGap = 2;
 // What a strip may take of the screens for larger letters, where there are pixels enough.
 const int forLetters = 12;
@@ -126,7 +128,7 @@ QWidget *PanelWindow::makeTopStrip()
     strip->setMinimumHeight(PanelKey(Glyphs::icon(Glyphs::Menu), tr("Menu")).sizeHint().height()
                             + 2 * stripMargin);
 
-    m_tabs->setSpacing(usualGap);
+    m_tabs->setSpacing(m_shape == Upright ? uprightGap : usualGap);
     m_keys->setSpacing(gap);
     QFont font = m_title->font();
     font.setPixelSize(m_shape == Slim ? slimTitle : m_shape == Small ? 14 : 16);
