@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>The machine stopped answering: whether it holds %1 is not known. Check it, then download again.</source>
-        <translation>Die Maschine antwortet nicht mehr: Ob sie %1 hat, ist unbekannt. Maschine prüfen, dann erneut senden.</translation>
+        <translation>Die Maschine antwortet nicht mehr. Hat sie %1? Prüfen, dann erneut senden.</translation>
     </message>
     <message>
         <source>%1 is in the machine.</source>
