@@ -33,6 +33,9 @@ const char *const fixedClasses[] = {editorClass, "TListWidget", "MJLine", "DataE
 // paper, and in the light look the fixed colours of the words leave it no more than a tint.
 const QRgb lineMarks[] = {0xffddffff, 0xffcfe3fb, 0xffcfe3fb};
 
+// The library's cyan of the row in hand dazzles beside grey keys.
+const QRgb chosenRow = 0xffcfe3fb;
+
 // An operator's eye takes blue for brighter than the formula for contrast does. So blue words keep
 // some of their blue when they are made light.
 const int redShare = 77;
@@ -65,6 +68,18 @@ int lightness(QRgb colour)
 {
     return (redShare * qRed(colour) + greenShare * qGreen(colour) + blueShare * qBlue(colour))
            / 256;
+}
+
+/// Cyan, and the edges of black words on it, become the look's own mark. All else is as it was.
+QRgb ofLightRow(QRgb colour)
+{
+    const int green = qGreen(colour);
+    const int blue = qBlue(colour);
+    if (qRed(colour) != 0 || green == 0 || blue == 0)
+        return colour;
+    const int most = levels - 1;
+    return qRgba(qRed(chosenRow) * qMin(green, blue) / most, qGreen(chosenRow) * green / most,
+                 qBlue(chosenRow) * blue / most, qAlpha(colour));
 }
 
 int between(int from, int to, int step, int steps)
@@ -112,17 +127,28 @@ private:
     int m_hues[levels];
 };
 
-const Ramp &rampOf(Look::Style style)
+QRgb ofPaper(QRgb colour, Look::Style style)
 {
     static const Ramp dark(darkKnots);
     static const Ramp glare(glareKnots);
-    return style == Look::Dark ? dark : glare;
+    return (style == Look::Dark ? dark : glare).of(colour);
+}
+
+QRgb changed(QRgb colour, Look::Style style)
+{
+    return style == Look::Light ? ofLightRow(colour) : ofPaper(colour, style);
 }
 
 bool isFixed(const QWidget *widget)
 {
     return std::any_of(std::begin(fixedClasses), std::end(fixedClasses),
                        [widget](const char *name) { return widget->inherits(name); });
+}
+
+/// In light the editor is drawn as it is.
+bool isChanged(const QWidget *widget)
+{
+    return isFixed(widget) && (Look::style() != Look::Light || !widget->inherits(editorClass));
 }
 
 bool isInFixed(const QWidget *widget)
@@ -212,14 +238,13 @@ void put(QRgb colour, quint16 *pixel)
 template<class Pixel>
 void changeLine(Pixel *line, int from, int to, Look::Style style)
 {
-    const Ramp &ramp = rampOf(style);
     Pixel before = line[from];
     Pixel after = before;
-    put(ramp.of(toRgb(before)), &after);
+    put(changed(toRgb(before), style), &after);
     for (Pixel *pixel = line + from; pixel <= line + to; ++pixel) {
         if (*pixel != before) {
             before = *pixel;
-            put(ramp.of(toRgb(before)), &after);
+            put(changed(toRgb(before), style), &after);
         }
         *pixel = after;
     }
@@ -243,7 +268,7 @@ bool isKnown(const QImage &image)
 
 } // namespace
 
-/// Covers what comes while a look is in use that isn't light, and notes what is painted.
+/// Covers what comes, and notes what is painted.
 class RecolourWatch : public QObject
 {
 public:
@@ -260,7 +285,7 @@ public:
         QWidget *widget = static_cast<QWidget *>(watched);
         if (isPaint)
             Recolour::drawing->note(widget, static_cast<QPaintEvent *>(event)->region());
-        else if (isFixed(widget))
+        else if (isChanged(widget))
             Recolour::cover(widget);
         return false;
     }
@@ -273,19 +298,16 @@ Recolour::Recolour(QWidget *widget) : QGraphicsEffect(widget), m_widget(widget) 
 void Recolour::follow()
 {
     static QPointer<RecolourWatch> watch;
-    const bool isLight = Look::style() == Look::Light;
-    if (isLight)
-        delete watch;
-    else if (!watch)
+    if (!watch)
         watch = new RecolourWatch(qApp);
     const QWidgetList all = QApplication::allWidgets();
     for (QWidget *widget : all) {
         if (!isFixed(widget))
             continue;
-        if (isLight)
-            uncover(widget);
-        else
+        if (isChanged(widget))
             cover(widget);
+        else
+            uncover(widget);
     }
 }
 
@@ -323,7 +345,7 @@ QColor Recolour::lineMark(Look::Style style)
 
 QColor Recolour::drawn(const QColor &colour, Look::Style style)
 {
-    return style == Look::Light ? colour : QColor(rampOf(style).of(colour.rgb()));
+    return style == Look::Light ? colour : QColor(ofPaper(colour.rgb(), style));
 }
 
 void Recolour::change(QImage *image, const QRect &part, Look::Style style)

@@ -18,7 +18,8 @@ class QImage;
 /// counterpart in the look, and hues stay. Only what is painted anew is changed, in its place.
 /// Scroll bars have the colours of the look itself.
 ///
-/// Look::use() calls follow(). In the light look there is no effect and nobody is watched.
+/// Look::use() calls follow(). In the light look the editor is drawn as it is, and of the lists and
+/// rows no more is changed than the ground of the row in hand.
 class Recolour : public QGraphicsEffect
 {
     Q_OBJECT
@@ -29,7 +30,7 @@ public:
     /// Behind the current line of the editor, before it is changed. In light each word that has a
     /// contrast of 4.5 on white has it there.
     static QColor lineMark(Look::Style style);
-    /// What becomes of a colour in a look.
+    /// What becomes of a colour of the editor in a look.
     static QColor drawn(const QColor &colour, Look::Style style);
     /// Changes the pixels of a part of an image of 32 or 16 bits a pixel.
     static void change(QImage *image, const QRect &part, Look::Style style);

@@ -11,6 +11,7 @@
 #include "look/recolour.h"
 #include "mjline.h"
 #include "rowfixture.h"
+#include "rowstyle_p.h"
 #include "strictmessages.h"
 #include "tlistwidget.h"
 #include "wcopydialog.h"
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void theMarkedLineFollows();
     void rowsThatComeLaterAreChangedOnce();
     void edgesOfARowAreDark();
+    void rowInHandHasTheMarkOfTheLook();
     void whatIsOpenFollows_data();
     void whatIsOpenFollows();
     void turningPagesStaysQuick();
@@ -485,6 +487,43 @@ void TestRecolour::edgesOfARowAreDark()
                          || screen.pixelColor(x, y) == Recolour::drawn(Qt::black, Look::Dark),
                      qPrintable(QString("%1 %2").arg(x).arg(y)));
     }
+}
+
+static int pixelsOf(const QImage &image, const QColor &colour)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour;
+    }
+    return count;
+}
+
+// The library's cyan dazzles; nothing else of a row is changed in light, and its words stay black.
+void TestRecolour::rowInHandHasTheMarkOfTheLook()
+{
+    QWidget window;
+    window.resize(480, 300);
+    QStringList title;
+    TListWidget *list = new TListWidget(title, &window);
+    ListWidget *rows = list;
+    for (int i = 1; i < 3; ++i) {
+        QStringList content = RowFixture::taughtRow(i);
+        rows->addWidget(new MJLine(content, QSize(480, 800), nullptr));
+    }
+    show(&window);
+    RowStyle::apply(rows->itemAt(0), RowStyle::selectedRow);
+    QCoreApplication::processEvents();
+    const QImage screen = screenOf(&window);
+    list->setGraphicsEffect(nullptr);
+    QCoreApplication::processEvents();
+    const QImage asEver = screenOf(&window);
+    QVERIFY(pixelsOf(asEver, Qt::cyan) > 2000);
+    QCOMPARE(pixelsOf(screen, Qt::cyan), 0);
+    QCOMPARE(pixelsOf(screen, QColor("#cfe3fb")), pixelsOf(asEver, Qt::cyan));
+    QCOMPARE(pixelsOf(screen, Qt::white), pixelsOf(asEver, Qt::white));
+    // The darkest edges of words become black.
+    QVERIFY(pixelsOf(screen, Qt::black) >= pixelsOf(asEver, Qt::black));
 }
 
 /// What an operator may have open, one of each kind.
