@@ -44,21 +44,6 @@ bool hasMenu(const QStyleOptionToolButton &option)
            & (QStyleOptionToolButton::MenuButtonPopup | QStyleOptionToolButton::HasMenu);
 }
 
-/// The toolkit leaves the icon at the upper edge of a high key, far from its words.
-QRect rectOfLabel(const QStyleOptionToolButton &option)
-{
-    if (option.toolButtonStyle != Qt::ToolButtonTextUnderIcon || option.icon.isNull())
-        return option.rect;
-    const int words = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).height();
-    const int height = option.iconSize.height() + betweenIconAndWords + words;
-    if (option.rect.height() - height < roomyFrom)
-        return option.rect;
-    QRect label = option.rect;
-    label.setHeight(height);
-    label.moveCenter(option.rect.center());
-    return label;
-}
-
 /// In the corner, where no word is.
 void drawMenuSign(const QStyleOptionToolButton &option, QPainter *painter)
 {
@@ -83,6 +68,20 @@ QPalette StyleKeys::wordsOn(const QStyleOption &option)
     return palette;
 }
 
+QRect StyleKeys::labelOn(const QStyleOptionToolButton &option)
+{
+    if (option.toolButtonStyle != Qt::ToolButtonTextUnderIcon || option.icon.isNull())
+        return option.rect;
+    const int words = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).height();
+    const int height = option.iconSize.height() + betweenIconAndWords + words;
+    if (option.rect.height() - height < roomyFrom)
+        return option.rect;
+    QRect label = option.rect;
+    label.setHeight(height);
+    label.moveCenter(option.rect.center());
+    return label;
+}
+
 void StyleKeys::drawToolKey(const QStyleOptionToolButton &option, QPainter *painter,
                             const QStyle *style, const QWidget *widget)
 {
@@ -99,7 +98,7 @@ void StyleKeys::drawToolKey(const QStyleOptionToolButton &option, QPainter *pain
     if (hasMenu(option))
         drawMenuSign(key, painter);
     key.palette = wordsOn(option);
-    key.rect = rectOfLabel(key);
+    key.rect = labelOn(key);
     style->drawControl(QStyle::CE_ToolButtonLabel, &key, painter, widget);
 }
 

@@ -23,6 +23,9 @@ const int focusWidth = 2;
 void drawGround(const QStyleOption &option, QPainter *painter);
 /// For the words that the toolkit draws upon the ground.
 QPalette wordsOn(const QStyleOption &option);
+/// Where the toolkit shall draw icon and words. By itself it leaves the icon at the upper edge of a
+/// high key, far from the words.
+QRect labelOn(const QStyleOptionToolButton &option);
 /// A tool button with all that is on it, a strip of the library's included.
 void drawToolKey(const QStyleOptionToolButton &option, QPainter *painter, const QStyle *style,
                  const QWidget *widget);

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aLongWordMakesItWider();
     void theTextFollowsTheLanguage();
     void aTouchTakesNoFocus();
+    void aHighKeyHasPictureAndWordInItsMiddle();
 };
 
 void TestPanelKey::aKeyIsNeverSmallerThanAThumb_data()
@@ -77,6 +78,28 @@ void TestPanelKey::aTouchTakesNoFocus()
     QVERIFY(editor.hasFocus());
     // A keyboard's Tab does.
     QCOMPARE(key.focusPolicy(), Qt::TabFocus);
+}
+
+// Of one that a sheet dresses, too.
+void TestPanelKey::aHighKeyHasPictureAndWordInItsMiddle()
+{
+    QWidget panel;
+    Look::dress(&panel, Look::KeyPanel);
+    QPixmap red(22, 22);
+    red.fill(Qt::red);
+    PanelKey *key = new PanelKey(QIcon(red), "Fit", &panel);
+    const auto topOfPicture = [key](int height) {
+        key->resize(80, height);
+        const QImage image = key->grab().toImage();
+        int top = 0;
+        while (top < height && image.pixelColor(40, top) != Qt::red)
+            ++top;
+        return top;
+    };
+    const int low = topOfPicture(44);
+    const int high = topOfPicture(144);
+    QVERIFY2(low < 10, qPrintable(QString::number(low)));
+    QVERIFY2(qAbs(high - low - 50) <= 6, qPrintable(QString::number(high)));
 }
 
 FILARIX_TEST_MAIN(TestPanelKey)
