@@ -109,6 +109,9 @@ desk_until 20 desk_has_ended || desk_fail "the panel does not close while everyt
 rm "$hang"
 [ "$(sha256sum "$HOME/cnc/test-coil.cnc")" = "$before" ] || desk_fail "the program is another one"
 
+# What was thrown away while nothing could be removed is offered at the next start, if it was kept before.
+rm -rf "$HOME/hmi/unsaved"
+
 # The stand-in for the stick is filled at the start.
 rm /tmp/udiskattach
 export FILARIX_HANGING=/mnt
