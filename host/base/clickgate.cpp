@@ -6,8 +6,24 @@
 #include "base/hostcompat.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QPointer>
+#include <QTimer>
+
+namespace {
+
+// How often a click looks whether the dialog has ended that it waits for.
+const int dialogMs = 50;
+
+/// Whether a dialog takes all that an operator does to the widget.
+bool isBlocked(const QWidget *widget)
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    return modal && modal != widget->window() && !modal->isAncestorOf(widget);
+}
+
+} // namespace
 
 /// A button says released() right before clicked(), whatever pressed the button. The same happens
 /// when a finger slides off or the focus goes, and no click follows. So the button's signals are
@@ -65,10 +81,25 @@ void ClickGate::drop()
     m_isHolding = false;
 }
 
+/// What held the click has seen to things as they were before the dialog.
+void ClickGate::holdAgain()
+{
+    if (!m_isHolding)
+        return;
+    if (isBlocked(button()))
+        QTimer::singleShot(dialogMs, this, SLOT(holdAgain()));
+    else
+        m_hold();
+}
+
 void ClickGate::click()
 {
     if (!m_isHolding)
         return;
+    if (isBlocked(button())) {
+        QTimer::singleShot(dialogMs, this, SLOT(holdAgain()));
+        return;
+    }
     m_isHolding = false;
     m_isPassing = true;
     m_hasPassed = false;

@@ -44,7 +44,8 @@ public:
     /// at once or later. Clicks that come meanwhile count for nothing.
     void onClick(const Answer &hold) { m_hold = hold; }
     /// Lets the held click through: the button is clicked, from the event loop. A button that has
-    /// gone or is disabled by now is not clicked.
+    /// gone or is disabled by now is not clicked. Where a modal dialog has come up meanwhile that
+    /// the button is not in, a keypad say, the click waits for its end and is held once more.
     void pass();
     /// Drops the held click: nobody hears of it.
     void drop();
@@ -58,6 +59,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void shut();
     void note();
+    void holdAgain();
 
 private:
     void click();

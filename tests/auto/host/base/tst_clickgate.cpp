@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QVBoxLayout>
 
 class TestClickGate : public FilarixTest
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void clickInsideAPassingOneIsHeld();
     void buttonMayGoWhileItIsHeld();
     void holdsTheButtonsOfMessageBoxes();
+    void clickWaitsForTheDialogAboveIt();
 };
 
 typedef void (*Press)(QDialog *dialog, QPushButton *button);
@@ -255,6 +257,38 @@ void TestClickGate::holdsTheButtonsOfMessageBoxes()
     QCOMPARE(
         QMessageBox::question(nullptr, "Remove", "Remove a?", QMessageBox::Yes | QMessageBox::No),
         QMessageBox::Yes);
+}
+
+// What a click does would open another dialog over it, and the keypad of one over its own.
+void TestClickGate::clickWaitsForTheDialogAboveIt()
+{
+    QPushButton button("Open");
+    QSignalSpy clicked(&button, SIGNAL(clicked()));
+    ClickGate *gate = new ClickGate(&button);
+    int held = 0;
+    gate->onClick([&held] { ++held; });
+    button.show();
+    button.click();
+    QTRY_COMPARE(held, 1);
+    QTimer looks;
+    int turns = 0;
+    QDialog dialog;
+    const SignalHook hook(&looks, SIGNAL(timeout()), [&] {
+        if (++turns == 10)
+            dialog.accept();
+    });
+    gate->pass();
+    looks.start(20);
+    dialog.exec();
+    QCOMPARE(turns, 10);
+    QCOMPARE(clicked.size(), 0);
+    QCOMPARE(held, 1);
+    // What the dialog changed is seen to first.
+    QTRY_COMPARE(held, 2);
+    QCOMPARE(clicked.size(), 0);
+    gate->pass();
+    QTRY_COMPARE(clicked.size(), 1);
+    QVERIFY(!gate->isHolding());
 }
 
 FILARIX_TEST_MAIN(TestClickGate)
