@@ -52,6 +52,8 @@ FileThread::FileThread()
     : m_link(std::make_shared<Link>()), m_thread(new QThread), m_worker(new Worker)
 {
     m_link->owner = this;
+    // Shown by the system's lists of threads, which cut a name behind 15 letters.
+    m_thread->setObjectName(QLatin1String("Filarix files"));
     m_worker->moveToThread(m_thread);
     connect(m_thread, SIGNAL(finished()), m_worker, SLOT(deleteLater()));
     m_thread->start();
