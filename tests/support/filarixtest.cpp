@@ -30,6 +30,17 @@ void deleteUnplacedButtons()
     }
 }
 
+/// The companion's threads for files, by the name that the system knows them by.
+int fileThreads()
+{
+    int count = 0;
+    const QDir tasks(QLatin1String("/proc/self/task"));
+    Q_FOREACH (const QString &task, tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        count += FilarixTest::readFile(tasks.filePath(task) + QLatin1String("/comm"))
+                 == "Filarix files\n";
+    return count;
+}
+
 } // namespace
 
 QString FilarixTest::home()
@@ -115,6 +126,9 @@ bool FilarixTest::isLost(const QWidget *widget) const
 
 void FilarixTest::init()
 {
+    // What a disk that hung has let go would go on in this test's home.
+    QVERIFY2(TestCompat::waitFor([] { return fileThreads() == 0; }),
+             "a thread of an earlier test still works");
     emptyFolder(home());
     StrictMessages::install();
     StrictMessages::reset();
