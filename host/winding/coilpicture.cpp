@@ -34,6 +34,8 @@ const int tensionPoints = 1024;
 const int pathPoints = 4096;
 // Lines so dense that thin ones show more.
 const int manyPoints = 800;
+// Still exact in a double.
+const double mostTurns = 1e15;
 // Wires side by side that may fill a view.
 const int leastWires = 6;
 const int searchSteps = 60;
@@ -166,21 +168,36 @@ double turnsUpTo(const WindingModel &model, int line)
 /// A turn of a layer, cut by the picture's plane.
 struct Cut
 {
-    Cut(const WindingLayer &layer, int count)
+    Cut(const WindingLayer &layer, double count)
         : m_start(layer.direction < 0 ? layer.right : layer.left)
         , m_step(((layer.direction < 0 ? layer.left : layer.right) - m_start) / count)
+        , m_last(count - 1)
     {}
 
-    qreal x(int index) const { return qreal(m_start + (index + 0.5) * m_step); }
+    qreal x(qint64 index) const { return qreal(m_start + (double(index) + 0.5) * m_step); }
+    /// Of the turns from \a left to \a right, or one before it.
+    qint64 first(qreal left, qreal right) const
+    {
+        return qint64(qBound(0.0, std::floor(qMin(index(left), index(right))), m_last));
+    }
+    qint64 last(qreal left, qreal right) const
+    {
+        return qint64(qBound(0.0, std::ceil(qMax(index(left), index(right))), m_last));
+    }
 
 private:
+    /// All turns of a layer without a width are in one place.
+    double index(qreal x) const { return m_step == 0 ? 0 : (x - m_start) / m_step - 0.5; }
+
     double m_start;
     double m_step;
+    double m_last;
 };
 
-int turnsOf(const WindingLayer &layer)
+/// Whole ones. A program may ask for more than an int holds.
+double turnsOf(const WindingLayer &layer)
 {
-    return qMax(1, int(std::floor(layer.turns + 0.5)));
+    return qBound(1.0, std::floor(layer.turns + 0.5), mostTurns);
 }
 
 QPointF pointOf(const GuidePoint &point)
@@ -422,7 +439,7 @@ void CoilPicture::Maker::drawCircles(const WindingLayer &layer, double wound,
                                      const TensionScale &scale)
 {
     const CoilFrame &frame = m_picture->m_frame;
-    const int count = turnsOf(layer);
+    const double count = turnsOf(layer);
     const Cut cut(layer, count);
     const qreal radius = m_bobbin.wire / 2 * frame.xScale();
     const D::Role edge = 2 * radius >= edgedCircle ? D::WireEdge : D::NoRole;
@@ -430,11 +447,12 @@ void CoilPicture::Maker::drawCircles(const WindingLayer &layer, double wound,
     const qreal y = qreal(layer.diameter / 2);
     const qreal left = frame.world.left() - m_bobbin.wire;
     const qreal right = frame.world.right() + m_bobbin.wire;
-    for (int i = 0; i < count; ++i) {
+    const qint64 last = cut.last(left, right);
+    for (qint64 i = cut.first(left, right); i <= last; ++i) {
         const qreal x = cut.x(i);
         if (x < left || x > right)
             continue;
-        const double turn = layer.firstTurn + layer.turns * (i + 0.5) / count;
+        const double turn = layer.firstTurn + layer.turns * (double(i) + 0.5) / count;
         m_drawing->addCircle(frame.toPicture(QPointF(x, y)), radius,
                              turn <= wound ? D::Wire : D::PaleWire, shade(layer, turn, scale), edge,
                              edgeWidth);

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void scenesDiffer();
     void theSheetHasAllOfIt();
     void aLongProgramIsDrawnAtOnce();
+    void aMoveOfCountlessTurnsIsDrawnAtOnce();
 };
 
 namespace {
@@ -409,6 +410,23 @@ void TestCoilPicture::aLongProgramIsDrawnAtOnce()
         QVERIFY2(time.elapsed() <= patience(300), qPrintable(QString::number(time.elapsed())));
         QVERIFY(picture.drawing().shapes().size() < 2 * CoilPicture::mostCircles);
     }
+}
+
+// A pitch with a slip of the thumb.
+void TestCoilPicture::aMoveOfCountlessTurnsIsDrawnAtOnce()
+{
+    const WindingModel model = SomeCoil::model("T2\nG00 X0.25 Y14 U5\nS300 M03\nG33 X35 K0.5\n"
+                                               "G33 X0.25 K0.00000001\nM30\n");
+    QVERIFY(model.totals().turns > 3e9);
+    CoilScene scene = sceneOf(CoilScene::Section, 800, 480);
+    QElapsedTimer time;
+    time.start();
+    const CoilPicture whole(model, scene);
+    QVERIFY(shapesOf(whole.drawing(), D::Circle, D::Wire).isEmpty());
+    scene.world = QRectF(10, whole.frame().world.top() + 3, whole.leastWidth(), 0.5);
+    const CoilPicture part(model, scene);
+    QVERIFY(part.drawing().shapes().size() < 2 * CoilPicture::mostCircles);
+    QVERIFY2(time.elapsed() <= patience(300), qPrintable(QString::number(time.elapsed())));
 }
 
 FILARIX_TEST_MAIN(TestCoilPicture)
