@@ -525,7 +525,9 @@ void MachineProfileText::readWire(const QString &key, const QString &value)
     if (key == QLatin1String("size")) {
         readSize(value);
     } else if (key == QLatin1String("diameter")) {
-        if (plain(value) != QLatin1String("pitch"))
+        if (plain(value) == QLatin1String("pitch"))
+            wire.outerDiameter = 0;
+        else
             number(value, 0.001, mostMillimetres, &wire.outerDiameter);
     } else if (key == QLatin1String("conductor")) {
         number(value, 0.001, mostMillimetres, &wire.conductorDiameter);
@@ -536,7 +538,7 @@ void MachineProfileText::readWire(const QString &key, const QString &value)
     }
 }
 
-/// "0.250 grade 1".
+/// "0.250 grade 1". A diameter with a key of its own holds, in front of the size and behind it.
 void MachineProfileText::readSize(const QString &value)
 {
     const QStringList words = plain(value).split(QLatin1Char(' '));
@@ -548,8 +550,10 @@ void MachineProfileText::readSize(const QString &value)
         fail(tr("\"%1\" is no size of IEC 60317, as \"0.250 grade 1\" is.").arg(value));
         return;
     }
-    m_profile.m_wire.conductorDiameter = conductor;
-    m_profile.m_wire.outerDiameter = outer;
+    if (!m_seen.contains(QLatin1String("wire/conductor")))
+        m_profile.m_wire.conductorDiameter = conductor;
+    if (!m_seen.contains(QLatin1String("wire/diameter")))
+        m_profile.m_wire.outerDiameter = outer;
 }
 
 void MachineProfileText::useLetter(char letter, MachineProfile::Use use)

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aDwellMayShareTheFeedsLetter();
     void everyKeyIsRead();
     void wireByItsSize();
+    void aDiameterOfItsOwnHoldsBesideTheSize();
     void sizesOfTheStandard_data();
     void sizesOfTheStandard();
     void wayOfWritingMakesNoDifference();
@@ -213,6 +214,26 @@ void TestMachineProfile::wireByItsSize()
     QCOMPARE(profile.wire().density, 2.703);
     QCOMPARE(read(least()).wire().density, 8.89);
     QCOMPARE(read(least()).wire().outerDiameter, 0.0);
+}
+
+void TestMachineProfile::aDiameterOfItsOwnHoldsBesideTheSize()
+{
+    const QByteArray wire("[wire]\n");
+    const QByteArray size("size = 0.250 grade 1\n");
+    const QByteArray measured("diameter = 0.3\nconductor = 0.24\n");
+    const QByteArray ofBoth[] = {wire + size + measured, wire + measured + size};
+    for (const QByteArray &text : ofBoth) {
+        const MachineProfile profile = read(least() + text);
+        QCOMPARE(profile.wire().outerDiameter, 0.3);
+        QCOMPARE(profile.wire().conductorDiameter, 0.24);
+    }
+    const QByteArray pitch("diameter = pitch\n");
+    const QByteArray byPitch[] = {wire + size + pitch, wire + pitch + size};
+    for (const QByteArray &text : byPitch) {
+        const MachineProfile profile = read(least() + text);
+        QCOMPARE(profile.wire().outerDiameter, 0.0);
+        QCOMPARE(profile.wire().conductorDiameter, 0.25);
+    }
 }
 
 void TestMachineProfile::sizesOfTheStandard_data()
