@@ -3,14 +3,13 @@
 
 // filarix-reaction [PANEL OPTION ...]
 //
-// Runs the panel program, presses its keys and prints how soon they are painted. It ends with 1
-// when that is too late. Started by reaction.sh.
+// Runs the panel program, touches its keys, keypads, rows, lines and pages, and prints how soon the
+// answers are painted. It ends with 1 when that is too late. Started by reaction.sh.
 
 #include "options.h"
 #include "panelprogram.h"
 #include "reaction.h"
-
-#include <QApplication>
+#include "watchedapplication.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -23,10 +22,10 @@ int main(int argc, char **argv)
         return 98;
     }
     QCoreApplication::setApplicationName(QLatin1String("filarix-panel"));
-    QApplication application(argc, argv);
+    WatchedApplication application(argc, argv);
     PanelProgram program(Options::parse(application.arguments()),
                          PanelProgram::translationFolders());
-    Reaction measured;
+    Reaction measured(&application);
     measured.start();
     const int status = program.run();
     for (const QString &fault : measured.faults())

@@ -3,43 +3,38 @@
 
 #include "reaction.h"
 
-#include "screens/programscreen.h"
 #include "shell/panelwindow.h"
+#include "tlistwidget.h"
+#include "watchedapplication.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
-#include <QToolButton>
-#include <QWindow>
-
-#include <qpa/qwindowsysteminterface.h>
-
-#include <algorithm>
-#include <cstdio>
+#include <QTableWidget>
+#include <QTimer>
 
 namespace {
 
 const int screens = 6;
+const int programScreen = 0;
+const int teachScreen = 2;
+const int variablesScreen = 3;
+const int filesScreen = 5;
 const int pressesEach = 60;
-const int patienceMs = 30000;
-const int paintPatienceMs = 3000;
-const int mostPauseMs = 12;
-const double longestMedianMs = 10;
-const double longestMs = 50;
-const int percentile = 99;
-const int fewestSamples = 30;
-
-QString hangSwitch()
-{
-    return QFile::decodeName(qgetenv("FILARIX_HANG_SWITCH"));
-}
+const int tapsEach = 120;
+// Of a list with a title.
+const int firstRow = 1;
+// What has as many has been filled.
+const int fewestRows = 3;
+const int fewestLines = 1000;
 
 void hang(bool on)
 {
-    QFile file(hangSwitch());
+    QFile file(QFile::decodeName(qgetenv("FILARIX_HANG_SWITCH")));
     if (on)
         file.open(QIODevice::WriteOnly);
     else
@@ -56,267 +51,305 @@ QWidget *visibleDialog(const char *className)
     return nullptr;
 }
 
-QAbstractButton *buttonOf(const QWidget *parent, const QString &text)
+/// The keypad that is open, whichever it is.
+QDialog *openKeypad()
 {
-    const QList<QAbstractButton *> buttons = parent->findChildren<QAbstractButton *>();
-    for (QAbstractButton *button : buttons) {
-        if (button->text() == text)
-            return button;
+    QDialog *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    return dialog && dialog->findChild<QAbstractButton *>("key_ok") ? dialog : nullptr;
+}
+
+QAbstractButton *visibleKey(const QWidget *parent, const QString &name)
+{
+    const QList<QAbstractButton *> keys = parent->findChildren<QAbstractButton *>();
+    for (QAbstractButton *key : keys) {
+        const bool isIt =
+            key->text() == name || key->toolTip() == name || key->accessibleName() == name;
+        if (isIt && key->isVisible() && key->isEnabled())
+            return key;
     }
     return nullptr;
 }
 
+/// In the event loop that calls it a dialog may run.
+void clickSoon(QAbstractButton *key)
+{
+    QTimer::singleShot(0, key, &QAbstractButton::click);
+}
+
+/// Whether the list or the table that is in view has been filled.
+bool hasRows(const QWidget *place)
+{
+    int rows = 0;
+    const QWidgetList all = place->findChildren<QWidget *>();
+    for (const QWidget *widget : all) {
+        const TListWidget *list = qobject_cast<const TListWidget *>(widget);
+        const QTableWidget *table = qobject_cast<const QTableWidget *>(widget);
+        if (widget->isVisible())
+            rows += list ? list->count() : table ? table->rowCount() : 0;
+    }
+    return rows >= fewestRows;
+}
+
 } // namespace
 
-Finger::Finger(QElapsedTimer *clock) : m_clock(clock) {}
-
-Finger::~Finger()
+Reaction::Reaction(WatchedApplication *application) : m_watch(application)
 {
-    wait();
+    connect(&m_watch, &Stopwatch::measured, this, [this] { m_isMeasuring = false; });
+    connect(&m_script, &Script::givenUp, this, &Reaction::giveUp);
+    connect(&m_script, &Script::finished, application, &QCoreApplication::quit);
+    m_script.waitFor("the panel", [this] { return findPanel(); });
+    planPanel();
+    // Behind them stands the long program.
+    planKeypads();
+    planRowsAndPages();
+    planPicker();
+    planWaits();
 }
 
-void Finger::press(QWindow *window, const QPoint &point, int afterMs)
+void Reaction::giveUp(const QString &what)
 {
-    wait();
-    m_window = window;
-    m_point = point;
-    m_afterMs = afterMs;
-    m_pressedAt = -1;
-    start();
+    m_faults.append("never came: " + what);
+    hang(false);
+    QCoreApplication::exit(1);
 }
 
-void Finger::run()
+bool Reaction::findPanel()
 {
-    msleep(static_cast<unsigned long>(m_afterMs));
-    m_pressedAt = m_clock->nsecsElapsed();
-    QWindowSystemInterface::handleMouseEvent(m_window, m_point, m_window->mapToGlobal(m_point),
-                                             Qt::LeftButton, Qt::LeftButton,
-                                             QEvent::MouseButtonPress);
+    m_panel = static_cast<PanelWindow *>(visibleDialog("PanelWindow"));
+    m_watch.targets()->setWindow(m_panel);
+    return m_panel;
 }
 
-Reaction::Reaction() : m_finger(&m_clock), m_random(1)
+void Reaction::planPanel()
 {
-    m_clock.start();
+    kind("keys at rest", [this] { touchScreens(); });
+    kind("keys while a program of 100,000 lines loads", [this] { touchWhileLoading(); });
 }
 
-void Reaction::start()
+void Reaction::planKeypads()
 {
-    qApp->installEventFilter(this);
-    connect(&m_timer, &QTimer::timeout, this, &Reaction::next);
-    planAll();
-    m_timer.start(5);
+    show(programScreen);
+    kind("keys of the G-code keypad",
+         [this] { touchKeypad("edit G code by softKey!", "key_page", pressesEach); });
+    kind("keys of the number keypad", [this] { touchKeypad("Go to a line", nullptr, tapsEach); });
+    kind("keys of the character keypad",
+         [this] { touchKeypad("Find", "key_symbols", pressesEach); });
 }
 
-void Reaction::planAll()
+void Reaction::planRowsAndPages()
 {
-    waitFor("the panel", [this] {
-        findPanel();
-        return m_panel != nullptr;
+    kind("lines of the program", [this] { touchList(programScreen, &Targets::line); });
+    kind("pages of the program", [this] { touchList(programScreen, &Targets::page); });
+    kind("rows of Teach", [this] { touchList(teachScreen, &Targets::row); });
+    kind("rows of the picker of points", [this] { touchPoints(); });
+    kind("rows of Variables", [this] { touchList(variablesScreen, &Targets::row); });
+    kind("pages of Variables", [this] { touchList(variablesScreen, &Targets::page); });
+    kind("rows of Files", [this] { touchList(filesScreen, &Targets::row); });
+}
+
+void Reaction::planPicker()
+{
+    kind("rows of the program picker", [this] { touchPicker(&Targets::row); });
+    kind("pages of the program picker", [this] { touchPicker(&Targets::page); });
+    kind("keys of the program picker", [this] { touchPicker(&Targets::key); });
+}
+
+void Reaction::planWaits()
+{
+    kind("keys while a download waits for its PLC", [this] { touchWhileDownloading(); });
+    kind("keys while the stick hangs", [this] { touchWhileStickHangs(); });
+    m_script.then([] { hang(false); });
+}
+
+void Reaction::kind(const QString &name, const Script::Step &plan, int tries)
+{
+    const auto judge = [this, name, plan, tries] {
+        const QStringList faults = m_watch.judge(name);
+        if (!faults.isEmpty() && tries > 1)
+            kind(name, plan, tries - 1);
+        else
+            m_faults += faults;
+    };
+    m_script.then([this, plan, judge] {
+        plan();
+        m_script.then(judge);
     });
-    showEach(pressesEach);
-    then([this] { evaluate("at rest"); });
+}
 
-    const Condition loads = [this] {
+/// The keys of all of them.
+void Reaction::touchScreens()
+{
+    for (int screen = 0; screen < screens; ++screen) {
+        show(screen);
+        measure(&Targets::key, pressesEach);
+    }
+}
+
+void Reaction::touchWhileLoading()
+{
+    const Script::Condition loads = [this] {
         return m_panel->findChild<WMMainWindow *>()->windowTitle().indexOf("long") < 0;
     };
     for (int screen = 0; screen < screens; ++screen) {
         open("short.cnc");
         open("long.cnc");
-        waitFor("the load's first lines",
-                [this] { return m_panel->findChild<WGCodeEditer *>()->blockCount() > 1000; });
-        then([this, screen] { m_panel->showScreen(screen); });
-        then([this, loads] { measure(pressesEach, loads); });
-        waitFor("the end of the load", [loads] { return !loads(); });
+        m_script.waitFor("the load's first lines", [this] {
+            return m_panel->findChild<WGCodeEditer *>()->blockCount() > fewestLines;
+        });
+        show(screen);
+        measure(&Targets::key, pressesEach, loads);
+        m_script.waitFor("the end of the load", [loads] { return !loads(); });
     }
-    then([this] { evaluate("while a program of 100,000 lines loads"); });
+}
 
+void Reaction::touchWhileDownloading()
+{
     open("short.cnc");
-    clickTool("Download G File To PLC!");
-    waitFor("the question", [] { return visibleDialog("DownloadQuestion") != nullptr; });
-    then([] { hang(true); });
+    click("Download G File To PLC!");
+    m_script.waitFor("the question", [] { return visibleDialog("DownloadQuestion") != nullptr; });
+    m_script.then([] { hang(true); });
     answer("DownloadQuestion", "Send");
-    showEach(pressesEach);
-    then([this] { evaluate("while a download waits for its PLC"); });
-    then([] { hang(false); });
-    waitFor("the end of the download",
-            [this] { return !m_panel->findChild<WMMainWindow *>()->isDownloading(); });
+    touchScreens();
+    m_script.then([] { hang(false); });
+    m_script.waitFor("the end of the download",
+                     [this] { return !m_panel->findChild<WMMainWindow *>()->isDownloading(); });
+}
 
-    then([] {
+void Reaction::touchWhileStickHangs()
+{
+    m_script.then([] {
         QFile marker("/tmp/udiskattach");
         marker.open(QIODevice::WriteOnly);
         hang(true);
     });
-    showEach(pressesEach);
-    then([this] { evaluate("while the stick hangs"); });
-    then([] {
-        hang(false);
-        QCoreApplication::quit();
-    });
+    touchScreens();
 }
 
-void Reaction::findPanel()
+/// Both pages of the keypad, if there is a key that turns to a second one.
+void Reaction::touchKeypad(const QString &opener, const char *secondPage, int keys)
 {
-    const QWidgetList all = QApplication::topLevelWidgets();
-    for (QWidget *widget : all) {
-        if (widget->isVisible() && qobject_cast<PanelWindow *>(widget))
-            m_panel = static_cast<PanelWindow *>(widget);
+    click(opener);
+    m_script.waitFor("the keypad of " + opener, [] { return openKeypad() != nullptr; });
+    measure(&Targets::key, keys);
+    if (secondPage) {
+        m_script.then(
+            [secondPage] { openKeypad()->findChild<QAbstractButton *>(secondPage)->click(); });
+        measure(&Targets::key, keys);
     }
-}
-
-void Reaction::then(const Step &step)
-{
-    m_steps.append(step);
-}
-
-void Reaction::waitFor(const QString &what, const Condition &condition)
-{
-    then([this, what, condition] {
-        if (condition())
-            return m_waiting.invalidate();
-        if (!m_waiting.isValid())
-            m_waiting.start();
-        if (m_waiting.elapsed() < patienceMs)
-            return m_steps.prepend(m_step);
-        m_faults.append("never came: " + what);
-        m_steps.clear();
-        hang(false);
-        QCoreApplication::exit(1);
+    m_script.then([] { openKeypad()->reject(); });
+    m_script.waitFor("the end of the keypad", [] { return !openKeypad(); });
+    // The library's, which the keypad of a text is opened over.
+    m_script.then([] {
+        if (QWidget *dialog = visibleDialog("WFindDialog"))
+            dialog->close();
     });
 }
 
-void Reaction::clickTool(const QString &toolTip)
+/// The editor, the list or the table of a screen.
+void Reaction::touchList(int screen, Stopwatch::Chooser choose)
 {
-    then([this, toolTip] {
-        const QList<QToolButton *> buttons = m_panel->findChildren<QToolButton *>();
-        for (QToolButton *button : buttons) {
-            // Its dialog runs in the event loop that the click starts.
-            if (button->toolTip() == toolTip)
-                QTimer::singleShot(0, button, &QToolButton::click);
+    show(screen);
+    m_script.waitFor("what fills the screen",
+                     [this, screen] { return screen == programScreen || hasRows(m_panel); });
+    // A narrow bar has the keys for the program's pages on a page of its own.
+    if (choose == &Targets::page)
+        m_script.waitFor("the keys that turn pages",
+                         [this] { return keyInView("Page down") != nullptr; });
+    measure(choose, tapsEach);
+}
+
+/// The rows of the table from which a taught row gets its point.
+void Reaction::touchPoints()
+{
+    show(teachScreen);
+    m_script.then([this] {
+        const QList<TListWidget *> lists = m_panel->findChildren<TListWidget *>();
+        for (TListWidget *list : lists) {
+            if (list->isVisible())
+                QTimer::singleShot(0, list, [list] { Q_EMIT list->sg_jpos_update(firstRow); });
         }
     });
+    m_script.waitFor("the picker of points", [] {
+        const QWidget *picker = visibleDialog("TablePicker");
+        return picker && hasRows(picker);
+    });
+    measure(&Targets::row, tapsEach);
+    answer("TablePicker", "Cancel");
 }
 
+void Reaction::touchPicker(Stopwatch::Chooser choose)
+{
+    openPicker();
+    m_script.waitFor("the picker's rows", [] { return hasRows(visibleDialog("WFileDialog")); });
+    measure(choose, tapsEach);
+    answer("WFileDialog", "Cancel");
+}
+
+void Reaction::show(int screen)
+{
+    m_script.then([this, screen] { m_panel->showScreen(screen); });
+}
+
+void Reaction::click(const QString &name)
+{
+    m_script.waitFor("the key " + name, [this, name] {
+        QAbstractButton *key = keyInView(name);
+        if (key)
+            clickSoon(key);
+        return key != nullptr;
+    });
+}
+
+/// And waits for the end of the dialog.
 void Reaction::answer(const char *className, const QString &button)
 {
-    then([className, button] {
-        QAbstractButton *wanted = buttonOf(visibleDialog(className), button);
-        QTimer::singleShot(0, wanted, &QAbstractButton::click);
+    m_script.waitFor("the answer " + button, [className, button] {
+        const QWidget *dialog = visibleDialog(className);
+        QAbstractButton *key = dialog ? visibleKey(dialog, button) : nullptr;
+        if (key)
+            clickSoon(key);
+        return key != nullptr;
     });
+    m_script.waitFor(QString("the end of ") + className,
+                     [className] { return !visibleDialog(className); });
+}
+
+void Reaction::openPicker()
+{
+    show(programScreen);
+    click("Open G File!");
+    m_script.waitFor("the program picker", [] { return visibleDialog("WFileDialog") != nullptr; });
 }
 
 void Reaction::open(const QString &name)
 {
-    then([this] { m_panel->showScreen(0); });
-    clickTool("Open G File!");
-    waitFor("the program picker", [] { return visibleDialog("WFileDialog") != nullptr; });
-    then([name] { visibleDialog("WFileDialog")->findChild<QLineEdit *>()->setText(name); });
+    openPicker();
+    m_script.then(
+        [name] { visibleDialog("WFileDialog")->findChild<QLineEdit *>()->setText(name); });
     answer("WFileDialog", "OK");
-    waitFor("the picker's end", [] { return visibleDialog("WFileDialog") == nullptr; });
-    if (name == QLatin1String("short.cnc"))
-        waitFor(name, [this, name] {
+    // A long one is measured on its way.
+    if (name.startsWith("short"))
+        m_script.waitFor(name, [this, name] {
             return m_panel->findChild<WMMainWindow *>()->windowTitle().startsWith(name);
         });
 }
 
-void Reaction::showEach(int presses, const Condition &goesOn)
+void Reaction::measure(Stopwatch::Chooser choose, int touches, const Script::Condition &goesOn)
 {
-    for (int screen = 0; screen < screens; ++screen) {
-        then([this, screen] { m_panel->showScreen(screen); });
-        then([this, presses, goesOn] { measure(presses, goesOn); });
+    m_script.then([this, choose, touches, goesOn] {
+        m_isMeasuring = true;
+        m_watch.measure(choose, touches, goesOn);
+    });
+    m_script.waitFor("the answers to all touches", [this] { return !m_isMeasuring; });
+}
+
+/// Null while the bars are being turned to where the key is.
+QAbstractButton *Reaction::keyInView(const QString &name)
+{
+    QAbstractButton *key = visibleKey(m_panel, name);
+    if (!key) {
+        if (QAbstractButton *more = visibleKey(m_panel, "More"))
+            more->click();
     }
-}
-
-void Reaction::measure(int presses, const Condition &goesOn)
-{
-    m_left = presses;
-    m_goesOn = goesOn;
-    pressOne();
-}
-
-void Reaction::next()
-{
-    // The keys of a screen are being pressed.
-    if (m_left > 0) {
-        if (m_key && m_finger.pressedAt() >= 0
-            && m_clock.nsecsElapsed() - m_finger.pressedAt() > paintPatienceMs * qint64(1000000)) {
-            m_faults.append("no paint after a press of " + m_key->text());
-            endPress();
-        }
-        return;
-    }
-    if (m_steps.isEmpty())
-        return;
-    m_step = m_steps.takeFirst();
-    m_step();
-}
-
-QAbstractButton *Reaction::randomKey()
-{
-    QList<QAbstractButton *> keys;
-    const QList<QAbstractButton *> all = m_panel->findChildren<QAbstractButton *>();
-    for (QAbstractButton *key : all) {
-        if (key->isVisible() && key->isEnabled() && !key->visibleRegion().isEmpty()
-            && QApplication::widgetAt(key->mapToGlobal(key->rect().center())) == key)
-            keys.append(key);
-    }
-    return keys.isEmpty() ? nullptr : keys.at(int(m_random() % unsigned(keys.size())));
-}
-
-void Reaction::pressOne()
-{
-    if (m_goesOn && !m_goesOn())
-        m_left = 0;
-    m_key = m_left > 0 ? randomKey() : nullptr;
-    if (!m_key) {
-        m_left = 0;
-        return;
-    }
-    QWidget *const window = m_key->window();
-    m_finger.press(window->windowHandle(), m_key->mapTo(window, m_key->rect().center()),
-                   int(m_random() % mostPauseMs));
-}
-
-bool Reaction::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() != QEvent::Paint || watched != m_key || m_finger.pressedAt() < 0
-        || !m_key->isDown())
-        return false;
-    m_samples.append((m_clock.nsecsElapsed() - m_finger.pressedAt()) / 1e6);
-    QTimer::singleShot(0, this, &Reaction::endPress);
-    return false;
-}
-
-// Slides off the key before it leaves the glass.
-void Reaction::endPress()
-{
-    if (m_key) {
-        QWindow *const window = m_key->window()->windowHandle();
-        const QPoint off(-50, -50);
-        QWindowSystemInterface::handleMouseEvent(window, off, window->mapToGlobal(off),
-                                                 Qt::LeftButton, Qt::NoButton, QEvent::MouseMove);
-        QWindowSystemInterface::handleMouseEvent(window, off, window->mapToGlobal(off),
-                                                 Qt::NoButton, Qt::LeftButton,
-                                                 QEvent::MouseButtonRelease);
-        QWindowSystemInterface::flushWindowSystemEvents();
-    }
-    m_key = nullptr;
-    --m_left;
-    if (m_left > 0)
-        QTimer::singleShot(0, this, &Reaction::pressOne);
-}
-
-void Reaction::evaluate(const QString &name)
-{
-    std::sort(m_samples.begin(), m_samples.end());
-    const int count = m_samples.size();
-    const double median = count > 0 ? m_samples.at(count / 2) : 0;
-    const double late = count > 0 ? m_samples.at(count * percentile / 100) : 0;
-    std::printf("%-42s %4d presses, median %5.1f ms, 99th %5.1f ms, longest %5.1f ms\n",
-                qPrintable(name), count, median, late, count > 0 ? m_samples.last() : 0.0);
-    std::fflush(stdout);
-    if (count < fewestSamples)
-        m_faults.append("too few presses " + name);
-    if (median > longestMedianMs || late > longestMs)
-        m_faults.append("too slow " + name);
-    m_samples.clear();
+    return key;
 }

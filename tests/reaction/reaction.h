@@ -4,99 +4,71 @@
 #ifndef REACTION_H
 #define REACTION_H
 
-#include <QElapsedTimer>
-#include <QList>
-#include <QObject>
-#include <QPoint>
-#include <QPointer>
-#include <QStringList>
-#include <QThread>
-#include <QTimer>
+#include "script.h"
+#include "stopwatch.h"
 
-#include <atomic>
-#include <functional>
-#include <random>
+#include <QObject>
+#include <QStringList>
 
 class PanelWindow;
 class QAbstractButton;
-class QWindow;
+class WatchedApplication;
 
-/// Presses at instants of its own, as a finger does: whether the event loop is busy or not.
-class Finger : public QThread
-{
-    Q_OBJECT
-
-public:
-    explicit Finger(QElapsedTimer *clock);
-    ~Finger() override;
-
-    /// Presses the left button at \a point of \a window after \a afterMs milliseconds.
-    void press(QWindow *window, const QPoint &point, int afterMs);
-    /// When it pressed, in nanoseconds of the clock; -1 before it did.
-    qint64 pressedAt() const { return m_pressedAt; }
-
-protected:
-    void run() override;
-
-private:
-    QElapsedTimer *m_clock;
-    QWindow *m_window = nullptr;
-    QPoint m_point;
-    int m_afterMs = 0;
-    std::atomic<qint64> m_pressedAt{-1};
-};
-
-/// Measures how long the operator waits between a press and the first paint of what was pressed.
+/// Takes the panel through its screens in several conditions, and measures there how soon a touch
+/// is answered.
 ///
-/// It takes the panel through its screens in several conditions and presses keys there; the finger
-/// slides off before it is lifted, so that nothing is triggered.
+/// Keys are pressed, and the finger slides off before it is lifted, so that nothing is triggered.
+/// Rows, lines and keys that turn pages are touched for good: the answer is the row, the line or
+/// the page. A machine that does something else meanwhile makes single measurements slower, never
+/// all of them quicker: the best of three counts.
 class Reaction : public QObject
 {
     Q_OBJECT
 
 public:
-    Reaction();
+    explicit Reaction(WatchedApplication *application);
 
-    /// Needs the application object, and ends its loop when all is measured.
-    void start();
+    /// Ends the application's loop when all is measured.
+    void start() { m_script.start(); }
     /// What is too slow, or didn't work; a line each.
     QStringList faults() const { return m_faults; }
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
-    typedef std::function<void()> Step;
-    typedef std::function<bool()> Condition;
+    bool findPanel();
+    void planPanel();
+    void planKeypads();
+    void planRowsAndPages();
+    void planPicker();
+    void planWaits();
 
-    void findPanel();
-    void planAll();
-    void then(const Step &step);
-    void waitFor(const QString &what, const Condition &condition);
-    void clickTool(const QString &toolTip);
+    /// Measures what \a plan touches, anew where it is too slow.
+    void kind(const QString &name, const Script::Step &plan, int tries = mostTries);
+    void touchScreens();
+    void touchWhileLoading();
+    void touchWhileDownloading();
+    void touchWhileStickHangs();
+    void touchKeypad(const QString &opener, const char *secondPage, int keys);
+    void touchList(int screen, Stopwatch::Chooser choose);
+    void touchPoints();
+    void touchPicker(Stopwatch::Chooser choose);
+
+    void show(int screen);
+    void click(const QString &name);
     void answer(const char *className, const QString &button);
+    void openPicker();
     void open(const QString &name);
-    void showEach(int presses, const Condition &goesOn = Condition());
-    void measure(int presses, const Condition &goesOn);
-    void evaluate(const QString &name);
-    void next();
+    void measure(Stopwatch::Chooser choose, int touches,
+                 const Script::Condition &goesOn = Script::Condition());
+    void giveUp(const QString &what);
 
-    void pressOne();
-    void endPress();
-    QAbstractButton *randomKey();
+    QAbstractButton *keyInView(const QString &name);
 
-    QElapsedTimer m_clock;
-    Finger m_finger;
-    std::mt19937 m_random;
+    static const int mostTries = 3;
+
+    Stopwatch m_watch;
+    bool m_isMeasuring = false;
+    Script m_script;
     PanelWindow *m_panel = nullptr;
-    QTimer m_timer;
-    QList<Step> m_steps;
-    Step m_step;
-    QElapsedTimer m_waiting;
-
-    QPointer<QAbstractButton> m_key;
-    int m_left = 0;
-    Condition m_goesOn;
-    QList<double> m_samples;
     QStringList m_faults;
 };
 
