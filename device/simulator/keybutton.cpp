@@ -13,6 +13,7 @@
 namespace {
 
 const int smallestText = 9;
+const char widestCharacter[] = "W";
 const int textFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
 struct KeyColours
@@ -45,6 +46,14 @@ const KeyColours pressedColours = {0xffffb000, 0xffa06a00, 0xff10161c};
 const KeyColours disabledColours[] = {{0xffc3cad1, 0xffa3abb3, 0xff47505a},
                                       {0xff1b222a, 0xff333c45, 0xff9aa3ac},
                                       {0xffe6e6e6, 0xff454545, 0xff454545}};
+
+QFont lettersOf(int pixels)
+{
+    QFont font = QApplication::font();
+    font.setBold(true);
+    font.setPixelSize(pixels);
+    return font;
+}
 
 // The glyphs are drawn in a square from -1 to 1.
 
@@ -138,7 +147,7 @@ void paintGlyph(QPainter *painter, const QRect &rect, KeyButton::Glyph glyph, co
 } // namespace
 
 KeyButton::KeyButton(const QString &token, QWidget *parent)
-    : QAbstractButton(parent), m_token(token)
+    : QAbstractButton(parent), m_token(token), m_letters(smallestText)
 {
     setObjectName(QLatin1String("key_") + token);
     setFocusPolicy(Qt::NoFocus);
@@ -186,29 +195,32 @@ void KeyButton::paintEvent(QPaintEvent *)
         return;
     }
     painter.setPen(QColor(colours.text));
-    painter.setFont(fittingFont());
+    painter.setFont(lettersOf(m_letters));
     painter.drawText(textRoom(), textFlags, text());
 }
 
 QRect KeyButton::textRoom() const
 {
-    const int margin = text().length() > 1 ? 4 : 3;
+    const int margin = isWord() ? 4 : 3;
     return rect().adjusted(margin, 0, -margin, 0);
 }
 
-QFont KeyButton::fittingFont() const
+int KeyButton::fittingLetters() const
 {
-    const bool isWord = text().length() > 1;
-    const int wanted = isWord ? height() * 36 / 100 : qMin(height() * 50, width() * 70) / 100;
-    int size = isWord ? qBound(12, KeypadLook::letters(wanted), KeypadLook::letters(24))
-                      : qBound(14, KeypadLook::letters(wanted), KeypadLook::letters(38));
-    QFont font = QApplication::font();
-    font.setBold(true);
-    font.setPixelSize(size);
+    const int wanted = isWord() ? height() * 36 / 100 : qMin(height() * 50, width() * 70) / 100;
+    int size = isWord() ? qBound(12, KeypadLook::letters(wanted), KeypadLook::letters(24))
+                        : qBound(14, KeypadLook::letters(wanted), KeypadLook::letters(38));
+    const QString shown = isWord() ? text() : QString::fromLatin1(widestCharacter);
     const QRect room = textRoom();
     // Words in two lines are read more easily than small ones.
     while (size > smallestText
-           && !room.contains(QFontMetrics(font).boundingRect(room, textFlags, text())))
-        font.setPixelSize(--size);
-    return font;
+           && !room.contains(QFontMetrics(lettersOf(size)).boundingRect(room, textFlags, shown)))
+        --size;
+    return size;
+}
+
+void KeyButton::setLetters(int pixels)
+{
+    m_letters = pixels;
+    update();
 }

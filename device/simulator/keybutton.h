@@ -40,6 +40,13 @@ public:
     void setGlyph(Glyph glyph);
     /// The text goes on being what accessibility tools read when a glyph covers it.
     Glyph glyph() const { return m_glyph; }
+    /// Whether the text is more than one character.
+    bool isWord() const { return text().length() > 1; }
+    /// The largest size in pixels in which the text fits. That of a single character is the same
+    /// for each: a key keeps it when it turns from "i" to "W".
+    int fittingLetters() const;
+    /// The size in which the text is painted.
+    void setLetters(int pixels);
 
     QSize sizeHint() const override;
 
@@ -53,11 +60,11 @@ protected:
 
 private:
     QRect textRoom() const;
-    QFont fittingFont() const;
 
     QString m_token;
     Role m_role = TypingRole;
     Glyph m_glyph = NoGlyph;
+    int m_letters;
 };
 
 #endif // KEYBUTTON_H

@@ -30,6 +30,8 @@ const int lowScreen = 400;
 const int smallKeypad = 480;
 const int smallGap = 4;
 const int largeGap = 6;
+// One long word must not make all the others smaller than this.
+const int leastWord = 12;
 
 const int repeatDelay = 500;
 const int repeatInterval = 80;
@@ -563,6 +565,24 @@ void KeypadFrame::arrangeKeys()
         const int y2 = cellEdge(place.bottom() + 1, cells.height(), keysHeight, gap) - gap;
         m_keys.at(i)->setGeometry(left + x1, keysTop + y1, x2 - x1, y2 - y1);
     }
+    fitLetters();
+}
+
+/// The same size for all single characters, and another one for all words: an eye that goes from
+/// key to key takes larger letters for more important ones. A word that is too long is smaller.
+void KeypadFrame::fitLetters()
+{
+    int characters = QWIDGETSIZE_MAX;
+    int words = QWIDGETSIZE_MAX;
+    Q_FOREACH (const KeyButton *key, m_keys) {
+        if (key->glyph() == KeyButton::NoGlyph) {
+            int &size = key->isWord() ? words : characters;
+            size = qMin(size, key->fittingLetters());
+        }
+    }
+    words = qMin(characters, qMax(words, leastWord));
+    Q_FOREACH (KeyButton *key, m_keys)
+        key->setLetters(qMin(key->fittingLetters(), key->isWord() ? words : characters));
 }
 
 void KeypadFrame::labelKeys()

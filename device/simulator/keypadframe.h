@@ -121,6 +121,7 @@ private:
     bool hasRoomForAll(int length, int height, int gap) const;
     void arrangeKeys();
     void labelKeys();
+    void fitLetters();
     QString labelOf(const KeyButton *key) const;
     QString spokenNameOf(const KeyButton *key) const;
     void showHead();
