@@ -23,6 +23,38 @@ const char *const narrowKeys[] = {
     "y      z       _      .     clear clear", "shift  symbols space  space left  right",
     "cancel cancel  cancel ok    ok    ok",    nullptr};
 
+// For a small screen, with keys that fit a glove: letters, and on a second page digits and signs.
+const char *const smallKeys[] = {"a      b      c      d     e       f     g     h     i",
+                                 "j      k      l      m     n       o     p     q     r",
+                                 "s      t      u      v     w       x     y     z     back",
+                                 "cancel cancel digits shift symbols space clear clear ok",
+                                 nullptr};
+
+const char *const smallDigitKeys[] = {"(      )      +      /     7 8 9 back  space",
+                                      ":      =      ,      #     4 5 6 clear clear",
+                                      "&      @      %      _     1 2 3 left  right",
+                                      "cancel cancel digits ~     - 0 . ok    ok", nullptr};
+
+const char *const smallNarrowKeys[] = {"a      b      c      d       e",
+                                       "f      g      h      i       j",
+                                       "k      l      m      n       o",
+                                       "p      q      r      s       t",
+                                       "u      v      w      x       y",
+                                       "z      _      shift  symbols back",
+                                       "clear  clear  space  left    right",
+                                       "cancel cancel digits ok      ok",
+                                       nullptr};
+
+const char *const smallNarrowDigitKeys[] = {"(      )      +      /       _",
+                                            ":      =      ,      #       &",
+                                            "@      %      [      ]       !",
+                                            "7      8      9      ~       '",
+                                            "4      5      6      clear   clear",
+                                            "1      2      3      space   back",
+                                            "-      0      .      left    right",
+                                            "cancel cancel digits ok      ok",
+                                            nullptr};
+
 } // namespace
 
 CharacterKeypad::CharacterKeypad(QWidget *parent) : QDialog(parent) {}
@@ -31,7 +63,9 @@ CharacterKeypad::~CharacterKeypad() = default;
 
 CharacterKeypad *CharacterKeypad::instance()
 {
-    const KeypadFace face = {keys, narrowKeys, 38, QSize(88, 72), false};
+    KeypadFace face(keys, narrowKeys, 38, QSize(88, 72), false);
+    face.smallWide = KeypadPages{smallKeys, smallDigitKeys};
+    face.smallNarrow = KeypadPages{smallNarrowKeys, smallNarrowDigitKeys};
     return CharacterDialog::instance(face);
 }
 

@@ -39,6 +39,37 @@ const char *const narrowTextKeys[] = {
     "Y      Z      ;    .     clear clear", "small  page   ,    space left  right",
     "cancel cancel next next  ok    ok",    nullptr};
 
+// For a small screen, with keys that fit a glove: digits on the first page alone.
+const char *const smallKeys[] = {"G      M      S    T     7 8 9 back  page",
+                                 "X      Y      Z    F     4 5 6 clear clear",
+                                 "I      J      K    ;     1 2 3 next  next",
+                                 "cancel cancel left right - 0 . ok    ok", nullptr};
+
+const char *const smallTextKeys[] = {"A      B      C     D E     F    G    H    page",
+                                     "I      J      K     L M     N    O    P    Q",
+                                     "R      S      T     U V     W    X    Y    Z",
+                                     "cancel cancel small , space back next next ok", nullptr};
+
+const char *const smallNarrowKeys[] = {"G      M      S    T     F",
+                                       "X      Y      Z    U     V",
+                                       "I      J      K    W     N",
+                                       "7      8      9    ;     space",
+                                       "4      5      6    clear clear",
+                                       "1      2      3    page  back",
+                                       "-      0      .    left  right",
+                                       "cancel cancel next next  ok",
+                                       nullptr};
+
+const char *const smallNarrowTextKeys[] = {"A      B      C     D     E",
+                                           "F      G      H     I     J",
+                                           "K      L      M     N     O",
+                                           "P      Q      R     S     T",
+                                           "U      V      W     X     Y",
+                                           "Z      ,      small page  back",
+                                           "clear  clear  space left  right",
+                                           "cancel cancel next  next  ok",
+                                           nullptr};
+
 } // namespace
 
 GCodeKeypad::GCodeKeypad(QWidget *parent) : QDialog(parent) {}
@@ -48,8 +79,10 @@ GCodeKeypad::~GCodeKeypad() = default;
 GCodeKeypad *GCodeKeypad::instance()
 {
     KeypadFace face(keys, narrowKeys, 38, QSize(88, 72), false);
-    face.wideText = textKeys;
-    face.narrowText = narrowTextKeys;
+    face.wide.second = textKeys;
+    face.narrow.second = narrowTextKeys;
+    face.smallWide = KeypadPages{smallKeys, smallTextKeys};
+    face.smallNarrow = KeypadPages{smallNarrowKeys, smallNarrowTextKeys};
     face.forWords = true;
     face.name = QT_TRANSLATE_NOOP("KeypadFrame", "Line");
     return GCodeDialog::instance(face);

@@ -226,6 +226,7 @@ const NamedKey KeypadFrame::namedKeys[] = {
     {"sign",    QT_TR_NOOP("+/-"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::toggleSign},
     {"shift",   QT_TR_NOOP("Shift"),        KeyButton::ShiftGlyph,     KeyButton::EditingRole, false, &KeypadFrame::turnShift},
     {"symbols", QT_TR_NOOP("#+="),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnSymbols},
+    {"digits",  QT_TR_NOOP("123"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnPage},
     {"page",    QT_TR_NOOP("ABC"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnPage},
     {"small",   QT_TR_NOOP("abc"),          KeyButton::NoGlyph,        KeyButton::EditingRole, false, &KeypadFrame::turnCapitals},
     {"cancel",  QT_TR_NOOP("Cancel"),       KeyButton::NoGlyph,        KeyButton::CancelRole,  false, &KeypadFrame::reject},
@@ -243,7 +244,7 @@ KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
     , m_limit(new KeypadLabel(QLatin1String("limit"), KeypadLabel::Elide, this))
     , m_reason(new KeypadLabel(QLatin1String("reason"), KeypadLabel::Wrap, this))
     , m_edit(new ValueEdit(this))
-    , m_firstRows(face.wide)
+    , m_pages(face.wide)
 {
     m_title->setColour(QColor(titleColour));
     m_title->setBold(true);
@@ -257,7 +258,7 @@ KeypadFrame::KeypadFrame(const KeypadFace &face, QWidget *parent)
     if (m_face.forNumbers)
         m_edit->setAttribute(Qt::WA_InputMethodEnabled, false);
     connect(m_edit, SIGNAL(textChanged(QString)), SLOT(check()));
-    useLayout(layoutOf(m_firstRows));
+    useLayout(layoutOf(m_pages.first));
 }
 
 void KeypadFrame::setText(const QString &text)
@@ -287,15 +288,9 @@ QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
 {
     m_value = KeypadValue(m_request, m_face.forNumbers);
     m_mayGoOn = m_request.object && m_request.object->property(nextLineProperty).toBool();
-    // A second page has more columns and rows than the first one, and takes the same place.
-    const KeypadLayout wide = layoutOf(m_face.wideText ? m_face.wideText : m_face.wide);
-    const KeypadLayout narrow = layoutOf(m_face.narrowText ? m_face.narrowText : m_face.narrow);
-    const bool fits = keyWidth(wide, screen.size()) >= m_face.narrowestKey
-                      || keySide(wide, screen.size()) >= keySide(narrow, screen.size());
-    m_firstRows = fits ? m_face.wide : m_face.narrow;
-    m_textRows = fits ? m_face.wideText : m_face.narrowText;
-    m_isText = false;
-    useLayout(layoutOf(m_firstRows));
+    m_pages = pagesFor(screen.size());
+    m_isSecond = false;
+    useLayout(layoutOf(m_pages.first));
     if (screen.height() < lowScreen)
         return screen;
 
@@ -303,6 +298,30 @@ QRect KeypadFrame::place(const QRect &screen, const QSize &wish)
     const QRect usual = KeypadPlace::atTheBottom(screen, size);
     const QRect docked = usual.intersects(m_value.place) ? dockedPlace(screen, size) : QRect();
     return docked.isEmpty() ? usual : docked;
+}
+
+/// Those whose keys are large enough, else those with the largest ones.
+KeypadPages KeypadFrame::pagesFor(const QSize &screen) const
+{
+    // A second page has more columns and rows than the first one, and takes the same place.
+    const KeypadLayout wide = layoutOf(m_face.wide.second ? m_face.wide.second : m_face.wide.first);
+    const bool fits = keyWidth(wide, screen) >= m_face.narrowestKey
+                      || leastSide(m_face.wide, screen) >= leastSide(m_face.narrow, screen);
+    const KeypadPages usual = fits ? m_face.wide : m_face.narrow;
+    const bool isLying = screen.width() >= screen.height();
+    const KeypadPages small = isLying ? m_face.smallWide : m_face.smallNarrow;
+    const int side = leastSide(usual, screen);
+    const bool isSmall = qMin(screen.width(), screen.height()) < lowScreen;
+    if (!small.first || !isSmall || side >= KeypadLook::gloveSize())
+        return usual;
+    return leastSide(small, screen) > side ? small : usual;
+}
+
+/// The smaller side of the keys on either page if the keypad has a whole screen.
+int KeypadFrame::leastSide(const KeypadPages &pages, const QSize &screen) const
+{
+    const int side = keySide(layoutOf(pages.first), screen);
+    return pages.second ? qMin(side, keySide(layoutOf(pages.second), screen)) : side;
 }
 
 /// A place beside what is edited, if need be with fewer rows of keys. Empty if there is none.
@@ -446,7 +465,7 @@ bool KeypadFrame::canHavePoint() const
 QSize KeypadFrame::leastOfPages() const
 {
     const QSize least = leastSize(m_layout);
-    return m_textRows ? least.expandedTo(leastSize(layoutOf(m_textRows))) : least;
+    return m_pages.second ? least.expandedTo(leastSize(layoutOf(m_pages.second))) : least;
 }
 
 QSize KeypadFrame::fittingSize(const KeypadLayout &layout, const QSize &screen,
@@ -603,8 +622,10 @@ QString KeypadFrame::labelOf(const KeyButton *key) const
     const QString token = key->token();
     if (token == QLatin1String("symbols") && m_symbols)
         return tr("abc");
-    if (token == QLatin1String("page") && m_isText)
+    if (token == QLatin1String("page") && m_isSecond)
         return tr("GXY");
+    if (token == QLatin1String("digits") && m_isSecond)
+        return tr("abc");
     if (token == QLatin1String("small") && m_isSmall)
         return tr("ABC");
     if (const NamedKey *named = namedKey(token))
@@ -624,7 +645,9 @@ QString KeypadFrame::spokenNameOf(const KeyButton *key) const
     if (key->token() == QLatin1String("symbols"))
         return KeyNames::symbols(m_symbols);
     if (key->token() == QLatin1String("page"))
-        return KeyNames::page(m_isText);
+        return KeyNames::page(m_isSecond);
+    if (key->token() == QLatin1String("digits"))
+        return KeyNames::digits(m_isSecond);
     if (key->token() == QLatin1String("small"))
         return KeyNames::small(m_isSmall);
     if (key->token() == QLatin1String("shift"))
@@ -719,9 +742,10 @@ void KeypadFrame::turnSymbols()
 
 void KeypadFrame::turnPage()
 {
-    m_isText = !m_isText;
+    m_isSecond = !m_isSecond;
     m_isSmall = false;
-    useLayout(layoutOf(m_isText ? m_textRows : m_firstRows));
+    m_symbols = false;
+    useLayout(layoutOf(m_isSecond ? m_pages.second : m_pages.first));
     arrange();
     check();
 }

@@ -27,30 +27,38 @@ struct KeypadRequest
     bool pointEnabled = true;
 };
 
+/// The layouts between which the page key turns; the second is null on a keypad of one page.
+struct KeypadPages
+{
+    const char *const *first;
+    const char *const *second;
+};
+
 /// What makes one keypad differ from the others.
 struct KeypadFace
 {
     KeypadFace(const char *const *wideLayout, const char *const *narrowLayout, int narrowest,
                const QSize &key, bool takesNumbers)
-        : wide(wideLayout)
-        , narrow(narrowLayout)
+        : wide(KeypadPages{wideLayout, nullptr})
+        , narrow(KeypadPages{narrowLayout, nullptr})
         , narrowestKey(narrowest)
         , keySize(key)
         , forNumbers(takesNumbers)
     {}
 
-    /// The layout, and the one for a screen on which the keys of the first would be too narrow.
-    const char *const *wide;
-    const char *const *narrow;
+    /// The pages, and those for a screen on which the keys of the first would be too narrow.
+    KeypadPages wide;
+    KeypadPages narrow;
     int narrowestKey;
+    /// Pages of fewer and larger keys, for a small screen on which those of the others miss a
+    /// glove's size: lying and upright. Null where none are needed.
+    KeypadPages smallWide = KeypadPages();
+    KeypadPages smallNarrow = KeypadPages();
     /// The size of a key where the screen has room and the caller names no size.
     QSize keySize;
     /// Only numbers are typed: the old value is selected, so that typing replaces it, and a comma
     /// is a decimal point.
     bool forNumbers;
-    /// The second page, which the key "page" turns to; null for a keypad of one page.
-    const char *const *wideText = nullptr;
-    const char *const *narrowText = nullptr;
     /// Words of a letter and a number are typed: a new one stands apart from the one before.
     bool forWords = false;
     /// A layout of few rows for a place beside the edited row; null if there is none.
@@ -109,6 +117,8 @@ private Q_SLOTS:
 private:
     enum Shift { ShiftOff, ShiftOnce, ShiftLocked };
 
+    KeypadPages pagesFor(const QSize &screen) const;
+    int leastSide(const KeypadPages &pages, const QSize &screen) const;
     KeypadLayout layoutOf(const char *const *rows) const;
     QSize sizeOf(const KeypadLayout &layout, const QSize &key) const;
     QSize leastOfPages() const;
@@ -167,10 +177,9 @@ private:
     bool m_isOpen = false;
     Shift m_shift = ShiftOff;
     bool m_symbols = false;
-    /// The layouts of both pages on this screen, and which of them is shown.
-    const char *const *m_firstRows;
-    const char *const *m_textRows = nullptr;
-    bool m_isText = false;
+    /// The layouts on this screen, and which of them is shown.
+    KeypadPages m_pages;
+    bool m_isSecond = false;
     /// The second page has small letters.
     bool m_isSmall = false;
     bool m_mayGoOn = false;

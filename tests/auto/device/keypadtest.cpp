@@ -11,9 +11,10 @@ void KeypadTest::init()
     setScreen(QRect(0, 0, 800, 480));
 }
 
-void KeypadTest::setScreen(const QRect &screen)
+void KeypadTest::setScreen(const QRect &screen, double dotsPerInch)
 {
     qApp->setProperty("hmiScreen", screen);
+    qApp->setProperty("hmiDotsPerInch", dotsPerInch > 0 ? QVariant(dotsPerInch) : QVariant());
 }
 
 int KeypadTest::run(QDialog *keypad, const std::function<void()> &step)
@@ -48,6 +49,29 @@ void KeypadTest::click(QDialog *keypad, const char *tokens)
                          __LINE__);
         QTest::mouseClick(button, Qt::LeftButton);
     }
+}
+
+void KeypadTest::clickOnAnyPage(QDialog *keypad, const char *tokens)
+{
+    Q_FOREACH (const QString &token, QString::fromLatin1(tokens).split(QLatin1Char(' '))) {
+        const QAbstractButton *button =
+            keypad->findChild<QAbstractButton *>(QLatin1String("key_") + token);
+        if ((!button || !button->isVisible()) && pageKey(keypad))
+            QTest::mouseClick(pageKey(keypad), Qt::LeftButton);
+        click(keypad, token.toLatin1());
+    }
+}
+
+QAbstractButton *KeypadTest::pageKey(QDialog *keypad)
+{
+    Q_FOREACH (const char *token, QList<const char *>() << "page"
+                                                        << "digits") {
+        QAbstractButton *button =
+            keypad->findChild<QAbstractButton *>(QLatin1String("key_") + QLatin1String(token));
+        if (button && button->isVisible())
+            return button;
+    }
+    return nullptr;
 }
 
 QLineEdit *KeypadTest::value(QDialog *keypad)

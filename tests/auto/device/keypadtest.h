@@ -39,8 +39,8 @@ class KeypadTest : public FilarixTest
     Q_OBJECT
 
 public:
-    /// The panel's screen for the keypads.
-    static void setScreen(const QRect &screen);
+    /// The panel's screen for the keypads. Without \a dotsPerInch they take the usual ones.
+    static void setScreen(const QRect &screen, double dotsPerInch = 0);
 
     /// Runs \a keypad and \a step while it is open. A step that leaves it open, or fails, has it
     /// rejected, so that no test hangs.
@@ -50,6 +50,10 @@ public:
     static QAbstractButton *key(QDialog *keypad, const char *token);
     /// Presses keys one after the other, each named by its token.
     static void click(QDialog *keypad, const char *tokens);
+    /// The same, and turns to the other page for a key that stands there.
+    static void clickOnAnyPage(QDialog *keypad, const char *tokens);
+    /// The key that turns to another page, or null.
+    static QAbstractButton *pageKey(QDialog *keypad);
     static QLineEdit *value(QDialog *keypad);
     /// The text of one of the lines "title", "hint", "oldValue", "limit" and "reason"; null while
     /// it is hidden.

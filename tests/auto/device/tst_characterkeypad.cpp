@@ -22,6 +22,9 @@ private Q_SLOTS:
     void keyTypesWhatItShows_data();
     void keyTypesWhatItShows();
     void hasTheSignsOfFileNames();
+    void smallScreenHasThemOnTwoPages_data();
+    void smallScreenHasThemOnTwoPages();
+    void pageOfLettersComesBackWithoutSymbols();
     void shiftIsForOneLetter();
     void shiftTwiceStays();
     void symbolsStandOnTheLetterKeys();
@@ -42,12 +45,12 @@ private:
     static QString allKeys();
 };
 
-/// What the typing keys show, sorted.
+/// What the typing keys of the page show, sorted.
 QString TestCharacterKeypad::allKeys()
 {
     QStringList shown;
     Q_FOREACH (QAbstractButton *button, pad()->findChildren<QAbstractButton *>()) {
-        if (button->text().length() == 1)
+        if (button->isVisible() && button->text().length() == 1)
             shown.append(button->text());
     }
     shown.sort();
@@ -88,35 +91,51 @@ void TestCharacterKeypad::cancelLeavesThePropertyAlone()
 void TestCharacterKeypad::keyTypesWhatItShows_data()
 {
     QTest::addColumn<QRect>("screen");
+    QTest::addColumn<double>("dotsPerInch");
     QTest::addColumn<QString>("before");
-    Q_FOREACH (const QSize &size, QList<QSize>() << QSize(800, 480) << QSize(272, 480)) {
-        const QByteArray name = QByteArray::number(size.width());
-        QTest::newRow(("small, width " + name).constData()) << QRect(QPoint(), size) << "";
+    QTest::addColumn<int>("typing");
+    const auto add = [](const QSize &size, double dotsPerInch, int typing) {
+        const QByteArray name =
+            QByteArray::number(size.width()) + (dotsPerInch > 0 ? ", coarse" : "");
+        const QRect screen(QPoint(0, 0), size);
+        QTest::newRow(("small, width " + name).constData())
+            << screen << dotsPerInch << "" << typing;
         QTest::newRow(("large, width " + name).constData())
-            << QRect(QPoint(), size) << "shift shift";
-        QTest::newRow(("symbols, width " + name).constData()) << QRect(QPoint(), size) << "symbols";
-    }
+            << screen << dotsPerInch << "shift shift" << typing;
+        QTest::newRow(("symbols, width " + name).constData())
+            << screen << dotsPerInch << "symbols" << typing;
+    };
+    // 26 letters or symbols, ten digits, dash, underscore and point.
+    add(QSize(800, 480), 0, 39);
+    add(QSize(272, 480), 96, 39);
+    // The letters alone, or with an underscore.
+    add(QSize(480, 272), 0, 26);
+    add(QSize(272, 480), 0, 27);
+    // Digits and the signs of names.
+    QTest::newRow("digits, lying") << QRect(0, 0, 480, 272) << 0.0 << "digits" << 25;
+    QTest::newRow("digits, upright") << QRect(0, 0, 272, 480) << 0.0 << "digits" << 29;
 }
 
 void TestCharacterKeypad::keyTypesWhatItShows()
 {
     QFETCH(QRect, screen);
+    QFETCH(double, dotsPerInch);
     QFETCH(QString, before);
-    setScreen(screen);
+    QFETCH(int, typing);
+    setScreen(screen, dotsPerInch);
     runPad([&] {
         if (!before.isEmpty())
             click(pad(), before.toLatin1());
-        int typing = 0;
+        int typed = 0;
         Q_FOREACH (QAbstractButton *button, pad()->findChildren<QAbstractButton *>()) {
-            if (button->text().length() != 1)
+            if (!button->isVisible() || button->text().length() != 1)
                 continue;
             click(pad(), "clear");
             QTest::mouseClick(button, Qt::LeftButton);
             QCOMPARE(value(pad())->text(), button->text());
-            ++typing;
+            ++typed;
         }
-        // 26 letters or symbols, ten digits, dash, underscore and point.
-        QCOMPARE(typing, 39);
+        QCOMPARE(typed, typing);
     });
 }
 
@@ -127,6 +146,59 @@ void TestCharacterKeypad::hasTheSignsOfFileNames()
         click(pad(), "symbols");
         Q_FOREACH (QChar sign, QString::fromLatin1("-_.()+=@#&,~[]{}!%'"))
             QVERIFY2(allKeys().contains(sign), qPrintable(QString(sign)));
+    });
+}
+
+void TestCharacterKeypad::smallScreenHasThemOnTwoPages_data()
+{
+    QTest::addColumn<QRect>("screen");
+    QTest::newRow("lying") << QRect(0, 0, 480, 272);
+    QTest::newRow("upright") << QRect(0, 0, 272, 480);
+}
+
+void TestCharacterKeypad::smallScreenHasThemOnTwoPages()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    Caller caller;
+    pad()->setObject(&caller);
+    pad()->setText(QLatin1String("coil"));
+    runPad([&] {
+        QString all = allKeys();
+        QCOMPARE(key(pad(), "digits")->text(), QString("123"));
+        click(pad(), "digits");
+        QCOMPARE(key(pad(), "digits")->text(), QString("abc"));
+        // The same place: who errs goes back with a second touch.
+        const QRect place = key(pad(), "digits")->geometry();
+        all += allKeys();
+        click(pad(), "digits");
+        QCOMPARE(key(pad(), "digits")->geometry(), place);
+        click(pad(), "symbols");
+        all += allKeys();
+        Q_FOREACH (QChar sign, QString("abcdefghijklmnopqrstuvwxyz0123456789-_.!#$%&()+=@[]{}~^"
+                                       ",;':/\\?*<>"))
+            QVERIFY2(all.contains(sign), qPrintable(QString(sign)));
+        click(pad(), "symbols clear l a y e r digits _ 0 7 . digits c n c ok");
+    });
+    QCOMPARE(caller.text(), QString("layer_07.cnc"));
+}
+
+void TestCharacterKeypad::pageOfLettersComesBackWithoutSymbols()
+{
+    setScreen(QRect(0, 0, 480, 272));
+    runPad([] {
+        click(pad(), "symbols digits digits");
+        QCOMPARE(key(pad(), "a")->text(), QString("a"));
+        QVERIFY(key(pad(), "shift")->isEnabled());
+        click(pad(), "shift shift a digits 1 digits b");
+        QCOMPARE(value(pad())->text(), QString("A1B"));
+        click(pad(), "digits");
+    });
+    // The next caller sees letters first.
+    runPad([] {
+        QVERIFY(key(pad(), "a")->isVisible());
+        QVERIFY(!key(pad(), "7")->isVisible());
+        QCOMPARE(key(pad(), "a")->text(), QString("a"));
     });
 }
 

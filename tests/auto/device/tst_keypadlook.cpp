@@ -9,6 +9,7 @@
 #include <hmidevice/numerickeypad.h>
 
 #include <QIntValidator>
+#include <QTranslator>
 
 /// The keypads are light or dark with the host, and readable either way.
 class TestKeypadLook : public KeypadTest
@@ -22,6 +23,10 @@ private Q_SLOTS:
     void goesWithTheHost();
     void keysFitAGloveAtEachFineness_data();
     void keysFitAGloveAtEachFineness();
+    void everyKeyFitsAGloveOnSmallScreens_data();
+    void everyKeyFitsAGloveOnSmallScreens();
+    void neighboursHaveLettersOfOneSize_data();
+    void neighboursHaveLettersOfOneSize();
     void lettersGrowWithTheHosts_data();
     void lettersGrowWithTheHosts();
     void followsWhileOpen_data();
@@ -31,6 +36,9 @@ private:
     enum Look { Light, Dark, HighContrast };
     static void setLook(int look);
     static QDialog *keypad(const QString &kind);
+    static QString smallKeys(QDialog *pad, const QRect &screen, int side);
+    static QString unevenLetters(QDialog *pad);
+    static int inkHeight(QAbstractButton *button);
 };
 
 void TestKeypadLook::setLook(int look)
@@ -184,8 +192,8 @@ void TestKeypadLook::keysFitAGloveAtEachFineness()
 {
     QFETCH(QVariant, dotsPerInch);
     QFETCH(int, side);
-    qApp->setProperty("hmiDotsPerInch", dotsPerInch);
     setScreen(QRect(0, 0, 800, 800));
+    qApp->setProperty("hmiDotsPerInch", dotsPerInch);
     Caller caller;
     caller.setProperty("hmiEditedRect", QRect(0, 390, 800, 20));
     NumericKeypad *pad = NumericKeypad::instance();
@@ -195,6 +203,141 @@ void TestKeypadLook::keysFitAGloveAtEachFineness()
         QCOMPARE(layoutFault(pad, QRect(0, 0, 800, 800), side - 1), QString());
         QVERIFY(key(pad, "7")->width() <= side + 2);
     });
+}
+
+/// What is wrong with the page that is shown.
+QString TestKeypadLook::smallKeys(QDialog *pad, const QRect &screen, int side)
+{
+    const QString fault = layoutFault(pad, screen, side);
+    return fault.isEmpty() ? QString() : pad->objectName() + QLatin1String(": ") + fault;
+}
+
+void TestKeypadLook::everyKeyFitsAGloveOnSmallScreens_data()
+{
+    QTest::addColumn<QRect>("screen");
+    QTest::addColumn<QString>("language");
+    Q_FOREACH (const QRect &screen, QList<QRect>()
+                                        << QRect(0, 0, 480, 272) << QRect(0, 0, 272, 480)) {
+        Q_FOREACH (const char *language, QList<const char *>() << "en"
+                                                               << "de"
+                                                               << "it"
+                                                               << "tr"
+                                                               << "zh_CN") {
+            const QByteArray name = QByteArray::number(screen.width()) + ' ' + language;
+            QTest::newRow(name.constData()) << screen << language;
+        }
+    }
+}
+
+// On the usual panel of 4.3 inches: 128 dots an inch, of which 9 mm are 46. With limits, the key
+// for the next line, larger letters and a reason beside the value.
+void TestKeypadLook::everyKeyFitsAGloveOnSmallScreens()
+{
+    QFETCH(QRect, screen);
+    QFETCH(QString, language);
+    const int side = 46;
+    QTranslator translator;
+    if (language != "en") {
+        QVERIFY(translator.load("hmidevice-sim_" + language, FILARIX_TRANSLATIONS));
+        QApplication::installTranslator(&translator);
+    }
+    setScreen(screen, 128);
+    Caller caller;
+    caller.setProperty("hmiName", QString("N5 Tension"));
+    caller.setProperty("hmiUnit", QString("N"));
+    caller.setProperty("hmiMinimum", 0.5);
+    caller.setProperty("hmiMaximum", 8.5);
+    caller.setProperty("hmiNextLine", true);
+    int pages = 0;
+    Q_FOREACH (int percent, QList<int>() << 100 << 150) {
+        qApp->setProperty("hmiTextSize", percent);
+        Q_FOREACH (const char *kind, QList<const char *>() << "numeric"
+                                                           << "character"
+                                                           << "gcode") {
+            QDialog *pad = keypad(kind);
+            NumericKeypad::instance()->setObject(&caller);
+            CharacterKeypad::instance()->setObject(&caller);
+            GCodeKeypad::instance()->setObject(&caller);
+            run(pad, [&] {
+                QCOMPARE(smallKeys(pad, screen, side), QString());
+                // The value's name and limits stand above the keys, whatever the place takes.
+                QVERIFY(line(pad, "title").contains("N5 Tension, N"));
+                QVERIFY(line(pad, "title").contains("0.5") && line(pad, "title").contains("8.5"));
+                ++pages;
+                if (!pageKey(pad))
+                    return;
+                QTest::mouseClick(pageKey(pad), Qt::LeftButton);
+                QCOMPARE(smallKeys(pad, screen, side), QString());
+                QVERIFY(line(pad, "title").contains("N5 Tension, N"));
+                QVERIFY(line(pad, "title").contains("0.5") && line(pad, "title").contains("8.5"));
+                ++pages;
+            });
+        }
+    }
+    QCOMPARE(pages, 2 * 5);
+}
+
+/// Of what is painted on a key, its face and edge apart.
+int TestKeypadLook::inkHeight(QAbstractButton *button)
+{
+    const QString shown = button->text();
+    // One letter on all: "a" and "W" are not as high at one size.
+    button->setText(QLatin1String("H"));
+    const QImage image = TestCompat::grab(button).toImage();
+    button->setText(shown);
+    const QRgb face = image.pixel(image.width() / 2, 5);
+    int rows = 0;
+    for (int y = 6; y < image.height() - 6; ++y) {
+        bool hasInk = false;
+        for (int x = 6; x < image.width() - 6; ++x)
+            hasInk = hasInk || image.pixel(x, y) != face;
+        rows += hasInk ? 1 : 0;
+    }
+    return rows;
+}
+
+/// A key whose text is larger or smaller than that of the others of its kind; or that a word is no
+/// smaller than a single character.
+QString TestKeypadLook::unevenLetters(QDialog *pad)
+{
+    const QStringList drawn = QString("back left right space shift").split(QLatin1Char(' '));
+    int heights[] = {0, 0};
+    Q_FOREACH (QAbstractButton *button, pad->findChildren<QAbstractButton *>()) {
+        const QString token = button->objectName().mid(4);
+        if (!button->isVisible() || drawn.contains(token))
+            continue;
+        int &usual = heights[button->text().length() > 1 ? 1 : 0];
+        const int height = inkHeight(button);
+        if (usual != 0 && height != usual)
+            return token + QString::fromLatin1(" has %1, others %2").arg(height).arg(usual);
+        usual = height;
+    }
+    if (heights[1] == 0 || heights[1] >= heights[0])
+        return QString::fromLatin1("words %1, characters %2").arg(heights[1]).arg(heights[0]);
+    return QString();
+}
+
+void TestKeypadLook::neighboursHaveLettersOfOneSize_data()
+{
+    addScreens();
+}
+
+void TestKeypadLook::neighboursHaveLettersOfOneSize()
+{
+    QFETCH(QRect, screen);
+    setScreen(screen);
+    Q_FOREACH (const char *kind, QList<const char *>() << "numeric"
+                                                       << "character"
+                                                       << "gcode") {
+        QDialog *pad = keypad(kind);
+        run(pad, [&] {
+            QCOMPARE(unevenLetters(pad), QString());
+            if (!pageKey(pad))
+                return;
+            QTest::mouseClick(pageKey(pad), Qt::LeftButton);
+            QCOMPARE(unevenLetters(pad), QString());
+        });
+    }
 }
 
 void TestKeypadLook::lettersGrowWithTheHosts_data()

@@ -136,7 +136,8 @@ void TestKeypads::headStandsAboveTheKeys()
             QVERIFY(isWhollyShown(hint));
         }
         Q_FOREACH (QAbstractButton *button, pad->findChildren<QAbstractButton *>())
-            QVERIFY(button->geometry().top() > value(pad)->geometry().bottom());
+            QVERIFY(!button->isVisible()
+                    || button->geometry().top() > value(pad)->geometry().bottom());
     });
 }
 
@@ -160,13 +161,13 @@ void TestKeypads::keysOfEditingAreThere()
         GCodeKeypad::instance()->setObject(&caller);
     setText(kind, QLatin1String("9"));
     const int result = run(pad, [&] {
-        click(pad, "clear 1 2 3 left left 4 right 5 back 6 right right right back");
+        clickOnAnyPage(pad, "clear 1 2 3 left left 4 right 5 back 6 right right right back");
         QCOMPARE(value(pad)->text(), QString("1426"));
         click(pad, "ok");
     });
     QCOMPARE(result, 1);
     QCOMPARE(caller.text(), QString("1426"));
-    QCOMPARE(run(pad, [&] { click(pad, "1 cancel"); }), 0);
+    QCOMPARE(run(pad, [&] { clickOnAnyPage(pad, "1 cancel"); }), 0);
     QCOMPARE(caller.writes, 1);
 }
 
@@ -238,7 +239,7 @@ void TestKeypads::placeOfTypingStaysInView()
     setText(kind, QString(200, QLatin1Char('8')));
     run(pad, [&] {
         QLineEdit *edit = value(pad);
-        click(pad, "right 1");
+        clickOnAnyPage(pad, "right 1");
         QVERIFY(isCursorInView(edit));
         for (int i = 0; i < 120; ++i) {
             click(pad, "left");
@@ -299,7 +300,7 @@ void TestKeypads::refusedTextMakesOkGreyAndAWordSaysWhy()
         QCOMPARE(line(pad, "reason"), QString("At most 20"));
         QCOMPARE(layoutFault(pad, screen, 38), QString());
         const QImage grey = TestCompat::grab(key(pad, "ok")).toImage();
-        click(pad, "clear 9");
+        clickOnAnyPage(pad, "clear 9");
         QVERIFY(key(pad, "ok")->isEnabled());
         QCOMPARE(line(pad, "reason"), QString(""));
         QVERIFY(TestCompat::grab(key(pad, "ok")).toImage() != grey);
