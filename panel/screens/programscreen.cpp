@@ -39,6 +39,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -405,7 +406,45 @@ bool ProgramScreen::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::LayoutRequest && m_fileLabel
         && watched == m_fileLabel->parentWidget())
         nameUnnamed();
+    if (m_fileLabel && watched == m_fileLabel->parentWidget() && passToState(event))
+        return true;
     return PanelScreen::eventFilter(watched, event);
+}
+
+/// The line of the state is lower than a finger on a small panel, and the program's name below it
+/// is no key: a touch there counts as one on the line.
+bool ProgramScreen::passToState(const QEvent *event)
+{
+    const QEvent::Type type = event->type();
+    const bool isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (!isPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease)
+        return false;
+    const QMouseEvent *mouse = static_cast<const QMouseEvent *>(event);
+    if (isPress)
+        m_isOnState = m_stateLine->isVisible() && m_stateLine->height() < TapArea::leastHeight()
+                      && isOnName(mouse->pos());
+    if (!m_isOnState)
+        return false;
+    m_isOnState = type != QEvent::MouseButtonRelease;
+    QPoint point = m_stateLine->mapFromGlobal(mouse->globalPos());
+    if (isOnName(mouse->pos()))
+        point.setY(m_stateLine->rect().bottom());
+    QMouseEvent passed(type, point, mouse->button(), mouse->buttons(), mouse->modifiers());
+    QApplication::sendEvent(m_stateLine, &passed);
+    return true;
+}
+
+/// Left of the read-out, which is touched to go to a line.
+bool ProgramScreen::isOnName(const QPoint &point) const
+{
+    const QWidget *strip = m_fileLabel->parentWidget();
+    QRect place = strip->rect();
+    const QList<QLabel *> labels = strip->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label != m_fileLabel)
+            place.setRight(qMin(place.right(), label->x() - 1));
+    }
+    return place.contains(point);
 }
 
 // One name for it, on the strip above the editor as well.

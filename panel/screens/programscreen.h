@@ -98,6 +98,8 @@ private:
     void makeWalk();
     void connectLoad();
     void nameUnnamed();
+    bool passToState(const QEvent *event);
+    bool isOnName(const QPoint &point) const;
     void showState();
     void showCheck();
     void listFindings();
@@ -124,6 +126,8 @@ private:
     RecentPrograms *m_recent;
     ProgramPickers *m_pickers;
     StateLine *m_stateLine;
+    /// A finger that came down below it counts for it.
+    bool m_isOnState = false;
     QGridLayout *m_layout;
     QWidget *m_beside = nullptr;
     const ProgramReview *m_review = nullptr;

@@ -8,6 +8,7 @@
 #include "heldfile.h"
 #include "look/look.h"
 #include "look/panelkey.h"
+#include "look/taparea.h"
 #include "modaldriver.h"
 #include "programs/checkeddownload.h"
 #include "programs/recentprograms.h"
@@ -16,6 +17,7 @@
 #include "screens/programreview.h"
 #include "screens/programscreen.h"
 #include "shell/messagelog.h"
+#include "shell/stateline.h"
 #include "wgcodeediter.h"
 #include "wmmainwindow.h"
 
@@ -24,6 +26,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTextDocument>
@@ -67,6 +70,7 @@ private Q_SLOTS:
     void closingIsRefusedWhileASaveHangs();
     void undoKeyIsOffAfterOpening();
     void stateStaysInView();
+    void touchBesidesTheStateCounts();
     void questionShowsBothNumbers();
     void questionTellsOfOtherLines();
     void partIsSentByNoWay();
@@ -634,6 +638,57 @@ void TestProgramScreen::stateStaysInView()
     QCOMPARE(explained.at(0).at(0).toString(), text);
     QTest::mouseClick(button("New"), Qt::LeftButton);
     QTRY_VERIFY(!line->isVisible());
+}
+
+// Where it is lower than a finger.
+void TestProgramScreen::touchBesidesTheStateCounts()
+{
+    StateLine *line = m_screen->findChild<StateLine *>();
+    QLabel *name = m_screen->programWindow()->widget(0)->findChild<QLabel *>();
+    QWidget *strip = name->parentWidget();
+    const QPoint onName(6, strip->height() / 2);
+    QSignalSpy explained(m_screen, SIGNAL(explained(QString)));
+
+    // Wide enough for one line.
+    m_screen->resize(1024, m_screen->height());
+    open("long.cnc", "; head\n" + QByteArray("G01 X1\n").repeated(600));
+    QVERIFY(line->isVisible());
+    QVERIFY(line->height() >= TapArea::leastHeight());
+    QTest::mouseClick(strip, Qt::LeftButton, {}, onName);
+    QCOMPARE(explained.size(), 0);
+
+    line->setLeastHeight(0);
+    QVERIFY(line->height() < TapArea::leastHeight());
+    QTRY_COMPARE(strip->mapTo(m_screen, QPoint(0, 0)).y(), line->geometry().bottom() + 1);
+    QVERIFY(line->height() + strip->height() >= TapArea::leastHeight());
+    const QImage released = line->grab().toImage();
+    QTest::mousePress(strip, Qt::LeftButton, {}, onName);
+    QVERIFY(line->grab().toImage() != released);
+    QTest::mouseRelease(strip, Qt::LeftButton, {}, onName);
+    QCOMPARE(line->grab().toImage(), released);
+    QCOMPARE(explained.size(), 1);
+    QVERIFY(explained.at(0).at(0).toString().startsWith("602 lines"));
+
+    // A finger that slips away means nothing.
+    QTest::mousePress(strip, Qt::LeftButton, {}, onName);
+    const QPoint away(6, strip->height() + 60);
+    QMouseEvent move(QEvent::MouseMove, away, strip->mapToGlobal(away), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(strip, &move);
+    QCOMPARE(line->grab().toImage(), released);
+    QTest::mouseRelease(strip, Qt::LeftButton, {}, away);
+    QCOMPARE(explained.size(), 1);
+
+    // The read-out is the one to go to a line.
+    QTest::mousePress(strip, Qt::LeftButton, {}, QPoint(strip->width() - 6, onName.y()));
+    QCOMPARE(line->grab().toImage(), released);
+    QTest::mouseRelease(strip, Qt::LeftButton, {}, QPoint(6, -60));
+
+    // Without a state the strip is the name's alone.
+    QTest::mouseClick(button("New"), Qt::LeftButton);
+    QTRY_VERIFY(!line->isVisible());
+    QTest::mouseClick(strip, Qt::LeftButton, {}, onName);
+    QCOMPARE(explained.size(), 1);
 }
 
 void TestProgramScreen::questionShowsBothNumbers()
