@@ -6,8 +6,10 @@
 #include "look/recolour.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QToolButton>
 #include <QVariant>
 #include <QWidget>
 
@@ -18,6 +20,8 @@ namespace {
 using Look::Role;
 
 const char dressProperty[] = "lookDress";
+const char toneProperty[] = "tone";
+const char dangerProperty[] = "danger";
 // The toolkit's own.
 const char iconLabelName[] = "qt_msgboxex_icon_label";
 
@@ -66,74 +70,51 @@ const struct
 
 const char *const styleNames[] = {"light", "dark", "high-contrast"};
 
-QString hex(Role role)
+/// What the frame or the bar is read on; nothing while it tells nothing.
+bool toneGround(const QWidget *widget, QColor *ground)
 {
-    return Look::colour(role).name();
+    static const struct
+    {
+        const char *tone;
+        Role ground;
+    } grounds[] = {
+        {"information", Role::OkGround},
+        {"warning", Role::WarningGround},
+        {"alarm", Role::AlarmGround},
+    };
+    const QString tone = widget->property(toneProperty).toString();
+    for (const auto &entry : grounds) {
+        if (tone != QLatin1String(entry.tone))
+            continue;
+        *ground = Look::colour(entry.ground);
+        return true;
+    }
+    return false;
 }
 
-QString stripSheet()
+/// What lies on the ground of a dressed widget is read by these.
+QPalette paletteOn(const QWidget *widget, Look::Dress dress)
 {
-    return QString::fromLatin1("#strip, #menu { background: %1; }"
-                               "QLabel, ElidedLabel { color: %2; background: transparent; }"
-                               "PanelKey { color: %2; background: %3; border: 0;"
-                               "  border-radius: 6px; padding: 1px; }"
-                               "PanelKey:checked { background: %4; }"
-                               "PanelKey:pressed { background: %5; }"
-                               "PanelKey:disabled { color: %6; background: %7; }")
-        .arg(hex(Role::Strip), hex(Role::StripText), hex(Role::StripKey), hex(Role::Accent),
-             hex(Role::Pressed), hex(Role::StripFaint), hex(Role::StripKeyOff));
+    QPalette palette;
+    if (dress == Look::KeyPanel)
+        return palette;
+    QColor ground = Look::colour(Role::Strip);
+    const bool hasGround = Look::hasGround(widget, &dress, &ground);
+    if (dress == Look::MessageLine && !hasGround)
+        return palette;
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, Look::colour(Role::StripText));
+    return palette;
 }
 
-QString keyPanelSheet()
+/// A tool button keeps the size that it has reckoned until something of its own changes.
+void tellKeys(QWidget *widget)
 {
-    return QString::fromLatin1("PanelKey { color: %1; background: %2; border: 1px solid %3;"
-                               "  border-radius: 6px; padding: 1px; }"
-                               "PanelKey:checked { color: %4; background: %5; }"
-                               "PanelKey:pressed { color: %1; background: %6; }"
-                               "PanelKey:checked:pressed { color: %4; background: %9; }"
-                               "PanelKey:disabled { color: %7; background: %8; }")
-        .arg(hex(Role::Text), hex(Role::Key), hex(Role::KeyLine), hex(Role::OnAccent),
-             hex(Role::Accent), hex(Role::KeyPressed), hex(Role::KeyFaint), hex(Role::KeyOff),
-             hex(Role::Pressed));
-}
-
-/// The rules by which the frames that \a frame selects have the ground of their tone.
-QString toneRules(const QString &frame)
-{
-    return QString::fromLatin1("%1 { border: 0; border-radius: 6px; background: transparent; }"
-                               "%1[tone=\"information\"] { background: %2; }"
-                               "%1[tone=\"warning\"] { background: %3; }"
-                               "%1[tone=\"alarm\"] { background: %4; }")
-        .arg(frame, hex(Role::OkGround), hex(Role::WarningGround), hex(Role::AlarmGround));
-}
-
-QString messageRowSheet()
-{
-    return toneRules(QLatin1String("#messageBar")) + stripSheet();
-}
-
-QString pickerStripSheet()
-{
-    return QString::fromLatin1("#pickerStrip { background: %1; }"
-                               "#pickerStrip[danger=\"true\"] { background: %8; }"
-                               "QLabel { color: %2; background: transparent; }"
-                               "QToolButton { color: %2; background: %3; border: 0;"
-                               "  border-radius: 6px; padding: 1px; }"
-                               "QToolButton:checked { background: %4; }"
-                               "QToolButton:pressed { background: %5; }"
-                               "QToolButton:disabled { color: %6; background: %7; }"
-                               "QLineEdit { border: 1px solid %9; border-radius: 6px; }")
-        .arg(hex(Role::Strip), hex(Role::StripText), hex(Role::StripKey), hex(Role::Accent),
-             hex(Role::Pressed), hex(Role::StripFaint), hex(Role::StripKeyOff),
-             hex(Role::AlarmGround), hex(Role::StripFaint));
-}
-
-QString messageListSheet()
-{
-    return toneRules(QLatin1String("#message"))
-           + QString::fromLatin1("#message QLabel { color: %1; background: transparent; }"
-                                 "#message[tone=\"none\"] QLabel { color: %2; }")
-                 .arg(hex(Role::OnAccent), hex(Role::Text));
+    const QList<QToolButton *> keys = widget->findChildren<QToolButton *>();
+    for (QToolButton *key : keys) {
+        QEvent change(QEvent::StyleChange);
+        QApplication::sendEvent(key, &change);
+    }
 }
 
 /// A message box keeps the picture that was drawn when it was made. Given to the box itself, a new
@@ -158,9 +139,7 @@ void Look::use(Style style)
     QApplication::setPalette(palette());
     const QWidgetList all = QApplication::allWidgets();
     for (QWidget *widget : all) {
-        const QVariant dress = widget->property(dressProperty);
-        if (dress.isValid())
-            widget->setStyleSheet(sheet(Dress(dress.toInt())));
+        dressAgain(widget);
         if (const QMessageBox *box = qobject_cast<QMessageBox *>(widget))
             redrawIcon(box);
     }
@@ -194,7 +173,45 @@ bool Look::read(const QString &text, Style *style)
 void Look::dress(QWidget *widget, Dress dress)
 {
     widget->setProperty(dressProperty, int(dress));
-    widget->setStyleSheet(sheet(dress));
+    // The toolkit asks the style for a ground only where it is told to.
+    if (dress != KeyPanel)
+        widget->setAttribute(Qt::WA_StyledBackground);
+    dressAgain(widget);
+    tellKeys(widget);
+}
+
+void Look::dressAgain(QWidget *widget)
+{
+    const QVariant dress = widget->property(dressProperty);
+    if (!dress.isValid() || dress.toInt() == KeyPanel)
+        return;
+    widget->setPalette(paletteOn(widget, Dress(dress.toInt())));
+    widget->update();
+}
+
+bool Look::isDressed(const QWidget *widget, Dress *dress)
+{
+    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        const QVariant own = widget->property(dressProperty);
+        if (!own.isValid())
+            continue;
+        *dress = Dress(own.toInt());
+        return true;
+    }
+    return false;
+}
+
+bool Look::hasGround(const QWidget *widget, Dress *dress, QColor *ground)
+{
+    const QVariant own = widget ? widget->property(dressProperty) : QVariant();
+    if (!own.isValid() || own.toInt() == KeyPanel)
+        return false;
+    *dress = Dress(own.toInt());
+    if (*dress == MessageRow || *dress == MessageLine)
+        return toneGround(widget, ground);
+    const bool isDanger = *dress == PickerStrip && widget->property(dangerProperty).toBool();
+    *ground = colour(isDanger ? Role::AlarmGround : Role::Strip);
+    return true;
 }
 
 void Look::keepLight(QWidget *widget)
@@ -204,23 +221,6 @@ void Look::keepLight(QWidget *widget)
     palette.setColor(QPalette::AlternateBase, Recolour::lineMark(currentStyle));
     palette.setColor(QPalette::Text, colour(Role::Text, Light));
     widget->setPalette(palette);
-}
-
-QString Look::sheet(Dress dress)
-{
-    switch (dress) {
-    case Strip:
-        return stripSheet();
-    case KeyPanel:
-        return keyPanelSheet();
-    case MessageRow:
-        return messageRowSheet();
-    case PickerStrip:
-        return pickerStripSheet();
-    case MessageList:
-        return messageListSheet();
-    }
-    return QString();
 }
 
 QPalette Look::palette()

@@ -14,15 +14,15 @@
 
 class QWidget;
 
-/// The one look of the host: its colours and the style sheets of its own strips. There are three:
-/// light, dark for a dim hall, and one of high contrast for glare.
+/// The one look of the host: its colours, and what its own strips and keys are dressed as. There
+/// are three: light, dark for a dim hall, and one of high contrast for glare.
 ///
 /// Each colour has a role, and one table says what it is in each look. A pair of roles of which one
 /// lies on the other stands in pairs(), which tests hold to leastContrast().
 ///
-/// Sheets are set on the host's own widgets only, never on the application or on a parent of a
-/// widget of the library. The library's rows and fields carry fixed sheets of their own, and the
-/// words of its editor have fixed dark colours. Recolour brings all of these into the other looks.
+/// A dress is a palette and what PanelStyle draws by it, and no style sheet. The library's rows and
+/// fields carry fixed sheets of their own, and the words of its editor have fixed dark colours.
+/// Recolour brings all of these into the other looks.
 ///
 ///     Look::use(Look::Dark);
 ///     Look::dress(strip, Look::Strip);
@@ -81,7 +81,7 @@ enum Dress {
     KeyPanel,    ///< PanelKeys beside a screen's content.
     MessageRow,  ///< The message bar, by its property "tone"; see ToneMark::put().
     PickerStrip, ///< The strip of a program picker, by its property "danger".
-    MessageList  ///< The messages of a list, the frames named "message", by the same property.
+    MessageLine  ///< A message of a list, by its property "tone".
 };
 
 /// The style in use; light until another one is chosen.
@@ -97,14 +97,18 @@ QString settingsKey();
 /// Reads what name() gives; false, and \a style as it was, for anything else.
 bool read(const QString &name, Style *style);
 
-/// Gives a widget the style sheet of its kind, now and at each change of the style. Once a
-/// widget.
+/// Gives a widget and what is in it the colours of a kind, now and at each change of the style.
+/// What PanelStyle draws follows. Once a widget.
 void dress(QWidget *widget, Dress dress);
+/// After a change of the properties that its dress goes by.
+void dressAgain(QWidget *widget);
+/// Whether \a widget, or one around it in its window, is dressed; and as what the nearest is.
+bool isDressed(const QWidget *widget, Dress *dress);
+/// Whether \a widget itself is dressed as something with a ground of its own.
+bool hasGround(const QWidget *widget, Dress *dress, QColor *ground);
 /// Dark words on light ground, for the library's editor, whose words have fixed dark colours. In
 /// the other looks Recolour changes what it draws.
 void keepLight(QWidget *widget);
-/// The sheet of a kind in the style in use.
-QString sheet(Dress dress);
 
 QPalette palette();
 QPalette palette(Style style);

@@ -6,11 +6,8 @@
 #include "look/livetext.h"
 #include "look/look.h"
 #include "look/measures.h"
-#include "look/stylekeys.h"
 
 #include <QEvent>
-#include <QStyleOption>
-#include <QStylePainter>
 
 namespace {
 
@@ -77,25 +74,6 @@ void PanelKey::focusInEvent(QFocusEvent *event)
     for (PanelKey *key :
          parentWidget()->findChildren<PanelKey *>(QString(), Qt::FindDirectChildrenOnly))
         key->setFocusPolicy(Qt::TabFocus);
-}
-
-// Of a key that a sheet dresses the toolkit draws all by itself, and does not ask the panel's
-// style.
-void PanelKey::paintEvent(QPaintEvent *event)
-{
-    QStyleOptionToolButton key;
-    initStyleOption(&key);
-    const QRect label = StyleKeys::labelOn(key);
-    if (label == key.rect)
-        return QToolButton::paintEvent(event);
-    QStylePainter painter(this);
-    QStyleOptionToolButton ground(key);
-    ground.icon = QIcon();
-    ground.text.clear();
-    painter.drawComplexControl(QStyle::CC_ToolButton, ground);
-    key.rect = label;
-    key.palette = StyleKeys::wordsOn(key);
-    painter.drawControl(QStyle::CE_ToolButtonLabel, key);
 }
 
 // Larger letters take their room from the picture: a strip of keys keeps its height.

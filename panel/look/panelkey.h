@@ -31,7 +31,6 @@ public:
 protected:
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     int m_letterHeight = 0;

@@ -6,6 +6,7 @@
 #include "look/measures.h"
 #include "look/stylebars.h"
 #include "look/styleboxes.h"
+#include "look/styledress.h"
 #include "look/styleicons.h"
 #include "look/stylekeys.h"
 #include "look/styleshades.h"
@@ -225,6 +226,8 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption *option
         return own.expandedTo(QSize(0, touch));
     case CT_SpinBox:
         return (own + QSize(2 * touch, 0)).expandedTo(QSize(0, touch));
+    case CT_ToolButton:
+        return StyleDress::hasKeys(widget) ? StyleDress::sizeOfKey(size, widget) : own;
     case CT_LineEdit:
         return isCell(widget) ? own : own.expandedTo(QSize(0, touch));
     case CT_ItemViewItem:
@@ -285,6 +288,8 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
 {
     if (isForKeyboardAlone(element, widget))
         return;
+    if (element == PE_Widget)
+        return StyleDress::drawGround(*option, painter, widget);
     if (const Drawing drawing = drawingOf(primitives, element))
         return run(drawing, option, painter);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -319,6 +324,8 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         StyleBoxes::drawCombo(*combo, painter, proxy(), widget);
     else if (control == CC_SpinBox && spin)
         StyleBoxes::drawSpin(*spin, painter, proxy(), widget);
+    else if (control == CC_ToolButton && tool && StyleDress::hasKeys(widget))
+        StyleDress::drawKey(*tool, painter, proxy(), widget);
     else if (control == CC_ToolButton && tool)
         StyleKeys::drawToolKey(*tool, painter, proxy(), widget);
     else

@@ -12,7 +12,8 @@
 /// they are.
 ///
 /// All colours are the palette's, and what is drawn where stands in StyleKeys, StyleBoxes,
-/// StyleBars, StyleTables and StyleIcons.
+/// StyleBars, StyleTables and StyleIcons. StyleDress draws strips, messages and their keys by the
+/// roles of the look.
 ///
 /// Draws the frame around what has the focus, too; see KeyboardWay.
 class PanelStyle : public QProxyStyle

@@ -7,7 +7,6 @@
 #include "look/look.h"
 
 #include <QPainter>
-#include <QStyle>
 #include <QVariant>
 
 namespace {
@@ -42,9 +41,7 @@ void putName(QWidget *widget, const char *name)
     if (widget->property("tone").toString() == wanted)
         return;
     widget->setProperty("tone", wanted);
-    // A sheet looks at properties when it is set.
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
+    Look::dressAgain(widget);
 }
 
 } // namespace

@@ -27,7 +27,7 @@ public:
     /// The same drawing on \a rect of something else.
     static void draw(QPainter *painter, const QRect &rect, Message::Tone tone);
 
-    /// Sets the property "tone" of a widget whose sheet asks for it: "information", "warning",
+    /// Sets the property "tone" of a widget whose dress goes by it: "information", "warning",
     /// "alarm"; "none" for a widget that shows no tone.
     static void put(QWidget *widget, Message::Tone tone);
     static void putNone(QWidget *widget);

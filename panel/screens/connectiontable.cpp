@@ -204,6 +204,7 @@ void ConnectionTable::showUnset(int number, const QString &text)
     unset->setObjectName(QLatin1String("unset"));
     unset->setTextFormat(Qt::PlainText);
     unset->setAttribute(Qt::WA_TransparentForMouseEvents);
+    // The sheet of the library's field gives all that lies in it a border of its own.
     unset->setStyleSheet(QLatin1String("border: 0"));
     unset->setIndent(letterMargin);
     // In some languages it takes two lines.

@@ -98,6 +98,7 @@ QWidget *MessageDialog::makeLine(const Message &message, bool stands) const
 {
     QFrame *line = new QFrame;
     line->setObjectName(QLatin1String("message"));
+    Look::dress(line, Look::MessageLine);
     if (stands)
         ToneMark::put(line, message.tone);
     else
@@ -130,7 +131,6 @@ void MessageDialog::fill()
 {
     const int place = m_area->verticalScrollBar()->value();
     QWidget *content = new QWidget;
-    Look::dress(content, Look::MessageList);
     QVBoxLayout *column = new QVBoxLayout(content);
     column->setContentsMargins(4, 4, 4, 4);
     column->setSpacing(4);

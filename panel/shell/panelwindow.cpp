@@ -48,6 +48,8 @@ const int slimSide = 1;
 const int titleLines = 2;
 // Beside the tabs: two lines of about ten letters.
 const int leastTitle = 80;
+// Over what waits for an answer.
+const QRgb dimmed = 0x9617202b;
 
 // The sign of a key that has one says enough where its word has no room.
 void showWords(const QList<PanelKey *> &keys, bool shows)
@@ -95,7 +97,10 @@ PanelWindow::PanelWindow(const QSize &surface, QWidget *parent)
     // Over everything while a dialog waits for its answer, so that the dialog stands out.
     m_shade = new QWidget(this);
     m_shade->setObjectName(QLatin1String("shade"));
-    m_shade->setStyleSheet(QLatin1String("background: rgba(23, 32, 43, 150);"));
+    m_shade->setAutoFillBackground(true);
+    QPalette dim;
+    dim.setColor(QPalette::Window, QColor::fromRgba(dimmed));
+    m_shade->setPalette(dim);
     m_shade->setGeometry(rect());
     m_shade->hide();
 
@@ -376,13 +381,18 @@ void PanelWindow::showTitle()
         return;
     m_title->setName(screen->title(), screen->hasChanges() ? QString(QLatin1Char('*')) : QString(),
                      screen->stateWord());
-    const QString sheet = screen->hasChanges()
-                              ? QString::fromLatin1("color: %1;").arg(Look::changed().name())
-                              : QString();
-    if (m_title->styleSheet() != sheet)
-        m_title->setStyleSheet(sheet);
+    showChanged(screen->hasChanges());
     setWindowTitle(tr("%1[*] - Winding panel").arg(screen->title()));
     setWindowModified(screen->hasChanges());
+}
+
+/// By its colour, too.
+void PanelWindow::showChanged(bool isChanged)
+{
+    QPalette colours;
+    if (isChanged)
+        colours.setColor(QPalette::WindowText, Look::changed());
+    m_title->setPalette(colours);
 }
 
 void PanelWindow::tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,
@@ -456,6 +466,8 @@ void PanelWindow::changeEvent(QEvent *event)
         // The keys have their new words after this window.
         QTimer::singleShot(0, this, &PanelWindow::fitKeys);
     }
+    if (event->type() == QEvent::PaletteChange)
+        showTitle();
     QWidget::changeEvent(event);
 }
 

@@ -105,6 +105,7 @@ private:
     void tellTrouble();
     void fitKeys();
     void showTitle();
+    void showChanged(bool isChanged);
     void showMessages();
     void showInFull(const QString &subject);
     void placeMessages();

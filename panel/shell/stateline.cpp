@@ -97,7 +97,7 @@ QString StateLine::head() const
 
 void StateLine::colour()
 {
-    const QString sheet = QString::fromLatin1("color: %1;").arg(Look::onStrip(m_tone).name());
-    if (m_label->styleSheet() != sheet)
-        m_label->setStyleSheet(sheet);
+    QPalette colours;
+    colours.setColor(QPalette::WindowText, Look::onStrip(m_tone));
+    m_label->setPalette(colours);
 }

@@ -5,6 +5,7 @@
 #include "look/glyphs.h"
 #include "look/look.h"
 #include "look/panelkey.h"
+#include "look/panelstyle.h"
 
 #include <QPlainTextEdit>
 #include <QWindow>
@@ -14,6 +15,7 @@ class TestPanelKey : public FilarixTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QApplication::setStyle(new PanelStyle); }
     void aKeyIsNeverSmallerThanAThumb_data();
     void aKeyIsNeverSmallerThanAThumb();
     void aLongWordMakesItWider();
@@ -80,7 +82,7 @@ void TestPanelKey::aTouchTakesNoFocus()
     QCOMPARE(key.focusPolicy(), Qt::TabFocus);
 }
 
-// Of one that a sheet dresses, too.
+// Of one that is dressed, too.
 void TestPanelKey::aHighKeyHasPictureAndWordInItsMiddle()
 {
     QWidget panel;

@@ -17,7 +17,7 @@ private Q_SLOTS:
     void aMarkHasTheGroundOfItsTone();
     void aQuietMarkHasNoGround();
     void aClearMarkKeepsItsPlace();
-    void aSheetCanAskForTheTone();
+    void whatIsDressedFollowsItsTone();
 };
 
 // Beside the drawing.
@@ -64,17 +64,19 @@ void TestToneMark::aClearMarkKeepsItsPlace()
     QCOMPARE(mark.size(), size);
 }
 
-void TestToneMark::aSheetCanAskForTheTone()
+void TestToneMark::whatIsDressedFollowsItsTone()
 {
     QLabel label;
-    label.setStyleSheet("[tone=\"alarm\"] { color: red; } [tone=\"none\"] { color: blue; }");
+    Look::dress(&label, Look::MessageLine);
+    const QColor paper = label.palette().color(QPalette::Window);
     ToneMark::put(&label, Message::Alarm);
     QCOMPARE(label.property("tone").toString(), QString("alarm"));
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+    QCOMPARE(label.palette().color(QPalette::Window), Look::ground(Message::Alarm));
     ToneMark::putNone(&label);
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::blue));
+    QCOMPARE(label.palette().color(QPalette::Window), paper);
     ToneMark::put(&label, Message::Warning);
     QCOMPARE(label.property("tone").toString(), QString("warning"));
+    QCOMPARE(label.palette().color(QPalette::Window), Look::ground(Message::Warning));
     ToneMark::put(&label, Message::Information);
     QCOMPARE(label.property("tone").toString(), QString("information"));
 }
