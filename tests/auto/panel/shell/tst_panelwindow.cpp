@@ -6,6 +6,7 @@
 #include "look/measures.h"
 #include "look/namelabel.h"
 #include "look/panelkey.h"
+#include "look/panelstyle.h"
 #include "look/spokennames.h"
 #include "modaldriver.h"
 #include "shell/messagebar.h"
@@ -54,6 +55,8 @@ class TestPanelWindow : public FilarixTest
     Q_OBJECT
 
 private Q_SLOTS:
+    // What the strips take of the panel is as high as the style has it.
+    void initTestCase() { QApplication::setStyle(new PanelStyle); }
     void touchTargets_data();
     void touchTargets();
     void tabShowsItsScreenAndKeys();
