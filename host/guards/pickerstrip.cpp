@@ -48,7 +48,11 @@ const QRgb ground = 0xff17202b;
 const QRgb dangerGround = 0xffb92525;
 const QRgb keyGround = 0xff2b3a4a;
 const QRgb faint = 0xff8b9aab;
+// Two strokes that meet, twice: a page, not a line.
 const int arrowSize = 24;
+const double arrowRise = 7;
+const int arrowSide = 5;
+const double arrowPen = 2.2;
 
 /// The side of a key on a strip of \a width pixels.
 int sideOfKey(int width)
@@ -95,12 +99,14 @@ QPixmap arrowOf(bool isUp, const QColor &colour)
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
-    const int tip = isUp ? arrowSize / 6 : arrowSize - arrowSize / 6;
-    const int foot = arrowSize - tip;
-    painter.drawPolygon(QPolygon() << QPoint(0, foot) << QPoint(arrowSize, foot)
-                                   << QPoint(arrowSize / 2, tip));
+    painter.setPen(QPen(colour, arrowPen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const double rise = isUp ? -arrowRise / 2 : arrowRise / 2;
+    for (int i = -1; i <= 1; i += 2) {
+        const double middle = arrowSize / 2 + i * arrowRise / 2;
+        painter.drawPolyline(QPolygonF() << QPointF(arrowSide, middle - rise)
+                                         << QPointF(arrowSize / 2, middle + rise)
+                                         << QPointF(arrowSize - arrowSide, middle - rise));
+    }
     return pixmap;
 }
 

@@ -12,16 +12,15 @@
 namespace {
 
 const int gap = 6;
-const QChar upArrow(0x25b2);
-const QChar downArrow(0x25bc);
+const int iconSide = 22;
 
 } // namespace
 
 PageKeys::PageKeys(QAbstractScrollArea *view, int kept)
     : m_bar(view->verticalScrollBar())
     , m_kept(kept)
-    , m_backKey(add(upArrow, "back"))
-    , m_forthKey(add(downArrow, "forth"))
+    , m_backKey(addTurn(Glyphs::PageUp, "back"))
+    , m_forthKey(addTurn(Glyphs::PageDown, "forth"))
 {
     setSpacing(gap);
     m_backKey->setAccessibleName(backName());
@@ -31,6 +30,14 @@ PageKeys::PageKeys(QAbstractScrollArea *view, int kept)
     connect(m_bar, &QScrollBar::valueChanged, this, &PageKeys::showState);
     connect(m_bar, &QScrollBar::rangeChanged, this, &PageKeys::showState);
     showState();
+}
+
+QPushButton *PageKeys::addTurn(Glyphs::Glyph glyph, const char *objectName)
+{
+    QPushButton *key = add(QString(), objectName);
+    key->setIcon(Glyphs::icon(glyph, Glyphs::OnKey));
+    key->setIconSize(QSize(iconSide, iconSide));
+    return key;
 }
 
 QPushButton *PageKeys::add(const QString &text, const char *objectName)
@@ -44,7 +51,7 @@ QPushButton *PageKeys::addTo(QHBoxLayout *row, const QString &text, const char *
     key->setObjectName(QLatin1String(objectName));
     key->setAutoDefault(false);
     key->setMinimumSize(Measures::touch(), Measures::touch());
-    row->addWidget(key, text.size() == 1 ? 1 : 2);
+    row->addWidget(key, text.isEmpty() ? 1 : 2);
     return key;
 }
 

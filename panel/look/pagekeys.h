@@ -4,6 +4,8 @@
 #ifndef PAGEKEYS_H
 #define PAGEKEYS_H
 
+#include "look/glyphs.h"
+
 #include <QHBoxLayout>
 
 class QAbstractScrollArea;
@@ -28,17 +30,18 @@ public:
     /// view: the last line of a page is the first of the next.
     PageKeys(QAbstractScrollArea *view, int kept);
 
-    /// What a key that turns a page is called where its face is an arrow or the word "Page" alone:
+    /// What a key that turns a page is called where its face is a drawing or the word "Page" alone:
     /// the same on every screen.
     static QString backName() { return tr("Page up"); }
     static QString forthName() { return tr("Page down"); }
 
     /// One more key at the end of the row. The key is no default of its dialog.
     QPushButton *add(const QString &text, const char *objectName);
-    /// A key for a second row. A word takes twice the room of an arrow.
+    /// A key for a second row. A word takes twice the room of a drawing.
     static QPushButton *addTo(QHBoxLayout *row, const QString &text, const char *objectName);
 
 private:
+    QPushButton *addTurn(Glyphs::Glyph glyph, const char *objectName);
     void turn(int pages);
     void showState();
 

@@ -96,8 +96,7 @@ FilesScreen::FilesScreen(Stick *stick, ProgramHistory *history, const Looks &loo
     , m_openKey(addKey(keyIcon(Glyphs::Program), [] { return tr("Open"); }))
     , m_checkKey(addKey(keyIcon(Glyphs::Check), [] { return tr("Check"); }))
     , m_historyKey(addKey(keyIcon(Glyphs::History), [] { return tr("History"); }))
-    , m_importKey(
-          addKey(QIcon(QLatin1String(":/images/importExport.png")), [] { return tr("I/E"); }))
+    , m_importKey(addKey(keyIcon(Glyphs::Exchange), [] { return tr("I/E"); }))
     , m_renameKey(addKey(keyIcon(Glyphs::Rename), [] { return tr("Rename"); }))
     , m_browseKey(addKey(keyIcon(Glyphs::Files), [] { return tr("Browse"); }))
     , m_plugKey(addKey(keyIcon(Glyphs::Plug), [] { return tr("Plug"); }))

@@ -251,21 +251,20 @@ void ListScreen::addTurnKey(Turn turn)
 {
     const struct
     {
-        const char *icon;
+        Glyphs::Glyph glyph;
         const char *text;
         /// Where the text would be two keys' name.
         QString (*name)();
         void (TListWidget::*turn)();
     } plans[] = {
-        {"home", QT_TR_NOOP("First"), nullptr, &TListWidget::home},
-        {"pageUp", QT_TR_NOOP("Page"), &PageKeys::backName, &TListWidget::prevPage},
-        {"pageDown", QT_TR_NOOP("Page"), &PageKeys::forthName, &TListWidget::nextPage},
-        {"end", QT_TR_NOOP("Last"), nullptr, &TListWidget::end},
+        {Glyphs::First, QT_TR_NOOP("First"), nullptr, &TListWidget::home},
+        {Glyphs::PageUp, QT_TR_NOOP("Page"), &PageKeys::backName, &TListWidget::prevPage},
+        {Glyphs::PageDown, QT_TR_NOOP("Page"), &PageKeys::forthName, &TListWidget::nextPage},
+        {Glyphs::Last, QT_TR_NOOP("Last"), nullptr, &TListWidget::end},
     };
     const auto &plan = plans[turn];
-    const QIcon icon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(plan.icon)));
     const char *const text = plan.text;
-    PanelKey *key = addKey(icon, [text] { return tr(text); });
+    PanelKey *key = addKey(Glyphs::icon(plan.glyph, Glyphs::OnKey), [text] { return tr(text); });
     if (plan.name)
         new LiveText(key, plan.name, "accessibleName");
     connect(key, &PanelKey::clicked, m_list, plan.turn);

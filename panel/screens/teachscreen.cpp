@@ -76,11 +76,6 @@ int keyLines(const QSize &surface)
     return isNarrow(surface) ? shortLines : isFlat(surface) ? 1 : 0;
 }
 
-QIcon libraryIcon(const char *name)
-{
-    return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
-}
-
 QIcon ownIcon(Glyphs::Glyph glyph)
 {
     return Glyphs::icon(glyph, Glyphs::OnKey);
@@ -181,12 +176,12 @@ void TeachScreen::addKeyOf(Key key)
     } plans[] = {
         {Joint, ownIcon(Glyphs::Joint), "MoveJ", &TeachScreen::insertJoint},
         {Line, ownIcon(Glyphs::Line), "MoveL", &TeachScreen::insertLine},
-        {Text, libraryIcon("insert"), QT_TR_NOOP("Text"), &TeachScreen::insertText},
-        {Copy, libraryIcon("copy"), QT_TR_NOOP("Copy"), &TeachScreen::copyChosen},
-        {Paste, libraryIcon("paste"), QT_TR_NOOP("Paste"), &TeachScreen::paste},
+        {Text, ownIcon(Glyphs::Insert), QT_TR_NOOP("Text"), &TeachScreen::insertText},
+        {Copy, ownIcon(Glyphs::Copy), QT_TR_NOOP("Copy"), &TeachScreen::copyChosen},
+        {Paste, ownIcon(Glyphs::Paste), QT_TR_NOOP("Paste"), &TeachScreen::paste},
         {Up, ownIcon(Glyphs::Up), QT_TR_NOOP("Up"), &TeachScreen::moveUp},
         {Down, ownIcon(Glyphs::Down), QT_TR_NOOP("Down"), &TeachScreen::moveDown},
-        {Delete, libraryIcon("delete"), QT_TR_NOOP("Delete"), &TeachScreen::removeChosen},
+        {Delete, ownIcon(Glyphs::Remove), QT_TR_NOOP("Delete"), &TeachScreen::removeChosen},
         {Undo, ownIcon(Glyphs::Undo), QT_TR_NOOP("Undo"), &TeachScreen::undo},
         {Clear, ownIcon(Glyphs::Clear), QT_TR_NOOP("Clear"), &TeachScreen::clear},
     };

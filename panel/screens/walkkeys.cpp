@@ -39,22 +39,27 @@ QString lastName()
     return WalkKeys::tr("Last line");
 }
 
-// In the order of the keys. The library has most of the drawings for its hosts.
+// In the order of the keys. In the library's bar they have its icons, as far as there is one.
 const struct
 {
     const char *icon;
+    Glyphs::Glyph glyph;
     const char *text;
     QString (*name)();
     void (ProgramWalk::*step)();
     /// So many keys have room at least where this one is shown.
     int fromRoom;
 } walkTable[] = {
-    {"home", QT_TRANSLATE_NOOP("WalkKeys", "First"), &firstName, &ProgramWalk::goToFirst, 4},
-    {"pageUp", QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::backName, &ProgramWalk::pageUp, 0},
-    {nullptr, QT_TRANSLATE_NOOP("WalkKeys", "Line"), &lineName, &ProgramWalk::askForLine, 5},
-    {"pageDown", QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::forthName,
+    {"home", Glyphs::First, QT_TRANSLATE_NOOP("WalkKeys", "First"), &firstName,
+     &ProgramWalk::goToFirst, 4},
+    {"pageUp", Glyphs::PageUp, QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::backName,
+     &ProgramWalk::pageUp, 0},
+    {nullptr, Glyphs::ToLine, QT_TRANSLATE_NOOP("WalkKeys", "Line"), &lineName,
+     &ProgramWalk::askForLine, 5},
+    {"pageDown", Glyphs::PageDown, QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::forthName,
      &ProgramWalk::pageDown, 0},
-    {"end", QT_TRANSLATE_NOOP("WalkKeys", "Last"), &lastName, &ProgramWalk::goToLast, 4},
+    {"end", Glyphs::Last, QT_TRANSLATE_NOOP("WalkKeys", "Last"), &lastName, &ProgramWalk::goToLast,
+     4},
 };
 const int keyCount = sizeof walkTable / sizeof *walkTable;
 const int leastKeys = 2;
@@ -143,9 +148,9 @@ void WalkKeys::add(QToolButton *button, int index)
 QIcon WalkKeys::icon(int index, bool isInBar) const
 {
     const char *name = walkTable[index].icon;
-    if (name)
+    if (isInBar && name)
         return QIcon(QString::fromLatin1(":/images/%1.png").arg(QLatin1String(name)));
-    return Glyphs::icon(Glyphs::ToLine, isInBar ? Glyphs::OnPaper : Glyphs::OnKey);
+    return Glyphs::icon(walkTable[index].glyph, isInBar ? Glyphs::OnPaper : Glyphs::OnKey);
 }
 
 void WalkKeys::retranslate()

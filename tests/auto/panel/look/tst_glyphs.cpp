@@ -18,6 +18,7 @@ private Q_SLOTS:
     void everyDrawingIsOneOfItsOwn();
     void aDrawingStaysInItsPlace();
     void redoIsUndoSeenInAMirror();
+    void whatLeadsBackIsWhatLeadsOnUpsideDown();
     void anIconFollowsTheLook();
     void aKeyThatIsOffIsFaint();
 };
@@ -84,6 +85,23 @@ void TestGlyphs::redoIsUndoSeenInAMirror()
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x)
             QVERIFY(qAbs(qGray(undo.pixel(x, y)) - qGray(redo.pixel(x, y))) < 16);
+    }
+}
+
+void TestGlyphs::whatLeadsBackIsWhatLeadsOnUpsideDown()
+{
+    const QPair<Glyphs::Glyph, Glyphs::Glyph> pairs[] = {{Glyphs::First, Glyphs::Last},
+                                                         {Glyphs::PageUp, Glyphs::PageDown}};
+    for (const QPair<Glyphs::Glyph, Glyphs::Glyph> &pair : pairs) {
+        const QImage back = drawn(pair.first).mirrored(false, true);
+        const QImage on = drawn(pair.second);
+        int different = 0;
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x)
+                different += qAbs(qGray(back.pixel(x, y)) - qGray(on.pixel(x, y))) < 16 ? 0 : 1;
+        }
+        // Where two strokes meet, a pixel may be another.
+        QVERIFY2(different <= 4, qPrintable(QString::number(different)));
     }
 }
 

@@ -130,6 +130,10 @@ void TestPageKeys::everyKeyIsForAThumbAndHasAName()
         QVERIFY(key->height() >= Measures::touch() && key->width() >= Measures::touch());
         QVERIFY(!key->autoDefault());
     }
+    for (const char *name : {"back", "forth"}) {
+        QVERIFY(!dialog.key(name)->icon().isNull());
+        QCOMPARE(dialog.key(name)->text(), QString());
+    }
     QCOMPARE(dialog.key("back")->accessibleName(), QString("Page up"));
     QCOMPARE(dialog.key("forth")->accessibleName(), QString("Page down"));
 }
