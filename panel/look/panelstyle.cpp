@@ -12,6 +12,7 @@
 #include "look/styleshades.h"
 #include "look/styletables.h"
 
+#include <QDialogButtonBox>
 #include <QListView>
 #include <QPainter>
 #include <QRegularExpression>
@@ -271,6 +272,9 @@ int PanelStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
                           QStyleHintReturn *answer) const
 {
     switch (hint) {
+    case SH_DialogButtonLayout:
+        // On each desktop the same: what changes nothing on the left, the action on the right.
+        return QDialogButtonBox::GnomeLayout;
     case SH_UnderlineShortcut:
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:

@@ -71,8 +71,8 @@ HistoryDialog::HistoryDialog(const QList<ProgramVersion> &versions, QWidget *par
         answers->setSpacing(keys->spacing());
         column->addLayout(answers);
     }
-    m_restoreKey = PageKeys::addTo(answers, tr("Bring back"), "restore");
     QPushButton *closeKey = PageKeys::addTo(answers, tr("Close"), "close");
+    m_restoreKey = PageKeys::addTo(answers, tr("Bring back"), "restore");
 
     connect(m_onlyKey, &QPushButton::clicked, this, [this](bool isOn) {
         m_only = isOn ? version().name : QString();

@@ -71,6 +71,7 @@ TablePicker::TablePicker(const QString &title, const QStringList &keys,
     QPushButton *ok = new QPushButton(tr("OK"));
     QPushButton *cancel = new QPushButton(tr("Cancel"));
     ok->setEnabled(false);
+    ok->setDefault(true);
     connect(m_table, &QTableWidget::itemSelectionChanged, ok, [ok] { ok->setEnabled(true); });
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -82,8 +83,8 @@ TablePicker::TablePicker(const QString &title, const QStringList &keys,
     column->addWidget(m_table, 1);
     QHBoxLayout *buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(ok);
     buttons->addWidget(cancel);
+    buttons->addWidget(ok);
     column->addLayout(buttons);
     const QSize panel = QGuiApplication::primaryScreen()->availableSize();
     resize(QSize(560, 430).boundedTo(panel - QSize(8, 8)));

@@ -30,7 +30,6 @@ const int smallestLetters = 10;
 
 // Rows are black on white in both looks.
 const QRgb rowText = 0xff000000;
-const QRgb rowLine = 0xff9fb0c2;
 const QRgb switchedOff = 0xff66727f;
 
 /// The text with letters that have room; none where the smallest have not.
@@ -100,9 +99,6 @@ void ValueMark::paintEvent(QPaintEvent *)
     QPainter painter(this);
     QRect cell = rect();
     cell.setWidth(m_unitWidth);
-    painter.setPen(QColor(rowLine));
-    painter.drawLine(cell.topLeft(), cell.bottomLeft());
-    painter.drawLine(cell.topRight(), cell.bottomRight());
     cell.adjust(gap, 1, -gap, -1);
     if (m_state.drawing != State::Unit) {
         paintSwitch(&painter, cell);

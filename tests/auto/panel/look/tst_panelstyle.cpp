@@ -45,6 +45,8 @@ class TestPanelStyle : public FilarixTest
 private Q_SLOTS:
     void initTestCase();
     void buttonsOfMessageBoxesAreLargeEnough();
+    void answersStandInOneOrder_data();
+    void answersStandInOneOrder();
     void findDialogIsLargeEnough();
     void fixedSizesOfTheLibraryStay();
     void cellsTakeTheHeightOfTheirRow();
@@ -159,6 +161,33 @@ void TestPanelStyle::buttonsOfMessageBoxesAreLargeEnough()
     QCOMPARE(buttons.size(), 2);
     for (QAbstractButton *button : buttons)
         QVERIFY(button->height() >= 40 && button->width() >= 40);
+}
+
+void TestPanelStyle::answersStandInOneOrder_data()
+{
+    typedef QList<int> Buttons;
+    QTest::addColumn<Buttons>("fromTheLeft");
+    QTest::newRow("two") << Buttons{QMessageBox::Cancel, QMessageBox::Ok};
+    QTest::newRow("a question") << Buttons{QMessageBox::No, QMessageBox::Yes};
+    QTest::newRow("a loss") << Buttons{QMessageBox::Discard, QMessageBox::Cancel,
+                                       QMessageBox::Save};
+}
+
+// Whatever the desktop has.
+void TestPanelStyle::answersStandInOneOrder()
+{
+    QFETCH(QList<int>, fromTheLeft);
+    QMessageBox::StandardButtons buttons;
+    for (int button : fromTheLeft)
+        buttons |= QMessageBox::StandardButton(button);
+    QMessageBox box(QMessageBox::Warning, "Title", "Text", buttons);
+    box.show();
+    int before = -1;
+    for (int answer : fromTheLeft) {
+        const QAbstractButton *button = box.button(QMessageBox::StandardButton(answer));
+        QVERIFY(button->x() > before);
+        before = button->x();
+    }
 }
 
 void TestPanelStyle::findDialogIsLargeEnough()

@@ -21,7 +21,8 @@ private Q_SLOTS:
 
 static QPushButton *okButton(TablePicker *picker)
 {
-    return picker->findChildren<QPushButton *>().first();
+    // Behind Cancel, as everywhere.
+    return picker->findChildren<QPushButton *>().last();
 }
 
 void TestTablePicker::currentEntryIsChosenAtFirst()
@@ -29,7 +30,7 @@ void TestTablePicker::currentEntryIsChosenAtFirst()
     MachineData machine;
     TablePicker picker("Points", MachineData::pointKeys(), machine.points(), 3);
     QCOMPARE(picker.number(), 3);
-    QVERIFY(okButton(&picker)->isEnabled());
+    QVERIFY(okButton(&picker)->isEnabled() && okButton(&picker)->isDefault());
     QCOMPARE(picker.findChild<QTableWidget *>()->item(2, 1)->text(), machine.points().at(2).name);
 }
 

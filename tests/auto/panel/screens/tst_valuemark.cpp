@@ -16,6 +16,7 @@ private Q_SLOTS:
     void touchesGoToTheField();
     void toneIsSeenAndWordsAreSaid();
     void switchIsDrawn();
+    void noLineDividesTheField();
 };
 
 namespace {
@@ -95,6 +96,30 @@ void TestValueMark::switchIsDrawn()
     QVERIFY(on != off);
     QVERIFY(pixelsOf(on, Look::ground(Message::Information)) > 100);
     QCOMPARE(pixelsOf(off, Look::ground(Message::Information)), 0);
+}
+
+// The library's cells have thick ones.
+void TestValueMark::noLineDividesTheField()
+{
+    QLineEdit field;
+    field.resize(300, 34);
+    ValueMark mark(&field);
+    mark.setState(stateOf(QString(), Message::Information));
+    const QImage image = mark.grab().toImage();
+    const auto isPlain = [&image](int x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixelColor(x, y) != image.pixelColor(x, 0))
+                return false;
+        }
+        return true;
+    };
+    int drawn = 0;
+    for (int x = 0; x < image.width(); ++x)
+        drawn += isPlain(x) ? 0 : 1;
+    // The unit alone.
+    QVERIFY(drawn > 3 && drawn < 20);
+    for (int x = 0; x < image.width(); ++x)
+        QCOMPARE(image.pixelColor(x, 0), image.pixelColor(0, 0));
 }
 
 FILARIX_TEST_MAIN(TestValueMark)
