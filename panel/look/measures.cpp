@@ -18,6 +18,12 @@ const qreal mmPerInch = 25.4;
 const int keysOnASide = 5;
 // 9 mm at 133 dpi.
 const int gloveSide = 48;
+// A column has room for so many usual keys, or for gloves; with this between and around them.
+const int usualKeys = 3;
+const int gloveKeys = 2;
+const int keyGap = 4;
+// Of the width, in percent; what is beside the keys is the screen's content.
+const int columnPercent = 31;
 // Whatever the screen tells of itself, something has to stand beside it.
 const int stopsOnASide = 3;
 // A surface of no more height has no room for a key of 15 mm.
@@ -25,8 +31,14 @@ const int lowSurface = 300;
 
 qreal currentDotsPerInch = Measures::usualDotsPerInch;
 int shorterSide = QWIDGETSIZE_MAX;
+int surfaceWidth = QWIDGETSIZE_MAX;
 bool isLow = false;
 int currentTextSize = 100;
+
+int widthOf(int keys, int side)
+{
+    return keys * side + (keys + 1) * keyGap;
+}
 
 int withRoom(qreal millimetres)
 {
@@ -55,6 +67,7 @@ void Measures::use(qreal dotsPerInch, const QSize &surface)
     currentDotsPerInch = isSensible(dotsPerInch) ? dotsPerInch : usualDotsPerInch;
     isLow = surface.isValid() && surface.height() <= lowSurface;
     shorterSide = surface.isValid() ? qMin(surface.width(), surface.height()) : QWIDGETSIZE_MAX;
+    surfaceWidth = surface.isValid() ? surface.width() : QWIDGETSIZE_MAX;
     // Where nobody says how fine the screen is, the keypads take it for that of most panels.
     const bool isTold = isSensible(dotsPerInch) && dotsPerInch != usualDotsPerInch;
     qApp->setProperty("hmiDotsPerInch", isTold ? QVariant(dotsPerInch) : QVariant());
@@ -78,6 +91,12 @@ int Measures::touch()
 int Measures::glove()
 {
     return qMax(gloveSide, touch());
+}
+
+int Measures::keyColumn()
+{
+    const int wanted = qMax(widthOf(usualKeys, gloveSide), widthOf(gloveKeys, glove()));
+    return qMin(wanted, surfaceWidth * columnPercent / 100);
 }
 
 QSize Measures::stop()

@@ -44,6 +44,10 @@ int touch();
 /// The same of what is touched in gloves all day, rows and keys of lists among it. At least 48
 /// pixels, which are 9 mm on the usual panel.
 int glove();
+/// How wide a column of keys beside a screen's content is: the same on each screen. Three keys of
+/// the usual panel have room, or two for gloves on one of finer pixels, and a narrow surface keeps
+/// most of its width. Wider only for the words of a language.
+int keyColumn();
 /// The key that stops what runs: `stopMm` wide, and as high where the surface is not low.
 QSize stop();
 

@@ -7,6 +7,7 @@
 #include "guards/pickerfacts.h"
 #include "look/elidedlabel.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "look/panelkey.h"
 #include "look/taparea.h"
 #include "programs/programdirectory.h"
@@ -239,6 +240,7 @@ void FilesScreen::layOut(Shape shape)
     m_grid->setSpacing(0);
     // The next shape may be narrower than this one.
     m_grid->setSizeConstraint(QLayout::SetNoConstraint);
+    m_keyPanel->setMinimumWidth(shape == Small ? Measures::keyColumn() : 0);
     m_list->showHeads(hasRoom);
     m_picture->setVisible(hasRoom);
     m_facts->setRoom(hasRoom ? PickerFacts::AsManyAsFit : PickerFacts::OneLine);

@@ -44,17 +44,9 @@ const QLatin1String storage("storage");
 const int roomy = 1000;
 // Of the width, for the details of a list that could take it all.
 const int detailsPart = 4;
-// What such details and their keys share where the list has a width of its own.
-const int detailsStretch = 3;
-const int keysStretch = 2;
 const int detailColumns = 2;
 // Of the width, for the keys beside such details, whatever the language.
 const int keysPart = 6;
-
-int keyPanelWidth()
-{
-    return 3 * Measures::touch();
-}
 
 RowDetails *makeDetails(const QSize &surface, bool hasTitle)
 {
@@ -128,13 +120,14 @@ ListScreen::ListScreen(const QSize &surface, QStringList title, int keyColumns, 
     layout->setSpacing(0);
     if (m_keysBeside) {
         m_area->setFixedWidth(m_list->width());
-        m_keyPanel->setMinimumWidth(2 * Measures::touch());
+        m_keyPanel->setMinimumWidth(Measures::keyColumn());
         layout->addWidget(m_area);
         if (m_details && m_firstRow == 0)
             m_details->setFixedWidth(surface.width() / detailsPart);
         if (m_details)
-            layout->addWidget(m_details, detailsStretch);
-        layout->addWidget(m_keyPanel, m_details ? keysStretch : 1);
+            layout->addWidget(m_details, 1);
+        // Beside a list that has the library's width the keys have all the rest.
+        layout->addWidget(m_keyPanel, m_details ? 0 : 1);
     } else {
         layout->addWidget(m_area, 1);
         layout->addWidget(m_keyPanel);
@@ -153,7 +146,8 @@ int ListScreen::listWidth(const QSize &surface) const
         return qMin(surface.width(), titledWidth);
     if (!m_keysBeside)
         return surface.width();
-    return surface.width() - keyPanelWidth() - (m_details ? surface.width() / detailsPart : 0);
+    return surface.width() - Measures::keyColumn()
+           - (m_details ? surface.width() / detailsPart : 0);
 }
 
 void ListScreen::refreshDetails()

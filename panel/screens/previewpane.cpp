@@ -6,6 +6,7 @@
 #include "filarixpanel.h"
 #include "look/coilcolours.h"
 #include "look/look.h"
+#include "look/measures.h"
 #include "screens/coilpreview.h"
 #include "screens/coilview.h"
 #include "screens/figuregrid.h"
@@ -89,10 +90,12 @@ void PreviewPane::layOut(bool areKeysBeside)
     grid->addWidget(m_view, 1, 0);
     // A small panel shows one of the two.
     grid->addWidget(m_figures, m_isSmall ? 1 : 2, 0);
-    if (areKeysBeside)
+    if (areKeysBeside) {
+        m_keys->setMinimumWidth(Measures::keyColumn());
         grid->addWidget(m_keys, 0, 1, 3, 1);
-    else
+    } else {
         grid->addWidget(m_keys, 3, 0);
+    }
     grid->setRowStretch(1, 1);
     grid->setColumnStretch(0, 1);
 }

@@ -183,7 +183,11 @@ void SettingsScreen::layOutOneByOne(bool isLow)
         new QBoxLayout(isLow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
     row->setContentsMargins(side, side, side, side);
     row->setSpacing(waySpacing);
-    row->addWidget(makeWays(isLow ? lowWays : narrowWays));
+    QWidget *keys = makeWays(isLow ? lowWays : narrowWays);
+    // With the room around it.
+    if (isLow)
+        keys->setMinimumWidth(Measures::keyColumn() - 2 * side);
+    row->addWidget(keys);
     row->addWidget(m_stack, 1);
 }
 

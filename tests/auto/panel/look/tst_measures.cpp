@@ -16,6 +16,8 @@ private Q_SLOTS:
     void millimetresBecomePixels_data();
     void millimetresBecomePixels();
     void glovesHave48PixelsAtLeast();
+    void columnOfKeysHasRoomForThree_data();
+    void columnOfKeysHasRoomForThree();
     void senselessDotsAreNotUsed();
     void textSizesAreKnownByTheirNames();
     void aTextSizeIsToldToAllWidgets();
@@ -99,6 +101,27 @@ void TestMeasures::glovesHave48PixelsAtLeast()
     QCOMPARE(Measures::glove(), 48);
     Measures::use(170, QSize(1024, 600));
     QCOMPARE(Measures::glove(), 61);
+}
+
+void TestMeasures::columnOfKeysHasRoomForThree_data()
+{
+    QTest::addColumn<int>("dots");
+    QTest::addColumn<QSize>("surface");
+    QTest::addColumn<int>("width");
+    QTest::newRow("a PC") << 96 << QSize() << 160;
+    QTest::newRow("800 pixels") << 96 << QSize(800, 480) << 160;
+    QTest::newRow("1024 pixels") << 96 << QSize(1024, 600) << 160;
+    QTest::newRow("a panel that leaves the content its part") << 96 << QSize(480, 272) << 148;
+    QTest::newRow("fine pixels") << 170 << QSize(1024, 600) << 160;
+    QTest::newRow("finer ones, with room for two") << 300 << QSize(1024, 600) << 226;
+}
+
+void TestMeasures::columnOfKeysHasRoomForThree()
+{
+    QFETCH(int, dots);
+    QFETCH(QSize, surface);
+    Measures::use(dots, surface);
+    QTEST(Measures::keyColumn(), "width");
 }
 
 void TestMeasures::senselessDotsAreNotUsed()
