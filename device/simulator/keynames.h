@@ -23,7 +23,10 @@ public:
     static QString page(bool isText) { return isText ? tr("Words of a line") : tr("Letters"); }
     /// The words for the key that turns to the page of digits and signs, or back to that of
     /// letters.
-    static QString digits(bool areShown) { return areShown ? tr("Letters") : tr("Digits, signs"); }
+    static QString digits(bool areShown)
+    {
+        return areShown ? tr("Letters") : tr("Digits and signs");
+    }
     /// The words for the key that turns the capitals to small letters, or back.
     static QString small(bool isSmall) { return isSmall ? tr("Capitals") : tr("Small letters"); }
     /// The words for the key of the capitals: off, on for one letter, or locked.

@@ -135,6 +135,14 @@ void TestKeypadAccess::pagesAreTold()
         QCOMPARE(nameOf(key(pad, "small")), QString("Capitals"));
         QCOMPARE(nameOf(key(pad, "Q")), QString("q"));
     });
+    setScreen(QRect(0, 0, 480, 272));
+    run(CharacterKeypad::instance(), [] {
+        QDialog *characters = CharacterKeypad::instance();
+        QCOMPARE(nameOf(key(characters, "digits")), QString("Digits and signs"));
+        click(characters, "digits");
+        QCOMPARE(nameOf(key(characters, "digits")), QString("Letters"));
+        QCOMPARE(nameOf(key(characters, "(")), QString("Left parenthesis"));
+    });
 }
 
 void TestKeypadAccess::linesAreRead()
