@@ -102,9 +102,9 @@ QPixmap arrowOf(bool isUp, const QColor &colour)
     painter.setPen(QPen(colour, arrowPen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const double rise = isUp ? -arrowRise / 2 : arrowRise / 2;
     for (int i = -1; i <= 1; i += 2) {
-        const double middle = arrowSize / 2 + i * arrowRise / 2;
+        const double middle = arrowSize / 2.0 + i * arrowRise / 2;
         painter.drawPolyline(QPolygonF() << QPointF(arrowSide, middle - rise)
-                                         << QPointF(arrowSize / 2, middle + rise)
+                                         << QPointF(arrowSize / 2.0, middle + rise)
                                          << QPointF(arrowSize - arrowSide, middle - rise));
     }
     return pixmap;

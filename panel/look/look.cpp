@@ -96,8 +96,6 @@ bool toneGround(const QWidget *widget, QColor *ground)
 QPalette paletteOn(const QWidget *widget, Look::Dress dress)
 {
     QPalette palette;
-    if (dress == Look::KeyPanel)
-        return palette;
     QColor ground = Look::colour(Role::Strip);
     const bool hasGround = Look::hasGround(widget, &dress, &ground);
     if (dress == Look::MessageLine && !hasGround)

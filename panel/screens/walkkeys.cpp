@@ -43,22 +43,22 @@ QString lastName()
 const struct
 {
     const char *icon;
-    Glyphs::Glyph glyph;
     const char *text;
     QString (*name)();
     void (ProgramWalk::*step)();
+    Glyphs::Glyph glyph;
     /// So many keys have room at least where this one is shown.
     int fromRoom;
 } walkTable[] = {
-    {"home", Glyphs::First, QT_TRANSLATE_NOOP("WalkKeys", "First"), &firstName,
-     &ProgramWalk::goToFirst, 4},
-    {"pageUp", Glyphs::PageUp, QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::backName,
-     &ProgramWalk::pageUp, 0},
-    {nullptr, Glyphs::ToLine, QT_TRANSLATE_NOOP("WalkKeys", "Line"), &lineName,
-     &ProgramWalk::askForLine, 5},
-    {"pageDown", Glyphs::PageDown, QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::forthName,
-     &ProgramWalk::pageDown, 0},
-    {"end", Glyphs::Last, QT_TRANSLATE_NOOP("WalkKeys", "Last"), &lastName, &ProgramWalk::goToLast,
+    {"home", QT_TRANSLATE_NOOP("WalkKeys", "First"), &firstName, &ProgramWalk::goToFirst,
+     Glyphs::First, 4},
+    {"pageUp", QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::backName, &ProgramWalk::pageUp,
+     Glyphs::PageUp, 0},
+    {nullptr, QT_TRANSLATE_NOOP("WalkKeys", "Line"), &lineName, &ProgramWalk::askForLine,
+     Glyphs::ToLine, 5},
+    {"pageDown", QT_TRANSLATE_NOOP("WalkKeys", "Page"), &PageKeys::forthName,
+     &ProgramWalk::pageDown, Glyphs::PageDown, 0},
+    {"end", QT_TRANSLATE_NOOP("WalkKeys", "Last"), &lastName, &ProgramWalk::goToLast, Glyphs::Last,
      4},
 };
 const int keyCount = sizeof walkTable / sizeof *walkTable;
