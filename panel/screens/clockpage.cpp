@@ -46,8 +46,9 @@ ClockPage::ClockPage(QWidget *parent)
 
 void ClockPage::showMoment(const QDateTime &moment)
 {
-    m_time->setText(locale().toString(moment.time(), QLocale::ShortFormat));
-    m_date->setText(locale().toString(moment.date(), QLocale::LongFormat));
+    m_time->setText(moment.time().toString(QLatin1String("HH:mm")));
+    m_date->setText(locale().dayName(moment.date().dayOfWeek())
+                    + moment.date().toString(QLatin1String(", yyyy-MM-dd")));
     m_zone->setText(tr("Time zone: %1").arg(moment.timeZoneAbbreviation()));
 }
 

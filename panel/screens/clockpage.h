@@ -11,7 +11,8 @@
 class QDateTime;
 class QLabel;
 
-/// Date, time and time zone as the system has them, in the way of the page's locale().
+/// Date, time and time zone as the system has them, written as on all screens: 24 hours, and the
+/// year first. The day of the week is in the language of the page's locale().
 ///
 /// All three are shown and not set: the panel program runs without the right to set a clock.
 class ClockPage : public SettingsPage

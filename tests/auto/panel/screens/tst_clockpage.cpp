@@ -12,8 +12,8 @@ class TestClockPage : public FilarixTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void aMomentIsWrittenInTheWayOfTheLocale_data();
-    void aMomentIsWrittenInTheWayOfTheLocale();
+    void aMomentIsWrittenAsOnAllScreens_data();
+    void aMomentIsWrittenAsOnAllScreens();
     void theSystemsMomentIsShownWhileItIsInView();
     void itFollowsTheLocale();
 };
@@ -27,27 +27,24 @@ QString text(const QWidget &page, const char *name)
 
 } // namespace
 
-void TestClockPage::aMomentIsWrittenInTheWayOfTheLocale_data()
+void TestClockPage::aMomentIsWrittenAsOnAllScreens_data()
 {
     QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("time");
-    QTest::addColumn<QString>("date");
-    QTest::newRow("USA") << QLocale("en_US") << "3:04 PM"
-                         << "Sunday, November 22, 2026";
-    QTest::newRow("Germany") << QLocale("de_DE") << "15:04"
-                             << "Sonntag, 22. November 2026";
-    QTest::newRow("China") << QLocale("zh_CN") << QString::fromUtf8("\u4e0b\u53483:04")
-                           << QString::fromUtf8("2026\u5e7411\u670822\u65e5\u661f\u671f\u65e5");
+    QTest::addColumn<QString>("day");
+    QTest::newRow("USA") << QLocale("en_US") << "Sunday";
+    QTest::newRow("Germany") << QLocale("de_DE") << "Sonntag";
+    QTest::newRow("China") << QLocale("zh_CN") << QString::fromUtf8("\u661f\u671f\u65e5");
 }
 
-void TestClockPage::aMomentIsWrittenInTheWayOfTheLocale()
+void TestClockPage::aMomentIsWrittenAsOnAllScreens()
 {
     QFETCH(QLocale, locale);
     ClockPage page;
     page.setLocale(locale);
     page.showMoment(QDateTime(QDate(2026, 11, 22), QTime(15, 4, 30), Qt::UTC));
-    QTEST(text(page, "time"), "time");
-    QTEST(text(page, "date"), "date");
+    QFETCH(QString, day);
+    QCOMPARE(text(page, "time"), QString("15:04"));
+    QCOMPARE(text(page, "date"), day + ", 2026-11-22");
     QCOMPARE(text(page, "zone"), QString("Time zone: UTC"));
 }
 
