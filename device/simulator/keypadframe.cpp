@@ -30,8 +30,8 @@ const int lowScreen = 400;
 const int smallKeypad = 480;
 const int smallGap = 4;
 const int largeGap = 6;
-// One long word must not make all the others smaller than this.
-const int leastWord = 12;
+// One long word must not make all the others smaller than this, in percent of a character's size.
+const int leastWord = 50;
 
 const int repeatDelay = 500;
 const int repeatInterval = 80;
@@ -588,18 +588,20 @@ void KeypadFrame::arrangeKeys()
 }
 
 /// The same size for all single characters, and another one for all words: an eye that goes from
-/// key to key takes larger letters for more important ones. A word that is too long is smaller.
+/// key to key takes larger letters for more important ones. A word that is too long is smaller, and
+/// so is one on a narrow key.
 void KeypadFrame::fitLetters()
 {
     int characters = QWIDGETSIZE_MAX;
     int words = QWIDGETSIZE_MAX;
     Q_FOREACH (const KeyButton *key, m_keys) {
-        if (key->glyph() == KeyButton::NoGlyph) {
+        const bool isNarrowWord = key->isWord() && key->width() < KeypadLook::gloveSize();
+        if (key->glyph() == KeyButton::NoGlyph && !isNarrowWord) {
             int &size = key->isWord() ? words : characters;
             size = qMin(size, key->fittingLetters());
         }
     }
-    words = qMin(characters, qMax(words, leastWord));
+    words = qMax(qMin(words, characters), characters * leastWord / 100);
     Q_FOREACH (KeyButton *key, m_keys)
         key->setLetters(qMin(key->fittingLetters(), key->isWord() ? words : characters));
 }
