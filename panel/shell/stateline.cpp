@@ -37,6 +37,7 @@ StateLine::StateLine(QWidget *parent) : TapArea(parent), m_label(new ElidedLabel
     QHBoxLayout *row = new QHBoxLayout(this);
     row->setContentsMargins(sideMargin, 0, sideMargin, 0);
     row->addWidget(m_label);
+    m_label->installEventFilter(this);
     hide();
 }
 
@@ -53,6 +54,14 @@ void StateLine::setLeastHeight(int height)
 {
     m_leastHeight = height;
     fit();
+}
+
+// Whoever makes the letters larger asks at once how high the line is with them.
+bool StateLine::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_label && event->type() == QEvent::FontChange)
+        fit();
+    return TapArea::eventFilter(watched, event);
 }
 
 void StateLine::changeEvent(QEvent *event)

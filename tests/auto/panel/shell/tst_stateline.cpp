@@ -20,6 +20,7 @@ private Q_SLOTS:
     void theColourFollowsTheLook();
     void aTouchIsTold();
     void aLineIsAsHighAsItHasToBe();
+    void aLineIsAsHighAsItsLettersAtOnce();
     void aLongTextHasASecondLine();
     void aLowPanelHasOneLineOnly();
     void ofALongTextTheHeadIsShown();
@@ -91,6 +92,19 @@ void TestStateLine::aLineIsAsHighAsItHasToBe()
     QCOMPARE(line.height(), own + 11);
     line.setLeastHeight(own - 11);
     QCOMPARE(line.height(), own);
+}
+
+void TestStateLine::aLineIsAsHighAsItsLettersAtOnce()
+{
+    QWidget screen;
+    StateLine line(&screen);
+    line.show("text", Message::Warning);
+    const int height = line.height();
+    QLabel *label = line.findChild<QLabel *>("stateLine");
+    QFont larger = label->font();
+    larger.setPixelSize(2 * height);
+    label->setFont(larger);
+    QVERIFY(line.height() >= label->fontMetrics().height());
 }
 
 void TestStateLine::aLongTextHasASecondLine()
