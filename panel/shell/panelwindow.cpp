@@ -50,6 +50,8 @@ const int titleLines = 2;
 const int leastTitle = 80;
 // Over what waits for an answer.
 const QRgb dimmed = 0x9617202b;
+// Beside the keys of a slim panel: a word of nine letters.
+const int leastSlimTitle = 54;
 
 // The sign of a key that has one says enough where its word has no room.
 void showWords(const QList<PanelKey *> &keys, bool shows)
@@ -362,16 +364,18 @@ void PanelWindow::showScreen(const PanelScreen *screen)
 /// What is open, and whether it is stored, comes before the words of keys that have a sign.
 void PanelWindow::fitKeys()
 {
-    if (m_shape != Wide || m_entries.isEmpty())
+    if ((m_shape != Wide && m_shape != Slim) || m_entries.isEmpty())
         return;
     const QList<PanelKey *> keys = m_entries.at(m_stack->currentIndex()).keys;
     showWords(keys, true);
     int room = width();
+    if (hasMenu())
+        room -= 2 * stripSide + m_menuKey->sizeHint().width() + narrowGap;
     for (const Entry &entry : qAsConst(m_entries))
-        room -= entry.tab->sizeHint().width() + m_tabs->spacing();
+        room -= hasMenu() ? 0 : entry.tab->sizeHint().width() + m_tabs->spacing();
     for (const PanelKey *key : keys)
         room -= key->isHidden() ? 0 : key->sizeHint().width() + m_keys->spacing();
-    showWords(keys, room >= leastTitle);
+    showWords(keys, room >= (m_shape == Wide ? leastTitle : leastSlimTitle));
 }
 
 void PanelWindow::showTitle()

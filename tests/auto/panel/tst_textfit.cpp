@@ -210,22 +210,29 @@ void TestTextFit::whatHasNoNameIsFound()
 
 void TestTextFit::titlesAreWhole_data()
 {
+    QTest::addColumn<QSize>("size");
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("textSize");
-    // The keys of German have longer words, and leave a name of one word too little.
-    for (const char *language : {"en", "it", "tr", "zh_CN"}) {
-        for (int textSize : Measures::textSizes())
-            QTest::newRow(qPrintable(QString("%1 %2").arg(language).arg(textSize)))
-                << QString(language) << textSize;
+    for (const QSize &size :
+         {QSize(272, 480), QSize(480, 272), QSize(480, 800), QSize(800, 480), QSize(1024, 600)}) {
+        for (const char *language : {"en", "de", "it", "tr", "zh_CN"}) {
+            for (int textSize : Measures::textSizes())
+                QTest::newRow(qPrintable(QString("%1x%2 %3 %4")
+                                             .arg(size.width())
+                                             .arg(size.height())
+                                             .arg(language)
+                                             .arg(textSize)))
+                    << size << QString(language) << textSize;
+        }
     }
 }
 
-// On the panel whose keys leave the title the least room.
 void TestTextFit::titlesAreWhole()
 {
+    QFETCH(QSize, size);
     QFETCH(QString, language);
     QFETCH(int, textSize);
-    Options options = optionsFor(QSize(272, 480));
+    Options options = optionsFor(size);
     options.textSize = Measures::nameOf(textSize);
     options.language = language;
     StrictMessages::expect("This plugin does not support");
