@@ -45,39 +45,45 @@ void ElidedLabel::shrinkTo(int pixels)
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QFont font = fittingFont();
+    const QSize room = contentsRect().size();
+    const QFont font = fittingFont(room);
     painter.setFont(font);
-    painter.drawText(contentsRect(), int(alignment()), linesIn(font).texts.join(QLatin1Char('\n')));
+    painter.drawText(contentsRect(), int(alignment()),
+                     linesIn(font, room).texts.join(QLatin1Char('\n')));
+}
+
+bool ElidedLabel::isWholeIn(const QSize &room) const
+{
+    return linesIn(fittingFont(room), room).isWhole;
 }
 
 /// The largest one in which the whole text has room.
-QFont ElidedLabel::fittingFont() const
+QFont ElidedLabel::fittingFont(const QSize &room) const
 {
-    if (m_smallestPixels <= 0 || linesIn(font()).isWhole)
+    if (m_smallestPixels <= 0 || linesIn(font(), room).isWhole)
         return font();
     QFont smaller = font();
     for (int pixels = font().pixelSize() - 1; pixels >= m_smallestPixels; --pixels) {
         smaller.setPixelSize(pixels);
         // Thin letters are narrower.
         smaller.setBold(false);
-        if (linesIn(smaller).isWhole)
+        if (linesIn(smaller, room).isWhole)
             break;
     }
     return smaller;
 }
 
 /// The last one holds all that is left.
-ElidedLabel::Lines ElidedLabel::linesIn(const QFont &font) const
+ElidedLabel::Lines ElidedLabel::linesIn(const QFont &font, const QSize &room) const
 {
     const QFontMetrics metrics(font);
-    const QRect area = contentsRect();
     // The two are rounded each on its own, and lines that are kept must be filled, too.
     const int lineHeight = qMin(metrics.height(), metrics.lineSpacing());
     QString rest = text();
     rest.replace(QLatin1Char('\n'), QLatin1Char(' '));
     QStringList lines;
-    const int most = qMin(m_lines, qMax(1, area.height() / lineHeight));
-    while (lines.size() + 1 < most && metrics.horizontalAdvance(rest) > area.width()) {
+    const int most = qMin(m_lines, qMax(1, room.height() / lineHeight));
+    while (lines.size() + 1 < most && metrics.horizontalAdvance(rest) > room.width()) {
         QTextLayout layout(rest, font);
         // The name of a file may be one word that is longer than a line.
         QTextOption option;
@@ -85,12 +91,12 @@ ElidedLabel::Lines ElidedLabel::linesIn(const QFont &font) const
         layout.setTextOption(option);
         layout.beginLayout();
         QTextLine line = layout.createLine();
-        line.setLineWidth(area.width());
+        line.setLineWidth(room.width());
         layout.endLayout();
         lines.append(rest.left(line.textLength()).trimmed());
         rest = rest.mid(line.textLength());
     }
-    const bool isWhole = metrics.horizontalAdvance(rest) <= area.width();
-    lines.append(metrics.elidedText(rest, Qt::ElideRight, area.width()));
+    const bool isWhole = metrics.horizontalAdvance(rest) <= room.width();
+    lines.append(metrics.elidedText(rest, Qt::ElideRight, room.width()));
     return {lines, isWhole};
 }

@@ -23,6 +23,10 @@ public:
     void shrinkTo(int pixels);
     /// The lines that minimumSizeHint() has room for; one at first.
     void keepLines(int lines);
+    /// Whether all of the text is shown in the size of this moment.
+    bool isWhole() const { return isWholeIn(contentsRect().size()); }
+    /// Whether all of it were shown in so much room.
+    bool isWholeIn(const QSize &room) const;
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
@@ -37,8 +41,8 @@ private:
         bool isWhole;
     };
 
-    Lines linesIn(const QFont &font) const;
-    QFont fittingFont() const;
+    Lines linesIn(const QFont &font, const QSize &room) const;
+    QFont fittingFont(const QSize &room) const;
 
     int m_lines = 1;
     int m_keptLines = 1;

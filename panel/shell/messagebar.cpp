@@ -63,6 +63,8 @@ void MessageBar::layOut()
     m_label->setFont(font);
     m_left->setFont(font);
     m_label->setLines(m_form == Row ? rowLines : 1);
+    if (m_form == Row)
+        m_label->shrinkTo(linePixels);
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setFixedHeight(m_form == Row ? rowBar : lineBar);
 
@@ -90,13 +92,27 @@ void MessageBar::layOut()
     placeKey();
 }
 
+void MessageBar::setHigher(int pixels)
+{
+    m_higher = pixels;
+    placeKey();
+    // As many as the height has room for.
+    m_label->setLines(pixels > 0 ? height() : rowLines);
+}
+
+bool MessageBar::hasRoom() const
+{
+    return m_label->isWholeIn(QSize(m_label->width(), height()));
+}
+
 /// Each pixel more is taken from a row of the screens. What stops running work is worth them.
 void MessageBar::placeKey()
 {
     if (m_form == Line)
         return m_key->setLeastWidth(m_isWorking ? Measures::stop().width() : 0);
     const int lines = rowLines * m_label->fontMetrics().height();
-    setFixedHeight(qMax(m_isWorking ? Measures::stop().height() : Measures::touch(), lines));
+    const int least = m_isWorking ? Measures::stop().height() : Measures::touch();
+    setFixedHeight(qMax(least, lines) + m_higher);
     m_key->setFixedHeight(height());
 }
 

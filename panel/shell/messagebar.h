@@ -49,6 +49,10 @@ public:
 
     /// The text of what it shows; empty while that is the last message at most.
     QString text() const { return m_text; }
+    /// A Row is so much higher than usual, 0 at first, and fills that with lines of small letters.
+    void setHigher(int pixels);
+    /// Whether all of the text has room in the width and height of this moment.
+    bool hasRoom() const;
     /// In a Line's case without a parent until it is placed.
     PanelKey *key() const { return m_key; }
 
@@ -82,6 +86,7 @@ private:
     QString m_workText;
     bool m_isWorking = false;
     bool m_mayStop = true;
+    int m_higher = 0;
 };
 
 #endif // MESSAGEBAR_H

@@ -52,6 +52,8 @@ const int leastTitle = 80;
 const QRgb dimmed = 0x9617202b;
 // Beside the keys of a slim panel: a word of nine letters.
 const int leastSlimTitle = 54;
+// Below this width the names of the devices leave a message too little room.
+const int roomyFrom = 1000;
 
 // The sign of a key that has one says enough where its word has no room.
 void showWords(const QList<PanelKey *> &keys, bool shows)
@@ -205,7 +207,10 @@ QWidget *PanelWindow::makeFootStrip()
     if (m_shape == Wide) {
         line->addWidget(m_status);
         line->addSpacing(6);
+        if (width() < roomyFrom)
+            connect(m_messageBar, &MessageBar::changed, this, &PanelWindow::placeMessages);
     } else if (m_shape == Slim) {
+        connect(m_messageBar, &MessageBar::changed, this, &PanelWindow::placeLongMessage);
         column->addWidget(m_status, 0, Qt::AlignHCenter);
     }
     if (m_shape == Upright)
@@ -419,10 +424,28 @@ void PanelWindow::showInFull(const QString &subject)
     dialog.exec();
 }
 
-/// The key of the message stands where some of the devices' states have been.
+/// The key of the message stands where some of the devices' states have been, or its text where
+/// their names have.
 void PanelWindow::placeMessages()
 {
-    m_status->setBrief(!m_messageBar->text().isEmpty());
+    const bool isTold = !m_messageBar->text().isEmpty();
+    if (m_shape == Small)
+        m_status->setBrief(isTold);
+    else
+        m_status->setNamed(!isTold);
+}
+
+/// Where lines are short, a long message takes that of the devices, too. The screens above keep
+/// their height.
+void PanelWindow::placeLongMessage()
+{
+    m_messageBar->setHigher(0);
+    const bool isMessage = !m_messageBar->text().isEmpty() && !m_messageBar->isWorking();
+    const bool isLong = isMessage && isVisible() && !m_messageBar->hasRoom();
+    m_status->setVisible(!isLong);
+    if (!isLong)
+        return;
+    m_messageBar->setHigher(m_status->height() + stripMargin);
 }
 
 void PanelWindow::showWork()
@@ -458,6 +481,8 @@ bool PanelWindow::event(QEvent *event)
         m_shade->show();
     } else if (event->type() == QEvent::WindowUnblocked) {
         m_shade->hide();
+    } else if (event->type() == QEvent::Show && m_shape == Slim) {
+        placeLongMessage();
     }
     return QWidget::event(event);
 }

@@ -109,6 +109,7 @@ private:
     void showMessages();
     void showInFull(const QString &subject);
     void placeMessages();
+    void placeLongMessage();
     void showWork();
     void refreshStatus();
     void tellOf(const PanelScreen *screen, const QString &text, Message::Tone tone,

@@ -194,6 +194,14 @@ void StatusStrip::setBrief(bool isBrief)
     showCheck();
 }
 
+void StatusStrip::setNamed(bool isNamed)
+{
+    if (isNamed == m_isNamed)
+        return;
+    m_isNamed = isNamed;
+    showAll();
+}
+
 void StatusStrip::mousePressEvent(QMouseEvent *event)
 {
     event->setAccepted(isOnCheck(event->pos()));
@@ -272,7 +280,7 @@ void StatusStrip::showAll()
 
 QString StatusStrip::named(const QString &name, const QString &word) const
 {
-    return m_roomy ? name + QLatin1Char(' ') + word : word;
+    return m_roomy && m_isNamed ? name + QLatin1Char(' ') + word : word;
 }
 
 /// The words change by themselves, and while the operator types: nothing beside them may move.

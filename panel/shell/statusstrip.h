@@ -82,6 +82,8 @@ public:
     void showCheck(Check check, int errors, int warnings);
     /// A brief strip keeps to the check and the PLC, for as long as something else needs its room.
     void setBrief(bool isBrief);
+    /// A roomy strip leaves the names away for as long as something else needs their room.
+    void setNamed(bool isNamed);
 
 Q_SIGNALS:
     /// The operator touched what the strip shows of the check.
@@ -115,6 +117,7 @@ private:
     DeviceState m_devices;
     bool m_isKnown = false;
     bool m_isBrief = false;
+    bool m_isNamed = true;
     bool m_isCheckTold = false;
     Check m_checkState = CheckUnknown;
     int m_errors = 0;

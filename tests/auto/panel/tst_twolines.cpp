@@ -2,19 +2,25 @@
 // SPDX-License-Identifier: MIT
 
 // Holds MessageDialog and QuestionDialog on the smallest panel, whose screen the test has: whether
-// each message, hint and question of panel and companion takes two lines, in each language.
+// each message, hint and question of panel and companion takes two lines, in each language. On the
+// other panels holds MessageBar: whether a message is whole at the foot of the screen.
 
 #include "filarixtest.h"
+#include "look/elidedlabel.h"
 #include "look/look.h"
 #include "panelprogram.h"
 #include "shell/messagedialog.h"
 #include "shell/messagelog.h"
+#include "shell/panelwindow.h"
 #include "shell/questiondialog.h"
+#include "shell/statusstrip.h"
+#include "stick/devicewatch.h"
 #include "textfit.h"
 
 #include <QFile>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QTranslator>
 #include <QXmlStreamReader>
 
 namespace {
@@ -103,6 +109,20 @@ QStringList longQuestions(const QStringList &texts)
     return faults;
 }
 
+/// Those of \a texts that the foot of a panel ends in three dots.
+QStringList cutAtTheFoot(PanelWindow *panel, const QStringList &texts)
+{
+    const ElidedLabel *label = panel->findChild<ElidedLabel *>("messageText");
+    QStringList cut;
+    for (const QString &text : texts) {
+        panel->messages()->tell(text, Message::Warning, "cause");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        if (label->text() != text || !label->isWhole())
+            cut.append(text);
+    }
+    return cut;
+}
+
 } // namespace
 
 class TestTwoLines : public FilarixTest
@@ -114,6 +134,8 @@ private Q_SLOTS:
     void threeLinesAreFound();
     void everyTextTakesTwoLines_data();
     void everyTextTakesTwoLines();
+    void everyMessageIsWholeAtTheFoot_data();
+    void everyMessageIsWholeAtTheFoot();
 };
 
 void TestTwoLines::initTestCase()
@@ -150,6 +172,54 @@ void TestTwoLines::everyTextTakesTwoLines()
     for (const QString &fault : faults)
         qDebug("%s", qPrintable(fault));
     QCOMPARE(faults, QStringList());
+}
+
+void TestTwoLines::everyMessageIsWholeAtTheFoot_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("language");
+    for (const QSize &size :
+         {QSize(272, 480), QSize(480, 800), QSize(800, 480), QSize(1024, 600)}) {
+        for (const char *language : {english, "de", "it", "tr", "zh_CN"})
+            QTest::newRow(
+                qPrintable(QString("%1x%2 %3").arg(size.width()).arg(size.height()).arg(language)))
+                << size << QString(language);
+    }
+}
+
+// The states of the devices, which stand beside a message, have their longest words.
+void TestTwoLines::everyMessageIsWholeAtTheFoot()
+{
+    QFETCH(QSize, size);
+    QFETCH(QString, language);
+    // The screen comes with the first window.
+    StrictMessages::expect("QVncServer created");
+    QTranslator translator;
+    if (language != english) {
+        QVERIFY(translator.load("filarix-panel_" + language, FILARIX_TRANSLATIONS));
+        QCoreApplication::installTranslator(&translator);
+    }
+    PanelWindow panel(size);
+    panel.show();
+    DeviceState state;
+    state.isKnown = true;
+    state.stickIn = true;
+    state.freeBytes = qint64(99) * 1024 * 1024 * 1024;
+    panel.status()->showDevices(state);
+    panel.status()->showCheck(StatusStrip::Checked, 4, 2);
+    QCoreApplication::processEvents();
+    const QStringList texts = textsIn(language);
+    const QRegularExpression question("[?\xef\xbc\x9f]$");
+    QStringList messages = texts;
+    for (const QString &text : texts.filter(question))
+        messages.removeAll(text);
+    QVERIFY2(messages.size() > 120, qPrintable(QString::number(messages.size())));
+    // Two words for a thousand pixels would fit without being read.
+    QCOMPARE(cutAtTheFoot(&panel, {QString("word ").repeated(60).trimmed()}).size(), 1);
+    const QStringList cut = cutAtTheFoot(&panel, messages);
+    for (const QString &text : cut)
+        qDebug("%s", qPrintable(text));
+    QCOMPARE(cut.size(), 0);
 }
 
 FILARIX_TEST_MAIN(TestTwoLines)

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void touchShowsEverythingInFull();
     void messageCoversNothing_data();
     void messageCoversNothing();
+    void longMessageTakesTheLineOfTheDevices();
     void messageSurvivesAChangeOfScreens();
     void messageGoesWithItsCause();
     void whatIsToldMeanwhileEndsNoWork();
@@ -331,9 +332,10 @@ void TestPanelWindow::statusIsInViewOnEveryScreen()
         panel.showScreen(i);
         screens.at(i)->m_title = QString(200, 'w');
         Q_EMIT screens.at(i)->titleChanged();
-        // On a small panel it takes the place of some.
+        // On a small panel it takes the place of some, and a long one that of all on a slim panel.
+        const int length = size == QSize(272, 480) ? 30 : 200;
         if (size != QSize(480, 272))
-            Q_EMIT screens.at(i)->told(QString(200, 'w'), Message::Information);
+            Q_EMIT screens.at(i)->told(QString(length, 'w'), Message::Information);
         QCoreApplication::processEvents();
         const QList<QLabel *> words = panel.status()->findChildren<QLabel *>();
         QCOMPARE(words.size(), 5);
@@ -414,6 +416,7 @@ void TestPanelWindow::messageCoversNothing()
     panel.show();
     QStackedWidget *stack = panel.findChild<QStackedWidget *>();
     QRect content = stack->geometry();
+    const int row = panel.messageBar()->height();
     for (int state = 0; state < 3; ++state) {
         if (state == 1)
             Q_EMIT screens.at(0)->told(QString(200, 'w'), Message::Alarm);
@@ -422,7 +425,7 @@ void TestPanelWindow::messageCoversNothing()
         QCoreApplication::processEvents();
         // What stops running work is 15 mm high, where the panel is high enough.
         if (state == 2 && panel.messageBar()->height() >= Measures::touch())
-            content.setHeight(content.height() + Measures::touch() - Measures::stop().height());
+            content.setHeight(content.height() + row - Measures::stop().height());
         for (int i = 0; i < screens.size(); ++i) {
             panel.showScreen(i);
             QCoreApplication::processEvents();
@@ -452,6 +455,25 @@ void TestPanelWindow::messageCoversNothing()
             QCOMPARE(panel.childAt(content.bottomRight()), static_cast<QWidget *>(screens.at(i)));
         }
     }
+}
+
+// On a slim panel, whose lines are short.
+void TestPanelWindow::longMessageTakesTheLineOfTheDevices()
+{
+    PanelWindow panel(QSize(272, 480));
+    const QString text = QString("word ").repeated(18).trimmed();
+    panel.messages()->tell(text, Message::Warning, "long");
+    panel.show();
+    QCoreApplication::processEvents();
+    const ElidedLabel *label = panel.findChild<ElidedLabel *>("messageText");
+    QVERIFY(!panel.status()->isVisible());
+    QVERIFY(label->isWhole());
+    panel.messages()->end("long");
+    QVERIFY(panel.status()->isVisible());
+    panel.messages()->tell("word", Message::Warning, "short");
+    QVERIFY(panel.status()->isVisible());
+    panel.messages()->tell(text, Message::Warning, "long");
+    QVERIFY(!panel.status()->isVisible());
 }
 
 void TestPanelWindow::messageSurvivesAChangeOfScreens()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void clockTicks();
     void wordsFollowTheLanguage();
     void thingsAreNamedWhereThereIsRoom();
+    void namesGiveWayToSomethingElse();
     void checkIsShownOnceItIsTold();
     void keysAskForTheCheck();
     void smallStripShowsFaultsForTheClock();
@@ -264,6 +265,21 @@ void TestStatusStrip::thingsAreNamedWhereThereIsRoom()
 }
 
 // A word that grows must not push another out of the strip.
+void TestStatusStrip::namesGiveWayToSomethingElse()
+{
+    StatusStrip strip(true);
+    strip.showDevices(devices(true, false, 0));
+    const int width = strip.sizeHint().width();
+    const QString named = item(strip, "plcState")->text();
+    strip.setNamed(false);
+    QCOMPARE(item(strip, "plcState")->text(), QString("ready"));
+    QVERIFY(strip.sizeHint().width() < width);
+    QVERIFY(!item(strip, "stickState")->isHidden());
+    strip.setNamed(true);
+    QCOMPARE(item(strip, "plcState")->text(), named);
+    QCOMPARE(strip.sizeHint().width(), width);
+}
+
 void TestStatusStrip::checkIsShownOnceItIsTold()
 {
     StatusStrip strip(true);
