@@ -55,6 +55,18 @@ void leaveRoomForNames(QDialog *manager)
         label->setWordWrap(true);
 }
 
+/// The words of a dialog that is wider than the panel take the room of its sides.
+void narrowSides(QDialog *dialog, int room)
+{
+    QLayout *layout = dialog->layout();
+    if (!layout || layout->minimumSize().width() <= room)
+        return;
+    QMargins margins = layout->contentsMargins();
+    margins.setLeft(qMin(margins.left(), narrowMargin));
+    margins.setRight(qMin(margins.right(), narrowMargin));
+    layout->setContentsMargins(margins);
+}
+
 } // namespace
 
 DialogFitter::DialogFitter(QWidget *panel) : QObject(panel), m_panel(panel)
@@ -139,6 +151,7 @@ void DialogFitter::raiseAll()
 void DialogFitter::fit(QDialog *dialog)
 {
     const QRect panel = QGuiApplication::primaryScreen()->availableGeometry();
+    narrowSides(dialog, panel.width());
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));
     if (dialog->inherits("ImportManage")) {
         if (panel.width() < FilarixPanel::smallBelow)

@@ -56,18 +56,8 @@ const Exception exceptionTable[] = {
     {Exception::Place, "shade", "lies over everything while a dialog waits", anyWidth},
     {Exception::Place, "menu", "lies over the screens while the operator chooses", anyWidth},
     // The library lays its parts out for 440 pixels and more.
-    {Exception::Text, "WMMainWindow", "the read-out beside the name has a fixed order and font",
-     narrow},
-    {Exception::Text, "WCopyDialog", "its widths are fixed", narrow},
-    {Exception::Text, "WFileDialog", "its font and its keys are fixed", narrow},
     {Exception::Place, "WGCodeEditer", "the scroll bar's fixed length", narrow},
-    {Exception::Text, "MJLine", "cells are shares of the width", narrow},
-    {Exception::Text, "DataEditor", "cells are shares of the width", narrow},
-    {Exception::Text, "ConnEditor", "cells and keys are shares of the width", narrow},
-    {Exception::Text, "ImportManage", "three columns side by side", narrow},
-    {Exception::Text, "FileDialog", "keys are shares of the width", narrow},
     {Exception::Size, "FileDialog", "keys are shares of the width", narrow},
-    {Exception::Text, "QMessageBox", "three answers side by side", narrow},
 };
 
 int screenWidth = 0;

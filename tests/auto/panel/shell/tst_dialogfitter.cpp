@@ -9,6 +9,7 @@
 #include "shell/titlestrip.h"
 
 #include <QDialog>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -20,6 +21,7 @@ class TestDialogFitter : public FilarixTest
 
 private Q_SLOTS:
     void dialogLargerThanThePanelIsMadeToFit();
+    void wideDialogHasNarrowSides();
     void dialogBesideThePanelIsMovedOntoIt();
     void dialogThatTheToolkitPlacesStandsInTheMiddle();
     void dialogHasAnEdge();
@@ -40,6 +42,29 @@ void TestDialogFitter::dialogLargerThanThePanelIsMadeToFit()
     dialog.show();
     const QRect screen(panel.mapToGlobal(QPoint(0, 0)), panel.size());
     QTRY_COMPARE(dialog.geometry(), screen);
+}
+
+void TestDialogFitter::wideDialogHasNarrowSides()
+{
+    QWidget panel;
+    panel.setFixedSize(480, 272);
+    panel.show();
+    PrimarySurface surface(&panel, true);
+    DialogFitter keeper(nullptr);
+    for (int width : {400, 462}) {
+        QDialog dialog;
+        QHBoxLayout *layout = new QHBoxLayout(&dialog);
+        layout->setContentsMargins(20, 20, 20, 20);
+        QWidget *words = new QWidget;
+        words->setMinimumWidth(width);
+        layout->addWidget(words);
+        dialog.show();
+        QTRY_VERIFY(panel.width() >= dialog.width());
+        const bool isWide = width + 2 * 20 > panel.width();
+        QTRY_COMPARE(layout->contentsMargins().left() < 20, isWide);
+        QCOMPARE(layout->contentsMargins().right() < 20, isWide);
+        QVERIFY(layout->minimumSize().width() <= panel.width());
+    }
 }
 
 void TestDialogFitter::dialogBesideThePanelIsMovedOntoIt()
