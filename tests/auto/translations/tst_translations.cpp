@@ -173,6 +173,20 @@ const char *const englishTexts[] = {
     "Att",
 };
 
+/// What an operator has before him at one time, on keys and tabs of a screen and of a dialog over
+/// it. Two of a row do different things.
+const char *const actionsInView[][32] = {
+    {"Undo", "Redo", "Back", "Next", "Cancel", "Bring back", "Close", "Stop", "OK",
+     "Keep for later", "Throw away"},
+    {"Program", "Preview", "Teach", "Variables", "Connections", "Files",  "Settings",
+     "Menu",    "New",     "Open",  "RM",        "Save",        "SaveAs", "I/E",
+     "D/L",     "Up",      "Down",  "Ins",       "Del",         "Edit",   "Copy",
+     "Paste",   "Find",    "Tag",   "Undo",      "Redo",        "Line",   "Page"},
+    {"Load", "Store", "Store as", "Up", "Down", "Text", "Copy", "Paste", "Delete", "Undo", "Clear",
+     "Select", "First", "Last", "More", "Page"},
+    {"Open", "Check", "History", "I/E", "Rename", "Browse", "Remove"},
+};
+
 QString sourceFile(const QString &name)
 {
     return QLatin1String(FILARIX_TRANSLATION_SOURCES "/") + name;
@@ -334,6 +348,8 @@ private Q_SLOTS:
     void placesForValuesAreKept();
     void blanksAtTheEndsAreKept_data() { addLanguages(); }
     void blanksAtTheEndsAreKept();
+    void actionsInViewHaveWordsOfTheirOwn_data() { addLanguages(); }
+    void actionsInViewHaveWordsOfTheirOwn();
     void mnemonicsOfTheFindDialogAreApart_data() { addLanguages(); }
     void mnemonicsOfTheFindDialogAreApart();
 
@@ -416,6 +432,31 @@ void TestTranslations::blanksAtTheEndsAreKept()
         }
     }
     QCOMPARE(checked, 7);
+}
+
+void TestTranslations::actionsInViewHaveWordsOfTheirOwn()
+{
+    QFETCH(QString, language);
+    QHash<QString, QSet<QString>> words;
+    for (const char *name : {"filarix", "filarix-panel", "filarixhost", "hmidevice-sim"}) {
+        const QString file = QLatin1String(name) + QLatin1Char('_') + language;
+        Q_FOREACH (const Message &message, messagesOf(file + QLatin1String(".ts")))
+            words[message.source] << QString(message.translation).remove(QLatin1Char('&'));
+    }
+    QStringList shared;
+    for (const auto &actions : actionsInView) {
+        for (int i = 0; actions[i]; ++i) {
+            QVERIFY2(words.contains(QLatin1String(actions[i])), actions[i]);
+            for (int j = i + 1; actions[j]; ++j) {
+                const QSet<QString> common = QSet<QString>(words[QLatin1String(actions[i])])
+                                                 .intersect(words[QLatin1String(actions[j])]);
+                Q_FOREACH (const QString &word, common)
+                    shared << QString::fromLatin1("%1: %2, %3")
+                                  .arg(word, QLatin1String(actions[i]), QLatin1String(actions[j]));
+            }
+        }
+    }
+    QCOMPARE(shared.join(QLatin1String("; ")), QString());
 }
 
 void TestTranslations::mnemonicsOfTheFindDialogAreApart()
