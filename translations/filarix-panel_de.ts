@@ -688,7 +688,7 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Zurück</translation>
+        <translation>Storno</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1023,11 +1023,11 @@
     </message>
     <message>
         <source>Speed</source>
-        <translation>Geschw.</translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Speed %1</source>
-        <translation>Geschw. %1</translation>
+        <translation>Tempo %1</translation>
     </message>
     <message>
         <source>Zone %1</source>
@@ -1073,7 +1073,7 @@
     </message>
     <message>
         <source>Speed</source>
-        <translation>Geschw.</translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Z</source>
@@ -1160,11 +1160,11 @@
     </message>
     <message>
         <source>Speed for instruction %1</source>
-        <translation>Geschwindigkeit für Befehl %1</translation>
+        <translation>Tempo für Befehl %1</translation>
     </message>
     <message>
         <source>Instructions that now name speed %1 &quot;%2&quot;: %3.</source>
-        <translation>Befehle, die nun Geschwindigkeit %1 „%2“ nennen: %3.</translation>
+        <translation>Befehle, die nun Tempo %1 „%2“ nennen: %3.</translation>
     </message>
     <message>
         <source>Taught program</source>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Zurück</translation>
+        <translation>Storno</translation>
     </message>
     <message>
         <source>Taught programs are in %1 now, copied: %2. The old files stay.</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Instructions removed: %1. Undo brings them back.</source>
-        <translation>Gelöschte Befehle: %1. „Zurück“ bringt sie wieder.</translation>
+        <translation>Gelöschte Befehle: %1. „Storno“ bringt sie wieder.</translation>
     </message>
     <message>
         <source>There is no instruction to copy.</source>

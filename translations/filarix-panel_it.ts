@@ -688,7 +688,7 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Annulla</translation>
+        <translation>Disfa</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Annulla</translation>
+        <translation>Disfa</translation>
     </message>
     <message>
         <source>Taught programs are in %1 now, copied: %2. The old files stay.</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Instructions removed: %1. Undo brings them back.</source>
-        <translation>Istruzioni eliminate: %1. &quot;Annulla&quot; le riporta.</translation>
+        <translation>Istruzioni eliminate: %1. &quot;Disfa&quot; le riporta.</translation>
     </message>
     <message>
         <source>There is no instruction to copy.</source>

@@ -375,7 +375,7 @@
     </message>
     <message>
         <source>Bring back</source>
-        <translation>Geri al</translation>
+        <translation>Geri getir</translation>
     </message>
     <message>
         <source>Close</source>

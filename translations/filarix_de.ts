@@ -79,15 +79,15 @@
     </message>
     <message>
         <source>&gt;Del</source>
-        <translation>&gt;Lösch.</translation>
+        <translation>&gt;Entf</translation>
     </message>
     <message>
         <source>Del&lt;</source>
-        <translation>Lösch.&lt;</translation>
+        <translation>Entf&lt;</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>Beenden</translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>Used Space </source>
@@ -215,7 +215,7 @@
     </message>
     <message>
         <source>Copy count:</source>
-        <translation>Anzahl Zeilen:</translation>
+        <translation>Anzahl:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -300,7 +300,7 @@
     </message>
     <message>
         <source>Count:</source>
-        <translation>Gesamt:</translation>
+        <translation>Total:</translation>
     </message>
     <message>
         <source>Open file</source>

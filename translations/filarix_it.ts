@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>&gt;Del</source>
-        <translation>&gt;Elim.</translation>
+        <translation>&gt;Canc</translation>
     </message>
     <message>
         <source>Del&lt;</source>
-        <translation>Elim.&lt;</translation>
+        <translation>Canc&lt;</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -215,7 +215,7 @@ Sovrascriverlo?</translation>
     </message>
     <message>
         <source>Copy count:</source>
-        <translation>Numero di righe:</translation>
+        <translation>Righe:</translation>
     </message>
     <message>
         <source>OK</source>

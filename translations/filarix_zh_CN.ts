@@ -406,7 +406,7 @@ Do you want to open it again?</source>
     </message>
     <message>
         <source>Tag</source>
-        <translation>变量</translation>
+        <translation>标签</translation>
     </message>
     <message>
         <source>Copy</source>

@@ -568,7 +568,7 @@
     </message>
     <message>
         <source>No transfer: the path %1 holds characters that the transfer would not take for what they are.</source>
-        <translation>Nessun trasferimento: il percorso %1 contiene caratteri che il trasferimento interpreterebbe male.</translation>
+        <translation>Nessun trasferimento: il percorso %1 ha caratteri che il trasferimento interpreterebbe male.</translation>
     </message>
     <message>
         <source>One moment: the panel looks at the programs and the stick.</source>

@@ -1476,7 +1476,7 @@
     </message>
     <message>
         <source>Bring back</source>
-        <translation>Geri al</translation>
+        <translation>Geri getir</translation>
     </message>
 </context>
 <context>

@@ -155,6 +155,10 @@
         <source>Small letters</source>
         <translation>Küçük harfler</translation>
     </message>
+    <message>
+        <source>Digits and signs</source>
+        <translation>Rakamlar ve işaretler</translation>
+    </message>
 </context>
 <context>
     <name>KeypadCheck</name>
@@ -268,6 +272,10 @@
     <message>
         <source>Number</source>
         <translation>Sayı</translation>
+    </message>
+    <message>
+        <source>123</source>
+        <translation>123</translation>
     </message>
 </context>
 <context>

@@ -155,6 +155,10 @@
         <source>Small letters</source>
         <translation>小写字母</translation>
     </message>
+    <message>
+        <source>Digits and signs</source>
+        <translation>数字和符号</translation>
+    </message>
 </context>
 <context>
     <name>KeypadCheck</name>
@@ -268,6 +272,10 @@
     <message>
         <source>Number</source>
         <translation>数值</translation>
+    </message>
+    <message>
+        <source>123</source>
+        <translation>123</translation>
     </message>
 </context>
 <context>
