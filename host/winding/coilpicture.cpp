@@ -397,8 +397,9 @@ bool CoilPicture::Maker::areTurnsSeen() const
         if (!isSeen(layer))
             continue;
         const double length = qMax(layer.right - layer.left, 1e-6);
-        const double seen = qMin(layer.right, double(frame.world.right()))
-                            - qMax(layer.left, double(frame.world.left()));
+        // As far as the circles are drawn: a wire beyond what is in view.
+        const double seen = qMin(layer.right, double(frame.world.right()) + m_bobbin.wire)
+                            - qMax(layer.left, double(frame.world.left()) - m_bobbin.wire);
         count += turnsOf(layer) * qBound(0.0, seen / length, 1.0);
     }
     return count <= mostCircles;

@@ -426,6 +426,11 @@ void TestCoilPicture::aMoveOfCountlessTurnsIsDrawnAtOnce()
     scene.world = QRectF(10, whole.frame().world.top() + 3, whole.leastWidth(), 0.5);
     const CoilPicture part(model, scene);
     QVERIFY(part.drawing().shapes().size() < 2 * CoilPicture::mostCircles);
+    // Half a wire beside the layer its outermost turns reach into view.
+    const qreal width = whole.leastWidth();
+    scene.world = QRectF(qreal(0.2) - width, whole.frame().world.top() + 3, width, 0.5);
+    const CoilPicture beside(model, scene);
+    QVERIFY(beside.drawing().shapes().size() < 2 * CoilPicture::mostCircles);
     QVERIFY2(time.elapsed() <= patience(300), qPrintable(QString::number(time.elapsed())));
 }
 
