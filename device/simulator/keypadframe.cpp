@@ -739,6 +739,7 @@ void KeypadFrame::turnSymbols()
 {
     m_symbols = !m_symbols;
     labelKeys();
+    fitLetters();
     check();
 }
 
@@ -756,6 +757,7 @@ void KeypadFrame::turnCapitals()
 {
     m_isSmall = !m_isSmall;
     labelKeys();
+    fitLetters();
 }
 
 void KeypadFrame::accept()
