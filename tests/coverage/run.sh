@@ -20,7 +20,7 @@ for folder in "${library[@]}" host panel; do
 done
 # A program that is killed has counted nothing. The walks of the smallest and of the largest screen take
 # the ways that those of the others take.
-left_out='^tst_unsavedkill$|^(tour|tst_textfit)_([0-9x]+)(_de)?$'
+left_out='^tst_unsavedkill$|^(tour|tst_textfit|tst_textfit_titles)_([0-9x]+)(_de)?$'
 walks='^(tour|tst_textfit)_(480x272|1280x800)$'
 # What counts the bytes of a library that comes and goes finds some of the counters' own.
 counts_bytes='^tst_unloading$'

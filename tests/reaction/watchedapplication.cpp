@@ -4,10 +4,14 @@
 #include "watchedapplication.h"
 
 #include <QEvent>
+#include <QThread>
 
 /// All paints of a window lie in one other event: a request, or the press that could not wait.
 bool WatchedApplication::notify(QObject *receiver, QEvent *event)
 {
+    // Work on files has event loops of its own.
+    if (QThread::currentThread() != thread())
+        return QApplication::notify(receiver, event);
     const bool isPaint = event->type() == QEvent::Paint;
     const bool isTaken = QApplication::notify(receiver, event);
     if (isPaint) {

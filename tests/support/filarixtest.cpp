@@ -127,7 +127,7 @@ bool FilarixTest::isLost(const QWidget *widget) const
 void FilarixTest::init()
 {
     // What a disk that hung has let go would go on in this test's home.
-    QVERIFY2(TestCompat::waitFor([] { return fileThreads() == 0; }),
+    QVERIFY2(TestCompat::waitFor([] { return fileThreads() == 0; }, patience(5000)),
              "a thread of an earlier test still works");
     emptyFolder(home());
     StrictMessages::install();
