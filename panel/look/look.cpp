@@ -102,6 +102,8 @@ QPalette paletteOn(const QWidget *widget, Look::Dress dress)
         return palette;
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::WindowText, Look::colour(Role::StripText));
+    // The part of work that is done.
+    palette.setColor(QPalette::Highlight, Look::colour(Role::StripText));
     return palette;
 }
 

@@ -76,12 +76,14 @@ void PanelKey::focusInEvent(QFocusEvent *event)
         key->setFocusPolicy(Qt::TabFocus);
 }
 
-// Larger letters take their room from the picture: a strip of keys keeps its height.
+// Larger letters take their room from the picture: a strip of keys keeps its height. So does a word
+// that is hidden at the moment, and comes back at any size of letters.
 void PanelKey::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange) {
         const int height = fontMetrics().height();
-        if (m_letterHeight > 0 && toolButtonStyle() == Qt::ToolButtonTextUnderIcon)
+        const bool isOverWord = !icon().isNull() && !text().isEmpty();
+        if (m_letterHeight > 0 && isOverWord)
             setIconSize(iconSize() - QSize(height - m_letterHeight, height - m_letterHeight));
         m_letterHeight = height;
     }

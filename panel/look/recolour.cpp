@@ -134,9 +134,13 @@ QRgb ofPaper(QRgb colour, Look::Style style)
     return (style == Look::Dark ? dark : glare).of(colour);
 }
 
-QRgb changed(QRgb colour, Look::Style style)
+/// The dark look's own mark is a deep cyan. In glare rows have the mark of light.
+QRgb changed(QRgb colour, Look::Style style, Recolour::Paper paper)
 {
-    return style == Look::Light ? ofLightRow(colour) : ofPaper(colour, style);
+    if (style == Look::Light)
+        return ofLightRow(colour);
+    const bool isMark = style == Look::HighContrast && paper == Recolour::Rows;
+    return ofPaper(isMark ? ofLightRow(colour) : colour, style);
 }
 
 bool isFixed(const QWidget *widget)
@@ -236,15 +240,15 @@ void put(QRgb colour, quint16 *pixel)
 
 // Most pixels are as the one before.
 template<class Pixel>
-void changeLine(Pixel *line, int from, int to, Look::Style style)
+void changeLine(Pixel *line, int from, int to, Look::Style style, Recolour::Paper paper)
 {
     Pixel before = line[from];
     Pixel after = before;
-    put(changed(toRgb(before), style), &after);
+    put(changed(toRgb(before), style, paper), &after);
     for (Pixel *pixel = line + from; pixel <= line + to; ++pixel) {
         if (*pixel != before) {
             before = *pixel;
-            put(changed(toRgb(before), style), &after);
+            put(changed(toRgb(before), style, paper), &after);
         }
         *pixel = after;
     }
@@ -348,16 +352,17 @@ QColor Recolour::drawn(const QColor &colour, Look::Style style)
     return style == Look::Light ? colour : QColor(ofPaper(colour.rgb(), style));
 }
 
-void Recolour::change(QImage *image, const QRect &part, Look::Style style)
+void Recolour::change(QImage *image, const QRect &part, Look::Style style, Paper paper)
 {
     const QRect place = part & image->rect();
     for (int y = place.top(); y <= place.bottom(); ++y) {
         // An image that is painted on must not be copied, which scanLine() might do.
         uchar *line = const_cast<uchar *>(image->constScanLine(y));
         if (image->format() == QImage::Format_RGB16)
-            changeLine(reinterpret_cast<quint16 *>(line), place.left(), place.right(), style);
+            changeLine(reinterpret_cast<quint16 *>(line), place.left(), place.right(), style,
+                       paper);
         else
-            changeLine(reinterpret_cast<QRgb *>(line), place.left(), place.right(), style);
+            changeLine(reinterpret_cast<QRgb *>(line), place.left(), place.right(), style, paper);
     }
 }
 
@@ -383,6 +388,11 @@ void Recolour::repairAbove()
     const QPoint corner = top->mapFrom(window, m_widget->mapTo(window, bounds.topLeft()));
     QTimer::singleShot(0, top,
                        [top, corner, bounds] { top->update(QRect(corner, bounds.size())); });
+}
+
+Recolour::Paper Recolour::paper() const
+{
+    return m_widget->inherits(editorClass) ? Editor : Rows;
 }
 
 /// Without what has the look's own colours; in the widget's own pixels.
@@ -431,7 +441,7 @@ bool Recolour::drawInPlace(QPainter *painter)
     if (!clip.isEmpty())
         m_painted &= clip.translated(-corner);
     for (const QRect &rect : ownPart(m_painted))
-        change(image, rect.translated(corner), Look::style());
+        change(image, rect.translated(corner), Look::style(), paper());
     return true;
 }
 
@@ -447,7 +457,7 @@ void Recolour::drawByPicture(QPainter *painter)
     QPainter(&picture).drawPixmap(0, 0, source);
     for (const QRect &rect : ownPart(m_widget->rect())) {
         const QRectF place(QPointF(rect.topLeft()) * ratio, QSizeF(rect.size()) * ratio);
-        change(&picture, place.toAlignedRect(), Look::style());
+        change(&picture, place.toAlignedRect(), Look::style(), paper());
     }
     painter->drawImage(corner, picture);
 }

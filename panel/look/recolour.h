@@ -19,12 +19,16 @@ class QImage;
 /// Scroll bars have the colours of the look itself.
 ///
 /// Look::use() calls follow(). In the light look the editor is drawn as it is, and of the lists and
-/// rows no more is changed than the ground of the row in hand.
+/// rows no more is changed than the ground of the row in hand. In the look for glare, too, that
+/// ground is light blue in place of cyan.
 class Recolour : public QGraphicsEffect
 {
     Q_OBJECT
 
 public:
+    /// What is written on.
+    enum Paper { Editor, Rows };
+
     /// Covers what the library has made and will make, in the look in use.
     static void follow();
     /// Behind the current line of the editor, before it is changed. In light each word that has a
@@ -33,7 +37,7 @@ public:
     /// What becomes of a colour of the editor in a look.
     static QColor drawn(const QColor &colour, Look::Style style);
     /// Changes the pixels of a part of an image of 32 or 16 bits a pixel.
-    static void change(QImage *image, const QRect &part, Look::Style style);
+    static void change(QImage *image, const QRect &part, Look::Style style, Paper paper = Editor);
 
 protected:
     void draw(QPainter *painter) override;
@@ -46,6 +50,7 @@ private:
     friend class RecolourWatch;
 
     void note(QWidget *widget, const QRegion &region);
+    Paper paper() const;
     QRegion ownPart(const QRegion &part) const;
     void repairAbove();
     bool drawInPlace(QPainter *painter);

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aLongWordMakesItWider();
     void theTextFollowsTheLanguage();
     void aTouchTakesNoFocus();
+    void aHiddenWordLeavesThePictureItsSize();
     void aHighKeyHasPictureAndWordInItsMiddle();
 };
 
@@ -83,6 +84,24 @@ void TestPanelKey::aTouchTakesNoFocus()
 }
 
 // Of one that is dressed, too.
+// On a narrow strip the word is hidden at some sizes of letters and shown at others.
+void TestPanelKey::aHiddenWordLeavesThePictureItsSize()
+{
+    PanelKey key(Glyphs::icon(Glyphs::Find), "Find");
+    const QFont usual = key.font();
+    QFont larger = usual;
+    larger.setPixelSize(usual.pixelSize() * 3 / 2);
+    key.setFont(larger);
+    key.setFont(usual);
+    const QSize picture = key.iconSize();
+    key.setFont(larger);
+    QVERIFY(key.iconSize().height() < picture.height());
+    key.setToolButtonStyle(Qt::ToolButtonIconOnly);
+    key.setFont(usual);
+    key.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    QCOMPARE(key.iconSize(), picture);
+}
+
 void TestPanelKey::aHighKeyHasPictureAndWordInItsMiddle()
 {
     QWidget panel;
