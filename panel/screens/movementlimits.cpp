@@ -8,6 +8,7 @@
 #include "guards/rowwatcher.h"
 #include "mjline.h"
 #include "screens/machinedata.h"
+#include "screens/taughtdetails.h"
 #include "tlistwidget.h"
 
 #include <QApplication>
@@ -77,7 +78,7 @@ bool isMovement(const QStringList &row)
     return isInstruction(row.value(Kind)) && row.size() >= HostLength;
 }
 
-/// What a field is called: "Instruction 5, Z". Its neighbours say something else.
+/// What a field is called: "Instruction 5, Zone Z". Its neighbours say something else.
 QString nameOf(const QLineEdit *field, int number, const QStringList &row)
 {
     const int position = positionOf(field);
@@ -85,7 +86,7 @@ QString nameOf(const QLineEdit *field, int number, const QStringList &row)
     if (position == Res)
         name = MovementLimits::tr("remark");
     else if (position > 0 && isMovement(row))
-        name = row.at(position - 1);
+        name = TaughtDetails::nameOfNumber(row, position);
     return MovementLimits::tr("Instruction %1, %2").arg(number).arg(name);
 }
 

@@ -39,11 +39,12 @@ TaughtDetails::Field entry(const QString &name, const QStringList &row, int posi
     return {position, key(name, QString::fromLatin1("%1 %2").arg(number).arg(text).trimmed())};
 }
 
-TaughtDetails::Field number(const QString &name, const QStringList &row, int position)
+TaughtDetails::Field number(const QStringList &row, int position)
 {
     const ValueRule rule = MovementLimits::ruleAt(position);
     const QString &value = row.at(position);
-    RowDetails::Detail detail = key(name, rule.withUnit(value));
+    RowDetails::Detail detail =
+        key(TaughtDetails::nameOfNumber(row, position), rule.withUnit(value));
     detail.note = rule.refusal(value);
     if (detail.note.isEmpty())
         detail.note = rule.range();
@@ -63,13 +64,10 @@ QList<TaughtDetails::Field> movementFields(const QStringList &row, const Machine
 {
     QList<TaughtDetails::Field> fields{entry(Words::tr("Point"), row, JposIndex, machine.points()),
                                        entry(Words::tr("Speed"), row, VIndex, machine.speeds())};
-    for (int pair = 0; pair < detailCount; ++pair) {
-        const QString &key = row.at(detailKey(pair));
-        fields.append(number(pair < jposDetails ? key : Words::tr("Speed %1").arg(key), row,
-                             detailValue(pair)));
-    }
-    fields.append(number(Words::tr("Zone %1").arg(row.at(ZKey)), row, ZValue));
-    fields.append(number(Words::tr("Tool %1").arg(row.at(TKey)), row, TValue));
+    for (int pair = 0; pair < detailCount; ++pair)
+        fields.append(number(row, detailValue(pair)));
+    fields.append(number(row, ZValue));
+    fields.append(number(row, TValue));
     QString remark = row.at(Res);
     fields.append(
         text(Words::tr("Remark"), remark.replace(QLatin1Char('_'), QLatin1Char(' ')), Res));
@@ -83,6 +81,16 @@ QString TaughtDetails::headingOf(const QStringList &row)
     const bool isMovement = isInstruction(row.value(Kind));
     return Words::tr("Instruction %1: %2")
         .arg(row.value(Num), isMovement ? row.value(Ins) : Words::tr("Text"));
+}
+
+QString TaughtDetails::nameOfNumber(const QStringList &row, int position)
+{
+    const QString &letter = row.at(position - 1);
+    if (position == ZValue)
+        return Words::tr("Zone %1").arg(letter);
+    if (position == TValue)
+        return Words::tr("Tool %1").arg(letter);
+    return position < detailValue(jposDetails) ? letter : Words::tr("Speed %1").arg(letter);
 }
 
 QList<TaughtDetails::Field> TaughtDetails::fieldsOf(const QStringList &row,

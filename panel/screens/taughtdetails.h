@@ -23,6 +23,9 @@ struct Field
 
 /// "Instruction 2: MoveJ", for a row as a file has it.
 QString headingOf(const QStringList &row);
+/// What the number at \a position of an instruction is called: "X", "Speed V", "Zone Z". No two of
+/// an instruction are called the same.
+QString nameOfNumber(const QStringList &row, int position);
 /// The values of that row; none for a row that is no instruction.
 QList<Field> fieldsOf(const QStringList &row, const MachineData &machine);
 

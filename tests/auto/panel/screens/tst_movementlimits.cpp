@@ -89,12 +89,12 @@ void TestMovementLimits::keypadLearnsTheLimitsOfItsField_data()
     QTest::addColumn<double>("minimum");
     QTest::addColumn<double>("maximum");
     QTest::addColumn<bool>("isWhole");
-    QTest::newRow("zone") << 0 << "Instruction 1, Z" << 0.0 << 100.0 << false;
-    QTest::newRow("tool") << 1 << "Instruction 1, T" << 0.0 << 99.0 << true;
+    QTest::newRow("zone") << 0 << "Instruction 1, Zone Z" << 0.0 << 100.0 << false;
+    QTest::newRow("tool") << 1 << "Instruction 1, Tool T" << 0.0 << 99.0 << true;
     QTest::newRow("X") << 2 << "Instruction 1, X" << -2000.0 << 2000.0 << false;
     QTest::newRow("W") << 7 << "Instruction 1, W" << -36000.0 << 36000.0 << false;
-    QTest::newRow("speed") << 8 << "Instruction 1, V" << 0.0 << 3000.0 << false;
-    QTest::newRow("deceleration") << 10 << "Instruction 1, D" << 0.0 << 1000.0 << false;
+    QTest::newRow("speed") << 8 << "Instruction 1, Speed V" << 0.0 << 3000.0 << false;
+    QTest::newRow("deceleration") << 10 << "Instruction 1, Speed D" << 0.0 << 1000.0 << false;
 }
 
 void TestMovementLimits::keypadLearnsTheLimitsOfItsField()
@@ -177,17 +177,17 @@ void TestMovementLimits::fieldsAreNamedAfterThemselves()
 {
     MovementLimits limits(m_list.get());
     m_list->update();
-    QTRY_COMPARE(field(1, 0)->accessibleName(), QString("Instruction 1, Z"));
-    QCOMPARE(field(1, 1)->accessibleName(), QString("Instruction 1, T"));
+    QTRY_COMPARE(field(1, 0)->accessibleName(), QString("Instruction 1, Zone Z"));
+    QCOMPARE(field(1, 1)->accessibleName(), QString("Instruction 1, Tool T"));
     QTRY_COMPARE(field(2, 0)->accessibleName(), QString("Instruction 2, text"));
     qobject_cast<MJLine *>(m_list->itemAt(m_list->getListPos(3)))->on_expand();
     QTRY_VERIFY(field(3, 11));
     QTRY_COMPARE(field(3, 11)->accessibleName(), QString("Instruction 3, remark"));
     QCOMPARE(field(3, 2)->accessibleName(), QString("Instruction 3, X"));
-    QCOMPARE(field(3, 10)->accessibleName(), QString("Instruction 3, D"));
+    QCOMPARE(field(3, 10)->accessibleName(), QString("Instruction 3, Speed D"));
     // The same widgets show other rows then.
     m_list->removeWidget(1, true);
-    QTRY_COMPARE(field(2, 0)->accessibleName(), QString("Instruction 2, Z"));
+    QTRY_COMPARE(field(2, 0)->accessibleName(), QString("Instruction 2, Zone Z"));
     DeviceLog::runThenCancel([] {
         QCOMPARE(DeviceLog::object()->property("hmiName").toString(),
                  QString("Instruction 1, text"));

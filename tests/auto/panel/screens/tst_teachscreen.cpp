@@ -1553,13 +1553,13 @@ void TestTeachScreen::touchedDetailOpensTheKeypadOfItsField_data()
     QTest::addColumn<int>("position");
     QTest::addColumn<QString>("entered");
     QTest::newRow("zone") << 2 << "Zone Z"
-                          << "Instruction 2, Z"
+                          << "Instruction 2, Zone Z"
                           << "NumericKeypad.setText(0)" << 8 << "12";
     QTest::newRow("coordinate of a closed row") << 2 << "X"
                                                 << "Instruction 2, X"
                                                 << "NumericKeypad.setText(-6)" << 14 << "12";
     QTest::newRow("ramp") << 2 << "Speed D"
-                          << "Instruction 2, D"
+                          << "Instruction 2, Speed D"
                           << "NumericKeypad.setText(200)" << 30 << "12";
     QTest::newRow("remark") << 8 << "Remark"
                             << "Instruction 8, remark"
