@@ -670,7 +670,8 @@ void TestVariablesScreen::marksFollowTheirRows()
     QTRY_COMPARE(markOf(screen, "Tension"), QString("changed"));
     for (const char *name : {"Core", "Turns", "T. step"})
         QTRY_COMPARE(markOf(screen, name), QString());
-    QTRY_COMPARE(shownRow(screen, "Slow")->findChild<ValueMark *>()->state().unit, QString("rpm"));
+    QTRY_COMPARE(shownRow(screen, "Slow")->findChild<ValueMark *>()->state().unit,
+                 QString("1/min"));
     screen.list()->end();
     QTRY_COMPARE(shownRow(screen, "Oil")->findChild<ValueMark *>()->state().unit, QString("min"));
     // Who can't see the row hears the same.
