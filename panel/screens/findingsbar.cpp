@@ -19,7 +19,7 @@
 namespace {
 
 const int textPixels = 14;
-const int smallestPixels = 12;
+const int smallestPixels = 11;
 // Less width is the text's: the keys have their pictures alone.
 const int wordsFrom = 600;
 const int textLines = 3;

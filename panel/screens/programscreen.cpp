@@ -226,6 +226,9 @@ void ProgramScreen::showFindings(bool isWanted)
         followCursor();
     showState();
     showCheck();
+    // What comes up below takes the last lines, the finding's among them.
+    m_layout->activate();
+    m_editor->ensureCursorVisible();
 }
 
 // One line of the two at a time.

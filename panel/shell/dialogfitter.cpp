@@ -36,7 +36,7 @@ bool isMisplaced(const QDialog *dialog)
     return !dialog->testAttribute(Qt::WA_Moved) && !Platform::hasWindowManager();
 }
 
-/// Side by side on an upright panel, two lists have no room for bars. A finger moves them. What is
+/// Side by side on a small panel, two lists have no room for bars. A finger moves them. What is
 /// told of the space has a line more.
 void leaveRoomForNames(QDialog *manager)
 {
@@ -154,7 +154,7 @@ void DialogFitter::fit(QDialog *dialog)
     narrowSides(dialog, panel.width());
     QRect place(dialog->geometry().topLeft(), dialog->size().boundedTo(panel.size()));
     if (dialog->inherits("ImportManage")) {
-        if (panel.width() < FilarixPanel::smallBelow)
+        if (qMin(panel.width(), panel.height()) < FilarixPanel::smallBelow)
             leaveRoomForNames(dialog);
         place.setSize(roomyDialog.boundedTo(panel.size()).expandedTo(place.size()));
         place.moveCenter(panel.center());

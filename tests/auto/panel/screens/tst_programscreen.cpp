@@ -76,6 +76,7 @@ private Q_SLOTS:
     void partIsSentByNoWay();
     void keypadGoesOnToTheNextLine();
     void keypadIsToldTheWordsInForce();
+    void findingsLeaveTheirLineInView();
     void cancelledInsertionLeavesNoLine();
     void pickerIsDressedAndTheNameOutlivesThePanel();
     void programIsOpenedByItsPath();
@@ -784,6 +785,28 @@ void TestProgramScreen::keypadIsToldTheWordsInForce()
     QCOMPARE(m_screen->programWindow()->property("hmiHint").toString(),
              QString("G90 G01 F200 S300"));
     // The screen shows the review until it goes.
+    delete m_screen;
+    m_screen = nullptr;
+}
+
+void TestProgramScreen::findingsLeaveTheirLineInView()
+{
+    CoilPreview preview(m_screen->editor()->document());
+    preview.setProfile(MachineProfile::forSamples());
+    ProgramReview review(&preview, m_screen->editor());
+    m_screen->setReview(&review);
+    WGCodeEditer *editor = m_screen->editor();
+    editor->setPlainText(QString("G01 X1 F100\n").repeated(200));
+    m_screen->goTo(100, 1);
+    QCoreApplication::processEvents();
+    const QPoint lowest(1, editor->viewport()->height() - editor->fontMetrics().height());
+    editor->setTextCursor(editor->cursorForPosition(lowest));
+    QVERIFY(editor->viewport()->rect().contains(editor->cursorRect()));
+    const int height = editor->viewport()->height();
+    m_screen->showFindings();
+    QCoreApplication::processEvents();
+    QVERIFY(editor->viewport()->height() < height);
+    QVERIFY(editor->viewport()->rect().contains(editor->cursorRect()));
     delete m_screen;
     m_screen = nullptr;
 }
