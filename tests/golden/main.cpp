@@ -33,6 +33,8 @@ namespace {
 // As long as the layouts of a step take.
 const int tickMs = 10;
 const int mostColours = 256;
+// The others are those that few pixels have.
+const int mostUsed = 192;
 const qint64 freeBytes = qint64(4) * 1024 * 1024 * 1024;
 
 int complain(const QString &text)
@@ -47,8 +49,28 @@ int distance(QRgb one, QRgb other)
            + qAbs(qBlue(one) - qBlue(other));
 }
 
-/// With the most used colours as they are, and each other as the nearest of them: a quarter of the
-/// bytes, and grounds keep their colours, which the usual tools would mix.
+/// Of \a all colours, the most used first, those that a picture keeps. The last ones are the
+/// farthest from any other: a small sign in a colour of its own is no shade of the ground around
+/// it.
+QVector<QRgb> keptOf(const QVector<QRgb> &all)
+{
+    QVector<QRgb> kept = all.mid(0, mostUsed);
+    QVector<int> ways(all.size(), INT_MAX);
+    const auto shorten = [&all, &ways](QRgb colour) {
+        for (int i = 0; i < all.size(); ++i)
+            ways[i] = qMin(ways.at(i), distance(all.at(i), colour));
+    };
+    for (QRgb colour : qAsConst(kept))
+        shorten(colour);
+    while (kept.size() < qMin(all.size(), mostColours)) {
+        kept.append(all.at(int(std::max_element(ways.begin(), ways.end()) - ways.begin())));
+        shorten(kept.last());
+    }
+    return kept;
+}
+
+/// With the colours that it keeps as they are, and each other as the nearest of them: a quarter of
+/// the bytes, and grounds keep their colours, which the usual tools would mix.
 QImage withFewColours(const QImage &picture)
 {
     QHash<QRgb, int> counts;
@@ -60,7 +82,7 @@ QImage withFewColours(const QImage &picture)
     std::sort(colours.begin(), colours.end(), [&counts](QRgb one, QRgb other) {
         return counts[one] != counts[other] ? counts[one] > counts[other] : one < other;
     });
-    const QVector<QRgb> used = colours.mid(0, mostColours);
+    const QVector<QRgb> used = keptOf(colours);
     QHash<QRgb, uchar> places;
     for (QRgb colour : qAsConst(colours)) {
         const auto nearest =
