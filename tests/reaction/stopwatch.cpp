@@ -14,8 +14,8 @@ namespace {
 
 const int patienceMs = 3000;
 const int mostPauseMs = 12;
-const double longestMedianMs = 10;
-const double longestMs = 50;
+const double longestMedianMs = 20;
+const double longestMs = 100;
 const int percentile = 99;
 const int fewestSamples = 30;
 
