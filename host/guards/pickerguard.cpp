@@ -17,6 +17,8 @@
 namespace {
 
 const int hintPixels = 15;
+// The name that the host looks at.
+const char heldName[] = "_filarix_heldName";
 
 QStringList namesIn(const QDialog *dialog)
 {
@@ -25,6 +27,14 @@ QStringList namesIn(const QDialog *dialog)
     for (int row = 0; table && row < table->rowCount(); ++row)
         names.append(table->item(row, 0)->text());
     return names;
+}
+
+/// Neither by letters nor by a touch on a row the name becomes another one.
+void keepName(const QObject *dialog, bool isKept)
+{
+    dialog->findChild<QLineEdit *>()->setReadOnly(isKept);
+    if (QTableWidget *table = dialog->findChild<QTableWidget *>())
+        table->blockSignals(isKept);
 }
 
 } // namespace
@@ -62,9 +72,15 @@ void PickerGuard::proposeForSaving(const QString &name)
     });
 }
 
+/// Somebody may have chosen another name while the host looked at the first one.
 void PickerGuard::pass()
 {
+    if (m_field->text() != property(heldName).toString())
+        return check();
+    // Nor in the moment before the click.
+    keepName(parent(), true);
     m_gate->pass();
+    HostCompat::callLater(this, [this] { keepName(parent(), false); });
 }
 
 void PickerGuard::drop(const QString &reason)
@@ -87,6 +103,7 @@ void PickerGuard::check()
                         .arg(ProgramName::suffix()));
     }
     m_hint->hide();
+    setProperty(heldName, name);
     m_hold(name);
 }
 

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void nameIsHeldUntilItPasses();
+    void nameThatWasChangedMeanwhileIsHeldAnew();
     void returnIsHeldAsAPressIs();
     void droppedNameLeavesTheDialogOpen();
     void namesThatCanBeNoneAreRefused_data();
@@ -71,6 +72,22 @@ void TestPickerGuard::nameIsHeldUntilItPasses()
     QTRY_VERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
     QCOMPARE(m_dialog->fileName, QString("stator.cnc"));
+}
+
+// What the host found out about the first name says nothing about the second.
+void TestPickerGuard::nameThatWasChangedMeanwhileIsHeldAnew()
+{
+    type("stator.cnc");
+    QTRY_COMPARE(m_held, QStringList("stator.cnc"));
+    m_dialog->findChild<QLineEdit *>()->setText("coil.cnc");
+    m_guard->pass();
+    QVERIFY(m_dialog->isVisible());
+    QTRY_COMPARE(m_held, QStringList() << "stator.cnc"
+                                       << "coil.cnc");
+    QVERIFY(m_dialog->fileName.isEmpty());
+    m_guard->pass();
+    QTRY_VERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->fileName, QString("coil.cnc"));
 }
 
 void TestPickerGuard::returnIsHeldAsAPressIs()
