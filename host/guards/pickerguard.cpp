@@ -30,10 +30,10 @@ QStringList namesIn(const QDialog *dialog)
 }
 
 /// Neither by letters nor by a touch on a row the name becomes another one.
-void keepName(const QObject *dialog, bool isKept)
+void keepName(QLineEdit *field, bool isKept)
 {
-    dialog->findChild<QLineEdit *>()->setReadOnly(isKept);
-    if (QTableWidget *table = dialog->findChild<QTableWidget *>())
+    field->setReadOnly(isKept);
+    if (QTableWidget *table = field->window()->findChild<QTableWidget *>())
         table->blockSignals(isKept);
 }
 
@@ -78,9 +78,9 @@ void PickerGuard::pass()
     if (m_field->text() != property(heldName).toString())
         return check();
     // Nor in the moment before the click.
-    keepName(parent(), true);
+    keepName(m_field, true);
     m_gate->pass();
-    HostCompat::callLater(this, [this] { keepName(parent(), false); });
+    HostCompat::callLater(this, [this] { keepName(m_field, false); });
 }
 
 void PickerGuard::drop(const QString &reason)

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QScopedPointer>
+#include <QTableWidget>
 
 class TestPickerGuard : public FilarixTest
 {
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void cleanup();
     void nameIsHeldUntilItPasses();
     void nameThatWasChangedMeanwhileIsHeldAnew();
+    void nameStaysInTheMomentBeforeTheClick();
     void returnIsHeldAsAPressIs();
     void droppedNameLeavesTheDialogOpen();
     void namesThatCanBeNoneAreRefused_data();
@@ -88,6 +90,23 @@ void TestPickerGuard::nameThatWasChangedMeanwhileIsHeldAnew()
     m_guard->pass();
     QTRY_VERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->fileName, QString("coil.cnc"));
+}
+
+void TestPickerGuard::nameStaysInTheMomentBeforeTheClick()
+{
+    type("stator.cnc");
+    QTRY_COMPARE(m_held, QStringList("stator.cnc"));
+    QLineEdit *field = m_dialog->findChild<QLineEdit *>();
+    QTableWidget *table = m_dialog->findChild<QTableWidget *>();
+    m_guard->pass();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(),
+                      table->visualItemRect(table->item(0, 0)).center());
+    QTest::keyClicks(field, "x");
+    QTRY_VERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->fileName, QString("stator.cnc"));
+    // The dialog may be shown once more.
+    QTRY_VERIFY(!field->isReadOnly());
+    QVERIFY(!table->signalsBlocked());
 }
 
 void TestPickerGuard::returnIsHeldAsAPressIs()
